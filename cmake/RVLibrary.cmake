@@ -1,0 +1,62 @@
+# What the libraries of this tree have in common: how their headers are included and how they are installed.
+
+include(CMakePackageConfigHelpers)
+
+# rv_add_shared_library(RVName SOURCES... HEADERS...)
+# Makes the shared library libRVName.so with the export macro of RVNameExport.h; the target is RV::Name.
+function(rv_add_shared_library name)
+    cmake_parse_arguments(arg "" "" "SOURCES;HEADERS" ${ARGN})
+    string(REGEX REPLACE "^RV" "" short_name ${name})
+    string(TOUPPER ${name}_LIBRARY build_macro)
+
+    add_library(${name} SHARED ${arg_SOURCES})
+    add_library(RV::${short_name} ALIAS ${name})
+    set_target_properties(${name} PROPERTIES
+        EXPORT_NAME ${short_name}
+        VERSION ${PROJECT_VERSION}
+        SOVERSION ${PROJECT_VERSION_MAJOR}
+    )
+    target_compile_definitions(${name} PRIVATE ${build_macro})
+    target_compile_features(${name} PUBLIC cxx_std_17)
+    rv_install_library(${name} PUBLIC ${arg_HEADERS})
+endfunction()
+
+# rv_install_library(RVName PUBLIC|INTERFACE HEADERS...)
+# Headers are included as <RVName/Header.h> and as "Header.h", in the tree and installed. The CMake package RVName
+# finds what RVNameConfig.cmake.in names.
+function(rv_install_library name scope)
+    target_sources(${name} ${scope}
+        FILE_SET HEADERS
+        BASE_DIRS ${PROJECT_SOURCE_DIR}/libs
+        FILES ${ARGN}
+    )
+    target_include_directories(${name} ${scope}
+        $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>
+        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/${name}>
+    )
+
+    set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/${name})
+    install(TARGETS ${name}
+        EXPORT ${name}Targets
+        COMPONENT ${name}
+        FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT ${name}
+    )
+    install(EXPORT ${name}Targets
+        NAMESPACE RV::
+        DESTINATION ${package_dir}
+        COMPONENT ${name}
+    )
+    configure_package_config_file(${name}Config.cmake.in ${CMAKE_CURRENT_BINARY_DIR}/${name}Config.cmake
+        INSTALL_DESTINATION ${package_dir}
+    )
+    write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/${name}ConfigVersion.cmake
+        COMPATIBILITY SameMinorVersion
+    )
+    install(
+        FILES
+            ${CMAKE_CURRENT_BINARY_DIR}/${name}Config.cmake
+            ${CMAKE_CURRENT_BINARY_DIR}/${name}ConfigVersion.cmake
+        DESTINATION ${package_dir}
+        COMPONENT ${name}
+    )
+endfunction()

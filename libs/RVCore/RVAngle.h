@@ -1,0 +1,21 @@
+#ifndef RVANGLE_H
+#define RVANGLE_H
+
+#include <QtGlobal>
+
+/// An angle in degrees. The default is 0, the null angle.
+class RVAngle
+{
+public:
+    constexpr RVAngle(qreal degrees = 0) noexcept : myDegrees(degrees) { }
+
+    /// True for 0, including what arithmetic left of it: up to 1e-12 degrees to either side.
+    constexpr bool isNull() const noexcept { return qFuzzyIsNull(myDegrees); }
+
+private:
+    qreal myDegrees;
+};
+
+Q_DECLARE_TYPEINFO(RVAngle, Q_RELOCATABLE_TYPE);
+
+#endif

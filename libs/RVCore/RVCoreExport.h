@@ -1,0 +1,12 @@
+#ifndef RVCOREEXPORT_H
+#define RVCOREEXPORT_H
+
+#include <QtGlobal>
+
+#ifdef RVCORE_LIBRARY
+#    define RVCORE_EXPORT Q_DECL_EXPORT
+#else
+#    define RVCORE_EXPORT Q_DECL_IMPORT
+#endif
+
+#endif

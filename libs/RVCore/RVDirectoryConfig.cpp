@@ -1,0 +1,23 @@
+#include "RVDirectoryConfig.h"
+
+#include <QDir>
+#include <QFile>
+
+template class RVSingleton<RVDirectoryConfig>;
+
+QString RVDirectoryConfig::resource(const QString &relativePath, bool) const
+{
+    const QReadLocker locker(&myLock);
+    for (const QString &directory : mySearchDirectories) {
+        const QString path = QDir(directory).filePath(relativePath);
+        if (QFile::exists(path))
+            return path;
+    }
+    return relativePath;
+}
+
+void RVDirectoryConfig::addSearchDirectory(const QString &path)
+{
+    const QWriteLocker locker(&myLock);
+    mySearchDirectories += path;
+}

@@ -1,0 +1,34 @@
+#ifndef RVDIRECTORYNAME_H
+#define RVDIRECTORYNAME_H
+
+#include "RVCoreExport.h"
+
+class QString;
+
+enum RVDirectoryNameEnum : qint32 {
+    DIRECTORY_CLIPARTS = 2,
+    DIRECTORY_STYLES = 4,
+    DIRECTORY_BACKGROUNDS = 8,
+    DIRECTORY_FORMPARAMETERS = 16,
+    DIRECTORY_LAYOUTS = 64,
+    DIRECTORY_DESIGNS = 65536,
+    DIRECTORY_TEMPLATES = 131072,
+};
+
+/// One of the directories that downloaded design content goes to. 0 is no directory.
+class RVCORE_EXPORT RVDirectoryName
+{
+public:
+    constexpr RVDirectoryName(RVDirectoryNameEnum value) noexcept : myValue(value) { }
+
+    constexpr RVDirectoryNameEnum value() const noexcept { return myValue; }
+    /// The directory's name, such as "cliparts"; a null text for any other value.
+    QString name() const;
+
+private:
+    RVDirectoryNameEnum myValue;
+};
+
+Q_DECLARE_TYPEINFO(RVDirectoryName, Q_RELOCATABLE_TYPE);
+
+#endif

@@ -1,0 +1,58 @@
+#ifndef RVDISTANCE_H
+#define RVDISTANCE_H
+
+#include "RVDistanceUnit.h"
+
+#include <QtGlobal>
+
+/// A length, stored in tenths of a millimetre. The default is 0. Equality is fuzzy: about 12 digits count.
+class RVDistance
+{
+public:
+    constexpr RVDistance() noexcept = default;
+    constexpr RVDistance(qreal amount, RVDistanceUnit unit = DISTANCE_UNIT_TENTH_MILLIMETRE)
+        : myValue(unit.units2Pixels(amount))
+    {
+    }
+
+    /// The length in the base unit, a tenth of a millimetre.
+    constexpr qreal value() const noexcept { return myValue; }
+    /// The length in @p unit; unconverted, with a warning in the message log, where the unit is unknown.
+    constexpr qreal value(const RVDistanceUnit &unit) const { return myValue / unit.units2Pixels(1.0); }
+
+    constexpr RVDistance &operator+=(RVDistance other) noexcept
+    {
+        myValue += other.myValue;
+        return *this;
+    }
+    constexpr RVDistance &operator-=(RVDistance other) noexcept
+    {
+        myValue -= other.myValue;
+        return *this;
+    }
+    constexpr RVDistance &operator*=(qreal factor) noexcept
+    {
+        myValue *= factor;
+        return *this;
+    }
+
+    friend constexpr RVDistance operator+(RVDistance a, RVDistance b) noexcept { return a += b; }
+    friend constexpr RVDistance operator-(RVDistance a, RVDistance b) noexcept { return a -= b; }
+    friend constexpr RVDistance operator*(RVDistance distance, qreal factor) noexcept { return distance *= factor; }
+    /// Division by 0 gives an infinite length, or NaN for the length 0.
+    friend constexpr RVDistance operator/(RVDistance distance, qreal divisor) noexcept
+    {
+        return RVDistance(distance.myValue / divisor);
+    }
+
+    friend bool operator==(RVDistance a, RVDistance b) noexcept { return qFuzzyCompare(a.myValue, b.myValue); }
+    friend bool operator!=(RVDistance a, RVDistance b) noexcept { return !(a == b); }
+    friend constexpr bool operator<(RVDistance a, RVDistance b) noexcept { return a.myValue < b.myValue; }
+
+private:
+    qreal myValue = 0.0;
+};
+
+Q_DECLARE_TYPEINFO(RVDistance, Q_RELOCATABLE_TYPE);
+
+#endif

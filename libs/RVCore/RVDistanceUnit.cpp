@@ -1,0 +1,42 @@
+#include "RVDistanceUnit.h"
+
+#include <QDebug>
+#include <QMessageLogger>
+#include <QString>
+
+namespace {
+
+constexpr struct
+{
+    QLatin1StringView text;
+    RVDistanceUnitEnum unit;
+} UNIT_TEXTS[] = {
+    { QLatin1StringView("0.1mm"), DISTANCE_UNIT_TENTH_MILLIMETRE },
+    { QLatin1StringView("mm"), DISTANCE_UNIT_MILLIMETRE },
+    { QLatin1StringView("cm"), DISTANCE_UNIT_CENTIMETRE },
+    { QLatin1StringView("inch"), DISTANCE_UNIT_INCH },
+    { QLatin1StringView("in"), DISTANCE_UNIT_INCH },
+    { QLatin1StringView("pt"), DISTANCE_UNIT_POINT },
+    { QLatin1StringView("point"), DISTANCE_UNIT_POINT },
+};
+
+RVDistanceUnitEnum unitOf(const QString &text)
+{
+    for (const auto &row : UNIT_TEXTS) {
+        if (text == row.text)
+            return row.unit;
+    }
+    return DISTANCE_UNIT_MILLIMETRE;
+}
+
+}
+
+RVDistanceUnit::RVDistanceUnit(const QString &text) : RVDistanceUnit(unitOf(text)) { }
+
+// The context is what log filters of the application know this message by.
+void RVDistanceUnit::warnUnsupported() const
+{
+    QMessageLogger("libs/RVCore/RVDistanceUnit", 101, "constexpr qreal RVDistanceUnit::units2Pixels(qreal) const")
+                    .warning()
+            << "distance not supported!" << myCode;
+}

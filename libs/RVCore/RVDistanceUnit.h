@@ -1,0 +1,57 @@
+#ifndef RVDISTANCEUNIT_H
+#define RVDISTANCEUNIT_H
+
+#include "RVCoreExport.h"
+
+class QString;
+
+enum RVDistanceUnitEnum : qint32 {
+    DISTANCE_UNIT_TENTH_MILLIMETRE = 1, ///< the base unit
+    DISTANCE_UNIT_MILLIMETRE = 2,
+    DISTANCE_UNIT_INCH = 4,
+    DISTANCE_UNIT_CENTIMETRE = 8,
+    DISTANCE_UNIT_POINT = 16, ///< 1/72 inch
+};
+
+/// A unit of length. Every length is stored in the base unit, a tenth of a millimetre.
+class RVCORE_EXPORT RVDistanceUnit
+{
+public:
+    constexpr RVDistanceUnit(RVDistanceUnitEnum unit) noexcept : myCode(unit) { }
+    /// Keeps an unknown code, which converts nothing.
+    constexpr RVDistanceUnit(int code) noexcept : myCode(code) { }
+    /// From "mm", "cm", "inch" or "in", "pt" or "point", "0.1mm"; any other text is millimetres.
+    RVDistanceUnit(const QString &text);
+
+    constexpr int code() const noexcept { return myCode; }
+
+    /// @p units of this unit in the base unit. With an unknown code they come back as they are, with a warning in the
+    /// message log.
+    constexpr qreal units2Pixels(qreal units) const
+    {
+        switch (myCode) {
+        case DISTANCE_UNIT_TENTH_MILLIMETRE:
+            return units;
+        case DISTANCE_UNIT_MILLIMETRE:
+            return units * 10;
+        case DISTANCE_UNIT_INCH:
+            return units * 254;
+        case DISTANCE_UNIT_CENTIMETRE:
+            return units * 100;
+        case DISTANCE_UNIT_POINT:
+            return units * (254.0 / 72.0);
+        default:
+            warnUnsupported();
+            return units;
+        }
+    }
+
+private:
+    void warnUnsupported() const;
+
+    int myCode;
+};
+
+Q_DECLARE_TYPEINFO(RVDistanceUnit, Q_RELOCATABLE_TYPE);
+
+#endif

@@ -1,0 +1,23 @@
+#ifndef RVFONTCREATOR_H
+#define RVFONTCREATOR_H
+
+#include "RVCoreExport.h"
+#include "RVSingleton.h"
+
+class QFont;
+class QString;
+class RVFontCreator;
+
+extern template class RVCORE_EXPORT RVSingleton<RVFontCreator>;
+
+/// Makes the fonts in which texts of a product are set. Any thread; measuring a font needs a QGuiApplication.
+class RVCORE_EXPORT RVFontCreator : public RVSingleton<RVFontCreator>
+{
+public:
+    /// A font of the family in the given size in points; sizes below 1 count as 1.
+    QFont createFont(const QString &family, int pointSize) const;
+    /// The family of the application's font.
+    QString defaultFontFamily() const;
+};
+
+#endif

@@ -1,0 +1,23 @@
+#ifndef RVINTRANGE_H
+#define RVINTRANGE_H
+
+#include "RVCoreExport.h"
+#include "RVRange.h"
+
+extern template class RVCORE_EXPORT RVRange<int>;
+
+/// A closed interval of whole numbers that can be moved and scaled. Bounds stay within the int limits.
+class RVCORE_EXPORT RVIntRange : public RVRange<int>
+{
+public:
+    using RVRange<int>::RVRange;
+
+    /// Both bounds moved by @p distance.
+    RVIntRange shifted(int distance) const;
+    /// Both bounds multiplied by @p factor.
+    RVIntRange stretched(int factor) const;
+};
+
+Q_DECLARE_TYPEINFO(RVIntRange, Q_RELOCATABLE_TYPE);
+
+#endif

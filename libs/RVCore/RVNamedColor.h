@@ -1,0 +1,17 @@
+#ifndef RVNAMEDCOLOR_H
+#define RVNAMEDCOLOR_H
+
+#include "RVCoreExport.h"
+
+class QColor;
+class QString;
+
+/// How a colour is shown in rich text.
+class RVCORE_EXPORT RVNamedColor
+{
+public:
+    /// A small swatch as one inline HTML element; a transparent one for an invalid colour.
+    static QString renderColorPreviewHTML(const QColor &color);
+};
+
+#endif

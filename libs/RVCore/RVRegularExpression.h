@@ -1,0 +1,14 @@
+#ifndef RVREGULAREXPRESSION_H
+#define RVREGULAREXPRESSION_H
+
+#include <QRegularExpression>
+
+/// A regular expression without pattern options that is compiled when it is built, not on the first match; for
+/// patterns that live as long as the process. Matching is thread-safe.
+class RVRegularExpression : public QRegularExpression
+{
+public:
+    RVRegularExpression(const QString &pattern) : QRegularExpression(pattern) { optimize(); }
+};
+
+#endif

@@ -1,0 +1,31 @@
+#ifndef RVSPOTCOLOR_H
+#define RVSPOTCOLOR_H
+
+#include "RVCoreExport.h"
+#include "RVEnumWrapper.h"
+
+enum RVSpotColorEnum : qint32 {
+    SPOT_COLOR_GLOSS = 1,
+    SPOT_COLOR_GOLD = 2,
+    SPOT_COLOR_SILVER = 4,
+    SPOT_COLOR_ROSEGOLD = 8,
+    SPOT_COLOR_SILVER_INK = 16,
+};
+RV_DECLARE_ENUM_OPERATORS(RVSpotColorEnum)
+
+extern template class RVCORE_EXPORT RVEnumWrapper<RVSpotColorEnum>;
+
+/// The finish that is printed or embossed on a cover in addition to the four process colours. 0 is no finish.
+class RVCORE_EXPORT RVSpotColor : public RVEnumWrapper<RVSpotColorEnum>
+{
+public:
+    RVSpotColor(RVSpotColorEnum value = RVSpotColorEnum(0)) noexcept;
+    /// From a keyword list such as "gold, gloss".
+    RVSpotColor(const QString &text);
+
+    void fillTable(RVEnumToStringTable<RVSpotColorEnum> *table) const override;
+};
+
+Q_DECLARE_TYPEINFO(RVSpotColor, Q_RELOCATABLE_TYPE);
+
+#endif

@@ -1,0 +1,107 @@
+#ifndef RVARTICLEVARIANTS_H
+#define RVARTICLEVARIANTS_H
+
+#include "RVProductBaseExport.h"
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+class QDebug;
+class QDomElement;
+class QJsonArray;
+
+/**
+ * The options that configure an article, key to value: {"alcolor" = "red", "coverphoto" = "yes"}.
+ *
+ * Read from and written to project files, order texts, order transfer and JSON; malformed pieces of a text are skipped
+ * without a message. Without an option it is invalid.
+ *
+ * A composite option has several keys joined with ";" and as many values: {"a;b" = "x;y"}. toXTCI() and toOrderTxt()
+ * expand it, everything else treats it as one option. The options have no order: values(), toKTX() and toOrderTxt()
+ * follow the hash.
+ */
+class RVPRODUCTBASE_EXPORT RVArticleVariants
+{
+public:
+    RVArticleVariants() = default;
+    /// One option; none where key or value is empty.
+    RVArticleVariants(const QString &key, const QString &value);
+    /// One option from a text such as "alcolor:red", "alcolor|red" or "alcolor+red"; key or value may be empty. None
+    /// unless the text has exactly one separator.
+    RVArticleVariants(const QString &text);
+    /// One option from the attributes "key" and "value"; a missing attribute counts as empty.
+    RVArticleVariants(const QDomElement &element);
+    /// One option for each element such as "form_parameter-alcolor:red"; later ones win.
+    RVArticleVariants(const QJsonArray &parameters);
+    RVArticleVariants(const RVArticleVariants &) = default;
+    RVArticleVariants(RVArticleVariants &&) = default;
+    RVArticleVariants &operator=(const RVArticleVariants &) = default;
+    RVArticleVariants &operator=(RVArticleVariants &&) = default;
+    virtual ~RVArticleVariants();
+
+    /// Reads the project-file form, such as "alcolor:red,coverphoto:yes"; later options win.
+    static RVArticleVariants createFromKTX(const QString &text);
+    /// {"giftboxcolor" = "black"}
+    static RVArticleVariants blackPXWGiftBox();
+    /// {"variant" = "confetti"}
+    static RVArticleVariants confettiPXWGiftBox();
+
+    static QString coverColorKeyName();
+    static QString coverFotoKeyName();
+    static QString pictureBoxKeyName();
+    static QString flyLeafKeyColorName();
+    static QString pxwGiftBoxColorKeyName();
+    static QString blackPXWGiftBoxValue();
+    static QString cutoutKeyName();
+    static QString pxwGiftBoxKeyName();
+
+    /// The value of the key, @p defaultValue where the key is absent.
+    QString value(const QString &key, const QString &defaultValue = {}) const;
+    /// All keys, sorted.
+    QStringList keys() const;
+    /// All values, in no particular order.
+    QStringList values() const;
+    /// True when there is an option for the cover colour, the fly-leaf colour, the cut-out, whatever its value.
+    bool hasCoverColor() const;
+    bool hasFlyLeafColor() const;
+    bool hasCutOut() const;
+    /// True when there is at least one option.
+    bool isValid() const;
+    /// True when some value is "notAccountable", which marks an option that is not charged for.
+    bool containsNotAccountableVariant() const;
+    /// True when every option of @p other has the same value here. An absent key counts as an empty value.
+    bool contains(const RVArticleVariants &other) const;
+    /// True when some option here has the same value in @p other, where an absent key counts as an empty value. An
+    /// empty side is compatible with everything.
+    bool containsAtLeastOne(const RVArticleVariants &other) const;
+    /// Equal values have equal hashes.
+    size_t hash() const;
+
+    /// Sets the key to the value; either may be empty.
+    void insert(const QString &key, const QString &value);
+    /// Adds every option of @p other, which wins on equal keys.
+    void insert(const RVArticleVariants &other);
+    /// Adds the single options of a composite one; nothing where key and value have different numbers of pieces.
+    void splitForProduction(const QString &key, const QString &value);
+
+    /// The project-file form; options with an empty key or value are left out.
+    QString toKTX() const;
+    /// The order-transfer form: composite options come out as single ones.
+    RVArticleVariants toXTCI() const;
+    /// The order-text form, such as "a:x;b:y": composite options come out as single ones.
+    QString toOrderTxt() const;
+
+    bool operator==(const RVArticleVariants &other) const { return myVariants == other.myVariants; }
+    bool operator!=(const RVArticleVariants &other) const { return !(*this == other); }
+
+private:
+    QHash<QString, QString> myVariants;
+};
+
+Q_DECLARE_TYPEINFO(RVArticleVariants, Q_RELOCATABLE_TYPE);
+
+/// The options as one text, sorted by key: "alcolor = red; coverphoto = yes".
+RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVArticleVariants &variants);
+
+#endif

@@ -1,0 +1,24 @@
+#ifndef RVARTICLEVARIANTSLIST_H
+#define RVARTICLEVARIANTSLIST_H
+
+#include "RVArticleVariants.h"
+
+#include <QList>
+
+/// A list of configurations of an article, such as its orderable box styles.
+class RVPRODUCTBASE_EXPORT RVArticleVariantsList : public QList<RVArticleVariants>
+{
+public:
+    using QList<RVArticleVariants>::QList;
+    RVArticleVariantsList() = default;
+    RVArticleVariantsList(const RVArticleVariantsList &) = default;
+    RVArticleVariantsList(RVArticleVariantsList &&) = default;
+    RVArticleVariantsList &operator=(const RVArticleVariantsList &) = default;
+    RVArticleVariantsList &operator=(RVArticleVariantsList &&) = default;
+    virtual ~RVArticleVariantsList();
+
+    /// True when some element contains all options of @p variants.
+    bool containsBoxStyle(const RVArticleVariants &variants) const;
+};
+
+#endif

@@ -1,0 +1,36 @@
+#ifndef RVCONFIGUREDARTICLEVARIANTIMPL_H
+#define RVCONFIGUREDARTICLEVARIANTIMPL_H
+
+#include "RVProductBaseExport.h"
+
+#include <QColor>
+#include <QSharedData>
+#include <QString>
+
+/// The shared data of RVConfiguredArticleVariant; the fields stand beside the XML attributes they are read from.
+class RVPRODUCTBASE_EXPORT RVConfiguredArticleVariantImpl : public QSharedData
+{
+public:
+    RVConfiguredArticleVariantImpl() = default;
+    RVConfiguredArticleVariantImpl(const QString &key, const QString &keyName, const QString &value,
+                                   const QString &visibleName, const QString &editorName, const QString &name,
+                                   const QString &preview, const QColor &color, bool preselected,
+                                   bool notAccountable);
+
+    bool isValid() const { return !key.isEmpty() && !value.isEmpty(); }
+    /// The preview image name for @p optionValue where the catalogue has a stock one for this key, else #preview.
+    QString previewNameFallbacked(const QString &optionValue) const;
+
+    QString key; ///< "key"
+    QString keyName; ///< "key_name"
+    QString value; ///< "value"
+    QString visibleName; ///< "value_name"
+    QString editorName; ///< "editor_name"
+    QString name; ///< "name"
+    QString preview; ///< "preview"
+    QColor color; ///< "color"; invalid when not given
+    bool preselected = true; ///< "preselected"; what does not come from XML counts as a default choice
+    bool notAccountable = false; ///< "not_accountable"
+};
+
+#endif

@@ -1,0 +1,82 @@
+#ifndef RVCONFIGUREDARTICLEVARIANTLIST_H
+#define RVCONFIGUREDARTICLEVARIANTLIST_H
+
+#include "RVArticleVariantsList.h"
+#include "RVConfiguredArticleVariant.h"
+
+#include <QList>
+#include <QStringList>
+
+class QDebug;
+class QDomElement;
+
+/**
+ * The options that the catalogue offers for an article, in its order; duplicates are allowed.
+ *
+ * Read from the "forms" element of a product or from a text. Readers append valid options only and skip the rest
+ * without a message; a lookup that finds nothing returns an invalid option.
+ *
+ * An option matches a configuration when the configuration has its value under its key.
+ */
+class RVPRODUCTBASE_EXPORT RVConfiguredArticleVariantList : public QList<RVConfiguredArticleVariant>
+{
+public:
+    RVConfiguredArticleVariantList() = default;
+    /// Holds the option when it is valid.
+    RVConfiguredArticleVariantList(const RVConfiguredArticleVariant &variant);
+    /// Reads a product element as readVariants() does.
+    RVConfiguredArticleVariantList(const QDomElement &product);
+
+    /// From a text such as "alcolor:red,pocketcolor:white".
+    static RVConfiguredArticleVariantList createFromCSV(const QString &text);
+    /// The single options of a composite one ("a;b" = "x;y"), with key and value only; empty where the numbers of
+    /// pieces differ.
+    static RVConfiguredArticleVariantList createForProduction(const RVConfiguredArticleVariant &variant);
+    /// The same as createForProduction().
+    static RVConfiguredArticleVariantList createFromReduced(const RVConfiguredArticleVariant &variant);
+    /// Replaces the list by the "form" elements of the first "forms" element of a product.
+    void readVariants(const QDomElement &product);
+
+    /// The first option of the key, of the value, respectively the first that is not charged for.
+    RVConfiguredArticleVariant variantByKey(const QString &key) const;
+    RVConfiguredArticleVariant variantByValue(const QString &value) const;
+    RVConfiguredArticleVariant notAccountableVariant() const;
+    /// The first option that matches the configuration.
+    RVConfiguredArticleVariant variant(const RVArticleVariants &variants) const;
+    /// All options of the key.
+    RVConfiguredArticleVariantList filter(const QString &key) const;
+    /// The distinct keys, sorted.
+    QStringList keys() const;
+
+    bool contains(const RVConfiguredArticleVariant &variant) const;
+    /// True when every option of @p other is contained.
+    bool contains(const RVConfiguredArticleVariantList &other) const;
+    /// True when every entry of the configuration is an option of this list. The second argument has no effect.
+    bool contains(const RVArticleVariants &variants, bool = false) const;
+    /// True when some option is contained in @p other, or one of the lists is empty.
+    bool containsAtLeastOne(const RVConfiguredArticleVariantList &other) const;
+    /// True when "color" = "white" is the one and only option.
+    bool containsOnlyColorWhite() const;
+
+    /// The default options combined, later ones winning; where no option is a default, the first option of each key.
+    RVArticleVariants defaultVariants() const;
+    /// "key name: value name" of each option that matches the configuration.
+    QStringList visibleNames(const RVArticleVariants &variants) const;
+    /// The editor name of each option that matches the configuration.
+    QStringList editorNames(const RVArticleVariants &variants) const;
+    /// Every box style, combined with every cover photo where there are any; box by box.
+    RVArticleVariantsList possibleBoxStyles() const;
+    /// The order text of all options, such as "a:1;b:2": composite options come out as single ones.
+    QString joinForOrderTxt() const;
+
+    /// Keeps only the options that @p other contains. An empty list becomes a copy of @p other where
+    /// @p takeOtherWhenEmpty is set. Cost grows with the product of the sizes.
+    void intersect(const RVConfiguredArticleVariantList &other, bool takeOtherWhenEmpty = false);
+
+private:
+    void appendValid(const RVConfiguredArticleVariant &variant);
+};
+
+RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVConfiguredArticleVariantList &variants);
+
+#endif

@@ -1,0 +1,92 @@
+#ifndef RVPAGECOUNTORGANIZATION_H
+#define RVPAGECOUNTORGANIZATION_H
+
+#include "RVIntRange.h"
+#include "RVProductBaseExport.h"
+
+class QDebug;
+class QDomElement;
+class QString;
+
+/**
+ * The page counts that a product may have: from a lowest to a highest count in steps of the page increment. A photo
+ * book with 26 to 154 pages in steps of 4 is ([26, 154], 4); an increment of 0 means a fixed count. The default, [0, 0]
+ * with increment 0, is invalid. Boxes of prints count photos in the same way.
+ *
+ * Page counts are pages; a package is what one increment adds. Results stay within the int limits.
+ */
+class RVPRODUCTBASE_EXPORT RVPageCountOrganization
+{
+public:
+    RVPageCountOrganization() = default;
+    RVPageCountOrganization(const RVIntRange &range, int pageIncrement);
+    RVPageCountOrganization(const RVPageCountOrganization &) = default;
+    RVPageCountOrganization(RVPageCountOrganization &&) = default;
+    RVPageCountOrganization &operator=(const RVPageCountOrganization &) = default;
+    RVPageCountOrganization &operator=(RVPageCountOrganization &&) = default;
+    virtual ~RVPageCountOrganization();
+
+    /// [25, 25], fixed.
+    static RVPageCountOrganization createForAdventCalendarWithDoorBackPrint();
+    /// [3, 3], fixed.
+    static RVPageCountOrganization createForCardWithInsertedFoto();
+    /// Reads "pages" (1), "max_pages" ("pages"), both multiplied by "pieces" (1), and "page_step" (0) of a product
+    /// element. What was read is not checked; ask isValid().
+    static RVPageCountOrganization createFromProductsXML(const QDomElement &product);
+    /// The same for a box of prints: "pages" (1), "max_pages" ("pages" + 29) and "page_step" (1).
+    static RVPageCountOrganization createFromProductsXMLForPictureBox(const QDomElement &product);
+
+    RVIntRange range() const { return myRange; }
+    int minPages() const noexcept { return myRange.min; }
+    int maxPages() const noexcept { return myRange.max; }
+    int pageIncrement() const noexcept { return myPageIncrement; }
+
+    bool inRange(int pages) const noexcept;
+    /// True for one count that is not 0, or for several with a positive increment.
+    bool isValid() const noexcept;
+    /// True for a count in range that is a whole number of packages above the lowest; any in range without increment.
+    bool isValidPageCount(int pages) const noexcept;
+    /// True when it is valid and the increments meet the highest count.
+    bool isConsistent() const noexcept;
+    /// True when fewer than two pages are enough.
+    bool isOnePageProduct() const noexcept { return minPages() < 2; }
+
+    /// The lowest count and @p n packages.
+    int pagesWithNExtraPackages(int n) const noexcept;
+    /// Whole packages above the lowest count; 0 at or below it, and without increment.
+    int countPackages(int pages) const noexcept;
+    /// How many counts can be chosen; 1 without increment.
+    int numberOfPackages() const noexcept;
+    /// The lowest count and two packages, which a panorama page needs.
+    int minPagesWithPano() const noexcept;
+    /// The allowed count at or above @p pages, clamped for counts outside the range. Rounding up is not clamped again:
+    /// 28 becomes 30 for ([26, 29], 4).
+    int constrain(int pages) const noexcept;
+
+    /// With the lowest count raised to what constrain() makes of @p pages, so that no smaller count is offered.
+    RVPageCountOrganization adaptedTo(int pages) const;
+    /// A copy; with @p minOnly the lowest count is the only one.
+    RVPageCountOrganization clone(bool minOnly = false) const;
+
+    /// Lowers both counts by @p pages, unless the lowest would fall below 1. Returns a copy of the result.
+    RVPageCountOrganization operator-=(int pages);
+
+    /// "min: 26; max: 154; increment: 4"
+    QString dump() const;
+
+    friend bool operator==(const RVPageCountOrganization &a, const RVPageCountOrganization &b)
+    {
+        return a.myRange == b.myRange && a.myPageIncrement == b.myPageIncrement;
+    }
+    friend bool operator!=(const RVPageCountOrganization &a, const RVPageCountOrganization &b) { return !(a == b); }
+
+private:
+    RVIntRange myRange;
+    int myPageIncrement = 0;
+};
+
+Q_DECLARE_TYPEINFO(RVPageCountOrganization, Q_RELOCATABLE_TYPE);
+
+RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVPageCountOrganization &organization);
+
+#endif

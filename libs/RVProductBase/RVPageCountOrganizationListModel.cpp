@@ -1,0 +1,53 @@
+#include "RVPageCountOrganizationListModel.h"
+
+RVPageCountOrganizationListModel::RVPageCountOrganizationListModel(bool showPhotos) : myShowPhotos(showPhotos) { }
+
+void RVPageCountOrganizationListModel::setPageOrganization(const RVPageCountOrganization &organization)
+{
+    beginResetModel();
+    myPageOrganization = organization;
+    endResetModel();
+}
+
+int RVPageCountOrganizationListModel::rowCount(const QModelIndex &) const
+{
+    return myPageOrganization.numberOfPackages();
+}
+
+int RVPageCountOrganizationListModel::columnCount(const QModelIndex &) const
+{
+    return 1;
+}
+
+QModelIndex RVPageCountOrganizationListModel::parent(const QModelIndex &) const
+{
+    return QModelIndex();
+}
+
+QVariant RVPageCountOrganizationListModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid() || role != Qt::DisplayRole)
+        return QVariant();
+    const QString text = myShowPhotos ? tr("%1 Fotos") : tr("%1 Seiten");
+    return text.arg(pagesAtIndex(index.row()));
+}
+
+int RVPageCountOrganizationListModel::pagesAtIndex(int row) const
+{
+    return myPageOrganization.pagesWithNExtraPackages(row);
+}
+
+int RVPageCountOrganizationListModel::indexForPages(int pages) const
+{
+    return myPageOrganization.countPackages(pages);
+}
+
+int RVPageCountOrganizationListModel::highestValue() const
+{
+    return myPageOrganization.maxPages();
+}
+
+int RVPageCountOrganizationListModel::lowestValue() const
+{
+    return myPageOrganization.minPages();
+}

@@ -1,0 +1,3 @@
+#include "RVPageOrganizationCalculator.h"
+
+RVPageOrganizationCalculator::~RVPageOrganizationCalculator() = default;

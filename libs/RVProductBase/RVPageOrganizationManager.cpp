@@ -1,0 +1,69 @@
+#include "RVPageOrganizationManager.h"
+
+#include "RVPageOrganizationCalculator.h"
+
+#include <QList>
+#include <QMutex>
+#include <QMutexLocker>
+
+template class RVSingleton<RVPageOrganizationManager>;
+
+namespace {
+
+/// Callers keep the pointers they were given, so an organisation that was handed out is never deleted. Holding on to
+/// it here tells it from a leak.
+void keepForever(RVPageCountOrganization *organization)
+{
+    static QBasicMutex mutex;
+    static auto *const handedOut = new QList<RVPageCountOrganization *>;
+    const QMutexLocker locker(&mutex);
+    handedOut->append(organization);
+}
+
+}
+
+RVPageOrganizationManager::RVPageOrganizationManager() = default;
+
+RVPageOrganizationManager::~RVPageOrganizationManager()
+{
+    delete myCalculator;
+}
+
+void RVPageOrganizationManager::setCalculator(RVPageOrganizationCalculator *calculator)
+{
+    const QMutexLocker locker(&myMutex);
+    if (calculator != myCalculator) {
+        delete myCalculator;
+        myCalculator = calculator;
+    }
+    clearCache();
+}
+
+RVPageCountOrganization *RVPageOrganizationManager::organization(const RVProductType &type)
+{
+    const QMutexLocker locker(&myMutex);
+    if (RVPageCountOrganization *cached = myCache.value(type))
+        return cached;
+    RVPageCountOrganization *created = createPageOrganization(type);
+    keepForever(created);
+    myCache.insert(type, created);
+    return created;
+}
+
+RVPageCountOrganization RVPageOrganizationManager::pageCountOrganzation(const RVProductType &type)
+{
+    const QMutexLocker locker(&myMutex);
+    return *organization(type);
+}
+
+RVPageCountOrganization *RVPageOrganizationManager::createPageOrganization(const RVProductType &type) const
+{
+    const QMutexLocker locker(&myMutex);
+    return new RVPageCountOrganization(myCalculator ? myCalculator->calculate(type) : RVPageCountOrganization());
+}
+
+void RVPageOrganizationManager::clearCache()
+{
+    const QMutexLocker locker(&myMutex);
+    myCache.clear();
+}

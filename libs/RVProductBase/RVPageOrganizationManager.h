@@ -1,0 +1,55 @@
+#ifndef RVPAGEORGANIZATIONMANAGER_H
+#define RVPAGEORGANIZATIONMANAGER_H
+
+#include "RVPageCountOrganization.h"
+#include "RVProductBaseExport.h"
+#include "RVProductType.h"
+#include "RVSingleton.h"
+
+#include <QHash>
+#include <QObject>
+#include <QRecursiveMutex>
+
+class RVPageOrganizationCalculator;
+class RVPageOrganizationManager;
+
+extern template class RVPRODUCTBASE_EXPORT RVSingleton<RVPageOrganizationManager>;
+
+/**
+ * Knows the page counts of every product type: asks the application's calculator once per type and remembers the
+ * answer until clearCache().
+ *
+ * Any thread may call; one lock serialises all operations. Without a calculator every type has the empty, invalid
+ * organisation.
+ */
+class RVPRODUCTBASE_EXPORT RVPageOrganizationManager : public QObject, public RVSingleton<RVPageOrganizationManager>
+{
+    Q_OBJECT
+
+public:
+    RVPageOrganizationManager();
+    ~RVPageOrganizationManager() override;
+
+    /// Takes ownership and deletes the previous calculator; null removes it. Empties the cache, also when
+    /// @p calculator is the one that is set already.
+    void setCalculator(RVPageOrganizationCalculator *calculator);
+
+    /// The page counts of the type, never null. The object stays as it is for the life of the process, even when the
+    /// cache or the manager forgets it; nobody may delete it.
+    RVPageCountOrganization *organization(const RVProductType &type);
+    /// A copy of what organization() points to.
+    RVPageCountOrganization pageCountOrganzation(const RVProductType &type);
+    /// Asks the calculator, past the cache; the caller owns the result.
+    RVPageCountOrganization *createPageOrganization(const RVProductType &type) const;
+
+public Q_SLOTS:
+    /// Forgets every answer, say after the catalogue was reloaded.
+    void clearCache();
+
+private:
+    mutable QRecursiveMutex myMutex;
+    QHash<RVProductType, RVPageCountOrganization *> myCache;
+    RVPageOrganizationCalculator *myCalculator = nullptr;
+};
+
+#endif

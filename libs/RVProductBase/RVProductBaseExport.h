@@ -1,0 +1,12 @@
+#ifndef RVPRODUCTBASEEXPORT_H
+#define RVPRODUCTBASEEXPORT_H
+
+#include <QtGlobal>
+
+#ifdef RVPRODUCTBASE_LIBRARY
+#    define RVPRODUCTBASE_EXPORT Q_DECL_EXPORT
+#else
+#    define RVPRODUCTBASE_EXPORT Q_DECL_IMPORT
+#endif
+
+#endif

@@ -1,0 +1,65 @@
+#ifndef RVPRODUCTTYPE_H
+#define RVPRODUCTTYPE_H
+
+#include "RVProductBaseExport.h"
+#include "RVRegularExpression.h"
+
+#include <QString>
+
+#include <cstddef>
+
+class QDomElement;
+class RVPriceClass;
+
+/**
+ * The catalogue's code for a kind of product, such as "DUN9" for a photo book family or "VIR29" for an agenda. The
+ * key under which page counts and product checks are cached. An empty code is the unknown type.
+ *
+ * Photo book codes are reduced to their family, so every size and variant of one book is one type: "DUN9_30" is
+ * "DUN9".
+ */
+class RVPRODUCTBASE_EXPORT RVProductType
+{
+public:
+    /// Finds the family in a photo book code.
+    static const RVRegularExpression myBookRegExp;
+
+    RVProductType() = default;
+    RVProductType(const QString &code);
+
+    static RVProductType fromPriceClass(const RVPriceClass &priceClass);
+    /// From the attribute "productname" of a project element; a project without one is a "DUN9".
+    static RVProductType fromKtx(const QDomElement &project);
+
+    bool isUnknown() const noexcept { return myName.isEmpty(); }
+    bool isValid() const noexcept { return !myName.isEmpty(); }
+    bool isAgenda() const;
+    /// True also for an agenda.
+    bool isCalendar() const;
+    /// The stored hash; 0 for the unknown type.
+    std::size_t calcHashValue() const noexcept { return myHashValue; }
+
+    /// The code; empty for the unknown type.
+    QString toString() const { return myName; }
+    /// The code; "UNKNOWN" for the unknown type.
+    QString orderTxtName() const;
+
+    /// Names compare case-insensitively, but only where the case-sensitive hashes are equal: "dun" and "DUN" differ.
+    RVPRODUCTBASE_EXPORT friend bool operator==(const RVProductType &a, const RVProductType &b);
+    friend bool operator!=(const RVProductType &a, const RVProductType &b) { return !(a == b); }
+    /// By hash, then by name: the same order in every run, but none to show.
+    RVPRODUCTBASE_EXPORT friend bool operator<(const RVProductType &a, const RVProductType &b);
+
+private:
+    QString myName;
+    quint64 myHashValue = 0;
+};
+
+Q_DECLARE_TYPEINFO(RVProductType, Q_RELOCATABLE_TYPE);
+
+inline std::size_t qHash(const RVProductType &type, std::size_t seed = 0) noexcept
+{
+    return seed ^ type.calcHashValue();
+}
+
+#endif

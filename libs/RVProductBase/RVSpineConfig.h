@@ -1,0 +1,58 @@
+#ifndef RVSPINECONFIG_H
+#define RVSPINECONFIG_H
+
+#include "RVProductBaseExport.h"
+#include "RVSpineConfigImpl.h"
+
+#include <QExplicitlySharedDataPointer>
+
+class QDomElement;
+class QString;
+
+/**
+ * The spine of a bound product, whose width grows with the page count:
+ *
+ *     base width + block width × whole blocks of added packages + 2 × additional width
+ *
+ * With 26 pages at least, an increment of 4, 2 packages a block, 8 mm base, 1 mm block and 0.5 mm additional width, the
+ * spine has 9 mm at 26 and 30 pages and 10 mm at 34 and 38.
+ *
+ * Read from the products XML; by default without growth and all widths 0. It never changes, so copies share their
+ * data, also between threads.
+ */
+class RVPRODUCTBASE_EXPORT RVSpineConfig
+{
+public:
+    RVSpineConfig();
+    /// @p packagesPerBlock packages of pages make one block of growth; 0 for a spine that does not grow.
+    RVSpineConfig(const RVPageCountOrganization &pageCountOrganization, int packagesPerBlock,
+                  const RVDistance &baseWidth, const RVDistance &blockWidth, const RVDistance &additionalWidth);
+
+    /// Reads the page counts of a product element and, of "spine" in its "composition", "packages_per_block" (0),
+    /// "base_width", "block_width" and "additional_width" (0), in the "units" ("mm") of the composition.
+    static RVSpineConfig createFromProductsXML(const QDomElement &product);
+
+    /// True when the page counts are valid.
+    bool isValid() const;
+    /// Whole blocks of packages above the lowest page count; never negative for a valid configuration.
+    int additionalPagePackageBlocks(unsigned pages) const;
+    RVDistance spineWidth(unsigned pages) const;
+    /// The extra width on each side of the spine.
+    RVDistance additionalSpineWidth() const;
+    /// How much smaller the cover is, in whole tenths of a millimetre: the additional width, truncated.
+    int coverReduceSize() const;
+    /// The largest of the editor's font sizes, in points, whose line spacing in pixels is at most 85 % of the spine
+    /// width without its sides, in tenths of a millimetre. At least the smallest size; 0 where there are no sizes.
+    /// An empty family is the default one. Without a QGuiApplication fonts cannot be measured: the smallest size.
+    int spineMaxFontHeigth(unsigned pages, const QString &fontFamily) const;
+
+    bool operator==(const RVSpineConfig &other) const;
+    bool operator!=(const RVSpineConfig &other) const { return !(*this == other); }
+
+private:
+    QExplicitlySharedDataPointer<const RVSpineConfigImpl> d;
+};
+
+Q_DECLARE_TYPEINFO(RVSpineConfig, Q_RELOCATABLE_TYPE);
+
+#endif

@@ -1,0 +1,99 @@
+#include "RVSpineConfigImpl.h"
+
+#include "RVFontCreator.h"
+#include "RVFontSizeManager.h"
+#include "RVSaturation_p.h"
+
+#include <QFont>
+#include <QFontMetrics>
+#include <QGuiApplication>
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+/// Part of the spine width that a text may fill.
+constexpr qreal USABLE_PART = 0.85;
+
+bool canMeasureFonts()
+{
+    return qobject_cast<QGuiApplication *>(QCoreApplication::instance()) != nullptr;
+}
+
+int lineSpacing(const QString &family, int pointSize)
+{
+    return QFontMetrics(RVFontCreator::instance()->createFont(family, pointSize)).lineSpacing();
+}
+
+}
+
+RVSpineConfigImpl::RVSpineConfigImpl(const RVPageCountOrganization &pageCountOrganization_, int packagesPerBlock_,
+                                     const RVDistance &baseWidth_, const RVDistance &blockWidth_,
+                                     const RVDistance &additionalWidth_)
+    : pageCountOrganization(pageCountOrganization_),
+      packagesPerBlock(packagesPerBlock_),
+      baseWidth(baseWidth_),
+      blockWidth(blockWidth_),
+      additionalWidth(additionalWidth_)
+{
+}
+
+RVSpineConfigImpl::~RVSpineConfigImpl() = default;
+
+bool RVSpineConfigImpl::isValid() const
+{
+    return pageCountOrganization.isValid();
+}
+
+int RVSpineConfigImpl::additionalPagePackageBlocks(unsigned pages) const
+{
+    if (packagesPerBlock == 0)
+        return 0;
+    return rvSaturated(qint64(pageCountOrganization.countPackages(rvSaturated(qint64(pages)))) / packagesPerBlock);
+}
+
+RVDistance RVSpineConfigImpl::additionalWithForPages(unsigned pages) const
+{
+    return blockWidth * qreal(additionalPagePackageBlocks(pages));
+}
+
+RVDistance RVSpineConfigImpl::spineWidth(unsigned pages) const
+{
+    const RVDistance sides = additionalWidth * 2.0;
+    const RVDistance growth = additionalWithForPages(pages);
+    const RVDistance core = baseWidth + growth;
+    return core + sides;
+}
+
+int RVSpineConfigImpl::coverReduceSize() const
+{
+    return rvSaturated(additionalWidth.value());
+}
+
+int RVSpineConfigImpl::spineMaxFontHeigth(unsigned pages, const QString &fontFamily) const
+{
+    const QString family = fontFamily.isEmpty() ? RVFontCreator::instance()->defaultFontFamily() : fontFamily;
+    RVDistance usable = spineWidth(pages);
+    usable -= additionalWidth * 2.0;
+    usable *= USABLE_PART;
+    const QList<int> sizes = RVFontSizeManager::instance()->defaultFontSizes();
+    const int limit = rvSaturated(std::round(usable.value()));
+    if (sizes.isEmpty())
+        return 0;
+    // The first size is never measured: it is the answer even where it is too tall itself.
+    if (!canMeasureFonts())
+        return sizes.first();
+    for (qsizetype i = 1; i < sizes.size(); ++i) {
+        if (lineSpacing(family, sizes.at(i)) > limit)
+            return sizes.at(i - 1);
+    }
+    return sizes.last();
+}
+
+bool RVSpineConfigImpl::operator==(const RVSpineConfigImpl &other) const
+{
+    return pageCountOrganization == other.pageCountOrganization && packagesPerBlock == other.packagesPerBlock
+            && baseWidth == other.baseWidth && blockWidth == other.blockWidth
+            && additionalWidth == other.additionalWidth;
+}

@@ -1,0 +1,41 @@
+#ifndef RVSPINECONFIGIMPL_H
+#define RVSPINECONFIGIMPL_H
+
+#include "RVDistance.h"
+#include "RVPageCountOrganization.h"
+#include "RVProductBaseExport.h"
+
+#include <QSharedData>
+
+class QString;
+
+/// The shared data of RVSpineConfig, which documents the operations.
+class RVPRODUCTBASE_EXPORT RVSpineConfigImpl : public QSharedData
+{
+public:
+    RVSpineConfigImpl() = default;
+    RVSpineConfigImpl(const RVPageCountOrganization &pageCountOrganization, int packagesPerBlock,
+                      const RVDistance &baseWidth, const RVDistance &blockWidth, const RVDistance &additionalWidth);
+    RVSpineConfigImpl(const RVSpineConfigImpl &) = default;
+    virtual ~RVSpineConfigImpl();
+
+    bool isValid() const;
+    int additionalPagePackageBlocks(unsigned pages) const;
+    /// What the pages above the lowest count add to the spine.
+    RVDistance additionalWithForPages(unsigned pages) const;
+    RVDistance spineWidth(unsigned pages) const;
+    RVDistance additionalSpineWidth() const { return additionalWidth; }
+    int coverReduceSize() const;
+    int spineMaxFontHeigth(unsigned pages, const QString &fontFamily) const;
+
+    bool operator==(const RVSpineConfigImpl &other) const;
+    bool operator!=(const RVSpineConfigImpl &other) const { return !(*this == other); }
+
+    RVPageCountOrganization pageCountOrganization;
+    int packagesPerBlock = 0; ///< 0: the spine does not grow
+    RVDistance baseWidth; ///< at the lowest page count
+    RVDistance blockWidth; ///< added for every whole block of packages
+    RVDistance additionalWidth; ///< on each side of the spine
+};
+
+#endif

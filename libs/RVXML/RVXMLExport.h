@@ -1,0 +1,12 @@
+#ifndef RVXMLEXPORT_H
+#define RVXMLEXPORT_H
+
+#include <QtGlobal>
+
+#ifdef RVXML_LIBRARY
+#    define RVXML_EXPORT Q_DECL_EXPORT
+#else
+#    define RVXML_EXPORT Q_DECL_IMPORT
+#endif
+
+#endif
