@@ -1,0 +1,164 @@
+#include "CatalogueReader.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int DEEPEST_LEVEL = 256;
+constexpr QByteArrayView ENTITY_DECLARATION("<!ENTITY");
+
+}
+
+BoundedInput::BoundedInput(QIODevice *source) : mySource(source)
+{
+    open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+}
+
+qint64 BoundedInput::readData(char *data, qint64 maxSize)
+{
+    if (!myRefusal.isEmpty())
+        return 0;
+    if (myPieceSize >= LIMIT) {
+        myRefusal = u"an element, text, comment or declaration is larger than 1 MiB"_s;
+        return 0;
+    }
+    qint64 size = mySource->read(data, qMin(maxSize, LIMIT - myPieceSize));
+    if (size < 0) {
+        // A device that has come to its end may say so in this way too.
+        if (!mySource->atEnd())
+            myRefusal = u"cannot read on: "_s + mySource->errorString();
+        return 0;
+    }
+    if (myInProlog)
+        size = sizeBeforeEntity(data, size);
+    myPieceSize += size;
+    myTotalSize += size;
+    return size;
+}
+
+qint64 BoundedInput::sizeBeforeEntity(const char *data, qint64 size)
+{
+    for (qint64 i = 0; i < size; ++i) {
+        if (data[i] == '\0')
+            continue;
+        myProlog += data[i];
+        if (myProlog.endsWith(ENTITY_DECLARATION)) {
+            myRefusal = u"entity declarations are not supported"_s;
+            return i + 1;
+        }
+    }
+    myProlog = myProlog.right(ENTITY_DECLARATION.size());
+    return size;
+}
+
+CatalogueReader::CatalogueReader(QIODevice *device, const QString &elementName)
+    : myInput(device), myXml(&myInput), myElementName(elementName)
+{
+    myXml.setNamespaceProcessing(false);
+}
+
+QDomElement CatalogueReader::next()
+{
+    while (!myXml.atEnd()) {
+        const FilePosition start = currentPosition();
+        if (readToken() == QXmlStreamReader::StartElement && myXml.qualifiedName() == myElementName) {
+            myPosition = start;
+            myDocument = QDomDocument();
+            return readContent(appendElement(myDocument));
+        }
+        myInput.startPiece();
+    }
+    return QDomElement();
+}
+
+QDomElement CatalogueReader::rootStart()
+{
+    while (!myXml.atEnd()) {
+        myPosition = currentPosition();
+        if (readToken() == QXmlStreamReader::StartElement)
+            return appendElement(myDocument);
+        myInput.startPiece();
+    }
+    return QDomElement();
+}
+
+bool CatalogueReader::finish()
+{
+    while (!myXml.atEnd()) {
+        readToken();
+        myInput.startPiece();
+    }
+    return !hasError();
+}
+
+QString CatalogueReader::errorString() const
+{
+    if (!myInput.refusal().isEmpty())
+        return myInput.refusal();
+    if (myInput.isEmpty())
+        return u"the file is empty"_s;
+    if (myXml.error() == QXmlStreamReader::PrematureEndOfDocumentError)
+        return u"the file ends too early"_s;
+    return myXml.errorString().simplified();
+}
+
+FilePosition CatalogueReader::currentPosition() const
+{
+    return { myXml.lineNumber(), myXml.columnNumber() + 1 };
+}
+
+QXmlStreamReader::TokenType CatalogueReader::readToken()
+{
+    const auto token = myXml.readNext();
+    switch (token) {
+    case QXmlStreamReader::StartElement:
+        myInput.leaveProlog();
+        if (++myDepth > DEEPEST_LEVEL)
+            myXml.raiseError(u"elements are nested deeper than %1 levels"_s.arg(DEEPEST_LEVEL));
+        break;
+    case QXmlStreamReader::EndElement:
+        --myDepth;
+        break;
+    case QXmlStreamReader::EntityReference:
+        myXml.raiseError(u"the entity \"%1\" is not declared"_s.arg(myXml.name()));
+        break;
+    default:
+        break;
+    }
+    return myXml.hasError() ? QXmlStreamReader::Invalid : token;
+}
+
+QDomElement CatalogueReader::appendElement(QDomNode parent)
+{
+    QDomElement element = myDocument.createElement(myXml.qualifiedName().toString());
+    const auto attributes = myXml.attributes();
+    for (const QXmlStreamAttribute &attribute : attributes)
+        element.setAttribute(attribute.qualifiedName().toString(), attribute.value().toString());
+    return parent.appendChild(element).toElement();
+}
+
+// Builds the content of an element whose start was read, up to and with its end.
+QDomElement CatalogueReader::readContent(const QDomElement &element)
+{
+    QDomNode current = element;
+    while (!myXml.hasError()) {
+        switch (readToken()) {
+        case QXmlStreamReader::StartElement:
+            current = appendElement(current);
+            break;
+        case QXmlStreamReader::EndElement:
+            if (current == element) {
+                myInput.startPiece();
+                return element;
+            }
+            current = current.parentNode();
+            break;
+        case QXmlStreamReader::Characters:
+            current.appendChild(myDocument.createTextNode(myXml.text().toString()));
+            break;
+        default:
+            break;
+        }
+    }
+    return QDomElement();
+}

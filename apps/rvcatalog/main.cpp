@@ -1,0 +1,101 @@
+#include "Commands.h"
+
+#include <QCommandLineParser>
+#include <QGuiApplication>
+#include <QHashSeed>
+#include <QTextStream>
+
+#include <langinfo.h>
+
+#include <clocale>
+#include <cstdio>
+#include <cstring>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr struct
+{
+    QLatin1StringView name;
+    int (*run)(const QStringList &arguments);
+    QLatin1StringView summary;
+} COMMANDS[] = {
+    { "show"_L1, showCommand, "list the products of a catalogue"_L1 },
+    { "order"_L1, orderCommand, "check a project against the catalogue and write its order line"_L1 },
+};
+
+QString usage()
+{
+    QString text = u"usage: rvcatalog COMMAND [OPTION...] FILE...\n\n"_s;
+    for (const auto &command : COMMANDS)
+        text += "  "_L1 + command.name.toString().leftJustified(8) + command.summary + u'\n';
+    return text
+            + "\n\"rvcatalog COMMAND --help\" explains a command; \"rvcatalog --version\" prints the version.\n"
+              "Exit codes: 0 fine, 1 problems found, 2 cannot read.\n"_L1;
+}
+
+// The program's files and texts are UTF-8 whatever the terminal's locale.
+void useUtf8()
+{
+    std::setlocale(LC_ALL, "");
+    if (std::strcmp(nl_langinfo(CODESET), "UTF-8") != 0)
+        qputenv("LC_ALL", "C.UTF-8");
+}
+
+}
+
+void report(const QString &fileName, const FilePosition &position, const QString &text)
+{
+    QTextStream(stderr) << fileName << ':' << position.line << ':' << position.column << ": " << text << '\n';
+}
+
+bool parseArguments(QCommandLineParser &parser, const QStringList &arguments, int fileCount, int *exitCode)
+{
+    const QCommandLineOption help = parser.addHelpOption();
+    if (!parser.parse(arguments)) {
+        QTextStream(stderr) << "rvcatalog: " << parser.errorText() << '\n';
+    } else if (parser.isSet(help)) {
+        QTextStream(stdout) << parser.helpText();
+        *exitCode = EXIT_FINE;
+        return false;
+    } else if (parser.positionalArguments().size() == fileCount) {
+        return true;
+    } else {
+        QTextStream(stderr) << "rvcatalog: expected " << fileCount << (fileCount == 1 ? " file" : " files") << ", got "
+                            << parser.positionalArguments().size() << '\n';
+    }
+    QTextStream(stderr) << "Try \"" << arguments.first() << " --help\".\n";
+    *exitCode = EXIT_UNREADABLE;
+    return false;
+}
+
+int main(int argc, char *argv[])
+{
+    useUtf8();
+    // Options come out in the order of a hash; with a fixed seed every run writes the same.
+    QHashSeed::setDeterministicGlobalSeed();
+    // Fonts are measured, but nothing is shown, so no display is needed.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication application(argc, argv);
+    QGuiApplication::setApplicationName(u"rvcatalog"_s);
+
+    QStringList arguments = QGuiApplication::arguments().mid(1);
+    const QString name = arguments.isEmpty() ? QString() : arguments.takeFirst();
+    for (const auto &command : COMMANDS) {
+        if (name == command.name)
+            return command.run(QStringList { "rvcatalog "_L1 + name } + arguments);
+    }
+    if (name == "--help"_L1 || name == "-h"_L1 || name == "help"_L1) {
+        QTextStream(stdout) << usage();
+        return EXIT_FINE;
+    }
+    if (name == "--version"_L1) {
+        QTextStream(stdout) << "rvcatalog " RVCATALOG_VERSION "\n";
+        return EXIT_FINE;
+    }
+    if (!name.isEmpty())
+        QTextStream(stderr) << "rvcatalog: there is no command \"" << name << "\"\n";
+    QTextStream(stderr) << usage();
+    return EXIT_UNREADABLE;
+}
