@@ -60,11 +60,11 @@ CatalogueReader::CatalogueReader(QIODevice *device, const QString &elementName)
 QDomElement CatalogueReader::next()
 {
     while (!myXml.atEnd()) {
-        const FilePosition start = currentPosition();
+        const FilePosition start = nextPosition();
         if (readToken() == QXmlStreamReader::StartElement && myXml.qualifiedName() == myElementName) {
             myPosition = start;
             myDocument = QDomDocument();
-            return readContent(appendElement(myDocument));
+            return readContent(appendElement(QDomNode()));
         }
         myInput.startPiece();
     }
@@ -74,9 +74,10 @@ QDomElement CatalogueReader::next()
 QDomElement CatalogueReader::rootStart()
 {
     while (!myXml.atEnd()) {
-        myPosition = currentPosition();
-        if (readToken() == QXmlStreamReader::StartElement)
-            return appendElement(myDocument);
+        if (readToken() == QXmlStreamReader::StartElement) {
+            myPosition = currentPosition();
+            return appendElement(QDomNode());
+        }
         myInput.startPiece();
     }
     return QDomElement();
@@ -102,9 +103,16 @@ QString CatalogueReader::errorString() const
     return myXml.errorString().simplified();
 }
 
+// The parser counts the characters that it has seen of the line; the last one is the faulty one.
 FilePosition CatalogueReader::currentPosition() const
 {
-    return { myXml.lineNumber(), myXml.columnNumber() + 1 };
+    return { myXml.lineNumber(), qMax(qint64(1), myXml.columnNumber()) };
+}
+
+// A text ends where the parser sees the "<" behind it; everything else ends before.
+FilePosition CatalogueReader::nextPosition() const
+{
+    return { myXml.lineNumber(), myXml.columnNumber() + (myXml.isCharacters() ? 0 : 1) };
 }
 
 QXmlStreamReader::TokenType CatalogueReader::readToken()
@@ -128,13 +136,15 @@ QXmlStreamReader::TokenType CatalogueReader::readToken()
     return myXml.hasError() ? QXmlStreamReader::Invalid : token;
 }
 
+// Appends the element that starts; to the document itself where there is no parent yet.
 QDomElement CatalogueReader::appendElement(QDomNode parent)
 {
     QDomElement element = myDocument.createElement(myXml.qualifiedName().toString());
     const auto attributes = myXml.attributes();
     for (const QXmlStreamAttribute &attribute : attributes)
         element.setAttribute(attribute.qualifiedName().toString(), attribute.value().toString());
-    return parent.appendChild(element).toElement();
+    (parent.isNull() ? myDocument : parent).appendChild(element);
+    return element;
 }
 
 // Builds the content of an element whose start was read, up to and with its end.

@@ -67,7 +67,7 @@ public:
     /// Reads on to the end; false where the rest is not well-formed.
     bool finish();
 
-    /// Where the element that next() returned last begins.
+    /// Where the element that next() returned last begins; where the tag that rootStart() read ends.
     FilePosition position() const { return myPosition; }
     bool hasError() const { return myXml.hasError(); }
     QString errorString() const;
@@ -75,6 +75,7 @@ public:
 
 private:
     FilePosition currentPosition() const;
+    FilePosition nextPosition() const;
     QXmlStreamReader::TokenType readToken();
     QDomElement appendElement(QDomNode parent);
     QDomElement readContent(const QDomElement &element);

@@ -167,8 +167,8 @@ int orderCommand(const QStringList &arguments)
     parser.setApplicationDescription(
             u"Reads product type, page count and options of a project, checks them against the catalogue, completes\n"
             "them with the default options, counts what is billed per price class and writes the order line."_s);
-    parser.addPositionalArgument(u"CATALOGUE.xml"_s, u"The products XML."_s);
-    parser.addPositionalArgument(u"PROJECT.xml"_s, u"The project file."_s);
+    parser.addPositionalArgument(u"CATALOGUE"_s, u"The products XML."_s, u"CATALOGUE.xml"_s);
+    parser.addPositionalArgument(u"PROJECT"_s, u"The project file."_s, u"PROJECT.xml"_s);
     int exitCode = EXIT_FINE;
     if (!parseArguments(parser, arguments, 2, &exitCode))
         return exitCode;

@@ -197,7 +197,7 @@ int showCommand(const QStringList &arguments)
             "width and largest spine font size at the lowest and the highest count, and the options per key."_s);
     const QCommandLineOption json(u"json"_s, u"Write a JSON array, one product a line."_s);
     parser.addOption(json);
-    parser.addPositionalArgument(u"CATALOGUE.xml"_s, u"The products XML."_s);
+    parser.addPositionalArgument(u"CATALOGUE"_s, u"The products XML."_s, u"CATALOGUE.xml"_s);
     int exitCode = EXIT_FINE;
     if (!parseArguments(parser, arguments, 1, &exitCode))
         return exitCode;

@@ -3,6 +3,7 @@
 #include <QCommandLineParser>
 #include <QGuiApplication>
 #include <QHashSeed>
+#include <QLoggingCategory>
 #include <QTextStream>
 
 #include <langinfo.h>
@@ -52,11 +53,14 @@ void report(const QString &fileName, const FilePosition &position, const QString
 
 bool parseArguments(QCommandLineParser &parser, const QStringList &arguments, int fileCount, int *exitCode)
 {
-    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption help({ u"h"_s, u"help"_s }, u"Displays this help."_s);
+    parser.addOption(help);
     if (!parser.parse(arguments)) {
         QTextStream(stderr) << "rvcatalog: " << parser.errorText() << '\n';
     } else if (parser.isSet(help)) {
-        QTextStream(stdout) << parser.helpText();
+        // The parser names the program as it was started, and knows of no sub-command.
+        QTextStream(stdout) << parser.helpText().replace(QCoreApplication::arguments().constFirst(),
+                                                         arguments.constFirst());
         *exitCode = EXIT_FINE;
         return false;
     } else if (parser.positionalArguments().size() == fileCount) {
@@ -76,8 +80,11 @@ int main(int argc, char *argv[])
     // Options come out in the order of a hash; with a fixed seed every run writes the same.
     QHashSeed::setDeterministicGlobalSeed();
     // Fonts are measured, but nothing is shown, so no display is needed.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", "minimal");
+    // Without a desktop session Qt warns of a missing run-time directory, which nothing here uses.
+    QLoggingCategory::defaultCategory()->setEnabled(QtWarningMsg, false);
     QGuiApplication application(argc, argv);
+    QLoggingCategory::defaultCategory()->setEnabled(QtWarningMsg, true);
     QGuiApplication::setApplicationName(u"rvcatalog"_s);
 
     QStringList arguments = QGuiApplication::arguments().mid(1);

@@ -1,0 +1,311 @@
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Run
+{
+    int exitCode = -1;
+    QString output;
+    QString messages;
+};
+
+Run rvcatalog(const QStringList &arguments, const QString &folder = QString())
+{
+    QProcess process;
+    process.setWorkingDirectory(folder);
+    QProcessEnvironment environment;
+    environment.insert(u"LC_ALL"_s, u"C"_s); // no run-time directory, no UTF-8, no display
+    process.setProcessEnvironment(environment);
+    process.start(QString::fromUtf8(RVCATALOG), arguments);
+    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
+        return Run();
+    return { process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+             QString::fromUtf8(process.readAllStandardError()) };
+}
+
+const QString SAMPLE_CATALOGUE = QString::fromUtf8(SAMPLES "/products.xml");
+const QString SAMPLE_PROJECT = QString::fromUtf8(SAMPLES "/project.xml");
+
+const char CATALOGUE[] =
+        "<products>\n"
+        "<product type='DUN9' name='Groß' price_class='PB9' page_price_class='KEMI62' pages='26' max_pages='154' "
+        "page_step='4'>"
+        "<composition><spine packages_per_block='2' base_width='8' block_width='1' additional_width='0.5'/>"
+        "</composition><forms>"
+        "<form key='alcolor' key_name='Farbe' value='black' value_name='Schwarz' preselected='true' "
+        "price_class='LEZ1'/>"
+        "<form key='alcolor' key_name='Farbe' value='red' value_name='Rot' price_class='LEZ2'/>"
+        "<form key='a;b' key_name='Box' value='x;y' value_name='Holz' preselected='true' not_accountable='true' "
+        "price_class='VEL4'/>"
+        "</forms></product>\n"
+        "<product type='VIR1' pages='13'/>\n"
+        "</products>\n";
+
+}
+
+class tst_rvcatalog : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void usage_data();
+    void usage();
+    void showTable();
+    void showJson();
+    void showSample();
+    void showProblems();
+    void showUnreadable_data();
+    void showUnreadable();
+    void order();
+    void orderDefaults();
+    void orderSample();
+    void orderProblems_data();
+    void orderProblems();
+    void orderUnreadable();
+
+private:
+    void write(const QString &name, const QByteArray &content);
+
+    QTemporaryDir myFolder;
+};
+
+void tst_rvcatalog::write(const QString &name, const QByteArray &content)
+{
+    QFile file(myFolder.filePath(name));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), content.size());
+}
+
+void tst_rvcatalog::init()
+{
+    write(u"c.xml"_s, CATALOGUE);
+}
+
+void tst_rvcatalog::usage_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QString>("output");
+    QTest::addColumn<QString>("messages");
+
+    QTest::newRow("help") << QStringList { u"--help"_s } << 0 << u"usage: rvcatalog COMMAND"_s << QString();
+    QTest::newRow("version") << QStringList { u"--version"_s } << 0 << u"rvcatalog 0."_s << QString();
+    QTest::newRow("help of show") << QStringList { u"show"_s, u"--help"_s } << 0
+                                  << u"Usage: rvcatalog show [options] CATALOGUE.xml"_s << QString();
+    QTest::newRow("help of order") << QStringList { u"order"_s, u"-h"_s } << 0
+                                   << u"Usage: rvcatalog order [options] CATALOGUE.xml PROJECT.xml"_s << QString();
+    QTest::newRow("nothing") << QStringList() << 2 << QString() << u"usage: rvcatalog COMMAND"_s;
+    QTest::newRow("unknown command") << QStringList { u"sing"_s } << 2 << QString()
+                                     << u"there is no command \"sing\""_s;
+    QTest::newRow("unknown option") << QStringList { u"show"_s, u"--sing"_s } << 2 << QString()
+                                    << u"Unknown option 'sing'"_s;
+    QTest::newRow("file missing") << QStringList { u"show"_s } << 2 << QString() << u"expected 1 file, got 0"_s;
+    QTest::newRow("one file too many") << QStringList { u"show"_s, u"a"_s, u"b"_s } << 2 << QString()
+                                       << u"expected 1 file, got 2"_s;
+}
+
+void tst_rvcatalog::usage()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, output);
+    QFETCH(QString, messages);
+    const Run run = rvcatalog(arguments);
+    QTEST(run.exitCode, "exitCode");
+    QVERIFY2(run.output.startsWith(output), qPrintable(run.output));
+    QCOMPARE(run.output.isEmpty(), output.isEmpty());
+    QVERIFY2(run.messages.contains(messages), qPrintable(run.messages));
+    QCOMPARE(run.messages.isEmpty(), messages.isEmpty());
+}
+
+void tst_rvcatalog::showTable()
+{
+    const Run run = rvcatalog({ u"show"_s, u"c.xml"_s }, myFolder.path());
+    QCOMPARE(run.messages, QString());
+    QCOMPARE(run.exitCode, 0);
+    const QStringList lines = run.output.split(u'\n');
+    QCOMPARE(lines.size(), 5);
+    QCOMPARE(lines.at(0), u"TYPE     PAGES            COUNTS SPINE mm   FONT pt OPTIONS (* is the default)"_s);
+    QVERIFY2(lines.at(1).startsWith("DUN9     26-154 by 4      33    9.0-25.0    "_L1), qPrintable(lines.at(1)));
+    QVERIFY2(lines.at(1).endsWith(" a;b: x;y*"_L1), qPrintable(lines.at(1)));
+    QCOMPARE(lines.at(2), QString(51, u' ') + u"alcolor: black*, red"_s);
+    QCOMPARE(lines.at(3), u"VIR1     13               1     -           -"_s);
+}
+
+void tst_rvcatalog::showJson()
+{
+    const Run run = rvcatalog({ u"show"_s, u"--json"_s, u"c.xml"_s }, myFolder.path());
+    QCOMPARE(run.messages, QString());
+    QCOMPARE(run.exitCode, 0);
+    const QJsonArray products = QJsonDocument::fromJson(run.output.toUtf8()).array();
+    QCOMPARE(products.size(), 2);
+    const QJsonObject book = products.at(0).toObject();
+    QCOMPARE(book.value("type"_L1), QJsonValue(u"DUN9"_s));
+    QCOMPARE(book.value("name"_L1), QJsonValue(u"Groß"_s));
+    const QJsonObject pages { { u"lowest"_s, 26 }, { u"highest"_s, 154 }, { u"step"_s, 4 }, { u"count"_s, 33 },
+                              { u"valid"_s, true } };
+    QCOMPARE(book.value("pages"_L1).toObject(), pages);
+    const QJsonArray spine = book.value("spine"_L1).toArray();
+    QCOMPARE(spine.at(0)["width_mm"_L1].toDouble(), 9.0);
+    QCOMPARE(spine.at(1)["width_mm"_L1].toDouble(), 25.0);
+    QVERIFY(spine.at(0)["max_font_size"_L1].toInt() < spine.at(1)["max_font_size"_L1].toInt());
+    QCOMPARE(book.value("options"_L1).toArray().size(), 3);
+    QCOMPARE(book.value("options"_L1).toArray().at(1)["default"_L1], QJsonValue(false));
+    QCOMPARE(book.value("options"_L1).toArray().at(2)["accountable"_L1], QJsonValue(false));
+    QVERIFY(products.at(1).toObject().value("spine"_L1).isNull());
+}
+
+void tst_rvcatalog::showSample()
+{
+    const Run table = rvcatalog({ u"show"_s, SAMPLE_CATALOGUE });
+    QCOMPARE(table.messages, QString());
+    QCOMPARE(table.exitCode, 0);
+    for (const QString &line : table.output.split(u'\n'))
+        QVERIFY2(line.size() <= 100, qPrintable(line));
+    const Run json = rvcatalog({ u"show"_s, u"--json"_s, SAMPLE_CATALOGUE });
+    QVERIFY(QJsonDocument::fromJson(json.output.toUtf8()).array().size() >= 40);
+}
+
+void tst_rvcatalog::showProblems()
+{
+    write(u"bad.xml"_s, "<p>\n <product type='A' pages='10' max_pages='20'/>\n <product pages='3'/>\n</p>");
+    const Run run = rvcatalog({ u"show"_s, u"bad.xml"_s }, myFolder.path());
+    QCOMPARE(run.messages,
+             u"bad.xml:2:2: the product has no valid page counts (min: 10; max: 20; increment: 0)\n"
+             "bad.xml:3:2: the product has no type\n"_s);
+    QCOMPARE(run.exitCode, 1);
+    write(u"none.xml"_s, "<p/>");
+    const Run none = rvcatalog({ u"show"_s, u"none.xml"_s }, myFolder.path());
+    QCOMPARE(none.messages, u"none.xml:1:1: there is no product in this file\n"_s);
+    QCOMPARE(none.exitCode, 1);
+}
+
+void tst_rvcatalog::showUnreadable_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("messages");
+
+    QTest::newRow("missing") << u"missing.xml"_s << QByteArray()
+                             << u"missing.xml:1:1: cannot open the file: No such file or directory\n"_s;
+    QTest::newRow("empty") << u"x.xml"_s << QByteArray("") << u"x.xml:1:1: the file is empty\n"_s;
+    QTest::newRow("no XML") << u"x.xml"_s << QByteArray("hello") << u"x.xml:1:1: Start tag expected.\n"_s;
+    QTest::newRow("cut off") << u"x.xml"_s << QByteArray(CATALOGUE).left(300) << u"x.xml:2:288: the file ends too early\n"_s;
+    QTest::newRow("entities") << u"x.xml"_s << QByteArray("<!DOCTYPE p [<!ENTITY a 'b'>]><p/>")
+                              << u"x.xml:1:21: entity declarations are not supported\n"_s;
+}
+
+void tst_rvcatalog::showUnreadable()
+{
+    QFETCH(QString, name);
+    QFETCH(QByteArray, content);
+    if (name == "x.xml"_L1)
+        write(name, content);
+    for (const QString &option : { u"--json"_s, u"--"_s }) {
+        const Run run = rvcatalog({ u"show"_s, option, name }, myFolder.path());
+        QTEST(run.messages, "messages");
+        QCOMPARE(run.exitCode, 2);
+    }
+}
+
+void tst_rvcatalog::order()
+{
+    write(u"p.xml"_s, "<project productname='DUN9_30' pages='34' variants='alcolor:red'><page/></project>");
+    const Run run = rvcatalog({ u"order"_s, u"c.xml"_s, u"p.xml"_s }, myFolder.path());
+    QCOMPARE(run.messages, QString());
+    QCOMPARE(run.exitCode, 0);
+    const QStringList lines = run.output.split(u'\n');
+    QCOMPARE(lines.mid(0, 12),
+             (QStringList { u"Product         DUN9 (Groß)"_s,
+                            u"Pages           34 (2 packages above the lowest count)"_s,
+                            u"Spine           10.0 mm"_s, u""_s, u"Options"_s, u"  Farbe: Rot"_s,
+                            u"  Box: Holz (default)"_s, u""_s, u"Price classes"_s, u"    2 x KEMI62"_s,
+                            u"    1 x LEZ2"_s, u"    1 x PB9"_s }));
+    const auto pieces = [&lines](qsizetype line, QChar separator) {
+        QStringList result = lines.at(line).mid(16).split(separator);
+        result.sort();
+        return result;
+    };
+    QCOMPARE(pieces(13, u','), (QStringList { u"a;b:x;y"_s, u"alcolor:red"_s }));
+    QCOMPARE(pieces(14, u','), (QStringList { u"a:x"_s, u"alcolor:red"_s, u"b:y"_s }));
+    QCOMPARE(pieces(15, u';'), (QStringList { u"a:x"_s, u"alcolor:red"_s, u"b:y"_s }));
+    QCOMPARE(rvcatalog({ u"order"_s, u"c.xml"_s, u"p.xml"_s }, myFolder.path()).output, run.output);
+}
+
+// A project that says nothing is the smallest photo book with the default options.
+void tst_rvcatalog::orderDefaults()
+{
+    write(u"p.xml"_s, "<project/>");
+    const Run run = rvcatalog({ u"order"_s, u"c.xml"_s, u"p.xml"_s }, myFolder.path());
+    QCOMPARE(run.messages, QString());
+    QCOMPARE(run.exitCode, 0);
+    QVERIFY2(run.output.contains("Pages           26 (0 packages"_L1), qPrintable(run.output));
+    QVERIFY(run.output.contains("  Farbe: Schwarz (default)"_L1));
+    QVERIFY(!run.output.contains("KEMI62"_L1));
+}
+
+void tst_rvcatalog::orderSample()
+{
+    const Run run = rvcatalog({ u"order"_s, SAMPLE_CATALOGUE, SAMPLE_PROJECT });
+    QCOMPARE(run.messages, QString());
+    QCOMPARE(run.exitCode, 0);
+    QVERIFY(run.output.contains("Project file    "_L1));
+}
+
+void tst_rvcatalog::orderProblems_data()
+{
+    QTest::addColumn<QByteArray>("project");
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("type") << QByteArray("productname='VIR99'") << u"the catalogue has no product of type \"VIR99\""_s;
+    QTest::newRow("empty type") << QByteArray("productname=''") << u"the catalogue has no product of type \"UNKNOWN\""_s;
+    QTest::newRow("option") << QByteArray("variants='foo:bar'") << u"DUN9 has no option \"foo\"; it has: a;b, alcolor"_s;
+    QTest::newRow("value") << QByteArray("variants='alcolor:pink'")
+                           << u"the option \"alcolor\" has no value \"pink\"; it has: black, red"_s;
+    QTest::newRow("malformed") << QByteArray("variants='alcolor=red'")
+                               << u"\"alcolor=red\" is no option; options are written key:value"_s;
+    QTest::newRow("between counts")
+            << QByteArray("pages='35'")
+            << u"35 pages are impossible: DUN9 has 26 to 154 pages in steps of 4, the next is 38"_s;
+    QTest::newRow("too few") << QByteArray("pages='25'")
+                             << u"25 pages are impossible: DUN9 has 26 to 154 pages in steps of 4, the next is 26"_s;
+    QTest::newRow("too many") << QByteArray("pages='155'")
+                              << u"155 pages are impossible: DUN9 has 26 to 154 pages in steps of 4, the next is 154"_s;
+    QTest::newRow("fixed count") << QByteArray("productname='VIR1' pages='14'")
+                                 << u"14 pages are impossible: VIR1 has always 13"_s;
+    QTest::newRow("no number") << QByteArray("pages='many'") << u"\"many\" is no page count"_s;
+}
+
+void tst_rvcatalog::orderProblems()
+{
+    QFETCH(QByteArray, project);
+    QFETCH(QString, text);
+    write(u"p.xml"_s, "<?xml version='1.0'?>\n<project " + project + "\n/>");
+    const Run run = rvcatalog({ u"order"_s, u"c.xml"_s, u"p.xml"_s }, myFolder.path());
+    QCOMPARE(run.messages, QString(u"p.xml:3:2: "_s + text + u'\n'));
+    QCOMPARE(run.output, QString());
+    QCOMPARE(run.exitCode, 1);
+}
+
+void tst_rvcatalog::orderUnreadable()
+{
+    write(u"p.xml"_s, "<project>");
+    const Run project = rvcatalog({ u"order"_s, u"c.xml"_s, u"p.xml"_s }, myFolder.path());
+    QCOMPARE(project.messages, u"p.xml:1:9: the file ends too early\n"_s);
+    QCOMPARE(project.exitCode, 2);
+    write(u"p.xml"_s, "<project/>");
+    write(u"x.xml"_s, "<p><product type='DUN9'/>");
+    const Run catalogue = rvcatalog({ u"order"_s, u"x.xml"_s, u"p.xml"_s }, myFolder.path());
+    QCOMPARE(catalogue.messages, u"x.xml:1:25: the file ends too early\n"_s);
+    QCOMPARE(catalogue.exitCode, 2);
+}
+
+QTEST_GUILESS_MAIN(tst_rvcatalog)
+#include "tst_rvcatalog.moc"
