@@ -1,0 +1,6 @@
+#include "SharedObjects.h"
+
+extern "C" Q_DECL_EXPORT void pluginSharedObjects(SharedObjects *objects)
+{
+    *objects = sharedObjects();
+}

@@ -1,0 +1,30 @@
+#!/usr/bin/env bash
+# system_platform.sh CMAKE SOURCES BUILD LIBDIR OPTIONS...: the library builds on a platform layer installed in LIBDIR,
+# which has nothing but that, and is linked with it.
+set -euo pipefail
+cmake=$1 sources=$2 build=$3 libdir=$(realpath "$4")
+shift 4
+
+rm -rf "$build"
+"$cmake" -S "$sources" -B "$build" -DBUILD_TESTING=OFF -DRV_PLATFORM=system "$@"
+"$cmake" --build "$build" --target RVProductBase
+
+if compgen -G "$libdir/libRVProductBase*"; then
+    echo "the platform layer brought the library along"
+    exit 1
+fi
+built=$(find "$build" -name 'libRVCore*' -o -name 'libRVXML*')
+if [[ $built ]]; then
+    echo "the platform layer was built: $built"
+    exit 1
+fi
+
+library=$(find "$build" -name libRVProductBase.so)
+for platform in libRVCore.so.0 libRVXML.so.0; do
+    readelf -d "$library" | grep -F "NEEDED" | grep -F "[$platform]"
+    found=$(ldd "$library" | awk -v name=$platform '$1 == name { print $3 }')
+    if [[ $(realpath "$(dirname "$found")") != "$libdir" ]]; then
+        echo "$platform is \"$found\", not from $libdir"
+        exit 1
+    fi
+done
