@@ -1,0 +1,273 @@
+#include "RVArticleClass.h"
+
+#include "RVKeywords_p.h"
+#include "RVShippingGroupId.h"
+#include "RVXMLBuilder.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QDomElement>
+#include <QVariant>
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+template class RVEnumWrapper<RVArticleClassEnum>;
+
+namespace {
+
+constexpr RVKeyword<RVArticleClassEnum> KEYWORDS[] = {
+    { "none"_L1, ARTICLE_CLASS_NONE },
+    { "unknown"_L1, ARTICLE_CLASS_NONE },
+    { "book"_L1, ARTICLE_CLASS_BOOK },
+    { "fotobook"_L1, ARTICLE_CLASS_BOOK },
+    { "doublepage"_L1, ARTICLE_CLASS_DOUBLEPAGE },
+    { "normal_calendar"_L1, ARTICLE_CLASS_NORMAL_CALENDAR },
+    { "agenda"_L1, ARTICLE_CLASS_AGENDA },
+    { "calendar"_L1, ARTICLE_CLASS_CALENDAR },
+    { "simple_gift"_L1, ARTICLE_CLASS_SIMPLE_GIFT },
+    { "gift"_L1, ARTICLE_CLASS_GIFT },
+    { "card"_L1, ARTICLE_CLASS_CARD },
+    { "deko"_L1, ARTICLE_CLASS_DEKO },
+    { "poster"_L1, ARTICLE_CLASS_DEKO },
+    { "frame"_L1, ARTICLE_CLASS_DEKO },
+    { "foto"_L1, ARTICLE_CLASS_FOTO },
+    { "premiumfoto"_L1, ARTICLE_CLASS_PREMIUMFOTO },
+    { "posterfoto"_L1, ARTICLE_CLASS_POSTERFOTO },
+    { "photo"_L1, ARTICLE_CLASS_PHOTO },
+    { "fee"_L1, ARTICLE_CLASS_FEE },
+    { "canvas"_L1, ARTICLE_CLASS_CANVAS },
+    { "art_print"_L1, ARTICLE_CLASS_ART_PRINT },
+    { "advent_calendar"_L1, ARTICLE_CLASS_ADVENT_CALENDAR },
+    { "playing_card"_L1, ARTICLE_CLASS_PLAYING_CARD },
+    { "playingcard"_L1, ARTICLE_CLASS_PLAYING_CARD },
+    { "picture_box"_L1, ARTICLE_CLASS_PICTURE_BOX },
+    { "nature_bundle"_L1, ARTICLE_CLASS_NATURE_BUNDLE },
+    { "puzzle"_L1, ARTICLE_CLASS_PUZZLE },
+    { "slipcase"_L1, ARTICLE_CLASS_SLIPCASE },
+    { "printfun"_L1, ARTICLE_CLASS_PRINTFUN },
+    { "expressFee"_L1, ARTICLE_CLASS_EXPRESS_FEE },
+    { "transferFee"_L1, ARTICLE_CLASS_TRANSFER_FEE },
+    { "paymentFee"_L1, ARTICLE_CLASS_PAYMENT_FEE },
+    { "shipmentMethodFee"_L1, ARTICLE_CLASS_SHIPMENT_METHOD_FEE },
+    { "express_fee"_L1, ARTICLE_CLASS_EXPRESS_FEE },
+    { "transfer"_L1, ARTICLE_CLASS_TRANSFER_FEE },
+    { "pay_method_fee"_L1, ARTICLE_CLASS_PAYMENT_FEE },
+    { "shipment_method_fee"_L1, ARTICLE_CLASS_SHIPMENT_METHOD_FEE },
+    { "article"_L1, ARTICLE_CLASS_ARTICLE },
+    { "add_on"_L1, ARTICLE_CLASS_ADD_ON },
+    { "design_addOn"_L1, ARTICLE_CLASS_DESIGN_ADD_ON },
+    { "frame_addOn"_L1, ARTICLE_CLASS_FRAME_ADD_ON },
+    { "frame_construction"_L1, ARTICLE_CLASS_FRAME_CONSTRUCTION },
+    { "wallholder_addOn"_L1, ARTICLE_CLASS_WALLHOLDER_ADD_ON },
+    { "wall_holder_gallery_print"_L1, ARTICLE_CLASS_WALLHOLDER_ADD_ON },
+    { "pagePackage_addOn"_L1, ARTICLE_CLASS_PAGE_PACKAGE_ADD_ON },
+    { "video_addOn"_L1, ARTICLE_CLASS_VIDEO_ADD_ON },
+    { "locrMap_addOn"_L1, ARTICLE_CLASS_LOCR_MAP_ADD_ON },
+    { "envelope_addOn"_L1, ARTICLE_CLASS_ENVELOPE_ADD_ON },
+    { "giftBox_addOn"_L1, ARTICLE_CLASS_GIFT_BOX_ADD_ON },
+    { "giftBoxService_addOn"_L1, ARTICLE_CLASS_GIFT_BOX_SERVICE_ADD_ON },
+    { "spotColor_addOn"_L1, ARTICLE_CLASS_SPOT_COLOR_ADD_ON },
+    { "giftWrap_addOn"_L1, ARTICLE_CLASS_GIFT_WRAP_ADD_ON },
+    { "matt_cover_addOn"_L1, ARTICLE_CLASS_MATT_COVER_ADD_ON },
+    { "flyleafcolor"_L1, ARTICLE_CLASS_FLYLEAFCOLOR },
+    { "artprint_box_addon"_L1, ARTICLE_CLASS_ARTPRINT_BOX_ADD_ON },
+    { "memo_pocket_addOn"_L1, ARTICLE_CLASS_MEMO_POCKET_ADD_ON },
+    { "giftBoxService_cal_addOn"_L1, ARTICLE_CLASS_GIFT_BOX_SERVICE_CALENDAR_ADD_ON },
+    { "pre_assembled"_L1, ARTICLE_CLASS_PRE_ASSEMBLED },
+};
+
+constexpr RVArticleClassEnum WALL_DECOR = ARTICLE_CLASS_DEKO | ARTICLE_CLASS_CANVAS;
+
+/// Of these one is enough. The colour of the fly-leaf is the only later add-on that is not among them.
+constexpr RVArticleClassEnum ORDERED_ONCE = ARTICLE_CLASS_SLIPCASE | ARTICLE_CLASS_SPOT_COLOR_ADD_ON
+    | ARTICLE_CLASS_FRAME_ADD_ON | ARTICLE_CLASS_FRAME_CONSTRUCTION | ARTICLE_CLASS_ADD_ON_BIT_29
+    | ARTICLE_CLASS_ADD_ON_BIT_30 | ARTICLE_CLASS_WALLHOLDER_ADD_ON | ARTICLE_CLASS_ENVELOPE_ADD_ON
+    | ARTICLE_CLASS_MATT_COVER_ADD_ON | ARTICLE_CLASS_GIFT_BOX_ADD_ON | ARTICLE_CLASS_GIFT_BOX_SERVICE_ADD_ON
+    | ARTICLE_CLASS_GIFT_WRAP_ADD_ON | ARTICLE_CLASS_ADD_ON_BIT_38 | ARTICLE_CLASS_ADD_ON_BIT_39
+    | ARTICLE_CLASS_ARTPRINT_BOX_ADD_ON | ARTICLE_CLASS_MEMO_POCKET_ADD_ON | ARTICLE_CLASS_ADD_ON_BIT_42
+    | ARTICLE_CLASS_GIFT_BOX_SERVICE_CALENDAR_ADD_ON;
+
+/// The shop cart lists add-ons in this order.
+constexpr RVArticleClassEnum IMPORTANCE[] = {
+    ARTICLE_CLASS_PAGE_PACKAGE_ADD_ON,
+    ARTICLE_CLASS_SPOT_COLOR_ADD_ON,
+    ARTICLE_CLASS_MATT_COVER_ADD_ON,
+    ARTICLE_CLASS_GIFT_BOX_ADD_ON,
+    ARTICLE_CLASS_GIFT_BOX_SERVICE_ADD_ON,
+    ARTICLE_CLASS_FLYLEAFCOLOR,
+    ARTICLE_CLASS_VIDEO_ADD_ON,
+    ARTICLE_CLASS_LOCR_MAP_ADD_ON,
+    ARTICLE_CLASS_DESIGN_ADD_ON,
+    ARTICLE_CLASS_FRAME_ADD_ON,
+    ARTICLE_CLASS_FRAME_CONSTRUCTION,
+    ARTICLE_CLASS_ADD_ON_BIT_29,
+    ARTICLE_CLASS_WALLHOLDER_ADD_ON,
+    ARTICLE_CLASS_ADD_ON_BIT_30,
+    ARTICLE_CLASS_GIFT_WRAP_ADD_ON,
+    ARTICLE_CLASS_ENVELOPE_ADD_ON,
+    ARTICLE_CLASS_SLIPCASE,
+    ARTICLE_CLASS_MEMO_POCKET_ADD_ON,
+    ARTICLE_CLASS_GIFT_BOX_SERVICE_CALENDAR_ADD_ON,
+};
+
+std::ptrdiff_t importance(RVArticleClassEnum value)
+{
+    const auto *const found = std::find(std::begin(IMPORTANCE), std::end(IMPORTANCE), value);
+    return found == std::end(IMPORTANCE) ? -1 : found - std::begin(IMPORTANCE);
+}
+
+}
+
+RVArticleClass::RVArticleClass(RVArticleClassEnum value) noexcept : RVEnumWrapper(value) { }
+
+RVArticleClass::RVArticleClass(const QString &text) : RVArticleClass()
+{
+    setValue(text);
+}
+
+RVArticleClass RVArticleClass::createFromShippingGroupId(const RVShippingGroupId &shippingGroupId)
+{
+    switch (shippingGroupId.id()) {
+    case 1:
+        return ARTICLE_CLASS_FOTO;
+    case 3:
+        return ARTICLE_CLASS_POSTERFOTO;
+    case 18:
+        return ARTICLE_CLASS_PREMIUMFOTO;
+    default:
+        return ARTICLE_CLASS_NONE;
+    }
+}
+
+int RVArticleClass::shippingGroup() const
+{
+    switch (value()) {
+    case ARTICLE_CLASS_FOTO:
+        return 1;
+    case ARTICLE_CLASS_POSTERFOTO:
+        return 3;
+    case ARTICLE_CLASS_PREMIUMFOTO:
+        return 18;
+    default:
+        return -1;
+    }
+}
+
+QString RVArticleClass::toPHProjectCategory() const
+{
+    if (matches(ARTICLE_CLASS_BOOK))
+        return u"book"_s;
+    if (matches(ARTICLE_CLASS_PHOTO))
+        return u"prints"_s;
+    if (matches(WALL_DECOR))
+        return u"walldecor"_s;
+    if (matches(ARTICLE_CLASS_CALENDAR))
+        return u"calendar"_s;
+    if (matches(ARTICLE_CLASS_CARD))
+        return u"card"_s;
+    return u"other"_s;
+}
+
+QString RVArticleClass::toHumanReadable() const
+{
+    if (matches(ARTICLE_CLASS_BOOK))
+        return QCoreApplication::translate("QObject", "RAVO FOTOBUCH");
+    if (matches(ARTICLE_CLASS_PHOTO))
+        return QCoreApplication::translate("QObject", "Fotos & mehr");
+    if (matches(WALL_DECOR))
+        return QCoreApplication::translate("QObject", "Poster & Wandbilder");
+    if (matches(ARTICLE_CLASS_CALENDAR))
+        return QCoreApplication::translate("QObject", "RAVO KALENDER");
+    if (matches(ARTICLE_CLASS_CARD))
+        return QCoreApplication::translate("QObject", "Grußkarten");
+    return QCoreApplication::translate("QObject", "Fotogeschenke");
+}
+
+QVariant RVArticleClass::toStartPageId() const
+{
+    switch (value()) {
+    case ARTICLE_CLASS_BOOK:
+        return u"photobook"_s;
+    case ARTICLE_CLASS_CALENDAR:
+        return u"calendar"_s;
+    case ARTICLE_CLASS_CARD:
+        return u"card"_s;
+    case ARTICLE_CLASS_DEKO:
+        return u"deko"_s;
+    case ARTICLE_CLASS_GIFT:
+        return u"gift"_s;
+    case ARTICLE_CLASS_PHOTO:
+        return u"foto"_s;
+    default:
+        return 1;
+    }
+}
+
+QString RVArticleClass::toHelpTopic() const
+{
+    if (matches(ARTICLE_CLASS_BOOK))
+        return u"photobook"_s;
+    if (matches(ARTICLE_CLASS_DEKO))
+        return u"deko"_s;
+    if (matches(ARTICLE_CLASS_CALENDAR))
+        return u"calendar"_s;
+    if (matches(ARTICLE_CLASS_CARD))
+        return u"card"_s;
+    if (matches(ARTICLE_CLASS_PHOTO))
+        return u"foto"_s;
+    if (matches(ARTICLE_CLASS_GIFT))
+        return u"gift"_s;
+    return QString();
+}
+
+QString RVArticleClass::morePagesText(int n) const
+{
+    switch (value()) {
+    case ARTICLE_CLASS_PICTURE_BOX:
+    case ARTICLE_CLASS_NATURE_BUNDLE:
+        return QCoreApplication::translate("RVArticleClass", "%n Foto", "Achtung plural!", n);
+    case ARTICLE_CLASS_BOOK:
+        return QCoreApplication::translate("RVArticleClass", "%n Seiten", "Achtung plural!", n);
+    default:
+        return u""_s;
+    }
+}
+
+bool RVArticleClass::canModifyABK() const
+{
+    return matches(ARTICLE_CLASS_PHOTO);
+}
+
+int RVArticleClass::maxAmount() const
+{
+    return matches(ORDERED_ONCE) ? 1 : std::numeric_limits<int>::max();
+}
+
+bool RVArticleClass::lessThanShopCart(const RVArticleClassEnum &a, const RVArticleClassEnum &b)
+{
+    return importance(a) < importance(b);
+}
+
+void RVArticleClass::toTemplates2Format(QDomElement &parent) const
+{
+    if (hasValue(ARTICLE_CLASS_PRINTFUN))
+        return;
+    const QSet<RVArticleClassEnum> bits = splitToBits();
+    for (const RVArticleClassEnum bit : bits)
+        RVXMLBuilder::buildDomElement(parent, u"type"_s, enumToStringTable()->encodeCSV(bit));
+}
+
+void RVArticleClass::fillTable(RVEnumToStringTable<RVArticleClassEnum> *table) const
+{
+    rvInsertKeywords(table, KEYWORDS);
+}
+
+QDebug operator<<(QDebug debug, const RVArticleClass &articleClass)
+{
+    return debug << "Articleclass:" << articleClass.encode();
+}

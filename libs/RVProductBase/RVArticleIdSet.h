@@ -1,0 +1,25 @@
+#ifndef RVARTICLEIDSET_H
+#define RVARTICLEIDSET_H
+
+#include "RVArticleId.h"
+#include "RVProductBaseExport.h"
+
+#include <QSet>
+
+/// A set of articles.
+class RVPRODUCTBASE_EXPORT RVArticleIdSet : public QSet<RVArticleId>
+{
+public:
+    RVArticleIdSet() = default;
+    RVArticleIdSet(const QSet<RVArticleId> &ids);
+    RVArticleIdSet(const RVArticleIdSet &) = default;
+    RVArticleIdSet(RVArticleIdSet &&) = default;
+    RVArticleIdSet &operator=(const RVArticleIdSet &) = default;
+    RVArticleIdSet &operator=(RVArticleIdSet &&) = default;
+    virtual ~RVArticleIdSet();
+
+    /// True when every article of @p other is in this set too; always for an empty @p other.
+    bool extends(const RVArticleIdSet &other) const;
+};
+
+#endif

@@ -1,0 +1,63 @@
+#ifndef RVBARCODEDEFINITION_H
+#define RVBARCODEDEFINITION_H
+
+#include "RVDistanceUnit.h"
+#include "RVProductBaseExport.h"
+
+#include <QImage>
+#include <QRect>
+#include <QString>
+
+class QDomElement;
+
+/**
+ * Where the production barcode of a product goes: a rectangle in tenths of a millimetre on one page, and the placeholder
+ * image that the editor shows there.
+ *
+ * Read from the products XML. By default an invalid definition: an empty rectangle on page 0 without an image.
+ */
+class RVPRODUCTBASE_EXPORT RVBarcodeDefinition
+{
+public:
+    /// The placeholder of a barcode that names none.
+    static const QString DEFAULT_IMAGE_NAME;
+
+    RVBarcodeDefinition();
+    RVBarcodeDefinition(const QRect &rect, int pageNr, const QString &imageName);
+    RVBarcodeDefinition(const RVBarcodeDefinition &) = default;
+    RVBarcodeDefinition(RVBarcodeDefinition &&) = default;
+    RVBarcodeDefinition &operator=(const RVBarcodeDefinition &) = default;
+    RVBarcodeDefinition &operator=(RVBarcodeDefinition &&) = default;
+    virtual ~RVBarcodeDefinition();
+
+    /// Reads "position_x", "position_y", "width" and "height" in @p unit (1 each), "image" (DEFAULT_IMAGE_NAME) and
+    /// "pageNr" (0). "position_y" is the lower edge; the barcode stands on it. At 20 mm, 10 mm high, it is
+    /// in the tenths 100 to 199.
+    static RVBarcodeDefinition createFromProductsXML(const QDomElement &element, const RVDistanceUnit &unit);
+
+    QRect rect() const noexcept { return myRect; }
+    int pageNr() const noexcept { return myPageNr; }
+    QString imageName() const { return myImageName; }
+    /// The placeholder, loaded when it is first asked for; null where it cannot be loaded. Copies share it afterwards.
+    /// One thread at a time.
+    QImage image() const;
+    /// True for a rectangle that is not empty, with the name of an image.
+    bool isValid() const noexcept;
+
+    /// The image itself does not count, only its name.
+    bool operator==(const RVBarcodeDefinition &other) const;
+    bool operator!=(const RVBarcodeDefinition &other) const { return !(*this == other); }
+    /// No strict order: true as soon as one of left, top, width, height and page is smaller here, whatever came before;
+    /// then by the name of the image.
+    bool operator<(const RVBarcodeDefinition &other) const;
+
+private:
+    QRect myRect;
+    int myPageNr = 0;
+    QString myImageName;
+    mutable QImage myImage;
+};
+
+Q_DECLARE_TYPEINFO(RVBarcodeDefinition, Q_RELOCATABLE_TYPE);
+
+#endif

@@ -1,0 +1,3 @@
+#include "RVBleedMargin.h"
+
+RVBleedMargin::~RVBleedMargin() = default;

@@ -1,0 +1,204 @@
+#include "RVCoverType.h"
+
+#include "RVDisplayNames_p.h"
+#include "RVKeywords_p.h"
+
+using namespace Qt::StringLiterals;
+
+template class RVEnumWrapper<RVCoverTypeEnum>;
+
+namespace {
+
+constexpr char CONTEXT[] = "RVBinding";
+
+constexpr RVKeyword<RVCoverTypeEnum> KEYWORDS[] = {
+    { "HARDCOVER"_L1, HARDCOVER },
+    { "HARD"_L1, HARDCOVER },
+    { "SOFTCOVER"_L1, SOFTCOVER },
+    { "SOFT"_L1, SOFTCOVER },
+    { "CALENDAR_SIMPLEX"_L1, CALENDAR_SIMPLEX },
+    { "wall_calendar"_L1, CALENDAR_SIMPLEX },
+    { "CALENDAR_DUPLEX"_L1, CALENDAR_DUPLEX },
+    { "table_calendar"_L1, CALENDAR_DUPLEX },
+    { "CALENDAR_ONE_PAGE"_L1, CALENDAR_ONE_PAGE },
+    { "CALENDAR_ANNUAL_SIMPLEX"_L1, CALENDAR_ONE_PAGE },
+    { "CALENDAR_ANNUAL_DUPLEX"_L1, CALENDAR_ANNUAL_DUPLEX },
+    { "GIFT"_L1, GIFT },
+    { "BOOKLET"_L1, BOOKLET },
+    { "tacked"_L1, BOOKLET },
+    { "CROMOLINEN"_L1, CROMOLINEN },
+    { "CROMO"_L1, CROMOLINEN },
+    { "LEATHER"_L1, LEATHER },
+    { "AGENDA"_L1, AGENDA },
+    { "acryl_glas"_L1, ACRYL_GLAS },
+    { "canvas"_L1, CANVAS },
+    { "alu_dibond"_L1, ALU_DIBOND },
+    { "hard_foam"_L1, HARD_FOAM },
+    { "decoration"_L1, DECORATION },
+    { "gallery_print"_L1, GALLERY_PRINT },
+    { "calender_advent_empty"_L1, CALENDER_ADVENT_EMPTY },
+    { "calender_advent_chocolate"_L1, CALENDER_ADVENT_CHOCOLATE },
+    { "calender_advent_photo"_L1, CALENDER_ADVENT_PHOTO },
+    { "ceramics"_L1, CERAMICS },
+    { "games"_L1, GAMES },
+    { "office"_L1, OFFICE },
+    { "poster_decoration"_L1, POSTER_DECORATION },
+    { "poster_premium"_L1, POSTER_PREMIUM },
+    { "poster_self_adhesive"_L1, POSTER_SELF_ADHESIVE },
+    { "poster_standard"_L1, POSTER_STANDARD },
+    { "poster_xxl"_L1, POSTER_XXL },
+    { "textiles"_L1, TEXTILES },
+    { "wood"_L1, WOOD },
+    { "set"_L1, SET },
+    { "wire-o"_L1, WIRE_O },
+};
+
+/// CERAMICS has no name on purpose; an empty one is a name all the same.
+constexpr RVDisplayText<RVCoverTypeEnum> NAMES[] = {
+    { HARDCOVER, QT_TRANSLATE_NOOP("RVBinding", "Hardcover") },
+    { SOFTCOVER, QT_TRANSLATE_NOOP("RVBinding", "Softcover") },
+    { CROMOLINEN, QT_TRANSLATE_NOOP("RVBinding", "Leinen") },
+    { LEATHER, QT_TRANSLATE_NOOP("RVBinding", "Leder") },
+    { BOOKLET, QT_TRANSLATE_NOOP("RVBinding", "Heft") },
+    { CALENDAR_SIMPLEX, QT_TRANSLATE_NOOP("RVBinding", "Kalender einseitig") },
+    { CALENDAR_DUPLEX, QT_TRANSLATE_NOOP("RVBinding", "Kalender doppelseitig") },
+    { CALENDAR_ONE_PAGE, QT_TRANSLATE_NOOP("RVBinding", "1-Seiten-Kalender") },
+    { CALENDAR_ANNUAL_DUPLEX, QT_TRANSLATE_NOOP("RVBinding", "2-Seiten-Jahresplaner") },
+    { WIRE_O, QT_TRANSLATE_NOOP("RVBinding", "Kunststoff-Spiralbindung") },
+    { GIFT, "" },
+    { AGENDA, "" },
+    { ACRYL_GLAS, "" },
+    { CANVAS, "" },
+    { ALU_DIBOND, "" },
+    { HARD_FOAM, "" },
+    { DECORATION, "" },
+    { POSTER_DECORATION, "" },
+    { POSTER_PREMIUM, "" },
+    { POSTER_SELF_ADHESIVE, "" },
+    { POSTER_STANDARD, "" },
+    { POSTER_XXL, "" },
+    { GALLERY_PRINT, "" },
+    { CALENDER_ADVENT_EMPTY, "" },
+    { CALENDER_ADVENT_CHOCOLATE, "" },
+    { CALENDER_ADVENT_PHOTO, "" },
+    { GAMES, "" },
+    { OFFICE, "" },
+    { TEXTILES, "" },
+    { WOOD, "" },
+    { SET, "" },
+};
+
+constexpr RVDisplayText<RVCoverTypeEnum> TOOL_TIPS[] = {
+    { SOFTCOVER,
+      QT_TRANSLATE_NOOP("RVBinding",
+                        "Individuell gestaltbarer elastischer Einband mit Klebebindung.\n"
+                        "Das Cover ist vollständig gestaltbar.") },
+    { HARDCOVER,
+      QT_TRANSLATE_NOOP("RVBinding",
+                        "Stabiler und individuell gestaltbarer Festeinband mit Klebebindung.\n"
+                        "Das Cover ist vollständig gestaltbar.") },
+    { CALENDAR_SIMPLEX,
+      QT_TRANSLATE_NOOP("RVBinding",
+                        "Einseitig bedruckte Kalender eignen sich besonders zum Aufhängen,\n"
+                        "da die leere Seite zur Wand zeigt, und daher nicht gesehen werden kann.") },
+    { CALENDAR_DUPLEX,
+      QT_TRANSLATE_NOOP("RVBinding",
+                        "Doppelseitig bedruckte Kalender eignen sich besonders zum auf-den-Tisch-Legen.") },
+    { CALENDAR_ONE_PAGE,
+      QT_TRANSLATE_NOOP("RVBinding",
+                        "Ein großformatiger Einseitig bedruckter Jahreskalender gibt übersicht über das gesamte "
+                        "Kalenderjahr.\nAlles auf einen Blick.") },
+    { CALENDAR_ANNUAL_DUPLEX,
+      QT_TRANSLATE_NOOP("RVBinding",
+                        "Ein großformatiger Beidseitig bedruckter Jahreskalender gibt übersicht über das gesamte "
+                        "Kalenderjahr.\nAlles auf einen Blick.") },
+    { BOOKLET,
+      QT_TRANSLATE_NOOP("RVBinding", "Individuell gestaltbarer flexibler Einband mit Rückstichbindung.") },
+};
+
+/// The first line of the tool tips that have the second one in common.
+constexpr RVDisplayText<RVCoverTypeEnum> TEXTILE_TOOL_TIPS[] = {
+    { CROMOLINEN,
+      QT_TRANSLATE_NOOP("RVBinding", "Der hochwertige Leinen-Einband ist in verschiedenen Farben erhältlich.") },
+    { LEATHER,
+      QT_TRANSLATE_NOOP("RVBinding", "Der hochwertige Leder-Einband ist in verschiedenen Farben erhältlich.") },
+};
+
+QString unknownName()
+{
+    return QCoreApplication::translate("RVBinding", "unbekannter Bindungstyp");
+}
+
+QMap<RVCoverType, QString> toolTips()
+{
+    QMap<RVCoverType, QString> result = rvTranslated<RVCoverType>(CONTEXT, TOOL_TIPS);
+    const QString design = QCoreApplication::translate(
+            "RVBinding", "Das Cover kann nur mit veredelten Elementen gestaltet werden.");
+    for (const auto &row : TEXTILE_TOOL_TIPS) {
+        const QString pattern = QCoreApplication::translate("RVBinding", "%1\n%2");
+        result.insert(row.value, pattern.arg(QCoreApplication::translate(CONTEXT, row.text), design));
+    }
+    return result;
+}
+
+}
+
+RVCoverType::RVCoverType(RVCoverTypeEnum value) noexcept : RVEnumWrapper(value) { }
+
+RVCoverType::RVCoverType(const QString &text) : RVCoverType()
+{
+    setValue(text);
+}
+
+RVCoverType RVCoverType::createFromHumanReadable(const QString &name)
+{
+    return bindingNames().value(name);
+}
+
+bool RVCoverType::isRegularCover() const
+{
+    return isValid() && !hasValue(WIRE_O);
+}
+
+bool RVCoverType::isFullCover() const
+{
+    return matches(HARDCOVER | SOFTCOVER | BOOKLET);
+}
+
+bool RVCoverType::isSimplex() const
+{
+    return matches(CALENDAR_SIMPLEX | CALENDAR_ONE_PAGE | CALENDAR_ANNUAL_DUPLEX | GIFT | AGENDA);
+}
+
+QString RVCoverType::humanReadableName() const
+{
+    return bindingNames().name(*this);
+}
+
+QString RVCoverType::toolTip() const
+{
+    return bindingToolTips().name(*this);
+}
+
+const RVDisplayNames<RVCoverType> &RVCoverType::bindingNames()
+{
+    static const RVDisplayNames<RVCoverType> theNames(CONTEXT, rvTranslated<RVCoverType>(CONTEXT, NAMES), RVCoverType(),
+                                                      unknownName());
+    return theNames;
+}
+
+const RVDisplayNames<RVCoverType> &RVCoverType::bindingToolTips()
+{
+    static const RVDisplayNames<RVCoverType> theToolTips(CONTEXT, toolTips(), RVCoverType(), unknownName());
+    return theToolTips;
+}
+
+void RVCoverType::fillTable(RVEnumToStringTable<RVCoverTypeEnum> *table) const
+{
+    rvInsertKeywords(table, KEYWORDS);
+}
+
+QDebug operator<<(QDebug debug, const RVCoverType &coverType)
+{
+    return rvDebugAttribute(debug, "RVCoverType", coverType);
+}

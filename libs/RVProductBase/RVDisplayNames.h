@@ -1,0 +1,53 @@
+#ifndef RVDISPLAYNAMES_H
+#define RVDISPLAYNAMES_H
+
+#include <QByteArray>
+#include <QCoreApplication>
+#include <QMap>
+#include <QString>
+
+#include <utility>
+
+/**
+ * What people read for the values of one attribute class T: a name for each value that has one, and what stands for all
+ * others.
+ *
+ * The names are in the language that the application speaks when the table is built, which is when it is first asked
+ * for; a later change of language does not change them. Every lookup is by the exact value, not by bits.
+ */
+template<typename T>
+class RVDisplayNames
+{
+public:
+    /// The names of all values that have one, in the order of the values.
+    QMap<T, QString> names;
+    /// What a name stands for that no value has.
+    T defaultValue;
+    /// The name of a value that has none.
+    QString unknownName;
+
+    /// @p context is the translation context of the names; it must outlive the table.
+    RVDisplayNames(const char *context, QMap<T, QString> names_, const T &defaultValue_, const QString &unknownName_)
+        : names(std::move(names_)), defaultValue(defaultValue_), unknownName(unknownName_), myContext(context)
+    {
+    }
+
+    QString name(const T &value) const { return names.value(value, unknownName); }
+
+    /// The lowest value of that name, else the default value. A German name is translated first, so it is understood
+    /// whatever language the table is in. It goes to the translator as Latin-1 bytes, which are read as UTF-8 there: a
+    /// name with an umlaut is never found.
+    T value(const QString &name) const;
+
+private:
+    const char *myContext;
+};
+
+template<typename T>
+T RVDisplayNames<T>::value(const QString &name) const
+{
+    const QByteArray sourceText = name.toLatin1();
+    return names.key(QCoreApplication::translate(myContext, sourceText.constData()), defaultValue);
+}
+
+#endif

@@ -1,0 +1,25 @@
+#ifndef RVDISPLAYNAMES_P_H
+#define RVDISPLAYNAMES_P_H
+
+#include "RVDisplayNames.h"
+
+#include <cstddef>
+
+/// One row of a table of display texts. The text is German, and the source text of its translations.
+template<typename E>
+struct RVDisplayText
+{
+    E value;
+    const char *text;
+};
+
+template<typename T, typename E, std::size_t N>
+QMap<T, QString> rvTranslated(const char *context, const RVDisplayText<E> (&rows)[N])
+{
+    QMap<T, QString> result;
+    for (const RVDisplayText<E> &row : rows)
+        result.insert(row.value, QCoreApplication::translate(context, row.text));
+    return result;
+}
+
+#endif

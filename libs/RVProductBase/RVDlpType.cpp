@@ -1,0 +1,135 @@
+#include "RVDlpType.h"
+
+#include "RVDirectoryName.h"
+#include "RVKeywords_p.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <iterator>
+
+using namespace Qt::StringLiterals;
+
+template class RVEnumWrapper<RVDlpTypeEnum>;
+
+namespace {
+
+constexpr RVKeyword<RVDlpTypeEnum> KEYWORDS[] = {
+    { "background"_L1, DLP_TYPE_BACKGROUND },
+    { "template"_L1, DLP_TYPE_TEMPLATE },
+    { "clipart"_L1, DLP_TYPE_CLIPART },
+    { "mask"_L1, DLP_TYPE_MASK },
+    { "style_v2"_L1, DLP_TYPE_STYLE_V2 },
+    { "layoutcollection"_L1, DLP_TYPE_LAYOUTCOLLECTION },
+    { "form_parameter_data"_L1, DLP_TYPE_FORM_PARAMETER_DATA },
+    { "predefined_project"_L1, DLP_TYPE_PREDEFINED_PROJECT },
+    { "filter_linnen_capable"_L1, DLP_TYPE_FILTER_LINNEN_CAPABLE },
+    { "storybook"_L1, DLP_TYPE_STORYBOOK },
+    { "style_v2_coverpage"_L1, DLP_TYPE_STYLE_V2_COVERPAGE },
+    { "style_v2_innerpage"_L1, DLP_TYPE_STYLE_V2_INNERPAGE },
+};
+
+/// With the note to translators that comes with every plural form.
+struct CountedText
+{
+    const char *text;
+    const char *comment;
+};
+
+constexpr struct
+{
+    RVDlpTypeEnum value;
+    const char *text;
+    CountedText counted;
+} NAMES[] = {
+    { DLP_TYPE_BACKGROUND, QT_TRANSLATE_NOOP("RVDlpType", "Hintergründe"),
+      QT_TRANSLATE_N_NOOP3("RVDlpType", "%n Hintergründe", "Bitte jede Pluralform ausschreiben!!!") },
+    { DLP_TYPE_STYLE_V2, QT_TRANSLATE_NOOP("RVDlpType", "Stile"),
+      QT_TRANSLATE_N_NOOP3("RVDlpType", "%n Stile", "Bitte jede Pluralform ausschreiben!!!") },
+    { DLP_TYPE_TEMPLATE, QT_TRANSLATE_NOOP("RVDlpType", "Designs"),
+      QT_TRANSLATE_N_NOOP3("RVDlpType", "%n Designs", "Bitte jede Pluralform ausschreiben!!!") },
+    { DLP_TYPE_CLIPART, QT_TRANSLATE_NOOP("RVDlpType", "Cliparts"),
+      QT_TRANSLATE_N_NOOP3("RVDlpType", "%n Cliparts", "Bitte jede Pluralform ausschreiben!!!") },
+    { DLP_TYPE_MASK, QT_TRANSLATE_NOOP("RVDlpType", "Masken & Rahmen"),
+      QT_TRANSLATE_N_NOOP3("RVDlpType", "%n Masken & Rahmen", "Bitte jede Pluralform ausschreiben!!!") },
+    { DLP_TYPE_STORYBOOK, QT_TRANSLATE_NOOP("RVDlpType", "Buchvorlagen"),
+      QT_TRANSLATE_N_NOOP3("RVDlpType", "%n Buchvorlagen", "Bitte jede Pluralform ausschreiben!!!") },
+    { DLP_TYPE_STORYBOOK | DLP_TYPE_STYLE_V2, QT_TRANSLATE_NOOP("RVDlpType", "Vorlagen"),
+      QT_TRANSLATE_N_NOOP3("RVDlpType", "%n Vorlagen", "Bitte jede Pluralform ausschreiben!!!") },
+};
+
+/// 0 where content of the type has no directory. Masks go to the cliparts.
+RVDirectoryNameEnum directory(RVDlpTypeEnum type, bool alternative)
+{
+    switch (type) {
+    case DLP_TYPE_BACKGROUND:
+        return DIRECTORY_BACKGROUNDS;
+    case DLP_TYPE_STYLE_V2:
+        return DIRECTORY_STYLES;
+    case DLP_TYPE_TEMPLATE:
+        return alternative ? DIRECTORY_DESIGNS : DIRECTORY_TEMPLATES;
+    case DLP_TYPE_CLIPART:
+    case DLP_TYPE_MASK:
+        return DIRECTORY_CLIPARTS;
+    case DLP_TYPE_LAYOUTCOLLECTION:
+        return DIRECTORY_LAYOUTS;
+    case DLP_TYPE_FORM_PARAMETER_DATA:
+        return DIRECTORY_FORMPARAMETERS;
+    case DLP_TYPE_PREDEFINED_PROJECT:
+        return DIRECTORY_TEMPLATES;
+    default:
+        return RVDirectoryNameEnum(0);
+    }
+}
+
+}
+
+RVDlpType::RVDlpType(RVDlpTypeEnum value) noexcept : RVEnumWrapper(value) { }
+
+RVDlpType::RVDlpType(const QString &text) : RVDlpType()
+{
+    setValue(text);
+}
+
+QString RVDlpType::visibleName(int n) const
+{
+    const auto *const row = std::find_if(std::begin(NAMES), std::end(NAMES),
+                                         [this](const auto &name) { return name.value == withoutFilter(); });
+    if (row == std::end(NAMES))
+        return QString();
+    if (n == -1)
+        return QCoreApplication::translate("RVDlpType", row->text);
+    return QCoreApplication::translate("RVDlpType", row->counted.text, row->counted.comment, n);
+}
+
+QString RVDlpType::dlpPath(bool alternative) const
+{
+    return RVDirectoryName(directory(withoutFilter(), alternative)).name();
+}
+
+bool RVDlpType::dlpButtonForbidden() const
+{
+    return hasValue(DLP_TYPE_LAYOUTCOLLECTION);
+}
+
+QString RVDlpType::queryValue() const
+{
+    const bool isStyle = matches(DLP_TYPE_STYLE_V2 | DLP_TYPE_STORYBOOK | DLP_TYPE_STYLE_V2_COVERPAGE
+                                 | DLP_TYPE_STYLE_V2_INNERPAGE);
+    return enumToStringTable()->encode(isStyle ? DLP_TYPE_STYLE_V2 : withoutFilter());
+}
+
+QString RVDlpType::describe() const
+{
+    return u"%1 | %2"_s.arg(QString::number(value()), encodeCSV());
+}
+
+void RVDlpType::fillTable(RVEnumToStringTable<RVDlpTypeEnum> *table) const
+{
+    rvInsertKeywords(table, KEYWORDS);
+}
+
+QDebug operator<<(QDebug debug, const RVDlpType &dlpType)
+{
+    return rvDebugAttribute(debug, "RVDlpType", dlpType);
+}

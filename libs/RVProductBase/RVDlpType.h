@@ -1,0 +1,58 @@
+#ifndef RVDLPTYPE_H
+#define RVDLPTYPE_H
+
+#include "RVEnumWrapper.h"
+#include "RVProductBaseExport.h"
+
+class QDebug;
+
+enum RVDlpTypeEnum : qint32 {
+    DLP_TYPE_BACKGROUND = 1,
+    DLP_TYPE_STYLE_V2 = 2,
+    DLP_TYPE_TEMPLATE = 4, ///< a design
+    DLP_TYPE_CLIPART = 8,
+    DLP_TYPE_MASK = 16,
+    DLP_TYPE_LAYOUTCOLLECTION = 32,
+    DLP_TYPE_STORYBOOK = 64,
+    DLP_TYPE_FORM_PARAMETER_DATA = 128,
+    DLP_TYPE_PREDEFINED_PROJECT = 256,
+    DLP_TYPE_FILTER_LINNEN_CAPABLE = 512, ///< no type: limits another one to what suits linen covers
+    DLP_TYPE_STYLE_V2_COVERPAGE = 1024,
+    DLP_TYPE_STYLE_V2_INNERPAGE = 2048,
+};
+RV_DECLARE_ENUM_OPERATORS(RVDlpTypeEnum)
+
+extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVDlpTypeEnum>;
+
+/// A kind of design content that the application downloads. 0 is none. Names, directories and queries take no notice of
+/// DLP_TYPE_FILTER_LINNEN_CAPABLE.
+class RVPRODUCTBASE_EXPORT RVDlpType : public RVEnumWrapper<RVDlpTypeEnum>
+{
+public:
+    RVDlpType(RVDlpTypeEnum value = RVDlpTypeEnum(0)) noexcept;
+    /// From a keyword list such as "clipart, mask".
+    RVDlpType(const QString &text);
+
+    /// What the customer reads for exactly this type, without a number for -1, else with @p n in the plural form that
+    /// belongs to it: "3 Cliparts". A null text where there is no name.
+    QString visibleName(int n) const;
+    /// The name of the directory for exactly this type; designs have an alternative one. A null text where there is none.
+    QString dlpPath(bool alternative) const;
+    /// True for exactly DLP_TYPE_LAYOUTCOLLECTION.
+    bool dlpButtonForbidden() const;
+    /// The keyword in a query: "style_v2" with any bit of a style or a book template, else that of exactly this type.
+    QString queryValue() const;
+    /// For logs, such as "9 | background, clipart".
+    QString describe() const;
+
+    void fillTable(RVEnumToStringTable<RVDlpTypeEnum> *table) const override;
+
+private:
+    RVDlpTypeEnum withoutFilter() const noexcept { return value() & ~DLP_TYPE_FILTER_LINNEN_CAPABLE; }
+};
+
+Q_DECLARE_TYPEINFO(RVDlpType, Q_RELOCATABLE_TYPE);
+
+RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVDlpType &dlpType);
+
+#endif

@@ -1,0 +1,94 @@
+#include "RVFotoPaperType.h"
+
+#include "RVArticleClass.h"
+#include "RVKeywords_p.h"
+
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+template class RVEnumWrapper<RVFotoPaperTypeEnum>;
+
+namespace {
+
+constexpr RVKeyword<RVFotoPaperTypeEnum> KEYWORDS[] = {
+    { "0"_L1, NO_FOTO_PAPER },
+    { "1"_L1, GLOSSY },
+    { "glossy"_L1, GLOSSY },
+    { "2"_L1, MATT },
+    { "matt"_L1, MATT },
+};
+
+}
+
+RVFotoPaperType::RVFotoPaperType(RVFotoPaperTypeEnum value) noexcept : RVEnumWrapper(value) { }
+
+RVFotoPaperType::RVFotoPaperType(const QString &text) : RVFotoPaperType()
+{
+    setValue(text);
+}
+
+RVFotoPaperType RVFotoPaperType::defaultFor(const RVArticleClass &articleClass)
+{
+    switch (articleClass.value()) {
+    case ARTICLE_CLASS_FOTO:
+    case ARTICLE_CLASS_PREMIUMFOTO:
+    case ARTICLE_CLASS_POSTERFOTO:
+        return GLOSSY;
+    default:
+        return NO_FOTO_PAPER;
+    }
+}
+
+QList<RVFotoPaperType> RVFotoPaperType::createFromXTCI(const QString &code)
+{
+    bool isNumber = false;
+    const int number = code.toInt(&isNumber);
+    if (!isNumber)
+        return {};
+    switch (number) {
+    case 0:
+        return { GLOSSY, MATT };
+    case 1:
+        return { GLOSSY };
+    case 2:
+        return { MATT };
+    default:
+        return {};
+    }
+}
+
+QString RVFotoPaperType::humanReadableName() const
+{
+    switch (value()) {
+    case NO_FOTO_PAPER:
+        return QCoreApplication::translate("RVFotoPaperType", "Unbekanntes Fotopapier");
+    case GLOSSY:
+        return QCoreApplication::translate("RVFotoPaperType", "Glänzend");
+    case MATT:
+        return QCoreApplication::translate("RVFotoPaperType", "Matt");
+    }
+    return QString();
+}
+
+QString RVFotoPaperType::encodeForProduction() const
+{
+    switch (value()) {
+    case GLOSSY:
+        return u"1"_s;
+    case MATT:
+        return u"2"_s;
+    default:
+        return u""_s;
+    }
+}
+
+void RVFotoPaperType::fillTable(RVEnumToStringTable<RVFotoPaperTypeEnum> *table) const
+{
+    rvInsertKeywords(table, KEYWORDS);
+}
+
+QDebug operator<<(QDebug debug, const RVFotoPaperType &fotoPaperType)
+{
+    return rvDebugAttribute(debug, "RVFotoPaperType", fotoPaperType);
+}

@@ -1,0 +1,46 @@
+#ifndef RVFOTOPAPERTYPE_H
+#define RVFOTOPAPERTYPE_H
+
+#include "RVEnumWrapper.h"
+#include "RVProductBaseExport.h"
+
+#include <QList>
+
+class QDebug;
+class RVArticleClass;
+
+enum RVFotoPaperTypeEnum : qint32 {
+    NO_FOTO_PAPER = 0,
+    GLOSSY = 0x1,
+    MATT = 0x2,
+};
+RV_DECLARE_ENUM_OPERATORS(RVFotoPaperTypeEnum)
+
+extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVFotoPaperTypeEnum>;
+
+/// The surface of a photo print. 0 is none; it has the keyword "0".
+class RVPRODUCTBASE_EXPORT RVFotoPaperType : public RVEnumWrapper<RVFotoPaperTypeEnum>
+{
+public:
+    RVFotoPaperType(RVFotoPaperTypeEnum value = NO_FOTO_PAPER) noexcept;
+    /// From a keyword list such as "glossy" or "1, 2".
+    RVFotoPaperType(const QString &text);
+
+    /// The surface for exactly one class of photo print; none for any other class, and for several at once.
+    static RVFotoPaperType defaultFor(const RVArticleClass &articleClass);
+    /// From the paper field of an order transfer: both surfaces for "0", one for "1" and "2", none for anything else.
+    static QList<RVFotoPaperType> createFromXTCI(const QString &code);
+
+    /// What the customer reads for exactly this value; a null text where there is no name.
+    QString humanReadableName() const;
+    /// "1" or "2" for exactly one surface, else empty.
+    QString encodeForProduction() const;
+
+    void fillTable(RVEnumToStringTable<RVFotoPaperTypeEnum> *table) const override;
+};
+
+Q_DECLARE_TYPEINFO(RVFotoPaperType, Q_RELOCATABLE_TYPE);
+
+RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVFotoPaperType &fotoPaperType);
+
+#endif

@@ -1,0 +1,51 @@
+#ifndef RVMARGINS_H
+#define RVMARGINS_H
+
+#include "RVMarginsImpl.h"
+#include "RVProductBaseExport.h"
+
+#include <QExplicitlySharedDataPointer>
+#include <QPoint>
+#include <QSize>
+
+class QDebug;
+
+/**
+ * The bleed around a page: what is printed beyond each of its four edges and cut away, in the unit of the page size.
+ *
+ * It never changes, so copies share their data, also between threads. A moved-from object may only be destroyed or
+ * assigned to.
+ */
+class RVPRODUCTBASE_EXPORT RVMargins
+{
+public:
+    /// All margins 0.
+    RVMargins();
+    RVMargins(int top, int bottom, int left, int right);
+    RVMargins(int vertical, int horizontal);
+
+    int top() const noexcept { return d->top(); }
+    int bottom() const noexcept { return d->bottom(); }
+    int left() const noexcept { return d->left(); }
+    int right() const noexcept { return d->right(); }
+
+    /// The left margin as x, the top margin as y.
+    QPoint topLeft() const noexcept { return d->topLeft(); }
+    /// The right margin as x, the bottom margin as y.
+    QPoint bottomRight() const noexcept { return d->bottomRight(); }
+    /// What the margins add to the width and to the height of the page.
+    QSize totalMarginWH() const noexcept { return d->totalMarginWH(); }
+    bool allNull() const noexcept { return d->allNull(); }
+
+    bool operator==(const RVMargins &other) const noexcept { return d == other.d || *d == *other.d; }
+    bool operator!=(const RVMargins &other) const noexcept { return !(*this == other); }
+
+private:
+    QExplicitlySharedDataPointer<const RVMarginsImpl> d;
+};
+
+Q_DECLARE_TYPEINFO(RVMargins, Q_RELOCATABLE_TYPE);
+
+RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVMargins &margins);
+
+#endif

@@ -1,0 +1,57 @@
+#ifndef RVMODELADDONSTATISTIC_H
+#define RVMODELADDONSTATISTIC_H
+
+#include "RVArticleVariants.h"
+#include "RVContentStatistic.h"
+#include "RVPriceClass.h"
+#include "RVPriceClassSet.h"
+#include "RVProductBaseExport.h"
+
+/// What a project contains that costs extra, together with the add-ons that its product model offers.
+class RVPRODUCTBASE_EXPORT RVModelAddOnStatistic
+{
+public:
+    RVModelAddOnStatistic(const RVContentStatistic &contentStatistic, const RVPriceClass &videoAddOn,
+                          const RVPriceClass &spotColorAddOn);
+    /// Offers the video add-on "MUL1" and no spot colour.
+    RVModelAddOnStatistic(const RVContentStatistic &contentStatistic);
+    RVModelAddOnStatistic(const RVModelAddOnStatistic &) = default;
+    RVModelAddOnStatistic(RVModelAddOnStatistic &&) = default;
+    RVModelAddOnStatistic &operator=(const RVModelAddOnStatistic &) = default;
+    RVModelAddOnStatistic &operator=(RVModelAddOnStatistic &&) = default;
+    virtual ~RVModelAddOnStatistic();
+
+    RVContentStatistic contentStatistic() const { return myContentStatistic; }
+    int countGeoMapAreas() const noexcept { return myContentStatistic.countGeoMapAreas(); }
+    int countVideoAreas() const noexcept { return myContentStatistic.countVideoAreas(); }
+    QMap<RVPriceClass, int> additionalContent() const { return myContentStatistic.boughtAdditionalContent(); }
+    int count(const RVPriceClass &priceClass) const { return myContentStatistic.count(priceClass); }
+
+    RVPriceClass videoAddOn() const { return myVideoAddOn; }
+    RVPriceClass spotColorAddOn() const { return mySpotColorAddOn; }
+    RVPriceClass flyLeafAddOn() const { return myFlyLeafAddOn; }
+    /// The options that were chosen with the fly-leaf.
+    RVArticleVariants flyLeafVariants() const { return myFlyLeafVariants; }
+    RVPriceClassSet designStyleAddOns() const { return myDesignStyleAddOns; }
+    RVPriceClass panoPagesAddOn() const { return myPanoPagesAddOn; }
+
+    void addAddOn(const RVPriceClass &priceClass, int quantity) { myContentStatistic.addAddOn(priceClass, quantity); }
+    void removeAddOn(const RVPriceClass &priceClass) { myContentStatistic.removeAddOn(priceClass); }
+
+    void setVideoAddOn(const RVPriceClass &priceClass);
+    void setSpotColorAddOn(const RVPriceClass &priceClass);
+    void setFlyLeafAddOn(const RVPriceClass &priceClass, const RVArticleVariants &variants);
+    void setDesignStyleAddOns(const RVPriceClassSet &priceClasses);
+    void setPanoPagesAddOn(const RVPriceClass &priceClass);
+
+private:
+    RVContentStatistic myContentStatistic;
+    RVPriceClass myVideoAddOn;
+    RVPriceClass mySpotColorAddOn;
+    RVPriceClass myFlyLeafAddOn;
+    RVArticleVariants myFlyLeafVariants;
+    RVPriceClassSet myDesignStyleAddOns;
+    RVPriceClass myPanoPagesAddOn;
+};
+
+#endif

@@ -1,0 +1,31 @@
+#include "RVOrderId.h"
+
+#include <QDataStream>
+#include <QDebug>
+
+RVOrderId::RVOrderId() = default;
+
+RVOrderId::RVOrderId(const QString &id) : myId(id) { }
+
+RVOrderId::~RVOrderId() = default;
+
+void RVOrderId::clear()
+{
+    myId.clear();
+}
+
+QString RVOrderId::toString(bool replaceDashes) const
+{
+    QString text = myId;
+    return replaceDashes ? text.replace(u'-', u'_') : text;
+}
+
+QDataStream &RVOrderId::operator<<(QDataStream &stream) const
+{
+    return stream << myId;
+}
+
+QDebug operator<<(QDebug debug, const RVOrderId &orderId)
+{
+    return debug << orderId.toString();
+}

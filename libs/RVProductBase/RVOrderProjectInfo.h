@@ -1,0 +1,52 @@
+#ifndef RVORDERPROJECTINFO_H
+#define RVORDERPROJECTINFO_H
+
+#include "RVOrderId.h"
+#include "RVProductBaseExport.h"
+
+#include <QString>
+
+class QDataStream;
+class QDebug;
+
+/// Ties a project of the user to the order that it was sent with, or asks for its order data to be deleted.
+class RVPRODUCTBASE_EXPORT RVOrderProjectInfo
+{
+public:
+    /// @p xtciSession is the session of the order transfer, @p orderPosition counts within the order; negative is
+    /// unknown.
+    RVOrderProjectInfo(const QString &xtciSession, const RVOrderId &orderId, int orderPosition);
+    RVOrderProjectInfo(const RVOrderProjectInfo &) = default;
+    RVOrderProjectInfo(RVOrderProjectInfo &&) = default;
+    RVOrderProjectInfo &operator=(const RVOrderProjectInfo &) = default;
+    RVOrderProjectInfo &operator=(RVOrderProjectInfo &&) = default;
+    virtual ~RVOrderProjectInfo();
+
+    /// The one that asks for deletion; it is not valid.
+    static RVOrderProjectInfo createDeletingProjetInfo();
+
+    QString xtciSession() const { return myXtciSession; }
+    RVOrderId orderId() const { return myOrderId; }
+    int orderPosition() const noexcept { return myOrderPosition; }
+    bool deleteProjectInfo() const noexcept { return myDeleteProjectInfo; }
+    /// True with a valid order, a known position and a session that is not null.
+    bool isValid() const noexcept;
+
+    void setOrderId(const RVOrderId &orderId);
+
+    /// Writes the order id, the position as a 32-bit integer and the session: the info is on the left, the stream on the
+    /// right.
+    QDataStream &operator<<(QDataStream &stream) const;
+
+private:
+    QString myXtciSession;
+    RVOrderId myOrderId;
+    int myOrderPosition;
+    bool myDeleteProjectInfo = false;
+};
+
+Q_DECLARE_TYPEINFO(RVOrderProjectInfo, Q_RELOCATABLE_TYPE);
+
+RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVOrderProjectInfo &info);
+
+#endif

@@ -1,0 +1,77 @@
+#ifndef RVORIENTATION_H
+#define RVORIENTATION_H
+
+#include "RVEnumWrapper.h"
+#include "RVProductBaseExport.h"
+
+class QDebug;
+class QDomElement;
+class QSizeF;
+class RVAngle;
+
+enum RVOrientationEnum : qint32 {
+    ORIENTATION_NONE = 0,
+    ORIENTATION_PORTRAIT = 1,
+    ORIENTATION_LANDSCAPE = 2,
+    ORIENTATION_SQUARE = 4,
+    ORIENTATION_PORTRAIT_SLIM = 8,
+    ORIENTATION_LANDSCAPE_SLIM = 16,
+    ORIENTATION_ALL = ORIENTATION_PORTRAIT | ORIENTATION_LANDSCAPE | ORIENTATION_SQUARE | ORIENTATION_PORTRAIT_SLIM
+        | ORIENTATION_LANDSCAPE_SLIM,
+};
+RV_DECLARE_ENUM_OPERATORS(RVOrientationEnum)
+
+extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVOrientationEnum>;
+
+/// Whether a page or a product is upright, wide, square, or slim. 0 is none; a value without a keyword is written as
+/// "portrait".
+class RVPRODUCTBASE_EXPORT RVOrientation : public RVEnumWrapper<RVOrientationEnum>
+{
+public:
+    RVOrientation(RVOrientationEnum value = ORIENTATION_NONE) noexcept;
+    /// From a keyword list such as "portrait, square".
+    RVOrientation(const QString &text);
+    /// From a page size, see fromSize().
+    RVOrientation(const QSizeF &size);
+    /// From a keyword list; from the size where that gives none.
+    RVOrientation(const QString &text, const QSizeF &size);
+
+    static RVOrientation createFromSize(const QSizeF &size);
+    /// A page that is not tilted is landscape, every other one is portrait.
+    static RVOrientation createFromPageTilt(const RVAngle &tilt);
+
+    /// By width / height: from 2 slim landscape, up to 0.5 slim portrait, up to 0.9 portrait, up to 1.1 square, else
+    /// landscape. None where a side is negative or not a number, or both are 0. The object's own value does not count.
+    RVOrientationEnum fromSize(const QSizeF &size) const;
+
+    bool isPortrait() const noexcept { return matches(ORIENTATION_PORTRAIT | ORIENTATION_PORTRAIT_SLIM); }
+    bool isLandscape() const noexcept { return matches(ORIENTATION_LANDSCAPE | ORIENTATION_LANDSCAPE_SLIM); }
+    bool isQuadratic() const noexcept { return matches(ORIENTATION_SQUARE); }
+    /// Portrait, landscape or square without regard to slimness; "all" is portrait, any other combination none.
+    RVOrientation reduceToBasics() const;
+
+    /// The German adjective for exactly this value, translated, ready to stand before a product's name: "Panorama-" or
+    /// "quadratische " with a blank. Empty where there is none.
+    QString humanReadable() const;
+    /// "portrait", "landscape", "square" or "unknown"; the first that applies.
+    QString previewFileNamePrefix() const;
+    /// The usual width / height of exactly this value; 1 where there is none.
+    double defaultWidthHeightRatio() const;
+    /// The part of the length of a folded product that goes into the fold.
+    double foldMarginFactor() const;
+    /// The fold of a product of this length, rounded down, in the unit of the length.
+    int foldMargin(int length) const;
+
+    /// "portrait", "landscape", "square" or "none".
+    QString encodeForDLP() const;
+    /// Appends an element "orientation" for each bit, in no particular order; none for "all".
+    void toTemplates2Format(QDomElement &parent) const;
+
+    void fillTable(RVEnumToStringTable<RVOrientationEnum> *table) const override;
+};
+
+Q_DECLARE_TYPEINFO(RVOrientation, Q_RELOCATABLE_TYPE);
+
+RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVOrientation &orientation);
+
+#endif

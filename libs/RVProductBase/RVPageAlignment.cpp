@@ -1,0 +1,81 @@
+#include "RVPageAlignment.h"
+
+#include "RVKeywords_p.h"
+
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+template class RVEnumWrapper<RVPageAlignmentEnum>;
+
+namespace {
+
+constexpr RVKeyword<RVPageAlignmentEnum> KEYWORDS[] = {
+    { "left"_L1, PAGE_ALIGNMENT_LEFT },
+    { "leftpage"_L1, PAGE_ALIGNMENT_LEFT },
+    { "right"_L1, PAGE_ALIGNMENT_RIGHT },
+    { "rightpage"_L1, PAGE_ALIGNMENT_RIGHT },
+    { "top"_L1, PAGE_ALIGNMENT_TOP },
+    { "bottom"_L1, PAGE_ALIGNMENT_BOTTOM },
+    { "center"_L1, PAGE_ALIGNMENT_CENTER },
+    { "middle"_L1, PAGE_ALIGNMENT_MIDDLE },
+    { "fullpage"_L1, PAGE_ALIGNMENT_FULLPAGE },
+    { "cover"_L1, PAGE_ALIGNMENT_LEFT },
+    { "coverpage"_L1, PAGE_ALIGNMENT_LEFT },
+};
+
+}
+
+RVPageAlignment::RVPageAlignment(RVPageAlignmentEnum value) noexcept : RVEnumWrapper(value) { }
+
+RVPageAlignment::RVPageAlignment(const QString &text) : RVPageAlignment()
+{
+    setValue(text);
+}
+
+QString RVPageAlignment::describe() const
+{
+    switch (value()) {
+    case PAGE_ALIGNMENT_LEFT:
+        return QCoreApplication::translate("RVPageAlignment", "links");
+    case PAGE_ALIGNMENT_RIGHT:
+        return QCoreApplication::translate("RVPageAlignment", "rechts");
+    case PAGE_ALIGNMENT_MIDDLE:
+        return QCoreApplication::translate("RVPageAlignment", "auf dem Buchrücken");
+    case PAGE_ALIGNMENT_FULLPAGE:
+        return QCoreApplication::translate("RVPageAlignment", "auf dieser Seite");
+    case PAGE_ALIGNMENT_TOP:
+        return QCoreApplication::translate("RVPageAlignment", "oben");
+    case PAGE_ALIGNMENT_BOTTOM:
+        return QCoreApplication::translate("RVPageAlignment", "unten");
+    case PAGE_ALIGNMENT_CENTER:
+        return QCoreApplication::translate("RVPageAlignment", "mittig");
+    }
+    return u""_s;
+}
+
+QString RVPageAlignment::pdfPostFix(bool split) const
+{
+    if (split && hasValue(PAGE_ALIGNMENT_LEFT))
+        return u"_left.pdf"_s;
+    if (split && hasValue(PAGE_ALIGNMENT_RIGHT))
+        return u"_right.pdf"_s;
+    return u"_center.pdf"_s;
+}
+
+QString RVPageAlignment::modifyProductionPath(const QString &path, bool split) const
+{
+    QString result = path;
+    return result.replace(".pdf"_L1, pdfPostFix(split), Qt::CaseInsensitive);
+}
+
+void RVPageAlignment::fillTable(RVEnumToStringTable<RVPageAlignmentEnum> *table) const
+{
+    rvInsertKeywords(table, KEYWORDS);
+    table->defaultValue = PAGE_ALIGNMENT_LEFT;
+}
+
+QDebug operator<<(QDebug debug, const RVPageAlignment &alignment)
+{
+    return rvDebugAttribute(debug, "RVPageAlignment", alignment);
+}

@@ -1,0 +1,45 @@
+#ifndef RVPAGEALIGNMENT_H
+#define RVPAGEALIGNMENT_H
+
+#include "RVEnumWrapper.h"
+#include "RVProductBaseExport.h"
+
+class QDebug;
+
+enum RVPageAlignmentEnum : qint32 {
+    PAGE_ALIGNMENT_LEFT = 1,
+    PAGE_ALIGNMENT_RIGHT = 2,
+    PAGE_ALIGNMENT_MIDDLE = 4, ///< on the spine
+    PAGE_ALIGNMENT_FULLPAGE = 8,
+    PAGE_ALIGNMENT_TOP = 16,
+    PAGE_ALIGNMENT_BOTTOM = 32,
+    PAGE_ALIGNMENT_CENTER = 64,
+};
+RV_DECLARE_ENUM_OPERATORS(RVPageAlignmentEnum)
+
+extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVPageAlignmentEnum>;
+
+/// Where a page stands in the spread, or an element on its page. 0 is nowhere; an unknown keyword stands for the left.
+class RVPRODUCTBASE_EXPORT RVPageAlignment : public RVEnumWrapper<RVPageAlignmentEnum>
+{
+public:
+    RVPageAlignment(RVPageAlignmentEnum value = RVPageAlignmentEnum(0)) noexcept;
+    /// From a keyword list such as "left, top"; an empty one is the left.
+    RVPageAlignment(const QString &text);
+
+    /// The German words for exactly this value, translated; empty where there are none.
+    QString describe() const;
+    /// What the name of a production PDF ends with: "_left.pdf" and "_right.pdf" for exactly these pages where the output
+    /// is split by page, else "_center.pdf".
+    QString pdfPostFix(bool split) const;
+    /// The path with pdfPostFix() for every ".pdf" in it, in whatever letter case.
+    QString modifyProductionPath(const QString &path, bool split) const;
+
+    void fillTable(RVEnumToStringTable<RVPageAlignmentEnum> *table) const override;
+};
+
+Q_DECLARE_TYPEINFO(RVPageAlignment, Q_RELOCATABLE_TYPE);
+
+RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVPageAlignment &alignment);
+
+#endif

@@ -1,0 +1,72 @@
+#include "RVPageBinding.h"
+
+#include "RVDisplayNames_p.h"
+#include "RVKeywords_p.h"
+#include "RVXMLBuilder.h"
+
+#include <QDomElement>
+
+using namespace Qt::StringLiterals;
+
+template class RVEnumWrapper<RVPageBindingEnum>;
+
+namespace {
+
+constexpr char CONTEXT[] = "RVPageBinding";
+
+constexpr RVKeyword<RVPageBindingEnum> KEYWORDS[] = {
+    { "unknown"_L1, UNKNOWN },
+    { "glue"_L1, GLUE },
+    { "glued"_L1, GLUE },
+    { "layflat"_L1, LAYFLAT },
+    { "lay_flat"_L1, LAYFLAT },
+    { "stapled"_L1, STAPLED },
+    { "spiral"_L1, SPIRAL },
+};
+
+constexpr RVDisplayText<RVPageBindingEnum> NAMES[] = {
+    { GLUE, QT_TRANSLATE_NOOP("RVPageBinding", "klassische Buchbindung") },
+    { LAYFLAT, QT_TRANSLATE_NOOP("RVPageBinding", "Lay-Flat-Bindung") },
+    { STAPLED, QT_TRANSLATE_NOOP("RVPageBinding", "Rückstichbindung") },
+};
+
+}
+
+RVPageBinding::RVPageBinding(RVPageBindingEnum value) noexcept : RVEnumWrapper(value) { }
+
+RVPageBinding::RVPageBinding(const QString &text) : RVPageBinding()
+{
+    setValue(text);
+}
+
+QString RVPageBinding::humanReadableName() const
+{
+    return pageBindingNames().name(*this);
+}
+
+const RVDisplayNames<RVPageBinding> &RVPageBinding::pageBindingNames()
+{
+    static const RVDisplayNames<RVPageBinding> theNames = initPageBindingNames();
+    return theNames;
+}
+
+RVDisplayNames<RVPageBinding> RVPageBinding::initPageBindingNames()
+{
+    return { CONTEXT, rvTranslated<RVPageBinding>(CONTEXT, NAMES), RVPageBinding(), u""_s };
+}
+
+void RVPageBinding::toTemplates2Format(QDomElement &parent) const
+{
+    if (!isNull() && !matches(GLUE | LAYFLAT | STAPLED))
+        RVXMLBuilder::buildDomElement(parent, u"pageBinding"_s, encodeCSV());
+}
+
+void RVPageBinding::fillTable(RVEnumToStringTable<RVPageBindingEnum> *table) const
+{
+    rvInsertKeywords(table, KEYWORDS);
+}
+
+QDebug operator<<(QDebug debug, const RVPageBinding &pageBinding)
+{
+    return rvDebugAttribute(debug, "RVPageBinding", pageBinding);
+}

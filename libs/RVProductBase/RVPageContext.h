@@ -1,0 +1,47 @@
+#ifndef RVPAGECONTEXT_H
+#define RVPAGECONTEXT_H
+
+#include "RVPageAlignment.h"
+#include "RVPageType.h"
+#include "RVProductBaseExport.h"
+
+/// What a page of a product is: its type and its place in the spread. Both may hold several bits and then stand for each
+/// of them.
+class RVPRODUCTBASE_EXPORT RVPageContext
+{
+public:
+    RVPageContext(const RVPageType &pageType, const RVPageAlignment &alignment) noexcept;
+    RVPageContext(const RVPageContext &) noexcept = default;
+    RVPageContext(RVPageContext &&) noexcept = default;
+    RVPageContext &operator=(const RVPageContext &) noexcept = default;
+    RVPageContext &operator=(RVPageContext &&) noexcept = default;
+    virtual ~RVPageContext();
+
+    RVPageType pageType() const noexcept { return myPageType; }
+    RVPageAlignment alignment() const noexcept { return myAlignment; }
+    /// True when one bit is common.
+    bool hasPageType(const RVPageType &pageType) const noexcept { return myPageType.matches(pageType); }
+    /// True when one bit is common.
+    bool hasAlignment(const RVPageAlignment &alignment) const noexcept { return myAlignment.matches(alignment); }
+    /// True when a bit of the page type and a bit of the alignment are common.
+    bool matchesWith(const RVPageContext &other) const noexcept;
+    bool isValid() const { return myPageType.isValid() && !myAlignment.isNull(); }
+
+    /// The keywords of alignment and page type, with a blank between them.
+    QString dump() const;
+
+    bool operator==(const RVPageContext &other) const;
+    bool operator!=(const RVPageContext &other) const { return !(*this == other); }
+    /// By page type, then by alignment.
+    bool operator<(const RVPageContext &other) const;
+
+private:
+    RVPageType myPageType;
+    RVPageAlignment myAlignment;
+};
+
+Q_DECLARE_TYPEINFO(RVPageContext, Q_RELOCATABLE_TYPE);
+
+RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVPageContext &pageContext);
+
+#endif

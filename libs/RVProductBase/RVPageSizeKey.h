@@ -1,0 +1,44 @@
+#ifndef RVPAGESIZEKEY_H
+#define RVPAGESIZEKEY_H
+
+#include "RVPageContext.h"
+#include "RVProductBaseExport.h"
+
+/// What the size of a page depends on: what page it is, and how many pages the product has.
+class RVPRODUCTBASE_EXPORT RVPageSizeKey
+{
+public:
+    /// Stands for every alignment.
+    RVPageSizeKey(const RVPageType &pageType, int pageCount) noexcept;
+    RVPageSizeKey(const RVPageSizeKey &) noexcept = default;
+    RVPageSizeKey(RVPageSizeKey &&) noexcept = default;
+    RVPageSizeKey &operator=(const RVPageSizeKey &) noexcept = default;
+    RVPageSizeKey &operator=(RVPageSizeKey &&) noexcept = default;
+    virtual ~RVPageSizeKey();
+
+    RVPageContext pageContext() const noexcept { return myPageContext; }
+    RVPageType pageType() const noexcept { return myPageContext.pageType(); }
+    RVPageAlignment alignment() const noexcept { return myPageContext.alignment(); }
+    int pageCount() const noexcept { return myPageCount; }
+    /// True with a valid context and a page count that is not negative.
+    bool isValid() const { return myPageContext.isValid() && myPageCount >= 0; }
+
+    /// The page context and the page count, with a blank between them.
+    QString dump() const;
+
+    bool operator==(const RVPageSizeKey &other) const;
+    bool operator!=(const RVPageSizeKey &other) const { return !(*this == other); }
+    /// No strict order: keys of the same page count are equivalent whatever their contexts, all others are ordered by
+    /// their contexts alone. Sorted tables of page sizes rely on it.
+    bool operator<(const RVPageSizeKey &other) const;
+
+private:
+    RVPageContext myPageContext;
+    int myPageCount;
+};
+
+Q_DECLARE_TYPEINFO(RVPageSizeKey, Q_RELOCATABLE_TYPE);
+
+RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVPageSizeKey &key);
+
+#endif

@@ -1,0 +1,85 @@
+#ifndef RVPAGETYPE_H
+#define RVPAGETYPE_H
+
+#include "RVEnumWrapper.h"
+#include "RVProductBaseExport.h"
+
+#include <QList>
+
+class QDebug;
+class RVSpotColor;
+
+enum RVPageTypeEnum : qint32 {
+    PAGE_TYPE_SPINE = 0x1,
+    PAGE_TYPE_CARDFRONT = 0x2,
+    PAGE_TYPE_CARDBACK = 0x4,
+    PAGE_TYPE_NORMALPAGE = 0x8, ///< content page
+    PAGE_TYPE_EMPTYPAGE = 0x10,
+    PAGE_TYPE_FULLCOVER = 0x20,
+    PAGE_TYPE_CALENDARCOVERFRONT = 0x40,
+    PAGE_TYPE_CALENDARCOVERBACK = 0x80,
+    PAGE_TYPE_CROMOLINEN = 0x100,
+    PAGE_TYPE_LEATHER = 0x200,
+    PAGE_TYPE_ADVDOORBACK = 0x400,
+    PAGE_TYPE_NORMALPAGES = 0x800,
+    PAGE_TYPE_DUPLEXCARD = 0x1000,
+    PAGE_TYPE_FOLDEDDUPLEXCARD = 0x2000,
+    PAGE_TYPE_ARTPRINTS = 0x4000,
+    PAGE_TYPE_ADVWITHDOORBACKPRINT = 0x8000,
+    PAGE_TYPE_SLIPCASESPINE = 0x10000,
+    PAGE_TYPE_SLIPCASEEMPTYSPINE = 0x20000,
+    PAGE_TYPE_SLIPCASEFRONTCOVER = 0x40000,
+    PAGE_TYPE_SLIPCASEBACKCOVER = 0x80000,
+    PAGE_TYPE_SLIPCASESEQUENCE = 0x100000,
+    PAGE_TYPE_PANORAMA_BASE = 0x200000,
+    PAGE_TYPE_PANORAMA_WING = 0x400000,
+    PAGE_TYPE_NORMALCARDBACK = PAGE_TYPE_NORMALPAGE | PAGE_TYPE_CARDBACK,
+    PAGE_TYPE_NORMALCARDFRONT = PAGE_TYPE_NORMALPAGE | PAGE_TYPE_CARDFRONT,
+    PAGE_TYPE_NORMALADVDOORBACK = PAGE_TYPE_NORMALPAGE | PAGE_TYPE_ADVDOORBACK,
+    PAGE_TYPE_PC57INSERTEDFOTO = PAGE_TYPE_FULLCOVER | PAGE_TYPE_NORMALPAGE,
+    PAGE_TYPE_PANOBASEPAGE = PAGE_TYPE_NORMALPAGE | PAGE_TYPE_PANORAMA_BASE,
+    PAGE_TYPE_PANOWINGPAGE = PAGE_TYPE_NORMALPAGE | PAGE_TYPE_PANORAMA_WING,
+    PAGE_TYPE_PANORAMA_PAGES = PAGE_TYPE_PANORAMA_BASE | PAGE_TYPE_PANORAMA_WING,
+    PAGE_TYPE_SLIPCASECOVER = PAGE_TYPE_SLIPCASEFRONTCOVER | PAGE_TYPE_SLIPCASEBACKCOVER,
+    /// The four faces of a slipcase.
+    PAGE_TYPE_SLIPCASEPAGES = PAGE_TYPE_SLIPCASESPINE | PAGE_TYPE_SLIPCASEEMPTYSPINE | PAGE_TYPE_SLIPCASECOVER,
+    PAGE_TYPE_COVER = PAGE_TYPE_SPINE | PAGE_TYPE_FULLCOVER | PAGE_TYPE_CALENDARCOVERFRONT
+        | PAGE_TYPE_CALENDARCOVERBACK | PAGE_TYPE_CROMOLINEN | PAGE_TYPE_LEATHER | PAGE_TYPE_SLIPCASEPAGES,
+    /// Every cover and the pages of a book; no cards, no panoramas.
+    PAGE_TYPE_ALL = PAGE_TYPE_COVER | PAGE_TYPE_NORMALPAGE | PAGE_TYPE_EMPTYPAGE,
+};
+RV_DECLARE_ENUM_OPERATORS(RVPageTypeEnum)
+
+extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVPageTypeEnum>;
+
+/// What kind of page a page is: cover, spine, content page, side of a card, face of a slipcase. 0 is no page. The rules
+/// below are small bit sets that production and editor read.
+class RVPRODUCTBASE_EXPORT RVPageType : public RVEnumWrapper<RVPageTypeEnum>
+{
+public:
+    RVPageType(RVPageTypeEnum value = RVPageTypeEnum(0)) noexcept;
+    /// From a keyword list such as "spine, fullcover".
+    RVPageType(const QString &text);
+
+    /// Adds what a keyword list says.
+    void expandToKeyword(const QString &text);
+
+    /// How exactly this page is rendered for production: 0, 1 or 2.
+    int productionRenderingRule() const;
+    /// The page number that an order gives to exactly this page; else 0 for a page of a book cover, -1 for any other.
+    int explicitOrderPageNumber() const;
+    /// Which templates exactly this page accepts: 0 for none, 3, or 7 for all.
+    int acceptTemplateRule() const;
+    /// Which photos exactly this page accepts: 0 for none, or 3.
+    int acceptFotoRule() const;
+    /// True when the page can be printed with all these spot colours.
+    bool isSpotColorAllowed(const QList<RVSpotColor> &colors) const;
+
+    void fillTable(RVEnumToStringTable<RVPageTypeEnum> *table) const override;
+};
+
+Q_DECLARE_TYPEINFO(RVPageType, Q_RELOCATABLE_TYPE);
+
+RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVPageType &pageType);
+
+#endif

@@ -1,0 +1,122 @@
+#include "RVPaperType.h"
+
+#include "RVKeywords_p.h"
+
+using namespace Qt::StringLiterals;
+
+template class RVEnumWrapper<RVPaperTypeEnum>;
+
+namespace {
+
+constexpr char CONTEXT[] = "RVPaperType";
+
+constexpr RVKeyword<RVPaperTypeEnum> KEYWORDS[] = {
+    { "unbekanntes Papier"_L1, UNKNOWN_PAPER },
+    { "indigo"_L1, INDIGO },
+    { "digital_printing_standard"_L1, INDIGO },
+    { "indigo-glossy"_L1, INDIGO_GLOSSY },
+    { "glossy"_L1, INDIGO_GLOSSY },
+    { "digital_printing_glossy"_L1, INDIGO_GLOSSY },
+    { "fotopaper"_L1, FOTOPAPER },
+    { "photopaper_matt"_L1, FOTOPAPER },
+    { "fotopaper-glossy"_L1, FOTOPAPER_GLOSSY },
+    { "photopaper_glossy"_L1, FOTOPAPER_GLOSSY },
+    { "premium"_L1, PREMIUM },
+    { "digital_printing_premium"_L1, PREMIUM },
+    { "premium-matt"_L1, PREMIUM_MATT },
+    { "digital_printing_matt"_L1, PREMIUM_MATT }, // not INDIGO
+    { "fotopaper-premium-matt"_L1, FOTOPAPER_PREMIUM_MATT },
+    { "photopaper_classy_matt"_L1, FOTOPAPER_PREMIUM_MATT },
+    { "digital_printing_recycled"_L1, DIGITAL_PRINTING_RECYCLED },
+};
+
+/// The key is stored elsewhere and stays; the text is what the customer reads.
+constexpr struct
+{
+    QLatin1StringView key;
+    const char *text;
+} TEXTS[] = {
+    { "Digitaldruck Matt"_L1, QT_TRANSLATE_NOOP("RVPaperType", "Digitaldruck Matt") },
+    { "Digitaldruck Matt (100% recycelt)"_L1, QT_TRANSLATE_NOOP("RVPaperType", "Digitaldruck Matt (100% recycelt)") },
+    { "Digitaldruck Glaenzend"_L1, QT_TRANSLATE_NOOP("RVPaperType", "Digitaldruck Hochglanz") },
+    { "Digitaldruck Premium-Matt"_L1, QT_TRANSLATE_NOOP("RVPaperType", "Digitaldruck Premium-Matt") },
+    { "Fotopapier Glaenzend"_L1, QT_TRANSLATE_NOOP("RVPaperType", "Fotopapier Glänzend") },
+    { "Fotopapier Premium-Matt"_L1, QT_TRANSLATE_NOOP("RVPaperType", "Fotopapier Premium-Matt") },
+    { "Fotopapier Matt"_L1, QT_TRANSLATE_NOOP("RVPaperType", "Fotopapier Matt") },
+    { "Premiumpapier"_L1, QT_TRANSLATE_NOOP("RVPaperType", "Premiumpapier") },
+};
+
+constexpr struct
+{
+    RVPaperTypeEnum value;
+    QLatin1StringView key;
+} NAMES[] = {
+    { INDIGO, "Digitaldruck Matt"_L1 },
+    { INDIGO_GLOSSY, "Digitaldruck Glaenzend"_L1 },
+    { FOTOPAPER, "Fotopapier Matt"_L1 },
+    { FOTOPAPER_GLOSSY, "Fotopapier Glaenzend"_L1 },
+    { PREMIUM, "Premiumpapier"_L1 },
+    { PREMIUM_MATT, "Digitaldruck Premium-Matt"_L1 },
+    { FOTOPAPER_PREMIUM_MATT, "Fotopapier Premium-Matt"_L1 },
+    { DIGITAL_PRINTING_RECYCLED, "Digitaldruck Matt (100% recycelt)"_L1 },
+};
+
+QHash<QString, QString> translatedTexts()
+{
+    QHash<QString, QString> result;
+    for (const auto &row : TEXTS)
+        result.insert(row.key.toString(), QCoreApplication::translate(CONTEXT, row.text));
+    return result;
+}
+
+}
+
+RVPaperType::RVPaperType(RVPaperTypeEnum value) noexcept : RVEnumWrapper(value) { }
+
+RVPaperType::RVPaperType(const QString &text) : RVPaperType()
+{
+    setValue(text);
+}
+
+RVPaperType RVPaperType::createFromHumanReadable(const QString &name)
+{
+    return paperTypeNames().value(name);
+}
+
+QString RVPaperType::humanReadableName() const
+{
+    return paperTypeNames().name(*this);
+}
+
+const RVDisplayNames<RVPaperType> &RVPaperType::paperTypeNames()
+{
+    static const RVDisplayNames<RVPaperType> theNames = initPaperTypeNames();
+    return theNames;
+}
+
+QHash<QString, QString> RVPaperType::translatedPaperTypes()
+{
+    static const QHash<QString, QString> theTexts = translatedTexts();
+    return theTexts;
+}
+
+RVDisplayNames<RVPaperType> RVPaperType::initPaperTypeNames()
+{
+    const QHash<QString, QString> texts = translatedPaperTypes();
+    QMap<RVPaperType, QString> names;
+    for (const auto &row : NAMES)
+        names.insert(row.value, texts.value(row.key.toString()));
+    return { CONTEXT, names, INDIGO, QCoreApplication::translate("RVPaperType", "unbekannter Papiertyp") };
+}
+
+void RVPaperType::fillTable(RVEnumToStringTable<RVPaperTypeEnum> *table) const
+{
+    rvInsertKeywords(table, KEYWORDS);
+    table->defaultKeyword = u"indigo"_s;
+    table->defaultValue = INDIGO;
+}
+
+QDebug operator<<(QDebug debug, const RVPaperType &paperType)
+{
+    return rvDebugAttribute(debug, "RVPaperType", paperType);
+}

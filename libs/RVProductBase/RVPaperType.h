@@ -1,0 +1,55 @@
+#ifndef RVPAPERTYPE_H
+#define RVPAPERTYPE_H
+
+#include "RVDisplayNames.h"
+#include "RVEnumWrapper.h"
+#include "RVProductBaseExport.h"
+
+#include <QHash>
+
+class QDebug;
+
+enum RVPaperTypeEnum : qint32 {
+    UNKNOWN_PAPER = 0,
+    INDIGO = 0x1, ///< matt digital print
+    INDIGO_GLOSSY = 0x2,
+    FOTOPAPER = 0x4, ///< matt photo paper
+    FOTOPAPER_GLOSSY = 0x8,
+    FOTOPAPER_PREMIUM_MATT = 0x10,
+    PREMIUM = 0x20,
+    PREMIUM_MATT = 0x40,
+    DIGITAL_PRINTING_RECYCLED = 0x80,
+};
+RV_DECLARE_ENUM_OPERATORS(RVPaperTypeEnum)
+
+extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVPaperTypeEnum>;
+
+/// The paper of a printed product. 0 is unknown; an unknown keyword stands for INDIGO, the paper that every press has.
+class RVPRODUCTBASE_EXPORT RVPaperType : public RVEnumWrapper<RVPaperTypeEnum>
+{
+public:
+    RVPaperType(RVPaperTypeEnum value = UNKNOWN_PAPER) noexcept;
+    /// From a keyword list such as "glossy"; an empty one is INDIGO.
+    RVPaperType(const QString &text);
+
+    /// The value of a German display name, or of one in the application's language; INDIGO for an unknown name.
+    static RVPaperType createFromHumanReadable(const QString &name);
+
+    /// What the customer reads for exactly this value, else "unbekannter Papiertyp".
+    QString humanReadableName() const;
+    static const RVDisplayNames<RVPaperType> &paperTypeNames();
+
+    /// From a fixed key, which is German and has no umlauts, to the text that the customer reads. The two may differ.
+    static QHash<QString, QString> translatedPaperTypes();
+
+    void fillTable(RVEnumToStringTable<RVPaperTypeEnum> *table) const override;
+
+private:
+    static RVDisplayNames<RVPaperType> initPaperTypeNames();
+};
+
+Q_DECLARE_TYPEINFO(RVPaperType, Q_RELOCATABLE_TYPE);
+
+RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVPaperType &paperType);
+
+#endif

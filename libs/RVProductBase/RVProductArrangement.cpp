@@ -1,0 +1,36 @@
+#include "RVProductArrangement.h"
+
+#include "RVKeywords_p.h"
+
+using namespace Qt::StringLiterals;
+
+template class RVEnumWrapper<RVProductArrangementEnum>;
+
+namespace {
+
+constexpr RVKeyword<RVProductArrangementEnum> KEYWORDS[] = {
+    { "trivial"_L1, PRODUCT_ARRANGEMENT_TRIVIAL },
+    { "gift"_L1, PRODUCT_ARRANGEMENT_GIFT },
+    { "card"_L1, PRODUCT_ARRANGEMENT_CARD },
+    { "photobook"_L1, PRODUCT_ARRANGEMENT_PHOTOBOOK },
+    { "calendar"_L1, PRODUCT_ARRANGEMENT_CALENDAR },
+};
+
+}
+
+RVProductArrangement::RVProductArrangement(RVProductArrangementEnum value) noexcept : RVEnumWrapper(value) { }
+
+RVProductArrangement::RVProductArrangement(const QString &text) : RVProductArrangement()
+{
+    setValue(text);
+}
+
+void RVProductArrangement::fillTable(RVEnumToStringTable<RVProductArrangementEnum> *table) const
+{
+    rvInsertKeywords(table, KEYWORDS);
+}
+
+QDebug operator<<(QDebug debug, const RVProductArrangement &arrangement)
+{
+    return rvDebugAttribute(debug, "RVProductArrangement", arrangement);
+}

@@ -1,0 +1,3 @@
+#include "RVProductChecker.h"
+
+RVProductChecker::~RVProductChecker() = default;

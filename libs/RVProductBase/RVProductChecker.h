@@ -1,0 +1,34 @@
+#ifndef RVPRODUCTCHECKER_H
+#define RVPRODUCTCHECKER_H
+
+#include "RVProductBaseExport.h"
+
+#include <QtGlobal>
+
+class RVArticleVariants;
+class RVProductType;
+
+/// Kinds of check, one bit each; the application gives them their meaning.
+using RVProductCheckerType = quint32;
+
+/// Says which products may be offered. The application implements it, registers it with RVProductCheckerRegistry and
+/// keeps owning it.
+class RVPRODUCTBASE_EXPORT RVProductChecker
+{
+public:
+    // The order of the virtual operations is part of the binary interface.
+    virtual ~RVProductChecker();
+
+    /// True when the product may be offered. The registry remembers the answer.
+    virtual bool isValid(const RVProductType &type) const = 0;
+    /// The kinds of check that this checker takes part in.
+    virtual RVProductCheckerType checkerTypes() const = 0;
+    /// True when the product may be offered with these options. Asked every time.
+    virtual bool isValidBoxStyle(const RVProductType &type, const RVArticleVariants &variants) const = 0;
+
+protected:
+    RVProductChecker() = default;
+    Q_DISABLE_COPY_MOVE(RVProductChecker)
+};
+
+#endif

@@ -1,0 +1,66 @@
+#include "RVProductCheckerRegistry.h"
+
+#include <QMutexLocker>
+
+#include <algorithm>
+
+template class RVSingleton<RVProductCheckerRegistry>;
+
+namespace {
+
+/// True when every responsible checker accepts. Works on a copy, since a checker may call back.
+template<typename Accepts>
+bool noneRefuses(const QList<RVProductChecker *> checkers, RVProductCheckerType kinds, Accepts accepts)
+{
+    return std::all_of(checkers.begin(), checkers.end(), [&](const RVProductChecker *checker) {
+        return (checker->checkerTypes() & kinds) == 0 || accepts(*checker);
+    });
+}
+
+}
+
+RVProductCheckerRegistry::RVProductCheckerRegistry() = default;
+
+RVProductCheckerRegistry::~RVProductCheckerRegistry() = default;
+
+void RVProductCheckerRegistry::registerChecker(RVProductChecker *checker)
+{
+    if (checker)
+        myCheckers.append(checker);
+    clearCaches();
+}
+
+void RVProductCheckerRegistry::unregisterChecker(RVProductChecker *checker)
+{
+    myCheckers.removeAll(checker);
+    clearCaches();
+}
+
+void RVProductCheckerRegistry::clearCaches()
+{
+    myCache.clear();
+}
+
+bool RVProductCheckerRegistry::isValid(const RVProductType &type, RVProductCheckerType kinds) const
+{
+    const std::pair key(type, kinds);
+    const QMutexLocker locker(&myMutex);
+    const auto cached = myCache.constFind(key);
+    if (cached != myCache.constEnd())
+        return *cached;
+    const bool result = isValidWorker(type, kinds);
+    myCache.insert(key, result);
+    return result;
+}
+
+bool RVProductCheckerRegistry::isValidWorker(const RVProductType &type, RVProductCheckerType kinds) const
+{
+    return noneRefuses(myCheckers, kinds, [&](const RVProductChecker &checker) { return checker.isValid(type); });
+}
+
+bool RVProductCheckerRegistry::isValidBoxStyle(const RVProductType &type, const RVArticleVariants &variants,
+                                               RVProductCheckerType kinds) const
+{
+    return noneRefuses(myCheckers, kinds,
+                       [&](const RVProductChecker &checker) { return checker.isValidBoxStyle(type, variants); });
+}

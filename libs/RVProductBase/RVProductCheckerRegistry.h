@@ -1,0 +1,54 @@
+#ifndef RVPRODUCTCHECKERREGISTRY_H
+#define RVPRODUCTCHECKERREGISTRY_H
+
+#include "RVProductBaseExport.h"
+#include "RVProductChecker.h"
+#include "RVProductType.h"
+#include "RVSingleton.h"
+
+#include <QHash>
+#include <QList>
+#include <QRecursiveMutex>
+
+#include <utility>
+
+class RVProductCheckerRegistry;
+
+extern template class RVPRODUCTBASE_EXPORT RVSingleton<RVProductCheckerRegistry>;
+
+/**
+ * Asks all checkers of the application whether a product may be offered: it may when none of those that take part in one
+ * of the kinds of check refuses. Without such a checker everything may be offered.
+ *
+ * Any thread may call isValid(), also a checker that is being asked. Checkers are registered and removed while no other
+ * thread asks, typically when the application starts and ends.
+ */
+class RVPRODUCTBASE_EXPORT RVProductCheckerRegistry : public RVSingleton<RVProductCheckerRegistry>
+{
+public:
+    RVProductCheckerRegistry();
+    virtual ~RVProductCheckerRegistry();
+
+    /// Adds a checker, which stays the caller's; one that is registered twice is asked twice. Null adds nothing. Empties
+    /// the cache.
+    void registerChecker(RVProductChecker *checker);
+    /// Removes a checker however often it is registered. Empties the cache.
+    void unregisterChecker(RVProductChecker *checker);
+    /// Forgets every answer.
+    void clearCaches();
+
+    /// True unless a checker refuses. The answer for the type and exactly these kinds is remembered.
+    bool isValid(const RVProductType &type, RVProductCheckerType kinds) const;
+    /// The same, past the cache: asks the checkers in the order of their registration, up to the first refusal.
+    bool isValidWorker(const RVProductType &type, RVProductCheckerType kinds) const;
+    /// True unless a checker refuses the type with these options. Nothing is remembered.
+    bool isValidBoxStyle(const RVProductType &type, const RVArticleVariants &variants,
+                         RVProductCheckerType kinds) const;
+
+private:
+    QList<RVProductChecker *> myCheckers;
+    mutable QRecursiveMutex myMutex;
+    mutable QHash<std::pair<RVProductType, RVProductCheckerType>, bool> myCache;
+};
+
+#endif

@@ -1,0 +1,68 @@
+#include "RVShippingGroupId.h"
+
+#include "RVXMLParser.h"
+
+#include <QDataStream>
+#include <QDebug>
+#include <QDomElement>
+#include <QJsonObject>
+
+using namespace Qt::StringLiterals;
+
+const QString RVShippingGroupId::SHIPPING_GROUP_ID_KEY = u"id"_s;
+
+RVShippingGroupId::RVShippingGroupId(const QDomElement &element, const QString &attribute)
+    : myId(RVXMLParser::intAttribute(element, attribute, -1))
+{
+}
+
+RVShippingGroupId::RVShippingGroupId(const QDomElement &element) : RVShippingGroupId(element, SHIPPING_GROUP_ID_KEY) { }
+
+RVShippingGroupId::RVShippingGroupId(const QDomNamedNodeMap &attributes, const QString &attribute)
+    : myId(RVXMLParser::intAttribute(attributes, attribute, -1))
+{
+}
+
+RVShippingGroupId::RVShippingGroupId(const QDomNamedNodeMap &attributes)
+    : RVShippingGroupId(attributes, SHIPPING_GROUP_ID_KEY)
+{
+}
+
+RVShippingGroupId::RVShippingGroupId(const QJsonObject &object) : myId(object.value(SHIPPING_GROUP_ID_KEY).toInt(-1)) { }
+
+RVShippingGroupId RVShippingGroupId::createFrom(const QString &text)
+{
+    bool isNumber = false;
+    const int id = text.toInt(&isNumber);
+    return isNumber ? id : -1;
+}
+
+QString RVShippingGroupId::defaultKey()
+{
+    return SHIPPING_GROUP_ID_KEY;
+}
+
+QString RVShippingGroupId::toString() const
+{
+    return QString::number(myId);
+}
+
+void RVShippingGroupId::toXML(QDomElement &element) const
+{
+    element.setAttribute(SHIPPING_GROUP_ID_KEY, myId);
+}
+
+void RVShippingGroupId::toJSON(QJsonObject &object) const
+{
+    object.insert(SHIPPING_GROUP_ID_KEY, myId);
+}
+
+QDataStream &RVShippingGroupId::operator<<(QDataStream &stream) const
+{
+    return stream << toString();
+}
+
+QDebug operator<<(QDebug debug, const RVShippingGroupId &shippingGroupId)
+{
+    return debug << shippingGroupId.toString();
+}

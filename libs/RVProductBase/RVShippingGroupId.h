@@ -1,0 +1,66 @@
+#ifndef RVSHIPPINGGROUPID_H
+#define RVSHIPPINGGROUPID_H
+
+#include "RVProductBaseExport.h"
+
+#include <QString>
+
+class QDataStream;
+class QDebug;
+class QDomElement;
+class QDomNamedNodeMap;
+class QJsonObject;
+
+/**
+ * The number of a shipping group: articles that carry the same one are shipped together. -1 is no group, and what every
+ * reader gives that finds no number; 0 is the combined transfer group.
+ *
+ * Read from and written to the products XML and JSON under "id".
+ */
+class RVPRODUCTBASE_EXPORT RVShippingGroupId
+{
+public:
+    /// The name of the attribute and of the JSON key: "id".
+    static const QString SHIPPING_GROUP_ID_KEY;
+
+    constexpr RVShippingGroupId(int id = -1) noexcept : myId(id) { }
+    RVShippingGroupId(const QDomElement &element, const QString &attribute);
+    RVShippingGroupId(const QDomElement &element);
+    RVShippingGroupId(const QDomNamedNodeMap &attributes, const QString &attribute);
+    RVShippingGroupId(const QDomNamedNodeMap &attributes);
+    RVShippingGroupId(const QJsonObject &object);
+
+    /// From a decimal number.
+    static RVShippingGroupId createFrom(const QString &text);
+
+    constexpr int id() const noexcept { return myId; }
+    /// True for everything but -1, other negative numbers included.
+    constexpr bool isValid() const noexcept { return myId != -1; }
+    constexpr bool isCombinedTransfer() const noexcept { return myId == 0; }
+
+    /// "id".
+    static QString defaultKey();
+
+    QString toString() const;
+    void toXML(QDomElement &element) const;
+    void toJSON(QJsonObject &object) const;
+    /// Writes toString(): the group is on the left, the stream on the right. createFrom() reads it back.
+    QDataStream &operator<<(QDataStream &stream) const;
+
+    friend constexpr bool operator==(RVShippingGroupId a, RVShippingGroupId b) noexcept { return a.myId == b.myId; }
+    friend constexpr bool operator==(RVShippingGroupId a, int b) noexcept { return a.myId == b; }
+    friend constexpr bool operator!=(RVShippingGroupId a, RVShippingGroupId b) noexcept { return a.myId != b.myId; }
+    friend constexpr bool operator<(RVShippingGroupId a, RVShippingGroupId b) noexcept { return a.myId < b.myId; }
+    friend constexpr bool operator>(RVShippingGroupId a, RVShippingGroupId b) noexcept { return a.myId > b.myId; }
+    friend constexpr bool operator<=(RVShippingGroupId a, RVShippingGroupId b) noexcept { return a.myId <= b.myId; }
+    friend constexpr bool operator>=(RVShippingGroupId a, RVShippingGroupId b) noexcept { return a.myId >= b.myId; }
+
+private:
+    int myId;
+};
+
+Q_DECLARE_TYPEINFO(RVShippingGroupId, Q_RELOCATABLE_TYPE);
+
+RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVShippingGroupId &shippingGroupId);
+
+#endif

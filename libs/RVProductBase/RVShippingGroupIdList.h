@@ -1,0 +1,26 @@
+#ifndef RVSHIPPINGGROUPIDLIST_H
+#define RVSHIPPINGGROUPIDLIST_H
+
+#include "RVProductBaseExport.h"
+#include "RVShippingGroupId.h"
+
+#include <QList>
+
+/// Shipping groups, in the order in which they were given; duplicates stay.
+class RVPRODUCTBASE_EXPORT RVShippingGroupIdList : public QList<RVShippingGroupId>
+{
+public:
+    RVShippingGroupIdList() = default;
+    RVShippingGroupIdList(const QList<RVShippingGroupId> &ids);
+    RVShippingGroupIdList(const QList<int> &ids);
+    RVShippingGroupIdList(const RVShippingGroupIdList &) = default;
+    RVShippingGroupIdList(RVShippingGroupIdList &&) = default;
+    RVShippingGroupIdList &operator=(const RVShippingGroupIdList &) = default;
+    RVShippingGroupIdList &operator=(RVShippingGroupIdList &&) = default;
+    virtual ~RVShippingGroupIdList();
+
+    /// All occurrences of @p id, or everything else where @p equal is false.
+    RVShippingGroupIdList filter(const RVShippingGroupId &id, bool equal) const;
+};
+
+#endif

@@ -1,0 +1,84 @@
+#ifndef RVSPACEMAGNITUDE_H
+#define RVSPACEMAGNITUDE_H
+
+#include "RVDisplayNames.h"
+#include "RVEnumWrapper.h"
+#include "RVProductBaseExport.h"
+
+class QDebug;
+class QFont;
+class RVOrientation;
+
+/// Named after their keywords, which give an area in cm². What a class measures by norm may differ.
+enum RVSpaceMagnitudeEnum : qint32 {
+    SPACE_MAGNITUDE_50CM2 = 1,
+    SPACE_MAGNITUDE_150CM2 = 2, ///< A6
+    SPACE_MAGNITUDE_200CM2 = 4,
+    SPACE_MAGNITUDE_220CM2 = 8,
+    SPACE_MAGNITUDE_280CM2 = 16,
+    SPACE_MAGNITUDE_310CM2 = 32, ///< A5
+    SPACE_MAGNITUDE_400CM2 = 64,
+    SPACE_MAGNITUDE_600CM2 = 128, ///< A4
+    SPACE_MAGNITUDE_900CM2 = 256,
+    SPACE_MAGNITUDE_1200CM2 = 512, ///< A3
+    SPACE_MAGNITUDE_2000CM2 = 1024,
+    SPACE_MAGNITUDE_2400CM2 = 2048, ///< A2
+    SPACE_MAGNITUDE_NORMAL = SPACE_MAGNITUDE_200CM2 | SPACE_MAGNITUDE_220CM2 | SPACE_MAGNITUDE_280CM2
+        | SPACE_MAGNITUDE_310CM2 | SPACE_MAGNITUDE_400CM2 | SPACE_MAGNITUDE_600CM2 | SPACE_MAGNITUDE_1200CM2
+        | SPACE_MAGNITUDE_2400CM2,
+    SPACE_MAGNITUDE_XL = SPACE_MAGNITUDE_900CM2 | SPACE_MAGNITUDE_2000CM2,
+    SPACE_MAGNITUDE_ANY = SPACE_MAGNITUDE_NORMAL | SPACE_MAGNITUDE_XL | SPACE_MAGNITUDE_50CM2 | SPACE_MAGNITUDE_150CM2,
+};
+RV_DECLARE_ENUM_OPERATORS(RVSpaceMagnitudeEnum)
+
+extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVSpaceMagnitudeEnum>;
+
+/**
+ * The size class of a printable area, and what page layout makes of it. 0 is no size; an unknown keyword stands for every
+ * size, and a value without a keyword is written as "any".
+ */
+class RVPRODUCTBASE_EXPORT RVSpaceMagnitude : public RVEnumWrapper<RVSpaceMagnitudeEnum>
+{
+public:
+    RVSpaceMagnitude(RVSpaceMagnitudeEnum value = RVSpaceMagnitudeEnum(0)) noexcept;
+    /// From a keyword list such as "A4, A5"; an empty one is every size.
+    RVSpaceMagnitude(const QString &text);
+
+    /// The size class of an area in cm².
+    static RVSpaceMagnitude fromSquareCentimeters(int area);
+    /// The size class of 30 / @p x cm²; none for 0.
+    static RVSpaceMagnitude estimateByAreaSizes(double x);
+    /// The size class of a German display name, or of one in the application's language; none for an unknown name.
+    static RVSpaceMagnitude createFromHumanReadable(const QString &name);
+
+    /// How many images one page takes at most; 1 for anything but exactly one size class that is known to take more.
+    int maxReasonableImagesPerPage() const;
+    /// A font size in points that suits exactly this size class.
+    int suitableFontSizeInPoints() const;
+    /// The area of exactly this size class in cm²; 0 for anything else.
+    int normativeSize() const;
+    /// How many times larger the other area is; 1 where one of the two is 0. A combination has no area, so with one the
+    /// factor is 0, infinite or not a number.
+    double scaleFactorForArea(const RVSpaceMagnitude &other) const;
+    /// The square root of that, for lengths.
+    double scaleFactorPerDimension(const RVSpaceMagnitude &other) const;
+    /// How many photos look best on a page of exactly this size class.
+    double optimumFotosPerPage(const RVOrientation &orientation) const;
+    /// The font scaled from this size class to another. It stays as it is where no size would come out of that.
+    QFont adaptFont(const QFont &font, const RVSpaceMagnitude &target) const;
+
+    /// What the customer reads for exactly this value, else "Undefiniert".
+    QString humanReadableName() const;
+    static const RVDisplayNames<RVSpaceMagnitude> &names();
+
+    void fillTable(RVEnumToStringTable<RVSpaceMagnitudeEnum> *table) const override;
+
+private:
+    static RVDisplayNames<RVSpaceMagnitude> initNames();
+};
+
+Q_DECLARE_TYPEINFO(RVSpaceMagnitude, Q_RELOCATABLE_TYPE);
+
+RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVSpaceMagnitude &magnitude);
+
+#endif

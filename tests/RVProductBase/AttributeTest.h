@@ -1,0 +1,105 @@
+#ifndef ATTRIBUTETEST_H
+#define ATTRIBUTETEST_H
+
+#include <QDomDocument>
+#include <QTest>
+
+#include <algorithm>
+#include <type_traits>
+
+/// What the keyword table of an attribute class says about one value. The first keyword encodes it.
+struct KeywordRow
+{
+    qint64 value;
+    QStringList keywords;
+};
+
+/// Checks the keyword table of an attribute class against rows that are written out.
+template<typename Attribute>
+class KeywordTableTest
+{
+    using Enum = std::decay_t<decltype(std::declval<Attribute>().value())>;
+
+public:
+    KeywordTableTest(const QList<KeywordRow> &rows, const QString &defaultKeyword, qint64 defaultValue)
+        : myRows(rows), myDefaultKeyword(defaultKeyword), myDefaultValue(defaultValue)
+    {
+    }
+
+    /// Call from a test function.
+    void check() const
+    {
+        QStringList allKeywords;
+        QList<qint64> allValues;
+        for (const KeywordRow &row : myRows) {
+            checkRow(row);
+            for (const QString &keyword : row.keywords)
+                allKeywords += keyword.toLower();
+            allValues += row.value;
+        }
+        QCOMPARE(sorted(Attribute().allKnownKeywords()), sorted(allKeywords));
+        QList<qint64> knownValues;
+        for (const Enum value : Attribute().allKnownEnumValues())
+            knownValues += qint64(value);
+        QCOMPARE(sorted(knownValues), sorted(allValues));
+        checkDefaults();
+    }
+
+private:
+    void checkRow(const KeywordRow &row) const
+    {
+        const Attribute attribute { Enum(row.value) };
+        QCOMPARE(attribute.encode(), row.keywords.first());
+        for (const QString &keyword : row.keywords) {
+            QCOMPARE(qint64(Attribute(keyword).value()), row.value);
+            QCOMPARE(qint64(Attribute(keyword.toUpper()).value()), row.value);
+            QCOMPARE(qint64(Attribute(QString(u' ' + keyword.toLower() + u'\t')).value()), row.value);
+        }
+        QStringList aliases;
+        for (const QString &keyword : row.keywords)
+            aliases += keyword.toLower();
+        QCOMPARE(attribute.allPossibleKeywordsOneElement(), sorted(aliases));
+    }
+
+    void checkDefaults() const
+    {
+        QCOMPARE(qint64(Attribute(QStringLiteral("no such keyword")).value()), myDefaultValue);
+        QCOMPARE(qint64(Attribute(QString()).value()), myDefaultValue);
+        QCOMPARE(Attribute().enumToStringTable()->defaultKeyword, myDefaultKeyword);
+        QCOMPARE(qint64(Attribute().enumToStringTable()->defaultValue), myDefaultValue);
+        QCOMPARE(Attribute(Enum(-1)).encode(), myDefaultKeyword);
+        QCOMPARE(Attribute().encodeCSV(), myDefaultKeyword);
+        QCOMPARE(qint64(Attribute().value()), 0);
+    }
+
+    template<typename List>
+    static List sorted(List list)
+    {
+        std::sort(list.begin(), list.end());
+        return list;
+    }
+
+    QList<KeywordRow> myRows;
+    QString myDefaultKeyword;
+    qint64 myDefaultValue;
+};
+
+/// "name=text" of every child element, sorted.
+inline QStringList childTexts(const QDomElement &parent)
+{
+    QStringList result;
+    for (QDomElement child = parent.firstChildElement(); !child.isNull(); child = child.nextSiblingElement())
+        result += child.tagName() + u'=' + child.text();
+    result.sort();
+    return result;
+}
+
+template<typename T>
+QString debugText(const T &value)
+{
+    QString text;
+    QDebug(&text) << value;
+    return text;
+}
+
+#endif
