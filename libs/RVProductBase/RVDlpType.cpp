@@ -99,7 +99,9 @@ QString RVDlpType::visibleName(int n) const
         return QString();
     if (n == -1)
         return QCoreApplication::translate("RVDlpType", row->text);
-    return QCoreApplication::translate("RVDlpType", row->counted.text, row->counted.comment, n);
+    // The translator fills in no negative number.
+    return QCoreApplication::translate("RVDlpType", row->counted.text, row->counted.comment, n)
+            .replace("%n"_L1, QString::number(n));
 }
 
 QString RVDlpType::dlpPath(bool alternative) const

@@ -7,6 +7,8 @@
 
 QDomElement RVXMLBuilder::buildDomElement(QDomElement &parent, const QString &name)
 {
+    if (parent.isNull())
+        return QDomElement();
     QDomElement child = parent.ownerDocument().createElement(name);
     return parent.appendChild(child).toElement();
 }
@@ -14,6 +16,7 @@ QDomElement RVXMLBuilder::buildDomElement(QDomElement &parent, const QString &na
 QDomElement RVXMLBuilder::buildDomElement(QDomElement &parent, const QString &name, const QString &text)
 {
     QDomElement child = buildDomElement(parent, name);
-    child.appendChild(parent.ownerDocument().createTextNode(text));
+    if (!child.isNull())
+        child.appendChild(parent.ownerDocument().createTextNode(text));
     return child;
 }

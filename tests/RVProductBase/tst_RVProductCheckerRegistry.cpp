@@ -1,0 +1,291 @@
+#include <RVProductBase/RVArticleVariants.h>
+#include <RVProductBase/RVProductCheckerRegistry.h>
+
+#include <QTest>
+
+#include <atomic>
+#include <thread>
+#include <type_traits>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int THREADS = 8;
+
+/// Answers as it is told, and notes in a common list that it was asked.
+class Checker : public RVProductChecker
+{
+public:
+    Checker(const QString &name, RVProductCheckerType kinds, bool answer, QStringList *asked)
+        : myName(name), myKinds(kinds), myAnswer(answer), myAsked(asked)
+    {
+    }
+
+    bool isValid(const RVProductType &type) const override
+    {
+        *myAsked += myName + u':' + type.toString();
+        return myAnswer;
+    }
+    RVProductCheckerType checkerTypes() const override { return myKinds; }
+    bool isValidBoxStyle(const RVProductType &type, const RVArticleVariants &variants) const override
+    {
+        *myAsked += myName + u':' + type.toString() + u'/' + variants.toKTX();
+        return myAnswer;
+    }
+
+private:
+    QString myName;
+    RVProductCheckerType myKinds;
+    bool myAnswer;
+    QStringList *myAsked;
+};
+
+/// Asks the registry about another type and another kind before it answers.
+class AskingChecker : public RVProductChecker
+{
+public:
+    explicit AskingChecker(RVProductCheckerRegistry *registry) : myRegistry(registry) { }
+
+    bool isValid(const RVProductType &type) const override
+    {
+        return type == RVProductType(u"base"_s) || myRegistry->isValid(RVProductType(u"base"_s), 1);
+    }
+    RVProductCheckerType checkerTypes() const override { return 1; }
+    bool isValidBoxStyle(const RVProductType &, const RVArticleVariants &) const override { return false; }
+
+private:
+    RVProductCheckerRegistry *myRegistry;
+};
+
+/// Counts the questions and accepts even numbers.
+class CountingChecker : public RVProductChecker
+{
+public:
+    bool isValid(const RVProductType &type) const override
+    {
+        ++count;
+        return type.toString().toInt() % 2 == 0;
+    }
+    RVProductCheckerType checkerTypes() const override { return 1; }
+    bool isValidBoxStyle(const RVProductType &, const RVArticleVariants &) const override { return true; }
+
+    mutable std::atomic<int> count { 0 };
+};
+
+}
+
+class tst_RVProductCheckerRegistry : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void oneInstance();
+    void acceptsWithoutCheckers();
+    void asksTheResponsible_data();
+    void asksTheResponsible();
+    void cachesPerTypeAndKinds();
+    void forgetsOnRegistration();
+    void asksTwiceRegisteredTwice();
+    void unregistersEveryOccurrence();
+    void ignoresNull();
+    void neverCachesBoxStyles();
+    void checkersMayCallBack();
+    void threads();
+    void slotOrder();
+};
+
+void tst_RVProductCheckerRegistry::oneInstance()
+{
+    QVERIFY(RVProductCheckerRegistry::instance());
+    QCOMPARE(RVProductCheckerRegistry::instance(), RVProductCheckerRegistry::instance());
+    QVERIFY(std::has_virtual_destructor_v<RVProductCheckerRegistry>);
+    QVERIFY(std::has_virtual_destructor_v<RVProductChecker>);
+    QVERIFY(std::is_abstract_v<RVProductChecker>);
+}
+
+void tst_RVProductCheckerRegistry::acceptsWithoutCheckers()
+{
+    const RVProductCheckerRegistry registry;
+    QVERIFY(registry.isValid(u"DUN9"_s, 1));
+    QVERIFY(registry.isValid(RVProductType(), 0));
+    QVERIFY(registry.isValidWorker(u"DUN9"_s, 0xFFFFFFFF));
+    QVERIFY(registry.isValidBoxStyle(u"DUN9"_s, RVArticleVariants(), 1));
+}
+
+void tst_RVProductCheckerRegistry::asksTheResponsible_data()
+{
+    QTest::addColumn<RVProductCheckerType>("kinds");
+    QTest::addColumn<bool>("valid");
+    QTest::addColumn<QStringList>("asked");
+    // Registered: first (kinds 1 and 2, accepts), second (2, refuses), third (2 and 0x80000000, refuses).
+    QTest::newRow("one accepts") << 1u << true << QStringList { u"first:DUN9"_s };
+    QTest::newRow("stops at the first refusal") << 2u << false << QStringList { u"first:DUN9"_s, u"second:DUN9"_s };
+    QTest::newRow("highest bit") << 0x80000000u << false << QStringList { u"third:DUN9"_s };
+    QTest::newRow("several kinds") << 0x80000001u << false << QStringList { u"first:DUN9"_s, u"third:DUN9"_s };
+    QTest::newRow("nobody responsible") << 4u << true << QStringList();
+    QTest::newRow("no kind") << 0u << true << QStringList();
+}
+
+void tst_RVProductCheckerRegistry::asksTheResponsible()
+{
+    QFETCH(RVProductCheckerType, kinds);
+    QFETCH(QStringList, asked);
+    QStringList actual;
+    Checker first(u"first"_s, 3, true, &actual);
+    Checker second(u"second"_s, 2, false, &actual);
+    Checker third(u"third"_s, 0x80000002, false, &actual);
+    RVProductCheckerRegistry registry;
+    registry.registerChecker(&first);
+    registry.registerChecker(&second);
+    registry.registerChecker(&third);
+
+    QTEST(registry.isValidWorker(u"DUN9"_s, kinds), "valid");
+    QCOMPARE(actual, asked);
+    QTEST(registry.isValid(u"DUN9"_s, kinds), "valid");
+    QCOMPARE(actual, asked + asked);
+
+    actual.clear();
+    QTEST(registry.isValidBoxStyle(u"DUN9"_s, RVArticleVariants(u"boxstyle"_s, u"wood"_s), kinds), "valid");
+    asked.replaceInStrings(u"DUN9"_s, u"DUN9/boxstyle:wood"_s);
+    QCOMPARE(actual, asked);
+}
+
+void tst_RVProductCheckerRegistry::cachesPerTypeAndKinds()
+{
+    QStringList asked;
+    Checker checker(u"c"_s, 3, false, &asked);
+    RVProductCheckerRegistry registry;
+    registry.registerChecker(&checker);
+    for (int i = 0; i < 2; ++i) {
+        QVERIFY(!registry.isValid(u"A"_s, 1));
+        QVERIFY(!registry.isValid(u"A"_s, 3));
+        QVERIFY(!registry.isValid(u"B"_s, 1));
+        QVERIFY(registry.isValid(u"A"_s, 4));
+    }
+    QCOMPARE(asked, (QStringList { u"c:A"_s, u"c:A"_s, u"c:B"_s }));
+    registry.clearCaches();
+    QVERIFY(!registry.isValid(u"A"_s, 1));
+    QCOMPARE(asked.size(), 4);
+    QVERIFY(!registry.isValidWorker(u"A"_s, 1));
+    QCOMPARE(asked.size(), 5);
+}
+
+void tst_RVProductCheckerRegistry::forgetsOnRegistration()
+{
+    QStringList asked;
+    Checker refusing(u"c"_s, 1, false, &asked);
+    RVProductCheckerRegistry registry;
+    QVERIFY(registry.isValid(u"A"_s, 1));
+    registry.registerChecker(&refusing);
+    QVERIFY(!registry.isValid(u"A"_s, 1));
+    registry.unregisterChecker(&refusing);
+    QVERIFY(registry.isValid(u"A"_s, 1));
+}
+
+void tst_RVProductCheckerRegistry::asksTwiceRegisteredTwice()
+{
+    QStringList asked;
+    Checker checker(u"c"_s, 1, true, &asked);
+    RVProductCheckerRegistry registry;
+    registry.registerChecker(&checker);
+    registry.registerChecker(&checker);
+    QVERIFY(registry.isValid(u"A"_s, 1));
+    QCOMPARE(asked, (QStringList { u"c:A"_s, u"c:A"_s }));
+}
+
+void tst_RVProductCheckerRegistry::unregistersEveryOccurrence()
+{
+    QStringList asked;
+    Checker checker(u"c"_s, 1, false, &asked);
+    Checker other(u"o"_s, 1, true, &asked);
+    RVProductCheckerRegistry registry;
+    registry.registerChecker(&checker);
+    registry.registerChecker(&other);
+    registry.registerChecker(&checker);
+    registry.unregisterChecker(&checker);
+    QVERIFY(registry.isValid(u"A"_s, 1));
+    QCOMPARE(asked, QStringList { u"o:A"_s });
+    registry.unregisterChecker(&checker); // unknown by now: only the cache is emptied
+    QVERIFY(registry.isValid(u"A"_s, 1));
+    QCOMPARE(asked, (QStringList { u"o:A"_s, u"o:A"_s }));
+}
+
+void tst_RVProductCheckerRegistry::ignoresNull()
+{
+    RVProductCheckerRegistry registry;
+    registry.registerChecker(nullptr);
+    QVERIFY(registry.isValid(u"A"_s, 1));
+    registry.unregisterChecker(nullptr);
+}
+
+void tst_RVProductCheckerRegistry::neverCachesBoxStyles()
+{
+    QStringList asked;
+    Checker checker(u"c"_s, 1, true, &asked);
+    RVProductCheckerRegistry registry;
+    registry.registerChecker(&checker);
+    const RVArticleVariants variants(u"boxstyle"_s, u"wood"_s);
+    QVERIFY(registry.isValidBoxStyle(u"A"_s, variants, 1));
+    QVERIFY(registry.isValidBoxStyle(u"A"_s, variants, 1));
+    QCOMPARE(asked, (QStringList { u"c:A/boxstyle:wood"_s, u"c:A/boxstyle:wood"_s }));
+}
+
+void tst_RVProductCheckerRegistry::checkersMayCallBack()
+{
+    RVProductCheckerRegistry registry;
+    AskingChecker checker(&registry);
+    registry.registerChecker(&checker);
+    QVERIFY(registry.isValid(u"other"_s, 1));
+}
+
+void tst_RVProductCheckerRegistry::threads()
+{
+    constexpr int types = 200;
+    RVProductCheckerRegistry registry;
+    CountingChecker checker;
+    registry.registerChecker(&checker);
+    std::atomic<int> ready { 0 };
+    std::atomic<int> wrong { 0 };
+    std::vector<std::thread> threads;
+    for (int thread = 0; thread < THREADS; ++thread) {
+        threads.emplace_back([&] {
+            ++ready;
+            while (ready < THREADS)
+                std::this_thread::yield();
+            for (int i = 0; i < types; ++i) {
+                if (registry.isValid(QString::number(i), 1) != (i % 2 == 0))
+                    ++wrong;
+            }
+        });
+    }
+    for (std::thread &thread : threads)
+        thread.join();
+    QCOMPARE(wrong.load(), 0);
+    QCOMPARE(checker.count.load(), types);
+}
+
+// The registry may be older than the checker: it finds the operations by their place alone.
+void tst_RVProductCheckerRegistry::slotOrder()
+{
+    struct Slots
+    {
+        // Two entries for the destructor, then the operations.
+        void *destructors[2];
+        bool (*isValid)(const void *, const RVProductType &);
+        RVProductCheckerType (*checkerTypes)(const void *);
+        bool (*isValidBoxStyle)(const void *, const RVProductType &, const RVArticleVariants &);
+    };
+    QStringList asked;
+    Checker checker(u"c"_s, 42, true, &asked);
+    const RVProductChecker *object = &checker;
+    const Slots *table = *reinterpret_cast<const Slots *const *>(object);
+    QVERIFY(table->isValid(object, u"A"_s));
+    QCOMPARE(table->checkerTypes(object), 42u);
+    QVERIFY(table->isValidBoxStyle(object, u"B"_s, RVArticleVariants(u"k"_s, u"v"_s)));
+    QCOMPARE(asked, (QStringList { u"c:A"_s, u"c:B/k:v"_s }));
+}
+
+QTEST_GUILESS_MAIN(tst_RVProductCheckerRegistry)
+#include "tst_RVProductCheckerRegistry.moc"
