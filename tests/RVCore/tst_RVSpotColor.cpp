@@ -1,0 +1,47 @@
+#include <RVCore/RVSpotColor.h>
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class tst_RVSpotColor : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void keywords_data();
+    void keywords();
+    void defaults();
+};
+
+void tst_RVSpotColor::keywords_data()
+{
+    QTest::addColumn<int>("value");
+    QTest::addColumn<QString>("keyword");
+    QTest::newRow("gloss") << 1 << u"gloss"_s;
+    QTest::newRow("gold") << 2 << u"gold"_s;
+    QTest::newRow("silver") << 4 << u"silver"_s;
+    QTest::newRow("rosegold") << 8 << u"rosegold"_s;
+    QTest::newRow("silver ink") << 16 << u"silver_ink"_s;
+}
+
+void tst_RVSpotColor::keywords()
+{
+    QFETCH(int, value);
+    QFETCH(QString, keyword);
+    QCOMPARE(int(RVSpotColor(keyword).value()), value);
+    QCOMPARE(RVSpotColor(RVSpotColorEnum(value)).encode(), keyword);
+    QCOMPARE(RVSpotColor().allKnownKeywords().size(), 5);
+}
+
+void tst_RVSpotColor::defaults()
+{
+    QCOMPARE(int(RVSpotColor().value()), 0);
+    QCOMPARE(int(RVSpotColor(u"copper"_s).value()), 0);
+    QCOMPARE(RVSpotColor().encode(), QString());
+    QCOMPARE(RVSpotColor(SPOT_COLOR_GLOSS | SPOT_COLOR_GOLD).encode(), QString());
+    QCOMPARE(RVSpotColor(u"gold,GLOSS"_s).encodeCSV(), u"gloss, gold"_s);
+}
+
+QTEST_APPLESS_MAIN(tst_RVSpotColor)
+#include "tst_RVSpotColor.moc"

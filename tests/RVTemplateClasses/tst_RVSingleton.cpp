@@ -1,0 +1,87 @@
+#include <RVTemplateClasses/RVSingleton.h>
+
+#include <QTest>
+
+#include <atomic>
+#include <thread>
+#include <vector>
+
+namespace {
+
+class Plain : public RVSingleton<Plain>
+{
+};
+
+/// Counts how often it is made and set up.
+class Counted : public RVSingleton<Counted>
+{
+public:
+    Counted()
+    {
+        ++constructions;
+        std::this_thread::yield();
+    }
+    ~Counted() { ++destructions; }
+
+    void setupInstance()
+    {
+        ++setups;
+        std::this_thread::yield();
+        isSetUp = true;
+    }
+
+    std::atomic<bool> isSetUp { false };
+    static inline std::atomic<int> constructions { 0 };
+    static inline std::atomic<int> setups { 0 };
+    static inline std::atomic<int> destructions { 0 };
+};
+
+}
+
+class tst_RVSingleton : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void oneInstanceForAllThreads();
+    void oneInstancePerClass();
+};
+
+void tst_RVSingleton::oneInstanceForAllThreads()
+{
+    constexpr int threadCount = 8;
+    std::atomic<int> ready { 0 };
+    std::atomic<int> notSetUp { 0 };
+    std::vector<Counted *> instances(threadCount);
+    std::vector<std::thread> threads;
+    for (int i = 0; i < threadCount; ++i) {
+        threads.emplace_back([&, i] {
+            ++ready;
+            while (ready < threadCount)
+                std::this_thread::yield();
+            instances[i] = Counted::instance();
+            if (!instances[i]->isSetUp)
+                ++notSetUp;
+        });
+    }
+    for (std::thread &thread : threads)
+        thread.join();
+    for (const Counted *instance : instances)
+        QCOMPARE(instance, Counted::instance());
+    QCOMPARE(notSetUp.load(), 0);
+    QCOMPARE(Counted::constructions.load(), 1);
+    QCOMPARE(Counted::setups.load(), 1);
+    QCOMPARE(Counted::destructions.load(), 0);
+}
+
+void tst_RVSingleton::oneInstancePerClass()
+{
+    QVERIFY(Plain::instance());
+    QCOMPARE(Plain::instance(), Plain::instance());
+    QVERIFY(static_cast<void *>(Plain::instance()) != static_cast<void *>(Counted::instance()));
+    Plain::instance()->setupInstance();
+    QVERIFY(!std::is_copy_constructible_v<Plain>);
+}
+
+QTEST_APPLESS_MAIN(tst_RVSingleton)
+#include "tst_RVSingleton.moc"
