@@ -1,10 +1,20 @@
 #ifndef CATALOGUEPRODUCT_H
 #define CATALOGUEPRODUCT_H
 
+#include <RVArticleClass.h>
+#include <RVArticleId.h>
+#include <RVBarcodeDefinitionList.h>
 #include <RVConfiguredArticleVariantList.h>
+#include <RVCoverType.h>
+#include <RVFotoPaperType.h>
+#include <RVOrientation.h>
+#include <RVPageBinding.h>
 #include <RVPageCountOrganization.h>
+#include <RVPaperType.h>
 #include <RVPriceClass.h>
 #include <RVProductType.h>
+#include <RVShippingGroupId.h>
+#include <RVSpaceMagnitude.h>
 #include <RVSpineConfig.h>
 
 #include <QHash>
@@ -25,6 +35,17 @@ struct CatalogueProduct
 
     QString name;
     RVProductType type;
+    RVArticleId articleId;
+    // What a product does not say of itself is null.
+    RVArticleClass articleClass;
+    RVCoverType coverType;
+    RVPageBinding pageBinding;
+    RVPaperType paperType;
+    RVFotoPaperType fotoPaperType; ///< of photo prints; their default where none is given
+    RVOrientation orientation;
+    RVSpaceMagnitude spaceMagnitude;
+    RVShippingGroupId shippingGroup; ///< that of the article class where none is given
+    RVBarcodeDefinitionList barcodes;
     RVPageCountOrganization pageCounts;
     RVSpineConfig spine;
     RVConfiguredArticleVariantList options;

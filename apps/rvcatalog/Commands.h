@@ -19,9 +19,11 @@ void report(const QString &fileName, const FilePosition &position, const QString
 /// The sub-commands. The arguments begin with the program's name for messages; the result is the exit code.
 int showCommand(const QStringList &arguments);
 int orderCommand(const QStringList &arguments);
+int keywordsCommand(const QStringList &arguments);
+int decodeCommand(const QStringList &arguments);
 
-/// Parses the arguments of a sub-command. Returns false when the program is to end with @p exitCode: after the help
+/// Parses the options and the least to most arguments of a sub-command. Returns false when the program is to end with @p exitCode: after the help
 /// text, or after a message about wrong usage.
-bool parseArguments(QCommandLineParser &parser, const QStringList &arguments, int fileCount, int *exitCode);
+bool parseArguments(QCommandLineParser &parser, const QStringList &arguments, int least, int most, int *exitCode);
 
 #endif

@@ -170,7 +170,7 @@ int orderCommand(const QStringList &arguments)
     parser.addPositionalArgument(u"CATALOGUE"_s, u"The products XML."_s, u"CATALOGUE.xml"_s);
     parser.addPositionalArgument(u"PROJECT"_s, u"The project file."_s, u"PROJECT.xml"_s);
     int exitCode = EXIT_FINE;
-    if (!parseArguments(parser, arguments, 2, &exitCode))
+    if (!parseArguments(parser, arguments, 2, 2, &exitCode))
         return exitCode;
 
     const QString catalogueName = parser.positionalArguments().at(0);

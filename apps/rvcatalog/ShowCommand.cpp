@@ -16,7 +16,7 @@ namespace {
 constexpr RVDistanceUnit MILLIMETRE = DISTANCE_UNIT_MILLIMETRE;
 constexpr int LINE_WIDTH = 100;
 // Wide enough for the codes and counts of a catalogue; the table is written before its last row is known.
-constexpr int COLUMN_WIDTHS[] = { 9, 17, 6, 12, 7 };
+constexpr int COLUMN_WIDTHS[] = { 9, 17, 7, 12, 8 };
 
 QString millimetres(const RVDistance &distance)
 {
@@ -74,6 +74,45 @@ QStringList optionTexts(const CatalogueProduct &product)
     return result;
 }
 
+template<typename T>
+void addAttribute(QStringList *texts, QLatin1StringView name, const T &attribute)
+{
+    if (!attribute.isNull())
+        *texts += name + u' ' + attribute.encodeCSV();
+}
+
+QString barcodeText(const RVBarcodeDefinition &barcode)
+{
+    const QRect rect = barcode.rect();
+    return u"barcode %1 x %2 mm at %3, %4 on page %5"_s.arg(
+            millimetres(RVDistance(rect.width())), millimetres(RVDistance(rect.height())),
+            millimetres(RVDistance(rect.left())), millimetres(RVDistance(rect.top())),
+            QString::number(barcode.pageNr()));
+}
+
+/// What the product is, in keywords: "book, cover HARDCOVER, binding glue", and its barcodes.
+QStringList attributeTexts(const CatalogueProduct &product)
+{
+    QStringList attributes;
+    addAttribute(&attributes, "class"_L1, product.articleClass);
+    addAttribute(&attributes, "cover"_L1, product.coverType);
+    addAttribute(&attributes, "binding"_L1, product.pageBinding);
+    addAttribute(&attributes, "paper"_L1, product.paperType);
+    if (!product.fotoPaperType.isNull())
+        attributes += "photo paper "_L1 + product.fotoPaperType.humanReadableName();
+    addAttribute(&attributes, "orientation"_L1, product.orientation);
+    addAttribute(&attributes, "size"_L1, product.spaceMagnitude);
+    if (product.shippingGroup.isValid())
+        attributes += "shipping group "_L1 + product.shippingGroup.toString();
+
+    QStringList result;
+    if (!attributes.isEmpty())
+        result += attributes.join("; "_L1);
+    for (const RVBarcodeDefinition &barcode : product.barcodes)
+        result += barcodeText(barcode);
+    return result;
+}
+
 /// Fills lines of the given width with the words of a text.
 QStringList wrapped(const QString &text, qsizetype width)
 {
@@ -86,7 +125,7 @@ QStringList wrapped(const QString &text, qsizetype width)
     return lines;
 }
 
-void writeRow(QTextStream &out, const QStringList &columns, const QStringList &options)
+void writeRow(QTextStream &out, const QStringList &columns, const QStringList &details)
 {
     QString row;
     qsizetype end = 0;
@@ -96,7 +135,7 @@ void writeRow(QTextStream &out, const QStringList &columns, const QStringList &o
         row = row.leftJustified(end);
     }
     QStringList lines;
-    for (const QString &text : options)
+    for (const QString &text : details)
         lines += wrapped(text, LINE_WIDTH - end);
     out << QString(row + lines.value(0)).trimmed() << '\n';
     for (const QString &line : lines.mid(1))
@@ -109,6 +148,31 @@ QJsonObject spineJson(const CatalogueProduct &product, int pageCount)
         { u"pages"_s, pageCount },
         { u"width_mm"_s, product.spine.spineWidth(pages(pageCount)).value(MILLIMETRE) },
         { u"max_font_size"_s, fontSize(product, pageCount) },
+    };
+}
+
+/// Null for an attribute that the product does not have.
+template<typename T>
+QJsonValue attributeJson(const T &attribute, const QString &name = QString())
+{
+    if (attribute.isNull())
+        return QJsonValue();
+    QJsonObject result { { u"keywords"_s, QJsonArray::fromStringList(attribute.encodeBits()) } };
+    if (!name.isEmpty())
+        result.insert(u"name"_s, name);
+    return result;
+}
+
+QJsonObject barcodeJson(const RVBarcodeDefinition &barcode)
+{
+    const auto inMillimetres = [](int tenths) { return RVDistance(tenths).value(MILLIMETRE); };
+    return {
+        { u"page"_s, barcode.pageNr() },
+        { u"left_mm"_s, inMillimetres(barcode.rect().left()) },
+        { u"top_mm"_s, inMillimetres(barcode.rect().top()) },
+        { u"width_mm"_s, inMillimetres(barcode.rect().width()) },
+        { u"height_mm"_s, inMillimetres(barcode.rect().height()) },
+        { u"image"_s, barcode.imageName() },
     };
 }
 
@@ -127,9 +191,23 @@ QJsonObject toJson(const CatalogueProduct &product)
             { u"accountable"_s, !option.isNotAccountable() },
         };
     }
+    QJsonArray barcodes;
+    for (const RVBarcodeDefinition &barcode : product.barcodes)
+        barcodes += barcodeJson(barcode);
     return {
         { u"type"_s, product.type.toString() },
         { u"name"_s, product.name },
+        { u"article_id"_s, product.articleId.isValid() ? QJsonValue(product.articleId.id()) : QJsonValue() },
+        { u"article_class"_s, attributeJson(product.articleClass, product.articleClass.toHumanReadable()) },
+        { u"cover_type"_s, attributeJson(product.coverType, product.coverType.humanReadableName()) },
+        { u"page_binding"_s, attributeJson(product.pageBinding, product.pageBinding.humanReadableName()) },
+        { u"paper_type"_s, attributeJson(product.paperType, product.paperType.humanReadableName()) },
+        { u"foto_paper_type"_s, attributeJson(product.fotoPaperType, product.fotoPaperType.humanReadableName()) },
+        { u"orientation"_s, attributeJson(product.orientation) },
+        { u"space_magnitude"_s, attributeJson(product.spaceMagnitude, product.spaceMagnitude.humanReadableName()) },
+        { u"shipping_group"_s,
+          product.shippingGroup.isValid() ? QJsonValue(product.shippingGroup.id()) : QJsonValue() },
+        { u"barcodes"_s, barcodes },
         { u"pages"_s,
           QJsonObject {
                   { u"lowest"_s, counts.minPages() },
@@ -158,7 +236,7 @@ public:
             myOut << '[';
         else
             writeRow(myOut, { u"TYPE"_s, u"PAGES"_s, u"COUNTS"_s, u"SPINE mm"_s, u"FONT pt"_s },
-                     { u"OPTIONS (* is the default)"_s });
+                     { u"ATTRIBUTES, OPTIONS (* is the default)"_s });
     }
 
     void write(const CatalogueProduct &product)
@@ -171,7 +249,7 @@ public:
         writeRow(myOut,
                  { product.type.orderTxtName(), pageCountsText(product.pageCounts),
                    QString::number(product.pageCounts.numberOfPackages()), spineText(product), fontText(product) },
-                 optionTexts(product));
+                 attributeTexts(product) + optionTexts(product));
     }
 
     void end()
@@ -194,12 +272,13 @@ int showCommand(const QStringList &arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(
             u"Lists every product of a catalogue: type, page counts, how many counts there are to choose from, spine\n"
-            "width and largest spine font size at the lowest and the highest count, and the options per key."_s);
+            "width and largest spine font size at the lowest and the highest count, then article class, cover, binding,\n"
+            "paper, orientation, size class, shipping group and barcodes, and the options per key."_s);
     const QCommandLineOption json(u"json"_s, u"Write a JSON array, one product a line."_s);
     parser.addOption(json);
     parser.addPositionalArgument(u"CATALOGUE"_s, u"The products XML."_s, u"CATALOGUE.xml"_s);
     int exitCode = EXIT_FINE;
-    if (!parseArguments(parser, arguments, 1, &exitCode))
+    if (!parseArguments(parser, arguments, 1, 1, &exitCode))
         return exitCode;
 
     const QString fileName = parser.positionalArguments().constFirst();

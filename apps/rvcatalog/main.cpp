@@ -3,8 +3,10 @@
 #include <QCommandLineParser>
 #include <QGuiApplication>
 #include <QHashSeed>
+#include <QLocale>
 #include <QLoggingCategory>
 #include <QTextStream>
+#include <QTranslator>
 
 #include <langinfo.h>
 
@@ -24,16 +26,29 @@ constexpr struct
 } COMMANDS[] = {
     { "show"_L1, showCommand, "list the products of a catalogue"_L1 },
     { "order"_L1, orderCommand, "check a project against the catalogue and write its order line"_L1 },
+    { "keywords"_L1, keywordsCommand, "list the keywords of the attributes"_L1 },
+    { "decode"_L1, decodeCommand, "read a list of keywords"_L1 },
 };
 
 QString usage()
 {
-    QString text = u"usage: rvcatalog COMMAND [OPTION...] FILE...\n\n"_s;
+    QString text = u"usage: rvcatalog COMMAND [ARGUMENT...]\n\n"_s;
     for (const auto &command : COMMANDS)
-        text += "  "_L1 + command.name.toString().leftJustified(8) + command.summary + u'\n';
+        text += "  "_L1 + command.name.toString().leftJustified(10) + command.summary + u'\n';
     return text
             + "\n\"rvcatalog COMMAND --help\" explains a command; \"rvcatalog --version\" prints the version.\n"
               "Exit codes: 0 fine, 1 problems found, 2 cannot read.\n"_L1;
+}
+
+// Asked for before the locale is changed, and also understood where the system has no such locale.
+QLocale userLocale()
+{
+    for (const char *variable : { "LC_ALL", "LC_MESSAGES", "LANG" }) {
+        const QString name = qEnvironmentVariable(variable);
+        if (!name.isEmpty())
+            return QLocale(name);
+    }
+    return QLocale::c();
 }
 
 // The program's files and texts are UTF-8 whatever the terminal's locale.
@@ -44,6 +59,15 @@ void useUtf8()
         qputenv("LC_ALL", "C.UTF-8");
 }
 
+// Display names are in the user's language where there is a translation, else in German, the language of the catalogue.
+void loadTranslation(QTranslator *translator, const QLocale &locale)
+{
+    const QString folder = u":/translations"_s;
+    if (translator->load(locale, u"rvproductbase"_s, u"_"_s, folder)
+        || translator->load(u"rvproductbase_de"_s, folder))
+        QCoreApplication::installTranslator(translator);
+}
+
 }
 
 void report(const QString &fileName, const FilePosition &position, const QString &text)
@@ -51,7 +75,7 @@ void report(const QString &fileName, const FilePosition &position, const QString
     QTextStream(stderr) << fileName << ':' << position.line << ':' << position.column << ": " << text << '\n';
 }
 
-bool parseArguments(QCommandLineParser &parser, const QStringList &arguments, int fileCount, int *exitCode)
+bool parseArguments(QCommandLineParser &parser, const QStringList &arguments, int least, int most, int *exitCode)
 {
     const QCommandLineOption help({ u"h"_s, u"help"_s }, u"Displays this help."_s);
     parser.addOption(help);
@@ -63,10 +87,11 @@ bool parseArguments(QCommandLineParser &parser, const QStringList &arguments, in
                                                          arguments.constFirst());
         *exitCode = EXIT_FINE;
         return false;
-    } else if (parser.positionalArguments().size() == fileCount) {
+    } else if (parser.positionalArguments().size() >= least && parser.positionalArguments().size() <= most) {
         return true;
     } else {
-        QTextStream(stderr) << "rvcatalog: expected " << fileCount << (fileCount == 1 ? " file" : " files") << ", got "
+        QTextStream(stderr) << "rvcatalog: expected " << (least < most ? "at most " : "") << most
+                            << (most == 1 ? " argument" : " arguments") << ", got "
                             << parser.positionalArguments().size() << '\n';
     }
     QTextStream(stderr) << "Try \"" << arguments.first() << " --help\".\n";
@@ -76,6 +101,7 @@ bool parseArguments(QCommandLineParser &parser, const QStringList &arguments, in
 
 int main(int argc, char *argv[])
 {
+    const QLocale locale = userLocale();
     useUtf8();
     // Options come out in the order of a hash; with a fixed seed every run writes the same.
     QHashSeed::setDeterministicGlobalSeed();
@@ -86,6 +112,8 @@ int main(int argc, char *argv[])
     QGuiApplication application(argc, argv);
     QLoggingCategory::defaultCategory()->setEnabled(QtWarningMsg, true);
     QGuiApplication::setApplicationName(u"rvcatalog"_s);
+    QTranslator translator;
+    loadTranslation(&translator, locale);
 
     QStringList arguments = QGuiApplication::arguments().mid(1);
     const QString name = arguments.isEmpty() ? QString() : arguments.takeFirst();

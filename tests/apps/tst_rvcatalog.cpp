@@ -5,6 +5,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -16,12 +18,13 @@ struct Run
     QString messages;
 };
 
-Run rvcatalog(const QStringList &arguments, const QString &folder = QString())
+// By default without a run-time directory, UTF-8 and a display.
+Run rvcatalog(const QStringList &arguments, const QString &folder = QString(), const QString &locale = u"C"_s)
 {
     QProcess process;
     process.setWorkingDirectory(folder);
     QProcessEnvironment environment;
-    environment.insert(u"LC_ALL"_s, u"C"_s); // no run-time directory, no UTF-8, no display
+    environment.insert(u"LC_ALL"_s, locale);
     process.setProcessEnvironment(environment);
     process.start(QString::fromUtf8(RVCATALOG), arguments);
     if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
@@ -36,7 +39,10 @@ const QString SAMPLE_PROJECT = QString::fromUtf8(SAMPLES "/project.xml");
 const char CATALOGUE[] =
         "<products>\n"
         "<product type='DUN9' name='Groß' price_class='PB9' page_price_class='KEMI62' pages='26' max_pages='154' "
-        "page_step='4'>"
+        "page_step='4' article_id='17' article_class='book' cover_type='hard' page_binding='lay_flat' "
+        "paper_type='glossy' orientation='portrait,square' space_magnitude='A4' shipping_group='2'>"
+        "<barcodes units='cm'><barcode position_x='1' position_y='3' width='3.8' height='1' pageNr='2'/>"
+        "<barcode width='0'/></barcodes>"
         "<composition><spine packages_per_block='2' base_width='8' block_width='1' additional_width='0.5'/>"
         "</composition><forms>"
         "<form key='alcolor' key_name='Farbe' value='black' value_name='Schwarz' preselected='true' "
@@ -46,6 +52,7 @@ const char CATALOGUE[] =
         "price_class='VEL4'/>"
         "</forms></product>\n"
         "<product type='VIR1' pages='13'/>\n"
+        "<product type='FOT1' article_class='premiumfoto'/>\n"
         "</products>\n";
 
 }
@@ -60,6 +67,12 @@ private Q_SLOTS:
     void usage();
     void showTable();
     void showJson();
+    void showJsonAttributes();
+    void sampleHasEveryAttribute();
+    void keywords();
+    void keywordsInEnglish();
+    void decodes_data();
+    void decodes();
     void showSample();
     void showProblems();
     void showUnreadable_data();
@@ -102,14 +115,22 @@ void tst_rvcatalog::usage_data()
                                   << u"Usage: rvcatalog show [options] CATALOGUE.xml"_s << QString();
     QTest::newRow("help of order") << QStringList { u"order"_s, u"-h"_s } << 0
                                    << u"Usage: rvcatalog order [options] CATALOGUE.xml PROJECT.xml"_s << QString();
+    QTest::newRow("help of keywords") << QStringList { u"keywords"_s, u"--help"_s } << 0
+                                      << u"Usage: rvcatalog keywords [options] [ATTRIBUTE]"_s << QString();
+    QTest::newRow("help of decode") << QStringList { u"decode"_s, u"--help"_s } << 0
+                                    << u"Usage: rvcatalog decode [options] ATTRIBUTE TEXT"_s << QString();
+    QTest::newRow("two attributes") << QStringList { u"keywords"_s, u"a"_s, u"b"_s } << 2 << QString()
+                                    << u"expected at most 1 argument, got 2"_s;
+    QTest::newRow("no text") << QStringList { u"decode"_s, u"cover_type"_s } << 2 << QString()
+                             << u"expected 2 arguments, got 1"_s;
     QTest::newRow("nothing") << QStringList() << 2 << QString() << u"usage: rvcatalog COMMAND"_s;
     QTest::newRow("unknown command") << QStringList { u"sing"_s } << 2 << QString()
                                      << u"there is no command \"sing\""_s;
     QTest::newRow("unknown option") << QStringList { u"show"_s, u"--sing"_s } << 2 << QString()
                                     << u"Unknown option 'sing'"_s;
-    QTest::newRow("file missing") << QStringList { u"show"_s } << 2 << QString() << u"expected 1 file, got 0"_s;
+    QTest::newRow("file missing") << QStringList { u"show"_s } << 2 << QString() << u"expected 1 argument, got 0"_s;
     QTest::newRow("one file too many") << QStringList { u"show"_s, u"a"_s, u"b"_s } << 2 << QString()
-                                       << u"expected 1 file, got 2"_s;
+                                       << u"expected 1 argument, got 2"_s;
 }
 
 void tst_rvcatalog::usage()
@@ -131,12 +152,19 @@ void tst_rvcatalog::showTable()
     QCOMPARE(run.messages, QString());
     QCOMPARE(run.exitCode, 0);
     const QStringList lines = run.output.split(u'\n');
-    QCOMPARE(lines.size(), 5);
-    QCOMPARE(lines.at(0), u"TYPE     PAGES            COUNTS SPINE mm   FONT pt OPTIONS (* is the default)"_s);
-    QVERIFY2(lines.at(1).startsWith("DUN9     26-154 by 4      33    9.0-25.0    "_L1), qPrintable(lines.at(1)));
-    QVERIFY2(lines.at(1).endsWith(" a;b: x;y*"_L1), qPrintable(lines.at(1)));
-    QCOMPARE(lines.at(2), QString(51, u' ') + u"alcolor: black*, red"_s);
-    QCOMPARE(lines.at(3), u"VIR1     13               1     -           -"_s);
+        QCOMPARE(lines.at(0),
+             u"TYPE     PAGES            COUNTS SPINE mm    FONT pt ATTRIBUTES, OPTIONS (* is the default)"_s);
+    QVERIFY2(lines.at(1).startsWith("DUN9     26-154 by 4      33     9.0-25.0    "_L1), qPrintable(lines.at(1)));
+    QVERIFY2(lines.at(1).endsWith(" class book; cover HARDCOVER; binding layflat;"_L1), qPrintable(lines.at(1)));
+    const QString indent(53, u' ');
+    QCOMPARE(lines.mid(2),
+             (QStringList { indent + "paper indigo-glossy; orientation portrait,"_L1,
+                            indent + "square; size 600cm2; shipping group 2"_L1,
+                            indent + "barcode 38.0 x 10.0 mm at 10.0, 20.0 on page 2"_L1, indent + "a;b: x;y*"_L1,
+                            indent + "alcolor: black*, red"_L1,
+                            u"VIR1     13               1      -           -"_s,
+                            u"FOT1     1                1      -           -       class premiumfoto; photo paper Glänzend;"_s,
+                            indent + "shipping group 18"_L1, u""_s }));
 }
 
 void tst_rvcatalog::showJson()
@@ -145,7 +173,7 @@ void tst_rvcatalog::showJson()
     QCOMPARE(run.messages, QString());
     QCOMPARE(run.exitCode, 0);
     const QJsonArray products = QJsonDocument::fromJson(run.output.toUtf8()).array();
-    QCOMPARE(products.size(), 2);
+    QCOMPARE(products.size(), 3);
     const QJsonObject book = products.at(0).toObject();
     QCOMPARE(book.value("type"_L1), QJsonValue(u"DUN9"_s));
     QCOMPARE(book.value("name"_L1), QJsonValue(u"Groß"_s));
@@ -160,6 +188,140 @@ void tst_rvcatalog::showJson()
     QCOMPARE(book.value("options"_L1).toArray().at(1)["default"_L1], QJsonValue(false));
     QCOMPARE(book.value("options"_L1).toArray().at(2)["accountable"_L1], QJsonValue(false));
     QVERIFY(products.at(1).toObject().value("spine"_L1).isNull());
+}
+
+void tst_rvcatalog::showJsonAttributes()
+{
+    const Run run = rvcatalog({ u"show"_s, u"--json"_s, u"c.xml"_s }, myFolder.path());
+    const QJsonArray products = QJsonDocument::fromJson(run.output.toUtf8()).array();
+    const QJsonObject book = products.at(0).toObject();
+    const auto attribute = [](const QStringList &keywords, const QString &name) {
+        return QJsonObject { { u"keywords"_s, QJsonArray::fromStringList(keywords) }, { u"name"_s, name } };
+    };
+    QCOMPARE(book.value("article_id"_L1), QJsonValue(17));
+    QCOMPARE(book.value("article_class"_L1), QJsonValue(attribute({ u"book"_s }, u"RAVO FOTOBUCH"_s)));
+    QCOMPARE(book.value("cover_type"_L1), QJsonValue(attribute({ u"HARDCOVER"_s }, u"Hardcover"_s)));
+    QCOMPARE(book.value("page_binding"_L1), QJsonValue(attribute({ u"layflat"_s }, u"Lay-Flat-Bindung"_s)));
+    QCOMPARE(book.value("paper_type"_L1), QJsonValue(attribute({ u"indigo-glossy"_s }, u"Digitaldruck Hochglanz"_s)));
+    QCOMPARE(book.value("foto_paper_type"_L1), QJsonValue());
+    const QJsonObject orientation { { u"keywords"_s, QJsonArray { u"portrait"_s, u"square"_s } } };
+    QCOMPARE(book.value("orientation"_L1), QJsonValue(orientation));
+    QCOMPARE(book.value("space_magnitude"_L1), QJsonValue(attribute({ u"600cm2"_s }, u"A4"_s)));
+    QCOMPARE(book.value("shipping_group"_L1), QJsonValue(2));
+    const QJsonObject barcode { { u"page"_s, 2 },       { u"left_mm"_s, 10 },   { u"top_mm"_s, 20 },
+                                { u"width_mm"_s, 38 },  { u"height_mm"_s, 10 }, { u"image"_s, u"dummy-barcode.png"_s } };
+    QCOMPARE(book.value("barcodes"_L1), QJsonValue(QJsonArray { barcode }));
+
+    const QJsonObject calendar = products.at(1).toObject();
+    for (const QString &name : { u"article_id"_s, u"article_class"_s, u"cover_type"_s, u"page_binding"_s, u"paper_type"_s,
+                                 u"foto_paper_type"_s, u"orientation"_s, u"space_magnitude"_s, u"shipping_group"_s }) {
+        QVERIFY(calendar.contains(name));
+        QVERIFY(calendar.value(name).isNull());
+    }
+    const QJsonObject print = products.at(2).toObject();
+    QCOMPARE(print.value("foto_paper_type"_L1), QJsonValue(attribute({ u"1"_s }, u"Glänzend"_s)));
+    QCOMPARE(print.value("shipping_group"_L1), QJsonValue(18));
+}
+
+void tst_rvcatalog::sampleHasEveryAttribute()
+{
+    const Run run = rvcatalog({ u"show"_s, u"--json"_s, SAMPLE_CATALOGUE });
+    const QJsonArray products = QJsonDocument::fromJson(run.output.toUtf8()).array();
+    for (const QString &name : { u"article_id"_s, u"article_class"_s, u"cover_type"_s, u"page_binding"_s, u"paper_type"_s,
+                                 u"foto_paper_type"_s, u"orientation"_s, u"space_magnitude"_s, u"shipping_group"_s,
+                                 u"barcodes"_s }) {
+        const auto has = [&name](const QJsonValue &product) {
+            const QJsonValue value = product.toObject().value(name);
+            return !value.isNull() && !(value.isArray() && value.toArray().isEmpty());
+        };
+        QVERIFY2(std::any_of(products.begin(), products.end(), has), qPrintable(name));
+    }
+}
+
+void tst_rvcatalog::keywords()
+{
+    const Run one = rvcatalog({ u"keywords"_s, u"page_binding"_s });
+    QCOMPARE(one.messages, QString());
+    QCOMPARE(one.exitCode, 0);
+    QCOMPARE(one.output,
+             u"page_binding\n"
+             "VALUE  KEYWORD  ALIASES   NAME\n"
+             "0x0    unknown\n"
+             "0x1    glue     glued     klassische Buchbindung\n"
+             "0x2    layflat  lay_flat  Lay-Flat-Bindung\n"
+             "0x4    stapled            Rückstichbindung\n"
+             "0x8    spiral\n"_s);
+    const Run all = rvcatalog({ u"keywords"_s });
+    QCOMPARE(all.exitCode, 0);
+    QVERIFY(all.output.contains(one.output));
+    const QStringList blocks = all.output.split(u"\n\n"_s);
+    QStringList names;
+    for (const QString &block : blocks)
+        names += block.section(u'\n', 0, 0);
+    QCOMPARE(names,
+             (QStringList { u"article_class"_s, u"cover_type"_s, u"page_binding"_s, u"paper_type"_s,
+                            u"foto_paper_type"_s, u"orientation"_s, u"space_magnitude"_s, u"page_type"_s,
+                            u"page_alignment"_s, u"material_type"_s, u"product_arrangement"_s, u"dlp_type"_s,
+                            u"spot_color"_s }));
+    // One line for each value that has a keyword, behind the name and the heading.
+    QList<qsizetype> sizes;
+    for (const QString &block : blocks)
+        sizes += block.trimmed().count(u'\n') - 1;
+    QCOMPARE(sizes, (QList<qsizetype> { 48, 32, 5, 9, 3, 7, 14, 34, 7, 6, 5, 12, 5 }));
+}
+
+void tst_rvcatalog::keywordsInEnglish()
+{
+    const Run run = rvcatalog({ u"keywords"_s, u"page_binding"_s }, QString(), u"en_GB.UTF-8"_s);
+    QVERIFY2(run.output.contains("0x4    stapled            saddle-stitch binding\n"_L1), qPrintable(run.output));
+    const Run french = rvcatalog({ u"keywords"_s, u"page_binding"_s }, QString(), u"fr_FR.UTF-8"_s);
+    QVERIFY(french.output.contains(u"Rückstichbindung"_s));
+}
+
+void tst_rvcatalog::decodes_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("output");
+    QTest::addColumn<QString>("messages");
+    QTest::addColumn<int>("exitCode");
+
+    QTest::newRow("one") << QStringList { u"cover_type"_s, u" LEATHER"_s }
+                         << u"Value     0x8\nKeyword   LEATHER\nBits      LEATHER\nName      Leder\n"_s << QString()
+                         << 0;
+    QTest::newRow("alias in a list") << QStringList { u"cover_type"_s, u"hard, canvas"_s }
+                                     << u"Value     0x1001\nBits      HARDCOVER, canvas\n"_s << QString() << 0;
+    QTest::newRow("named combination")
+            << QStringList { u"page_type"_s, u"panoramapages"_s }
+            << u"Value     0x600000\nKeyword   PanoramaPages\nBits      panorama_base, panorama_wing\n"_s << QString()
+            << 0;
+    QTest::newRow("unknown pieces")
+            << QStringList { u"cover_type"_s, u"hard,Leinen,"_s }
+            << u"Value     0x1\nKeyword   HARDCOVER\nBits      HARDCOVER\nName      Hardcover\n"_s
+            << u"rvcatalog: \"Leinen\" is no keyword of cover_type; it stands for the default value\n"
+               "rvcatalog: an empty piece is no keyword of cover_type; it stands for the default value\n"_s
+            << 1;
+    QTest::newRow("unknown, with a default") << QStringList { u"page_alignment"_s, u"above"_s }
+                                             << u"Value     0x1\nKeyword   left\nBits      left\nName      links\n"_s
+                                             << u"rvcatalog: \"above\" is no keyword of page_alignment; it stands for "
+                                                "the default value\n"_s
+                                             << 1;
+    QTest::newRow("a keyword for nothing") << QStringList { u"page_binding"_s, u"unknown"_s }
+                                           << u"Value     0x0\nKeyword   unknown\n"_s << QString() << 0;
+    QTest::newRow("no attribute") << QStringList { u"colour"_s, u"red"_s } << QString()
+                                  << u"rvcatalog: there is no attribute \"colour\"; there are: article_class, "
+                                     "cover_type, page_binding, paper_type, foto_paper_type, orientation, "
+                                     "space_magnitude, page_type, page_alignment, material_type, "
+                                     "product_arrangement, dlp_type, spot_color\n"_s
+                                  << 2;
+}
+
+void tst_rvcatalog::decodes()
+{
+    QFETCH(QStringList, arguments);
+    const Run run = rvcatalog(QStringList { u"decode"_s } + arguments);
+    QTEST(run.output, "output");
+    QTEST(run.messages, "messages");
+    QTEST(run.exitCode, "exitCode");
 }
 
 void tst_rvcatalog::showSample()

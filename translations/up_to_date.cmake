@@ -1,0 +1,11 @@
+# Fails when a source text is missing in TS_FILE, is no longer in the sources, or is not translated.
+file(COPY_FILE ${TS_FILE} ${COPY})
+execute_process(COMMAND ${LUPDATE} ${ARGUMENTS} -ts ${COPY} COMMAND_ERROR_IS_FATAL ANY)
+execute_process(COMMAND ${CMAKE_COMMAND} -E compare_files ${TS_FILE} ${COPY} RESULT_VARIABLE different)
+if(different)
+    message(FATAL_ERROR "${TS_FILE} does not have the texts of the sources: run \"./dev translations\" and translate")
+endif()
+file(STRINGS ${TS_FILE} unfinished REGEX "unfinished")
+if(unfinished)
+    message(FATAL_ERROR "${TS_FILE} has texts that are not translated")
+endif()
