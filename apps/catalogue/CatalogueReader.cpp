@@ -52,7 +52,9 @@ qint64 BoundedInput::sizeBeforeEntity(const char *data, qint64 size)
 }
 
 CatalogueReader::CatalogueReader(QIODevice *device, const QString &elementName)
-    : myInput(device), myXml(&myInput), myElementName(elementName)
+    : myInput(device),
+      myXml(&myInput),
+      myElementName(elementName)
 {
     myXml.setNamespaceProcessing(false);
 }

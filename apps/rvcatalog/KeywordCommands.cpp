@@ -28,9 +28,8 @@ QString attributeNames()
 const CatalogueAttribute *findAttribute(const QString &name)
 {
     const QList<CatalogueAttribute> &attributes = catalogueAttributes();
-    const auto found = std::find_if(attributes.begin(), attributes.end(), [&name](const CatalogueAttribute &attribute) {
-        return attribute.name == name;
-    });
+    const auto found = std::find_if(attributes.begin(), attributes.end(),
+                                    [&name](const CatalogueAttribute &attribute) { return attribute.name == name; });
     if (found != attributes.end())
         return &*found;
     QTextStream(stderr) << "rvcatalog: there is no attribute \"" << name << "\"; there are: " << attributeNames()
@@ -71,7 +70,8 @@ int keywordsCommand(const QStringList &arguments)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
-            u"Lists the keywords of an attribute, or of all attributes: value, the keyword that is written, the aliases\n"
+            u"Lists the keywords of an attribute, or of all attributes: value, the keyword that is written, the "
+            u"aliases\n"
             "that are read as well, and the display name where there is one. The attributes are:\n%1."_s.arg(
                     attributeNames()));
     parser.addPositionalArgument(u"ATTRIBUTE"_s, u"The attribute; all where it is missing."_s, u"[ATTRIBUTE]"_s);
@@ -99,7 +99,8 @@ int decodeCommand(const QStringList &arguments)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
-            u"Reads a list of keywords separated by commas as the ordering application does, and names the pieces that\n"
+            u"Reads a list of keywords separated by commas as the ordering application does, and names the pieces "
+            u"that\n"
             "are not known, which stand for the default value of the attribute. The attributes are:\n%1."_s.arg(
                     attributeNames()));
     parser.addPositionalArgument(u"ATTRIBUTE"_s, u"The attribute."_s);

@@ -37,8 +37,8 @@ std::optional<Project> readProject(const QString &fileName)
         report(fileName, reader.errorPosition(), reader.errorString());
         return std::nullopt;
     }
-    return Project { RVProductType::fromKtx(root), root.attribute(u"pages"_s),
-                     root.attribute(u"variants"_s), reader.position() };
+    return Project { RVProductType::fromKtx(root), root.attribute(u"pages"_s), root.attribute(u"variants"_s),
+                     reader.position() };
 }
 
 /// Finds the first product of the type; reads the catalogue to its end, so that a broken one is noticed.
@@ -77,10 +77,10 @@ QStringList variantProblems(const QString &text, const CatalogueProduct &product
             values += option.value();
         if (offered.isEmpty())
             problems += u"%1 has no option \"%2\"; it has: %3"_s.arg(product.type.toString(), key,
-                                                                    product.options.keys().join(", "_L1));
+                                                                     product.options.keys().join(", "_L1));
         else if (!values.contains(chosen.value(key)))
             problems += u"the option \"%1\" has no value \"%2\"; it has: %3"_s.arg(key, chosen.value(key),
-                                                                                  values.join(", "_L1));
+                                                                                   values.join(", "_L1));
     }
     return problems;
 }
@@ -105,7 +105,8 @@ QStringList pageCountProblems(const QString &text, const CatalogueProduct &produ
                      .arg(counts.minPages())
                      .arg(counts.maxPages())
                      .arg(counts.pageIncrement())
-                     .arg(qMin(counts.constrain(pages), counts.pagesWithNExtraPackages(counts.numberOfPackages() - 1))) };
+                     .arg(qMin(counts.constrain(pages),
+                               counts.pagesWithNExtraPackages(counts.numberOfPackages() - 1))) };
 }
 
 QMap<RVPriceClass, int> countPriceClasses(const CatalogueProduct &product, int packages,
@@ -187,8 +188,8 @@ int orderCommand(const QStringList &arguments)
                u"the catalogue has no product of type \"%1\""_s.arg(project->type.orderTxtName()));
         return EXIT_PROBLEMS;
     }
-    const QStringList problems =
-            variantProblems(project->variants, *product) + pageCountProblems(project->pages, *product);
+    const QStringList problems = variantProblems(project->variants, *product)
+            + pageCountProblems(project->pages, *product);
     for (const QString &problem : problems)
         report(projectName, project->position, problem);
     if (!problems.isEmpty())

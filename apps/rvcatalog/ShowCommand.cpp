@@ -217,8 +217,8 @@ QJsonObject toJson(const CatalogueProduct &product)
                   { u"valid"_s, counts.isValid() },
           } },
         { u"spine"_s,
-          product.hasSpine() ? QJsonValue(QJsonArray { spineJson(product, counts.minPages()),
-                                                       spineJson(product, counts.maxPages()) })
+          product.hasSpine() ? QJsonValue(
+                  QJsonArray { spineJson(product, counts.minPages()), spineJson(product, counts.maxPages()) })
                              : QJsonValue(QJsonValue::Null) },
         { u"options"_s, options },
     };
@@ -272,7 +272,8 @@ int showCommand(const QStringList &arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(
             u"Lists every product of a catalogue: type, page counts, how many counts there are to choose from, spine\n"
-            "width and largest spine font size at the lowest and the highest count, then article class, cover, binding,\n"
+            "width and largest spine font size at the lowest and the highest count, then article class, cover, "
+            "binding,\n"
             "paper, orientation, size class, shipping group and barcodes, and the options per key."_s);
     const QCommandLineOption json(u"json"_s, u"Write a JSON array, one product a line."_s);
     parser.addOption(json);

@@ -63,8 +63,7 @@ void useUtf8()
 void loadTranslation(QTranslator *translator, const QLocale &locale)
 {
     const QString folder = u":/translations"_s;
-    if (translator->load(locale, u"rvproductbase"_s, u"_"_s, folder)
-        || translator->load(u"rvproductbase_de"_s, folder))
+    if (translator->load(locale, u"rvproductbase"_s, u"_"_s, folder) || translator->load(u"rvproductbase_de"_s, folder))
         QCoreApplication::installTranslator(translator);
 }
 

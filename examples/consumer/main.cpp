@@ -28,6 +28,6 @@ int main(int argc, char *argv[])
     QTextStream(stdout) << pages << "\nspine with 34 pages: " << spine << " mm\norder: " << order << '\n';
 
     const bool right = pages == "min: 26; max: 154; increment: 4"_L1 && qFuzzyCompare(spine, 10.0)
-        && order == "alcolor:red;coverphoto:yes"_L1;
+            && order == "alcolor:red;coverphoto:yes"_L1;
     return right ? 0 : 1;
 }

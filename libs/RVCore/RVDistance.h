@@ -12,8 +12,7 @@ public:
     constexpr RVDistance() noexcept = default;
     constexpr RVDistance(qreal amount, RVDistanceUnit unit = DISTANCE_UNIT_TENTH_MILLIMETRE)
         : myValue(unit.units2Pixels(amount))
-    {
-    }
+    { }
 
     /// The length in the base unit, a tenth of a millimetre.
     constexpr qreal value() const noexcept { return myValue; }

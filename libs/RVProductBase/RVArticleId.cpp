@@ -20,13 +20,11 @@ RVArticleId::RVArticleId(const QJsonObject &object) : RVArticleId(object, ARTICL
 
 RVArticleId::RVArticleId(const QDomElement &element, const QString &attribute)
     : myId(RVXMLParser::intAttribute(element, attribute, 0))
-{
-}
+{ }
 
 RVArticleId::RVArticleId(const QDomNamedNodeMap &attributes, const QString &attribute)
     : myId(RVXMLParser::intAttribute(attributes, attribute, 0))
-{
-}
+{ }
 
 RVArticleId RVArticleId::fromIdAttribute(const QDomElement &element)
 {

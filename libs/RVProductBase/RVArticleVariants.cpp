@@ -139,9 +139,8 @@ bool RVArticleVariants::isValid() const
 
 bool RVArticleVariants::containsNotAccountableVariant() const
 {
-    return std::any_of(myVariants.begin(), myVariants.end(), [](const QString &value) {
-        return value == QLatin1StringView("notAccountable");
-    });
+    return std::any_of(myVariants.begin(), myVariants.end(),
+                       [](const QString &value) { return value == QLatin1StringView("notAccountable"); });
 }
 
 bool RVArticleVariants::contains(const RVArticleVariants &other) const

@@ -33,9 +33,10 @@ const QString RVBarcodeDefinition::DEFAULT_IMAGE_NAME = u"dummy-barcode.png"_s;
 RVBarcodeDefinition::RVBarcodeDefinition() = default;
 
 RVBarcodeDefinition::RVBarcodeDefinition(const QRect &rect, int pageNr, const QString &imageName)
-    : myRect(rect), myPageNr(pageNr), myImageName(imageName)
-{
-}
+    : myRect(rect),
+      myPageNr(pageNr),
+      myImageName(imageName)
+{ }
 
 RVBarcodeDefinition::~RVBarcodeDefinition() = default;
 

@@ -11,8 +11,8 @@
 class QDomElement;
 
 /**
- * Where the production barcode of a product goes: a rectangle in tenths of a millimetre on one page, and the placeholder
- * image that the editor shows there.
+ * Where the production barcode of a product goes: a rectangle in tenths of a millimetre on one page, and the
+ * placeholder image that the editor shows there.
  *
  * Read from the products XML. By default an invalid definition: an empty rectangle on page 0 without an image.
  */

@@ -45,14 +45,13 @@ RVConfiguredArticleVariant::RVConfiguredArticleVariant(const QString &text) : RV
 }
 
 RVConfiguredArticleVariant::RVConfiguredArticleVariant(const QDomElement &element)
-    : d(new RVConfiguredArticleVariantImpl(
-            textAttribute(element, u"key"_s), textAttribute(element, u"key_name"_s), textAttribute(element, u"value"_s),
-            textAttribute(element, u"value_name"_s), textAttribute(element, u"editor_name"_s),
-            textAttribute(element, u"name"_s), textAttribute(element, u"preview"_s), colorAttribute(element, u"color"_s),
-            RVXMLParser::boolAttribute(element, u"preselected"_s, false),
-            RVXMLParser::boolAttribute(element, u"not_accountable"_s, false)))
-{
-}
+    : d(new RVConfiguredArticleVariantImpl(textAttribute(element, u"key"_s), textAttribute(element, u"key_name"_s),
+                                           textAttribute(element, u"value"_s), textAttribute(element, u"value_name"_s),
+                                           textAttribute(element, u"editor_name"_s), textAttribute(element, u"name"_s),
+                                           textAttribute(element, u"preview"_s), colorAttribute(element, u"color"_s),
+                                           RVXMLParser::boolAttribute(element, u"preselected"_s, false),
+                                           RVXMLParser::boolAttribute(element, u"not_accountable"_s, false)))
+{ }
 
 QString RVConfiguredArticleVariant::key() const
 {

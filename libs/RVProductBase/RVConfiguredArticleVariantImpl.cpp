@@ -17,8 +17,7 @@ RVConfiguredArticleVariantImpl::RVConfiguredArticleVariantImpl(const QString &ke
       color(color_),
       preselected(preselected_),
       notAccountable(notAccountable_)
-{
-}
+{ }
 
 QString RVConfiguredArticleVariantImpl::previewNameFallbacked(const QString &optionValue) const
 {

@@ -14,8 +14,7 @@ public:
     RVConfiguredArticleVariantImpl() = default;
     RVConfiguredArticleVariantImpl(const QString &key, const QString &keyName, const QString &value,
                                    const QString &visibleName, const QString &editorName, const QString &name,
-                                   const QString &preview, const QColor &color, bool preselected,
-                                   bool notAccountable);
+                                   const QString &preview, const QColor &color, bool preselected, bool notAccountable);
 
     bool isValid() const { return !key.isEmpty() && !value.isEmpty(); }
     /// The preview image name for @p optionValue where the catalogue has a stock one for this key, else #preview.

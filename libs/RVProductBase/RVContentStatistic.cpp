@@ -9,8 +9,7 @@ RVContentStatistic::RVContentStatistic(int countGeoMapAreas, int countVideoAreas
     : myCountGeoMapAreas(countGeoMapAreas),
       myCountVideoAreas(countVideoAreas),
       myBoughtAdditionalContent(boughtAdditionalContent)
-{
-}
+{ }
 
 RVContentStatistic::~RVContentStatistic() = default;
 

@@ -112,8 +112,7 @@ constexpr RVDisplayText<RVCoverTypeEnum> TOOL_TIPS[] = {
       QT_TRANSLATE_NOOP("RVBinding",
                         "Ein großformatiger Beidseitig bedruckter Jahreskalender gibt übersicht über das gesamte "
                         "Kalenderjahr.\nAlles auf einen Blick.") },
-    { BOOKLET,
-      QT_TRANSLATE_NOOP("RVBinding", "Individuell gestaltbarer flexibler Einband mit Rückstichbindung.") },
+    { BOOKLET, QT_TRANSLATE_NOOP("RVBinding", "Individuell gestaltbarer flexibler Einband mit Rückstichbindung.") },
 };
 
 /// The first line of the tool tips that have the second one in common.
@@ -132,8 +131,8 @@ QString unknownName()
 QMap<RVCoverType, QString> toolTips()
 {
     QMap<RVCoverType, QString> result = rvTranslated<RVCoverType>(CONTEXT, TOOL_TIPS);
-    const QString design = QCoreApplication::translate(
-            "RVBinding", "Das Cover kann nur mit veredelten Elementen gestaltet werden.");
+    const QString design = QCoreApplication::translate("RVBinding",
+                                                       "Das Cover kann nur mit veredelten Elementen gestaltet werden.");
     for (const auto &row : TEXTILE_TOOL_TIPS) {
         const QString pattern = QCoreApplication::translate("RVBinding", "%1\n%2");
         result.insert(row.value, pattern.arg(QCoreApplication::translate(CONTEXT, row.text), design));

@@ -53,8 +53,8 @@ public:
     /// From a keyword list such as "hardcover, canvas".
     RVCoverType(const QString &text);
 
-    /// The value of a German display name, or of one in the application's language; none for an unknown name. Many covers
-    /// have the empty name; it stands for GIFT, the lowest of them.
+    /// The value of a German display name, or of one in the application's language; none for an unknown name. Many
+    /// covers have the empty name; it stands for GIFT, the lowest of them.
     static RVCoverType createFromHumanReadable(const QString &name);
 
     /// True for every valid cover but exactly WIRE_O.
@@ -64,8 +64,8 @@ public:
     /// True with a product that is printed on one side. An annual planner counts too, a table calendar does not.
     bool isSimplex() const;
 
-    /// What the customer reads for exactly this value: empty for most kinds, and "unbekannter Bindungstyp" where there is
-    /// no name, such as for CERAMICS.
+    /// What the customer reads for exactly this value: empty for most kinds, and "unbekannter Bindungstyp" where there
+    /// is no name, such as for CERAMICS.
     QString humanReadableName() const;
     /// What the customer reads about exactly this value, else "unbekannter Bindungstyp".
     QString toolTip() const;

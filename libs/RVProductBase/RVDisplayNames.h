@@ -28,9 +28,11 @@ public:
 
     /// @p context is the translation context of the names; it must outlive the table.
     RVDisplayNames(const char *context, QMap<T, QString> names_, const T &defaultValue_, const QString &unknownName_)
-        : names(std::move(names_)), defaultValue(defaultValue_), unknownName(unknownName_), myContext(context)
-    {
-    }
+        : names(std::move(names_)),
+          defaultValue(defaultValue_),
+          unknownName(unknownName_),
+          myContext(context)
+    { }
 
     QString name(const T &value) const { return names.value(value, unknownName); }
 

@@ -106,7 +106,8 @@ QString RVDlpType::visibleName(int n) const
 
 QString RVDlpType::dlpPath(bool alternative) const
 {
-    return RVDirectoryName(directory(withoutFilter(), alternative)).name();
+    const RVDirectoryName name(directory(withoutFilter(), alternative));
+    return name.value() != 0 ? name.name() : QString();
 }
 
 bool RVDlpType::dlpButtonForbidden() const

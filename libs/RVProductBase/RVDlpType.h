@@ -36,7 +36,8 @@ public:
     /// What the customer reads for exactly this type, without a number for -1, else with @p n in the plural form that
     /// belongs to it: "3 Cliparts". A null text where there is no name.
     QString visibleName(int n) const;
-    /// The name of the directory for exactly this type; designs have an alternative one. A null text where there is none.
+    /// The name of the directory for exactly this type; designs have an alternative one. A null text where there is
+    /// none.
     QString dlpPath(bool alternative) const;
     /// True for exactly DLP_TYPE_LAYOUTCOLLECTION.
     bool dlpButtonForbidden() const;

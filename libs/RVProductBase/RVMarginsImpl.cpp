@@ -3,9 +3,11 @@
 #include "RVSaturation_p.h"
 
 RVMarginsImpl::RVMarginsImpl(int top, int bottom, int left, int right) noexcept
-    : myTop(top), myBottom(bottom), myLeft(left), myRight(right)
-{
-}
+    : myTop(top),
+      myBottom(bottom),
+      myLeft(left),
+      myRight(right)
+{ }
 
 QSize RVMarginsImpl::totalMarginWH() const noexcept
 {

@@ -1,15 +1,15 @@
 #include "RVModelAddOnStatistic.h"
 
-RVModelAddOnStatistic::RVModelAddOnStatistic(const RVContentStatistic &contentStatistic,
-                                             const RVPriceClass &videoAddOn, const RVPriceClass &spotColorAddOn)
-    : myContentStatistic(contentStatistic), myVideoAddOn(videoAddOn), mySpotColorAddOn(spotColorAddOn)
-{
-}
+RVModelAddOnStatistic::RVModelAddOnStatistic(const RVContentStatistic &contentStatistic, const RVPriceClass &videoAddOn,
+                                             const RVPriceClass &spotColorAddOn)
+    : myContentStatistic(contentStatistic),
+      myVideoAddOn(videoAddOn),
+      mySpotColorAddOn(spotColorAddOn)
+{ }
 
 RVModelAddOnStatistic::RVModelAddOnStatistic(const RVContentStatistic &contentStatistic)
     : RVModelAddOnStatistic(contentStatistic, RVPriceClass::create(QStringLiteral("MUL1")), RVPriceClass())
-{
-}
+{ }
 
 RVModelAddOnStatistic::~RVModelAddOnStatistic() = default;
 

@@ -8,7 +8,8 @@
 class QDataStream;
 class QDebug;
 
-/// The id of an order, as the ordering service issued it. A null text is no order; an empty one is an order all the same.
+/// The id of an order, as the ordering service issued it. A null text is no order; an empty one is an order all the
+/// same.
 class RVPRODUCTBASE_EXPORT RVOrderId
 {
 public:

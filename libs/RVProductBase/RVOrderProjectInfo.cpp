@@ -4,9 +4,10 @@
 #include <QDebug>
 
 RVOrderProjectInfo::RVOrderProjectInfo(const QString &xtciSession, const RVOrderId &orderId, int orderPosition)
-    : myXtciSession(xtciSession), myOrderId(orderId), myOrderPosition(orderPosition)
-{
-}
+    : myXtciSession(xtciSession),
+      myOrderId(orderId),
+      myOrderPosition(orderPosition)
+{ }
 
 RVOrderProjectInfo::~RVOrderProjectInfo() = default;
 

@@ -34,8 +34,8 @@ public:
 
     void setOrderId(const RVOrderId &orderId);
 
-    /// Writes the order id, the position as a 32-bit integer and the session: the info is on the left, the stream on the
-    /// right.
+    /// Writes the order id, the position as a 32-bit integer and the session: the info is on the left, the stream on
+    /// the right.
     QDataStream &operator<<(QDataStream &stream) const;
 
 private:

@@ -29,8 +29,8 @@ public:
 
     /// The German words for exactly this value, translated; empty where there are none.
     QString describe() const;
-    /// What the name of a production PDF ends with: "_left.pdf" and "_right.pdf" for exactly these pages where the output
-    /// is split by page, else "_center.pdf".
+    /// What the name of a production PDF ends with: "_left.pdf" and "_right.pdf" for exactly these pages where the
+    /// output is split by page, else "_center.pdf".
     QString pdfPostFix(bool split) const;
     /// The path with pdfPostFix() for every ".pdf" in it, in whatever letter case.
     QString modifyProductionPath(const QString &path, bool split) const;

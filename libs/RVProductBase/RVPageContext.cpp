@@ -5,9 +5,9 @@
 using namespace Qt::StringLiterals;
 
 RVPageContext::RVPageContext(const RVPageType &pageType, const RVPageAlignment &alignment) noexcept
-    : myPageType(pageType), myAlignment(alignment)
-{
-}
+    : myPageType(pageType),
+      myAlignment(alignment)
+{ }
 
 RVPageContext::~RVPageContext() = default;
 

@@ -5,8 +5,8 @@
 #include "RVPageType.h"
 #include "RVProductBaseExport.h"
 
-/// What a page of a product is: its type and its place in the spread. Both may hold several bits and then stand for each
-/// of them.
+/// What a page of a product is: its type and its place in the spread. Both may hold several bits and then stand for
+/// each of them.
 class RVPRODUCTBASE_EXPORT RVPageContext
 {
 public:

@@ -12,9 +12,9 @@
 using namespace Qt::StringLiterals;
 
 RVPageCountOrganization::RVPageCountOrganization(const RVIntRange &range, int pageIncrement)
-    : myRange(range), myPageIncrement(pageIncrement)
-{
-}
+    : myRange(range),
+      myPageIncrement(pageIncrement)
+{ }
 
 RVPageCountOrganization::~RVPageCountOrganization() = default;
 

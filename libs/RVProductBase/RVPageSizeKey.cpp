@@ -7,14 +7,14 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr RVPageAlignmentEnum EVERY_ALIGNMENT = PAGE_ALIGNMENT_LEFT | PAGE_ALIGNMENT_RIGHT | PAGE_ALIGNMENT_MIDDLE
-    | PAGE_ALIGNMENT_FULLPAGE | PAGE_ALIGNMENT_TOP | PAGE_ALIGNMENT_BOTTOM | PAGE_ALIGNMENT_CENTER;
+        | PAGE_ALIGNMENT_FULLPAGE | PAGE_ALIGNMENT_TOP | PAGE_ALIGNMENT_BOTTOM | PAGE_ALIGNMENT_CENTER;
 
 }
 
 RVPageSizeKey::RVPageSizeKey(const RVPageType &pageType, int pageCount) noexcept
-    : myPageContext(pageType, EVERY_ALIGNMENT), myPageCount(pageCount)
-{
-}
+    : myPageContext(pageType, EVERY_ALIGNMENT),
+      myPageCount(pageCount)
+{ }
 
 RVPageSizeKey::~RVPageSizeKey() = default;
 

@@ -5,9 +5,9 @@
 #include <QDebug>
 
 RVPageSizeSpec::RVPageSizeSpec(const QSize &usableSize, const RVMargins &bleedMargins)
-    : myUsableSize(usableSize), myBleedMargins(bleedMargins)
-{
-}
+    : myUsableSize(usableSize),
+      myBleedMargins(bleedMargins)
+{ }
 
 QSize RVPageSizeSpec::totalSize() const noexcept
 {

@@ -17,8 +17,8 @@ class RVProductCheckerRegistry;
 extern template class RVPRODUCTBASE_EXPORT RVSingleton<RVProductCheckerRegistry>;
 
 /**
- * Asks all checkers of the application whether a product may be offered: it may when none of those that take part in one
- * of the kinds of check refuses. Without such a checker everything may be offered.
+ * Asks all checkers of the application whether a product may be offered: it may when none of those that take part in
+ * one of the kinds of check refuses. Without such a checker everything may be offered.
  *
  * Any thread may call isValid(), also a checker that is being asked. Checkers are registered and removed while no other
  * thread asks, typically when the application starts and ends.
@@ -29,8 +29,8 @@ public:
     RVProductCheckerRegistry();
     virtual ~RVProductCheckerRegistry();
 
-    /// Adds a checker, which stays the caller's; one that is registered twice is asked twice. Null adds nothing. Empties
-    /// the cache.
+    /// Adds a checker, which stays the caller's; one that is registered twice is asked twice. Null adds nothing.
+    /// Empties the cache.
     void registerChecker(RVProductChecker *checker);
     /// Removes a checker however often it is registered. Empties the cache.
     void unregisterChecker(RVProductChecker *checker);

@@ -13,22 +13,20 @@ const QString RVShippingGroupId::SHIPPING_GROUP_ID_KEY = u"id"_s;
 
 RVShippingGroupId::RVShippingGroupId(const QDomElement &element, const QString &attribute)
     : myId(RVXMLParser::intAttribute(element, attribute, -1))
-{
-}
+{ }
 
 RVShippingGroupId::RVShippingGroupId(const QDomElement &element) : RVShippingGroupId(element, SHIPPING_GROUP_ID_KEY) { }
 
 RVShippingGroupId::RVShippingGroupId(const QDomNamedNodeMap &attributes, const QString &attribute)
     : myId(RVXMLParser::intAttribute(attributes, attribute, -1))
-{
-}
+{ }
 
 RVShippingGroupId::RVShippingGroupId(const QDomNamedNodeMap &attributes)
     : RVShippingGroupId(attributes, SHIPPING_GROUP_ID_KEY)
-{
-}
+{ }
 
-RVShippingGroupId::RVShippingGroupId(const QJsonObject &object) : myId(object.value(SHIPPING_GROUP_ID_KEY).toInt(-1)) { }
+RVShippingGroupId::RVShippingGroupId(const QJsonObject &object)
+    : myId(object.value(SHIPPING_GROUP_ID_KEY).toInt(-1)) { }
 
 RVShippingGroupId RVShippingGroupId::createFrom(const QString &text)
 {

@@ -215,13 +215,14 @@ QFont RVSpaceMagnitude::adaptFont(const QFont &font, const RVSpaceMagnitude &tar
 {
     const double factor = scaleFactorPerDimension(target);
     QFont result = font;
-    if (factor == 1.0 || !std::isfinite(factor))
+    if (factor == 1.0)
         return result;
+    // A combination has no area to scale by; a font without a size would be none.
     if (font.pointSizeF() == -1) {
         const int pixelSize = rvSaturated(std::floor(font.pixelSize() * factor));
         if (pixelSize > 0)
             result.setPixelSize(pixelSize);
-    } else if (factor > 0.0) {
+    } else if (factor > 0.0 && std::isfinite(factor)) {
         result.setPointSizeF(font.pointSizeF() * factor);
     }
     return result;

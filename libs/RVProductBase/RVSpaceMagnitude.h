@@ -24,8 +24,8 @@ enum RVSpaceMagnitudeEnum : qint32 {
     SPACE_MAGNITUDE_2000CM2 = 1024,
     SPACE_MAGNITUDE_2400CM2 = 2048, ///< A2
     SPACE_MAGNITUDE_NORMAL = SPACE_MAGNITUDE_200CM2 | SPACE_MAGNITUDE_220CM2 | SPACE_MAGNITUDE_280CM2
-        | SPACE_MAGNITUDE_310CM2 | SPACE_MAGNITUDE_400CM2 | SPACE_MAGNITUDE_600CM2 | SPACE_MAGNITUDE_1200CM2
-        | SPACE_MAGNITUDE_2400CM2,
+            | SPACE_MAGNITUDE_310CM2 | SPACE_MAGNITUDE_400CM2 | SPACE_MAGNITUDE_600CM2 | SPACE_MAGNITUDE_1200CM2
+            | SPACE_MAGNITUDE_2400CM2,
     SPACE_MAGNITUDE_XL = SPACE_MAGNITUDE_900CM2 | SPACE_MAGNITUDE_2000CM2,
     SPACE_MAGNITUDE_ANY = SPACE_MAGNITUDE_NORMAL | SPACE_MAGNITUDE_XL | SPACE_MAGNITUDE_50CM2 | SPACE_MAGNITUDE_150CM2,
 };
@@ -34,8 +34,8 @@ RV_DECLARE_ENUM_OPERATORS(RVSpaceMagnitudeEnum)
 extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVSpaceMagnitudeEnum>;
 
 /**
- * The size class of a printable area, and what page layout makes of it. 0 is no size; an unknown keyword stands for every
- * size, and a value without a keyword is written as "any".
+ * The size class of a printable area, and what page layout makes of it. 0 is no size; an unknown keyword stands for
+ * every size, and a value without a keyword is written as "any".
  */
 class RVPRODUCTBASE_EXPORT RVSpaceMagnitude : public RVEnumWrapper<RVSpaceMagnitudeEnum>
 {

@@ -12,8 +12,7 @@ RVSpineConfig::RVSpineConfig(const RVPageCountOrganization &pageCountOrganizatio
                              const RVDistance &baseWidth, const RVDistance &blockWidth,
                              const RVDistance &additionalWidth)
     : d(new RVSpineConfigImpl(pageCountOrganization, packagesPerBlock, baseWidth, blockWidth, additionalWidth))
-{
-}
+{ }
 
 RVSpineConfig RVSpineConfig::createFromProductsXML(const QDomElement &product)
 {

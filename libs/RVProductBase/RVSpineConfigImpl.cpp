@@ -36,8 +36,7 @@ RVSpineConfigImpl::RVSpineConfigImpl(const RVPageCountOrganization &pageCountOrg
       baseWidth(baseWidth_),
       blockWidth(blockWidth_),
       additionalWidth(additionalWidth_)
-{
-}
+{ }
 
 RVSpineConfigImpl::~RVSpineConfigImpl() = default;
 

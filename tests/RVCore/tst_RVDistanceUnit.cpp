@@ -18,8 +18,12 @@ QList<Message> messages;
 
 void keepMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
-    messages += { type, text, QString::fromUtf8(context.category), QString::fromUtf8(context.file),
-                  QString::fromUtf8(context.function), context.line };
+    messages += { type,
+                  text,
+                  QString::fromUtf8(context.category),
+                  QString::fromUtf8(context.file),
+                  QString::fromUtf8(context.function),
+                  context.line };
 }
 
 }

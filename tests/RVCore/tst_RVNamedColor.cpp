@@ -20,8 +20,7 @@ void tst_RVNamedColor::swatches_data()
     QTest::addColumn<QString>("html");
     QTest::newRow("colour") << QColor(0x8c, 0x1c, 0x2b)
                             << u"<span style=\"background-color:#8c1c2b\">&nbsp;&nbsp;&nbsp;</span>"_s;
-    QTest::newRow("invalid") << QColor()
-                             << u"<span style=\"background-color:transparent\">&nbsp;&nbsp;&nbsp;</span>"_s;
+    QTest::newRow("invalid") << QColor() << u"<span style=\"background-color:transparent\">&nbsp;&nbsp;&nbsp;</span>"_s;
 }
 
 void tst_RVNamedColor::swatches()

@@ -22,9 +22,10 @@ class KeywordTableTest
 
 public:
     KeywordTableTest(const QList<KeywordRow> &rows, const QString &defaultKeyword, qint64 defaultValue)
-        : myRows(rows), myDefaultKeyword(defaultKeyword), myDefaultValue(defaultValue)
-    {
-    }
+        : myRows(rows),
+          myDefaultKeyword(defaultKeyword),
+          myDefaultValue(defaultValue)
+    { }
 
     /// Call from a test function.
     void check() const

@@ -252,13 +252,14 @@ void tst_RVArticleClass::amounts()
 
 void tst_RVArticleClass::shopCartOrder()
 {
-    const qint64 order[] = { 0x1,          0x400000,     0x800000,     0x200000000,  0x400000000,
-                             0x800000000,  0x2000000000, 0x1000000,    0x4000000,    0x2000000,
-                             0x8000000,    0x10000000,   0x20000000,   0x80000000,   0x40000000,
-                             0x1000000000, 0x100000000,  0x4000,       0x20000000000, 0x80000000000 };
+    const qint64 order[] = { 0x1,          0x400000,     0x800000,   0x200000000,   0x400000000,
+                             0x800000000,  0x2000000000, 0x1000000,  0x4000000,     0x2000000,
+                             0x8000000,    0x10000000,   0x20000000, 0x80000000,    0x40000000,
+                             0x1000000000, 0x100000000,  0x4000,     0x20000000000, 0x80000000000 };
     for (std::size_t i = 0; i < std::size(order); ++i) {
         for (std::size_t j = 0; j < std::size(order); ++j)
-            QCOMPARE(RVArticleClass::lessThanShopCart(RVArticleClassEnum(order[i]), RVArticleClassEnum(order[j])), i < j);
+            QCOMPARE(RVArticleClass::lessThanShopCart(RVArticleClassEnum(order[i]), RVArticleClassEnum(order[j])),
+                     i < j);
     }
 }
 
@@ -288,17 +289,16 @@ void tst_RVArticleClass::templates_data()
     QTest::newRow("none") << Q_INT64_C(0) << QStringList();
     QTest::newRow("negative") << Q_INT64_C(-2) << QStringList();
     QTest::newRow("book") << Q_INT64_C(0x1) << QStringList { u"type=book"_s };
-    QTest::newRow("calendars, bit by bit") << Q_INT64_C(0x6)
-                                           << QStringList { u"type=agenda"_s, u"type=normal_calendar"_s };
+    QTest::newRow("calendars, bit by bit")
+            << Q_INT64_C(0x6) << QStringList { u"type=agenda"_s, u"type=normal_calendar"_s };
     QTest::newRow("a bit without a keyword") << Q_INT64_C(0x20000000) << QStringList { u"type="_s };
     QTest::newRow("every product") << Q_INT64_C(0x7FFF) << QStringList();
-    QTest::newRow("one product less")
-            << Q_INT64_C(0x7FFE)
-            << QStringList { u"type=advent_calendar"_s, u"type=agenda"_s,        u"type=art_print"_s,
-                             u"type=canvas"_s,          u"type=card"_s,          u"type=deko"_s,
-                             u"type=doublepage"_s,      u"type=nature_bundle"_s, u"type=normal_calendar"_s,
-                             u"type=picture_box"_s,     u"type=playing_card"_s,  u"type=puzzle"_s,
-                             u"type=simple_gift"_s,     u"type=slipcase"_s };
+    QTest::newRow("one product less") << Q_INT64_C(
+            0x7FFE) << QStringList { u"type=advent_calendar"_s, u"type=agenda"_s,        u"type=art_print"_s,
+                                     u"type=canvas"_s,          u"type=card"_s,          u"type=deko"_s,
+                                     u"type=doublepage"_s,      u"type=nature_bundle"_s, u"type=normal_calendar"_s,
+                                     u"type=picture_box"_s,     u"type=playing_card"_s,  u"type=puzzle"_s,
+                                     u"type=simple_gift"_s,     u"type=slipcase"_s };
 }
 
 void tst_RVArticleClass::templates()

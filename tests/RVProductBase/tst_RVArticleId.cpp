@@ -149,8 +149,8 @@ void tst_RVArticleId::catalogueIds_data()
     const QList<int> photos = { 7101, 7102, 7103 };
     const QList<int> adventCalendars = { 5210, 5211, 5420, 5421 };
     const QList<int> cards = { 5880 };
-    for (const int id : { 7100, 7101, 7102, 7103, 7104, 5209, 5210, 5211, 5212, 5419, 5420, 5421, 5422, 5879, 5880, 5881,
-                          0, -7101 })
+    for (const int id :
+         { 7100, 7101, 7102, 7103, 7104, 5209, 5210, 5211, 5212, 5419, 5420, 5421, 5422, 5879, 5880, 5881, 0, -7101 })
         QTest::addRow("%d", id) << id << photos.contains(id) << adventCalendars.contains(id) << cards.contains(id);
 }
 

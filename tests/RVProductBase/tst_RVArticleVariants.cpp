@@ -38,8 +38,8 @@ QStringList sorted(QStringList texts)
     return texts;
 }
 
-const QStringList MANY = { u"k1=v8"_s, u"k2=v7"_s, u"k3=v6"_s, u"k4=v5"_s, u"k5=v4"_s, u"k6=v3"_s, u"k7=v2"_s,
-                           u"k8=v1"_s };
+const QStringList MANY = { u"k1=v8"_s, u"k2=v7"_s, u"k3=v6"_s, u"k4=v5"_s,
+                           u"k5=v4"_s, u"k6=v3"_s, u"k7=v2"_s, u"k8=v1"_s };
 
 }
 
@@ -219,7 +219,7 @@ void tst_RVArticleVariants::createsFromXml_data()
     QTest::newRow("other letter case") << u"<form Key='alcolor' VALUE='red'/>"_s << QStringList(u"="_s);
     QTest::newRow("separators are kept") << u"<form key='a:b' value='x+y'/>"_s << QStringList(u"a:b=x+y"_s);
     QTest::newRow("child elements do not count")
-        << u"<form><form key='alcolor' value='red'/></form>"_s << QStringList(u"="_s);
+            << u"<form><form key='alcolor' value='red'/></form>"_s << QStringList(u"="_s);
     QTest::newRow("null element") << u""_s << QStringList(u"="_s);
 }
 
@@ -231,6 +231,7 @@ void tst_RVArticleVariants::createsFromXml()
     const RVArticleVariants created(document.documentElement());
     QTEST(entries(created), "expected");
     QVERIFY(created.isValid());
+    QVERIFY(!created.keys().constFirst().isNull());
     QVERIFY(!created.value(created.keys().constFirst(), u"absent"_s).isNull());
 }
 
@@ -242,26 +243,26 @@ void tst_RVArticleVariants::createsFromJson_data()
     QTest::newRow("no prefix") << QJsonArray { u"alcolor:red"_s } << QStringList(u"alcolor=red"_s);
     QTest::newRow("several prefixes") << QJsonArray { u"form_parameter-form_parameter-al:form_parameter-red"_s }
                                       << QStringList(u"al=red"_s);
-    QTest::newRow("prefix in the middle") << QJsonArray { u"alform_parameter-color:red"_s }
-                                          << QStringList(u"alcolor=red"_s);
+    QTest::newRow("prefix in the middle")
+            << QJsonArray { u"alform_parameter-color:red"_s } << QStringList(u"alcolor=red"_s);
     QTest::newRow("prefix that arises by removing")
-        << QJsonArray { u"form_form_parameter-parameter-al:red"_s } << QStringList(u"form_parameter-al=red"_s);
+            << QJsonArray { u"form_form_parameter-parameter-al:red"_s } << QStringList(u"form_parameter-al=red"_s);
     QTest::newRow("prefix in other letter case")
-        << QJsonArray { u"Form_parameter-alcolor:red"_s } << QStringList(u"Form_parameter-alcolor=red"_s);
+            << QJsonArray { u"Form_parameter-alcolor:red"_s } << QStringList(u"Form_parameter-alcolor=red"_s);
     QTest::newRow("part of the prefix") << QJsonArray { u"form_parameteralcolor:red"_s }
                                         << QStringList(u"form_parameteralcolor=red"_s);
     QTest::newRow("several") << QJsonArray { u"form_parameter-b:y"_s, u"form_parameter-a:x"_s }
                              << QStringList { u"a=x"_s, u"b=y"_s };
     QTest::newRow("later wins") << QJsonArray { u"a:x"_s, u"form_parameter-a:y"_s } << QStringList(u"a=y"_s);
-    QTest::newRow("only the colon separates") << QJsonArray { u"a|x"_s, u"b+y"_s, u"d|e:z+z"_s }
-                                              << QStringList(u"d|e=z+z"_s);
+    QTest::newRow("only the colon separates")
+            << QJsonArray { u"a|x"_s, u"b+y"_s, u"d|e:z+z"_s } << QStringList(u"d|e=z+z"_s);
     QTest::newRow("no colon") << QJsonArray { u"form_parameter-alcolor"_s } << QStringList();
     QTest::newRow("two colons") << QJsonArray { u"a:b:x"_s } << QStringList();
     QTest::newRow("adjacent colons") << QJsonArray { u"a::x"_s } << QStringList();
     QTest::newRow("empty key") << QJsonArray { u"form_parameter-:red"_s } << QStringList(u"=red"_s);
     QTest::newRow("empty value") << QJsonArray { u"alcolor:"_s } << QStringList(u"alcolor="_s);
-    QTest::newRow("malformed among well-formed") << QJsonArray { u"a:x"_s, u"junk"_s, u"b:y"_s }
-                                                 << QStringList { u"a=x"_s, u"b=y"_s };
+    QTest::newRow("malformed among well-formed")
+            << QJsonArray { u"a:x"_s, u"junk"_s, u"b:y"_s } << QStringList { u"a=x"_s, u"b=y"_s };
     QTest::newRow("no texts") << QJsonArray { 17, true, QJsonValue::Null, QJsonObject { { u"a:x"_s, u"a:x"_s } },
                                               QJsonArray { u"a:x"_s } }
                               << QStringList();
@@ -283,8 +284,8 @@ void tst_RVArticleVariants::createsFromKTX_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QStringList>("expected");
     QTest::newRow("one") << u"alcolor:red"_s << QStringList(u"alcolor=red"_s);
-    QTest::newRow("two with an empty piece") << u"alcolor:red,,coverphoto+yes"_s
-                                             << QStringList { u"alcolor=red"_s, u"coverphoto=yes"_s };
+    QTest::newRow("two with an empty piece")
+            << u"alcolor:red,,coverphoto+yes"_s << QStringList { u"alcolor=red"_s, u"coverphoto=yes"_s };
     QTest::newRow("every separator") << u"a:x,b|y,d+z"_s << QStringList { u"a=x"_s, u"b=y"_s, u"d=z"_s };
     QTest::newRow("later wins") << u"alcolor:red,alcolor:blue"_s << QStringList(u"alcolor=blue"_s);
     QTest::newRow("no separator") << u"x"_s << QStringList();
@@ -341,8 +342,8 @@ void tst_RVArticleVariants::hasOptions_data()
                                << true;
     QTest::newRow("empty values") << QStringList { u"alcolor="_s, u"flyleafcolor="_s, u"cutout="_s } << true << true
                                   << true;
-    QTest::newRow("values do not count") << QStringList { u"a=alcolor"_s, u"b=flyleafcolor"_s, u"d=cutout"_s }
-                                         << false << false << false;
+    QTest::newRow("values do not count") << QStringList { u"a=alcolor"_s, u"b=flyleafcolor"_s, u"d=cutout"_s } << false
+                                         << false << false;
     QTest::newRow("other letter case") << QStringList { u"Alcolor=a"_s, u"FlyLeafColor=b"_s, u"CUTOUT=d"_s } << false
                                        << false << false;
     QTest::newRow("part of a composite") << QStringList { u"alcolor;cutout=a;b"_s, u"boxstyle;flyleafcolor=d;e"_s }
@@ -576,8 +577,8 @@ void tst_RVArticleVariants::splits_data()
     QTest::newRow("both empty") << u""_s << u""_s << QStringList(u"old=1"_s);
     QTest::newRow("null") << QString() << QString() << QStringList(u"old=1"_s);
     QTest::newRow("semicolons only") << u";"_s << u";;"_s << QStringList(u"old=1"_s);
-    QTest::newRow("other separators are kept") << u"a,b:;d"_s << u"x|;y+"_s
-                                               << QStringList { u"a,b:=x|"_s, u"d=y+"_s, u"old=1"_s };
+    QTest::newRow("other separators are kept")
+            << u"a,b:;d"_s << u"x|;y+"_s << QStringList { u"a,b:=x|"_s, u"d=y+"_s, u"old=1"_s };
 }
 
 void tst_RVArticleVariants::splits()
@@ -618,8 +619,8 @@ void tst_RVArticleVariants::writesXTCI_data()
     QTest::addColumn<QStringList>("expected");
     QTest::newRow("single") << QStringList(u"a=x"_s) << QStringList(u"a=x"_s);
     QTest::newRow("composite") << QStringList(u"a;b=x;y"_s) << QStringList { u"a=x"_s, u"b=y"_s };
-    QTest::newRow("composite and single") << QStringList { u"a;b=x;y"_s, u"d=z"_s }
-                                          << QStringList { u"a=x"_s, u"b=y"_s, u"d=z"_s };
+    QTest::newRow("composite and single")
+            << QStringList { u"a;b=x;y"_s, u"d=z"_s } << QStringList { u"a=x"_s, u"b=y"_s, u"d=z"_s };
     QTest::newRow("empty pieces") << QStringList(u";a;;b=x;;y;"_s) << QStringList { u"a=x"_s, u"b=y"_s };
     QTest::newRow("fewer values") << QStringList { u"a;b=x"_s, u"d=z"_s } << QStringList(u"d=z"_s);
     QTest::newRow("more values") << QStringList { u"a=x;y"_s, u"d=z"_s } << QStringList(u"d=z"_s);
@@ -641,8 +642,8 @@ void tst_RVArticleVariants::writesOrderTxt_data()
     QTest::addColumn<QStringList>("anyOf");
     QTest::newRow("single") << QStringList(u"a=x"_s) << QStringList(u"a:x"_s);
     QTest::newRow("composite") << QStringList(u"b;a=x;y"_s) << QStringList(u"b:x;a:y"_s);
-    QTest::newRow("composite and single") << QStringList { u"a;b=x;y"_s, u"d=z"_s }
-                                          << QStringList { u"a:x;b:y;d:z"_s, u"d:z;a:x;b:y"_s };
+    QTest::newRow("composite and single")
+            << QStringList { u"a;b=x;y"_s, u"d=z"_s } << QStringList { u"a:x;b:y;d:z"_s, u"d:z;a:x;b:y"_s };
     QTest::newRow("same key twice") << QStringList(u"a;a=x;y"_s) << QStringList(u"a:x;a:y"_s);
     QTest::newRow("empty pieces") << QStringList(u";a;;b=x;;y;"_s) << QStringList(u"a:x;b:y"_s);
     QTest::newRow("fewer values") << QStringList { u"a;b=x"_s, u"d=z"_s } << QStringList(u"d:z"_s);
@@ -677,8 +678,9 @@ void tst_RVArticleVariants::writersAgreeOnOrder()
     QStringList pieces;
     for (const QString &value : stored.values())
         pieces += u"k%1:%2"_s.arg(9 - value.mid(1).toInt()).arg(value);
-    QCOMPARE(sorted(pieces), (QStringList { u"k1:v8"_s, u"k2:v7"_s, u"k3:v6"_s, u"k4:v5"_s, u"k5:v4"_s, u"k6:v3"_s,
-                                            u"k7:v2"_s, u"k8:v1"_s }));
+    QCOMPARE(sorted(pieces),
+             (QStringList { u"k1:v8"_s, u"k2:v7"_s, u"k3:v6"_s, u"k4:v5"_s, u"k5:v4"_s, u"k6:v3"_s, u"k7:v2"_s,
+                            u"k8:v1"_s }));
     QCOMPARE(stored.toKTX(), pieces.join(u','));
     QCOMPARE(stored.toOrderTxt(), pieces.join(u';'));
     QCOMPARE(entries(RVArticleVariants::createFromKTX(stored.toKTX())), MANY);

@@ -43,8 +43,12 @@ QList<Message> messages;
 
 void keepMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
-    messages += { text, QString::fromUtf8(context.category), QString::fromUtf8(context.file),
-                  QString::fromUtf8(context.function), context.line, type };
+    messages += { text,
+                  QString::fromUtf8(context.category),
+                  QString::fromUtf8(context.file),
+                  QString::fromUtf8(context.function),
+                  context.line,
+                  type };
 }
 
 }

@@ -125,7 +125,8 @@ void tst_RVBarcodeDefinitionList::updates_data()
     row("other page", { definition(2, 6, u"b"_s) }, { u"1/4/a"_s, u"1/4/a"_s, u"9/1/"_s, u"2/6/b"_s });
     row("two at one rectangle, the last stays", { definition(3, 1, u"x"_s), definition(3, 1, u"y"_s) },
         { u"1/4/a"_s, u"2/5/b"_s, u"1/4/a"_s, u"9/1/"_s, u"3/1/y"_s });
-    row("the first again after the second", { definition(3, 1, u"x"_s), definition(3, 1, u"y"_s), definition(3, 1, u"x"_s) },
+    row("the first again after the second",
+        { definition(3, 1, u"x"_s), definition(3, 1, u"y"_s), definition(3, 1, u"x"_s) },
         { u"1/4/a"_s, u"2/5/b"_s, u"1/4/a"_s, u"9/1/"_s, u"3/1/y"_s });
     row("an invalid one is not replaced", { definition(9, 1, u"n"_s) },
         { u"1/4/a"_s, u"2/5/b"_s, u"1/4/a"_s, u"9/1/"_s, u"9/1/n"_s });
@@ -134,8 +135,8 @@ void tst_RVBarcodeDefinitionList::updates_data()
 void tst_RVBarcodeDefinitionList::updates()
 {
     QFETCH(RVBarcodeDefinitionList, other);
-    const auto before = list({ definition(1, 4, u"a"_s), definition(2, 5, u"b"_s), definition(1, 4, u"a"_s),
-                               definition(9, 1, u""_s) });
+    const auto before = list(
+            { definition(1, 4, u"a"_s), definition(2, 5, u"b"_s), definition(1, 4, u"a"_s), definition(9, 1, u""_s) });
     RVBarcodeDefinitionList tested = before;
     tested.updateDefinitions(other);
     QTEST(texts(tested), "result");

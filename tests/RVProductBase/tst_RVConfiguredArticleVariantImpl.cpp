@@ -84,9 +84,9 @@ void tst_RVConfiguredArticleVariantImpl::fieldOrder()
 {
     QVERIFY((std::is_base_of_v<QSharedData, RVConfiguredArticleVariantImpl>));
     const RVConfiguredArticleVariantImpl impl;
-    const std::vector<const void *> fields = { &impl.ref,        &impl.key,         &impl.keyName,       &impl.value,
-                                               &impl.visibleName, &impl.editorName, &impl.name,          &impl.preview,
-                                               &impl.color,      &impl.preselected, &impl.notAccountable };
+    const std::vector<const void *> fields = { &impl.ref,         &impl.key,         &impl.keyName,       &impl.value,
+                                               &impl.visibleName, &impl.editorName,  &impl.name,          &impl.preview,
+                                               &impl.color,       &impl.preselected, &impl.notAccountable };
     for (size_t i = 1; i < fields.size(); ++i)
         QVERIFY2(std::less<>()(fields[i - 1], fields[i]), qPrintable(QString::number(i)));
 }
@@ -149,7 +149,7 @@ void tst_RVConfiguredArticleVariantImpl::fallsBack()
 void tst_RVConfiguredArticleVariantImpl::detaches()
 {
     const QSharedDataPointer<RVConfiguredArticleVariantImpl> source(new RVConfiguredArticleVariantImpl(
-        u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s, u"6"_s, u"7"_s, QColor(0x11, 0x22, 0x33), false, true));
+            u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s, u"6"_s, u"7"_s, QColor(0x11, 0x22, 0x33), false, true));
     QSharedDataPointer<RVConfiguredArticleVariantImpl> copy = source;
     QCOMPARE(source->ref.loadRelaxed(), 2);
     copy->key = u"changed"_s;

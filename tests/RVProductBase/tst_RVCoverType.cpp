@@ -43,14 +43,38 @@ private Q_SLOTS:
 void tst_RVCoverType::enumerators()
 {
     const RVCoverTypeEnum inBitOrder[] = {
-        HARDCOVER,       SOFTCOVER,          CROMOLINEN,       LEATHER,
-        BOOKLET,         CALENDAR_SIMPLEX,   CALENDAR_DUPLEX,  CALENDAR_ONE_PAGE,
-        CALENDAR_ANNUAL_DUPLEX, GIFT,        AGENDA,           ACRYL_GLAS,
-        CANVAS,          ALU_DIBOND,         HARD_FOAM,        DECORATION,
-        POSTER_DECORATION, POSTER_PREMIUM,   POSTER_SELF_ADHESIVE, POSTER_STANDARD,
-        POSTER_XXL,      GALLERY_PRINT,      CALENDER_ADVENT_EMPTY, CALENDER_ADVENT_CHOCOLATE,
-        CALENDER_ADVENT_PHOTO, CERAMICS,     GAMES,            OFFICE,
-        TEXTILES,        WOOD,               SET,              WIRE_O,
+        HARDCOVER,
+        SOFTCOVER,
+        CROMOLINEN,
+        LEATHER,
+        BOOKLET,
+        CALENDAR_SIMPLEX,
+        CALENDAR_DUPLEX,
+        CALENDAR_ONE_PAGE,
+        CALENDAR_ANNUAL_DUPLEX,
+        GIFT,
+        AGENDA,
+        ACRYL_GLAS,
+        CANVAS,
+        ALU_DIBOND,
+        HARD_FOAM,
+        DECORATION,
+        POSTER_DECORATION,
+        POSTER_PREMIUM,
+        POSTER_SELF_ADHESIVE,
+        POSTER_STANDARD,
+        POSTER_XXL,
+        GALLERY_PRINT,
+        CALENDER_ADVENT_EMPTY,
+        CALENDER_ADVENT_CHOCOLATE,
+        CALENDER_ADVENT_PHOTO,
+        CERAMICS,
+        GAMES,
+        OFFICE,
+        TEXTILES,
+        WOOD,
+        SET,
+        WIRE_O,
     };
     qint64 bit = 1;
     for (const RVCoverTypeEnum value : inBitOrder) {
@@ -185,13 +209,11 @@ void tst_RVCoverType::toolTips_data()
     QTest::newRow("hard cover") << Q_INT64_C(0x1)
                                 << u"Stabiler und individuell gestaltbarer Festeinband mit Klebebindung.\n"
                                    "Das Cover ist vollständig gestaltbar."_s;
-    QTest::newRow("wall calendar")
-            << Q_INT64_C(0x20)
-            << u"Einseitig bedruckte Kalender eignen sich besonders zum Aufhängen,\n"
-               "da die leere Seite zur Wand zeigt, und daher nicht gesehen werden kann."_s;
-    QTest::newRow("table calendar")
-            << Q_INT64_C(0x40)
-            << u"Doppelseitig bedruckte Kalender eignen sich besonders zum auf-den-Tisch-Legen."_s;
+    QTest::newRow("wall calendar") << Q_INT64_C(0x20)
+                                   << u"Einseitig bedruckte Kalender eignen sich besonders zum Aufhängen,\n"
+                                      "da die leere Seite zur Wand zeigt, und daher nicht gesehen werden kann."_s;
+    QTest::newRow("table calendar") << Q_INT64_C(
+            0x40) << u"Doppelseitig bedruckte Kalender eignen sich besonders zum auf-den-Tisch-Legen."_s;
     QTest::newRow("one-page calendar")
             << Q_INT64_C(0x80)
             << u"Ein großformatiger Einseitig bedruckter Jahreskalender gibt übersicht über das gesamte "

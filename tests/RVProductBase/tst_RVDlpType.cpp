@@ -71,8 +71,8 @@ void tst_RVDlpType::values_data()
                                      << u"form_parameter_data"_s;
     QTest::newRow("project") << 256 << null << u"templates"_s << u"templates"_s << u"predefined_project"_s;
     QTest::newRow("filter alone") << 512 << null << null << null << u""_s;
-    QTest::newRow("background with filter") << 513 << u"Hintergründe"_s << u"backgrounds"_s << u"backgrounds"_s
-                                            << u"background"_s;
+    QTest::newRow("background with filter")
+            << 513 << u"Hintergründe"_s << u"backgrounds"_s << u"backgrounds"_s << u"background"_s;
     QTest::newRow("clipart with filter") << 520 << u"Cliparts"_s << u"cliparts"_s << u"cliparts"_s << u"clipart"_s;
     QTest::newRow("book template and style with filter") << 578 << u"Vorlagen"_s << null << null << u"style_v2"_s;
     QTest::newRow("cover page") << 1024 << null << null << null << u"style_v2"_s;

@@ -85,8 +85,8 @@ void tst_RVOrderProjectInfo::writesStreams_data()
                          << QByteArray("00 00 00 04 00 41 00 2d 00 00 01 02 00 00 00 02 00 73");
     QTest::newRow("negative position") << RVOrderProjectInfo(u""_s, RVOrderId(), -2)
                                        << QByteArray("ff ff ff ff ff ff ff fe 00 00 00 00");
-    QTest::newRow("deleting, without the flag") << RVOrderProjectInfo::createDeletingProjetInfo()
-                                                << QByteArray("ff ff ff ff 00 00 00 00 ff ff ff ff");
+    QTest::newRow("deleting, without the flag")
+            << RVOrderProjectInfo::createDeletingProjetInfo() << QByteArray("ff ff ff ff 00 00 00 00 ff ff ff ff");
 }
 
 void tst_RVOrderProjectInfo::writesStreams()

@@ -274,8 +274,8 @@ void tst_RVPageCountOrganization::reads_data()
     QTest::newRow("all") << u"pieces='1' pages='26' max_pages='154' page_step='4'"_s << QList<int> { 26, 154, 4 };
     QTest::newRow("none") << u""_s << QList<int> { 1, 1, 0 };
     QTest::newRow("highest from lowest") << u"pages='26'"_s << QList<int> { 26, 26, 0 };
-    QTest::newRow("several pieces, not the step") << u"pieces='3' pages='2' max_pages='4' page_step='2'"_s
-                                                  << QList<int> { 6, 12, 2 };
+    QTest::newRow("several pieces, not the step")
+            << u"pieces='3' pages='2' max_pages='4' page_step='2'"_s << QList<int> { 6, 12, 2 };
     QTest::newRow("pieces only") << u"pieces='5'"_s << QList<int> { 5, 5, 0 };
     QTest::newRow("no pieces") << u"pieces='0' pages='26'"_s << QList<int> { 0, 0, 0 };
     QTest::newRow("no numbers") << u"pieces='x' pages='' max_pages='many' page_step='1.5'"_s << QList<int> { 1, 1, 0 };

@@ -45,8 +45,14 @@ void tst_RVPaperType::keywordTable()
             },
             u"indigo"_s, 1);
     test.check();
-    const RVPaperTypeEnum inBitOrder[] = { INDIGO,  INDIGO_GLOSSY, FOTOPAPER,   FOTOPAPER_GLOSSY, FOTOPAPER_PREMIUM_MATT,
-                                           PREMIUM, PREMIUM_MATT,  DIGITAL_PRINTING_RECYCLED };
+    const RVPaperTypeEnum inBitOrder[] = { INDIGO,
+                                           INDIGO_GLOSSY,
+                                           FOTOPAPER,
+                                           FOTOPAPER_GLOSSY,
+                                           FOTOPAPER_PREMIUM_MATT,
+                                           PREMIUM,
+                                           PREMIUM_MATT,
+                                           DIGITAL_PRINTING_RECYCLED };
     int bit = 1;
     for (const RVPaperTypeEnum value : inBitOrder) {
         QCOMPARE(int(value), bit);

@@ -46,61 +46,43 @@ const Group GROUPS[] = {
       u"KUR1 KUR3 KUR5 KUR7 KUR9 KUR11 KUR13 KUR15 KUR17 KUR19 KUR21 KUR23 KUR25 KUR26 KUR37 "
       u"KUR39 KUR41 KUR43 KUR45 KUR47 KUR49 KUR501 KUR502 KUR503 KUR504 KUR505 KUR507 KUR508 "
       u"KUR509 KUR551" },
-    { "spotColorSilverInk", RVPriceClassSet::spotColorSilverInk, 0, false,
-      u"" },
-    { "bookGiftBoxes", RVPriceClassSet::bookGiftBoxes, 4, true,
-      u"VEL4 VEL5 VEL6 VEL7" },
-    { "bookGiftService", RVPriceClassSet::bookGiftService, 4, true,
-      u"HAZ5 HAZ6 HAZ7 HAZ8" },
-    { "calendarGiftService", RVPriceClassSet::calendarGiftService, 1, true,
-      u"HAZ9" },
-    { "calendarGiftBoxes", RVPriceClassSet::calendarGiftBoxes, 2, true,
-      u"HAZ10 HAZ11" },
-    { "maps", RVPriceClassSet::maps, 2, true,
-      u"JOT1 JOT51" },
-    { "envelops", RVPriceClassSet::envelops, 9, true,
-      u"YIB1 YIB2 YIB3 YIB4 YIB5 YIB6 YIB7 YIB8 YIB9" },
-    { "calendarStrips", RVPriceClassSet::calendarStrips, 3, true,
-      u"NUS1 NUS2 NUS3" },
-    { "posterWoodenStrips", RVPriceClassSet::posterWoodenStrips, 5, true,
-      u"BIX1 BIX2 BIX3 BIX4 BIX5" },
-    { "wallholderThatActsLikeAFrame", RVPriceClassSet::wallholderThatActsLikeAFrame, 1, true,
-      u"QO20" },
+    { "spotColorSilverInk", RVPriceClassSet::spotColorSilverInk, 0, false, u"" },
+    { "bookGiftBoxes", RVPriceClassSet::bookGiftBoxes, 4, true, u"VEL4 VEL5 VEL6 VEL7" },
+    { "bookGiftService", RVPriceClassSet::bookGiftService, 4, true, u"HAZ5 HAZ6 HAZ7 HAZ8" },
+    { "calendarGiftService", RVPriceClassSet::calendarGiftService, 1, true, u"HAZ9" },
+    { "calendarGiftBoxes", RVPriceClassSet::calendarGiftBoxes, 2, true, u"HAZ10 HAZ11" },
+    { "maps", RVPriceClassSet::maps, 2, true, u"JOT1 JOT51" },
+    { "envelops", RVPriceClassSet::envelops, 9, true, u"YIB1 YIB2 YIB3 YIB4 YIB5 YIB6 YIB7 YIB8 YIB9" },
+    { "calendarStrips", RVPriceClassSet::calendarStrips, 3, true, u"NUS1 NUS2 NUS3" },
+    { "posterWoodenStrips", RVPriceClassSet::posterWoodenStrips, 5, true, u"BIX1 BIX2 BIX3 BIX4 BIX5" },
+    { "wallholderThatActsLikeAFrame", RVPriceClassSet::wallholderThatActsLikeAFrame, 1, true, u"QO20" },
     { "wallholderPriceClasses", RVPriceClassSet::wallholderPriceClasses, 18, true,
       u"QO2 QO4 QO5 QO6 QO7 QO8 QO9 QO10 QO11 QO12 QO16 QO17 QO18 QO19 QO20 QO21 QO202 QO212" },
     { "mattCoverPriceClasses", RVPriceClassSet::mattCoverPriceClasses, 8, true,
       u"KUR29 KUR30 KUR31 KUR32 KUR33 KUR34 KUR35 KUR36" },
-    { "linenCoverPriceClasses", RVPriceClassSet::linenCoverPriceClasses, 6, true,
-      u"LEZ1 LEZ2 LEZ3 LEZ4 LEZ5 LEZ6" },
+    { "linenCoverPriceClasses", RVPriceClassSet::linenCoverPriceClasses, 6, true, u"LEZ1 LEZ2 LEZ3 LEZ4 LEZ5 LEZ6" },
     { "flyleafAndInsideCoverPriceClasses", RVPriceClassSet::flyleafAndInsideCoverPriceClasses, 13, true,
       u"SAV1 SAV2 SAV3 SAV4 SAV5 SAV6 SAV7 SAV8 SAV9 SAV10 SAV11 SAV12 SAV13" },
-    { "calendarStandPriceClasses", RVPriceClassSet::calendarStandPriceClasses, 1, true,
-      u"ZUD1" },
+    { "calendarStandPriceClasses", RVPriceClassSet::calendarStandPriceClasses, 1, true, u"ZUD1" },
     { "memorabiliaPocketPriceClass", RVPriceClassSet::memorabiliaPocketPriceClass, 8, true,
       u"GEK1 GEK2 GEK3 GEK4 GEK5 GEK6 GEK7 GEK8" },
-    { "artPrintBoxPriceClasses", RVPriceClassSet::artPrintBoxPriceClasses, 2, true,
-      u"TY64 TY65" },
-    { "pxwPanoPagesPriceClasses", RVPriceClassSet::pxwPanoPagesPriceClasses, 1, true,
-      u"WAF3" },
+    { "artPrintBoxPriceClasses", RVPriceClassSet::artPrintBoxPriceClasses, 2, true, u"TY64 TY65" },
+    { "pxwPanoPagesPriceClasses", RVPriceClassSet::pxwPanoPagesPriceClasses, 1, true, u"WAF3" },
     { "pxwInnerPagesDesignPriceClasses", RVPriceClassSet::pxwInnerPagesDesignPriceClasses, 1, true,
       u"premium_inner_pages_design" },
-    { "pxwCoverDesignPriceClasses", RVPriceClassSet::pxwCoverDesignPriceClasses, 1, true,
-      u"premium_cover_design" },
+    { "pxwCoverDesignPriceClasses", RVPriceClassSet::pxwCoverDesignPriceClasses, 1, true, u"premium_cover_design" },
     { "videoNames", RVPriceClassSet::videoNames, 14, true,
       u"MUL1 MUL2 MUL3 MUL4 MUL5 MUL6 MUL7 MUL8 MUL9 MUL51 MUL52 MUL53 MUL54 MUL55" },
-    { "pageIncrements", RVPriceClassSet::pageIncrements, 2, true,
-      u"RODA6x9 KEMI62" },
+    { "pageIncrements", RVPriceClassSet::pageIncrements, 2, true, u"RODA6x9 KEMI62" },
     { "designPriceClasses", RVPriceClassSet::designPriceClasses, 9, false,
       u"61 62 63 64 65 66 premium_design premium_inner_pages_design premium_cover_design" },
-    { "frameGlasses", RVPriceClassSet::frameGlasses, 2, false,
-      u"RUN1 DOS1" },
+    { "frameGlasses", RVPriceClassSet::frameGlasses, 2, false, u"RUN1 DOS1" },
     { "spotColorAll", RVPriceClassSet::spotColorAll, 49, false,
       u"KUR1 KUR2 KUR3 KUR4 KUR5 KUR6 KUR7 KUR8 KUR9 KUR10 KUR11 KUR12 KUR13 KUR14 KUR15 KUR16 "
       u"KUR17 KUR18 KUR19 KUR20 KUR21 KUR22 KUR23 KUR24 KUR25 KUR26 KUR37 KUR38 KUR39 KUR40 "
       u"KUR41 KUR42 KUR43 KUR44 KUR45 KUR46 KUR47 KUR48 KUR49 KUR50 KUR501 KUR502 KUR503 KUR504 "
       u"KUR505 KUR507 KUR508 KUR509 KUR551" },
-    { "calendarFrameClasses", RVPriceClassSet::calendarFrameClasses, 5, false,
-      u"NUS1 NUS2 NUS3 ZUD1 QO20" },
+    { "calendarFrameClasses", RVPriceClassSet::calendarFrameClasses, 5, false, u"NUS1 NUS2 NUS3 ZUD1 QO20" },
     { "pxwNewDesignPriceClasses", RVPriceClassSet::pxwNewDesignPriceClasses, 2, false,
       u"premium_cover_design premium_inner_pages_design" },
 };
@@ -244,10 +226,10 @@ void tst_RVPriceClassSet::spotColors_data()
 {
     const QStringList gloss = split(u"KUR2 KUR4 KUR6 KUR8 KUR10 KUR12 KUR14 KUR16 KUR18 KUR20 KUR22 KUR24 "
                                     u"KUR38 KUR40 KUR42 KUR44 KUR46 KUR48 KUR50"_s);
-    const QStringList goldSilver =
-            split(u"KUR1 KUR3 KUR5 KUR7 KUR9 KUR11 KUR13 KUR15 KUR17 KUR19 KUR21 KUR23 KUR25 KUR26 "
-                  u"KUR37 KUR39 KUR41 KUR43 KUR45 KUR47 KUR49 KUR501 KUR502 KUR503 KUR504 KUR505 "
-                  u"KUR507 KUR508 KUR509 KUR551"_s);
+    const QStringList goldSilver = split(
+            u"KUR1 KUR3 KUR5 KUR7 KUR9 KUR11 KUR13 KUR15 KUR17 KUR19 KUR21 KUR23 KUR25 KUR26 "
+            u"KUR37 KUR39 KUR41 KUR43 KUR45 KUR47 KUR49 KUR501 KUR502 KUR503 KUR504 KUR505 "
+            u"KUR507 KUR508 KUR509 KUR551"_s);
     const QStringList none;
     QTest::addColumn<int>("value");
     QTest::addColumn<QStringList>("codes");

@@ -19,9 +19,11 @@ class Checker : public RVProductChecker
 {
 public:
     Checker(const QString &name, RVProductCheckerType kinds, bool answer, QStringList *asked)
-        : myName(name), myKinds(kinds), myAnswer(answer), myAsked(asked)
-    {
-    }
+        : myName(name),
+          myKinds(kinds),
+          myAnswer(answer),
+          myAsked(asked)
+    { }
 
     bool isValid(const RVProductType &type) const override
     {

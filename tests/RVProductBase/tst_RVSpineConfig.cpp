@@ -47,8 +47,8 @@ int lineSpacing(const QString &family, int pointSize)
 /// A spine whose usable height is this many tenths of a millimetre, after the reduction to 85 %.
 RVSpineConfig spineFor(qreal usableTenths)
 {
-    return RVSpineConfig(RVPageCountOrganization(RVIntRange(26, 26), 0), 0, RVDistance(usableTenths / 0.85), RVDistance(),
-                         RVDistance(30));
+    return RVSpineConfig(RVPageCountOrganization(RVIntRange(26, 26), 0), 0, RVDistance(usableTenths / 0.85),
+                         RVDistance(), RVDistance(30));
 }
 
 }
@@ -186,7 +186,8 @@ void tst_RVSpineConfig::reads_data()
     QTest::addColumn<int>("packagesPerBlock");
     QTest::addColumn<QList<qreal>>("tenths");
     const QString spine = u"<spine packages_per_block='3' base_width='8' block_width='1.5' additional_width='0.5'/>"_s;
-    const auto row = [](const char *name, const QString &composition, int packagesPerBlock, const QList<qreal> &tenths) {
+    const auto row = [](const char *name, const QString &composition, int packagesPerBlock,
+                        const QList<qreal> &tenths) {
         QTest::newRow(name) << composition << packagesPerBlock << tenths;
     };
     row("millimetres", u"<composition units='mm'>%1</composition>"_s.arg(spine), 3, { 80, 15, 5 });
@@ -194,8 +195,9 @@ void tst_RVSpineConfig::reads_data()
     row("empty unit", u"<composition units=''>%1</composition>"_s.arg(spine), 3, { 80, 15, 5 });
     row("centimetres", u"<composition units='cm'>%1</composition>"_s.arg(spine), 3, { 800, 150, 50 });
     row("inches", u"<composition units='inch'>%1</composition>"_s.arg(spine), 3, { 2032, 381, 127 });
-    row("points", u"<composition units='pt'><spine base_width='36' block_width='72' additional_width='144'/></composition>"_s,
-        0, { 127, 254, 508 });
+    row("points",
+        u"<composition units='pt'><spine base_width='36' block_width='72' additional_width='144'/></composition>"_s, 0,
+        { 127, 254, 508 });
     row("tenths", u"<composition units='0.1mm'>%1</composition>"_s.arg(spine), 3, { 8, 1.5, 0.5 });
     row("empty spine", u"<composition units='cm'><spine/></composition>"_s, 0, { 0, 0, 0 });
     row("no spine", u"<composition units='cm'/>"_s, 0, { 0, 0, 0 });
@@ -204,8 +206,8 @@ void tst_RVSpineConfig::reads_data()
     row("first composition only", u"<composition/><composition>%1</composition>"_s.arg(spine), 0, { 0, 0, 0 });
     row("first spine only", u"<composition><spine/>%1</composition>"_s.arg(spine), 0, { 0, 0, 0 });
     row("deeper", u"<x><composition>%1</composition></x>"_s.arg(spine), 0, { 0, 0, 0 });
-    row("no numbers", u"<composition><spine packages_per_block='x' base_width='8mm' block_width=''/></composition>"_s, 0,
-        { 0, 0, 0 });
+    row("no numbers", u"<composition><spine packages_per_block='x' base_width='8mm' block_width=''/></composition>"_s,
+        0, { 0, 0, 0 });
 }
 
 void tst_RVSpineConfig::reads()
@@ -213,8 +215,8 @@ void tst_RVSpineConfig::reads()
     QFETCH(QString, composition);
     QFETCH(int, packagesPerBlock);
     QFETCH(QList<qreal>, tenths);
-    const QDomElement product =
-            element(u"<product pages='26' max_pages='154' page_step='4'>%1</product>"_s.arg(composition));
+    const QDomElement product = element(
+            u"<product pages='26' max_pages='154' page_step='4'>%1</product>"_s.arg(composition));
     const RVSpineConfig expected(RVPageCountOrganization(RVIntRange(26, 154), 4), packagesPerBlock,
                                  RVDistance(tenths.at(0)), RVDistance(tenths.at(1)), RVDistance(tenths.at(2)));
     const RVSpineConfig config = RVSpineConfig::createFromProductsXML(product);

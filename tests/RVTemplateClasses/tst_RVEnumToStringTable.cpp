@@ -44,8 +44,12 @@ QList<Message> messages;
 
 void keepMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
-    messages += { type, text, QString::fromUtf8(context.category), QString::fromUtf8(context.file),
-                  QString::fromUtf8(context.function), context.line };
+    messages += { type,
+                  text,
+                  QString::fromUtf8(context.category),
+                  QString::fromUtf8(context.file),
+                  QString::fromUtf8(context.function),
+                  context.line };
 }
 
 template<typename List>
@@ -185,8 +189,9 @@ void tst_RVEnumToStringTable::warnsOfTheUndecodable()
     QCOMPARE(message.category, u"default"_s);
     QCOMPARE(message.file, u"libs/RVTemplateClasses/RVEnumToStringTable"_s);
     QCOMPARE(message.line, 186);
-    QCOMPARE(message.function,
-             u"ENUM RVEnumToStringTable<ENUM>::decodeOneElement(const QString&, bool) const [with ENUM = FinishEnum]"_s);
+    QCOMPARE(
+            message.function,
+            u"ENUM RVEnumToStringTable<ENUM>::decodeOneElement(const QString&, bool) const [with ENUM = FinishEnum]"_s);
 }
 
 void tst_RVEnumToStringTable::decodesLists_data()
@@ -235,9 +240,8 @@ void tst_RVEnumToStringTable::encodes_data()
     QTest::newRow("named combination") << 9 << u"shiny"_s << QStringList { u"Glossy"_s, u"Linen"_s }
                                        << u"Glossy, Linen"_s;
     QTest::newRow("bit without a keyword") << 4 << u"plain"_s << QStringList { u"plain"_s } << u"plain"_s;
-    QTest::newRow("bit without a keyword between") << 14 << u"plain"_s
-                                                   << QStringList { u"matt"_s, u"plain"_s, u"Linen"_s }
-                                                   << u"matt, plain, Linen"_s;
+    QTest::newRow("bit without a keyword between")
+            << 14 << u"plain"_s << QStringList { u"matt"_s, u"plain"_s, u"Linen"_s } << u"matt, plain, Linen"_s;
     QTest::newRow("none") << 0 << u"plain"_s << QStringList() << u"plain"_s;
     QTest::newRow("negative") << -1 << u"plain"_s << QStringList() << u"plain"_s;
 }
@@ -273,8 +277,8 @@ void tst_RVEnumToStringTable::splits()
 
 void tst_RVEnumToStringTable::splitsWideValues()
 {
-    const QList<WideEnum> bits =
-            RVEnumToStringTable<WideEnum>().splitToBitsSorted(WideEnum(Q_INT64_C(0x4000000080000001)));
+    const QList<WideEnum> bits = RVEnumToStringTable<WideEnum>().splitToBitsSorted(
+            WideEnum(Q_INT64_C(0x4000000080000001)));
     QCOMPARE(bits, (QList<WideEnum> { WideEnum(1), WideEnum(0x80000000), WideEnum(Q_INT64_C(0x4000000000000000)) }));
 }
 

@@ -60,9 +60,9 @@ public:
 class Watched : public Finish
 {
 public:
-    using Finish::Finish;
     using Finish::exclude;
     using Finish::expandTo;
+    using Finish::Finish;
 
     RVEnumWrapper<FinishEnum> &expandTo(FinishEnum value) override
     {

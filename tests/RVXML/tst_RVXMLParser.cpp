@@ -98,7 +98,8 @@ void tst_RVXMLParser::booleans_data()
     for (const char *text : { "false", "0", "no", "off", "False", "NO", "oFF" })
         QTest::newRow(text) << QString::fromLatin1(text) << false << false;
     for (const char *text : { "", " true", "2", "ja", "y" })
-        QTest::newRow(qPrintable(u"\"%1\""_s.arg(QLatin1StringView(text)))) << QString::fromLatin1(text) << true << false;
+        QTest::newRow(qPrintable(u"\"%1\""_s.arg(QLatin1StringView(text))))
+                << QString::fromLatin1(text) << true << false;
     QTest::newRow("missing") << QString() << true << false;
 }
 

@@ -35,8 +35,8 @@ void tst_CatalogueReader::products_data()
                     + QByteArray(reinterpret_cast<const char *>(text.utf16()), text.size() * 2)
                             << both;
     QTest::newRow("CRLF") << QByteArray("<p>\r\n<product type='A'/>\r\n</p>\r\n") << QStringList { u"A"_s };
-    QTest::newRow("external document type") << QByteArray("<!DOCTYPE p SYSTEM 'p.dtd'><p><product type='A'/></p>")
-                                            << QStringList { u"A"_s };
+    QTest::newRow("external document type")
+            << QByteArray("<!DOCTYPE p SYSTEM 'p.dtd'><p><product type='A'/></p>") << QStringList { u"A"_s };
     QTest::newRow("prefix not declared") << QByteArray("<x:p><product type='A'/></x:p>") << QStringList { u"A"_s };
     QTest::newRow("product is the root") << QByteArray("<product type='A'/>") << QStringList { u"A"_s };
     QTest::newRow("inner product belongs to the outer")
@@ -121,17 +121,17 @@ void tst_CatalogueReader::errors_data()
     QTest::newRow("wrong encoding") << QByteArray("<p a='\xff'/>") << u"Encountered incorrectly encoded content."_s
                                     << qint64(1);
     QTest::newRow("entity declared") << QByteArray("<!DOCTYPE p [\n<!ENTITY a 'b'>]><p/>") << entity << qint64(2);
-    QTest::newRow("parameter entity declared") << QByteArray("<!DOCTYPE p [\n<!ENTITY % a 'b'>]><p/>") << entity
-                                               << qint64(2);
+    QTest::newRow("parameter entity declared")
+            << QByteArray("<!DOCTYPE p [\n<!ENTITY % a 'b'>]><p/>") << entity << qint64(2);
     QTest::newRow("entity across two blocks of input")
             << "<!DOCTYPE p [<!--" + QByteArray(4070, 'x') + "-->\n<!ENTITY a 'b'>]><p/>" << entity << qint64(2);
-    QTest::newRow("undeclared entity, external document type")
-            << QByteArray("<!DOCTYPE p SYSTEM 'x'>\n<p>&foo;</p>") << u"the entity \"foo\" is not declared"_s << qint64(2);
+    QTest::newRow("undeclared entity, external document type") << QByteArray("<!DOCTYPE p SYSTEM 'x'>\n<p>&foo;</p>")
+                                                               << u"the entity \"foo\" is not declared"_s << qint64(2);
     QTest::newRow("deep around products") << QByteArray("<a>").repeated(257) << deep << qint64(1);
     QTest::newRow("deep in a product") << QByteArray("<product>").repeated(100000) << deep << qint64(1);
     QTest::newRow("large attribute") << "<p a='" + QByteArray(2000000, 'x') + "'/>" << large << qint64(1);
-    QTest::newRow("large product")
-            << "<product>" + QByteArray("<form/>").repeated(200000) + "</product>" << large << qint64(1);
+    QTest::newRow("large product") << "<product>" + QByteArray("<form/>").repeated(200000) + "</product>" << large
+                                   << qint64(1);
     QTest::newRow("large prolog") << "<!DOCTYPE p [" + QByteArray("<!ELEMENT a EMPTY>").repeated(100000) << large
                                   << qint64(1);
 }

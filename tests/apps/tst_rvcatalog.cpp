@@ -152,19 +152,19 @@ void tst_rvcatalog::showTable()
     QCOMPARE(run.messages, QString());
     QCOMPARE(run.exitCode, 0);
     const QStringList lines = run.output.split(u'\n');
-        QCOMPARE(lines.at(0),
+    QCOMPARE(lines.at(0),
              u"TYPE     PAGES            COUNTS SPINE mm    FONT pt ATTRIBUTES, OPTIONS (* is the default)"_s);
     QVERIFY2(lines.at(1).startsWith("DUN9     26-154 by 4      33     9.0-25.0    "_L1), qPrintable(lines.at(1)));
     QVERIFY2(lines.at(1).endsWith(" class book; cover HARDCOVER; binding layflat;"_L1), qPrintable(lines.at(1)));
     const QString indent(53, u' ');
     QCOMPARE(lines.mid(2),
-             (QStringList { indent + "paper indigo-glossy; orientation portrait,"_L1,
-                            indent + "square; size 600cm2; shipping group 2"_L1,
-                            indent + "barcode 38.0 x 10.0 mm at 10.0, 20.0 on page 2"_L1, indent + "a;b: x;y*"_L1,
-                            indent + "alcolor: black*, red"_L1,
-                            u"VIR1     13               1      -           -"_s,
-                            u"FOT1     1                1      -           -       class premiumfoto; photo paper Glänzend;"_s,
-                            indent + "shipping group 18"_L1, u""_s }));
+             (QStringList {
+                     indent + "paper indigo-glossy; orientation portrait,"_L1,
+                     indent + "square; size 600cm2; shipping group 2"_L1,
+                     indent + "barcode 38.0 x 10.0 mm at 10.0, 20.0 on page 2"_L1, indent + "a;b: x;y*"_L1,
+                     indent + "alcolor: black*, red"_L1, u"VIR1     13               1      -           -"_s,
+                     u"FOT1     1                1      -           -       class premiumfoto; photo paper Glänzend;"_s,
+                     indent + "shipping group 18"_L1, u""_s }));
 }
 
 void tst_rvcatalog::showJson()
@@ -177,8 +177,9 @@ void tst_rvcatalog::showJson()
     const QJsonObject book = products.at(0).toObject();
     QCOMPARE(book.value("type"_L1), QJsonValue(u"DUN9"_s));
     QCOMPARE(book.value("name"_L1), QJsonValue(u"Groß"_s));
-    const QJsonObject pages { { u"lowest"_s, 26 }, { u"highest"_s, 154 }, { u"step"_s, 4 }, { u"count"_s, 33 },
-                              { u"valid"_s, true } };
+    const QJsonObject pages {
+        { u"lowest"_s, 26 }, { u"highest"_s, 154 }, { u"step"_s, 4 }, { u"count"_s, 33 }, { u"valid"_s, true }
+    };
     QCOMPARE(book.value("pages"_L1).toObject(), pages);
     const QJsonArray spine = book.value("spine"_L1).toArray();
     QCOMPARE(spine.at(0)["width_mm"_L1].toDouble(), 9.0);
@@ -208,13 +209,14 @@ void tst_rvcatalog::showJsonAttributes()
     QCOMPARE(book.value("orientation"_L1), QJsonValue(orientation));
     QCOMPARE(book.value("space_magnitude"_L1), QJsonValue(attribute({ u"600cm2"_s }, u"A4"_s)));
     QCOMPARE(book.value("shipping_group"_L1), QJsonValue(2));
-    const QJsonObject barcode { { u"page"_s, 2 },       { u"left_mm"_s, 10 },   { u"top_mm"_s, 20 },
-                                { u"width_mm"_s, 38 },  { u"height_mm"_s, 10 }, { u"image"_s, u"dummy-barcode.png"_s } };
+    const QJsonObject barcode { { u"page"_s, 2 },      { u"left_mm"_s, 10 },   { u"top_mm"_s, 20 },
+                                { u"width_mm"_s, 38 }, { u"height_mm"_s, 10 }, { u"image"_s, u"dummy-barcode.png"_s } };
     QCOMPARE(book.value("barcodes"_L1), QJsonValue(QJsonArray { barcode }));
 
     const QJsonObject calendar = products.at(1).toObject();
-    for (const QString &name : { u"article_id"_s, u"article_class"_s, u"cover_type"_s, u"page_binding"_s, u"paper_type"_s,
-                                 u"foto_paper_type"_s, u"orientation"_s, u"space_magnitude"_s, u"shipping_group"_s }) {
+    for (const QString &name :
+         { u"article_id"_s, u"article_class"_s, u"cover_type"_s, u"page_binding"_s, u"paper_type"_s,
+           u"foto_paper_type"_s, u"orientation"_s, u"space_magnitude"_s, u"shipping_group"_s }) {
         QVERIFY(calendar.contains(name));
         QVERIFY(calendar.value(name).isNull());
     }
@@ -227,9 +229,9 @@ void tst_rvcatalog::sampleHasEveryAttribute()
 {
     const Run run = rvcatalog({ u"show"_s, u"--json"_s, SAMPLE_CATALOGUE });
     const QJsonArray products = QJsonDocument::fromJson(run.output.toUtf8()).array();
-    for (const QString &name : { u"article_id"_s, u"article_class"_s, u"cover_type"_s, u"page_binding"_s, u"paper_type"_s,
-                                 u"foto_paper_type"_s, u"orientation"_s, u"space_magnitude"_s, u"shipping_group"_s,
-                                 u"barcodes"_s }) {
+    for (const QString &name :
+         { u"article_id"_s, u"article_class"_s, u"cover_type"_s, u"page_binding"_s, u"paper_type"_s,
+           u"foto_paper_type"_s, u"orientation"_s, u"space_magnitude"_s, u"shipping_group"_s, u"barcodes"_s }) {
         const auto has = [&name](const QJsonValue &product) {
             const QJsonValue value = product.toObject().value(name);
             return !value.isNull() && !(value.isArray() && value.toArray().isEmpty());
@@ -359,7 +361,8 @@ void tst_rvcatalog::showUnreadable_data()
                              << u"missing.xml:1:1: cannot open the file: No such file or directory\n"_s;
     QTest::newRow("empty") << u"x.xml"_s << QByteArray("") << u"x.xml:1:1: the file is empty\n"_s;
     QTest::newRow("no XML") << u"x.xml"_s << QByteArray("hello") << u"x.xml:1:1: Start tag expected.\n"_s;
-    QTest::newRow("cut off") << u"x.xml"_s << QByteArray(CATALOGUE).left(300) << u"x.xml:2:288: the file ends too early\n"_s;
+    QTest::newRow("cut off") << u"x.xml"_s << QByteArray(CATALOGUE).left(300)
+                             << u"x.xml:2:288: the file ends too early\n"_s;
     QTest::newRow("entities") << u"x.xml"_s << QByteArray("<!DOCTYPE p [<!ENTITY a 'b'>]><p/>")
                               << u"x.xml:1:21: entity declarations are not supported\n"_s;
 }
@@ -386,10 +389,9 @@ void tst_rvcatalog::order()
     const QStringList lines = run.output.split(u'\n');
     QCOMPARE(lines.mid(0, 12),
              (QStringList { u"Product         DUN9 (Groß)"_s,
-                            u"Pages           34 (2 packages above the lowest count)"_s,
-                            u"Spine           10.0 mm"_s, u""_s, u"Options"_s, u"  Farbe: Rot"_s,
-                            u"  Box: Holz (default)"_s, u""_s, u"Price classes"_s, u"    2 x KEMI62"_s,
-                            u"    1 x LEZ2"_s, u"    1 x PB9"_s }));
+                            u"Pages           34 (2 packages above the lowest count)"_s, u"Spine           10.0 mm"_s,
+                            u""_s, u"Options"_s, u"  Farbe: Rot"_s, u"  Box: Holz (default)"_s, u""_s,
+                            u"Price classes"_s, u"    2 x KEMI62"_s, u"    1 x LEZ2"_s, u"    1 x PB9"_s }));
     const auto pieces = [&lines](qsizetype line, QChar separator) {
         QStringList result = lines.at(line).mid(16).split(separator);
         result.sort();
@@ -427,15 +429,16 @@ void tst_rvcatalog::orderProblems_data()
     QTest::addColumn<QString>("text");
 
     QTest::newRow("type") << QByteArray("productname='VIR99'") << u"the catalogue has no product of type \"VIR99\""_s;
-    QTest::newRow("empty type") << QByteArray("productname=''") << u"the catalogue has no product of type \"UNKNOWN\""_s;
-    QTest::newRow("option") << QByteArray("variants='foo:bar'") << u"DUN9 has no option \"foo\"; it has: a;b, alcolor"_s;
+    QTest::newRow("empty type") << QByteArray("productname=''")
+                                << u"the catalogue has no product of type \"UNKNOWN\""_s;
+    QTest::newRow("option") << QByteArray("variants='foo:bar'")
+                            << u"DUN9 has no option \"foo\"; it has: a;b, alcolor"_s;
     QTest::newRow("value") << QByteArray("variants='alcolor:pink'")
                            << u"the option \"alcolor\" has no value \"pink\"; it has: black, red"_s;
     QTest::newRow("malformed") << QByteArray("variants='alcolor=red'")
                                << u"\"alcolor=red\" is no option; options are written key:value"_s;
-    QTest::newRow("between counts")
-            << QByteArray("pages='35'")
-            << u"35 pages are impossible: DUN9 has 26 to 154 pages in steps of 4, the next is 38"_s;
+    QTest::newRow("between counts") << QByteArray(
+            "pages='35'") << u"35 pages are impossible: DUN9 has 26 to 154 pages in steps of 4, the next is 38"_s;
     QTest::newRow("too few") << QByteArray("pages='25'")
                              << u"25 pages are impossible: DUN9 has 26 to 154 pages in steps of 4, the next is 26"_s;
     QTest::newRow("too many") << QByteArray("pages='155'")

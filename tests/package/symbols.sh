@@ -10,8 +10,8 @@ public='((typeinfo( name)?|vtable|guard variable|(non-)?virtual thunk) (for|to) 
 free='(operator[^ (]+|qHash)\(([^)]*[ (,])?RV[A-Z]'
 # The linker's own marks, and those of a sanitizer for the globals that it watches.
 marks='(__bss_start|_edata|_end|__odr_asan[._].*)$'
-# The standard library declares its templates visible, so their weak copies are the same in every module.
-standard='[WVu] (.* )?std::'
+# The standard library and Qt declare their classes visible, so weak copies of them are the same in every module.
+standard='[WVu] (.* )?(std::|Q[A-Z])'
 platform='RVEnumWrapper<RVSpotColorEnum>|RVSingleton<RV(Font|Directory)|[WTDBRVu] RV(SpotColor|Font|Directory|XML)'
 
 leaked=$(grep -vE "^. ($public|$free|$marks)|^$standard" <<<"$symbols" || true)

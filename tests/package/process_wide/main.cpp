@@ -31,7 +31,7 @@ int main(int argc, char *argv[])
 
     int different = 0;
     for (std::size_t i = 0; i < ours.size(); ++i) {
-        std::printf("%-30s %p in the program, %p in the plug-in\n", ours[i].name, ours[i].address, theirs[i].address);
+        std::printf("%-32s %p in the program, %p in the plug-in\n", ours[i].name, ours[i].address, theirs[i].address);
         if (!ours[i].address || ours[i].address != theirs[i].address)
             ++different;
     }

@@ -1,0 +1,313 @@
+// Eight threads at a common starting line, each time at something that no thread has used before.
+#include <RVCore/RVDirectoryConfig.h>
+#include <RVCore/RVFontCreator.h>
+#include <RVCore/RVFontSizeManager.h>
+#include <RVCore/RVSpotColor.h>
+#include <RVProductBase/RVArticleClass.h>
+#include <RVProductBase/RVArticleVariants.h>
+#include <RVProductBase/RVConfiguredArticleVariant.h>
+#include <RVProductBase/RVCoverType.h>
+#include <RVProductBase/RVDlpType.h>
+#include <RVProductBase/RVFotoPaperType.h>
+#include <RVProductBase/RVMargins.h>
+#include <RVProductBase/RVMaterialType.h>
+#include <RVProductBase/RVOrientation.h>
+#include <RVProductBase/RVPageAlignment.h>
+#include <RVProductBase/RVPageBinding.h>
+#include <RVProductBase/RVPageOrganizationCalculator.h>
+#include <RVProductBase/RVPageOrganizationManager.h>
+#include <RVProductBase/RVPageType.h>
+#include <RVProductBase/RVPaperType.h>
+#include <RVProductBase/RVPriceClassSet.h>
+#include <RVProductBase/RVProductArrangement.h>
+#include <RVProductBase/RVProductCheckerRegistry.h>
+#include <RVProductBase/RVSpaceMagnitude.h>
+#include <RVProductBase/RVSpineConfig.h>
+
+#include <QTest>
+
+#include <atomic>
+#include <functional>
+#include <thread>
+#include <type_traits>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int THREADS = 8;
+
+/// What each of the threads gets when all call at once.
+template<typename Function>
+auto atOnce(Function function) -> std::vector<decltype(function())>
+{
+    static_assert(!std::is_same_v<decltype(function()), bool>, "the threads would write to one byte");
+    std::vector<decltype(function())> results(THREADS);
+    std::atomic<int> ready { 0 };
+    std::vector<std::thread> threads;
+    for (int i = 0; i < THREADS; ++i) {
+        threads.emplace_back([&, i] {
+            ++ready;
+            while (ready < THREADS)
+                std::this_thread::yield();
+            results[i] = function();
+        });
+    }
+    for (std::thread &thread : threads)
+        thread.join();
+    return results;
+}
+
+template<typename Function, typename Expected>
+bool allGet(Function function, const Expected &expected)
+{
+    for (const auto &result : atOnce(function)) {
+        if (result != expected) {
+            qWarning() << "got" << result << "instead of" << expected;
+            return false;
+        }
+    }
+    return true;
+}
+
+struct TextCase
+{
+    const char *name;
+    QString expected;
+    std::function<QString()> ask;
+};
+
+struct SetCase
+{
+    const char *name;
+    int size;
+    QString member;
+    RVPriceClassSet (*ask)();
+};
+
+/// Gives the type "N" the counts 1 to N, and asks the manager about the type "1" in between.
+class Calculator : public RVPageOrganizationCalculator
+{
+public:
+    RVPageCountOrganization calculate(const RVProductType &type) override
+    {
+        const int pages = type.toString().toInt();
+        if (pages > 1)
+            RVPageOrganizationManager::instance()->organization(u"1"_s);
+        return RVPageCountOrganization(RVIntRange(1, pages), 1);
+    }
+};
+
+/// Accepts types that end with 0.
+class Checker : public RVProductChecker
+{
+public:
+    bool isValid(const RVProductType &type) const override { return type.toString().endsWith(u'0'); }
+    RVProductCheckerType checkerTypes() const override { return 1; }
+    bool isValidBoxStyle(const RVProductType &, const RVArticleVariants &) const override { return true; }
+};
+
+}
+
+class tst_concurrency : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void texts_data();
+    void texts();
+    void keywordTables();
+    void priceClassSets_data();
+    void priceClassSets();
+    void designPriceClasses();
+    void singletons();
+    void pageOrganizations();
+    void productCheckers();
+    void sharedValues();
+};
+
+// The first rows use a keyword table each, the others a table of names, of previews, of separators.
+void tst_concurrency::texts_data()
+{
+    QTest::addColumn<TextCase>("tested");
+    const TextCase cases[] = {
+        { "article class", u"deko"_s, [] { return RVArticleClass(u"POSTER"_s).encode(); } },
+        { "cover type", u"HARDCOVER"_s, [] { return RVCoverType(u"hard"_s).encode(); } },
+        { "downloadable content", u"clipart, mask"_s, [] { return RVDlpType(u"mask,clipart"_s).encodeCSV(); } },
+        { "photo paper", u"2"_s, [] { return RVFotoPaperType(u"matt"_s).encode(); } },
+        { "material", u"notebook"_s, [] { return RVMaterialType(u"notebook"_s).encode(); } },
+        { "orientation", u"landscape"_s, [] { return RVOrientation(u"landscape_large"_s).encode(); } },
+        { "page alignment", u"left"_s, [] { return RVPageAlignment(u"coverpage"_s).encode(); } },
+        { "page binding", u"layflat"_s, [] { return RVPageBinding(u"lay_flat"_s).encode(); } },
+        { "page type", u"PanoramaPages"_s, [] { return RVPageType(u"panoramapages"_s).encode(); } },
+        { "paper", u"indigo"_s, [] { return RVPaperType(u"no such paper"_s).encode(); } },
+        { "arrangement", u"gift"_s, [] { return RVProductArrangement(u"gift"_s).encode(); } },
+        { "size class", u"600cm2"_s, [] { return RVSpaceMagnitude(u"a4"_s).encode(); } },
+        { "spot colour", u"silver_ink"_s, [] { return RVSpotColor(u"silver_ink"_s).encode(); } },
+        { "names of covers", u"Leder"_s, [] { return RVCoverType(LEATHER).humanReadableName(); } },
+        { "tool tips of covers", u"Individuell gestaltbarer flexibler Einband mit Rückstichbindung."_s,
+          [] { return RVCoverType(BOOKLET).toolTip(); } },
+        { "names of bindings", u"Lay-Flat-Bindung"_s, [] { return RVPageBinding(LAYFLAT).humanReadableName(); } },
+        { "texts of paper", u"Digitaldruck Hochglanz"_s,
+          [] { return RVPaperType::translatedPaperTypes().value(u"Digitaldruck Glaenzend"_s); } },
+        { "names of paper", u"Premiumpapier"_s, [] { return RVPaperType(PREMIUM).humanReadableName(); } },
+        { "names of size classes", u"A4"_s, [] { return RVSpaceMagnitude(u"A4"_s).humanReadableName(); } },
+        { "previews", u"calendar_binding_spiral_black"_s,
+          [] { return RVConfiguredArticleVariant(u"spiral"_s, u"black"_s).preview(); } },
+        { "separators of variants", u"a:b"_s, [] { return RVArticleVariants(u"a|b"_s).toKTX(); } },
+    };
+    for (const TextCase &each : cases)
+        QTest::newRow(each.name) << each;
+}
+
+void tst_concurrency::texts()
+{
+    QFETCH(TextCase, tested);
+    QVERIFY(allGet(tested.ask, tested.expected));
+}
+
+void tst_concurrency::keywordTables()
+{
+    const auto *table = RVCoverType().enumToStringTable();
+    QVERIFY(allGet([] { return RVCoverType().enumToStringTable(); }, table));
+    QVERIFY(allGet([] { return RVCoverType().allKnownKeywords().size(); }, 39));
+}
+
+void tst_concurrency::priceClassSets_data()
+{
+    QTest::addColumn<SetCase>("tested");
+    using Set = RVPriceClassSet;
+    const SetCase cases[] = {
+        { "gloss", 19, u"KUR50"_s, Set::spotColorGloss },
+        { "gold and silver", 30, u"KUR551"_s, Set::spotColorGoldSilver },
+        { "silver ink", 0, QString(), Set::spotColorSilverInk },
+        { "all spot colours", 49, u"KUR2"_s, Set::spotColorAll },
+        { "gift boxes for books", 4, u"VEL7"_s, Set::bookGiftBoxes },
+        { "gift service for books", 4, u"HAZ8"_s, Set::bookGiftService },
+        { "gift service for calendars", 1, u"HAZ9"_s, Set::calendarGiftService },
+        { "gift boxes for calendars", 2, u"HAZ11"_s, Set::calendarGiftBoxes },
+        { "maps", 2, u"JOT51"_s, Set::maps },
+        { "envelopes", 9, u"YIB9"_s, Set::envelops },
+        { "calendar frames", 5, u"QO20"_s, Set::calendarFrameClasses },
+        { "poster strips", 5, u"BIX5"_s, Set::posterWoodenStrips },
+        { "wall holders", 18, u"QO212"_s, Set::wallholderPriceClasses },
+        { "matt covers", 8, u"KUR36"_s, Set::mattCoverPriceClasses },
+        { "linen covers", 6, u"LEZ6"_s, Set::linenCoverPriceClasses },
+        { "fly-leaves", 13, u"SAV13"_s, Set::flyleafAndInsideCoverPriceClasses },
+        { "pockets", 8, u"GEK8"_s, Set::memorabiliaPocketPriceClass },
+        { "art print boxes", 2, u"TY65"_s, Set::artPrintBoxPriceClasses },
+        { "panoramas", 1, u"WAF3"_s, Set::pxwPanoPagesPriceClasses },
+        { "new designs", 2, u"premium_cover_design"_s, Set::pxwNewDesignPriceClasses },
+        { "videos", 14, u"MUL55"_s, Set::videoNames },
+        { "page increments", 2, u"KEMI62"_s, Set::pageIncrements },
+    };
+    for (const SetCase &each : cases)
+        QTest::newRow(each.name) << each;
+}
+
+void tst_concurrency::priceClassSets()
+{
+    QFETCH(SetCase, tested);
+    QVERIFY(allGet([&] { return int(tested.ask().size()); }, tested.size));
+    QVERIFY(allGet([&] { return int(tested.ask().contains(tested.member)); }, tested.size > 0 ? 1 : 0));
+}
+
+// Every call changes the one set that is stored.
+void tst_concurrency::designPriceClasses()
+{
+    for (int round = 0; round < 100; ++round) {
+        QVERIFY(allGet(
+                [] {
+                    RVPriceClassSet set = RVPriceClassSet::designPriceClasses();
+                    const int size = int(set.size());
+                    set.clear();
+                    return size;
+                },
+                9));
+    }
+}
+
+void tst_concurrency::singletons()
+{
+    const auto check = [](auto ask) {
+        const auto instances = atOnce(ask);
+        for (const auto *instance : instances) {
+            if (!instance || instance != instances.front())
+                return false;
+        }
+        return true;
+    };
+    QVERIFY(check(RVPageOrganizationManager::instance));
+    QVERIFY(check(RVProductCheckerRegistry::instance));
+    QVERIFY(check(RVFontCreator::instance));
+    QVERIFY(check(RVFontSizeManager::instance));
+    QVERIFY(check(RVDirectoryConfig::instance));
+}
+
+// All ask, one empties the cache in between, and all go on reading what they were given.
+void tst_concurrency::pageOrganizations()
+{
+    RVPageOrganizationManager *manager = RVPageOrganizationManager::instance();
+    manager->setCalculator(new Calculator);
+    std::atomic<int> number { 0 };
+    const auto ask = [&] {
+        const bool clears = number++ % THREADS == 0;
+        std::vector<const RVPageCountOrganization *> kept;
+        int right = 0;
+        for (int pages = 1; pages <= 100; ++pages) {
+            if (clears && pages % 10 == 0)
+                manager->clearCache();
+            kept.push_back(manager->organization(QString::number(pages)));
+            right += manager->pageCountOrganzation(QString::number(pages)).maxPages() == pages;
+        }
+        for (std::size_t i = 0; i < kept.size(); ++i)
+            right += kept[i]->maxPages() == int(i) + 1;
+        return right;
+    };
+    for (int round = 0; round < 5; ++round)
+        QVERIFY(allGet(ask, 200));
+    manager->setCalculator(nullptr);
+}
+
+void tst_concurrency::productCheckers()
+{
+    RVProductCheckerRegistry *registry = RVProductCheckerRegistry::instance();
+    Checker checker;
+    registry->registerChecker(&checker);
+    const auto ask = [&] {
+        int accepted = 0;
+        for (int i = 1; i <= 200; ++i)
+            accepted += registry->isValid(QString::number(i), 1);
+        return accepted;
+    };
+    for (int round = 0; round < 5; ++round) {
+        QVERIFY(allGet(ask, 20));
+        registry->clearCaches();
+    }
+    registry->unregisterChecker(&checker);
+}
+
+// Copies share their data; the last one to go deletes it.
+void tst_concurrency::sharedValues()
+{
+    const RVMargins margins(1, 2, 3, 4);
+    const RVSpineConfig spine(RVPageCountOrganization(RVIntRange(26, 154), 4), 2, RVDistance(80), RVDistance(10),
+                              RVDistance(5));
+    const RVConfiguredArticleVariant option(u"k"_s, u"v"_s);
+    const auto copy = [&] {
+        int right = 0;
+        for (int i = 0; i < 1000; ++i) {
+            const RVMargins marginsCopy = margins;
+            const RVSpineConfig spineCopy = spine;
+            RVConfiguredArticleVariant changed = option;
+            changed.merge(RVConfiguredArticleVariant());
+            right += marginsCopy.right() == 4 && spineCopy.spineWidth(34) == RVDistance(100) && changed == option;
+        }
+        return right;
+    };
+    QVERIFY(allGet(copy, 1000));
+}
+
+QTEST_GUILESS_MAIN(tst_concurrency)
+#include "tst_concurrency.moc"
