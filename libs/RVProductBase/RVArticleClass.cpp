@@ -115,6 +115,43 @@ constexpr RVArticleClassEnum IMPORTANCE[] = {
     ARTICLE_CLASS_GIFT_BOX_SERVICE_CALENDAR_ADD_ON,
 };
 
+/// A text for every class that has one of the bits, unless an earlier row has one too.
+template<typename Text>
+struct TextOfBits
+{
+    RVArticleClassEnum bits;
+    Text text;
+};
+
+constexpr TextOfBits<QLatin1StringView> PROJECT_CATEGORIES[] = {
+    { ARTICLE_CLASS_BOOK, "book"_L1 },         { ARTICLE_CLASS_PHOTO, "prints"_L1 }, { WALL_DECOR, "walldecor"_L1 },
+    { ARTICLE_CLASS_CALENDAR, "calendar"_L1 }, { ARTICLE_CLASS_CARD, "card"_L1 },
+};
+
+constexpr TextOfBits<const char *> NAMES[] = {
+    { ARTICLE_CLASS_BOOK, QT_TRANSLATE_NOOP("QObject", "RAVO FOTOBUCH") },
+    { ARTICLE_CLASS_PHOTO, QT_TRANSLATE_NOOP("QObject", "Fotos & mehr") },
+    { WALL_DECOR, QT_TRANSLATE_NOOP("QObject", "Poster & Wandbilder") },
+    { ARTICLE_CLASS_CALENDAR, QT_TRANSLATE_NOOP("QObject", "RAVO KALENDER") },
+    { ARTICLE_CLASS_CARD, QT_TRANSLATE_NOOP("QObject", "Grußkarten") },
+};
+
+constexpr TextOfBits<QLatin1StringView> HELP_TOPICS[] = {
+    { ARTICLE_CLASS_BOOK, "photobook"_L1 },    { ARTICLE_CLASS_DEKO, "deko"_L1 },
+    { ARTICLE_CLASS_CALENDAR, "calendar"_L1 }, { ARTICLE_CLASS_CARD, "card"_L1 },
+    { ARTICLE_CLASS_PHOTO, "foto"_L1 },        { ARTICLE_CLASS_GIFT, "gift"_L1 },
+};
+
+template<typename Text, std::size_t N>
+Text firstText(const TextOfBits<Text> (&rows)[N], const RVArticleClass &articleClass, Text otherwise)
+{
+    for (const TextOfBits<Text> &row : rows) {
+        if (articleClass.matches(row.bits))
+            return row.text;
+    }
+    return otherwise;
+}
+
 std::ptrdiff_t importance(RVArticleClassEnum value)
 {
     const auto *const found = std::find(std::begin(IMPORTANCE), std::end(IMPORTANCE), value);
@@ -160,32 +197,13 @@ int RVArticleClass::shippingGroup() const
 
 QString RVArticleClass::toPHProjectCategory() const
 {
-    if (matches(ARTICLE_CLASS_BOOK))
-        return u"book"_s;
-    if (matches(ARTICLE_CLASS_PHOTO))
-        return u"prints"_s;
-    if (matches(WALL_DECOR))
-        return u"walldecor"_s;
-    if (matches(ARTICLE_CLASS_CALENDAR))
-        return u"calendar"_s;
-    if (matches(ARTICLE_CLASS_CARD))
-        return u"card"_s;
-    return u"other"_s;
+    return firstText(PROJECT_CATEGORIES, *this, "other"_L1).toString();
 }
 
 QString RVArticleClass::toHumanReadable() const
 {
-    if (matches(ARTICLE_CLASS_BOOK))
-        return QCoreApplication::translate("QObject", "RAVO FOTOBUCH");
-    if (matches(ARTICLE_CLASS_PHOTO))
-        return QCoreApplication::translate("QObject", "Fotos & mehr");
-    if (matches(WALL_DECOR))
-        return QCoreApplication::translate("QObject", "Poster & Wandbilder");
-    if (matches(ARTICLE_CLASS_CALENDAR))
-        return QCoreApplication::translate("QObject", "RAVO KALENDER");
-    if (matches(ARTICLE_CLASS_CARD))
-        return QCoreApplication::translate("QObject", "Grußkarten");
-    return QCoreApplication::translate("QObject", "Fotogeschenke");
+    return QCoreApplication::translate("QObject",
+                                       firstText(NAMES, *this, QT_TRANSLATE_NOOP("QObject", "Fotogeschenke")));
 }
 
 QVariant RVArticleClass::toStartPageId() const
@@ -210,19 +228,8 @@ QVariant RVArticleClass::toStartPageId() const
 
 QString RVArticleClass::toHelpTopic() const
 {
-    if (matches(ARTICLE_CLASS_BOOK))
-        return u"photobook"_s;
-    if (matches(ARTICLE_CLASS_DEKO))
-        return u"deko"_s;
-    if (matches(ARTICLE_CLASS_CALENDAR))
-        return u"calendar"_s;
-    if (matches(ARTICLE_CLASS_CARD))
-        return u"card"_s;
-    if (matches(ARTICLE_CLASS_PHOTO))
-        return u"foto"_s;
-    if (matches(ARTICLE_CLASS_GIFT))
-        return u"gift"_s;
-    return QString();
+    const QLatin1StringView topic = firstText(HELP_TOPICS, *this, QLatin1StringView());
+    return topic.isNull() ? QString() : topic.toString();
 }
 
 QString RVArticleClass::morePagesText(int n) const

@@ -1,3 +1,5 @@
+#include "MessageLog.h"
+
 #include <RVCore/RVDirectoryConfig.h>
 #include <RVProductBase/RVBarcodeDefinition.h>
 
@@ -31,24 +33,6 @@ QList<int> edges(const QRect &rect)
 QRect fromEdges(int left, int top, int right, int bottom)
 {
     return QRect(QPoint(left, top), QPoint(right, bottom));
-}
-
-struct Message
-{
-    QString text, category, file, function;
-    int line;
-    QtMsgType type;
-};
-QList<Message> messages;
-
-void keepMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
-{
-    messages += { text,
-                  QString::fromUtf8(context.category),
-                  QString::fromUtf8(context.file),
-                  QString::fromUtf8(context.function),
-                  context.line,
-                  type };
 }
 
 }
@@ -135,20 +119,12 @@ void tst_RVBarcodeDefinition::reads()
 
 void tst_RVBarcodeDefinition::reportsUnknownUnits()
 {
-    messages.clear();
-    const auto previous = qInstallMessageHandler(keepMessage);
+    const QString warning = u"warning default libs/RVCore/RVDistanceUnit:101 "
+                            "constexpr qreal RVDistanceUnit::units2Pixels(qreal) const: distance not supported! 3"_s;
+    const MessageLog log;
     const auto definition = RVBarcodeDefinition::createFromProductsXML(element(u"position_x='7'"_s), RVDistanceUnit(3));
-    qInstallMessageHandler(previous);
+    QCOMPARE(log.lines(), (QStringList { warning, warning, warning, warning }));
     QCOMPARE(edges(definition.rect()), (QList<int> { 7, 0, 7, 0 }));
-    QCOMPARE(messages.size(), 4);
-    for (const Message &message : messages) {
-        QCOMPARE(message.text, u"distance not supported! 3"_s);
-        QCOMPARE(message.type, QtWarningMsg);
-        QCOMPARE(message.category, u"default"_s);
-        QCOMPARE(message.file, u"libs/RVCore/RVDistanceUnit"_s);
-        QCOMPARE(message.line, 101);
-        QCOMPARE(message.function, u"constexpr qreal RVDistanceUnit::units2Pixels(qreal) const"_s);
-    }
 }
 
 void tst_RVBarcodeDefinition::validity_data()

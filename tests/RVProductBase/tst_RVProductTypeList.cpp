@@ -1,3 +1,5 @@
+#include "MessageLog.h"
+
 #include <RVProductBase/RVProductTypeList.h>
 
 #include <QDebug>
@@ -8,24 +10,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-struct Message
-{
-    QtMsgType type;
-    QString text, category, file, function;
-    int line;
-};
-QList<Message> messages;
-
-void keepMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
-{
-    messages += { type,
-                  text,
-                  QString::fromUtf8(context.category),
-                  QString::fromUtf8(context.file),
-                  QString::fromUtf8(context.function),
-                  context.line };
-}
 
 RVProductTypeList list(const QList<QString> &codes)
 {
@@ -134,21 +118,15 @@ void tst_RVProductTypeList::addsLists()
 void tst_RVProductTypeList::refusesUnknownTypes()
 {
     RVProductTypeList tested = list({ u"VIR5"_s });
-    messages.clear();
-    const auto previous = qInstallMessageHandler(keepMessage);
+    const QString warning = u"warning default libs/RVProductBase/RVProductTypeList:97 "
+                            "void RVProductTypeList::addWithoutDoubles(const RVProductType&): "
+                            "there is no \"UNKNOWN\""_s;
+    const MessageLog log;
     tested.addWithoutDoubles(RVProductType());
+    QCOMPARE(log.lines(), QStringList { warning });
     tested.addWithoutDoubles(RVProductTypeList(QList<RVProductType> { RVProductType(), RVProductType(u"KUR2"_s) }));
-    qInstallMessageHandler(previous);
+    QCOMPARE(log.lines(), (QStringList { warning, warning }));
     QCOMPARE(tested.toStringList(), (QStringList { u"VIR5"_s, u"KUR2"_s }));
-    QCOMPARE(messages.size(), 2);
-    for (const Message &message : messages) {
-        QCOMPARE(message.text, u"there is no \"UNKNOWN\""_s);
-        QCOMPARE(message.type, QtWarningMsg);
-        QCOMPARE(message.category, u"default"_s);
-        QCOMPARE(message.file, u"libs/RVProductBase/RVProductTypeList"_s);
-        QCOMPARE(message.line, 97);
-        QCOMPARE(message.function, u"void RVProductTypeList::addWithoutDoubles(const RVProductType&)"_s);
-    }
 }
 
 void tst_RVProductTypeList::debugOutput_data()

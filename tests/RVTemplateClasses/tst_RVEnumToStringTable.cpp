@@ -1,3 +1,5 @@
+#include "MessageLog.h"
+
 #include <RVTemplateClasses/RVEnumToStringTable.h>
 
 #include <QTest>
@@ -34,24 +36,6 @@ Table filledTable()
     return table;
 }
 
-struct Message
-{
-    QtMsgType type;
-    QString text, category, file, function;
-    int line;
-};
-QList<Message> messages;
-
-void keepMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
-{
-    messages += { type,
-                  text,
-                  QString::fromUtf8(context.category),
-                  QString::fromUtf8(context.file),
-                  QString::fromUtf8(context.function),
-                  context.line };
-}
-
 template<typename List>
 List sorted(List list)
 {
@@ -66,7 +50,6 @@ class tst_RVEnumToStringTable : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { messages.clear(); }
     void emptyTable();
     void decodes_data();
     void decodes();
@@ -74,7 +57,6 @@ private Q_SLOTS:
     void doesNotTrimOnInsert();
     void decodesOneElement_data();
     void decodesOneElement();
-    void warnsOfTheUndecodable();
     void decodesLists_data();
     void decodesLists();
     void decodesSilently();
@@ -151,47 +133,28 @@ void tst_RVEnumToStringTable::decodesOneElement_data()
     QTest::addColumn<bool>("warn");
     QTest::addColumn<int>("value");
     QTest::addColumn<QStringList>("warnings");
-    const QString xyz = u"undecodable: \"xyz\" (using default in 10FinishEnum )"_s;
+    const QString place = u"warning default libs/RVTemplateClasses/RVEnumToStringTable:186 ENUM "
+                          "RVEnumToStringTable<ENUM>::decodeOneElement(const QString&, bool) const "
+                          "[with ENUM = FinishEnum]: "_s;
+    const auto warning = [&place](const QString &keyword) {
+        return QStringList { place + u"undecodable: \"%1\" (using default in 10FinishEnum )"_s.arg(keyword) };
+    };
     QTest::newRow("known") << u" MATT "_s << true << 2 << QStringList();
-    QTest::newRow("unknown") << u"xyz"_s << true << 64 << QStringList { xyz };
+    QTest::newRow("unknown") << u"xyz"_s << true << 64 << warning(u"xyz"_s);
     QTest::newRow("unknown, quietly") << u"xyz"_s << false << 64 << QStringList();
     QTest::newRow("empty") << u""_s << true << 64 << QStringList();
     QTest::newRow("null") << QString() << true << 64 << QStringList();
-    QTest::newRow("blanks only") << u"  "_s << true << 64
-                                 << QStringList { u"undecodable: \"  \" (using default in 10FinishEnum )"_s };
-    QTest::newRow("a list is one keyword")
-            << u"matt,gloss"_s << true << 64
-            << QStringList { u"undecodable: \"matt,gloss\" (using default in 10FinishEnum )"_s };
+    QTest::newRow("blanks only") << u"  "_s << true << 64 << warning(u"  "_s);
+    QTest::newRow("a list is one keyword") << u"matt,gloss"_s << true << 64 << warning(u"matt,gloss"_s);
 }
 
 void tst_RVEnumToStringTable::decodesOneElement()
 {
     QFETCH(QString, keyword);
     QFETCH(bool, warn);
-    const auto previous = qInstallMessageHandler(keepMessage);
-    const FinishEnum value = filledTable().decodeOneElement(keyword, warn);
-    qInstallMessageHandler(previous);
-    QTEST(int(value), "value");
-    QStringList texts;
-    for (const Message &message : messages)
-        texts += message.text;
-    QTEST(texts, "warnings");
-}
-
-void tst_RVEnumToStringTable::warnsOfTheUndecodable()
-{
-    const auto previous = qInstallMessageHandler(keepMessage);
-    filledTable().decodeOneElement(u"xyz"_s, true);
-    qInstallMessageHandler(previous);
-    QCOMPARE(messages.size(), 1);
-    const Message message = messages.first();
-    QCOMPARE(message.type, QtWarningMsg);
-    QCOMPARE(message.category, u"default"_s);
-    QCOMPARE(message.file, u"libs/RVTemplateClasses/RVEnumToStringTable"_s);
-    QCOMPARE(message.line, 186);
-    QCOMPARE(
-            message.function,
-            u"ENUM RVEnumToStringTable<ENUM>::decodeOneElement(const QString&, bool) const [with ENUM = FinishEnum]"_s);
+    const MessageLog log;
+    QTEST(int(filledTable().decodeOneElement(keyword, warn)), "value");
+    QTEST(log.lines(), "warnings");
 }
 
 void tst_RVEnumToStringTable::decodesLists_data()
@@ -221,11 +184,10 @@ void tst_RVEnumToStringTable::decodesLists()
 
 void tst_RVEnumToStringTable::decodesSilently()
 {
-    const auto previous = qInstallMessageHandler(keepMessage);
+    const MessageLog log;
     filledTable().decodeCSV(u"velvet,,silk"_s);
     filledTable().decode(u"velvet"_s, FINISH_MATT);
-    qInstallMessageHandler(previous);
-    QVERIFY(messages.isEmpty());
+    QCOMPARE(log.lines(), QStringList());
 }
 
 void tst_RVEnumToStringTable::encodes_data()
