@@ -25,10 +25,6 @@ public:
     virtual RVProductCheckerType checkerTypes() const = 0;
     /// True when the product may be offered with these options. Asked every time.
     virtual bool isValidBoxStyle(const RVProductType &type, const RVArticleVariants &variants) const = 0;
-
-protected:
-    RVProductChecker() = default;
-    Q_DISABLE_COPY_MOVE(RVProductChecker)
 };
 
 #endif
