@@ -5,30 +5,23 @@
 #include <QTest>
 
 #include <limits>
+#include <memory>
 #include <type_traits>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
+static_assert(std::has_virtual_destructor_v<RVPageCountOrganization>);
+static_assert(std::is_same_v<decltype(std::declval<RVPageCountOrganization &>() -= 1), RVPageCountOrganization>);
+
 namespace {
 
-constexpr int largest = std::numeric_limits<int>::max();
-constexpr int smallest = std::numeric_limits<int>::min();
+constexpr int INT_LOWEST = std::numeric_limits<int>::min();
+constexpr int INT_HIGHEST = std::numeric_limits<int>::max();
 
 RVPageCountOrganization organization(int min, int max, int increment)
 {
     return RVPageCountOrganization(RVIntRange(min, max), increment);
-}
-
-QList<int> fields(const RVPageCountOrganization &tested)
-{
-    return { tested.minPages(), tested.maxPages(), tested.pageIncrement() };
-}
-
-QDomElement element(const QString &attributes)
-{
-    static QDomDocument document;
-    document.setContent(u"<product %1/>"_s.arg(attributes));
-    return document.documentElement();
 }
 
 }
@@ -38,295 +31,478 @@ class tst_RVPageCountOrganization : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void construction();
+    void fields_data();
+    void fields();
     void validity_data();
     void validity();
-    void pageCounts_data();
-    void pageCounts();
+    void counts_data();
+    void counts();
     void packages_data();
     void packages();
-    void constrains_data();
-    void constrains();
-    void adapts_data();
-    void adapts();
-    void clones();
-    void shrinks_data();
-    void shrinks();
-    void onePageProducts();
-    void reads_data();
-    void reads();
-    void readsPictureBoxes_data();
-    void readsPictureBoxes();
-    void compares();
-    void debugOutput();
+    void numberOfPackages_data();
+    void numberOfPackages();
+    void minPagesWithPano_data();
+    void minPagesWithPano();
+    void adaptedTo_data();
+    void adaptedTo();
+    void clone();
+    void subtract_data();
+    void subtract();
+    void equality_data();
+    void equality();
+    void productsXml_data();
+    void productsXml();
+    void pictureBoxXml_data();
+    void pictureBoxXml();
+    void nullElement();
+    void dump_data();
+    void dump();
+    void debugOutputInModes();
+    void copies();
 };
 
-void tst_RVPageCountOrganization::construction()
+void tst_RVPageCountOrganization::fields_data()
 {
-    QCOMPARE(fields(RVPageCountOrganization()), (QList<int> { 0, 0, 0 }));
-    QCOMPARE(fields(organization(26, 154, 4)), (QList<int> { 26, 154, 4 }));
-    QCOMPARE(organization(26, 154, 4).range().min, 26);
-    QCOMPARE(organization(26, 154, 4).range().max, 154);
-    QCOMPARE(fields(RVPageCountOrganization::createForAdventCalendarWithDoorBackPrint()), (QList<int> { 25, 25, 0 }));
-    QCOMPARE(fields(RVPageCountOrganization::createForCardWithInsertedFoto()), (QList<int> { 3, 3, 0 }));
-    QVERIFY(std::has_virtual_destructor_v<RVPageCountOrganization>);
+    QTest::addColumn<RVPageCountOrganization>("organization");
+    QTest::addColumn<int>("min");
+    QTest::addColumn<int>("max");
+    QTest::addColumn<int>("increment");
+    QTest::newRow("default") << RVPageCountOrganization() << 0 << 0 << 0;
+    QTest::newRow("photo book") << organization(26, 154, 4) << 26 << 154 << 4;
+    QTest::newRow("inverted") << organization(5, 2, -1) << 5 << 2 << -1;
+    QTest::newRow("advent calendar") << RVPageCountOrganization::createForAdventCalendarWithDoorBackPrint()
+                                     << 25 << 25 << 0;
+    QTest::newRow("card with inserted photo") << RVPageCountOrganization::createForCardWithInsertedFoto()
+                                              << 3 << 3 << 0;
+}
+
+void tst_RVPageCountOrganization::fields()
+{
+    QFETCH(RVPageCountOrganization, organization);
+    QTEST(organization.minPages(), "min");
+    QTEST(organization.maxPages(), "max");
+    QTEST(organization.range().min, "min");
+    QTEST(organization.range().max, "max");
+    QTEST(organization.pageIncrement(), "increment");
 }
 
 void tst_RVPageCountOrganization::validity_data()
 {
-    QTest::addColumn<RVPageCountOrganization>("tested");
+    QTest::addColumn<RVPageCountOrganization>("organization");
     QTest::addColumn<bool>("valid");
     QTest::addColumn<bool>("consistent");
-    QTest::newRow("default") << organization(0, 0, 0) << false << false;
-    QTest::newRow("zero with a step") << organization(0, 0, 4) << false << false;
-    QTest::newRow("one count") << organization(1, 1, 0) << true << true;
-    QTest::newRow("one negative count") << organization(-3, -3, 0) << true << true;
-    QTest::newRow("one count with a step") << organization(3, 3, 4) << true << true;
-    QTest::newRow("one count with a negative step") << organization(3, 3, -4) << true << true;
-    QTest::newRow("several") << organization(26, 154, 4) << true << true;
-    QTest::newRow("from zero") << organization(0, 8, 4) << true << true;
-    QTest::newRow("several without a step") << organization(10, 20, 0) << false << false;
-    QTest::newRow("several with a negative step") << organization(10, 20, -5) << false << false;
-    QTest::newRow("swapped") << organization(20, 10, 5) << false << false;
-    QTest::newRow("step misses the highest count") << organization(26, 28, 4) << true << false;
-    QTest::newRow("whole range") << organization(smallest, largest, 1) << true << true;
-    QTest::newRow("whole range in twos") << organization(smallest, largest, 2) << true << false;
+    QTest::addColumn<bool>("onePage");
+    QTest::newRow("default") << RVPageCountOrganization() << false << false << true;
+    QTest::newRow("zero with an increment") << organization(0, 0, 4) << false << false << true;
+    QTest::newRow("one page") << organization(1, 1, 0) << true << true << true;
+    QTest::newRow("two pages") << organization(2, 2, 0) << true << true << false;
+    QTest::newRow("card with inserted photo") << organization(3, 3, 0) << true << true << false;
+    QTest::newRow("one count with an increment") << organization(3, 3, 4) << true << true << false;
+    QTest::newRow("one count, negative increment") << organization(3, 3, -4) << true << true << false;
+    QTest::newRow("negative count") << organization(-3, -3, 0) << true << true << true;
+    QTest::newRow("photo book") << organization(26, 154, 4) << true << true << false;
+    QTest::newRow("increment misses the highest") << organization(26, 28, 4) << true << false << false;
+    QTest::newRow("increment of 1") << organization(26, 28, 1) << true << true << false;
+    QTest::newRow("several without increment") << organization(10, 20, 0) << false << false << false;
+    QTest::newRow("several with a negative increment") << organization(10, 20, -1) << false << false << false;
+    QTest::newRow("from 0") << organization(0, 4, 2) << true << true << true;
+    QTest::newRow("from 1") << organization(1, 5, 2) << true << true << true;
+    QTest::newRow("from 2") << organization(2, 6, 2) << true << true << false;
+    QTest::newRow("inverted") << organization(5, 4, 1) << false << false << false;
+    QTest::newRow("all integers") << organization(INT_LOWEST, INT_HIGHEST, 1) << true << true << true;
+    QTest::newRow("all integers, missed") << organization(INT_LOWEST, INT_HIGHEST, 2) << true << false << true;
 }
 
 void tst_RVPageCountOrganization::validity()
 {
-    QFETCH(RVPageCountOrganization, tested);
-    QTEST(tested.isValid(), "valid");
-    QTEST(tested.isConsistent(), "consistent");
+    QFETCH(RVPageCountOrganization, organization);
+    QTEST(organization.isValid(), "valid");
+    QTEST(organization.isConsistent(), "consistent");
+    QTEST(organization.isOnePageProduct(), "onePage");
 }
 
-void tst_RVPageCountOrganization::pageCounts_data()
+void tst_RVPageCountOrganization::counts_data()
 {
-    QTest::addColumn<RVPageCountOrganization>("tested");
+    QTest::addColumn<RVPageCountOrganization>("organization");
     QTest::addColumn<int>("pages");
     QTest::addColumn<bool>("inRange");
-    QTest::addColumn<bool>("valid");
+    QTest::addColumn<bool>("validCount");
+    QTest::addColumn<int>("packages");
+    QTest::addColumn<int>("constrained");
     const RVPageCountOrganization book = organization(26, 154, 4);
-    QTest::newRow("below") << book << 25 << false << false;
-    QTest::newRow("below, on the step") << book << 22 << false << false;
-    QTest::newRow("lowest") << book << 26 << true << true;
-    QTest::newRow("on the step") << book << 30 << true << true;
-    QTest::newRow("beside the step") << book << 31 << true << false;
-    QTest::newRow("highest") << book << 154 << true << true;
-    QTest::newRow("above") << book << 155 << false << false;
-    QTest::newRow("above, on the step") << book << 158 << false << false;
-    QTest::newRow("no step, every count") << organization(10, 20, 0) << 13 << true << true;
-    QTest::newRow("no step, outside") << organization(10, 20, 0) << 21 << false << false;
-    QTest::newRow("negative step") << organization(10, 20, -5) << 15 << true << true;
-    QTest::newRow("negative step, beside") << organization(10, 20, -5) << 16 << true << false;
-    QTest::newRow("whole range") << organization(smallest, largest, 2) << largest << true << false;
-    QTest::newRow("smallest step") << organization(smallest, largest, smallest) << 0 << true << true;
+    QTest::newRow("far below") << book << 3 << false << false << 0 << 26;
+    QTest::newRow("a package below") << book << 22 << false << false << 0 << 26;
+    QTest::newRow("below") << book << 25 << false << false << 0 << 26;
+    QTest::newRow("lowest") << book << 26 << true << true << 0 << 26;
+    QTest::newRow("above the lowest") << book << 27 << true << false << 0 << 30;
+    QTest::newRow("below the first package") << book << 29 << true << false << 0 << 30;
+    QTest::newRow("first package") << book << 30 << true << true << 1 << 30;
+    QTest::newRow("above the first package") << book << 31 << true << false << 1 << 34;
+    QTest::newRow("second package") << book << 34 << true << true << 2 << 34;
+    QTest::newRow("below the highest") << book << 153 << true << false << 31 << 154;
+    QTest::newRow("highest") << book << 154 << true << true << 32 << 154;
+    QTest::newRow("above") << book << 155 << false << false << 32 << 154;
+    QTest::newRow("a package above") << book << 158 << false << false << 33 << 154;
+    QTest::newRow("far above") << book << 200 << false << false << 43 << 154;
+    QTest::newRow("lowest integer") << book << INT_LOWEST << false << false << 0 << 26;
+    QTest::newRow("highest integer") << book << INT_HIGHEST << false << false << 536870905 << 154;
+
+    const RVPageCountOrganization missed = organization(26, 29, 4);
+    QTest::newRow("rounded above the highest") << missed << 28 << true << false << 0 << 30;
+    QTest::newRow("missed highest") << missed << 29 << true << false << 0 << 30;
+    QTest::newRow("package above the highest") << missed << 30 << false << false << 1 << 29;
+
+    const RVPageCountOrganization card = organization(3, 3, 0);
+    QTest::newRow("below the card") << card << 2 << false << false << 0 << 3;
+    QTest::newRow("the card") << card << 3 << true << true << 0 << 3;
+    QTest::newRow("above the card") << card << 4 << false << false << 0 << 3;
+
+    const RVPageCountOrganization fixed = organization(10, 20, 0);
+    QTest::newRow("below, no increment") << fixed << 9 << false << false << 0 << 10;
+    QTest::newRow("lowest, no increment") << fixed << 10 << true << true << 0 << 10;
+    QTest::newRow("between, no increment") << fixed << 15 << true << true << 0 << 10;
+    QTest::newRow("highest, no increment") << fixed << 20 << true << true << 0 << 10;
+    QTest::newRow("above, no increment") << fixed << 21 << false << false << 0 << 20;
+
+    const RVPageCountOrganization backwards = organization(10, 20, -4);
+    QTest::newRow("lowest, negative increment") << backwards << 10 << true << true << 0 << 10;
+    QTest::newRow("between, negative increment") << backwards << 15 << true << false << -1 << 14;
+    QTest::newRow("two packages, negative increment") << backwards << 18 << true << true << -2 << 18;
+
+    const RVPageCountOrganization inverted = organization(20, 10, 4);
+    QTest::newRow("below the inverted range") << inverted << 5 << false << false << 0 << 20;
+    QTest::newRow("between inverted bounds") << inverted << 15 << false << false << 0 << 20;
+    QTest::newRow("above the inverted range") << inverted << 24 << false << false << 1 << 20;
+
+    const RVPageCountOrganization negative = organization(-10, 10, 4);
+    QTest::newRow("below a negative lowest") << negative << -11 << false << false << 0 << -10;
+    QTest::newRow("negative lowest") << negative << -10 << true << true << 0 << -10;
+    QTest::newRow("above a negative lowest") << negative << -9 << true << false << 0 << -6;
+    QTest::newRow("zero") << negative << 0 << true << false << 2 << 2;
+    QTest::newRow("last package") << negative << 10 << true << true << 5 << 10;
+
+    const RVPageCountOrganization all = organization(INT_LOWEST, INT_HIGHEST, 1);
+    QTest::newRow("lowest of all") << all << INT_LOWEST << true << true << 0 << INT_LOWEST;
+    QTest::newRow("middle of all") << all << 0 << true << true << INT_HIGHEST << 0;
+    QTest::newRow("below the middle of all") << all << -1 << true << true << INT_HIGHEST << -1;
+    QTest::newRow("highest of all") << all << INT_HIGHEST << true << true << INT_HIGHEST << INT_HIGHEST;
+
+    const RVPageCountOrganization broad = organization(0, INT_HIGHEST, 1500000000);
+    QTest::newRow("rounded beyond the integers") << broad << 1500000001 << true << false << 1 << INT_HIGHEST;
+    const RVPageCountOrganization lowered = organization(INT_LOWEST, INT_HIGHEST, INT_LOWEST);
+    QTest::newRow("lowest increment, middle") << lowered << 0 << true << true << -1 << 0;
+    QTest::newRow("lowest increment, highest") << lowered << INT_HIGHEST << true << false << -1 << 0;
+    const RVPageCountOrganization minusOne = organization(INT_LOWEST, INT_HIGHEST, -1);
+    QTest::newRow("increment of -1, highest") << minusOne << INT_HIGHEST << true << true << INT_LOWEST << INT_HIGHEST;
 }
 
-void tst_RVPageCountOrganization::pageCounts()
+void tst_RVPageCountOrganization::counts()
 {
-    QFETCH(RVPageCountOrganization, tested);
+    QFETCH(RVPageCountOrganization, organization);
     QFETCH(int, pages);
-    QTEST(tested.inRange(pages), "inRange");
-    QTEST(tested.isValidPageCount(pages), "valid");
+    QTEST(organization.inRange(pages), "inRange");
+    QTEST(organization.isValidPageCount(pages), "validCount");
+    QTEST(organization.countPackages(pages), "packages");
+    QTEST(organization.constrain(pages), "constrained");
 }
 
 void tst_RVPageCountOrganization::packages_data()
 {
-    QTest::addColumn<RVPageCountOrganization>("tested");
-    QTest::addColumn<int>("pages");
+    QTest::addColumn<RVPageCountOrganization>("organization");
     QTest::addColumn<int>("packages");
-    QTest::addColumn<int>("numberOfPackages");
-    QTest::addColumn<int>("pagesWithThree");
-    QTest::addColumn<int>("pagesWithPano");
-    const RVPageCountOrganization book = organization(26, 154, 4);
-    const auto row = [](const char *name, const RVPageCountOrganization &tested, int pages, int packages,
-                        int numberOfPackages, int pagesWithThree, int pagesWithPano) {
-        QTest::newRow(name) << tested << pages << packages << numberOfPackages << pagesWithThree << pagesWithPano;
-    };
-    row("below", book, 3, 0, 33, 38, 34);
-    row("lowest", book, 26, 0, 33, 38, 34);
-    row("just above the lowest", book, 27, 0, 33, 38, 34);
-    row("just below a package", book, 29, 0, 33, 38, 34);
-    row("a package", book, 30, 1, 33, 38, 34);
-    row("two packages", book, 34, 2, 33, 38, 34);
-    row("above the highest", book, 200, 43, 33, 38, 34);
-    row("fixed", organization(3, 3, 0), 10, 0, 1, 3, 3);
-    row("step misses the highest count", organization(26, 33, 4), 33, 1, 2, 38, 34);
-    row("swapped", organization(30, 26, 4), 38, 2, 0, 42, 38);
-    row("negative step", organization(10, 20, -5), 20, -2, -1, -5, 0);
-    row("whole range", organization(smallest, largest, 1), largest, largest, largest, smallest + 3, smallest + 2);
-    row("whole range, step back", organization(smallest, largest, -1), largest, smallest, smallest, smallest, smallest);
-    row("largest step", organization(1, largest, largest), largest, 0, 1, largest, largest);
+    QTest::addColumn<int>("pages");
+    QTest::newRow("none") << organization(26, 154, 4) << 0 << 26;
+    QTest::newRow("one") << organization(26, 154, 4) << 1 << 30;
+    QTest::newRow("last") << organization(26, 154, 4) << 32 << 154;
+    QTest::newRow("beyond the highest") << organization(26, 154, 4) << 33 << 158;
+    QTest::newRow("negative") << organization(26, 154, 4) << -1 << 22;
+    QTest::newRow("no increment") << organization(3, 3, 0) << 7 << 3;
+    QTest::newRow("highest that fits") << organization(7, 7, 4) << 536870910 << 2147483647;
+    QTest::newRow("too many") << organization(26, 154, 4) << INT_HIGHEST << INT_HIGHEST;
+    QTest::newRow("too few") << organization(26, 154, 4) << INT_LOWEST << INT_LOWEST;
+    QTest::newRow("highest increment") << organization(INT_HIGHEST, INT_HIGHEST, INT_HIGHEST)
+                                       << INT_HIGHEST << INT_HIGHEST;
+    QTest::newRow("lowest increment") << organization(INT_HIGHEST, INT_HIGHEST, INT_LOWEST)
+                                      << INT_LOWEST << INT_HIGHEST;
 }
 
 void tst_RVPageCountOrganization::packages()
 {
-    QFETCH(RVPageCountOrganization, tested);
-    QFETCH(int, pages);
-    QTEST(tested.countPackages(pages), "packages");
-    QTEST(tested.numberOfPackages(), "numberOfPackages");
-    QTEST(tested.pagesWithNExtraPackages(3), "pagesWithThree");
-    QTEST(tested.minPagesWithPano(), "pagesWithPano");
-    QCOMPARE(tested.pagesWithNExtraPackages(0), tested.minPages());
-    QCOMPARE(organization(26, 154, 4).pagesWithNExtraPackages(-1), 22);
+    QFETCH(RVPageCountOrganization, organization);
+    QFETCH(int, packages);
+    QTEST(organization.pagesWithNExtraPackages(packages), "pages");
 }
 
-void tst_RVPageCountOrganization::constrains_data()
+void tst_RVPageCountOrganization::numberOfPackages_data()
 {
-    QTest::addColumn<RVPageCountOrganization>("tested");
+    QTest::addColumn<RVPageCountOrganization>("organization");
+    QTest::addColumn<int>("number");
+    QTest::newRow("default") << RVPageCountOrganization() << 1;
+    QTest::newRow("photo book") << organization(26, 154, 4) << 33;
+    QTest::newRow("card") << organization(3, 3, 0) << 1;
+    QTest::newRow("several without increment") << organization(10, 20, 0) << 1;
+    QTest::newRow("picture box") << organization(1, 30, 1) << 30;
+    QTest::newRow("increment meets the highest") << organization(26, 30, 4) << 2;
+    QTest::newRow("increment misses the highest") << organization(26, 29, 4) << 1;
+    QTest::newRow("one count with an increment") << organization(3, 3, 4) << 1;
+    QTest::newRow("inverted by less than a package") << organization(20, 17, 4) << 1;
+    QTest::newRow("inverted by a package") << organization(20, 16, 4) << 0;
+    QTest::newRow("inverted by two packages") << organization(20, 12, 4) << -1;
+    QTest::newRow("negative increment") << organization(10, 20, -5) << -1;
+    QTest::newRow("all integers") << organization(INT_LOWEST, INT_HIGHEST, 1) << INT_HIGHEST;
+    QTest::newRow("one too many") << organization(0, INT_HIGHEST, 1) << INT_HIGHEST;
+    QTest::newRow("just fitting") << organization(1, INT_HIGHEST, 1) << INT_HIGHEST;
+    QTest::newRow("one fewer") << organization(2, INT_HIGHEST, 1) << 2147483646;
+    QTest::newRow("all integers backwards") << organization(INT_LOWEST, INT_HIGHEST, -1) << INT_LOWEST;
+}
+
+void tst_RVPageCountOrganization::numberOfPackages()
+{
+    QFETCH(RVPageCountOrganization, organization);
+    QTEST(organization.numberOfPackages(), "number");
+}
+
+void tst_RVPageCountOrganization::minPagesWithPano_data()
+{
+    QTest::addColumn<RVPageCountOrganization>("organization");
     QTest::addColumn<int>("pages");
-    QTest::addColumn<int>("result");
-    const RVPageCountOrganization book = organization(26, 154, 4);
-    QTest::newRow("below") << book << 3 << 26;
-    QTest::newRow("lowest") << book << 26 << 26;
-    QTest::newRow("rounded up") << book << 27 << 30;
-    QTest::newRow("on the step") << book << 30 << 30;
-    QTest::newRow("highest") << book << 154 << 154;
-    QTest::newRow("above") << book << 200 << 154;
-    QTest::newRow("rounded up above the highest") << organization(26, 29, 4) << 28 << 30;
-    QTest::newRow("above, clamped") << organization(26, 29, 4) << 30 << 29;
-    QTest::newRow("fixed") << organization(3, 3, 0) << 3 << 3;
-    QTest::newRow("no step, inside") << organization(10, 20, 0) << 15 << 10;
-    QTest::newRow("no step, above") << organization(10, 20, 0) << 25 << 20;
-    QTest::newRow("swapped") << organization(30, 26, 4) << 28 << 30;
-    QTest::newRow("negative step") << organization(10, 20, -4) << 15 << 14;
-    QTest::newRow("whole range") << organization(smallest, largest, largest) << largest << largest;
-    QTest::newRow("whole range, rounded beyond") << organization(smallest, largest, largest - 1) << largest << largest;
+    QTest::newRow("default") << RVPageCountOrganization() << 0;
+    QTest::newRow("photo book") << organization(26, 154, 4) << 34;
+    QTest::newRow("no increment") << organization(3, 3, 0) << 3;
+    QTest::newRow("above the highest") << organization(26, 28, 4) << 34;
+    QTest::newRow("negative increment") << organization(26, 28, -4) << 18;
+    QTest::newRow("too many") << organization(26, 28, INT_HIGHEST) << INT_HIGHEST;
+    QTest::newRow("too few") << organization(26, 28, INT_LOWEST) << INT_LOWEST;
 }
 
-void tst_RVPageCountOrganization::constrains()
+void tst_RVPageCountOrganization::minPagesWithPano()
 {
-    QFETCH(RVPageCountOrganization, tested);
-    QFETCH(int, pages);
-    QTEST(tested.constrain(pages), "result");
+    QFETCH(RVPageCountOrganization, organization);
+    QTEST(organization.minPagesWithPano(), "pages");
 }
 
-void tst_RVPageCountOrganization::adapts_data()
+void tst_RVPageCountOrganization::adaptedTo_data()
 {
+    QTest::addColumn<RVPageCountOrganization>("organization");
     QTest::addColumn<int>("pages");
-    QTest::addColumn<QList<int>>("result");
-    QTest::newRow("below") << 3 << QList<int> { 26, 154, 4 };
-    QTest::newRow("lowest") << 26 << QList<int> { 26, 154, 4 };
-    QTest::newRow("inside, rounded up") << 27 << QList<int> { 30, 154, 4 };
-    QTest::newRow("on the step") << 34 << QList<int> { 34, 154, 4 };
-    QTest::newRow("highest") << 154 << QList<int> { 154, 154, 4 };
-    QTest::newRow("above") << 200 << QList<int> { 154, 154, 4 };
+    QTest::addColumn<RVPageCountOrganization>("adapted");
+    const RVPageCountOrganization book = organization(26, 154, 4);
+    QTest::newRow("below") << book << 25 << book;
+    QTest::newRow("lowest") << book << 26 << book;
+    QTest::newRow("above the lowest") << book << 27 << organization(30, 154, 4);
+    QTest::newRow("first package") << book << 30 << organization(30, 154, 4);
+    QTest::newRow("highest") << book << 154 << organization(154, 154, 4);
+    QTest::newRow("above") << book << 200 << organization(154, 154, 4);
+    QTest::newRow("rounded above the highest") << organization(26, 29, 4) << 28 << organization(30, 29, 4);
+    QTest::newRow("no increment") << organization(10, 20, 0) << 15 << organization(10, 20, 0);
+    QTest::newRow("above, no increment") << organization(10, 20, 0) << 25 << organization(20, 20, 0);
+    QTest::newRow("lowest integer") << book << INT_LOWEST << book;
+    QTest::newRow("highest integer") << book << INT_HIGHEST << organization(154, 154, 4);
 }
 
-void tst_RVPageCountOrganization::adapts()
+void tst_RVPageCountOrganization::adaptedTo()
 {
+    QFETCH(RVPageCountOrganization, organization);
     QFETCH(int, pages);
-    const RVPageCountOrganization book = organization(26, 154, 4);
-    QTEST(fields(book.adaptedTo(pages)), "result");
-    QCOMPARE(fields(book), (QList<int> { 26, 154, 4 }));
+    const RVPageCountOrganization before = organization;
+    QTEST(organization.adaptedTo(pages), "adapted");
+    QCOMPARE(organization, before);
 }
 
-void tst_RVPageCountOrganization::clones()
+void tst_RVPageCountOrganization::clone()
 {
     const RVPageCountOrganization book = organization(26, 154, 4);
-    QCOMPARE(fields(book.clone()), (QList<int> { 26, 154, 4 }));
-    QCOMPARE(fields(book.clone(false)), (QList<int> { 26, 154, 4 }));
-    QCOMPARE(fields(book.clone(true)), (QList<int> { 26, 26, 4 }));
+    QCOMPARE(book.clone(), organization(26, 154, 4));
+    QCOMPARE(book.clone(false), organization(26, 154, 4));
+    QCOMPARE(book.clone(true), organization(26, 26, 4));
+    QCOMPARE(book, organization(26, 154, 4));
+    QCOMPARE(RVPageCountOrganization().clone(true), organization(0, 0, 0));
 }
 
-void tst_RVPageCountOrganization::shrinks_data()
+void tst_RVPageCountOrganization::subtract_data()
 {
+    QTest::addColumn<RVPageCountOrganization>("organization");
     QTest::addColumn<int>("pages");
-    QTest::addColumn<QList<int>>("result");
-    QTest::newRow("some") << 20 << QList<int> { 6, 134, 4 };
-    QTest::newRow("down to one") << 25 << QList<int> { 1, 129, 4 };
-    QTest::newRow("below one") << 26 << QList<int> { 26, 154, 4 };
-    QTest::newRow("far below one") << 30 << QList<int> { 26, 154, 4 };
-    QTest::newRow("nothing") << 0 << QList<int> { 26, 154, 4 };
-    QTest::newRow("negative grows") << -4 << QList<int> { 30, 158, 4 };
-    QTest::newRow("smallest") << smallest << QList<int> { largest, largest, 4 };
-    QTest::newRow("largest") << largest << QList<int> { 26, 154, 4 };
+    QTest::addColumn<RVPageCountOrganization>("result");
+    const RVPageCountOrganization book = organization(26, 154, 4);
+    QTest::newRow("nothing") << book << 0 << book;
+    QTest::newRow("some") << book << 20 << organization(6, 134, 4);
+    QTest::newRow("down to 1") << book << 25 << organization(1, 129, 4);
+    QTest::newRow("down to 0") << book << 26 << book;
+    QTest::newRow("below 0") << book << 30 << book;
+    QTest::newRow("negative") << book << -4 << organization(30, 158, 4);
+    QTest::newRow("highest integer") << book << INT_HIGHEST << book;
+    QTest::newRow("lowest integer") << book << INT_LOWEST << organization(INT_HIGHEST, INT_HIGHEST, 4);
+    QTest::newRow("lowest integer from a negative one") << organization(-5, -5, 0) << INT_LOWEST
+                                                        << organization(2147483642, 2147483642, 0);
+    QTest::newRow("upper bound at its limit") << organization(26, INT_HIGHEST, 4) << -4
+                                              << organization(30, INT_HIGHEST, 4);
+    QTest::newRow("nothing from an empty one") << RVPageCountOrganization() << 0 << RVPageCountOrganization();
+    QTest::newRow("up from an empty one") << RVPageCountOrganization() << -1 << organization(1, 1, 0);
+    QTest::newRow("only the lower bound counts") << organization(20, 5, 0) << 15 << organization(5, -10, 0);
 }
 
-void tst_RVPageCountOrganization::shrinks()
+void tst_RVPageCountOrganization::subtract()
 {
+    QFETCH(RVPageCountOrganization, organization);
     QFETCH(int, pages);
-    RVPageCountOrganization book = organization(26, 154, 4);
-    const RVPageCountOrganization copy = book;
-    RVPageCountOrganization returned = book -= pages;
-    QTEST(fields(book), "result");
-    QTEST(fields(returned), "result");
+    RVPageCountOrganization returned = (organization -= pages);
+    QTEST(returned, "result");
+    QTEST(organization, "result");
     returned -= -1;
-    QTEST(fields(book), "result");
-    QCOMPARE(fields(copy), (QList<int> { 26, 154, 4 }));
+    QTEST(organization, "result");
 }
 
-void tst_RVPageCountOrganization::onePageProducts()
+void tst_RVPageCountOrganization::equality_data()
 {
-    QVERIFY(organization(1, 1, 0).isOnePageProduct());
-    QVERIFY(organization(0, 0, 0).isOnePageProduct());
-    QVERIFY(organization(-3, 10, 1).isOnePageProduct());
-    QVERIFY(organization(1, 30, 1).isOnePageProduct());
-    QVERIFY(!organization(2, 2, 0).isOnePageProduct());
-    QVERIFY(!organization(3, 3, 0).isOnePageProduct());
+    QTest::addColumn<RVPageCountOrganization>("other");
+    QTest::addColumn<bool>("equal");
+    QTest::newRow("same") << organization(26, 154, 4) << true;
+    QTest::newRow("lowest") << organization(25, 154, 4) << false;
+    QTest::newRow("highest") << organization(26, 155, 4) << false;
+    QTest::newRow("increment") << organization(26, 154, 5) << false;
+    QTest::newRow("default") << RVPageCountOrganization() << false;
 }
 
-void tst_RVPageCountOrganization::reads_data()
+void tst_RVPageCountOrganization::equality()
 {
-    QTest::addColumn<QString>("attributes");
-    QTest::addColumn<QList<int>>("result");
-    QTest::newRow("all") << u"pieces='1' pages='26' max_pages='154' page_step='4'"_s << QList<int> { 26, 154, 4 };
-    QTest::newRow("none") << u""_s << QList<int> { 1, 1, 0 };
-    QTest::newRow("highest from lowest") << u"pages='26'"_s << QList<int> { 26, 26, 0 };
-    QTest::newRow("several pieces, not the step")
-            << u"pieces='3' pages='2' max_pages='4' page_step='2'"_s << QList<int> { 6, 12, 2 };
-    QTest::newRow("pieces only") << u"pieces='5'"_s << QList<int> { 5, 5, 0 };
-    QTest::newRow("no pieces") << u"pieces='0' pages='26'"_s << QList<int> { 0, 0, 0 };
-    QTest::newRow("no numbers") << u"pieces='x' pages='' max_pages='many' page_step='1.5'"_s << QList<int> { 1, 1, 0 };
-    QTest::newRow("negative") << u"pages='-4' max_pages='-8' page_step='-2'"_s << QList<int> { -4, -8, -2 };
-    QTest::newRow("too large") << u"pieces='2147483647' pages='2147483647'"_s << QList<int> { largest, largest, 0 };
-}
-
-void tst_RVPageCountOrganization::reads()
-{
-    QFETCH(QString, attributes);
-    QTEST(fields(RVPageCountOrganization::createFromProductsXML(element(attributes))), "result");
-    QCOMPARE(fields(RVPageCountOrganization::createFromProductsXML(QDomElement())), (QList<int> { 1, 1, 0 }));
-}
-
-void tst_RVPageCountOrganization::readsPictureBoxes_data()
-{
-    QTest::addColumn<QString>("attributes");
-    QTest::addColumn<QList<int>>("result");
-    QTest::newRow("all") << u"pages='10' max_pages='50' page_step='5'"_s << QList<int> { 10, 50, 5 };
-    QTest::newRow("none") << u""_s << QList<int> { 1, 30, 1 };
-    QTest::newRow("highest from lowest") << u"pages='20'"_s << QList<int> { 20, 49, 1 };
-    QTest::newRow("pieces do not count") << u"pieces='3'"_s << QList<int> { 1, 30, 1 };
-    QTest::newRow("too large") << u"pages='2147483647'"_s << QList<int> { largest, largest, 1 };
-    QTest::newRow("fixed step") << u"page_step='0'"_s << QList<int> { 1, 30, 0 };
-}
-
-void tst_RVPageCountOrganization::readsPictureBoxes()
-{
-    QFETCH(QString, attributes);
-    QTEST(fields(RVPageCountOrganization::createFromProductsXMLForPictureBox(element(attributes))), "result");
-}
-
-void tst_RVPageCountOrganization::compares()
-{
+    QFETCH(RVPageCountOrganization, other);
     const RVPageCountOrganization book = organization(26, 154, 4);
-    QVERIFY(book == organization(26, 154, 4));
-    QVERIFY(!(book != organization(26, 154, 4)));
-    for (const RVPageCountOrganization &other :
-         { organization(25, 154, 4), organization(26, 155, 4), organization(26, 154, 2) }) {
-        QVERIFY(book != other);
-        QVERIFY(!(book == other));
-    }
+    QTEST(book == other, "equal");
+    QTEST(other == book, "equal");
+    QTEST(!(book != other), "equal");
+    QVERIFY(other == other);
 }
 
-void tst_RVPageCountOrganization::debugOutput()
+void tst_RVPageCountOrganization::productsXml_data()
 {
-    QCOMPARE(organization(26, -154, 4).dump(), u"min: 26; max: -154; increment: 4"_s);
-    QString text;
-    QDebug(&text) << organization(26, 154, 4);
-    QCOMPARE(text, u"\"min: 26; max: 154; increment: 4\" "_s);
+    QTest::addColumn<QString>("xml");
+    QTest::addColumn<RVPageCountOrganization>("organization");
+    QTest::newRow("no attributes") << u"<product/>"_s << organization(1, 1, 0);
+    QTest::newRow("photo book") << u"<product pages='26' max_pages='154' page_step='4'/>"_s
+                                << organization(26, 154, 4);
+    QTest::newRow("lowest only") << u"<product pages='26'/>"_s << organization(26, 26, 0);
+    QTest::newRow("highest only") << u"<product max_pages='20'/>"_s << organization(1, 20, 0);
+    QTest::newRow("increment only") << u"<product page_step='4'/>"_s << organization(1, 1, 4);
+    QTest::newRow("one piece") << u"<product pieces='1' pages='26' max_pages='154'/>"_s << organization(26, 154, 0);
+    QTest::newRow("several pieces") << u"<product pieces='3' pages='2' max_pages='10' page_step='4'/>"_s
+                                    << organization(6, 30, 4);
+    QTest::newRow("pieces of the default") << u"<product pieces='5'/>"_s << organization(5, 5, 0);
+    QTest::newRow("no pieces") << u"<product pieces='0' pages='26' max_pages='154'/>"_s << organization(0, 0, 0);
+    QTest::newRow("negative pieces") << u"<product pieces='-1' pages='26' max_pages='154'/>"_s
+                                     << organization(-26, -154, 0);
+    QTest::newRow("too many pieces") << u"<product pieces='100000' pages='2' max_pages='100000'/>"_s
+                                     << organization(200000, INT_HIGHEST, 0);
+    QTest::newRow("no numbers") << u"<product pieces='a' pages='b' max_pages='' page_step='4.5'/>"_s
+                                << organization(1, 1, 0);
+    QTest::newRow("highest is no number") << u"<product pages='26' max_pages='x'/>"_s << organization(26, 26, 0);
+    QTest::newRow("too large") << u"<product pages='2147483648'/>"_s << organization(1, 1, 0);
+    QTest::newRow("inverted") << u"<product pages='26' max_pages='2'/>"_s << organization(26, 2, 0);
+    QTest::newRow("zero") << u"<product pages='0'/>"_s << organization(0, 0, 0);
+    QTest::newRow("attributes of a child") << u"<product><spine pages='26' page_step='4'/></product>"_s
+                                           << organization(1, 1, 0);
+    QTest::newRow("other letter case") << u"<product Pages='26' PAGE_STEP='4'/>"_s << organization(1, 1, 0);
 }
 
-QTEST_APPLESS_MAIN(tst_RVPageCountOrganization)
+void tst_RVPageCountOrganization::productsXml()
+{
+    QFETCH(QString, xml);
+    QDomDocument document;
+    QVERIFY(document.setContent(xml));
+    QTEST(RVPageCountOrganization::createFromProductsXML(document.documentElement()), "organization");
+}
+
+void tst_RVPageCountOrganization::pictureBoxXml_data()
+{
+    QTest::addColumn<QString>("xml");
+    QTest::addColumn<RVPageCountOrganization>("organization");
+    QTest::newRow("no attributes") << u"<product/>"_s << organization(1, 30, 1);
+    QTest::newRow("lowest only") << u"<product pages='20'/>"_s << organization(20, 49, 1);
+    QTest::newRow("all") << u"<product pages='20' max_pages='60' page_step='5'/>"_s << organization(20, 60, 5);
+    QTest::newRow("highest only") << u"<product max_pages='60'/>"_s << organization(1, 60, 1);
+    QTest::newRow("no increment") << u"<product page_step='0'/>"_s << organization(1, 30, 0);
+    QTest::newRow("pieces do not count") << u"<product pieces='3' pages='20'/>"_s << organization(20, 49, 1);
+    QTest::newRow("no numbers") << u"<product pages='b' max_pages='' page_step='x'/>"_s << organization(1, 30, 1);
+    QTest::newRow("just fitting") << u"<product pages='2147483618'/>"_s << organization(2147483618, INT_HIGHEST, 1);
+    QTest::newRow("too large") << u"<product pages='2147483647'/>"_s << organization(INT_HIGHEST, INT_HIGHEST, 1);
+    QTest::newRow("negative") << u"<product pages='-29'/>"_s << organization(-29, 0, 1);
+}
+
+void tst_RVPageCountOrganization::pictureBoxXml()
+{
+    QFETCH(QString, xml);
+    QDomDocument document;
+    QVERIFY(document.setContent(xml));
+    QTEST(RVPageCountOrganization::createFromProductsXMLForPictureBox(document.documentElement()), "organization");
+}
+
+void tst_RVPageCountOrganization::nullElement()
+{
+    QCOMPARE(RVPageCountOrganization::createFromProductsXML(QDomElement()), organization(1, 1, 0));
+    QCOMPARE(RVPageCountOrganization::createFromProductsXMLForPictureBox(QDomElement()), organization(1, 30, 1));
+}
+
+void tst_RVPageCountOrganization::dump_data()
+{
+    QTest::addColumn<RVPageCountOrganization>("organization");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("default") << RVPageCountOrganization() << u"min: 0; max: 0; increment: 0"_s;
+    QTest::newRow("photo book") << organization(26, 154, 4) << u"min: 26; max: 154; increment: 4"_s;
+    QTest::newRow("large") << organization(-1000, 1234567, -2) << u"min: -1000; max: 1234567; increment: -2"_s;
+}
+
+void tst_RVPageCountOrganization::dump()
+{
+    QFETCH(RVPageCountOrganization, organization);
+    QFETCH(QString, text);
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::German));
+    const QString dumped = organization.dump();
+    QLocale::setDefault(before);
+    QCOMPARE(dumped, text);
+    QString debugText;
+    QDebug(&debugText) << organization;
+    QCOMPARE(debugText, QString(u'"' + text + u"\" "_s));
+}
+
+void tst_RVPageCountOrganization::debugOutputInModes()
+{
+    QString text;
+    QDebug(&text) << 1 << organization(26, 154, 4) << 2;
+    QCOMPARE(text, u"1 \"min: 26; max: 154; increment: 4\" 2 "_s);
+    text.clear();
+    QDebug(&text).nospace() << organization(26, 154, 4) << 2;
+    QCOMPARE(text, u"\"min: 26; max: 154; increment: 4\"2"_s);
+    text.clear();
+    QDebug(&text).noquote() << organization(26, 154, 4);
+    QCOMPARE(text, u"min: 26; max: 154; increment: 4 "_s);
+}
+
+void tst_RVPageCountOrganization::copies()
+{
+    const RVPageCountOrganization source = organization(26, 154, 4);
+    RVPageCountOrganization copy = source;
+    copy -= 20;
+    QCOMPARE(copy, organization(6, 134, 4));
+    QCOMPARE(source, organization(26, 154, 4));
+    copy = source;
+    QCOMPARE(copy, organization(26, 154, 4));
+    const RVPageCountOrganization &self = copy;
+    copy = self;
+    QCOMPARE(copy, organization(26, 154, 4));
+    const RVPageCountOrganization moved = std::move(copy);
+    QCOMPARE(moved, organization(26, 154, 4));
+
+    struct Watched : RVPageCountOrganization
+    {
+        explicit Watched(bool *deleted) : myDeleted(deleted) { }
+        ~Watched() override { *myDeleted = true; }
+        bool *myDeleted;
+    };
+    bool deleted = false;
+    std::unique_ptr<RVPageCountOrganization>(new Watched(&deleted)).reset();
+    QVERIFY(deleted);
+}
+
+QTEST_GUILESS_MAIN(tst_RVPageCountOrganization)
 #include "tst_RVPageCountOrganization.moc"

@@ -4,8 +4,7 @@ set -euo pipefail
 compiler=$1 flags=$2 libdir=$3 source=$4 program=$5
 
 export PKG_CONFIG_PATH=$libdir/pkgconfig
-package=$("${PKG_CONFIG:-pkg-config}" --cflags --libs RVProductBase)
-# The words of both variables are options.
-# shellcheck disable=SC2086
-"$compiler" -std=c++17 -fPIC $flags "$source" $package -o "$program"
+# The words of both are options, quoted as for a shell.
+eval "options=($flags $("${PKG_CONFIG:-pkg-config}" --cflags --libs RVProductBase))"
+"$compiler" -std=c++17 -fPIC "$source" "${options[@]}" -o "$program"
 LD_LIBRARY_PATH=$libdir "$program"

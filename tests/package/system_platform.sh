@@ -22,7 +22,7 @@ fi
 library=$(find "$build" -name libRVProductBase.so)
 for platform in libRVCore.so.0 libRVXML.so.0; do
     readelf -d "$library" | grep -F "NEEDED" | grep -F "[$platform]"
-    found=$(ldd "$library" | awk -v name=$platform '$1 == name { print $3 }')
+    found=$(ldd "$library" | sed -n "s/^[[:space:]]*$platform => \(.*\) (0x[0-9a-f]*)$/\1/p")
     if [[ $(realpath "$(dirname "$found")") != "$libdir" ]]; then
         echo "$platform is \"$found\", not from $libdir"
         exit 1
