@@ -38,6 +38,13 @@ public:
     /// Sets every quantity to 10 for a project that becomes a vario one, to 1 for one that no longer is.
     void adaptFromOrToVario(bool fromVario, bool toVario);
 
+    friend bool operator==(const RVContentStatistic &a, const RVContentStatistic &b)
+    {
+        return a.myCountGeoMapAreas == b.myCountGeoMapAreas && a.myCountVideoAreas == b.myCountVideoAreas
+                && a.myBoughtAdditionalContent == b.myBoughtAdditionalContent;
+    }
+    friend bool operator!=(const RVContentStatistic &a, const RVContentStatistic &b) { return !(a == b); }
+
 private:
     int myCountGeoMapAreas;
     int myCountVideoAreas;

@@ -38,3 +38,11 @@ void RVModelAddOnStatistic::setPanoPagesAddOn(const RVPriceClass &priceClass)
 {
     myPanoPagesAddOn = priceClass;
 }
+
+bool operator==(const RVModelAddOnStatistic &a, const RVModelAddOnStatistic &b)
+{
+    return a.myContentStatistic == b.myContentStatistic && a.myVideoAddOn == b.myVideoAddOn
+            && a.mySpotColorAddOn == b.mySpotColorAddOn && a.myFlyLeafAddOn == b.myFlyLeafAddOn
+            && a.myFlyLeafVariants == b.myFlyLeafVariants && a.myDesignStyleAddOns == b.myDesignStyleAddOns
+            && a.myPanoPagesAddOn == b.myPanoPagesAddOn;
+}

@@ -44,6 +44,9 @@ public:
     void setDesignStyleAddOns(const RVPriceClassSet &priceClasses);
     void setPanoPagesAddOn(const RVPriceClass &priceClass);
 
+    RVPRODUCTBASE_EXPORT friend bool operator==(const RVModelAddOnStatistic &a, const RVModelAddOnStatistic &b);
+    friend bool operator!=(const RVModelAddOnStatistic &a, const RVModelAddOnStatistic &b) { return !(a == b); }
+
 private:
     RVContentStatistic myContentStatistic;
     RVPriceClass myVideoAddOn;

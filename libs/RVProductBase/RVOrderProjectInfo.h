@@ -38,6 +38,13 @@ public:
     /// the right.
     QDataStream &operator<<(QDataStream &stream) const;
 
+    friend bool operator==(const RVOrderProjectInfo &a, const RVOrderProjectInfo &b) noexcept
+    {
+        return a.myXtciSession == b.myXtciSession && a.myOrderId == b.myOrderId
+                && a.myOrderPosition == b.myOrderPosition && a.myDeleteProjectInfo == b.myDeleteProjectInfo;
+    }
+    friend bool operator!=(const RVOrderProjectInfo &a, const RVOrderProjectInfo &b) noexcept { return !(a == b); }
+
 private:
     QString myXtciSession;
     RVOrderId myOrderId;

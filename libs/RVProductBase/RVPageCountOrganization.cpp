@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <cmath>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -113,7 +114,8 @@ RVPageCountOrganization RVPageCountOrganization::clone(bool minOnly) const
 
 RVPageCountOrganization RVPageCountOrganization::operator-=(int pages)
 {
-    const RVIntRange moved = myRange.shifted(rvSaturated(-qint64(pages)));
+    constexpr int smallest = std::numeric_limits<int>::min(); // has no opposite
+    const RVIntRange moved = pages == smallest ? myRange.shifted(-(smallest + 1)).shifted(1) : myRange.shifted(-pages);
     if (moved.min >= 1)
         myRange = moved;
     return *this;

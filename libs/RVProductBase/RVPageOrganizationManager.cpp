@@ -6,6 +6,8 @@
 #include <QMutex>
 #include <QMutexLocker>
 
+#include <utility>
+
 template class RVSingleton<RVPageOrganizationManager>;
 
 namespace {
@@ -26,16 +28,15 @@ RVPageOrganizationManager::RVPageOrganizationManager() = default;
 
 RVPageOrganizationManager::~RVPageOrganizationManager()
 {
-    delete myCalculator;
+    // Its destructor may still ask for page counts.
+    delete std::exchange(myCalculator, nullptr);
 }
 
 void RVPageOrganizationManager::setCalculator(RVPageOrganizationCalculator *calculator)
 {
     const QMutexLocker locker(&myMutex);
-    if (calculator != myCalculator) {
-        delete myCalculator;
-        myCalculator = calculator;
-    }
+    if (calculator != myCalculator)
+        delete std::exchange(myCalculator, calculator);
     clearCache();
 }
 

@@ -1,11 +1,5 @@
 #include "RVSpineConfig.h"
 
-#include "RVXMLParser.h"
-
-#include <QDomElement>
-
-using namespace Qt::StringLiterals;
-
 RVSpineConfig::RVSpineConfig() : d(new RVSpineConfigImpl) { }
 
 RVSpineConfig::RVSpineConfig(const RVPageCountOrganization &pageCountOrganization, int packagesPerBlock,
@@ -14,17 +8,11 @@ RVSpineConfig::RVSpineConfig(const RVPageCountOrganization &pageCountOrganizatio
     : d(new RVSpineConfigImpl(pageCountOrganization, packagesPerBlock, baseWidth, blockWidth, additionalWidth))
 { }
 
+RVSpineConfig::RVSpineConfig(const RVSpineConfigImpl *data) : d(data) { }
+
 RVSpineConfig RVSpineConfig::createFromProductsXML(const QDomElement &product)
 {
-    const QDomElement composition = product.firstChildElement(u"composition"_s);
-    const RVDistanceUnit unit(RVXMLParser::attribute(composition, u"units"_s, u"mm"_s));
-    const auto pageCounts = RVPageCountOrganization::createFromProductsXML(product);
-    const QDomElement spine = composition.firstChildElement(u"spine"_s);
-    const int packagesPerBlock = RVXMLParser::intAttribute(spine, u"packages_per_block"_s, 0);
-    const RVDistance baseWidth = RVXMLParser::readDistance(spine, u"base_width"_s, 0.0, unit);
-    const RVDistance blockWidth = RVXMLParser::readDistance(spine, u"block_width"_s, 0.0, unit);
-    const RVDistance additionalWidth = RVXMLParser::readDistance(spine, u"additional_width"_s, 0.0, unit);
-    return RVSpineConfig(pageCounts, packagesPerBlock, baseWidth, blockWidth, additionalWidth);
+    return RVSpineConfig(new RVSpineConfigImpl(RVSpineConfigImpl::createFromProductsXML(product)));
 }
 
 bool RVSpineConfig::isValid() const

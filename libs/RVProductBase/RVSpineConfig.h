@@ -18,7 +18,8 @@ class QString;
  * spine has 9 mm at 26 and 30 pages and 10 mm at 34 and 38.
  *
  * Read from the products XML; by default without growth and all widths 0. It never changes, so copies share their
- * data, also between threads.
+ * data, also between threads; moving one to a new object shares it as well. One that was assigned from as an rvalue may
+ * only be destroyed or assigned to.
  */
 class RVPRODUCTBASE_EXPORT RVSpineConfig
 {
@@ -27,6 +28,10 @@ public:
     /// @p packagesPerBlock packages of pages make one block of growth; 0 for a spine that does not grow.
     RVSpineConfig(const RVPageCountOrganization &pageCountOrganization, int packagesPerBlock,
                   const RVDistance &baseWidth, const RVDistance &blockWidth, const RVDistance &additionalWidth);
+
+    RVSpineConfig(const RVSpineConfig &) = default;
+    RVSpineConfig &operator=(const RVSpineConfig &) = default;
+    RVSpineConfig &operator=(RVSpineConfig &&) = default;
 
     /// Reads the page counts of a product element and, of "spine" in its "composition", "packages_per_block" (0),
     /// "base_width", "block_width" and "additional_width" (0), in the "units" ("mm") of the composition.
@@ -50,6 +55,8 @@ public:
     bool operator!=(const RVSpineConfig &other) const { return !(*this == other); }
 
 private:
+    explicit RVSpineConfig(const RVSpineConfigImpl *data);
+
     QExplicitlySharedDataPointer<const RVSpineConfigImpl> d;
 };
 

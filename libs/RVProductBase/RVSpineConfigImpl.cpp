@@ -3,13 +3,17 @@
 #include "RVFontCreator.h"
 #include "RVFontSizeManager.h"
 #include "RVSaturation_p.h"
+#include "RVXMLParser.h"
 
+#include <QDomElement>
 #include <QFont>
 #include <QFontMetrics>
 #include <QGuiApplication>
 
 #include <cmath>
 #include <limits>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -39,6 +43,19 @@ RVSpineConfigImpl::RVSpineConfigImpl(const RVPageCountOrganization &pageCountOrg
 { }
 
 RVSpineConfigImpl::~RVSpineConfigImpl() = default;
+
+RVSpineConfigImpl RVSpineConfigImpl::createFromProductsXML(const QDomElement &product)
+{
+    const QDomElement composition = product.firstChildElement(u"composition"_s);
+    const RVDistanceUnit unit(RVXMLParser::attribute(composition, u"units"_s, u"mm"_s));
+    const auto pageCounts = RVPageCountOrganization::createFromProductsXML(product);
+    const QDomElement spine = composition.firstChildElement(u"spine"_s);
+    const int packagesPerBlock = RVXMLParser::intAttribute(spine, u"packages_per_block"_s, 0);
+    const RVDistance baseWidth = RVXMLParser::readDistance(spine, u"base_width"_s, 0.0, unit);
+    const RVDistance blockWidth = RVXMLParser::readDistance(spine, u"block_width"_s, 0.0, unit);
+    const RVDistance additionalWidth = RVXMLParser::readDistance(spine, u"additional_width"_s, 0.0, unit);
+    return RVSpineConfigImpl(pageCounts, packagesPerBlock, baseWidth, blockWidth, additionalWidth);
+}
 
 bool RVSpineConfigImpl::isValid() const
 {

@@ -7,6 +7,7 @@
 
 #include <QSharedData>
 
+class QDomElement;
 class QString;
 
 /// The shared data of RVSpineConfig, which documents the operations.
@@ -18,6 +19,8 @@ public:
                       const RVDistance &baseWidth, const RVDistance &blockWidth, const RVDistance &additionalWidth);
     RVSpineConfigImpl(const RVSpineConfigImpl &) = default;
     virtual ~RVSpineConfigImpl();
+
+    static RVSpineConfigImpl createFromProductsXML(const QDomElement &product);
 
     bool isValid() const;
     int additionalPagePackageBlocks(unsigned pages) const;

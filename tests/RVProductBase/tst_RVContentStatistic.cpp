@@ -32,6 +32,7 @@ private Q_SLOTS:
     void replaces();
     void adaptsToVario_data();
     void adaptsToVario();
+    void compares();
 };
 
 void tst_RVContentStatistic::construction()
@@ -98,8 +99,8 @@ void tst_RVContentStatistic::replaces_data()
     QTest::addColumn<Bought>("result");
     QTest::newRow("to a new one") << u"MUL1"_s << u"MUL2"_s
                                   << Bought { { u"MUL2"_s, 1 }, { u"KUR2"_s, 0 }, { u"VEL4"_s, -2 }, { u"LEZ1"_s, 7 } };
-    QTest::newRow("to one that is there") << u"MUL1"_s << u"LEZ1"_s
-                                          << Bought { { u"KUR2"_s, 0 }, { u"VEL4"_s, -2 }, { u"LEZ1"_s, 1 } };
+    QTest::newRow("to one that is there")
+            << u"MUL1"_s << u"LEZ1"_s << Bought { { u"KUR2"_s, 0 }, { u"VEL4"_s, -2 }, { u"LEZ1"_s, 1 } };
     QTest::newRow("by itself") << u"MUL1"_s << u"MUL1"_s
                                << Bought { { u"KUR2"_s, 0 }, { u"VEL4"_s, -2 }, { u"LEZ1"_s, 7 } };
     QTest::newRow("quantity 0") << u"KUR2"_s << u"LEZ1"_s
@@ -141,6 +142,16 @@ void tst_RVContentStatistic::adaptsToVario()
     QCOMPARE(tested.countGeoMapAreas(), 2);
     QCOMPARE(tested.countVideoAreas(), 3);
     QCOMPARE(copy.boughtAdditionalContent(), (Bought { { u"MUL1"_s, 1 }, { u"KUR2"_s, 4 } }));
+}
+
+void tst_RVContentStatistic::compares()
+{
+    const RVContentStatistic tested(1, 2, { { u"MUL1"_s, 3 } });
+    QVERIFY(tested == RVContentStatistic(1, 2, { { u"MUL1"_s, 3 } }));
+    QVERIFY(!(tested != RVContentStatistic(1, 2, { { u"MUL1"_s, 3 } })));
+    QVERIFY(tested != RVContentStatistic(0, 2, { { u"MUL1"_s, 3 } }));
+    QVERIFY(tested != RVContentStatistic(1, 0, { { u"MUL1"_s, 3 } }));
+    QVERIFY(tested != RVContentStatistic(1, 2, { { u"MUL1"_s, 0 } }));
 }
 
 QTEST_GUILESS_MAIN(tst_RVContentStatistic)

@@ -2,6 +2,7 @@
 
 #include <QTest>
 
+#include <functional>
 #include <type_traits>
 
 using namespace Qt::StringLiterals;
@@ -27,6 +28,7 @@ private Q_SLOTS:
     void defaultVideoAddOn();
     void forwards();
     void setsAddOns();
+    void compares();
 };
 
 void tst_RVModelAddOnStatistic::construction()
@@ -76,6 +78,27 @@ void tst_RVModelAddOnStatistic::setsAddOns()
     QCOMPARE(tested.flyLeafVariants().value(u"flyleafcolor"_s), u"grey"_s);
     QVERIFY(tested.designStyleAddOns() == RVPriceClassSet({ u"62"_s, u"61"_s }));
     QCOMPARE(tested.panoPagesAddOn(), RVPriceClass(u"WAF3"_s));
+}
+
+void tst_RVModelAddOnStatistic::compares()
+{
+    const RVModelAddOnStatistic tested(content());
+    QVERIFY(tested == RVModelAddOnStatistic(content()));
+    QVERIFY(!(tested != RVModelAddOnStatistic(content())));
+    const std::function<void(RVModelAddOnStatistic *)> changes[] = {
+        [](auto *other) { other->addAddOn(u"VEL4"_s, 1); },
+        [](auto *other) { other->setVideoAddOn(u"MUL2"_s); },
+        [](auto *other) { other->setSpotColorAddOn(u"KUR1"_s); },
+        [](auto *other) { other->setFlyLeafAddOn(u"SAV1"_s, RVArticleVariants()); },
+        [](auto *other) { other->setFlyLeafAddOn(RVPriceClass(), RVArticleVariants(u"k"_s, u"v"_s)); },
+        [](auto *other) { other->setDesignStyleAddOns({ u"61"_s }); },
+        [](auto *other) { other->setPanoPagesAddOn(u"WAF3"_s); },
+    };
+    for (const auto &change : changes) {
+        RVModelAddOnStatistic other = tested;
+        change(&other);
+        QVERIFY(tested != other);
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_RVModelAddOnStatistic)

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void writesStreams_data();
     void writesStreams();
     void debugOutput();
+    void compares();
 };
 
 void tst_RVOrderProjectInfo::fields()
@@ -108,6 +109,17 @@ void tst_RVOrderProjectInfo::debugOutput()
     text.clear();
     QDebug(&text).nospace() << RVOrderProjectInfo(u"session"_s, u"A-1"_s, 3);
     QCOMPARE(text, u"\"A-1\"3\"session\""_s);
+}
+
+void tst_RVOrderProjectInfo::compares()
+{
+    const RVOrderProjectInfo info(u"s"_s, u"A"_s, 1);
+    QVERIFY(info == RVOrderProjectInfo(u"s"_s, u"A"_s, 1));
+    QVERIFY(!(info != RVOrderProjectInfo(u"s"_s, u"A"_s, 1)));
+    QVERIFY(info != RVOrderProjectInfo(u"t"_s, u"A"_s, 1));
+    QVERIFY(info != RVOrderProjectInfo(u"s"_s, u"B"_s, 1));
+    QVERIFY(info != RVOrderProjectInfo(u"s"_s, u"A"_s, 2));
+    QVERIFY(RVOrderProjectInfo::createDeletingProjetInfo() != RVOrderProjectInfo(QString(), RVOrderId(), 0));
 }
 
 QTEST_GUILESS_MAIN(tst_RVOrderProjectInfo)

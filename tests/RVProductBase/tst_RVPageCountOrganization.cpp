@@ -334,7 +334,7 @@ void tst_RVPageCountOrganization::subtract_data()
     QTest::newRow("highest integer") << book << INT_HIGHEST << book;
     QTest::newRow("lowest integer") << book << INT_LOWEST << organization(INT_HIGHEST, INT_HIGHEST, 4);
     QTest::newRow("lowest integer from a negative one") << organization(-5, -5, 0) << INT_LOWEST
-                                                        << organization(2147483642, 2147483642, 0);
+                                                        << organization(2147483643, 2147483643, 0);
     QTest::newRow("upper bound at its limit") << organization(26, INT_HIGHEST, 4) << -4
                                               << organization(30, INT_HIGHEST, 4);
     QTest::newRow("nothing from an empty one") << RVPageCountOrganization() << 0 << RVPageCountOrganization();

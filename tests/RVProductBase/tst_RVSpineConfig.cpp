@@ -221,10 +221,12 @@ void tst_RVSpineConfig::reads()
                                  RVDistance(tenths.at(0)), RVDistance(tenths.at(1)), RVDistance(tenths.at(2)));
     const RVSpineConfig config = RVSpineConfig::createFromProductsXML(product);
     QVERIFY(config == expected);
-    QVERIFY(!RVSpineConfig::createFromProductsXML(QDomElement()).isValid()
-            || RVSpineConfig::createFromProductsXML(QDomElement())
-                    == RVSpineConfig(RVPageCountOrganization(RVIntRange(1, 1), 0), 0, RVDistance(), RVDistance(),
-                                     RVDistance()));
+    QVERIFY(RVSpineConfigImpl::createFromProductsXML(product)
+            == RVSpineConfigImpl(RVPageCountOrganization(RVIntRange(26, 154), 4), packagesPerBlock,
+                                 RVDistance(tenths.at(0)), RVDistance(tenths.at(1)), RVDistance(tenths.at(2))));
+    QVERIFY(RVSpineConfig::createFromProductsXML(QDomElement())
+            == RVSpineConfig(RVPageCountOrganization(RVIntRange(1, 1), 0), 0, RVDistance(), RVDistance(),
+                             RVDistance()));
 }
 
 void tst_RVSpineConfig::compares_data()
@@ -354,6 +356,7 @@ void tst_RVSpineConfig::copiesShareData()
     QVERIFY(copy == photoBook());
     RVSpineConfig moved = std::move(first);
     QVERIFY(!moved.isValid());
+    QVERIFY(first == RVSpineConfig()); // moving shares
     moved = copy;
     QVERIFY(moved == photoBook());
     QVERIFY(!std::is_polymorphic_v<RVSpineConfig>);
