@@ -7,6 +7,8 @@ template class RVSingleton<RVDirectoryConfig>;
 
 QString RVDirectoryConfig::resource(const QString &relativePath, bool) const
 {
+    if (relativePath.isEmpty()) // or else the first directory itself would be found
+        return relativePath;
     const QReadLocker locker(&myLock);
     for (const QString &directory : mySearchDirectories) {
         const QString path = QDir(directory).filePath(relativePath);

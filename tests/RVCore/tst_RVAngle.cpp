@@ -20,6 +20,10 @@ void tst_RVAngle::isNull_data()
     QTest::newRow("zero") << 0.0 << true;
     QTest::newRow("negative zero") << -0.0 << true;
     QTest::newRow("rounding") << 0.3 - 0.2 - 0.1 << true;
+    QTest::newRow("largest null angle") << 1e-12 << true;
+    QTest::newRow("beyond the largest null angle") << 1.000001e-12 << false;
+    QTest::newRow("smallest null angle") << -1e-12 << true;
+    QTest::newRow("beyond the smallest null angle") << -1.000001e-12 << false;
     QTest::newRow("a thousandth") << 0.001 << false;
     QTest::newRow("negative") << -90.0 << false;
     QTest::newRow("full turn") << 360.0 << false;

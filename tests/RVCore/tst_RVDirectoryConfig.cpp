@@ -44,6 +44,10 @@ void tst_RVDirectoryConfig::searchesInOrder()
     QCOMPARE(config->resource(u"icons/a.png"_s, false), second.filePath(u"icons/a.png"_s));
     QCOMPARE(config->resource(u"icons/a.png"_s, true), second.filePath(u"icons/a.png"_s));
     QCOMPARE(config->resource(u"icons/b.png"_s, false), u"icons/b.png"_s);
+    QCOMPARE(config->resource(u""_s, false), u""_s);
+    QCOMPARE(config->resource(QString(), false), QString());
+    const QString absolutePath = second.filePath(u"icons/a.png"_s);
+    QCOMPARE(config->resource(absolutePath, false), absolutePath);
 
     QVERIFY(QDir(first.path()).mkpath(u"icons"_s));
     QVERIFY(createFile(first.filePath(u"icons/a.png"_s)));

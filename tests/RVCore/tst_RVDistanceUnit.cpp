@@ -46,11 +46,13 @@ void tst_RVDistanceUnit::converts()
     QFETCH(RVDistanceUnitEnum, unit);
     QFETCH(int, code);
     QFETCH(qreal, tenths);
+    const MessageLog log;
     QCOMPARE(RVDistanceUnit(unit).code(), code);
     QCOMPARE(RVDistanceUnit(code).code(), code);
     QCOMPARE(RVDistanceUnit(unit).units2Pixels(36.0), tenths);
     QCOMPARE(RVDistanceUnit(code).units2Pixels(-36.0), -tenths);
     QCOMPARE(RVDistanceUnit(unit).units2Pixels(0.0), 0.0);
+    QCOMPARE(log.lines(), QStringList());
 }
 
 void tst_RVDistanceUnit::readsTexts_data()
@@ -67,12 +69,17 @@ void tst_RVDistanceUnit::readsTexts_data()
     QTest::newRow("empty") << u""_s << 2;
     QTest::newRow("null") << QString() << 2;
     QTest::newRow("unknown") << u"furlong"_s << 2;
+    QTest::newRow("upper case") << u"CM"_s << 2;
+    QTest::newRow("blank behind") << u"cm "_s << 2;
+    QTest::newRow("more behind") << u"inches"_s << 2;
 }
 
 void tst_RVDistanceUnit::readsTexts()
 {
     QFETCH(QString, text);
+    const MessageLog log;
     QTEST(RVDistanceUnit(text).code(), "code");
+    QCOMPARE(log.lines(), QStringList());
 }
 
 void tst_RVDistanceUnit::keepsUnknownCodes_data()

@@ -57,6 +57,8 @@ private Q_SLOTS:
     void doesNotTrimOnInsert();
     void decodesOneElement_data();
     void decodesOneElement();
+    void decodesValuesBelowOne_data();
+    void decodesValuesBelowOne();
     void decodesLists_data();
     void decodesLists();
     void decodesSilently();
@@ -67,7 +69,10 @@ private Q_SLOTS:
     void splitsWideValues();
     void possibleKeywords_data();
     void possibleKeywords();
+    void sortsKeywordsByCodeUnits();
     void knownKeywords();
+    void isUntouched();
+    void copies();
 };
 
 void tst_RVEnumToStringTable::emptyTable()
@@ -155,6 +160,29 @@ void tst_RVEnumToStringTable::decodesOneElement()
     const MessageLog log;
     QTEST(int(filledTable().decodeOneElement(keyword, warn)), "value");
     QTEST(log.lines(), "warnings");
+}
+
+void tst_RVEnumToStringTable::decodesValuesBelowOne_data()
+{
+    QTest::addColumn<QString>("keyword");
+    QTest::addColumn<int>("value");
+    QTest::newRow("zero") << u"none"_s << 0;
+    QTest::newRow("minus one") << u"any"_s << -1;
+    QTest::newRow("smallest") << u"sign"_s << int(0x80000000);
+}
+
+void tst_RVEnumToStringTable::decodesValuesBelowOne()
+{
+    QFETCH(QString, keyword);
+    Table table = filledTable();
+    table.insert(u"none"_s, FinishEnum(0));
+    table.insert(u"any"_s, FinishEnum(-1));
+    table.insert(u"sign"_s, FinishEnum(0x80000000));
+    const MessageLog log;
+    QTEST(int(table.decode(keyword, FINISH_MATT)), "value");
+    QTEST(int(table.decodeOneElement(keyword, true)), "value");
+    QTEST(int(table.decodeCSV(keyword)), "value");
+    QCOMPARE(log.lines(), QStringList());
 }
 
 void tst_RVEnumToStringTable::decodesLists_data()
@@ -262,12 +290,48 @@ void tst_RVEnumToStringTable::possibleKeywords()
     QTEST(filledTable().allPossibleKeywords(FinishEnum(value)), "keywords");
 }
 
+void tst_RVEnumToStringTable::sortsKeywordsByCodeUnits()
+{
+    Table table;
+    for (const QString &keyword : { u"zinc"_s, u"äther"_s, u"a_b"_s, u"a1"_s, u"a b"_s, u"Ab"_s })
+        table.insert(keyword, FINISH_MATT);
+    const QStringList expected = { u"a b"_s, u"a1"_s, u"a_b"_s, u"ab"_s, u"zinc"_s, u"äther"_s };
+    QCOMPARE(table.allPossibleKeywords(FINISH_MATT), expected);
+    QCOMPARE(table.keywords(FINISH_MATT), expected);
+}
+
 void tst_RVEnumToStringTable::knownKeywords()
 {
     QCOMPARE(sorted(filledTable().allKnownKeywords()),
              (QStringList { u"a cloth"_s, u"fabric"_s, u"gloss"_s, u"glossy"_s, u"linen"_s, u"matt"_s, u"shiny"_s }));
     QCOMPARE(sorted(filledTable().allKnownEnumValues()),
              (QList<FinishEnum> { FINISH_GLOSS, FINISH_MATT, FINISH_LINEN, FINISH_SHINY }));
+}
+
+void tst_RVEnumToStringTable::isUntouched()
+{
+    QVERIFY(Table().isUntouched());
+    Table withKeyword;
+    withKeyword.insert(u""_s, FinishEnum(0));
+    QVERIFY(!withKeyword.isUntouched());
+    Table withDefaultKeyword;
+    withDefaultKeyword.defaultKeyword = u""_s;
+    QVERIFY(!withDefaultKeyword.isUntouched());
+    Table withDefaultValue;
+    withDefaultValue.defaultValue = FinishEnum(-1);
+    QVERIFY(!withDefaultValue.isUntouched());
+}
+
+void tst_RVEnumToStringTable::copies()
+{
+    Table table = filledTable();
+    const Table copy = table;
+    table.insert(u"matt"_s, FinishEnum(4));
+    table.defaultKeyword = u"changed"_s;
+    table.defaultValue = FINISH_MATT;
+    QCOMPARE(int(copy.decode(u"matt"_s, FinishEnum(32))), 2);
+    QCOMPARE(copy.encode(FinishEnum(4)), u"plain"_s);
+    QCOMPARE(int(copy.decodeCSV(u"velvet"_s)), 64);
 }
 
 QTEST_APPLESS_MAIN(tst_RVEnumToStringTable)

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <chrono>
 #include <thread>
 #include <vector>
 
@@ -18,6 +19,13 @@ enum FinishEnum : qint32 {
 RV_DECLARE_ENUM_OPERATORS(FinishEnum)
 
 enum RacedEnum : qint64 {};
+
+enum WideEnum : qint64 {
+    WIDE_LOWEST = 1,
+    WIDE_MIDDLE = Q_INT64_C(0x80000000),
+    WIDE_HIGHEST = Q_INT64_C(0x4000000000000000),
+};
+RV_DECLARE_ENUM_OPERATORS(WideEnum)
 
 namespace {
 
@@ -49,11 +57,46 @@ public:
     void fillTable(RVEnumToStringTable<RacedEnum> *table) const override
     {
         ++fillings;
-        std::this_thread::yield();
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
         table->insert(u"raced"_s, RacedEnum(1));
     }
 
     static inline std::atomic<int> fillings { 0 };
+};
+
+class Wide : public RVEnumWrapper<WideEnum>
+{
+public:
+    Wide(WideEnum value) : RVEnumWrapper(value) { }
+
+    void fillTable(RVEnumToStringTable<WideEnum> *table) const override
+    {
+        table->insert(u"highest"_s, WIDE_HIGHEST);
+        table->insert(u"middle"_s, WIDE_MIDDLE);
+        table->insert(u"lowest"_s, WIDE_LOWEST);
+    }
+};
+
+template<int>
+struct Fresh
+{
+    enum Enum : qint32 {};
+};
+
+/// Each N has a table of its own, which nobody asked for before.
+template<int N>
+class FreshWrapper : public RVEnumWrapper<typename Fresh<N>::Enum>
+{
+public:
+    FreshWrapper() : RVEnumWrapper<typename Fresh<N>::Enum>(typename Fresh<N>::Enum(1)) { }
+
+    void fillTable(RVEnumToStringTable<typename Fresh<N>::Enum> *table) const override
+    {
+        ++fillings;
+        table->defaultKeyword = u"fresh"_s;
+    }
+
+    static inline int fillings = 0;
 };
 
 /// Notes which virtual operation was called last.
@@ -92,6 +135,7 @@ class tst_RVEnumWrapper : public QObject
 private Q_SLOTS:
     void plainWrapperKeepsTheTableFree();
     void tableIsBuiltOnce();
+    void countingBuildsTheTable();
     void values_data();
     void values();
     void setsValues();
@@ -112,7 +156,9 @@ private Q_SLOTS:
     void listsKeywords();
     void combinesEnumerators();
     void slotOrder();
+    void wideValues();
     void copies();
+    void assigns();
 };
 
 // First of all, as the table is still missing.
@@ -149,6 +195,25 @@ void tst_RVEnumWrapper::tableIsBuiltOnce()
         QCOMPARE(tables[i], static_cast<const void *>(Raced().enumToStringTable()));
         QCOMPARE(keywords[i], 1);
     }
+}
+
+void tst_RVEnumWrapper::countingBuildsTheTable()
+{
+    FreshWrapper<0>().countBits();
+    QCOMPARE(FreshWrapper<0>::fillings, 1);
+    FreshWrapper<1>().hasExactlyOneBit();
+    QCOMPARE(FreshWrapper<1>::fillings, 1);
+    FreshWrapper<2>().isConglumerate();
+    QCOMPARE(FreshWrapper<2>::fillings, 1);
+    FreshWrapper<3>().splitToBits();
+    QCOMPARE(FreshWrapper<3>::fillings, 1);
+    FreshWrapper<4>().splitToBitsSorted();
+    QCOMPARE(FreshWrapper<4>::fillings, 1);
+    FreshWrapper<4>().countBits();
+    QCOMPARE(FreshWrapper<4>::fillings, 1);
+    QCOMPARE(FreshWrapper<4>().encode(), u"fresh"_s);
+    QVERIFY(!FreshWrapper<5>().isNull());
+    QCOMPARE(FreshWrapper<5>::fillings, 0);
 }
 
 void tst_RVEnumWrapper::values_data()
@@ -216,6 +281,8 @@ void tst_RVEnumWrapper::asksForBits_data()
     QTest::newRow("nothing asked") << 3 << 0 << false << false << true;
     QTest::newRow("nothing at all") << 0 << 0 << true << false << true;
     QTest::newRow("negative") << -1 << 8 << false << true << true;
+    QTest::newRow("sign bit") << -1 << int(0x80000000) << false << true << true;
+    QTest::newRow("all bits") << 3 << -1 << false << true << false;
 }
 
 void tst_RVEnumWrapper::asksForBits()
@@ -393,7 +460,9 @@ void tst_RVEnumWrapper::combinesEnumerators()
     FinishEnum changed = FINISH_GLOSS;
     changed |= FINISH_LINEN;
     QCOMPARE(int(changed), 9);
-    changed &= FINISH_LINEN;
+    changed |= FINISH_LINEN;
+    QCOMPARE(int(changed), 9);
+    changed &= FINISH_LINEN | FINISH_MATT;
     QCOMPARE(int(changed), 8);
 }
 
@@ -434,6 +503,35 @@ void tst_RVEnumWrapper::slotOrder()
     QCOMPARE(sizeof(W), 2 * sizeof(void *));
 }
 
+void tst_RVEnumWrapper::wideValues()
+{
+    const Wide wide(WIDE_LOWEST | WIDE_MIDDLE | WIDE_HIGHEST);
+    QCOMPARE(wide.countBits(), 3);
+    QVERIFY(wide.isConglumerate());
+    QCOMPARE(wide.splitToBitsSorted(), (QList<WideEnum> { WIDE_LOWEST, WIDE_MIDDLE, WIDE_HIGHEST }));
+    QCOMPARE(wide.encodeCSV(), u"lowest, middle, highest"_s);
+    QCOMPARE(wide.decodeCSV(u"highest,lowest"_s), WideEnum(Q_INT64_C(0x4000000000000001)));
+    QVERIFY(Wide(WIDE_MIDDLE).hasExactlyOneBit());
+    QVERIFY(Wide(WIDE_HIGHEST).hasExactlyOneBit());
+    QCOMPARE(Wide(WIDE_HIGHEST).encode(), u"highest"_s);
+    QVERIFY(Wide(WIDE_HIGHEST).isValid());
+    QVERIFY(!Wide(WIDE_HIGHEST).isNull());
+    QVERIFY(wide.matches(WIDE_HIGHEST));
+    QVERIFY(!Wide(WIDE_LOWEST).matches(WIDE_HIGHEST));
+    QVERIFY(!Wide(WIDE_LOWEST).containsAll(WIDE_LOWEST | WIDE_HIGHEST));
+    QVERIFY(Wide(WIDE_MIDDLE) < Wide(WIDE_HIGHEST));
+    QVERIFY(Wide(WIDE_LOWEST) < Wide(WIDE_MIDDLE));
+    QVERIFY(Wide(WIDE_HIGHEST) != Wide(WideEnum(0)));
+    QVERIFY(Wide(WIDE_HIGHEST) != WideEnum(0));
+    Wide changed = wide;
+    changed.exclude(WIDE_MIDDLE);
+    QCOMPARE(changed.value(), WideEnum(Q_INT64_C(0x4000000000000001)));
+    changed.toggleBits(wide);
+    QCOMPARE(changed.value(), WIDE_MIDDLE);
+    changed |= Wide(WIDE_HIGHEST);
+    QCOMPARE(changed.value(), WideEnum(Q_INT64_C(0x4000000080000000)));
+}
+
 void tst_RVEnumWrapper::copies()
 {
     Finish first = finish(3);
@@ -442,6 +540,21 @@ void tst_RVEnumWrapper::copies()
     QCOMPARE(int(copy.value()), 3);
     const Finish moved = std::move(first);
     QCOMPARE(int(moved.value()), 7);
+}
+
+void tst_RVEnumWrapper::assigns()
+{
+    const Finish source = finish(3);
+    Finish target = finish(8);
+    target = source;
+    QCOMPARE(int(target.value()), 3);
+    target.exclude(FINISH_MATT);
+    QCOMPARE(int(source.value()), 3);
+    target = finish(10);
+    QCOMPARE(int(target.value()), 10);
+    const Finish &self = target;
+    target = self;
+    QCOMPARE(int(target.value()), 10);
 }
 
 QTEST_APPLESS_MAIN(tst_RVEnumWrapper)

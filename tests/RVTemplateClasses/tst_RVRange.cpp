@@ -28,6 +28,21 @@ public:
     bool contains(const int &value) const override { return value % 2 == 0 && Range::contains(value); }
 };
 
+/// Notes which values it was asked for.
+class WatchedRange : public Range
+{
+public:
+    using Range::contains;
+    using Range::Range;
+    bool contains(const int &value) const override
+    {
+        asked += value;
+        return Range::contains(value);
+    }
+
+    mutable QList<int> asked;
+};
+
 }
 
 class tst_RVRange : public QObject
@@ -54,6 +69,7 @@ private Q_SLOTS:
     void orders_data();
     void orders();
     void compositesCallTheVirtuals();
+    void compositesAskInOrder();
     void slotOrder();
 };
 
@@ -142,6 +158,7 @@ void tst_RVRange::intersections_data()
     QTest::newRow("around") << QList<int> { 1, 9 } << QList<int> { 3, 4 } << true;
     QTest::newRow("equal") << QList<int> { 1, 9 } << QList<int> { 1, 9 } << true;
     QTest::newRow("invalid around a bound") << QList<int> { 1, 9 } << QList<int> { 20, 5 } << true;
+    QTest::newRow("invalid, lower bound inside") << QList<int> { 1, 9 } << QList<int> { 5, 0 } << true;
     QTest::newRow("invalid outside") << QList<int> { 1, 9 } << QList<int> { 20, 15 } << false;
 }
 
@@ -186,6 +203,8 @@ void tst_RVRange::expands_data()
     QTest::newRow("not yet set, zero") << 0 << 0 << 0 << QList<int> { 0, 0 };
     QTest::newRow("downward") << 0 << 4 << -2 << QList<int> { -2, 4 };
     QTest::newRow("upward") << -4 << 0 << 3 << QList<int> { -4, 3 };
+    QTest::newRow("one value, upward") << 3 << 3 << 5 << QList<int> { 3, 5 };
+    QTest::newRow("one value, downward") << 3 << 3 << 1 << QList<int> { 1, 3 };
     QTest::newRow("inside") << 1 << 5 << 3 << QList<int> { 1, 5 };
     QTest::newRow("lower bound") << 1 << 5 << 1 << QList<int> { 1, 5 };
     QTest::newRow("upper bound") << 1 << 5 << 5 << QList<int> { 1, 5 };
@@ -260,9 +279,30 @@ void tst_RVRange::compositesCallTheVirtuals()
     QVERIFY(!even.contains(Range(3, 6)));
     QVERIFY(!even.intersects(Range(3, 7)));
     QVERIFY(even.intersects(Range(3, 6)));
-    QVERIFY(!Range(3, 7).intersects(EvenRange(9, 1)));
+    QVERIFY(!Range(3, 7).intersects(EvenRange(1, 9)));
+    QVERIFY(Range(3, 8).intersects(EvenRange(1, 9)));
     QVERIFY(EvenRange(5, 4) < Range(6, 7));
     QVERIFY(!(Range(6, 7) < EvenRange(5, 4)));
+}
+
+void tst_RVRange::compositesAskInOrder()
+{
+    const WatchedRange outside(3, 5);
+    QVERIFY(!outside.contains(Range(6, 4)));
+    QCOMPARE(outside.asked, (QList<int> { 6 }));
+    const WatchedRange around(3, 5);
+    QVERIFY(around.contains(Range(4, 5)));
+    QCOMPARE(around.asked, (QList<int> { 4, 5 }));
+
+    const WatchedRange first(1, 2);
+    const WatchedRange second(8, 9);
+    QVERIFY(!first.intersects(second));
+    QCOMPARE(first.asked, (QList<int> { 8, 9 }));
+    QCOMPARE(second.asked, (QList<int> { 1, 2 }));
+    const WatchedRange wide(0, 9);
+    QVERIFY(wide.intersects(second));
+    QCOMPARE(wide.asked, (QList<int> { 8 }));
+    QCOMPARE(second.asked, (QList<int> { 1, 2 }));
 }
 
 // Applications were compiled against this order.

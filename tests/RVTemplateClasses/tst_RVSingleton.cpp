@@ -3,7 +3,9 @@
 #include <QTest>
 
 #include <atomic>
+#include <cstdlib>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -36,6 +38,48 @@ public:
     static inline std::atomic<int> destructions { 0 };
 };
 
+/// Made before the first instance, so it goes after all that is destroyed when the process ends.
+struct LastOne
+{
+    ~LastOne()
+    {
+        if (Counted::destructions > 0)
+            std::_Exit(EXIT_FAILURE);
+    }
+} lastOne;
+
+/// A class of its own for each N, so that there are many first accesses to meet at.
+template<int N>
+class Raced : public RVSingleton<Raced<N>>
+{
+public:
+    Raced() { ++constructions; }
+
+    static inline std::atomic<int> constructions { 0 };
+};
+
+std::atomic<int> arrivals { 0 };
+
+template<int N>
+void meetAtRaced()
+{
+    ++arrivals;
+    while (arrivals < 2 * (N + 1))
+        std::this_thread::yield();
+    Raced<N>::instance();
+}
+
+template<int... N>
+int constructionsByTwoThreads(std::integer_sequence<int, N...>)
+{
+    const auto meetAtEach = [] { (meetAtRaced<N>(), ...); };
+    std::thread first(meetAtEach);
+    std::thread second(meetAtEach);
+    first.join();
+    second.join();
+    return (Raced<N>::constructions + ...);
+}
+
 }
 
 class tst_RVSingleton : public QObject
@@ -44,6 +88,7 @@ class tst_RVSingleton : public QObject
 
 private Q_SLOTS:
     void oneInstanceForAllThreads();
+    void oneInstanceHoweverOftenThreadsMeet();
     void oneInstancePerClass();
 };
 
@@ -72,6 +117,11 @@ void tst_RVSingleton::oneInstanceForAllThreads()
     QCOMPARE(Counted::constructions.load(), 1);
     QCOMPARE(Counted::setups.load(), 1);
     QCOMPARE(Counted::destructions.load(), 0);
+}
+
+void tst_RVSingleton::oneInstanceHoweverOftenThreadsMeet()
+{
+    QCOMPARE(constructionsByTwoThreads(std::make_integer_sequence<int, 200>()), 200);
 }
 
 void tst_RVSingleton::oneInstancePerClass()
