@@ -24,10 +24,12 @@
 #include <RVProductBase/RVSpaceMagnitude.h>
 #include <RVProductBase/RVSpineConfig.h>
 
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <atomic>
 #include <functional>
+#include <memory>
 #include <thread>
 #include <type_traits>
 #include <vector>
@@ -99,13 +101,26 @@ public:
     }
 };
 
+/// Gives the type "N" the counts 1 to N and asks nobody.
+class IndependentCalculator : public RVPageOrganizationCalculator
+{
+public:
+    RVPageCountOrganization calculate(const RVProductType &type) override
+    {
+        return RVPageCountOrganization(RVIntRange(1, type.toString().toInt()), 1);
+    }
+};
+
 /// Accepts types that end with 0.
 class Checker : public RVProductChecker
 {
 public:
     bool isValid(const RVProductType &type) const override { return type.toString().endsWith(u'0'); }
     RVProductCheckerType checkerTypes() const override { return 1; }
-    bool isValidBoxStyle(const RVProductType &, const RVArticleVariants &) const override { return true; }
+    bool isValidBoxStyle(const RVProductType &type, const RVArticleVariants &) const override
+    {
+        return type.toString().size() == 3;
+    }
 };
 
 }
@@ -122,8 +137,11 @@ private Q_SLOTS:
     void priceClassSets();
     void designPriceClasses();
     void singletons();
+    void platformSettings();
     void pageOrganizations();
+    void managersOfTheirOwn();
     void productCheckers();
+    void boxStyles();
     void sharedValues();
 };
 
@@ -200,6 +218,12 @@ void tst_concurrency::priceClassSets_data()
         { "panoramas", 1, u"WAF3"_s, Set::pxwPanoPagesPriceClasses },
         { "new designs", 2, u"premium_cover_design"_s, Set::pxwNewDesignPriceClasses },
         { "videos", 14, u"MUL55"_s, Set::videoNames },
+        { "frame glasses", 2, u"RUN1"_s, Set::frameGlasses },
+        { "calendar strips", 3, u"NUS3"_s, Set::calendarStrips },
+        { "calendar stands", 1, u"ZUD1"_s, Set::calendarStandPriceClasses },
+        { "wall holder like a frame", 1, u"QO20"_s, Set::wallholderThatActsLikeAFrame },
+        { "inner pages design", 1, u"premium_inner_pages_design"_s, Set::pxwInnerPagesDesignPriceClasses },
+        { "cover design", 1, u"premium_cover_design"_s, Set::pxwCoverDesignPriceClasses },
         { "page increments", 2, u"KEMI62"_s, Set::pageIncrements },
     };
     for (const SetCase &each : cases)
@@ -245,29 +269,109 @@ void tst_concurrency::singletons()
     QVERIFY(check(RVDirectoryConfig::instance));
 }
 
-// All ask, one empties the cache in between, and all go on reading what they were given.
+// What is set on one thread is seen whole on the others: all of the sizes, or none.
+void tst_concurrency::platformSettings()
+{
+    RVFontSizeManager *sizes = RVFontSizeManager::instance();
+    RVDirectoryConfig *directories = RVDirectoryConfig::instance();
+    const QTemporaryDir folder;
+    QVERIFY(QFile(folder.filePath(u"mask.png"_s)).open(QFile::WriteOnly));
+    const QList<int> before = sizes->defaultFontSizes();
+    sizes->setDefaultFontSizes({ 8, 10 });
+    std::atomic<int> number { 0 };
+    const auto setAndAsk = [&] {
+        const bool sets = number++ % 2 == 0;
+        int right = 0;
+        for (int i = 0; i < 200; ++i) {
+            if (sets) {
+                sizes->setDefaultFontSizes(i % 2 == 0 ? QList<int> { 36, 72 } : QList<int> { 10, 8 });
+                directories->addSearchDirectory(folder.path());
+            }
+            const QList<int> read = sizes->defaultFontSizes();
+            const QString found = directories->resource(u"mask.png"_s, false);
+            right += (read == QList<int> { 36, 72 } || read == QList<int> { 8, 10 })
+                    && (found == u"mask.png"_s || found == folder.filePath(u"mask.png"_s));
+        }
+        return right;
+    };
+    const bool allRight = allGet(setAndAsk, 200);
+    sizes->setDefaultFontSizes(before);
+    QVERIFY(allRight);
+}
+
+// Six threads ask, and the calculator asks in turn. One empties the cache all the while, one goes on reading what it
+// was given before.
 void tst_concurrency::pageOrganizations()
 {
     RVPageOrganizationManager *manager = RVPageOrganizationManager::instance();
     manager->setCalculator(new Calculator);
+    constexpr int COUNTS = 100;
     std::atomic<int> number { 0 };
-    const auto ask = [&] {
-        const bool clears = number++ % THREADS == 0;
-        std::vector<const RVPageCountOrganization *> kept;
-        int right = 0;
-        for (int pages = 1; pages <= 100; ++pages) {
-            if (clears && pages % 10 == 0)
+    std::atomic<int> asking { 0 };
+    const auto work = [&] {
+        const int role = number++ % THREADS;
+        if (role == 0) {
+            do {
                 manager->clearCache();
-            kept.push_back(manager->organization(QString::number(pages)));
-            right += manager->pageCountOrganzation(QString::number(pages)).maxPages() == pages;
+                std::this_thread::yield();
+            } while (asking > 0);
+            return COUNTS;
         }
-        for (std::size_t i = 0; i < kept.size(); ++i)
-            right += kept[i]->maxPages() == int(i) + 1;
+        if (role == 1) {
+            std::vector<const RVPageCountOrganization *> kept;
+            for (int pages = 1; pages <= COUNTS; ++pages)
+                kept.push_back(manager->organization(QString::number(pages)));
+            int right = COUNTS;
+            do {
+                for (int i = 0; i < COUNTS; ++i)
+                    right -= kept[i]->maxPages() != i + 1;
+                std::this_thread::yield();
+            } while (asking > 0);
+            return right;
+        }
+        int right = 0;
+        for (int pages = 1; pages <= COUNTS; ++pages) {
+            const RVProductType type = QString::number(pages);
+            const int found = manager->organization(type)->maxPages();
+            right += found == pages && manager->pageCountOrganzation(type).maxPages() == pages;
+        }
+        --asking;
         return right;
     };
-    for (int round = 0; round < 5; ++round)
-        QVERIFY(allGet(ask, 200));
+    for (int round = 0; round < 10; ++round) {
+        asking = THREADS - 2;
+        QVERIFY(allGet(work, COUNTS));
+    }
+    // A calculator that is replaced while others ask is deleted by nobody who still needs it.
+    const auto replace = [&] {
+        const bool replaces = number++ % THREADS == 0;
+        int right = 0;
+        for (int pages = 1; pages <= COUNTS; ++pages) {
+            if (replaces)
+                manager->setCalculator(new Calculator);
+            const std::unique_ptr<RVPageCountOrganization> created(
+                    manager->createPageOrganization(QString::number(pages)));
+            right += created->maxPages() == pages
+                    && manager->pageCountOrganzation(QString::number(pages)).maxPages() == pages;
+        }
+        return right;
+    };
+    QVERIFY(allGet(replace, COUNTS));
     manager->setCalculator(nullptr);
+}
+
+// Managers beside the process's one are independent, but what they hand out is kept in one place.
+void tst_concurrency::managersOfTheirOwn()
+{
+    const auto ask = [] {
+        RVPageOrganizationManager manager;
+        manager.setCalculator(new IndependentCalculator);
+        int right = 0;
+        for (int pages = 1; pages <= 100; ++pages)
+            right += manager.organization(QString::number(pages))->maxPages() == pages;
+        return right;
+    };
+    QVERIFY(allGet(ask, 100));
 }
 
 void tst_concurrency::productCheckers()
@@ -285,6 +389,23 @@ void tst_concurrency::productCheckers()
         QVERIFY(allGet(ask, 20));
         registry->clearCaches();
     }
+    registry->unregisterChecker(&checker);
+}
+
+// Box styles are neither cached nor locked: whoever asks gets the checkers' own answer.
+void tst_concurrency::boxStyles()
+{
+    RVProductCheckerRegistry *registry = RVProductCheckerRegistry::instance();
+    Checker checker;
+    registry->registerChecker(&checker);
+    const RVArticleVariants wood(u"boxstyle:wood"_s);
+    const auto ask = [&] {
+        int accepted = 0;
+        for (int i = 1; i <= 200; ++i)
+            accepted += registry->isValidBoxStyle(QString::number(i), wood, 1);
+        return accepted;
+    };
+    QVERIFY(allGet(ask, 101)); // 100 to 200
     registry->unregisterChecker(&checker);
 }
 

@@ -1,0 +1,76 @@
+// Tells ThreadSanitizer of the locks that Debian's Qt takes inside its own, uninstrumented library.
+//
+// QMutex reports itself from its header. QRecursiveMutex and QReadWriteLock do their work in libQt6Core, so without
+// this file everything that they guard looks like a race, and a lock that is missing looks like all the others. A
+// program that links this file calls Qt's own functions through the ones below. Nothing has to be suppressed, and a
+// lock that is taken out is found.
+#include <QReadWriteLock>
+#include <QRecursiveMutex>
+
+#include <dlfcn.h>
+#include <sanitizer/tsan_interface.h>
+
+/// QtTest watches the time of each test from a thread of its own and waits for its end by a QWaitCondition, which is
+/// Qt's own lock between Qt's own threads. None of our code runs under either name.
+extern "C" Q_DECL_EXPORT const char *__tsan_default_suppressions()
+{
+    return "race:^QWaitCondition::\n"
+           "called_from_lib:libQt6Test.so\n";
+}
+
+namespace {
+
+template<typename Function>
+Function nextFunction(const char *symbol)
+{
+    return reinterpret_cast<Function>(dlsym(RTLD_NEXT, symbol));
+}
+
+/// A lock for writing has one owner, and our threads hold no two of them.
+thread_local const QReadWriteLock *theWrittenLock = nullptr;
+
+}
+
+bool QRecursiveMutex::tryLock(int timeout)
+{
+    static const auto next = nextFunction<bool (*)(QRecursiveMutex *, int)>("_ZN15QRecursiveMutex7tryLockEi");
+    const bool locked = next(this, timeout);
+    if (locked)
+        __tsan_acquire(this);
+    return locked;
+}
+
+void QRecursiveMutex::unlock() noexcept
+{
+    static const auto next = nextFunction<void (*)(QRecursiveMutex *)>("_ZN15QRecursiveMutex6unlockEv");
+    __tsan_release(this);
+    next(this);
+}
+
+void QReadWriteLock::lockForRead()
+{
+    static const auto next = nextFunction<void (*)(QReadWriteLock *)>("_ZN14QReadWriteLock11lockForReadEv");
+    __tsan_mutex_pre_lock(this, __tsan_mutex_read_lock);
+    next(this);
+    __tsan_mutex_post_lock(this, __tsan_mutex_read_lock, 0);
+}
+
+void QReadWriteLock::lockForWrite()
+{
+    static const auto next = nextFunction<void (*)(QReadWriteLock *)>("_ZN14QReadWriteLock12lockForWriteEv");
+    __tsan_mutex_pre_lock(this, 0);
+    next(this);
+    __tsan_mutex_post_lock(this, 0, 0);
+    theWrittenLock = this;
+}
+
+void QReadWriteLock::unlock()
+{
+    static const auto next = nextFunction<void (*)(QReadWriteLock *)>("_ZN14QReadWriteLock6unlockEv");
+    const unsigned flags = theWrittenLock == this ? 0 : __tsan_mutex_read_lock;
+    if (theWrittenLock == this)
+        theWrittenLock = nullptr;
+    __tsan_mutex_pre_unlock(this, flags);
+    next(this);
+    __tsan_mutex_post_unlock(this, flags);
+}
