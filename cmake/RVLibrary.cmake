@@ -18,6 +18,8 @@ function(rv_add_shared_library name)
     )
     target_compile_definitions(${name} PRIVATE ${build_macro})
     target_compile_features(${name} PUBLIC cxx_std_17)
+    target_link_options(${name} PRIVATE LINKER:--version-script=${PROJECT_SOURCE_DIR}/cmake/local_symbols.map)
+    set_property(TARGET ${name} APPEND PROPERTY LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/local_symbols.map)
     rv_install_library(${name} PUBLIC ${arg_HEADERS})
 endfunction()
 

@@ -1,3 +1,5 @@
+#include "VirtualSlot.h"
+
 #include <RVTemplateClasses/RVEnumWrapper.h>
 
 #include <QTest>
@@ -471,35 +473,28 @@ void tst_RVEnumWrapper::slotOrder()
 {
     using W = RVEnumWrapper<FinishEnum>;
     using E = FinishEnum;
-    // The offset in the table of virtual functions, as a pointer to a member function holds it: 1 + 8 * slot.
-    const auto slot = [](auto member) {
-        std::ptrdiff_t words[2];
-        static_assert(sizeof(words) == sizeof(member));
-        memcpy(words, &member, sizeof(member));
-        return int(words[0] - 1) / int(sizeof(void *));
-    };
     int next = 2; // behind the two destructors
-    QCOMPARE(slot(static_cast<bool (W::*)(const W &) const>(&W::operator<)), next++);
-    QCOMPARE(slot(static_cast<bool (W::*)(const W &) const>(&W::operator<=)), next++);
-    QCOMPARE(slot(static_cast<bool (W::*)(const W &) const>(&W::operator>)), next++);
-    QCOMPARE(slot(static_cast<bool (W::*)(const W &) const>(&W::operator==)), next++);
-    QCOMPARE(slot(static_cast<bool (W::*)(E) const>(&W::operator==)), next++);
-    QCOMPARE(slot(static_cast<bool (W::*)(const W &) const>(&W::operator!=)), next++);
-    QCOMPARE(slot(static_cast<bool (W::*)(E) const>(&W::operator!=)), next++);
-    QCOMPARE(slot(static_cast<W &(W::*)(const W &)>(&W::operator|=)), next++);
-    QCOMPARE(slot(static_cast<W &(W::*)(E)>(&W::operator|=)), next++);
-    QCOMPARE(slot(static_cast<W &(W::*)(const W &)>(&W::operator&=)), next++);
-    QCOMPARE(slot(static_cast<W &(W::*)(E)>(&W::operator&=)), next++);
-    QCOMPARE(slot(static_cast<E (W::*)(const W &) const>(&W::operator&)), next++);
-    QCOMPARE(slot(static_cast<E (W::*)(const W &) const>(&W::operator|)), next++);
-    QCOMPARE(slot(static_cast<W &(W::*)(const W &)>(&W::exclude)), next++);
-    QCOMPARE(slot(static_cast<W &(W::*)(E)>(&W::exclude)), next++);
-    QCOMPARE(slot(static_cast<W &(W::*)(const W &)>(&W::expandTo)), next++);
-    QCOMPARE(slot(static_cast<W &(W::*)(E)>(&W::expandTo)), next++);
-    QCOMPARE(slot(&W::reduceTo), next++);
-    QCOMPARE(slot(&W::reducedTo), next++);
-    QCOMPARE(slot(&W::isValid), next++);
-    QCOMPARE(slot(&W::fillTable), next++);
+    QCOMPARE(virtualSlot(static_cast<bool (W::*)(const W &) const>(&W::operator<)), next++);
+    QCOMPARE(virtualSlot(static_cast<bool (W::*)(const W &) const>(&W::operator<=)), next++);
+    QCOMPARE(virtualSlot(static_cast<bool (W::*)(const W &) const>(&W::operator>)), next++);
+    QCOMPARE(virtualSlot(static_cast<bool (W::*)(const W &) const>(&W::operator==)), next++);
+    QCOMPARE(virtualSlot(static_cast<bool (W::*)(E) const>(&W::operator==)), next++);
+    QCOMPARE(virtualSlot(static_cast<bool (W::*)(const W &) const>(&W::operator!=)), next++);
+    QCOMPARE(virtualSlot(static_cast<bool (W::*)(E) const>(&W::operator!=)), next++);
+    QCOMPARE(virtualSlot(static_cast<W &(W::*)(const W &)>(&W::operator|=)), next++);
+    QCOMPARE(virtualSlot(static_cast<W &(W::*)(E)>(&W::operator|=)), next++);
+    QCOMPARE(virtualSlot(static_cast<W &(W::*)(const W &)>(&W::operator&=)), next++);
+    QCOMPARE(virtualSlot(static_cast<W &(W::*)(E)>(&W::operator&=)), next++);
+    QCOMPARE(virtualSlot(static_cast<E (W::*)(const W &) const>(&W::operator&)), next++);
+    QCOMPARE(virtualSlot(static_cast<E (W::*)(const W &) const>(&W::operator|)), next++);
+    QCOMPARE(virtualSlot(static_cast<W &(W::*)(const W &)>(&W::exclude)), next++);
+    QCOMPARE(virtualSlot(static_cast<W &(W::*)(E)>(&W::exclude)), next++);
+    QCOMPARE(virtualSlot(static_cast<W &(W::*)(const W &)>(&W::expandTo)), next++);
+    QCOMPARE(virtualSlot(static_cast<W &(W::*)(E)>(&W::expandTo)), next++);
+    QCOMPARE(virtualSlot(&W::reduceTo), next++);
+    QCOMPARE(virtualSlot(&W::reducedTo), next++);
+    QCOMPARE(virtualSlot(&W::isValid), next++);
+    QCOMPARE(virtualSlot(&W::fillTable), next++);
     QCOMPARE(sizeof(W), 2 * sizeof(void *));
 }
 
