@@ -25,7 +25,8 @@ endfunction()
 
 # rv_install_library(RVName PUBLIC|INTERFACE HEADERS...)
 # Headers are included as <RVName/Header.h> and as "Header.h", in the tree and installed. The CMake package RVName
-# finds what RVNameConfig.cmake.in names.
+# finds what RVNameConfig.cmake.in names. What programs run with is the install component RVName, what they are built
+# with is RVNameDevelopment.
 function(rv_install_library name scope)
     target_sources(${name} ${scope}
         FILE_SET HEADERS
@@ -38,15 +39,16 @@ function(rv_install_library name scope)
     )
 
     set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/${name})
+    set(development ${name}Development)
     install(TARGETS ${name}
         EXPORT ${name}Targets
-        COMPONENT ${name}
-        FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT ${name}
+        LIBRARY COMPONENT ${name} NAMELINK_COMPONENT ${development}
+        FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT ${development}
     )
     install(EXPORT ${name}Targets
         NAMESPACE RV::
         DESTINATION ${package_dir}
-        COMPONENT ${name}
+        COMPONENT ${development}
     )
     configure_package_config_file(${name}Config.cmake.in ${CMAKE_CURRENT_BINARY_DIR}/${name}Config.cmake
         INSTALL_DESTINATION ${package_dir}
@@ -59,6 +61,6 @@ function(rv_install_library name scope)
             ${CMAKE_CURRENT_BINARY_DIR}/${name}Config.cmake
             ${CMAKE_CURRENT_BINARY_DIR}/${name}ConfigVersion.cmake
         DESTINATION ${package_dir}
-        COMPONENT ${name}
+        COMPONENT ${development}
     )
 endfunction()

@@ -1,0 +1,58 @@
+# Debian packages, made by CPack: the libraries with their translations, what programs are built with, and each program.
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_VENDOR RVProductBase)
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "vocabulary of a print-product ordering application")
+set(CPACK_PACKAGE_CONTACT "RVProductBase developers <rvproductbase@localhost>")
+set(CPACK_PACKAGING_INSTALL_PREFIX ${CMAKE_INSTALL_PREFIX})
+set(CPACK_PACKAGE_CHECKSUM SHA256)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_COMPONENTS_GROUPING ONE_PER_GROUP)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS
+    ${PROJECT_BINARY_DIR}/libs/RVCore ${PROJECT_BINARY_DIR}/libs/RVXML ${PROJECT_BINARY_DIR}/libs/RVProductBase
+)
+
+set(same_version "(= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")
+set(library librvproductbase${PROJECT_VERSION_MAJOR})
+
+set(vocabulary "Value classes for what photo books, calendars, cards, posters, canvas, prints and gifts
+are made of, what orders and prices are built from and what page layout needs.")
+
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME ${library})
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_LIBRARY_DESCRIPTION "${vocabulary}
+.
+This package contains the shared libraries and the German and English display texts.")
+foreach(name RVCore RVXML RVProductBase)
+    list(APPEND shlibs "lib${name} ${PROJECT_VERSION_MAJOR} ${library} (>= ${PROJECT_VERSION})\n")
+endforeach()
+file(WRITE ${PROJECT_BINARY_DIR}/debian/shlibs ${shlibs})
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA ${PROJECT_BINARY_DIR}/debian/shlibs)
+
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME librvproductbase-dev)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${library} ${same_version}, qt6-base-dev (>= 6.4)")
+set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "${vocabulary}
+.
+This package contains the headers, the CMake packages and the pkg-config file.")
+
+set(CPACK_DEBIAN_RVCATALOG_PACKAGE_NAME rvcatalog)
+set(CPACK_DEBIAN_RVCATALOG_PACKAGE_SECTION utils)
+set(CPACK_DEBIAN_RVCATALOG_PACKAGE_DEPENDS "${library} ${same_version}")
+set(CPACK_DEBIAN_RVCATALOG_DESCRIPTION "The program lists the products of a catalogue with page counts, spine widths and
+options, explains keywords, and checks the order line of a project against the catalogue.")
+
+include(CPack)
+foreach(component RVCore RVXML RVProductBase)
+    cpack_add_component(${component} GROUP library)
+endforeach()
+foreach(component RVTemplateClasses RVCore RVXML RVProductBase)
+    cpack_add_component(${component}Development GROUP development)
+endforeach()
+cpack_add_component(rvcatalog GROUP rvcatalog)

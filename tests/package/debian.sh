@@ -1,0 +1,88 @@
+#!/usr/bin/env bash
+# debian.sh CMAKE SOURCES WORK OPTIONS...: makes the Debian packages, unpacks them into a scratch root and builds the
+# consumer against that, once by find_package and once by pkg-config alone.
+set -euo pipefail
+cmake=$1 sources=$2 work=$3
+shift 3
+build=$work/build root=$work/root
+version=0.1.0-1
+
+fail() {
+    echo "$*"
+    exit 1
+}
+
+field() { dpkg-deb --field "$work"/packages/"$1"_*.deb "$2"; }
+
+# depends PACKAGE PATTERN: the package names what it cannot be without.
+depends() { field "$1" Depends | tr ',' '\n' | grep -qE "^ *$2" || fail "$1 does not depend on $2: $(field "$1" Depends)"; }
+
+# holds PACKAGE PATTERN...: the package has a file or link for each pattern; what else it has is not its business.
+holds() {
+    local package=$1 pattern listing
+    listing=$(dpkg-deb --contents "$work"/packages/"$package"_*.deb | awk '{ print $6 }')
+    for pattern in "${@:2}"; do
+        grep -qE "^\./usr/$pattern\$" <<<"$listing" || fail "$package has no file $pattern"
+    done
+    listing=$(grep -v '/$' <<<"$listing")
+    for pattern in "${@:2}"; do
+        listing=$(grep -vE "^\./usr/$pattern\$" <<<"$listing" || true)
+    done
+    [[ ! $listing ]] || fail "$package should not have: $listing"
+}
+
+rm -rf "$work"
+mkdir -p "$root"
+"$cmake" -S "$sources" -B "$build" -DBUILD_TESTING=OFF -DCMAKE_INSTALL_PREFIX=/usr "$@"
+"$cmake" --build "$build"
+"$(dirname "$cmake")/cpack" --config "$build/CPackConfig.cmake" -B "$work/packages"
+
+lib='lib/[a-z0-9_]+-linux-gnu'
+holds librvproductbase0 \
+    "$lib"/lib'RV(Core|XML|ProductBase)\.so\.0(\.1\.0)?' 'share/RVProductBase/translations/rvproductbase_(de|en)\.qm'
+holds librvproductbase-dev \
+    "$lib"/lib'RV(Core|XML|ProductBase)\.so' "$lib"/cmake/'RV(TemplateClasses|Core|XML|ProductBase)/RV.*\.cmake' \
+    "$lib"/pkgconfig/RVProductBase.pc 'include/RV(TemplateClasses|Core|XML|ProductBase)/RV[A-Za-z]+\.h'
+holds rvcatalog \
+    bin/rvcatalog share/man/man1/rvcatalog.1.gz share/doc/rvcatalog/catalogue-format.md \
+    'share/doc/rvcatalog/examples/(products|project)\.xml'
+
+for package in librvproductbase0 librvproductbase-dev rvcatalog; do
+    [[ $(field "$package" Version) == "$version" ]] || fail "$package has version $(field "$package" Version)"
+    dpkg-deb --extract "$work"/packages/"$package"_*.deb "$root"
+done
+depends librvproductbase0 'libqt6core6 '
+depends librvproductbase0 'libqt6gui6 '
+depends librvproductbase0 'libqt6xml6 '
+depends librvproductbase-dev "librvproductbase0 \(= $version\)"
+depends librvproductbase-dev 'qt6-base-dev '
+depends rvcatalog "librvproductbase0 \(= $version\)"
+depends rvcatalog 'libqt6core6 '
+dpkg-deb --control "$work"/packages/librvproductbase0_*.deb "$work/control"
+grep -q ldconfig "$work"/control/postinst || fail "the linker is not told of the new libraries"
+for library in libRVCore libRVXML libRVProductBase; do
+    grep -qxF "$library 0 librvproductbase0 (>= 0.1.0)" "$work"/control/shlibs ||
+        fail "packages built against $library cannot find out what they depend on"
+done
+
+libdir=$(dirname "$root"/usr/lib/*/libRVProductBase.so)
+export LD_LIBRARY_PATH=$libdir
+if readelf -d "$root/usr/bin/rvcatalog" "$libdir/libRVProductBase.so" | grep -E 'RPATH|RUNPATH'; then
+    fail "a packaged file searches for libraries where the system does not"
+fi
+"$root/usr/bin/rvcatalog" show "$root/usr/share/doc/rvcatalog/examples/products.xml" | grep '^DUN9 '
+
+man_page=$(gzip --decompress --stdout "$root/usr/share/man/man1/rvcatalog.1.gz")
+for command in $("$root/usr/bin/rvcatalog" 2>&1 | sed -n 's/^  \([a-z]\+\) .*/\1/p'); do
+    grep -qE "^\.It Cm $command\$" <<<"$man_page" || fail "the man page does not explain: rvcatalog $command"
+    for option in $("$root/usr/bin/rvcatalog" "$command" --help | grep -oE -- '--[a-z]+'); do
+        grep -qE -- "-${option#--}" <<<"$man_page" || fail "the man page does not explain: rvcatalog $command $option"
+    done
+done
+
+"$cmake" -S "$sources/examples/consumer" -B "$work/consumer" "$@" -DCMAKE_PREFIX_PATH="$root/usr"
+"$cmake" --build "$work/consumer"
+ldd "$work/consumer/consumer" | grep -F "libRVProductBase.so.0 => $libdir/"
+"$work/consumer/consumer"
+bash "$(dirname "${BASH_SOURCE[0]}")/pkgconfig.sh" \
+    "${CXX:-c++}" "${CXXFLAGS:-}" "$libdir" "$sources/examples/consumer/main.cpp" "$work/pkgconfig_consumer"
