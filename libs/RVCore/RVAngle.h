@@ -4,9 +4,11 @@
 #include <QtGlobal>
 
 /// An angle in degrees. The default is 0, the null angle.
+/// @ingroup platform
 class RVAngle
 {
 public:
+    /// @p degrees may be negative or beyond a full turn.
     constexpr RVAngle(qreal degrees = 0) noexcept : myDegrees(degrees) { }
 
     /// True for 0, including what arithmetic left of it: up to 1e-12 degrees to either side.

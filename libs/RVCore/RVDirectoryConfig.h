@@ -12,6 +12,7 @@ class RVDirectoryConfig;
 extern template class RVCORE_EXPORT RVSingleton<RVDirectoryConfig>;
 
 /// Finds the application's resource files. Any thread.
+/// @ingroup platform
 class RVCORE_EXPORT RVDirectoryConfig : public RVSingleton<RVDirectoryConfig>
 {
 public:

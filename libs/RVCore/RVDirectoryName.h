@@ -5,6 +5,7 @@
 
 class QString;
 
+/// What a directory holds. @relates RVDirectoryName
 enum RVDirectoryNameEnum : qint32 {
     DIRECTORY_CLIPARTS = 2,
     DIRECTORY_STYLES = 4,
@@ -16,12 +17,14 @@ enum RVDirectoryNameEnum : qint32 {
 };
 
 /// One of the directories that downloaded design content goes to. 0 is no directory.
+/// @ingroup platform
 class RVCORE_EXPORT RVDirectoryName
 {
 public:
+    /// Any value, also one that has no name.
     constexpr RVDirectoryName(RVDirectoryNameEnum value) noexcept : myValue(value) { }
 
-    constexpr RVDirectoryNameEnum value() const noexcept { return myValue; }
+    constexpr RVDirectoryNameEnum value() const noexcept { return myValue; } ///< What it was made from.
     /// The directory's name, such as "cliparts"; a null text for any other value.
     QString name() const;
 

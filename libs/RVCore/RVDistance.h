@@ -6,10 +6,12 @@
 #include <QtGlobal>
 
 /// A length, stored in tenths of a millimetre. The default is 0. Equality is fuzzy: about 12 digits count.
+/// @ingroup platform
 class RVDistance
 {
 public:
-    constexpr RVDistance() noexcept = default;
+    constexpr RVDistance() noexcept = default; ///< The length 0.
+    /// @p amount of @p unit, by default in tenths of a millimetre.
     constexpr RVDistance(qreal amount, RVDistanceUnit unit = DISTANCE_UNIT_TENTH_MILLIMETRE)
         : myValue(unit.units2Pixels(amount))
     { }
@@ -19,6 +21,8 @@ public:
     /// The length in @p unit; unconverted, with a warning in the message log, where the unit is unknown.
     constexpr qreal value(const RVDistanceUnit &unit) const { return myValue / unit.units2Pixels(1.0); }
 
+    /// Calculates with the lengths, whatever units they were given in.
+    /// @{
     constexpr RVDistance &operator+=(RVDistance other) noexcept
     {
         myValue += other.myValue;
@@ -34,18 +38,26 @@ public:
         myValue *= factor;
         return *this;
     }
+    /// @}
 
+    /// Calculates with the lengths, whatever units they were given in.
+    /// @{
     friend constexpr RVDistance operator+(RVDistance a, RVDistance b) noexcept { return a += b; }
     friend constexpr RVDistance operator-(RVDistance a, RVDistance b) noexcept { return a -= b; }
     friend constexpr RVDistance operator*(RVDistance distance, qreal factor) noexcept { return distance *= factor; }
+    /// @}
     /// Division by 0 gives an infinite length, or NaN for the length 0.
     friend constexpr RVDistance operator/(RVDistance distance, qreal divisor) noexcept
     {
         return RVDistance(distance.myValue / divisor);
     }
 
+    /// Lengths that differ in the 13th digit are equal; 0 equals nothing but 0.
+    /// @{
     friend bool operator==(RVDistance a, RVDistance b) noexcept { return qFuzzyCompare(a.myValue, b.myValue); }
     friend bool operator!=(RVDistance a, RVDistance b) noexcept { return !(a == b); }
+    /// @}
+    /// By the stored length, exactly.
     friend constexpr bool operator<(RVDistance a, RVDistance b) noexcept { return a.myValue < b.myValue; }
 
 private:

@@ -5,6 +5,7 @@
 
 class QString;
 
+/// The units and their codes. @relates RVDistanceUnit
 enum RVDistanceUnitEnum : qint32 {
     DISTANCE_UNIT_TENTH_MILLIMETRE = 1, ///< the base unit
     DISTANCE_UNIT_MILLIMETRE = 2,
@@ -14,16 +15,18 @@ enum RVDistanceUnitEnum : qint32 {
 };
 
 /// A unit of length. Every length is stored in the base unit, a tenth of a millimetre.
+/// @ingroup platform
 class RVCORE_EXPORT RVDistanceUnit
 {
 public:
+    /// One of the known units.
     constexpr RVDistanceUnit(RVDistanceUnitEnum unit) noexcept : myCode(unit) { }
     /// Keeps an unknown code, which converts nothing.
     constexpr RVDistanceUnit(int code) noexcept : myCode(code) { }
     /// From "mm", "cm", "inch" or "in", "pt" or "point", "0.1mm"; any other text is millimetres.
     RVDistanceUnit(const QString &text);
 
-    constexpr int code() const noexcept { return myCode; }
+    constexpr int code() const noexcept { return myCode; } ///< As RVDistanceUnitEnum has it, or the unknown code.
 
     /// @p units of this unit in the base unit. With an unknown code they come back as they are, with a warning in the
     /// message log.

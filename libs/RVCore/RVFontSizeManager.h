@@ -12,6 +12,7 @@ class RVFontSizeManager;
 extern template class RVCORE_EXPORT RVSingleton<RVFontSizeManager>;
 
 /// The font sizes that the editor offers. Any thread.
+/// @ingroup platform
 class RVCORE_EXPORT RVFontSizeManager : public RVSingleton<RVFontSizeManager>
 {
 public:

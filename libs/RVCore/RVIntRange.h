@@ -7,6 +7,7 @@
 extern template class RVCORE_EXPORT RVRange<int>;
 
 /// A closed interval of whole numbers that can be moved and scaled. Bounds stay within the int limits.
+/// @ingroup platform
 class RVCORE_EXPORT RVIntRange : public RVRange<int>
 {
 public:

@@ -7,6 +7,7 @@ class QColor;
 class QString;
 
 /// How a colour is shown in rich text.
+/// @ingroup platform
 class RVCORE_EXPORT RVNamedColor
 {
 public:

@@ -5,9 +5,11 @@
 
 /// A regular expression without pattern options that is compiled when it is built, not on the first match; for
 /// patterns that live as long as the process. Matching is thread-safe.
+/// @ingroup platform
 class RVRegularExpression : public QRegularExpression
 {
 public:
+    /// An invalid pattern matches nothing.
     RVRegularExpression(const QString &pattern) : QRegularExpression(pattern) { optimize(); }
 };
 

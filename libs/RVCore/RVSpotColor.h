@@ -4,21 +4,24 @@
 #include "RVCoreExport.h"
 #include "RVEnumWrapper.h"
 
+/// The values of RVSpotColor, each with the keyword that writes it. @relates RVSpotColor
 enum RVSpotColorEnum : qint32 {
-    SPOT_COLOR_GLOSS = 1,
-    SPOT_COLOR_GOLD = 2,
-    SPOT_COLOR_SILVER = 4,
-    SPOT_COLOR_ROSEGOLD = 8,
-    SPOT_COLOR_SILVER_INK = 16,
+    SPOT_COLOR_GLOSS = 1, ///< "gloss"
+    SPOT_COLOR_GOLD = 2, ///< "gold"
+    SPOT_COLOR_SILVER = 4, ///< "silver"
+    SPOT_COLOR_ROSEGOLD = 8, ///< "rosegold"
+    SPOT_COLOR_SILVER_INK = 16, ///< "silver_ink"
 };
 RV_DECLARE_ENUM_OPERATORS(RVSpotColorEnum)
 
 extern template class RVCORE_EXPORT RVEnumWrapper<RVSpotColorEnum>;
 
 /// The finish that is printed or embossed on a cover in addition to the four process colours. 0 is no finish.
+/// @ingroup attributes
 class RVCORE_EXPORT RVSpotColor : public RVEnumWrapper<RVSpotColorEnum>
 {
 public:
+    /// A value or several combined; none by default.
     RVSpotColor(RVSpotColorEnum value = RVSpotColorEnum(0)) noexcept;
     /// From a keyword list such as "gold, gloss".
     RVSpotColor(const QString &text);

@@ -7,6 +7,7 @@
 #include <QList>
 
 /// Article classes, in the order in which they were given; duplicates stay.
+/// @ingroup articles
 class RVPRODUCTBASE_EXPORT RVArticleClassList : public QList<RVArticleClass>
 {
 public:

@@ -19,6 +19,8 @@ class QJsonObject;
  * gives that finds no number.
  *
  * Read from the products XML, project files and JSON under "id", "art_id" or "article_id"; written under the first two.
+ *
+ * @ingroup articles
  */
 class RVPRODUCTBASE_EXPORT RVArticleId
 {
@@ -27,41 +29,57 @@ public:
     static const QString ARTICLE_ART_ID_KEY; ///< "art_id"
     static const QString ARTICLE_ARTICLE_ID_KEY; ///< "article_id"
 
+    /// Any number, also an invalid one.
     constexpr RVArticleId(int id = 0) noexcept : myId(id) { }
+    /// From a number under @p key, by default "id"; a text is no number.
+    /// @{
     RVArticleId(const QJsonObject &object, const QString &key);
     RVArticleId(const QJsonObject &object);
+    /// @}
+    /// From a decimal number in the attribute.
+    /// @{
     RVArticleId(const QDomElement &element, const QString &attribute);
     RVArticleId(const QDomNamedNodeMap &attributes, const QString &attribute);
+    /// @}
 
+    /// From the attribute "id", "art_id", respectively "article_id".
+    /// @{
     static RVArticleId fromIdAttribute(const QDomElement &element);
     static RVArticleId fromIdAttribute(const QDomNamedNodeMap &attributes);
     static RVArticleId fromArtIdAttribute(const QDomElement &element);
     static RVArticleId fromArtIdAttribute(const QDomNamedNodeMap &attributes);
     static RVArticleId fromArticleIdAttribute(const QDomElement &element);
     static RVArticleId fromArticleIdAttribute(const QDomNamedNodeMap &attributes);
+    /// @}
     /// From "art_id" where that is valid, else from "id".
     static RVArticleId findId(const QDomElement &element);
 
+    /// The number itself, valid or not.
     constexpr int id() const noexcept { return myId; }
     /// True for a number above 0.
     constexpr bool isValid() const noexcept { return myId > 0; }
-    bool isFotoWithoutVariableLength() const noexcept;
-    bool isAdventCalendarWithDoorBackPrint() const noexcept;
-    bool isCardWithInsertedFoto() const noexcept;
+    bool isFotoWithoutVariableLength() const noexcept; ///< 7101 to 7103
+    bool isAdventCalendarWithDoorBackPrint() const noexcept; ///< 5210, 5211, 5420, 5421
+    bool isCardWithInsertedFoto() const noexcept; ///< 5880
 
-    /// "id".
+    /// "id", the name under which most documents keep the number.
     static QString defaultKey();
 
-    QString toString() const;
+    QString toString() const; ///< In decimal.
+    /// Sets the attribute @p name, "id", respectively "art_id".
+    /// @{
     void toAttribute(QDomElement &element, const QString &name) const;
     void toIdAttribute(QDomElement &element) const;
     void toArtIdAttribute(QDomElement &element) const;
+    /// @}
     /// Appends a child element that carries the number under "id", and returns it.
     QDomElement createSubElement(QDomElement &parent, const QString &name) const;
-    void toJSON(QJsonObject &object) const;
+    void toJSON(QJsonObject &object) const; ///< Sets "id" to the number.
     /// Writes toString(): the article is on the left, the stream on the right. The library never reads it back.
     QDataStream &operator<<(QDataStream &stream) const;
 
+    /// By number.
+    /// @{
     friend constexpr bool operator==(RVArticleId a, RVArticleId b) noexcept { return a.myId == b.myId; }
     friend constexpr bool operator==(RVArticleId a, int b) noexcept { return a.myId == b; }
     friend constexpr bool operator!=(RVArticleId a, RVArticleId b) noexcept { return a.myId != b.myId; }
@@ -70,6 +88,7 @@ public:
     friend constexpr bool operator>(RVArticleId a, RVArticleId b) noexcept { return a.myId > b.myId; }
     friend constexpr bool operator<=(RVArticleId a, RVArticleId b) noexcept { return a.myId <= b.myId; }
     friend constexpr bool operator>=(RVArticleId a, RVArticleId b) noexcept { return a.myId >= b.myId; }
+    /// @}
 
 private:
     int myId;
@@ -77,11 +96,13 @@ private:
 
 Q_DECLARE_TYPEINFO(RVArticleId, Q_RELOCATABLE_TYPE);
 
+/// By number. @relates RVArticleId
 inline std::size_t qHash(const RVArticleId &articleId, std::size_t seed = 0) noexcept
 {
     return qHash(articleId.id(), seed);
 }
 
+/// Prints the number as a quoted text. @relates RVArticleId
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVArticleId &articleId);
 
 #endif

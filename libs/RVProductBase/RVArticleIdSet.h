@@ -7,10 +7,13 @@
 #include <QSet>
 
 /// A set of articles.
+/// @ingroup articles
 class RVPRODUCTBASE_EXPORT RVArticleIdSet : public QSet<RVArticleId>
 {
 public:
+    /// The empty set.
     RVArticleIdSet() = default;
+    /// Shares the data of @p ids.
     RVArticleIdSet(const QSet<RVArticleId> &ids);
     RVArticleIdSet(const RVArticleIdSet &) = default;
     RVArticleIdSet(RVArticleIdSet &&) = default;

@@ -20,10 +20,13 @@ class QJsonArray;
  * A composite option has several keys joined with ";" and as many values: {"a;b" = "x;y"}. toXTCI() and toOrderTxt()
  * expand it, everything else treats it as one option. The options have no order: values(), toKTX() and toOrderTxt()
  * follow the hash.
+ *
+ * @ingroup articles
  */
 class RVPRODUCTBASE_EXPORT RVArticleVariants
 {
 public:
+    /// No option.
     RVArticleVariants() = default;
     /// One option; none where key or value is empty.
     RVArticleVariants(const QString &key, const QString &value);
@@ -47,14 +50,14 @@ public:
     /// {"variant" = "confetti"}
     static RVArticleVariants confettiPXWGiftBox();
 
-    static QString coverColorKeyName();
-    static QString coverFotoKeyName();
-    static QString pictureBoxKeyName();
-    static QString flyLeafKeyColorName();
-    static QString pxwGiftBoxColorKeyName();
-    static QString blackPXWGiftBoxValue();
-    static QString cutoutKeyName();
-    static QString pxwGiftBoxKeyName();
+    static QString coverColorKeyName(); ///< "alcolor"
+    static QString coverFotoKeyName(); ///< "coverphoto"
+    static QString pictureBoxKeyName(); ///< "boxstyle"
+    static QString flyLeafKeyColorName(); ///< "flyleafcolor"
+    static QString pxwGiftBoxColorKeyName(); ///< "giftboxcolor"
+    static QString blackPXWGiftBoxValue(); ///< "black"
+    static QString cutoutKeyName(); ///< "cutout"
+    static QString pxwGiftBoxKeyName(); ///< "variant"
 
     /// The value of the key, @p defaultValue where the key is absent.
     QString value(const QString &key, const QString &defaultValue = {}) const;
@@ -63,9 +66,11 @@ public:
     /// All values, in no particular order.
     QStringList values() const;
     /// True when there is an option for the cover colour, the fly-leaf colour, the cut-out, whatever its value.
+    /// @{
     bool hasCoverColor() const;
     bool hasFlyLeafColor() const;
     bool hasCutOut() const;
+    /// @}
     /// True when there is at least one option.
     bool isValid() const;
     /// True when some value is "notAccountable", which marks an option that is not charged for.
@@ -92,8 +97,11 @@ public:
     /// The order-text form, such as "a:x;b:y": composite options come out as single ones.
     QString toOrderTxt() const;
 
+    /// By keys and values; letter case counts.
+    /// @{
     bool operator==(const RVArticleVariants &other) const { return myVariants == other.myVariants; }
     bool operator!=(const RVArticleVariants &other) const { return !(*this == other); }
+    /// @}
 
 private:
     QHash<QString, QString> myVariants;
@@ -101,7 +109,7 @@ private:
 
 Q_DECLARE_TYPEINFO(RVArticleVariants, Q_RELOCATABLE_TYPE);
 
-/// The options as one text, sorted by key: "alcolor = red; coverphoto = yes".
+/// The options as one text, sorted by key: "alcolor = red; coverphoto = yes". @relates RVArticleVariants
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVArticleVariants &variants);
 
 #endif

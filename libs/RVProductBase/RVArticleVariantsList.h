@@ -6,10 +6,12 @@
 #include <QList>
 
 /// A list of configurations of an article, such as its orderable box styles.
+/// @ingroup articles
 class RVPRODUCTBASE_EXPORT RVArticleVariantsList : public QList<RVArticleVariants>
 {
 public:
     using QList<RVArticleVariants>::QList;
+    /// The empty list.
     RVArticleVariantsList() = default;
     RVArticleVariantsList(const RVArticleVariantsList &) = default;
     RVArticleVariantsList(RVArticleVariantsList &&) = default;

@@ -15,6 +15,8 @@ class QDomElement;
  * placeholder image that the editor shows there.
  *
  * Read from the products XML. By default an invalid definition: an empty rectangle on page 0 without an image.
+ *
+ * @ingroup geometry
  */
 class RVPRODUCTBASE_EXPORT RVBarcodeDefinition
 {
@@ -22,7 +24,8 @@ public:
     /// The placeholder of a barcode that names none.
     static const QString DEFAULT_IMAGE_NAME;
 
-    RVBarcodeDefinition();
+    RVBarcodeDefinition(); ///< The invalid definition.
+    /// @p rect is in tenths of a millimetre.
     RVBarcodeDefinition(const QRect &rect, int pageNr, const QString &imageName);
     RVBarcodeDefinition(const RVBarcodeDefinition &) = default;
     RVBarcodeDefinition(RVBarcodeDefinition &&) = default;
@@ -35,9 +38,9 @@ public:
     /// in the tenths 100 to 199.
     static RVBarcodeDefinition createFromProductsXML(const QDomElement &element, const RVDistanceUnit &unit);
 
-    QRect rect() const noexcept { return myRect; }
-    int pageNr() const noexcept { return myPageNr; }
-    QString imageName() const { return myImageName; }
+    QRect rect() const noexcept { return myRect; } ///< In tenths of a millimetre.
+    int pageNr() const noexcept { return myPageNr; } ///< As the catalogue counts pages.
+    QString imageName() const { return myImageName; } ///< A file below "icons/picjolly/".
     /// The placeholder, loaded when it is first asked for; null where it cannot be loaded. Copies share it afterwards.
     /// One thread at a time.
     QImage image() const;
@@ -45,8 +48,10 @@ public:
     bool isValid() const noexcept;
 
     /// The image itself does not count, only its name.
+    /// @{
     bool operator==(const RVBarcodeDefinition &other) const;
     bool operator!=(const RVBarcodeDefinition &other) const { return !(*this == other); }
+    /// @}
     /// No strict order: true as soon as one of left, top, width, height and page is smaller here, whatever came before;
     /// then by the name of the image.
     bool operator<(const RVBarcodeDefinition &other) const;

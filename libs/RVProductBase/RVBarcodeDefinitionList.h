@@ -9,6 +9,7 @@
 
 /// The barcodes of a product. Read from the products XML or, one at a time, from an order transfer; what is invalid is
 /// left out.
+/// @ingroup geometry
 class RVPRODUCTBASE_EXPORT RVBarcodeDefinitionList : public QList<RVBarcodeDefinition>
 {
 public:
@@ -17,6 +18,7 @@ public:
     /// Reads the element itself; empty unless it is a "barcode".
     static RVBarcodeDefinitionList createFromXTCI(const QDomElement &element, const RVDistanceUnit &unit);
 
+    /// Those of one page, in their order.
     RVBarcodeDefinitionList barcodesOnPage(int pageNr) const;
     /// All rectangles together, whatever their pages.
     QRegion occupiedRegion() const;

@@ -6,9 +6,11 @@
 #include <QtGlobal>
 
 /// The bleed of a page whose opposite edges have the same: one amount for left and right, one for top and bottom.
+/// @ingroup geometry
 class RVPRODUCTBASE_EXPORT RVBleedMargin
 {
 public:
+    /// In the unit of the page size.
     RVBleedMargin(int horizontal, int vertical) noexcept : myHorizontal(horizontal), myVertical(vertical) { }
     RVBleedMargin(const RVBleedMargin &) noexcept = default;
     RVBleedMargin(RVBleedMargin &&) noexcept = default;
@@ -16,15 +18,18 @@ public:
     RVBleedMargin &operator=(RVBleedMargin &&) noexcept = default;
     virtual ~RVBleedMargin();
 
-    int horizontal() const noexcept { return myHorizontal; }
-    int vertical() const noexcept { return myVertical; }
-    bool isNull() const noexcept { return myHorizontal == 0 && myVertical == 0; }
+    int horizontal() const noexcept { return myHorizontal; } ///< Of the left and of the right edge.
+    int vertical() const noexcept { return myVertical; } ///< Of the top and of the bottom edge.
+    bool isNull() const noexcept { return myHorizontal == 0 && myVertical == 0; } ///< True when both are 0.
 
+    /// By both amounts.
+    /// @{
     friend bool operator==(const RVBleedMargin &a, const RVBleedMargin &b) noexcept
     {
         return a.myHorizontal == b.myHorizontal && a.myVertical == b.myVertical;
     }
     friend bool operator!=(const RVBleedMargin &a, const RVBleedMargin &b) noexcept { return !(a == b); }
+    /// @}
 
 private:
     int myHorizontal;

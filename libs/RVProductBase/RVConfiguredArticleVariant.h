@@ -17,32 +17,34 @@ class RVSpotColor;
  *
  * Read from a "form" element of the products XML. Valid when both key and value are non-empty. Copies share their
  * data. An option that does not come from XML counts as a default choice.
+ *
+ * @ingroup articles
  */
 class RVPRODUCTBASE_EXPORT RVConfiguredArticleVariant
 {
 public:
     /// The empty, invalid option.
     RVConfiguredArticleVariant();
+    /// Any key and value, without names and colour; both must be given for a valid option.
     RVConfiguredArticleVariant(const QString &key, const QString &value);
     /// From "key:value"; empty unless the text has exactly one colon.
     RVConfiguredArticleVariant(const QString &text);
     /// From the attributes of a "form" element.
     RVConfiguredArticleVariant(const QDomElement &element);
 
-    QString key() const;
-    /// Display name of the key.
-    QString keyName() const;
-    QString value() const;
-    /// Display name of the value; a null text for an invalid option.
+    QString key() const; ///< What is chosen, such as "alcolor".
+    QString keyName() const; ///< What the customer reads for the key.
+    QString value() const; ///< The choice, such as "red".
+    /// What the customer reads for the value; a null text for an invalid option.
     QString visibleName() const;
-    QString editorName() const;
+    QString editorName() const; ///< What the editor shows for the value.
     /// Name of the preview image; options such as the spiral colour have a stock one where none is given.
     QString preview() const;
     /// The swatch colour; invalid when none is given or the text is no colour.
     QColor color() const;
-    bool isDefault() const;
-    bool isNotAccountable() const;
-    bool isValid() const;
+    bool isDefault() const; ///< True for a default choice of its key.
+    bool isNotAccountable() const; ///< True for what is not charged for.
+    bool isValid() const; ///< True with a key and a value.
     /// True when the value is the keyword of the spot colour.
     bool isSpotColor(const RVSpotColor &spotColor) const;
     /// The line that explains the option: key name, a swatch in HTML where there is a colour, value name. Empty
@@ -57,9 +59,11 @@ public:
     /// "key:value"; a null text for an invalid option.
     QString toString() const;
 
-    /// Compares key and value only.
+    /// By key and value only.
+    /// @{
     bool operator==(const RVConfiguredArticleVariant &other) const;
     bool operator!=(const RVConfiguredArticleVariant &other) const { return !(*this == other); }
+    /// @}
     /// By the key's display name, so options of one key are unordered among themselves.
     bool operator<(const RVConfiguredArticleVariant &other) const;
 
@@ -69,6 +73,7 @@ private:
 
 Q_DECLARE_TYPEINFO(RVConfiguredArticleVariant, Q_RELOCATABLE_TYPE);
 
+/// Prints key and value. @relates RVConfiguredArticleVariant
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVConfiguredArticleVariant &variant);
 
 #endif

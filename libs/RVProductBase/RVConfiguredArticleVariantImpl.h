@@ -8,14 +8,18 @@
 #include <QString>
 
 /// The shared data of RVConfiguredArticleVariant; the fields stand beside the XML attributes they are read from.
+/// @ingroup articles
 class RVPRODUCTBASE_EXPORT RVConfiguredArticleVariantImpl : public QSharedData
 {
 public:
+    /// The empty option, a default choice.
     RVConfiguredArticleVariantImpl() = default;
+    /// The fields in their order.
     RVConfiguredArticleVariantImpl(const QString &key, const QString &keyName, const QString &value,
                                    const QString &visibleName, const QString &editorName, const QString &name,
                                    const QString &preview, const QColor &color, bool preselected, bool notAccountable);
 
+    /// True with a key and a value.
     bool isValid() const { return !key.isEmpty() && !value.isEmpty(); }
     /// The preview image name for @p optionValue where the catalogue has a stock one for this key, else #preview.
     QString previewNameFallbacked(const QString &optionValue) const;

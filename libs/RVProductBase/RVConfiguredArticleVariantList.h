@@ -17,10 +17,13 @@ class QDomElement;
  * without a message; a lookup that finds nothing returns an invalid option.
  *
  * An option matches a configuration when the configuration has its value under its key.
+ *
+ * @ingroup articles
  */
 class RVPRODUCTBASE_EXPORT RVConfiguredArticleVariantList : public QList<RVConfiguredArticleVariant>
 {
 public:
+    /// No options.
     RVConfiguredArticleVariantList() = default;
     /// Holds the option when it is valid.
     RVConfiguredArticleVariantList(const RVConfiguredArticleVariant &variant);
@@ -38,9 +41,11 @@ public:
     void readVariants(const QDomElement &product);
 
     /// The first option of the key, of the value, respectively the first that is not charged for.
+    /// @{
     RVConfiguredArticleVariant variantByKey(const QString &key) const;
     RVConfiguredArticleVariant variantByValue(const QString &value) const;
     RVConfiguredArticleVariant notAccountableVariant() const;
+    /// @}
     /// The first option that matches the configuration.
     RVConfiguredArticleVariant variant(const RVArticleVariants &variants) const;
     /// All options of the key.
@@ -48,6 +53,7 @@ public:
     /// The distinct keys, sorted.
     QStringList keys() const;
 
+    /// True when some option has this key and this value.
     bool contains(const RVConfiguredArticleVariant &variant) const;
     /// True when every option of @p other is contained.
     bool contains(const RVConfiguredArticleVariantList &other) const;
@@ -77,6 +83,7 @@ private:
     void appendValid(const RVConfiguredArticleVariant &variant);
 };
 
+/// Prints every option with its position, counted from 1. @relates RVConfiguredArticleVariantList
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVConfiguredArticleVariantList &variants);
 
 #endif

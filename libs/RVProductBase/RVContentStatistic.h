@@ -10,9 +10,11 @@ class RVPriceClassSet;
 
 /// What a project contains that costs extra: its map and video areas, and the add-ons that were bought, with their
 /// quantities.
+/// @ingroup articles
 class RVPRODUCTBASE_EXPORT RVContentStatistic
 {
 public:
+    /// The numbers of areas, and the quantity of each add-on.
     RVContentStatistic(int countGeoMapAreas, int countVideoAreas,
                        const QMap<RVPriceClass, int> &boughtAdditionalContent);
     RVContentStatistic(const RVContentStatistic &) = default;
@@ -21,8 +23,9 @@ public:
     RVContentStatistic &operator=(RVContentStatistic &&) = default;
     virtual ~RVContentStatistic();
 
-    int countGeoMapAreas() const noexcept { return myCountGeoMapAreas; }
-    int countVideoAreas() const noexcept { return myCountVideoAreas; }
+    int countGeoMapAreas() const noexcept { return myCountGeoMapAreas; } ///< How many maps the project shows.
+    int countVideoAreas() const noexcept { return myCountVideoAreas; } ///< How many videos the project links.
+    /// The quantities of all add-ons, by billing code.
     QMap<RVPriceClass, int> boughtAdditionalContent() const { return myBoughtAdditionalContent; }
     /// The quantity of an add-on; 0 where it was not bought.
     int count(const RVPriceClass &priceClass) const;
@@ -31,19 +34,22 @@ public:
 
     /// Sets the quantity; an earlier one is replaced, not added to.
     void addAddOn(const RVPriceClass &priceClass, int quantity);
-    void removeAddOn(const RVPriceClass &priceClass);
+    void removeAddOn(const RVPriceClass &priceClass); ///< Whatever its quantity.
     /// Moves a quantity above 0 from one add-on to another, and removes the first in any case: an add-on that replaces
     /// itself is gone.
     void replaceAddOn(const RVPriceClass &from, const RVPriceClass &to);
     /// Sets every quantity to 10 for a project that becomes a vario one, to 1 for one that no longer is.
     void adaptFromOrToVario(bool fromVario, bool toVario);
 
+    /// By areas and add-ons.
+    /// @{
     friend bool operator==(const RVContentStatistic &a, const RVContentStatistic &b)
     {
         return a.myCountGeoMapAreas == b.myCountGeoMapAreas && a.myCountVideoAreas == b.myCountVideoAreas
                 && a.myBoughtAdditionalContent == b.myBoughtAdditionalContent;
     }
     friend bool operator!=(const RVContentStatistic &a, const RVContentStatistic &b) { return !(a == b); }
+    /// @}
 
 private:
     int myCountGeoMapAreas;

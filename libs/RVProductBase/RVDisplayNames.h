@@ -14,6 +14,8 @@
  *
  * The names are in the language that the application speaks when the table is built, which is when it is first asked
  * for; a later change of language does not change them. Every lookup is by the exact value, not by bits.
+ *
+ * @ingroup attributes
  */
 template<typename T>
 class RVDisplayNames
@@ -34,6 +36,7 @@ public:
           myContext(context)
     { }
 
+    /// The name of exactly this value, else unknownName.
     QString name(const T &value) const { return names.value(value, unknownName); }
 
     /// The lowest value of that name, else the default value. A German name is translated first, so it is understood

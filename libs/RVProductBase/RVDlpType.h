@@ -6,19 +6,20 @@
 
 class QDebug;
 
+/// The values of RVDlpType, each with the keyword that writes it. @relates RVDlpType
 enum RVDlpTypeEnum : qint32 {
-    DLP_TYPE_BACKGROUND = 1,
-    DLP_TYPE_STYLE_V2 = 2,
-    DLP_TYPE_TEMPLATE = 4, ///< a design
-    DLP_TYPE_CLIPART = 8,
-    DLP_TYPE_MASK = 16,
-    DLP_TYPE_LAYOUTCOLLECTION = 32,
-    DLP_TYPE_STORYBOOK = 64,
-    DLP_TYPE_FORM_PARAMETER_DATA = 128,
-    DLP_TYPE_PREDEFINED_PROJECT = 256,
-    DLP_TYPE_FILTER_LINNEN_CAPABLE = 512, ///< no type: limits another one to what suits linen covers
-    DLP_TYPE_STYLE_V2_COVERPAGE = 1024,
-    DLP_TYPE_STYLE_V2_INNERPAGE = 2048,
+    DLP_TYPE_BACKGROUND = 1, ///< "background"
+    DLP_TYPE_STYLE_V2 = 2, ///< "style_v2"
+    DLP_TYPE_TEMPLATE = 4, ///< "template": a design
+    DLP_TYPE_CLIPART = 8, ///< "clipart"
+    DLP_TYPE_MASK = 16, ///< "mask"
+    DLP_TYPE_LAYOUTCOLLECTION = 32, ///< "layoutcollection"
+    DLP_TYPE_STORYBOOK = 64, ///< "storybook"
+    DLP_TYPE_FORM_PARAMETER_DATA = 128, ///< "form_parameter_data"
+    DLP_TYPE_PREDEFINED_PROJECT = 256, ///< "predefined_project"
+    DLP_TYPE_FILTER_LINNEN_CAPABLE = 512, ///< "filter_linnen_capable": limits a type to what suits linen covers
+    DLP_TYPE_STYLE_V2_COVERPAGE = 1024, ///< "style_v2_coverpage"
+    DLP_TYPE_STYLE_V2_INNERPAGE = 2048, ///< "style_v2_innerpage"
 };
 RV_DECLARE_ENUM_OPERATORS(RVDlpTypeEnum)
 
@@ -26,9 +27,11 @@ extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVDlpTypeEnum>;
 
 /// A kind of design content that the application downloads. 0 is none. Names, directories and queries take no notice of
 /// DLP_TYPE_FILTER_LINNEN_CAPABLE.
+/// @ingroup attributes
 class RVPRODUCTBASE_EXPORT RVDlpType : public RVEnumWrapper<RVDlpTypeEnum>
 {
 public:
+    /// A value or several combined; none by default.
     RVDlpType(RVDlpTypeEnum value = RVDlpTypeEnum(0)) noexcept;
     /// From a keyword list such as "clipart, mask".
     RVDlpType(const QString &text);
@@ -54,6 +57,7 @@ private:
 
 Q_DECLARE_TYPEINFO(RVDlpType, Q_RELOCATABLE_TYPE);
 
+/// Prints the class and encodeCSV(), such as RVDlpType(clipart, mask). @relates RVDlpType
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVDlpType &dlpType);
 
 #endif

@@ -9,19 +9,22 @@
 class QDebug;
 class RVArticleClass;
 
+/// The values of RVFotoPaperType, each with the keyword that writes it. @relates RVFotoPaperType
 enum RVFotoPaperTypeEnum : qint32 {
-    NO_FOTO_PAPER = 0,
-    GLOSSY = 0x1,
-    MATT = 0x2,
+    NO_FOTO_PAPER = 0, ///< "0"
+    GLOSSY = 0x1, ///< "1"
+    MATT = 0x2, ///< "2"
 };
 RV_DECLARE_ENUM_OPERATORS(RVFotoPaperTypeEnum)
 
 extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVFotoPaperTypeEnum>;
 
 /// The surface of a photo print. 0 is none; it has the keyword "0".
+/// @ingroup attributes
 class RVPRODUCTBASE_EXPORT RVFotoPaperType : public RVEnumWrapper<RVFotoPaperTypeEnum>
 {
 public:
+    /// A value or several combined; none by default.
     RVFotoPaperType(RVFotoPaperTypeEnum value = NO_FOTO_PAPER) noexcept;
     /// From a keyword list such as "glossy" or "1, 2".
     RVFotoPaperType(const QString &text);
@@ -41,6 +44,7 @@ public:
 
 Q_DECLARE_TYPEINFO(RVFotoPaperType, Q_RELOCATABLE_TYPE);
 
+/// Prints the class and encodeCSV(), such as RVFotoPaperType(1). @relates RVFotoPaperType
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVFotoPaperType &fotoPaperType);
 
 #endif

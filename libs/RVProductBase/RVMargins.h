@@ -15,19 +15,26 @@ class QDebug;
  *
  * It never changes, so copies share their data, also between threads. A moved-from object may only be destroyed or
  * assigned to.
+ *
+ * @ingroup geometry
  */
 class RVPRODUCTBASE_EXPORT RVMargins
 {
 public:
-    /// All margins 0.
-    RVMargins();
+    RVMargins(); ///< All margins 0.
+    /// In the unit of the page size; @p vertical is for top and bottom, @p horizontal for left and right.
+    /// @{
     RVMargins(int top, int bottom, int left, int right);
     RVMargins(int vertical, int horizontal);
+    /// @}
 
+    /// What is cut away at one edge.
+    /// @{
     int top() const noexcept { return d->top(); }
     int bottom() const noexcept { return d->bottom(); }
     int left() const noexcept { return d->left(); }
     int right() const noexcept { return d->right(); }
+    /// @}
 
     /// The left margin as x, the top margin as y.
     QPoint topLeft() const noexcept { return d->topLeft(); }
@@ -35,10 +42,13 @@ public:
     QPoint bottomRight() const noexcept { return d->bottomRight(); }
     /// What the margins add to the width and to the height of the page.
     QSize totalMarginWH() const noexcept { return d->totalMarginWH(); }
-    bool allNull() const noexcept { return d->allNull(); }
+    bool allNull() const noexcept { return d->allNull(); } ///< True without any bleed.
 
+    /// By all four margins.
+    /// @{
     bool operator==(const RVMargins &other) const noexcept { return d == other.d || *d == *other.d; }
     bool operator!=(const RVMargins &other) const noexcept { return !(*this == other); }
+    /// @}
 
 private:
     QExplicitlySharedDataPointer<const RVMarginsImpl> d;
@@ -46,6 +56,7 @@ private:
 
 Q_DECLARE_TYPEINFO(RVMargins, Q_RELOCATABLE_TYPE);
 
+/// Prints the four margins, each after its name. @relates RVMargins
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVMargins &margins);
 
 #endif

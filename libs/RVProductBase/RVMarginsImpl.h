@@ -7,10 +7,13 @@
 #include <QSharedData>
 #include <QSize>
 
-/// The shared data of RVMargins.
+/// The shared data of RVMargins, which documents the operations.
+/// @ingroup geometry
 class RVPRODUCTBASE_EXPORT RVMarginsImpl : public QSharedData
 {
 public:
+    /// As RVMargins has them.
+    /// @{
     RVMarginsImpl(int top = 0, int bottom = 0, int left = 0, int right = 0) noexcept;
 
     int top() const noexcept { return myTop; }
@@ -24,6 +27,7 @@ public:
     bool allNull() const noexcept;
 
     bool operator==(const RVMarginsImpl &other) const noexcept;
+    /// @}
 
 private:
     int myTop;

@@ -8,9 +8,11 @@
 #include "RVProductBaseExport.h"
 
 /// What a project contains that costs extra, together with the add-ons that its product model offers.
+/// @ingroup articles
 class RVPRODUCTBASE_EXPORT RVModelAddOnStatistic
 {
 public:
+    /// Offers these two add-ons and nothing else; an empty code offers none.
     RVModelAddOnStatistic(const RVContentStatistic &contentStatistic, const RVPriceClass &videoAddOn,
                           const RVPriceClass &spotColorAddOn);
     /// Offers the video add-on "MUL1" and no spot colour.
@@ -21,31 +23,43 @@ public:
     RVModelAddOnStatistic &operator=(RVModelAddOnStatistic &&) = default;
     virtual ~RVModelAddOnStatistic();
 
+    /// What the project contains, see RVContentStatistic.
+    /// @{
     RVContentStatistic contentStatistic() const { return myContentStatistic; }
     int countGeoMapAreas() const noexcept { return myContentStatistic.countGeoMapAreas(); }
     int countVideoAreas() const noexcept { return myContentStatistic.countVideoAreas(); }
     QMap<RVPriceClass, int> additionalContent() const { return myContentStatistic.boughtAdditionalContent(); }
     int count(const RVPriceClass &priceClass) const { return myContentStatistic.count(priceClass); }
+    /// @}
 
-    RVPriceClass videoAddOn() const { return myVideoAddOn; }
-    RVPriceClass spotColorAddOn() const { return mySpotColorAddOn; }
-    RVPriceClass flyLeafAddOn() const { return myFlyLeafAddOn; }
+    RVPriceClass videoAddOn() const { return myVideoAddOn; } ///< Empty where there is none.
+    RVPriceClass spotColorAddOn() const { return mySpotColorAddOn; } ///< Empty where there is none.
+    RVPriceClass flyLeafAddOn() const { return myFlyLeafAddOn; } ///< Empty until it is set.
     /// The options that were chosen with the fly-leaf.
     RVArticleVariants flyLeafVariants() const { return myFlyLeafVariants; }
-    RVPriceClassSet designStyleAddOns() const { return myDesignStyleAddOns; }
-    RVPriceClass panoPagesAddOn() const { return myPanoPagesAddOn; }
+    RVPriceClassSet designStyleAddOns() const { return myDesignStyleAddOns; } ///< Empty until they are set.
+    RVPriceClass panoPagesAddOn() const { return myPanoPagesAddOn; } ///< Empty until it is set.
 
+    /// Changes what the project contains, see RVContentStatistic.
+    /// @{
     void addAddOn(const RVPriceClass &priceClass, int quantity) { myContentStatistic.addAddOn(priceClass, quantity); }
     void removeAddOn(const RVPriceClass &priceClass) { myContentStatistic.removeAddOn(priceClass); }
+    /// @}
 
+    /// Changes what the product model offers.
+    /// @{
     void setVideoAddOn(const RVPriceClass &priceClass);
     void setSpotColorAddOn(const RVPriceClass &priceClass);
     void setFlyLeafAddOn(const RVPriceClass &priceClass, const RVArticleVariants &variants);
     void setDesignStyleAddOns(const RVPriceClassSet &priceClasses);
     void setPanoPagesAddOn(const RVPriceClass &priceClass);
+    /// @}
 
+    /// By what the project contains and what the model offers.
+    /// @{
     RVPRODUCTBASE_EXPORT friend bool operator==(const RVModelAddOnStatistic &a, const RVModelAddOnStatistic &b);
     friend bool operator!=(const RVModelAddOnStatistic &a, const RVModelAddOnStatistic &b) { return !(a == b); }
+    /// @}
 
 private:
     RVContentStatistic myContentStatistic;

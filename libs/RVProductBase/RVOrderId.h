@@ -10,14 +10,16 @@ class QDebug;
 
 /// The id of an order, as the ordering service issued it. A null text is no order; an empty one is an order all the
 /// same.
+/// @ingroup pricing
 class RVPRODUCTBASE_EXPORT RVOrderId
 {
 public:
-    RVOrderId();
-    RVOrderId(const QString &id);
+    RVOrderId(); ///< No order.
+    RVOrderId(const QString &id); ///< The text as it stands.
     // An id that is moved from keeps its text, one that is assigned from takes the other's.
     RVOrderId(const RVOrderId &) = default;
     RVOrderId &operator=(const RVOrderId &) = default;
+    /// Exchanges the two texts.
     RVOrderId &operator=(RVOrderId &&other) noexcept
     {
         myId.swap(other.myId);
@@ -25,20 +27,23 @@ public:
     }
     virtual ~RVOrderId();
 
-    bool isValid() const noexcept { return !myId.isNull(); }
-    void clear();
+    bool isValid() const noexcept { return !myId.isNull(); } ///< True also for an empty text that is not null.
+    void clear(); ///< Makes it no order.
 
     /// The id; fit for a file name, with "_" for every "-", where @p replaceDashes is true.
     QString toString(bool replaceDashes = false) const;
     /// Writes toString(): the order is on the left, the stream on the right.
     QDataStream &operator<<(QDataStream &stream) const;
 
+    /// By text; letter case counts.
+    /// @{
     friend bool operator==(const RVOrderId &a, const RVOrderId &b) noexcept { return a.myId == b.myId; }
     friend bool operator!=(const RVOrderId &a, const RVOrderId &b) noexcept { return a.myId != b.myId; }
     friend bool operator<(const RVOrderId &a, const RVOrderId &b) noexcept { return a.myId < b.myId; }
     friend bool operator>(const RVOrderId &a, const RVOrderId &b) noexcept { return a.myId > b.myId; }
     friend bool operator<=(const RVOrderId &a, const RVOrderId &b) noexcept { return a.myId <= b.myId; }
     friend bool operator>=(const RVOrderId &a, const RVOrderId &b) noexcept { return a.myId >= b.myId; }
+    /// @}
 
 private:
     QString myId;
@@ -46,6 +51,7 @@ private:
 
 Q_DECLARE_TYPEINFO(RVOrderId, Q_RELOCATABLE_TYPE);
 
+/// Prints the id in quotes. @relates RVOrderId
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVOrderId &orderId);
 
 #endif

@@ -7,10 +7,11 @@
 #include <QList>
 
 /// Order ids, in the order in which they were given.
+/// @ingroup pricing
 class RVPRODUCTBASE_EXPORT RVOrderIdList : public QList<RVOrderId>
 {
 public:
-    /// The valid ids joined with ",".
+    /// The valid ids joined with ","; empty where there are none.
     QString toString() const;
 };
 

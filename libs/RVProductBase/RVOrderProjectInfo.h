@@ -10,6 +10,7 @@ class QDataStream;
 class QDebug;
 
 /// Ties a project of the user to the order that it was sent with, or asks for its order data to be deleted.
+/// @ingroup pricing
 class RVPRODUCTBASE_EXPORT RVOrderProjectInfo
 {
 public:
@@ -25,25 +26,29 @@ public:
     /// The one that asks for deletion; it is not valid.
     static RVOrderProjectInfo createDeletingProjetInfo();
 
-    QString xtciSession() const { return myXtciSession; }
-    RVOrderId orderId() const { return myOrderId; }
-    int orderPosition() const noexcept { return myOrderPosition; }
+    QString xtciSession() const { return myXtciSession; } ///< The name of the session of the order transfer.
+    RVOrderId orderId() const { return myOrderId; } ///< The order that the project was sent with.
+    int orderPosition() const noexcept { return myOrderPosition; } ///< Negative where it is unknown.
+    /// True only for the one that asks for deletion.
     bool deleteProjectInfo() const noexcept { return myDeleteProjectInfo; }
     /// True with a valid order, a known position and a session that is not null.
     bool isValid() const noexcept;
 
-    void setOrderId(const RVOrderId &orderId);
+    void setOrderId(const RVOrderId &orderId); ///< Everything else stays as it is.
 
     /// Writes the order id, the position as a 32-bit integer and the session: the info is on the left, the stream on
     /// the right.
     QDataStream &operator<<(QDataStream &stream) const;
 
+    /// By all four values.
+    /// @{
     friend bool operator==(const RVOrderProjectInfo &a, const RVOrderProjectInfo &b) noexcept
     {
         return a.myXtciSession == b.myXtciSession && a.myOrderId == b.myOrderId
                 && a.myOrderPosition == b.myOrderPosition && a.myDeleteProjectInfo == b.myDeleteProjectInfo;
     }
     friend bool operator!=(const RVOrderProjectInfo &a, const RVOrderProjectInfo &b) noexcept { return !(a == b); }
+    /// @}
 
 private:
     QString myXtciSession;
@@ -54,6 +59,7 @@ private:
 
 Q_DECLARE_TYPEINFO(RVOrderProjectInfo, Q_RELOCATABLE_TYPE);
 
+/// Prints order id, position and session. @relates RVOrderProjectInfo
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVOrderProjectInfo &info);
 
 #endif

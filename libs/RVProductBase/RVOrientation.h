@@ -9,13 +9,15 @@ class QDomElement;
 class QSizeF;
 class RVAngle;
 
+/// The values of RVOrientation, each with the keyword that writes it. @relates RVOrientation
 enum RVOrientationEnum : qint32 {
-    ORIENTATION_NONE = 0,
-    ORIENTATION_PORTRAIT = 1,
-    ORIENTATION_LANDSCAPE = 2,
-    ORIENTATION_SQUARE = 4,
-    ORIENTATION_PORTRAIT_SLIM = 8,
-    ORIENTATION_LANDSCAPE_SLIM = 16,
+    ORIENTATION_NONE = 0, ///< "none"
+    ORIENTATION_PORTRAIT = 1, ///< "portrait"
+    ORIENTATION_LANDSCAPE = 2, ///< "landscape"
+    ORIENTATION_SQUARE = 4, ///< "square"
+    ORIENTATION_PORTRAIT_SLIM = 8, ///< "portrait_slim"
+    ORIENTATION_LANDSCAPE_SLIM = 16, ///< "landscape_slim"
+    /// "all"
     ORIENTATION_ALL = ORIENTATION_PORTRAIT | ORIENTATION_LANDSCAPE | ORIENTATION_SQUARE | ORIENTATION_PORTRAIT_SLIM
             | ORIENTATION_LANDSCAPE_SLIM,
 };
@@ -25,17 +27,20 @@ extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVOrientationEnum>;
 
 /// Whether a page or a product is upright, wide, square, or slim. 0 is none; a value without a keyword is written as
 /// "portrait".
+/// @ingroup attributes
 class RVPRODUCTBASE_EXPORT RVOrientation : public RVEnumWrapper<RVOrientationEnum>
 {
 public:
+    /// A value or several combined; none by default.
     RVOrientation(RVOrientationEnum value = ORIENTATION_NONE) noexcept;
-    /// From a keyword list such as "portrait, square".
+    /// From a keyword list such as "portrait, square"; unknown keywords add nothing.
     RVOrientation(const QString &text);
     /// From a page size, see fromSize().
     RVOrientation(const QSizeF &size);
     /// From a keyword list; from the size where that gives none.
     RVOrientation(const QString &text, const QSizeF &size);
 
+    /// From a page size, see fromSize().
     static RVOrientation createFromSize(const QSizeF &size);
     /// A page that is not tilted is landscape, every other one is portrait.
     static RVOrientation createFromPageTilt(const RVAngle &tilt);
@@ -44,9 +49,12 @@ public:
     /// landscape. None where a side is negative or not a number, or both are 0. The object's own value does not count.
     RVOrientationEnum fromSize(const QSizeF &size) const;
 
+    /// True with one of the bits, be it the slim form.
+    /// @{
     bool isPortrait() const noexcept { return matches(ORIENTATION_PORTRAIT | ORIENTATION_PORTRAIT_SLIM); }
     bool isLandscape() const noexcept { return matches(ORIENTATION_LANDSCAPE | ORIENTATION_LANDSCAPE_SLIM); }
     bool isQuadratic() const noexcept { return matches(ORIENTATION_SQUARE); }
+    /// @}
     /// Portrait, landscape or square without regard to slimness; "all" is portrait, any other combination none.
     RVOrientation reduceToBasics() const;
 
@@ -57,12 +65,12 @@ public:
     QString previewFileNamePrefix() const;
     /// The usual width / height of exactly this value; 1 where there is none.
     double defaultWidthHeightRatio() const;
-    /// The part of the length of a folded product that goes into the fold.
+    /// The part of the length of a folded product that goes into the fold, by reduceToBasics(); 0 for none.
     double foldMarginFactor() const;
     /// The fold of a product of this length, rounded down, in the unit of the length.
     int foldMargin(int length) const;
 
-    /// "portrait", "landscape", "square" or "none".
+    /// The keyword of reduceToBasics(): "portrait", "landscape", "square" or "none".
     QString encodeForDLP() const;
     /// Appends an element "orientation" for each bit, in no particular order; none for "all".
     void toTemplates2Format(QDomElement &parent) const;
@@ -72,6 +80,7 @@ public:
 
 Q_DECLARE_TYPEINFO(RVOrientation, Q_RELOCATABLE_TYPE);
 
+/// Prints the class and encodeCSV(), such as RVOrientation(portrait, square). @relates RVOrientation
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVOrientation &orientation);
 
 #endif

@@ -6,23 +6,26 @@
 
 class QDebug;
 
+/// The values of RVPageAlignment, each with the keyword that writes it. @relates RVPageAlignment
 enum RVPageAlignmentEnum : qint32 {
-    PAGE_ALIGNMENT_LEFT = 1,
-    PAGE_ALIGNMENT_RIGHT = 2,
-    PAGE_ALIGNMENT_MIDDLE = 4, ///< on the spine
-    PAGE_ALIGNMENT_FULLPAGE = 8,
-    PAGE_ALIGNMENT_TOP = 16,
-    PAGE_ALIGNMENT_BOTTOM = 32,
-    PAGE_ALIGNMENT_CENTER = 64,
+    PAGE_ALIGNMENT_LEFT = 1, ///< "left"
+    PAGE_ALIGNMENT_RIGHT = 2, ///< "right"
+    PAGE_ALIGNMENT_MIDDLE = 4, ///< "middle": on the spine
+    PAGE_ALIGNMENT_FULLPAGE = 8, ///< "fullpage"
+    PAGE_ALIGNMENT_TOP = 16, ///< "top"
+    PAGE_ALIGNMENT_BOTTOM = 32, ///< "bottom"
+    PAGE_ALIGNMENT_CENTER = 64, ///< "center"
 };
 RV_DECLARE_ENUM_OPERATORS(RVPageAlignmentEnum)
 
 extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVPageAlignmentEnum>;
 
 /// Where a page stands in the spread, or an element on its page. 0 is nowhere; an unknown keyword stands for the left.
+/// @ingroup attributes
 class RVPRODUCTBASE_EXPORT RVPageAlignment : public RVEnumWrapper<RVPageAlignmentEnum>
 {
 public:
+    /// A value or several combined; none by default.
     RVPageAlignment(RVPageAlignmentEnum value = RVPageAlignmentEnum(0)) noexcept;
     /// From a keyword list such as "left, top"; an empty one is the left.
     RVPageAlignment(const QString &text);
@@ -40,6 +43,7 @@ public:
 
 Q_DECLARE_TYPEINFO(RVPageAlignment, Q_RELOCATABLE_TYPE);
 
+/// Prints the class and encodeCSV(), such as RVPageAlignment(left, top). @relates RVPageAlignment
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVPageAlignment &alignment);
 
 #endif

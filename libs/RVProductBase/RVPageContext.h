@@ -7,9 +7,11 @@
 
 /// What a page of a product is: its type and its place in the spread. Both may hold several bits and then stand for
 /// each of them.
+/// @ingroup geometry
 class RVPRODUCTBASE_EXPORT RVPageContext
 {
 public:
+    /// Either may hold several bits.
     RVPageContext(const RVPageType &pageType, const RVPageAlignment &alignment) noexcept;
     RVPageContext(const RVPageContext &) noexcept = default;
     RVPageContext(RVPageContext &&) noexcept = default;
@@ -17,21 +19,25 @@ public:
     RVPageContext &operator=(RVPageContext &&) noexcept = default;
     virtual ~RVPageContext();
 
-    RVPageType pageType() const noexcept { return myPageType; }
-    RVPageAlignment alignment() const noexcept { return myAlignment; }
+    RVPageType pageType() const noexcept { return myPageType; } ///< What kind of page it is.
+    RVPageAlignment alignment() const noexcept { return myAlignment; } ///< Where it stands in the spread.
     /// True when one bit is common.
     bool hasPageType(const RVPageType &pageType) const noexcept { return myPageType.matches(pageType); }
     /// True when one bit is common.
     bool hasAlignment(const RVPageAlignment &alignment) const noexcept { return myAlignment.matches(alignment); }
     /// True when a bit of the page type and a bit of the alignment are common.
     bool matchesWith(const RVPageContext &other) const noexcept;
+    /// True with a page type and an alignment.
     bool isValid() const { return myPageType.isValid() && !myAlignment.isNull(); }
 
     /// The keywords of alignment and page type, with a blank between them.
     QString dump() const;
 
+    /// By exact values.
+    /// @{
     bool operator==(const RVPageContext &other) const;
     bool operator!=(const RVPageContext &other) const { return !(*this == other); }
+    /// @}
     /// By page type, then by alignment.
     bool operator<(const RVPageContext &other) const;
 
@@ -42,6 +48,7 @@ private:
 
 Q_DECLARE_TYPEINFO(RVPageContext, Q_RELOCATABLE_TYPE);
 
+/// Prints dump() in quotes. @relates RVPageContext
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVPageContext &pageContext);
 
 #endif

@@ -14,11 +14,15 @@ class QString;
  * with increment 0, is invalid. Boxes of prints count photos in the same way.
  *
  * Page counts are pages; a package is what one increment adds. Results stay within the int limits.
+ *
+ * @ingroup geometry
  */
 class RVPRODUCTBASE_EXPORT RVPageCountOrganization
 {
 public:
+    /// [0, 0], invalid.
     RVPageCountOrganization() = default;
+    /// Any range and increment, also invalid ones.
     RVPageCountOrganization(const RVIntRange &range, int pageIncrement);
     RVPageCountOrganization(const RVPageCountOrganization &) = default;
     RVPageCountOrganization(RVPageCountOrganization &&) = default;
@@ -36,11 +40,12 @@ public:
     /// The same for a box of prints: "pages" (1), "max_pages" ("pages" + 29) and "page_step" (1).
     static RVPageCountOrganization createFromProductsXMLForPictureBox(const QDomElement &product);
 
-    RVIntRange range() const { return myRange; }
-    int minPages() const noexcept { return myRange.min; }
-    int maxPages() const noexcept { return myRange.max; }
-    int pageIncrement() const noexcept { return myPageIncrement; }
+    RVIntRange range() const { return myRange; } ///< From the lowest to the highest count.
+    int minPages() const noexcept { return myRange.min; } ///< The lowest count.
+    int maxPages() const noexcept { return myRange.max; } ///< The highest count; the increments need not meet it.
+    int pageIncrement() const noexcept { return myPageIncrement; } ///< The pages of one package.
 
+    /// True from the lowest to the highest count, whether the increments meet it or not.
     bool inRange(int pages) const noexcept;
     /// True for one count that is not 0, or for several with a positive increment.
     bool isValid() const noexcept;
@@ -74,11 +79,14 @@ public:
     /// "min: 26; max: 154; increment: 4"
     QString dump() const;
 
+    /// By range and increment.
+    /// @{
     friend bool operator==(const RVPageCountOrganization &a, const RVPageCountOrganization &b)
     {
         return a.myRange == b.myRange && a.myPageIncrement == b.myPageIncrement;
     }
     friend bool operator!=(const RVPageCountOrganization &a, const RVPageCountOrganization &b) { return !(a == b); }
+    /// @}
 
 private:
     RVIntRange myRange;
@@ -87,6 +95,7 @@ private:
 
 Q_DECLARE_TYPEINFO(RVPageCountOrganization, Q_RELOCATABLE_TYPE);
 
+/// Prints dump() in quotes. @relates RVPageCountOrganization
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVPageCountOrganization &organization);
 
 #endif

@@ -8,6 +8,7 @@
 
 /// Offers the allowed page counts of a product to a view, one row a count: "26 Seiten", "30 Seiten", … It belongs to
 /// the thread of its view.
+/// @ingroup geometry
 class RVPRODUCTBASE_EXPORT RVPageCountOrganizationListModel : public QAbstractListModel
 {
     Q_OBJECT
@@ -16,19 +17,21 @@ public:
     /// With @p showPhotos the rows read as photo counts: "1 Fotos", "2 Fotos", …
     explicit RVPageCountOrganizationListModel(bool showPhotos);
 
+    /// Resets the model to these counts; until then it has one row of 0.
     void setPageOrganization(const RVPageCountOrganization &organization);
 
+    /// RVPageCountOrganization::numberOfPackages(), whatever the parent.
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
-    int columnCount(const QModelIndex &parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex &parent = QModelIndex()) const override; ///< 1.
     using QObject::parent;
-    QModelIndex parent(const QModelIndex &index) const override;
-    /// The display role only.
+    QModelIndex parent(const QModelIndex &index) const override; ///< The invalid index.
+    /// The text of the row for the display role; an invalid value for any other role.
     QVariant data(const QModelIndex &index, int role) const override;
 
-    int pagesAtIndex(int row) const;
-    int indexForPages(int pages) const;
-    int highestValue() const;
-    int lowestValue() const;
+    int pagesAtIndex(int row) const; ///< The count of a row; computed past the last row as well.
+    int indexForPages(int pages) const; ///< The row of the count, rounded down; not clamped at the last.
+    int highestValue() const; ///< The highest count of the organisation.
+    int lowestValue() const; ///< The lowest count of the organisation.
 
 private:
     RVPageCountOrganization myPageOrganization;

@@ -7,6 +7,7 @@
 class RVProductType;
 
 /// Computes the page counts of a product type for RVPageOrganizationManager; the application implements it.
+/// @ingroup services
 class RVPRODUCTBASE_EXPORT RVPageOrganizationCalculator
 {
 public:

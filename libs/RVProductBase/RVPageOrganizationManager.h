@@ -21,12 +21,15 @@ extern template class RVPRODUCTBASE_EXPORT RVSingleton<RVPageOrganizationManager
  *
  * Any thread may call; one lock serialises all operations. Without a calculator every type has the empty, invalid
  * organisation.
+ *
+ * @ingroup services
  */
 class RVPRODUCTBASE_EXPORT RVPageOrganizationManager : public QObject, public RVSingleton<RVPageOrganizationManager>
 {
     Q_OBJECT
 
 public:
+    /// Without a calculator. Applications take instance() instead.
     RVPageOrganizationManager();
     ~RVPageOrganizationManager() override;
 

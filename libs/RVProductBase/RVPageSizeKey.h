@@ -5,6 +5,7 @@
 #include "RVProductBaseExport.h"
 
 /// What the size of a page depends on: what page it is, and how many pages the product has.
+/// @ingroup geometry
 class RVPRODUCTBASE_EXPORT RVPageSizeKey
 {
 public:
@@ -16,18 +17,21 @@ public:
     RVPageSizeKey &operator=(RVPageSizeKey &&) noexcept = default;
     virtual ~RVPageSizeKey();
 
-    RVPageContext pageContext() const noexcept { return myPageContext; }
-    RVPageType pageType() const noexcept { return myPageContext.pageType(); }
-    RVPageAlignment alignment() const noexcept { return myPageContext.alignment(); }
-    int pageCount() const noexcept { return myPageCount; }
+    RVPageContext pageContext() const noexcept { return myPageContext; } ///< What page it is.
+    RVPageType pageType() const noexcept { return myPageContext.pageType(); } ///< What kind of page it is.
+    RVPageAlignment alignment() const noexcept { return myPageContext.alignment(); } ///< Every alignment there is.
+    int pageCount() const noexcept { return myPageCount; } ///< How many pages the product has.
     /// True with a valid context and a page count that is not negative.
     bool isValid() const { return myPageContext.isValid() && myPageCount >= 0; }
 
     /// The page context and the page count, with a blank between them.
     QString dump() const;
 
+    /// By page count and context.
+    /// @{
     bool operator==(const RVPageSizeKey &other) const;
     bool operator!=(const RVPageSizeKey &other) const { return !(*this == other); }
+    /// @}
     /// No strict order: keys of the same page count are equivalent whatever their contexts, all others are ordered by
     /// their contexts alone. Sorted tables of page sizes rely on it.
     bool operator<(const RVPageSizeKey &other) const;
@@ -39,6 +43,7 @@ private:
 
 Q_DECLARE_TYPEINFO(RVPageSizeKey, Q_RELOCATABLE_TYPE);
 
+/// Prints dump() in quotes. @relates RVPageSizeKey
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVPageSizeKey &key);
 
 #endif

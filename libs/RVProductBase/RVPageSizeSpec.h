@@ -12,15 +12,17 @@ class QDebug;
 
 /// The size of a page: the part that can be used, the bleed around it, and the usable size of the slipcase cover where
 /// the product has one. All in the same unit.
+/// @ingroup geometry
 class RVPRODUCTBASE_EXPORT RVPageSizeSpec
 {
 public:
     /// A page of invalid size without bleed.
     RVPageSizeSpec() = default;
+    /// Without a slipcase cover.
     RVPageSizeSpec(const QSize &usableSize, const RVMargins &bleedMargins);
 
-    QSize usableSize() const noexcept { return myUsableSize; }
-    RVMargins bleedMargins() const noexcept { return myBleedMargins; }
+    QSize usableSize() const noexcept { return myUsableSize; } ///< What remains when the bleed is cut away.
+    RVMargins bleedMargins() const noexcept { return myBleedMargins; } ///< What is cut away.
     /// Where the usable part begins on the page with bleed.
     QPoint topLeftOffsetOfUsablePrintArea() const noexcept { return myBleedMargins.topLeft(); }
     /// The usable size with the bleed.
@@ -30,12 +32,15 @@ public:
     /// Moves the slipcase cover to the middle of the page's height, never sideways. (0, 0) where it has no size.
     QPointF slipcaseTranslationPoint() const noexcept;
 
-    void setUsableSize(const QSize &size) { myUsableSize = size; }
+    void setUsableSize(const QSize &size) { myUsableSize = size; } ///< The bleed stays as it is.
+    /// A negative width or height stands for no slipcase cover.
     void setUsableSlipcaseCoverSize(const QSize &size) { myUsableSlipcaseCoverSize = size; }
 
     /// The size of the slipcase cover does not count.
+    /// @{
     bool operator==(const RVPageSizeSpec &other) const noexcept;
     bool operator!=(const RVPageSizeSpec &other) const noexcept { return !(*this == other); }
+    /// @}
 
 private:
     QSize myUsableSize;
@@ -45,6 +50,7 @@ private:
 
 Q_DECLARE_TYPEINFO(RVPageSizeSpec, Q_RELOCATABLE_TYPE);
 
+/// Prints the usable size and that of the slipcase cover. @relates RVPageSizeSpec
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVPageSizeSpec &spec);
 
 #endif

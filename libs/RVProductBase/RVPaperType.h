@@ -9,25 +9,28 @@
 
 class QDebug;
 
+/// The values of RVPaperType, each with the keyword that writes it. @relates RVPaperType
 enum RVPaperTypeEnum : qint32 {
-    UNKNOWN_PAPER = 0,
-    INDIGO = 0x1, ///< matt digital print
-    INDIGO_GLOSSY = 0x2,
-    FOTOPAPER = 0x4, ///< matt photo paper
-    FOTOPAPER_GLOSSY = 0x8,
-    FOTOPAPER_PREMIUM_MATT = 0x10,
-    PREMIUM = 0x20,
-    PREMIUM_MATT = 0x40,
-    DIGITAL_PRINTING_RECYCLED = 0x80,
+    UNKNOWN_PAPER = 0, ///< "unbekanntes Papier"
+    INDIGO = 0x1, ///< "indigo": matt digital print
+    INDIGO_GLOSSY = 0x2, ///< "indigo-glossy"
+    FOTOPAPER = 0x4, ///< "fotopaper": matt photo paper
+    FOTOPAPER_GLOSSY = 0x8, ///< "fotopaper-glossy"
+    FOTOPAPER_PREMIUM_MATT = 0x10, ///< "fotopaper-premium-matt"
+    PREMIUM = 0x20, ///< "premium"
+    PREMIUM_MATT = 0x40, ///< "premium-matt"
+    DIGITAL_PRINTING_RECYCLED = 0x80, ///< "digital_printing_recycled"
 };
 RV_DECLARE_ENUM_OPERATORS(RVPaperTypeEnum)
 
 extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVPaperTypeEnum>;
 
 /// The paper of a printed product. 0 is unknown; an unknown keyword stands for INDIGO, the paper that every press has.
+/// @ingroup attributes
 class RVPRODUCTBASE_EXPORT RVPaperType : public RVEnumWrapper<RVPaperTypeEnum>
 {
 public:
+    /// A value or several combined; none by default.
     RVPaperType(RVPaperTypeEnum value = UNKNOWN_PAPER) noexcept;
     /// From a keyword list such as "glossy"; an empty one is INDIGO.
     RVPaperType(const QString &text);
@@ -37,7 +40,7 @@ public:
 
     /// What the customer reads for exactly this value, else "unbekannter Papiertyp".
     QString humanReadableName() const;
-    static const RVDisplayNames<RVPaperType> &paperTypeNames();
+    static const RVDisplayNames<RVPaperType> &paperTypeNames(); ///< The table behind humanReadableName().
 
     /// From a fixed key, which is German and has no umlauts, to the text that the customer reads. The two may differ.
     static QHash<QString, QString> translatedPaperTypes();
@@ -50,6 +53,7 @@ private:
 
 Q_DECLARE_TYPEINFO(RVPaperType, Q_RELOCATABLE_TYPE);
 
+/// Prints the class and encodeCSV(), such as RVPaperType(indigo). @relates RVPaperType
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVPaperType &paperType);
 
 #endif

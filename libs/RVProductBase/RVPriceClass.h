@@ -7,25 +7,31 @@
 /**
  * The billing code of a chargeable item or add-on, such as "KUR2" or "premium_design", exactly as the catalogue gives
  * it. The empty code is no price class. Codes are case-sensitive and ordered as strings: "KUR10" before "KUR2".
+ *
+ * @ingroup pricing
  */
 class RVPriceClass
 {
 public:
-    RVPriceClass() = default;
-    RVPriceClass(const QString &code) : myCode(code) { }
+    RVPriceClass() = default; ///< No price class.
+    RVPriceClass(const QString &code) : myCode(code) { } ///< The code as it stands, blanks included.
 
+    /// The same as the constructor.
     static RVPriceClass create(const QString &code) { return RVPriceClass(code); }
 
-    bool isEmpty() const noexcept { return myCode.isEmpty(); }
-    bool isValid() const noexcept { return !myCode.isEmpty(); }
+    bool isEmpty() const noexcept { return myCode.isEmpty(); } ///< True without a code.
+    bool isValid() const noexcept { return !myCode.isEmpty(); } ///< True with a code, whether it is known or not.
     /// True for the empty code and for every code that begins with the digit 0: nothing is charged.
     bool isFree() const noexcept { return myCode.isEmpty() || myCode.front() == u'0'; }
 
-    QString toString() const { return myCode; }
+    QString toString() const { return myCode; } ///< The code as it was given.
 
+    /// By code; letter case counts.
+    /// @{
     friend bool operator==(const RVPriceClass &a, const RVPriceClass &b) noexcept { return a.myCode == b.myCode; }
     friend bool operator!=(const RVPriceClass &a, const RVPriceClass &b) noexcept { return a.myCode != b.myCode; }
     friend bool operator<(const RVPriceClass &a, const RVPriceClass &b) noexcept { return a.myCode < b.myCode; }
+    /// @}
 
 private:
     QString myCode;
@@ -33,6 +39,7 @@ private:
 
 Q_DECLARE_TYPEINFO(RVPriceClass, Q_RELOCATABLE_TYPE);
 
+/// By code. @relates RVPriceClass
 inline size_t qHash(const RVPriceClass &priceClass, size_t seed = 0) noexcept
 {
     return seed ^ qHash(priceClass.toString(), 0);

@@ -16,66 +16,87 @@ class RVSpotColor;
  *
  * A named group is built once and handed out as a shared copy; any thread may ask. The composite ones are put together
  * on every call.
+ *
+ * @ingroup pricing
  */
 class RVPRODUCTBASE_EXPORT RVPriceClassSet : public QSet<RVPriceClass>
 {
 public:
-    RVPriceClassSet() = default;
+    RVPriceClassSet() = default; ///< The empty set.
+    /// Shares the data of @p priceClasses.
     RVPriceClassSet(const QSet<RVPriceClass> &priceClasses);
-    RVPriceClassSet(const RVPriceClass &priceClass);
-    RVPriceClassSet(std::initializer_list<QString> codes);
+    RVPriceClassSet(const RVPriceClass &priceClass); ///< The set of this one, be it empty.
+    RVPriceClassSet(std::initializer_list<QString> codes); ///< Doubles count once.
     RVPriceClassSet(const RVPriceClassSet &) = default;
     RVPriceClassSet(RVPriceClassSet &&) = default;
     RVPriceClassSet &operator=(const RVPriceClassSet &) = default;
     RVPriceClassSet &operator=(RVPriceClassSet &&) = default;
     virtual ~RVPriceClassSet();
 
-    // Frames
-    static RVPriceClass framePassepartout();
-    static RVPriceClass frameGlass();
-    static RVPriceClass frameLamination();
-    static RVPriceClassSet frameGlasses();
+    /// @name Frames
+    /// @{
 
-    // Spot-colour finishes
-    static RVPriceClassSet spotColorGloss();
-    static RVPriceClassSet spotColorGoldSilver();
+    static RVPriceClass framePassepartout(); ///< TEV1
+    static RVPriceClass frameGlass(); ///< RUN1
+    static RVPriceClass frameLamination(); ///< DOS1
+    static RVPriceClassSet frameGlasses(); ///< Glass and lamination.
+    /// @}
+
+    /// @name Spot-colour finishes
+    /// @{
+
+    static RVPriceClassSet spotColorGloss(); ///< 19 codes of KUR.
+    static RVPriceClassSet spotColorGoldSilver(); ///< 30 codes of KUR: gold, silver and rose gold.
     /// Silver ink is not billed, so the group is empty.
     static RVPriceClassSet spotColorSilverInk();
-    static RVPriceClassSet spotColorAll();
+    static RVPriceClassSet spotColorAll(); ///< The two groups above.
     /// The group of one spot colour; empty for none, for a combination and for an unknown one.
     static RVPriceClassSet spotColorPriceClasses(const RVSpotColor &color);
+    /// @}
 
-    // Gifts
-    static RVPriceClassSet bookGiftBoxes();
-    static RVPriceClassSet bookGiftService();
-    static RVPriceClassSet calendarGiftService();
-    static RVPriceClassSet calendarGiftBoxes();
+    /// @name Gifts
+    /// @{
 
-    // Products and their parts
-    static RVPriceClassSet maps();
-    static RVPriceClassSet envelops();
-    static RVPriceClassSet calendarStrips();
-    static RVPriceClassSet calendarStandPriceClasses();
-    static RVPriceClassSet calendarFrameClasses();
-    static RVPriceClassSet posterWoodenStrips();
-    static RVPriceClassSet wallholderThatActsLikeAFrame();
-    static RVPriceClassSet wallholderPriceClasses();
-    static RVPriceClassSet memorabiliaPocketPriceClass();
-    static RVPriceClassSet artPrintBoxPriceClasses();
-    static RVPriceClassSet videoNames();
+    static RVPriceClassSet bookGiftBoxes(); ///< VEL4 to VEL7
+    static RVPriceClassSet bookGiftService(); ///< HAZ5 to HAZ8
+    static RVPriceClassSet calendarGiftService(); ///< HAZ9
+    static RVPriceClassSet calendarGiftBoxes(); ///< HAZ10 and HAZ11
+    /// @}
 
-    // Covers and pages
-    static RVPriceClassSet mattCoverPriceClasses();
-    static RVPriceClassSet linenCoverPriceClasses();
-    static RVPriceClassSet flyleafAndInsideCoverPriceClasses();
-    static RVPriceClassSet pxwPanoPagesPriceClasses();
-    static RVPriceClassSet pageIncrements();
+    /// @name Products and their parts
+    /// @{
 
-    // Design
-    static RVPriceClassSet pxwInnerPagesDesignPriceClasses();
-    static RVPriceClassSet pxwCoverDesignPriceClasses();
-    static RVPriceClassSet pxwNewDesignPriceClasses();
-    static RVPriceClassSet designPriceClasses();
+    static RVPriceClassSet maps(); ///< JOT1 and JOT51
+    static RVPriceClassSet envelops(); ///< YIB1 to YIB9
+    static RVPriceClassSet calendarStrips(); ///< NUS1 to NUS3
+    static RVPriceClassSet calendarStandPriceClasses(); ///< ZUD1
+    static RVPriceClassSet calendarFrameClasses(); ///< Strips, stand and the wall holder below.
+    static RVPriceClassSet posterWoodenStrips(); ///< BIX1 to BIX5
+    static RVPriceClassSet wallholderThatActsLikeAFrame(); ///< QO20
+    static RVPriceClassSet wallholderPriceClasses(); ///< 18 codes of QO.
+    static RVPriceClassSet memorabiliaPocketPriceClass(); ///< GEK1 to GEK8
+    static RVPriceClassSet artPrintBoxPriceClasses(); ///< TY64 and TY65
+    static RVPriceClassSet videoNames(); ///< MUL1 to MUL9 and MUL51 to MUL55
+    /// @}
+
+    /// @name Covers and pages
+    /// @{
+
+    static RVPriceClassSet mattCoverPriceClasses(); ///< KUR29 to KUR36
+    static RVPriceClassSet linenCoverPriceClasses(); ///< LEZ1 to LEZ6
+    static RVPriceClassSet flyleafAndInsideCoverPriceClasses(); ///< SAV1 to SAV13
+    static RVPriceClassSet pxwPanoPagesPriceClasses(); ///< WAF3
+    static RVPriceClassSet pageIncrements(); ///< RODA6x9 and KEMI62: one package of pages.
+    /// @}
+
+    /// @name Design
+    /// @{
+
+    static RVPriceClassSet pxwInnerPagesDesignPriceClasses(); ///< "premium_inner_pages_design"
+    static RVPriceClassSet pxwCoverDesignPriceClasses(); ///< "premium_cover_design"
+    static RVPriceClassSet pxwNewDesignPriceClasses(); ///< The two groups above.
+    static RVPriceClassSet designPriceClasses(); ///< All nine design add-ons.
+    /// @}
 
     /// True when some price class of @p other is in this set; false for an empty @p other.
     bool containsOneOf(const RVPriceClassSet &other) const;
@@ -84,7 +105,7 @@ public:
     QString toString() const;
 };
 
-/// The codes one after another, in no particular order.
+/// The codes one after another, in no particular order. @relates RVPriceClassSet
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVPriceClassSet &priceClasses);
 
 #endif

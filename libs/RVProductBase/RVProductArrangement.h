@@ -6,22 +6,24 @@
 
 class QDebug;
 
-/// The bit 2 is left out: it has neither a name nor a keyword.
+/// The bit 2 is left out: it has neither a name nor a keyword. @relates RVProductArrangement
 enum RVProductArrangementEnum : qint32 {
-    PRODUCT_ARRANGEMENT_TRIVIAL = 1,
-    PRODUCT_ARRANGEMENT_GIFT = 4,
-    PRODUCT_ARRANGEMENT_CARD = 8,
-    PRODUCT_ARRANGEMENT_PHOTOBOOK = 16,
-    PRODUCT_ARRANGEMENT_CALENDAR = 32,
+    PRODUCT_ARRANGEMENT_TRIVIAL = 1, ///< "trivial"
+    PRODUCT_ARRANGEMENT_GIFT = 4, ///< "gift"
+    PRODUCT_ARRANGEMENT_CARD = 8, ///< "card"
+    PRODUCT_ARRANGEMENT_PHOTOBOOK = 16, ///< "photobook"
+    PRODUCT_ARRANGEMENT_CALENDAR = 32, ///< "calendar"
 };
 RV_DECLARE_ENUM_OPERATORS(RVProductArrangementEnum)
 
 extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVProductArrangementEnum>;
 
 /// How products are grouped where they are presented. 0 is no group.
+/// @ingroup attributes
 class RVPRODUCTBASE_EXPORT RVProductArrangement : public RVEnumWrapper<RVProductArrangementEnum>
 {
 public:
+    /// A value or several combined; none by default.
     RVProductArrangement(RVProductArrangementEnum value = RVProductArrangementEnum(0)) noexcept;
     /// From a keyword list such as "gift, card".
     RVProductArrangement(const QString &text);
@@ -31,6 +33,7 @@ public:
 
 Q_DECLARE_TYPEINFO(RVProductArrangement, Q_RELOCATABLE_TYPE);
 
+/// Prints the class and encodeCSV(), such as RVProductArrangement(gift, card). @relates RVProductArrangement
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVProductArrangement &arrangement);
 
 #endif

@@ -13,6 +13,7 @@ using RVProductCheckerType = quint32;
 
 /// Says which products may be offered. The application implements it, registers it with RVProductCheckerRegistry and
 /// keeps owning it.
+/// @ingroup services
 class RVPRODUCTBASE_EXPORT RVProductChecker
 {
 public:

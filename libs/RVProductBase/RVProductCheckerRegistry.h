@@ -22,10 +22,13 @@ extern template class RVPRODUCTBASE_EXPORT RVSingleton<RVProductCheckerRegistry>
  *
  * Any thread may call isValid(), also a checker that is being asked. Checkers are registered and removed while no other
  * thread asks, typically when the application starts and ends.
+ *
+ * @ingroup services
  */
 class RVPRODUCTBASE_EXPORT RVProductCheckerRegistry : public RVSingleton<RVProductCheckerRegistry>
 {
 public:
+    /// Without checkers. Applications take instance() instead.
     RVProductCheckerRegistry();
     virtual ~RVProductCheckerRegistry();
 

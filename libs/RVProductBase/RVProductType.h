@@ -17,6 +17,8 @@ class RVPriceClass;
  *
  * Photo book codes are reduced to their family, so every size and variant of one book is one type: "DUN9_30" is
  * "DUN9".
+ *
+ * @ingroup geometry
  */
 class RVPRODUCTBASE_EXPORT RVProductType
 {
@@ -24,17 +26,19 @@ public:
     /// Finds the family in a photo book code.
     static const RVRegularExpression myBookRegExp;
 
-    RVProductType() = default;
+    RVProductType() = default; ///< The unknown type.
+    /// Any code; that of a photo book is reduced to its family.
     RVProductType(const QString &code);
 
+    /// From the billing code of a product.
     static RVProductType fromPriceClass(const RVPriceClass &priceClass);
     /// From the attribute "productname" of a project element; a project without one is a "DUN9".
     static RVProductType fromKtx(const QDomElement &project);
 
-    bool isUnknown() const noexcept { return myName.isEmpty(); }
-    bool isValid() const noexcept { return !myName.isEmpty(); }
-    bool isAgenda() const;
-    /// True also for an agenda.
+    bool isUnknown() const noexcept { return myName.isEmpty(); } ///< True without a code.
+    bool isValid() const noexcept { return !myName.isEmpty(); } ///< True with a code, be it in the catalogue or not.
+    bool isAgenda() const; ///< True for exactly "VIR29" and "VIR30".
+    /// True for every code that begins with "VIR", so also for an agenda.
     bool isCalendar() const;
     /// The stored hash; 0 for the unknown type.
     std::size_t calcHashValue() const noexcept { return myHashValue; }
@@ -45,8 +49,10 @@ public:
     QString orderTxtName() const;
 
     /// Names compare case-insensitively, but only where the case-sensitive hashes are equal: "dun" and "DUN" differ.
+    /// @{
     RVPRODUCTBASE_EXPORT friend bool operator==(const RVProductType &a, const RVProductType &b);
     friend bool operator!=(const RVProductType &a, const RVProductType &b) { return !(a == b); }
+    /// @}
     /// By hash, then by name: the same order in every run, but none to show.
     RVPRODUCTBASE_EXPORT friend bool operator<(const RVProductType &a, const RVProductType &b);
 
@@ -57,6 +63,7 @@ private:
 
 Q_DECLARE_TYPEINFO(RVProductType, Q_RELOCATABLE_TYPE);
 
+/// By calcHashValue(). @relates RVProductType
 inline std::size_t qHash(const RVProductType &type, std::size_t seed = 0) noexcept
 {
     return seed ^ type.calcHashValue();

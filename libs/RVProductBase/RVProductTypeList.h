@@ -10,10 +10,12 @@
 class QDebug;
 
 /// A list of product types, in the order in which they were added.
+/// @ingroup geometry
 class RVPRODUCTBASE_EXPORT RVProductTypeList : public QList<RVProductType>
 {
 public:
-    RVProductTypeList() = default;
+    RVProductTypeList() = default; ///< The empty list.
+    /// Shares the data of @p types.
     RVProductTypeList(const QList<RVProductType> &types);
     /// From codes; empty ones are skipped, doubles are kept.
     RVProductTypeList(const QList<QString> &codes);
@@ -21,9 +23,9 @@ public:
     /// From codes separated by commas; empty ones are skipped, doubles are kept.
     static RVProductTypeList buildFromCSV(const QString &csv);
 
-    bool containsAgenda() const;
-    bool containsCalendar() const;
-    /// True when some element is no calendar.
+    bool containsAgenda() const; ///< True when some element is an agenda.
+    bool containsCalendar() const; ///< True when some element is a calendar or an agenda.
+    /// True when some element is no calendar; false for an empty list.
     bool containsNotOnlyCalendars() const;
 
     /// Appends a type that the list does not hold yet. An unknown type is refused with a warning in the message log.
@@ -31,9 +33,10 @@ public:
     /// Adds each type of @p types. Cost grows with the product of the sizes.
     void addWithoutDoubles(const RVProductTypeList &types);
 
-    QStringList toStringList() const;
+    QStringList toStringList() const; ///< The codes, in their order.
 };
 
+/// Prints the codes. @relates RVProductTypeList
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVProductTypeList &types);
 
 #endif

@@ -16,6 +16,8 @@ class QJsonObject;
  * reader gives that finds no number; 0 is the combined transfer group.
  *
  * Read from and written to the products XML and JSON under "id".
+ *
+ * @ingroup pricing
  */
 class RVPRODUCTBASE_EXPORT RVShippingGroupId
 {
@@ -23,30 +25,37 @@ public:
     /// The name of the attribute and of the JSON key: "id".
     static const QString SHIPPING_GROUP_ID_KEY;
 
+    /// Any number; no group by default.
     constexpr RVShippingGroupId(int id = -1) noexcept : myId(id) { }
+    /// From a decimal number in the attribute, by default "id".
+    /// @{
     RVShippingGroupId(const QDomElement &element, const QString &attribute);
     RVShippingGroupId(const QDomElement &element);
     RVShippingGroupId(const QDomNamedNodeMap &attributes, const QString &attribute);
     RVShippingGroupId(const QDomNamedNodeMap &attributes);
+    /// @}
+    /// From a number under "id"; a text is no number.
     RVShippingGroupId(const QJsonObject &object);
 
-    /// From a decimal number.
+    /// From a decimal number, with or without blanks around it.
     static RVShippingGroupId createFrom(const QString &text);
 
-    constexpr int id() const noexcept { return myId; }
+    constexpr int id() const noexcept { return myId; } ///< The number itself, valid or not.
     /// True for everything but -1, other negative numbers included.
     constexpr bool isValid() const noexcept { return myId != -1; }
-    constexpr bool isCombinedTransfer() const noexcept { return myId == 0; }
+    constexpr bool isCombinedTransfer() const noexcept { return myId == 0; } ///< True for 0.
 
-    /// "id".
+    /// "id", the name under which every document keeps the number.
     static QString defaultKey();
 
-    QString toString() const;
-    void toXML(QDomElement &element) const;
-    void toJSON(QJsonObject &object) const;
+    QString toString() const; ///< In decimal.
+    void toXML(QDomElement &element) const; ///< Sets the attribute "id".
+    void toJSON(QJsonObject &object) const; ///< Sets "id" to the number.
     /// Writes toString(): the group is on the left, the stream on the right. createFrom() reads it back.
     QDataStream &operator<<(QDataStream &stream) const;
 
+    /// By number.
+    /// @{
     friend constexpr bool operator==(RVShippingGroupId a, RVShippingGroupId b) noexcept { return a.myId == b.myId; }
     friend constexpr bool operator==(RVShippingGroupId a, int b) noexcept { return a.myId == b; }
     friend constexpr bool operator!=(RVShippingGroupId a, RVShippingGroupId b) noexcept { return a.myId != b.myId; }
@@ -54,6 +63,7 @@ public:
     friend constexpr bool operator>(RVShippingGroupId a, RVShippingGroupId b) noexcept { return a.myId > b.myId; }
     friend constexpr bool operator<=(RVShippingGroupId a, RVShippingGroupId b) noexcept { return a.myId <= b.myId; }
     friend constexpr bool operator>=(RVShippingGroupId a, RVShippingGroupId b) noexcept { return a.myId >= b.myId; }
+    /// @}
 
 private:
     int myId;
@@ -61,6 +71,7 @@ private:
 
 Q_DECLARE_TYPEINFO(RVShippingGroupId, Q_RELOCATABLE_TYPE);
 
+/// Prints the number as a quoted text. @relates RVShippingGroupId
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVShippingGroupId &shippingGroupId);
 
 #endif

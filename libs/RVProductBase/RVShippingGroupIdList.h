@@ -7,12 +7,14 @@
 #include <QList>
 
 /// Shipping groups, in the order in which they were given; duplicates stay.
+/// @ingroup pricing
 class RVPRODUCTBASE_EXPORT RVShippingGroupIdList : public QList<RVShippingGroupId>
 {
 public:
-    RVShippingGroupIdList() = default;
+    RVShippingGroupIdList() = default; ///< The empty list.
+    /// Shares the data of @p ids.
     RVShippingGroupIdList(const QList<RVShippingGroupId> &ids);
-    RVShippingGroupIdList(const QList<int> &ids);
+    RVShippingGroupIdList(const QList<int> &ids); ///< One group a number.
     RVShippingGroupIdList(const RVShippingGroupIdList &) = default;
     RVShippingGroupIdList(RVShippingGroupIdList &&) = default;
     RVShippingGroupIdList &operator=(const RVShippingGroupIdList &) = default;

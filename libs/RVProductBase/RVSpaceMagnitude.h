@@ -10,23 +10,26 @@ class QFont;
 class RVOrientation;
 
 /// Named after their keywords, which give an area in cm². What a class measures by norm may differ.
+/// @relates RVSpaceMagnitude
 enum RVSpaceMagnitudeEnum : qint32 {
-    SPACE_MAGNITUDE_50CM2 = 1,
-    SPACE_MAGNITUDE_150CM2 = 2, ///< A6
-    SPACE_MAGNITUDE_200CM2 = 4,
-    SPACE_MAGNITUDE_220CM2 = 8,
-    SPACE_MAGNITUDE_280CM2 = 16,
-    SPACE_MAGNITUDE_310CM2 = 32, ///< A5
-    SPACE_MAGNITUDE_400CM2 = 64,
-    SPACE_MAGNITUDE_600CM2 = 128, ///< A4
-    SPACE_MAGNITUDE_900CM2 = 256,
-    SPACE_MAGNITUDE_1200CM2 = 512, ///< A3
-    SPACE_MAGNITUDE_2000CM2 = 1024,
-    SPACE_MAGNITUDE_2400CM2 = 2048, ///< A2
+    SPACE_MAGNITUDE_50CM2 = 1, ///< "50cm2"
+    SPACE_MAGNITUDE_150CM2 = 2, ///< "150cm2": A6
+    SPACE_MAGNITUDE_200CM2 = 4, ///< "200cm2"
+    SPACE_MAGNITUDE_220CM2 = 8, ///< "220cm2"
+    SPACE_MAGNITUDE_280CM2 = 16, ///< "280cm2"
+    SPACE_MAGNITUDE_310CM2 = 32, ///< "310cm2": A5
+    SPACE_MAGNITUDE_400CM2 = 64, ///< "400cm2"
+    SPACE_MAGNITUDE_600CM2 = 128, ///< "600cm2": A4
+    SPACE_MAGNITUDE_900CM2 = 256, ///< "900cm2"
+    SPACE_MAGNITUDE_1200CM2 = 512, ///< "1200cm2": A3
+    SPACE_MAGNITUDE_2000CM2 = 1024, ///< "2000cm2"
+    SPACE_MAGNITUDE_2400CM2 = 2048, ///< "2400cm2": A2
+    /// "normal": from 200 to 2400 cm² without the XL sizes.
     SPACE_MAGNITUDE_NORMAL = SPACE_MAGNITUDE_200CM2 | SPACE_MAGNITUDE_220CM2 | SPACE_MAGNITUDE_280CM2
             | SPACE_MAGNITUDE_310CM2 | SPACE_MAGNITUDE_400CM2 | SPACE_MAGNITUDE_600CM2 | SPACE_MAGNITUDE_1200CM2
             | SPACE_MAGNITUDE_2400CM2,
-    SPACE_MAGNITUDE_XL = SPACE_MAGNITUDE_900CM2 | SPACE_MAGNITUDE_2000CM2,
+    SPACE_MAGNITUDE_XL = SPACE_MAGNITUDE_900CM2 | SPACE_MAGNITUDE_2000CM2, ///< "xl"
+    /// Every size.
     SPACE_MAGNITUDE_ANY = SPACE_MAGNITUDE_NORMAL | SPACE_MAGNITUDE_XL | SPACE_MAGNITUDE_50CM2 | SPACE_MAGNITUDE_150CM2,
 };
 RV_DECLARE_ENUM_OPERATORS(RVSpaceMagnitudeEnum)
@@ -36,10 +39,13 @@ extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVSpaceMagnitudeEnum>;
 /**
  * The size class of a printable area, and what page layout makes of it. 0 is no size; an unknown keyword stands for
  * every size, and a value without a keyword is written as "any".
+ *
+ * @ingroup attributes
  */
 class RVPRODUCTBASE_EXPORT RVSpaceMagnitude : public RVEnumWrapper<RVSpaceMagnitudeEnum>
 {
 public:
+    /// A value or several combined; none by default.
     RVSpaceMagnitude(RVSpaceMagnitudeEnum value = RVSpaceMagnitudeEnum(0)) noexcept;
     /// From a keyword list such as "A4, A5"; an empty one is every size.
     RVSpaceMagnitude(const QString &text);
@@ -69,7 +75,7 @@ public:
 
     /// What the customer reads for exactly this value, else "Undefiniert".
     QString humanReadableName() const;
-    static const RVDisplayNames<RVSpaceMagnitude> &names();
+    static const RVDisplayNames<RVSpaceMagnitude> &names(); ///< The table behind humanReadableName().
 
     void fillTable(RVEnumToStringTable<RVSpaceMagnitudeEnum> *table) const override;
 
@@ -79,6 +85,7 @@ private:
 
 Q_DECLARE_TYPEINFO(RVSpaceMagnitude, Q_RELOCATABLE_TYPE);
 
+/// Prints encode() after the name of the class, in quotes. @relates RVSpaceMagnitude
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVSpaceMagnitude &magnitude);
 
 #endif

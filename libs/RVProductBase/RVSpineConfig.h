@@ -20,11 +20,13 @@ class QString;
  * Read from the products XML; by default without growth and all widths 0. It never changes, so copies share their
  * data, also between threads; moving one to a new object shares it as well. One that was assigned from as an rvalue may
  * only be destroyed or assigned to.
+ *
+ * @ingroup geometry
  */
 class RVPRODUCTBASE_EXPORT RVSpineConfig
 {
 public:
-    RVSpineConfig();
+    RVSpineConfig(); ///< Invalid, without any width.
     /// @p packagesPerBlock packages of pages make one block of growth; 0 for a spine that does not grow.
     RVSpineConfig(const RVPageCountOrganization &pageCountOrganization, int packagesPerBlock,
                   const RVDistance &baseWidth, const RVDistance &blockWidth, const RVDistance &additionalWidth);
@@ -41,6 +43,7 @@ public:
     bool isValid() const;
     /// Whole blocks of packages above the lowest page count; never negative for a valid configuration.
     int additionalPagePackageBlocks(unsigned pages) const;
+    /// The whole width, sides included, for any count; a count below the lowest gives the width at the lowest.
     RVDistance spineWidth(unsigned pages) const;
     /// The extra width on each side of the spine.
     RVDistance additionalSpineWidth() const;
@@ -51,8 +54,11 @@ public:
     /// An empty family is the default one. Without a QGuiApplication fonts cannot be measured: the smallest size.
     int spineMaxFontHeigth(unsigned pages, const QString &fontFamily) const;
 
+    /// By page counts, blocks and widths; widths compare as RVDistance does.
+    /// @{
     bool operator==(const RVSpineConfig &other) const;
     bool operator!=(const RVSpineConfig &other) const { return !(*this == other); }
+    /// @}
 
 private:
     explicit RVSpineConfig(const RVSpineConfigImpl *data);

@@ -11,9 +11,12 @@ class QDomElement;
 class QString;
 
 /// The shared data of RVSpineConfig, which documents the operations.
+/// @ingroup geometry
 class RVPRODUCTBASE_EXPORT RVSpineConfigImpl : public QSharedData
 {
 public:
+    /// As RVSpineConfig has them.
+    /// @{
     RVSpineConfigImpl() = default;
     RVSpineConfigImpl(const RVPageCountOrganization &pageCountOrganization, int packagesPerBlock,
                       const RVDistance &baseWidth, const RVDistance &blockWidth, const RVDistance &additionalWidth);
@@ -24,8 +27,11 @@ public:
 
     bool isValid() const;
     int additionalPagePackageBlocks(unsigned pages) const;
+    /// @}
     /// What the pages above the lowest count add to the spine.
     RVDistance additionalWithForPages(unsigned pages) const;
+    /// As RVSpineConfig has them.
+    /// @{
     RVDistance spineWidth(unsigned pages) const;
     RVDistance additionalSpineWidth() const { return additionalWidth; }
     int coverReduceSize() const;
@@ -33,8 +39,9 @@ public:
 
     bool operator==(const RVSpineConfigImpl &other) const;
     bool operator!=(const RVSpineConfigImpl &other) const { return !(*this == other); }
+    /// @}
 
-    RVPageCountOrganization pageCountOrganization;
+    RVPageCountOrganization pageCountOrganization; ///< the page counts of the product
     int packagesPerBlock = 0; ///< 0: the spine does not grow
     RVDistance baseWidth; ///< at the lowest page count
     RVDistance blockWidth; ///< added for every whole block of packages

@@ -26,6 +26,8 @@
  *
  * Decoding ignores letter case and white space around a keyword. The value -260570 marks a failed lookup, so no
  * enumeration may use it.
+ *
+ * @ingroup templates
  */
 template<typename ENUM>
 class Q_DECL_EXPORT RVEnumToStringTable

@@ -24,11 +24,14 @@
  *
  * So that an application and its plug-ins share one table, the shared library that owns E declares
  * `extern template class EXPORT RVEnumWrapper<E>;` in its header and instantiates it in one source.
+ *
+ * @ingroup templates
  */
 template<typename E>
 class Q_DECL_EXPORT RVEnumWrapper
 {
 public:
+    /// Any bits, whether they have a keyword or not.
     RVEnumWrapper(const E &value) noexcept : myValue(value) { }
     RVEnumWrapper(const RVEnumWrapper &) noexcept = default;
     RVEnumWrapper(RVEnumWrapper &&) noexcept = default;
@@ -38,6 +41,8 @@ public:
     // The order of the virtual operations is part of the binary interface.
     virtual ~RVEnumWrapper() = default;
 
+    /// Compares the values as signed numbers.
+    /// @{
     virtual bool operator<(const RVEnumWrapper &other) const { return bits() < other.bits(); }
     virtual bool operator<=(const RVEnumWrapper &other) const { return bits() <= other.bits(); }
     virtual bool operator>(const RVEnumWrapper &other) const { return bits() > other.bits(); }
@@ -45,19 +50,30 @@ public:
     virtual bool operator==(E value) const { return bits() == Bits(value); }
     virtual bool operator!=(const RVEnumWrapper &other) const { return bits() != other.bits(); }
     virtual bool operator!=(E value) const { return bits() != Bits(value); }
+    /// @}
+    /// Sets, respectively keeps only, the bits of the argument.
+    /// @{
     virtual RVEnumWrapper &operator|=(const RVEnumWrapper &other) { return assign(bits() | other.bits()); }
     virtual RVEnumWrapper &operator|=(E value) { return assign(bits() | Bits(value)); }
     virtual RVEnumWrapper &operator&=(const RVEnumWrapper &other) { return assign(bits() & other.bits()); }
     virtual RVEnumWrapper &operator&=(E value) { return assign(bits() & Bits(value)); }
+    /// @}
+    /// The common bits, respectively the bits of both, as a bare value.
+    /// @{
     virtual E operator&(const RVEnumWrapper &other) const { return E(bits() & other.bits()); }
     virtual E operator|(const RVEnumWrapper &other) const { return E(bits() | other.bits()); }
+    /// @}
 
     /// Clears the bits of the argument.
+    /// @{
     virtual RVEnumWrapper &exclude(const RVEnumWrapper &other) { return assign(bits() & ~other.bits()); }
     virtual RVEnumWrapper &exclude(E value) { return assign(bits() & ~Bits(value)); }
+    /// @}
     /// Sets the bits of the argument.
+    /// @{
     virtual RVEnumWrapper &expandTo(const RVEnumWrapper &other) { return expandTo(other.myValue); }
     virtual RVEnumWrapper &expandTo(E value) { return assign(bits() | Bits(value)); }
+    /// @}
     /// Keeps only the bits of the argument.
     virtual RVEnumWrapper &reduceTo(E value) { return assign(bits() & Bits(value)); }
     /// The common bits, the object unchanged.
@@ -70,20 +86,25 @@ public:
     /// keywords and leaves the table as it is.
     virtual void fillTable(RVEnumToStringTable<E> *) const { }
 
-    E value() const noexcept { return myValue; }
-    bool isNull() const noexcept { return bits() == 0; }
+    E value() const noexcept { return myValue; } ///< All bits together.
+    bool isNull() const noexcept { return bits() == 0; } ///< True for 0, whatever isValid() says.
     /// True when the value is exactly @p value.
     bool hasValue(const E &value) const noexcept { return myValue == value; }
     /// True when at least one bit is common; never for 0.
+    /// @{
     bool matches(E value) const noexcept { return (bits() & Bits(value)) != 0; }
     bool matches(const RVEnumWrapper &other) const noexcept { return matches(other.myValue); }
+    /// @}
     /// True when every bit of the argument is set; always for 0.
+    /// @{
     bool containsAll(E value) const noexcept { return (bits() & Bits(value)) == Bits(value); }
     bool containsAll(const RVEnumWrapper &other) const noexcept { return containsAll(other.myValue); }
+    /// @}
 
-    void setValue(E value) noexcept { myValue = value; }
+    void setValue(E value) noexcept { myValue = value; } ///< Replaces all bits.
     /// Stores and returns what decodeCSV() reads in @p text.
     E setValue(const QString &text);
+    /// Sets or clears the bits of @p bit.
     RVEnumWrapper &setBit(E bit, bool on) { return on ? expandTo(bit) : exclude(bit); }
     /// Inverts every bit that is set in @p other; none for a value below 1.
     RVEnumWrapper &toggleBits(const RVEnumWrapper &other);

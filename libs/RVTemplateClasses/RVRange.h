@@ -9,6 +9,8 @@
  * A closed interval of numbers, both bounds inclusive.
  *
  * A range with max < min is invalid and contains nothing. [0, 0] doubles as "not yet set" for expandTo().
+ *
+ * @ingroup templates
  */
 template<typename T>
 class Q_DECL_EXPORT RVRange
@@ -16,10 +18,11 @@ class Q_DECL_EXPORT RVRange
     static_assert(std::is_integral_v<T> && sizeof(T) <= sizeof(qint32), "center() adds the bounds in 64 bits");
 
 public:
-    T min = 0;
-    T max = 0;
+    T min = 0; ///< The lower bound, part of the range.
+    T max = 0; ///< The upper bound, part of the range.
 
-    RVRange() noexcept = default;
+    RVRange() noexcept = default; ///< [0, 0]
+    /// Any two bounds, also in the wrong order.
     RVRange(T lowest, T highest) noexcept : min(lowest), max(highest) { }
     RVRange(const RVRange &) noexcept = default;
     RVRange(RVRange &&) noexcept = default;
@@ -30,8 +33,11 @@ public:
     // isValid() and contains(value), so a subclass that redefines those two changes them too.
     virtual ~RVRange() = default;
 
+    /// By both bounds.
+    /// @{
     virtual bool operator==(const RVRange &other) const { return min == other.min && max == other.max; }
     virtual bool operator!=(const RVRange &other) const { return !(*this == other); }
+    /// @}
     /// By lower bound, then by upper bound; invalid ranges sort after all valid ones.
     virtual bool operator<(const RVRange &other) const;
     /// Grows just enough to contain @p value. [0, 0] counts as empty and becomes [value, value]. An invalid range is
@@ -39,7 +45,8 @@ public:
     virtual void expandTo(const T &value);
     /// Half of min + max, truncated toward zero: -1 for [-3, 0].
     virtual T center() const { return T((qint64(min) + qint64(max)) / 2); }
-    virtual bool isValid() const { return max >= min; }
+    virtual bool isValid() const { return max >= min; } ///< True also for a single value.
+    /// True for the bounds and all between them.
     virtual bool contains(const T &value) const { return min <= value && value <= max; }
     /// True when both bounds of @p other lie in this range.
     virtual bool contains(const RVRange &other) const { return contains(other.min) && contains(other.max); }

@@ -12,6 +12,8 @@
  * deleted: it outlives every object with static storage. The shared library that owns T declares
  * `extern template class EXPORT RVSingleton<T>;` in its header and instantiates it in one source, so that an
  * application and its plug-ins reach the same instance.
+ *
+ * @ingroup templates
  */
 template<typename T>
 class Q_DECL_EXPORT RVSingleton

@@ -7,6 +7,7 @@ class QDomElement;
 class QString;
 
 /// Appends child elements to XML elements.
+/// @ingroup platform
 class RVXML_EXPORT RVXMLBuilder
 {
 public:

@@ -13,19 +13,25 @@ class QString;
  *
  * A null element has no attributes. An attribute that is present and empty is an empty text, and no number. A number
  * that is not finite or does not fit its type counts as not a number, so the default stands. Nothing is reported.
+ *
+ * @ingroup platform
  */
 class RVXML_EXPORT RVXMLParser
 {
 public:
     /// The text as it stands. The last argument has no effect.
+    /// @{
     static QString attribute(const QDomElement &element, const QString &name, const QString &defaultValue,
                              bool = false);
     static QString attribute(const QDomNamedNodeMap &attributes, const QString &name, const QString &defaultValue,
                              bool = false);
+    /// @}
 
     /// A decimal number; white space around it is ignored.
+    /// @{
     static int intAttribute(const QDomElement &element, const QString &name, int defaultValue);
     static int intAttribute(const QDomNamedNodeMap &attributes, const QString &name, int defaultValue);
+    /// @}
 
     /// "true", "1", "yes" or "on", respectively "false", "0", "no" or "off", in any letter case.
     static bool boolAttribute(const QDomElement &element, const QString &name, bool defaultValue);
