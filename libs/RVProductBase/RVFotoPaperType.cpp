@@ -11,6 +11,7 @@ template class RVEnumWrapper<RVFotoPaperTypeEnum>;
 
 namespace {
 
+// clang-format off
 constexpr RVKeyword<RVFotoPaperTypeEnum> KEYWORDS[] = {
     { "0"_L1, NO_FOTO_PAPER },
     { "1"_L1, GLOSSY },
@@ -18,6 +19,7 @@ constexpr RVKeyword<RVFotoPaperTypeEnum> KEYWORDS[] = {
     { "2"_L1, MATT },
     { "matt"_L1, MATT },
 };
+// clang-format on
 
 }
 

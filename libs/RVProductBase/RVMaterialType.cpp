@@ -8,6 +8,7 @@ template class RVEnumWrapper<RVMaterialTypeEnum>;
 
 namespace {
 
+// clang-format off
 constexpr RVKeyword<RVMaterialTypeEnum> KEYWORDS[] = {
     { "notebook"_L1, MATERIAL_TYPE_NOTEBOOK },
     { "picture_box"_L1, MATERIAL_TYPE_PICTURE_BOX },
@@ -16,6 +17,7 @@ constexpr RVKeyword<RVMaterialTypeEnum> KEYWORDS[] = {
     { "retro_print"_L1, MATERIAL_TYPE_RETRO_PRINT },
     { "picture_bundle"_L1, MATERIAL_TYPE_PICTURE_BUNDLE },
 };
+// clang-format on
 
 }
 

@@ -10,6 +10,7 @@ template class RVEnumWrapper<RVPageAlignmentEnum>;
 
 namespace {
 
+// clang-format off
 constexpr RVKeyword<RVPageAlignmentEnum> KEYWORDS[] = {
     { "left"_L1, PAGE_ALIGNMENT_LEFT },
     { "leftpage"_L1, PAGE_ALIGNMENT_LEFT },
@@ -23,6 +24,7 @@ constexpr RVKeyword<RVPageAlignmentEnum> KEYWORDS[] = {
     { "cover"_L1, PAGE_ALIGNMENT_LEFT },
     { "coverpage"_L1, PAGE_ALIGNMENT_LEFT },
 };
+// clang-format on
 
 }
 

@@ -14,6 +14,7 @@ namespace {
 
 constexpr char CONTEXT[] = "RVPageBinding";
 
+// clang-format off
 constexpr RVKeyword<RVPageBindingEnum> KEYWORDS[] = {
     { "unknown"_L1, UNKNOWN },
     { "glue"_L1, GLUE },
@@ -23,6 +24,7 @@ constexpr RVKeyword<RVPageBindingEnum> KEYWORDS[] = {
     { "stapled"_L1, STAPLED },
     { "spiral"_L1, SPIRAL },
 };
+// clang-format on
 
 constexpr RVDisplayText<RVPageBindingEnum> NAMES[] = {
     { GLUE, QT_TRANSLATE_NOOP("RVPageBinding", "klassische Buchbindung") },

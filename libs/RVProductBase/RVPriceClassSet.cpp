@@ -144,8 +144,7 @@ RVPriceClassSet RVPriceClassSet::wallholderThatActsLikeAFrame()
 
 RVPriceClassSet RVPriceClassSet::wallholderPriceClasses()
 {
-    static const RVPriceClassSet set =
-            family("QO"_L1, { one(2), { 4, 12 }, { 16, 21 }, one(202), one(212) });
+    static const RVPriceClassSet set = family("QO"_L1, { one(2), { 4, 12 }, { 16, 21 }, one(202), one(212) });
     return set;
 }
 

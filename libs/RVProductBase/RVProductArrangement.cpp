@@ -8,6 +8,7 @@ template class RVEnumWrapper<RVProductArrangementEnum>;
 
 namespace {
 
+// clang-format off
 constexpr RVKeyword<RVProductArrangementEnum> KEYWORDS[] = {
     { "trivial"_L1, PRODUCT_ARRANGEMENT_TRIVIAL },
     { "gift"_L1, PRODUCT_ARRANGEMENT_GIFT },
@@ -15,6 +16,7 @@ constexpr RVKeyword<RVProductArrangementEnum> KEYWORDS[] = {
     { "photobook"_L1, PRODUCT_ARRANGEMENT_PHOTOBOOK },
     { "calendar"_L1, PRODUCT_ARRANGEMENT_CALENDAR },
 };
+// clang-format on
 
 }
 

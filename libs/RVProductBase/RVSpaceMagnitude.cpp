@@ -17,6 +17,7 @@ namespace {
 
 constexpr char CONTEXT[] = "RVSpaceMagnitude";
 
+// clang-format off
 constexpr RVKeyword<RVSpaceMagnitudeEnum> KEYWORDS[] = {
     { "50cm2"_L1, SPACE_MAGNITUDE_50CM2 },
     { "150cm2"_L1, SPACE_MAGNITUDE_150CM2 },
@@ -38,6 +39,7 @@ constexpr RVKeyword<RVSpaceMagnitudeEnum> KEYWORDS[] = {
     { "normal"_L1, SPACE_MAGNITUDE_NORMAL },
     { "xl"_L1, SPACE_MAGNITUDE_XL },
 };
+// clang-format on
 
 /// The smallest size class has no name.
 constexpr RVDisplayText<RVSpaceMagnitudeEnum> NAMES[] = {
@@ -60,6 +62,7 @@ constexpr struct
     int bound;
     RVSpaceMagnitudeEnum value;
 } AREA_BOUNDS[] = {
+    // clang-format off
     { 101, SPACE_MAGNITUDE_50CM2 },
     { 176, SPACE_MAGNITUDE_150CM2 },
     { 205, SPACE_MAGNITUDE_200CM2 },
@@ -71,6 +74,7 @@ constexpr struct
     { 951, SPACE_MAGNITUDE_900CM2 },
     { 1901, SPACE_MAGNITUDE_1200CM2 },
     { 2101, SPACE_MAGNITUDE_2000CM2 },
+    // clang-format on
 };
 
 }

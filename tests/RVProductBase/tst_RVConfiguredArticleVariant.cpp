@@ -410,8 +410,8 @@ void tst_RVConfiguredArticleVariant::writes()
 void tst_RVConfiguredArticleVariant::merges()
 {
     RVConfiguredArticleVariant changed(element(COMPLETE));
-    const RVConfiguredArticleVariant other(element(
-            u"key='k' key_name='kn' value='v' value_name='vn' editor_name='en' preview='p' color='#445566'"_s));
+    const RVConfiguredArticleVariant other(
+            element(u"key='k' key_name='kn' value='v' value_name='vn' editor_name='en' preview='p' color='#445566'"_s));
     changed.merge(other);
     QCOMPARE(changed.preview(), u"p"_s);
     QCOMPARE(changed.color(), QColor(0x44, 0x55, 0x66));

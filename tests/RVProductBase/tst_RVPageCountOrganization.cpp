@@ -70,10 +70,10 @@ void tst_RVPageCountOrganization::fields_data()
     QTest::newRow("default") << RVPageCountOrganization() << 0 << 0 << 0;
     QTest::newRow("photo book") << organization(26, 154, 4) << 26 << 154 << 4;
     QTest::newRow("inverted") << organization(5, 2, -1) << 5 << 2 << -1;
-    QTest::newRow("advent calendar") << RVPageCountOrganization::createForAdventCalendarWithDoorBackPrint()
-                                     << 25 << 25 << 0;
-    QTest::newRow("card with inserted photo") << RVPageCountOrganization::createForCardWithInsertedFoto()
-                                              << 3 << 3 << 0;
+    QTest::newRow("advent calendar") << RVPageCountOrganization::createForAdventCalendarWithDoorBackPrint() << 25 << 25
+                                     << 0;
+    QTest::newRow("card with inserted photo")
+            << RVPageCountOrganization::createForCardWithInsertedFoto() << 3 << 3 << 0;
 }
 
 void tst_RVPageCountOrganization::fields()
@@ -220,10 +220,10 @@ void tst_RVPageCountOrganization::packages_data()
     QTest::newRow("highest that fits") << organization(7, 7, 4) << 536870910 << 2147483647;
     QTest::newRow("too many") << organization(26, 154, 4) << INT_HIGHEST << INT_HIGHEST;
     QTest::newRow("too few") << organization(26, 154, 4) << INT_LOWEST << INT_LOWEST;
-    QTest::newRow("highest increment") << organization(INT_HIGHEST, INT_HIGHEST, INT_HIGHEST)
-                                       << INT_HIGHEST << INT_HIGHEST;
-    QTest::newRow("lowest increment") << organization(INT_HIGHEST, INT_HIGHEST, INT_LOWEST)
-                                      << INT_LOWEST << INT_HIGHEST;
+    QTest::newRow("highest increment") << organization(INT_HIGHEST, INT_HIGHEST, INT_HIGHEST) << INT_HIGHEST
+                                       << INT_HIGHEST;
+    QTest::newRow("lowest increment") << organization(INT_HIGHEST, INT_HIGHEST, INT_LOWEST) << INT_LOWEST
+                                      << INT_HIGHEST;
 }
 
 void tst_RVPageCountOrganization::packages()
@@ -333,10 +333,10 @@ void tst_RVPageCountOrganization::subtract_data()
     QTest::newRow("negative") << book << -4 << organization(30, 158, 4);
     QTest::newRow("highest integer") << book << INT_HIGHEST << book;
     QTest::newRow("lowest integer") << book << INT_LOWEST << organization(INT_HIGHEST, INT_HIGHEST, 4);
-    QTest::newRow("lowest integer from a negative one") << organization(-5, -5, 0) << INT_LOWEST
-                                                        << organization(2147483643, 2147483643, 0);
-    QTest::newRow("upper bound at its limit") << organization(26, INT_HIGHEST, 4) << -4
-                                              << organization(30, INT_HIGHEST, 4);
+    QTest::newRow("lowest integer from a negative one")
+            << organization(-5, -5, 0) << INT_LOWEST << organization(2147483643, 2147483643, 0);
+    QTest::newRow("upper bound at its limit")
+            << organization(26, INT_HIGHEST, 4) << -4 << organization(30, INT_HIGHEST, 4);
     QTest::newRow("nothing from an empty one") << RVPageCountOrganization() << 0 << RVPageCountOrganization();
     QTest::newRow("up from an empty one") << RVPageCountOrganization() << -1 << organization(1, 1, 0);
     QTest::newRow("only the lower bound counts") << organization(20, 5, 0) << 15 << organization(5, -10, 0);
@@ -379,8 +379,7 @@ void tst_RVPageCountOrganization::productsXml_data()
     QTest::addColumn<QString>("xml");
     QTest::addColumn<RVPageCountOrganization>("organization");
     QTest::newRow("no attributes") << u"<product/>"_s << organization(1, 1, 0);
-    QTest::newRow("photo book") << u"<product pages='26' max_pages='154' page_step='4'/>"_s
-                                << organization(26, 154, 4);
+    QTest::newRow("photo book") << u"<product pages='26' max_pages='154' page_step='4'/>"_s << organization(26, 154, 4);
     QTest::newRow("lowest only") << u"<product pages='26'/>"_s << organization(26, 26, 0);
     QTest::newRow("highest only") << u"<product max_pages='20'/>"_s << organization(1, 20, 0);
     QTest::newRow("increment only") << u"<product page_step='4'/>"_s << organization(1, 1, 4);
@@ -399,8 +398,8 @@ void tst_RVPageCountOrganization::productsXml_data()
     QTest::newRow("too large") << u"<product pages='2147483648'/>"_s << organization(1, 1, 0);
     QTest::newRow("inverted") << u"<product pages='26' max_pages='2'/>"_s << organization(26, 2, 0);
     QTest::newRow("zero") << u"<product pages='0'/>"_s << organization(0, 0, 0);
-    QTest::newRow("attributes of a child") << u"<product><spine pages='26' page_step='4'/></product>"_s
-                                           << organization(1, 1, 0);
+    QTest::newRow("attributes of a child")
+            << u"<product><spine pages='26' page_step='4'/></product>"_s << organization(1, 1, 0);
     QTest::newRow("other letter case") << u"<product Pages='26' PAGE_STEP='4'/>"_s << organization(1, 1, 0);
 }
 

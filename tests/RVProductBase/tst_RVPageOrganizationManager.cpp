@@ -84,9 +84,9 @@ class PartingCalculator : public RVPageOrganizationCalculator
 {
 public:
     PartingCalculator(RVPageOrganizationManager *manager, int *lastAnswer)
-        : myManager(manager), myLastAnswer(lastAnswer)
-    {
-    }
+        : myManager(manager),
+          myLastAnswer(lastAnswer)
+    { }
     ~PartingCalculator() override { *myLastAnswer = myManager->pageCountOrganzation(u"30"_s).minPages(); }
 
     RVPageCountOrganization calculate(const RVProductType &) override { return RVPageCountOrganization(); }
@@ -169,8 +169,7 @@ void tst_RVPageOrganizationManager::withoutCalculator()
     QCOMPARE(*empty, organization(0, 0, 0));
     QVERIFY(!empty->isValid());
     QCOMPARE(manager.pageCountOrganzation(RVProductType(u"DUN9"_s)), organization(0, 0, 0));
-    const std::unique_ptr<RVPageCountOrganization> created(
-            manager.createPageOrganization(RVProductType(u"DUN9"_s)));
+    const std::unique_ptr<RVPageCountOrganization> created(manager.createPageOrganization(RVProductType(u"DUN9"_s)));
     QCOMPARE(*created, organization(0, 0, 0));
 
     Log log;
@@ -292,8 +291,7 @@ void tst_RVPageOrganizationManager::clearsTheCacheOnSignal()
     Log log;
     RVPageOrganizationManager manager;
     manager.setCalculator(new Calculator(&log, always(26, 154, 4)));
-    connect(this, &tst_RVPageOrganizationManager::catalogueReloaded, &manager,
-            &RVPageOrganizationManager::clearCache);
+    connect(this, &tst_RVPageOrganizationManager::catalogueReloaded, &manager, &RVPageOrganizationManager::clearCache);
     manager.organization(RVProductType(u"DUN9"_s));
     Q_EMIT catalogueReloaded();
     manager.organization(RVProductType(u"DUN9"_s));
@@ -460,9 +458,8 @@ void tst_RVPageOrganizationManager::manyThreadsAskAtOnce()
     constexpr int typeCount = 50;
     Log log;
     RVPageOrganizationManager manager;
-    manager.setCalculator(new Calculator(&log, [](const RVProductType &type) {
-        return organization(type.toString().toInt(), 154, 4);
-    }));
+    manager.setCalculator(new Calculator(
+            &log, [](const RVProductType &type) { return organization(type.toString().toInt(), 154, 4); }));
     RVPageCountOrganization *seen[threadCount][typeCount] = {};
     inThreads([&manager, &seen](int thread) {
         for (int i = 0; i < typeCount; ++i)

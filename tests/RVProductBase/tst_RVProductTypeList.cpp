@@ -108,8 +108,8 @@ void tst_RVProductTypeList::fromCodes_data()
     QTest::newRow("order kept") << QStringList { u"VIR30"_s, u"DUN3"_s, u"KUR2"_s }
                                 << QStringList { u"VIR30"_s, u"DUN3"_s, u"KUR2"_s };
     QTest::newRow("doubles kept") << QStringList { u"VIR30"_s, u"VIR30"_s } << QStringList { u"VIR30"_s, u"VIR30"_s };
-    QTest::newRow("reduced to one family") << QStringList { u"DUN9_30"_s, u"DUN9XL"_s }
-                                           << QStringList { u"DUN9"_s, u"DUN9"_s };
+    QTest::newRow("reduced to one family")
+            << QStringList { u"DUN9_30"_s, u"DUN9XL"_s } << QStringList { u"DUN9"_s, u"DUN9"_s };
     QTest::newRow("empty ones") << QStringList { u""_s, u"VIR30"_s, QString(), u""_s } << QStringList { u"VIR30"_s };
     QTest::newRow("only empty ones") << QStringList { u""_s, QString() } << QStringList();
     QTest::newRow("blank") << QStringList { u" "_s } << QStringList { u" "_s };
@@ -240,10 +240,10 @@ void tst_RVProductTypeList::addsList_data()
     QTest::addColumn<int>("warnings");
     QTest::newRow("both empty") << QStringList() << QStringList() << QStringList() << 0;
     QTest::newRow("empty to some") << QStringList { u"A"_s } << QStringList() << QStringList { u"A"_s } << 0;
-    QTest::newRow("new ones in their order") << QStringList { u"A"_s } << QStringList { u"C"_s, u"B"_s }
-                                             << QStringList { u"A"_s, u"C"_s, u"B"_s } << 0;
-    QTest::newRow("doubles within the added") << QStringList() << QStringList { u"A"_s, u"B"_s, u"A"_s }
-                                              << QStringList { u"A"_s, u"B"_s } << 0;
+    QTest::newRow("new ones in their order")
+            << QStringList { u"A"_s } << QStringList { u"C"_s, u"B"_s } << QStringList { u"A"_s, u"C"_s, u"B"_s } << 0;
+    QTest::newRow("doubles within the added")
+            << QStringList() << QStringList { u"A"_s, u"B"_s, u"A"_s } << QStringList { u"A"_s, u"B"_s } << 0;
     QTest::newRow("some known") << QStringList { u"A"_s, u"B"_s } << QStringList { u"B"_s, u"C"_s, u"A"_s }
                                 << QStringList { u"A"_s, u"B"_s, u"C"_s } << 0;
     QTest::newRow("unknown ones between") << QStringList { u"A"_s } << QStringList { u""_s, u"B"_s, QString() }
