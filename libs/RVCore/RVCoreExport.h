@@ -3,6 +3,7 @@
 
 #include <QtGlobal>
 
+/// Marks what the library offers to others.
 #ifdef RVCORE_LIBRARY
 #    define RVCORE_EXPORT Q_DECL_EXPORT
 #else

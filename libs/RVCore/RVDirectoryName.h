@@ -5,15 +5,15 @@
 
 class QString;
 
-/// What a directory holds. @relates RVDirectoryName
+/// The directories, each with its name. @ingroup platform
 enum RVDirectoryNameEnum : qint32 {
-    DIRECTORY_CLIPARTS = 2,
-    DIRECTORY_STYLES = 4,
-    DIRECTORY_BACKGROUNDS = 8,
-    DIRECTORY_FORMPARAMETERS = 16,
-    DIRECTORY_LAYOUTS = 64,
-    DIRECTORY_DESIGNS = 65536,
-    DIRECTORY_TEMPLATES = 131072,
+    DIRECTORY_CLIPARTS = 2, ///< "cliparts"
+    DIRECTORY_STYLES = 4, ///< "styles"
+    DIRECTORY_BACKGROUNDS = 8, ///< "backgrounds"
+    DIRECTORY_FORMPARAMETERS = 16, ///< "formparameters"
+    DIRECTORY_LAYOUTS = 64, ///< "layouts"
+    DIRECTORY_DESIGNS = 65536, ///< "designs"
+    DIRECTORY_TEMPLATES = 131072, ///< "templates"
 };
 
 /// One of the directories that downloaded design content goes to. 0 is no directory.

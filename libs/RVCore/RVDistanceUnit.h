@@ -5,13 +5,13 @@
 
 class QString;
 
-/// The units and their codes. @relates RVDistanceUnit
+/// The units and their codes, each with the text that stands for it. @ingroup platform
 enum RVDistanceUnitEnum : qint32 {
-    DISTANCE_UNIT_TENTH_MILLIMETRE = 1, ///< the base unit
-    DISTANCE_UNIT_MILLIMETRE = 2,
-    DISTANCE_UNIT_INCH = 4,
-    DISTANCE_UNIT_CENTIMETRE = 8,
-    DISTANCE_UNIT_POINT = 16, ///< 1/72 inch
+    DISTANCE_UNIT_TENTH_MILLIMETRE = 1, ///< "0.1mm", the base unit
+    DISTANCE_UNIT_MILLIMETRE = 2, ///< "mm"
+    DISTANCE_UNIT_INCH = 4, ///< "inch"
+    DISTANCE_UNIT_CENTIMETRE = 8, ///< "cm"
+    DISTANCE_UNIT_POINT = 16, ///< "pt", 1/72 inch
 };
 
 /// A unit of length. Every length is stored in the base unit, a tenth of a millimetre.

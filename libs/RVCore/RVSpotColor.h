@@ -4,7 +4,7 @@
 #include "RVCoreExport.h"
 #include "RVEnumWrapper.h"
 
-/// The values of RVSpotColor, each with the keyword that writes it. @relates RVSpotColor
+/// The values of RVSpotColor, each with the keyword that writes it. @ingroup attributes
 enum RVSpotColorEnum : qint32 {
     SPOT_COLOR_GLOSS = 1, ///< "gloss"
     SPOT_COLOR_GOLD = 2, ///< "gold"

@@ -9,7 +9,7 @@ class QDomElement;
 class QVariant;
 class RVShippingGroupId;
 
-/// The values of RVArticleClass, each with the keyword that writes it. @relates RVArticleClass
+/// The values of RVArticleClass, each with the keyword that writes it. @ingroup attributes
 enum RVArticleClassEnum : qint64 {
     ARTICLE_CLASS_NONE = 0x0, ///< "none"
     ARTICLE_CLASS_BOOK = 0x1, ///< "book"

@@ -14,8 +14,8 @@ class QJsonArray;
 /**
  * The options that configure an article, key to value: {"alcolor" = "red", "coverphoto" = "yes"}.
  *
- * Read from and written to project files, order texts, order transfer and JSON; malformed pieces of a text are skipped
- * without a message. Without an option it is invalid.
+ * Read from project files, JSON and XML attributes, written to project files, order texts and order transfer; malformed
+ * pieces of a text are skipped without a message. Without an option it is invalid.
  *
  * A composite option has several keys joined with ";" and as many values: {"a;b" = "x;y"}. toXTCI() and toOrderTxt()
  * expand it, everything else treats it as one option. The options have no order: values(), toKTX() and toOrderTxt()

@@ -9,7 +9,7 @@
 class RVPriceClassSet;
 
 /// What a project contains that costs extra: its map and video areas, and the add-ons that were bought, with their
-/// quantities.
+/// quantities. The editor fills it when a project is priced; it comes from no file.
 /// @ingroup articles
 class RVPRODUCTBASE_EXPORT RVContentStatistic
 {

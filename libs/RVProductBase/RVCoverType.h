@@ -7,7 +7,7 @@
 
 class QDebug;
 
-/// The values of RVCoverType, each with the keyword that writes it. @relates RVCoverType
+/// The values of RVCoverType, each with the keyword that writes it. @ingroup attributes
 enum RVCoverTypeEnum : qint64 {
     HARDCOVER = 0x1, ///< "HARDCOVER"
     SOFTCOVER = 0x2, ///< "SOFTCOVER"

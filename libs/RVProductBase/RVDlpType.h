@@ -6,7 +6,7 @@
 
 class QDebug;
 
-/// The values of RVDlpType, each with the keyword that writes it. @relates RVDlpType
+/// The values of RVDlpType, each with the keyword that writes it. @ingroup attributes
 enum RVDlpTypeEnum : qint32 {
     DLP_TYPE_BACKGROUND = 1, ///< "background"
     DLP_TYPE_STYLE_V2 = 2, ///< "style_v2"

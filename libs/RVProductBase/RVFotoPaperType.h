@@ -9,7 +9,7 @@
 class QDebug;
 class RVArticleClass;
 
-/// The values of RVFotoPaperType, each with the keyword that writes it. @relates RVFotoPaperType
+/// The values of RVFotoPaperType, each with the keyword that writes it. @ingroup attributes
 enum RVFotoPaperTypeEnum : qint32 {
     NO_FOTO_PAPER = 0, ///< "0"
     GLOSSY = 0x1, ///< "1"

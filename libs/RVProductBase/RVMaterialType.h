@@ -6,7 +6,7 @@
 
 class QDebug;
 
-/// The values of RVMaterialType, each with the keyword that writes it. @relates RVMaterialType
+/// The values of RVMaterialType, each with the keyword that writes it. @ingroup attributes
 enum RVMaterialTypeEnum : qint64 {
     MATERIAL_TYPE_NOTEBOOK = 1, ///< "notebook"
     MATERIAL_TYPE_PICTURE_BOX = 2, ///< "picture_box"

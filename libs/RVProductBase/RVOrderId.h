@@ -9,7 +9,7 @@ class QDataStream;
 class QDebug;
 
 /// The id of an order, as the ordering service issued it. A null text is no order; an empty one is an order all the
-/// same.
+/// same. Written to streams as its text; the library never reads it back.
 /// @ingroup pricing
 class RVPRODUCTBASE_EXPORT RVOrderId
 {

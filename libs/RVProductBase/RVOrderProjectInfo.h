@@ -9,7 +9,8 @@
 class QDataStream;
 class QDebug;
 
-/// Ties a project of the user to the order that it was sent with, or asks for its order data to be deleted.
+/// Ties a project of the user to the order that it was sent with, or asks for its order data to be deleted. Written to
+/// streams; a reader makes it anew from what was written.
 /// @ingroup pricing
 class RVPRODUCTBASE_EXPORT RVOrderProjectInfo
 {

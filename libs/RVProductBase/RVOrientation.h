@@ -9,7 +9,7 @@ class QDomElement;
 class QSizeF;
 class RVAngle;
 
-/// The values of RVOrientation, each with the keyword that writes it. @relates RVOrientation
+/// The values of RVOrientation, each with the keyword that writes it. @ingroup attributes
 enum RVOrientationEnum : qint32 {
     ORIENTATION_NONE = 0, ///< "none"
     ORIENTATION_PORTRAIT = 1, ///< "portrait"

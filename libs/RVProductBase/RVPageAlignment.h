@@ -6,7 +6,7 @@
 
 class QDebug;
 
-/// The values of RVPageAlignment, each with the keyword that writes it. @relates RVPageAlignment
+/// The values of RVPageAlignment, each with the keyword that writes it. @ingroup attributes
 enum RVPageAlignmentEnum : qint32 {
     PAGE_ALIGNMENT_LEFT = 1, ///< "left"
     PAGE_ALIGNMENT_RIGHT = 2, ///< "right"

@@ -8,7 +8,7 @@
 class QDebug;
 class QDomElement;
 
-/// The values of RVPageBinding, each with the keyword that writes it. @relates RVPageBinding
+/// The values of RVPageBinding, each with the keyword that writes it. @ingroup attributes
 enum RVPageBindingEnum : qint32 {
     UNKNOWN = 0, ///< "unknown"
     GLUE = 0x1, ///< "glue": the classic binding of a book
@@ -34,8 +34,8 @@ public:
     QString humanReadableName() const;
     static const RVDisplayNames<RVPageBinding> &pageBindingNames(); ///< The table behind humanReadableName().
 
-    /// Appends an element "pageBinding" with encodeCSV(), but only for a binding without a bit of GLUE, LAYFLAT and
-    /// STAPLED: templates name none but the spiral.
+    /// Appends an element "pageBinding" with encodeCSV(), but only for a binding that is known and has no bit of GLUE,
+    /// LAYFLAT and STAPLED: templates name none but the spiral.
     void toTemplates2Format(QDomElement &parent) const;
 
     void fillTable(RVEnumToStringTable<RVPageBindingEnum> *table) const override;

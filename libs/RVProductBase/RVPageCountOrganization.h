@@ -11,7 +11,7 @@ class QString;
 /**
  * The page counts that a product may have: from a lowest to a highest count in steps of the page increment. A photo
  * book with 26 to 154 pages in steps of 4 is ([26, 154], 4); an increment of 0 means a fixed count. The default, [0, 0]
- * with increment 0, is invalid. Boxes of prints count photos in the same way.
+ * with increment 0, is invalid. Boxes of prints count photos in the same way. Read from the products XML.
  *
  * Page counts are pages; a package is what one increment adds. Results stay within the int limits.
  *

@@ -4,7 +4,8 @@
 #include "RVPageContext.h"
 #include "RVProductBaseExport.h"
 
-/// What the size of a page depends on: what page it is, and how many pages the product has.
+/// What the size of a page depends on: what page it is, and how many pages the product has. The application keeps page
+/// sizes under it.
 /// @ingroup geometry
 class RVPRODUCTBASE_EXPORT RVPageSizeKey
 {

@@ -9,7 +9,7 @@
 class QDebug;
 class RVSpotColor;
 
-/// The values of RVPageType, each with the keyword that writes it. @relates RVPageType
+/// The values of RVPageType, each with the keyword that writes it. @ingroup attributes
 enum RVPageTypeEnum : qint32 {
     PAGE_TYPE_SPINE = 0x1, ///< "spine"
     PAGE_TYPE_CARDFRONT = 0x2, ///< "cardfront"

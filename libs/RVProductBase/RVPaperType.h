@@ -9,7 +9,7 @@
 
 class QDebug;
 
-/// The values of RVPaperType, each with the keyword that writes it. @relates RVPaperType
+/// The values of RVPaperType, each with the keyword that writes it. @ingroup attributes
 enum RVPaperTypeEnum : qint32 {
     UNKNOWN_PAPER = 0, ///< "unbekanntes Papier"
     INDIGO = 0x1, ///< "indigo": matt digital print

@@ -45,11 +45,11 @@ public:
     /// @name Spot-colour finishes
     /// @{
 
-    static RVPriceClassSet spotColorGloss(); ///< 19 codes of KUR.
-    static RVPriceClassSet spotColorGoldSilver(); ///< 30 codes of KUR: gold, silver and rose gold.
+    static RVPriceClassSet spotColorGloss(); ///< 19 codes that begin with KUR.
+    static RVPriceClassSet spotColorGoldSilver(); ///< 30 codes that begin with KUR: gold, silver and rose gold.
     /// Silver ink is not billed, so the group is empty.
     static RVPriceClassSet spotColorSilverInk();
-    static RVPriceClassSet spotColorAll(); ///< The two groups above.
+    static RVPriceClassSet spotColorAll(); ///< All groups above.
     /// The group of one spot colour; empty for none, for a combination and for an unknown one.
     static RVPriceClassSet spotColorPriceClasses(const RVSpotColor &color);
     /// @}
@@ -73,7 +73,7 @@ public:
     static RVPriceClassSet calendarFrameClasses(); ///< Strips, stand and the wall holder below.
     static RVPriceClassSet posterWoodenStrips(); ///< BIX1 to BIX5
     static RVPriceClassSet wallholderThatActsLikeAFrame(); ///< QO20
-    static RVPriceClassSet wallholderPriceClasses(); ///< 18 codes of QO.
+    static RVPriceClassSet wallholderPriceClasses(); ///< 18 codes that begin with QO.
     static RVPriceClassSet memorabiliaPocketPriceClass(); ///< GEK1 to GEK8
     static RVPriceClassSet artPrintBoxPriceClasses(); ///< TY64 and TY65
     static RVPriceClassSet videoNames(); ///< MUL1 to MUL9 and MUL51 to MUL55

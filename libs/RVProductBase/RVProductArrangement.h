@@ -6,7 +6,7 @@
 
 class QDebug;
 
-/// The bit 2 is left out: it has neither a name nor a keyword. @relates RVProductArrangement
+/// The bit 2 is left out: it has neither a name nor a keyword. @ingroup attributes
 enum RVProductArrangementEnum : qint32 {
     PRODUCT_ARRANGEMENT_TRIVIAL = 1, ///< "trivial"
     PRODUCT_ARRANGEMENT_GIFT = 4, ///< "gift"

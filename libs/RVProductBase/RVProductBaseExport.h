@@ -3,6 +3,7 @@
 
 #include <QtGlobal>
 
+/// Marks what the library offers to others.
 #ifdef RVPRODUCTBASE_LIBRARY
 #    define RVPRODUCTBASE_EXPORT Q_DECL_EXPORT
 #else

@@ -10,7 +10,7 @@ class QFont;
 class RVOrientation;
 
 /// Named after their keywords, which give an area in cm². What a class measures by norm may differ.
-/// @relates RVSpaceMagnitude
+/// @ingroup attributes
 enum RVSpaceMagnitudeEnum : qint32 {
     SPACE_MAGNITUDE_50CM2 = 1, ///< "50cm2"
     SPACE_MAGNITUDE_150CM2 = 2, ///< "150cm2": A6
@@ -59,7 +59,7 @@ public:
 
     /// How many images one page takes at most; 1 for anything but exactly one size class that is known to take more.
     int maxReasonableImagesPerPage() const;
-    /// A font size in points that suits exactly this size class.
+    /// A font size in points that suits exactly this size class, from 12 to 32; 12 for anything else.
     int suitableFontSizeInPoints() const;
     /// The area of exactly this size class in cm²; 0 for anything else.
     int normativeSize() const;
@@ -68,7 +68,7 @@ public:
     double scaleFactorForArea(const RVSpaceMagnitude &other) const;
     /// The square root of that, for lengths.
     double scaleFactorPerDimension(const RVSpaceMagnitude &other) const;
-    /// How many photos look best on a page of exactly this size class.
+    /// How many photos look best on a page of exactly this size class, from 1.5 to 4; 2.1 for anything else.
     double optimumFotosPerPage(const RVOrientation &orientation) const;
     /// The font scaled from this size class to another. It stays as it is where no size would come out of that.
     QFont adaptFont(const QFont &font, const RVSpaceMagnitude &target) const;

@@ -3,6 +3,7 @@
 
 #include <QtGlobal>
 
+/// Marks what the library offers to others.
 #ifdef RVXML_LIBRARY
 #    define RVXML_EXPORT Q_DECL_EXPORT
 #else
