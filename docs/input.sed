@@ -1,0 +1,13 @@
+# What doxygen reads instead of the file, line by line.
+# Names outside of classes need a text only in a file that has one.
+1s,^#ifndef,/** @file */ #ifndef,
+# A template is described once, not again for each argument.
+s/^extern template.*//
+s/^(class .*: public RV\w+)<\w+>/\1/
+s/(, public RV\w+)<\w+>$/\1/
+# What the compiler writes, and what RVEnumWrapper describes for all attributes, needs no words.
+s/^ *RV\w+\((const )?RV\w+ &&?\)( noexcept)? = default;$//
+s/^ *RV\w+ &operator=\((const )?RV\w+ &&?\)( noexcept)? = default;$//
+s/^ *void fillTable\(.*\) const override;$//
+# Links that leave the documentation lead nowhere.
+s/\[([^]]+)\]\(\.\.\/(examples[^)]*)\)/\1 (`\2`)/g
