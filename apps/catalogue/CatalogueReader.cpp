@@ -5,6 +5,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int DEEPEST_LEVEL = 256;
+/// The parser takes it for the end of the file when a read gives it no whole character, which is four bytes at most.
+constexpr qint64 SMALLEST_READ = 4;
 constexpr QByteArrayView ENTITY_DECLARATION("<!ENTITY");
 
 }
@@ -22,7 +24,7 @@ qint64 BoundedInput::readData(char *data, qint64 maxSize)
         myRefusal = u"an element, text, comment or declaration is larger than 1 MiB"_s;
         return 0;
     }
-    qint64 size = mySource->read(data, qMin(maxSize, LIMIT - myPieceSize));
+    qint64 size = readSource(data, qMin(maxSize, LIMIT - myPieceSize));
     if (size < 0) {
         // A device that has come to its end may say so in this way too.
         if (!mySource->atEnd())
@@ -33,6 +35,18 @@ qint64 BoundedInput::readData(char *data, qint64 maxSize)
         size = sizeBeforeEntity(data, size);
     myPieceSize += size;
     myTotalSize += size;
+    return size;
+}
+
+qint64 BoundedInput::readSource(char *data, qint64 maxSize)
+{
+    qint64 size = mySource->read(data, maxSize);
+    while (size > 0 && size < qMin(SMALLEST_READ, maxSize)) {
+        const qint64 more = mySource->read(data + size, maxSize - size);
+        if (more <= 0)
+            break;
+        size += more;
+    }
     return size;
 }
 

@@ -36,6 +36,7 @@ protected:
     qint64 writeData(const char *, qint64) override { return -1; }
 
 private:
+    qint64 readSource(char *data, qint64 maxSize);
     qint64 sizeBeforeEntity(const char *data, qint64 size);
 
     QIODevice *mySource;

@@ -5,6 +5,16 @@
 
 using namespace Qt::StringLiterals;
 
+/// Hands out one byte at a time, as a slow device may.
+class OneByteDevice : public QBuffer
+{
+public:
+    using QBuffer::QBuffer;
+
+protected:
+    qint64 readData(char *data, qint64) override { return QBuffer::readData(data, 1); }
+};
+
 class tst_CatalogueReader : public QObject
 {
     Q_OBJECT
@@ -12,6 +22,8 @@ class tst_CatalogueReader : public QObject
 private Q_SLOTS:
     void products_data();
     void products();
+    void byteByByte_data();
+    void byteByByte();
     void content();
     void positions();
     void rootStart();
@@ -55,6 +67,31 @@ void tst_CatalogueReader::products()
         types += product.attribute(u"type"_s);
     QVERIFY2(!reader.hasError(), qPrintable(reader.errorString()));
     QTEST(types, "types");
+}
+
+void tst_CatalogueReader::byteByByte_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("error");
+
+    QTest::newRow("ASCII") << QByteArray("<p><product name='A'/></p>") << u"A"_s << QString();
+    QTest::newRow("four bytes a character") << QByteArray("<p><product name='\xf0\x9f\x93\x95\xf0\x9f\x93\x95'/></p>")
+                                            << u"\U0001F4D5\U0001F4D5"_s << QString();
+    QTest::newRow("well-formed up to the root's end")
+            << QByteArray("<p><product name='A'/></q>") << u"A"_s << u"Opening and ending tag mismatch."_s;
+    QTest::newRow("cut off") << QByteArray("<p><product name='A'/></") << u"A"_s << u"the file ends too early"_s;
+}
+
+void tst_CatalogueReader::byteByByte()
+{
+    QFETCH(QByteArray, file);
+    OneByteDevice device(&file);
+    QVERIFY(device.open(QIODevice::ReadOnly));
+    CatalogueReader reader(&device, u"product"_s);
+    QTEST(reader.next().attribute(u"name"_s), "name");
+    QVERIFY(reader.next().isNull());
+    QTEST(reader.hasError() ? reader.errorString() : QString(), "error");
 }
 
 void tst_CatalogueReader::content()
