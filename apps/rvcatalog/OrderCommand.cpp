@@ -109,10 +109,11 @@ QStringList pageCountProblems(const QString &text, const CatalogueProduct &produ
                                counts.pagesWithNExtraPackages(counts.numberOfPackages() - 1))) };
 }
 
-QMap<RVPriceClass, int> countPriceClasses(const CatalogueProduct &product, int packages,
-                                          const RVArticleVariants &variants)
+/// All packages and options of a product may share one price class, so the sum may be larger than an int.
+QMap<RVPriceClass, qint64> countPriceClasses(const CatalogueProduct &product, int packages,
+                                             const RVArticleVariants &variants)
 {
-    QMap<RVPriceClass, int> result;
+    QMap<RVPriceClass, qint64> result;
     if (product.priceClass.isValid())
         ++result[product.priceClass];
     if (product.pagePriceClass.isValid() && packages > 0)
@@ -143,7 +144,7 @@ void writeOrder(const Project &project, const CatalogueProduct &product)
         << " above the lowest count)\n";
     if (product.hasSpine())
         out << "Spine           "
-            << QString::number(product.spine.spineWidth(unsigned(pages)).value(MILLIMETRE), 'f', 1) << " mm\n";
+            << QString::number(product.spine.spineWidth(unsigned(qMax(0, pages))).value(MILLIMETRE), 'f', 1) << " mm\n";
     out << "\nOptions\n";
     for (const RVConfiguredArticleVariant &option : product.options) {
         if (variants.value(option.key()) == option.value())
@@ -151,7 +152,7 @@ void writeOrder(const Project &project, const CatalogueProduct &product)
                 << (chosen.keys().contains(option.key()) ? "" : " (default)") << '\n';
     }
     out << "\nPrice classes\n";
-    const QMap<RVPriceClass, int> counted = countPriceClasses(product, packages, variants);
+    const QMap<RVPriceClass, qint64> counted = countPriceClasses(product, packages, variants);
     for (auto it = counted.begin(); it != counted.end(); ++it)
         out << "  " << QString::number(it.value()).rightJustified(3) << " x " << it.key().toString()
             << (it.key().isFree() ? " (free)" : "") << '\n';

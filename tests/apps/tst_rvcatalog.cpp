@@ -79,6 +79,8 @@ private Q_SLOTS:
     void showUnreadable();
     void order();
     void orderDefaults();
+    void orderHugePageCount();
+    void orderNegativePageCount();
     void orderSample();
     void orderProblems_data();
     void orderProblems();
@@ -413,6 +415,30 @@ void tst_rvcatalog::orderDefaults()
     QVERIFY2(run.output.contains("Pages           26 (0 packages"_L1), qPrintable(run.output));
     QVERIFY(run.output.contains("  Farbe: Schwarz (default)"_L1));
     QVERIFY(!run.output.contains("KEMI62"_L1));
+}
+
+void tst_rvcatalog::orderHugePageCount()
+{
+    write(u"huge.xml"_s,
+          "<product type='X' pages='1' max_pages='2147483647' page_step='1' price_class='A' page_price_class='A'>"
+          "<forms><form key='k' value='v' price_class='A'/></forms></product>");
+    write(u"p.xml"_s, "<project productname='X' pages='2147483647'/>");
+    const Run run = rvcatalog({ u"order"_s, u"huge.xml"_s, u"p.xml"_s }, myFolder.path());
+    QCOMPARE(run.messages, QString());
+    QCOMPARE(run.exitCode, 0);
+    QVERIFY2(run.output.contains("\n  2147483648 x A\n"_L1), qPrintable(run.output));
+}
+
+// Such a catalogue makes no sense, but its spine must not be that of four billion pages.
+void tst_rvcatalog::orderNegativePageCount()
+{
+    write(u"negative.xml"_s,
+          "<product type='X' pages='-8' max_pages='-4' page_step='4'>"
+          "<composition><spine packages_per_block='1' base_width='5' block_width='1'/></composition></product>");
+    write(u"p.xml"_s, "<project productname='X' pages='-8'/>");
+    const Run run = rvcatalog({ u"order"_s, u"negative.xml"_s, u"p.xml"_s }, myFolder.path());
+    QCOMPARE(run.exitCode, 0);
+    QVERIFY2(run.output.contains("Spine           7.0 mm\n"_L1), qPrintable(run.output));
 }
 
 void tst_rvcatalog::orderSample()
