@@ -1,0 +1,119 @@
+// A catalogue, read as "rvcatalog show" reads it: product by product, out of a stream.
+#include "CommandRunner.h"
+#include "Properties.h"
+
+#include <CatalogueProduct.h>
+#include <CatalogueReader.h>
+#include <Commands.h>
+
+#include <QBuffer>
+#include <QDomDocument>
+#include <QTextStream>
+
+#include <cstddef>
+#include <cstdint>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Hands out a few bytes at a time, as a pipe does.
+class Drops : public QBuffer
+{
+public:
+    using QBuffer::QBuffer;
+
+protected:
+    qint64 readData(char *data, qint64 maxSize) override { return QBuffer::readData(data, qMin(maxSize, qint64(3))); }
+};
+
+/// What the reader said of a file.
+struct Reading
+{
+    QStringList products;
+    QList<qint64> lines;
+    QString error;
+    qint64 errorLine = 0;
+};
+
+void checkProduct(const QDomElement &element)
+{
+    const CatalogueProduct product(element);
+    for (const RVConfiguredArticleVariant &option : product.options) {
+        CHECK(option.isValid());
+        product.optionPriceClass(option.key(), option.value());
+    }
+    for (const RVBarcodeDefinition &barcode : product.barcodes)
+        CHECK(barcode.isValid());
+    const CatalogueProduct again(element.cloneNode().toElement());
+    CHECK(again.type == product.type && again.options == product.options && again.pageCounts == product.pageCounts);
+    CHECK(again.barcodes == product.barcodes);
+}
+
+Reading readAll(QIODevice *device)
+{
+    device->open(QIODevice::ReadOnly);
+    CatalogueReader reader(device, u"product"_s);
+    Reading result;
+    FilePosition last { 1, 0 };
+    for (QDomElement element = reader.next(); !element.isNull(); element = reader.next()) {
+        CHECK_EQUAL(element.tagName(), u"product"_s);
+        const FilePosition position = reader.position();
+        CHECK(position.line > last.line || (position.line == last.line && position.column > last.column));
+        last = position;
+        checkProduct(element);
+        QString text;
+        QTextStream stream(&text);
+        element.save(stream, -1);
+        stream.flush();
+        result.products += text;
+        result.lines += position.line;
+    }
+    CHECK(reader.next().isNull());
+    CHECK(reader.finish() != reader.hasError());
+    if (reader.hasError()) {
+        result.error = reader.errorString();
+        result.errorLine = reader.errorPosition().line;
+        CHECK(!result.error.isEmpty());
+        CHECK(result.errorLine >= last.line);
+    }
+    return result;
+}
+
+/// The outermost products of a document.
+int countProducts(const QDomNode &parent)
+{
+    int count = 0;
+    for (QDomElement element = parent.firstChildElement(); !element.isNull(); element = element.nextSiblingElement())
+        count += element.tagName() == "product"_L1 ? 1 : countProducts(element);
+    return count;
+}
+
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
+{
+    QByteArray bytes(reinterpret_cast<const char *>(data), qsizetype(size));
+    QBuffer buffer(&bytes);
+    const Reading reading = readAll(&buffer);
+    Drops drops(&bytes);
+    const Reading again = readAll(&drops);
+    CHECK_EQUAL(again.error.isEmpty(), reading.error.isEmpty());
+    // How far the parser comes before it sees what is wrong depends on how much it reads at once.
+    const qsizetype common = qMin(again.products.size(), reading.products.size());
+    CHECK_EQUAL(again.products.first(common), reading.products.first(common));
+    if (reading.error.isEmpty()) {
+        CHECK_EQUAL(again.products.size(), reading.products.size());
+        CHECK_EQUAL(again.lines, reading.lines);
+        QDomDocument document;
+        CHECK(document.setContent(bytes, false));
+        CHECK_EQUAL(reading.products.size(), countProducts(document));
+    }
+
+    static MemoryFile file;
+    file.write(bytes);
+    const int asRows = runCommand(showCommand, { file.name() });
+    CHECK_EQUAL(asRows == EXIT_UNREADABLE, !reading.error.isEmpty());
+    CHECK_EQUAL(runCommand(showCommand, { u"--json"_s, file.name() }), asRows);
+    return 0;
+}
