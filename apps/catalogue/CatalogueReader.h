@@ -18,7 +18,7 @@ struct FilePosition
 class BoundedInput : public QIODevice
 {
 public:
-    static constexpr qint64 LIMIT = 1024 * 1024;
+    static constexpr qint64 LIMIT = qint64(1024) * 1024;
 
     explicit BoundedInput(QIODevice *source);
 

@@ -11,7 +11,7 @@ QString RVDirectoryConfig::resource(const QString &relativePath, bool) const
         return relativePath;
     const QReadLocker locker(&myLock);
     for (const QString &directory : mySearchDirectories) {
-        const QString path = QDir(directory).filePath(relativePath);
+        QString path = QDir(directory).filePath(relativePath);
         if (QFile::exists(path))
             return path;
     }

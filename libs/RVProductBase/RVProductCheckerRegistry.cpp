@@ -8,11 +8,12 @@ template class RVSingleton<RVProductCheckerRegistry>;
 
 namespace {
 
-/// True when every responsible checker accepts. Works on a copy, since a checker may call back.
+/// True when every responsible checker accepts.
 template<typename Accepts>
-bool noneRefuses(const QList<RVProductChecker *> checkers, RVProductCheckerType kinds, Accepts accepts)
+bool noneRefuses(const QList<RVProductChecker *> &checkers, RVProductCheckerType kinds, Accepts accepts)
 {
-    return std::all_of(checkers.begin(), checkers.end(), [&](const RVProductChecker *checker) {
+    const QList<RVProductChecker *> asked = checkers; // a checker may call back and change the list
+    return std::all_of(asked.begin(), asked.end(), [&](const RVProductChecker *checker) {
         return (checker->checkerTypes() & kinds) == 0 || accepts(*checker);
     });
 }

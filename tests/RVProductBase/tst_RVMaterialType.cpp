@@ -35,7 +35,7 @@ void tst_RVMaterialType::combinations()
     QCOMPARE(qint64(material.value()), 24);
     QCOMPARE(material.encode(), u""_s);
     QCOMPARE(material.encodeCSV(), u"deco_print, retro_print"_s);
-    QCOMPARE(sizeof(material.value()), std::size_t(8));
+    QCOMPARE(sizeof(RVMaterialTypeEnum), std::size_t(8));
 }
 
 void tst_RVMaterialType::debugOutput()

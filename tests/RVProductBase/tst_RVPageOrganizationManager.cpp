@@ -138,7 +138,7 @@ void tst_RVPageOrganizationManager::instanceForManyThreads()
     RVPageOrganizationManager *seen[threadCount] = {};
     inThreads([&seen](int i) { seen[i] = RVPageOrganizationManager::instance(); });
     QVERIFY(seen[0]);
-    for (RVPageOrganizationManager *manager : seen)
+    for (const RVPageOrganizationManager *manager : seen)
         QCOMPARE(manager, seen[0]);
     QCOMPARE(RVPageOrganizationManager::instance(), seen[0]);
     QCOMPARE(seen[0]->parent(), nullptr);
