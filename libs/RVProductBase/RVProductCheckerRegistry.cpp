@@ -12,7 +12,8 @@ namespace {
 template<typename Accepts>
 bool noneRefuses(const QList<RVProductChecker *> &checkers, RVProductCheckerType kinds, Accepts accepts)
 {
-    const QList<RVProductChecker *> asked = checkers; // a checker may call back and change the list
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): a checker may call back and change the list.
+    const QList<RVProductChecker *> asked = checkers;
     return std::all_of(asked.begin(), asked.end(), [&](const RVProductChecker *checker) {
         return (checker->checkerTypes() & kinds) == 0 || accepts(*checker);
     });

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void writesStreams();
     void debugOutput();
     void compares();
+    void copies();
 };
 
 void tst_RVOrderProjectInfo::fields()
@@ -120,6 +121,22 @@ void tst_RVOrderProjectInfo::compares()
     QVERIFY(info != RVOrderProjectInfo(u"s"_s, u"B"_s, 1));
     QVERIFY(info != RVOrderProjectInfo(u"s"_s, u"A"_s, 2));
     QVERIFY(RVOrderProjectInfo::createDeletingProjetInfo() != RVOrderProjectInfo(QString(), RVOrderId(), 0));
+}
+
+void tst_RVOrderProjectInfo::copies()
+{
+    const RVOrderProjectInfo info(u"session"_s, u"A-1"_s, 3);
+    RVOrderProjectInfo copy = info;
+    copy.setOrderId(u"B-2"_s);
+    QCOMPARE(info.orderId().toString(), u"A-1"_s);
+    const RVOrderProjectInfo moved = std::move(copy);
+    QCOMPARE(moved.xtciSession(), u"session"_s);
+    QCOMPARE(moved.orderId().toString(), u"B-2"_s);
+    QCOMPARE(moved.orderPosition(), 3);
+    QVERIFY(!moved.deleteProjectInfo());
+    RVOrderProjectInfo deleting = RVOrderProjectInfo::createDeletingProjetInfo();
+    const RVOrderProjectInfo movedDeleting = std::move(deleting);
+    QVERIFY(movedDeleting.deleteProjectInfo());
 }
 
 QTEST_GUILESS_MAIN(tst_RVOrderProjectInfo)

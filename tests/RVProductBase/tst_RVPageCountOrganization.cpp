@@ -491,6 +491,9 @@ void tst_RVPageCountOrganization::copies()
     QCOMPARE(copy, organization(26, 154, 4));
     const RVPageCountOrganization moved = std::move(copy);
     QCOMPARE(moved, organization(26, 154, 4));
+    copy = organization(4, 24, 2);
+    QCOMPARE(copy, organization(4, 24, 2));
+    QCOMPARE(moved, organization(26, 154, 4));
 
     struct Watched : RVPageCountOrganization
     {
