@@ -67,7 +67,8 @@ void tst_RVDistance::compoundsReturnTheObject()
     QCOMPARE(distance.value(), 40.0);
     QCOMPARE(&(distance *= 0.5), &distance);
     QCOMPARE(distance.value(), 20.0);
-    distance -= distance;
+    const RVDistance &self = distance;
+    distance -= self;
     QCOMPARE(distance.value(), 0.0);
     QCOMPARE(copy.value(), 30.0);
 }
