@@ -161,8 +161,8 @@ void tst_RVPageCountOrganizationListModel::longLists()
     RVPageCountOrganizationListModel model(showPhotos);
     model.setPageOrganization(organization);
     QTEST(model.rowCount(), "rowCount");
-    QTEST(texts(model).first(), "first");
-    QTEST(texts(model).last(), "last");
+    QTEST(texts(model).constFirst(), "first");
+    QTEST(texts(model).constLast(), "last");
 }
 
 void tst_RVPageCountOrganizationListModel::bounds_data()
