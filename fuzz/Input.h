@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 
 /// Takes the bytes of the fuzzer apart: text in UTF-8, one piece a line, so that seeds can be read and written by hand.
 class Input

@@ -7,6 +7,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 
 /// Ends the program when a property does not hold, which keeps the input that shows it.
 #define CHECK(condition)                                                                                               \

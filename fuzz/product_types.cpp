@@ -10,6 +10,7 @@
 #include <RVProductTypeList.h>
 
 #include <QDomDocument>
+#include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 
@@ -35,6 +36,14 @@ void checkType(const QString &code)
     CHECK_EQUAL(type.orderTxtName(), code.isEmpty() ? u"UNKNOWN"_s : type.toString());
     CHECK(!type.isAgenda() || type.isCalendar());
     CHECK(code.contains(type.toString()));
+
+    // Nothing stands behind the family of a book, and whatever does makes no difference.
+    static const QRegularExpression family(u"^DUNS?\\d+"_s);
+    static const QRegularExpression familyOnly(u"^DUNS?\\d+$"_s);
+    if (type.toString().contains(family)) {
+        CHECK(type.toString().contains(familyOnly));
+        CHECK(RVProductType(type.toString() + u"_30"_s) == type);
+    }
 
     const RVProductType again(type.toString());
     CHECK(again == type);
