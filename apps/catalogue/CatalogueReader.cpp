@@ -40,14 +40,29 @@ qint64 BoundedInput::readData(char *data, qint64 maxSize)
 
 qint64 BoundedInput::readSource(char *data, qint64 maxSize)
 {
-    qint64 size = mySource->read(data, maxSize);
-    while (size > 0 && size < qMin(SMALLEST_READ, maxSize)) {
-        const qint64 more = mySource->read(data + size, maxSize - size);
+    const auto nextSize = [&](qint64 size) { return myInProlog ? 1 : maxSize - size; };
+    qint64 size = mySource->read(data, nextSize(0));
+    while (size > 0 && size < maxSize && !isEnough(data, size)) {
+        const qint64 more = mySource->read(data + size, nextSize(size));
         if (more <= 0)
             break;
         size += more;
     }
     return size;
+}
+
+// Any tag of the prolog may be the root's. Then the prolog is over, and what follows may well name entities.
+bool BoundedInput::isEnough(const char *data, qint64 size) const
+{
+    if (size < SMALLEST_READ)
+        return false;
+    if (!myInProlog)
+        return true;
+    if (!QByteArrayView(data, size).contains('>'))
+        return false;
+    char next = 0;
+    const bool isHalfRead = data[size - 1] == '>' && mySource->peek(&next, 1) == 1 && next == '\0'; // in UTF-16
+    return !isHalfRead;
 }
 
 qint64 BoundedInput::sizeBeforeEntity(const char *data, qint64 size)

@@ -37,6 +37,7 @@ protected:
 
 private:
     qint64 readSource(char *data, qint64 maxSize);
+    bool isEnough(const char *data, qint64 size) const;
     qint64 sizeBeforeEntity(const char *data, qint64 size);
 
     QIODevice *mySource;

@@ -53,6 +53,11 @@ void tst_CatalogueReader::products_data()
     QTest::newRow("product is the root") << QByteArray("<product type='A'/>") << QStringList { u"A"_s };
     QTest::newRow("inner product belongs to the outer")
             << QByteArray("<product type='A'><product type='B'/></product>") << QStringList { u"A"_s };
+    const QString entity = u"<p><!-- <!ENTITY --><product type='A'/><![CDATA[<!ENTITY]]><product type='Ä'/></p>"_s;
+    QTest::newRow("entity in a comment") << entity.toUtf8() << both;
+    QTest::newRow("entity in a comment in UTF-16")
+            << QByteArray("\xff\xfe") + QByteArray(reinterpret_cast<const char *>(entity.utf16()), entity.size() * 2)
+            << both;
     QTest::newRow("no product") << QByteArray("<p><Product type='A'/></p>") << QStringList {};
 }
 
