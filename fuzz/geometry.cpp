@@ -119,7 +119,7 @@ void checkSpine(const Numbers &numbers)
     const int blocks = spine.additionalPagePackageBlocks(few);
     if (packages == 0 || increment == 0 || qint64(few) <= lowest)
         CHECK_EQUAL(blocks, 0);
-    if (spine.isValid() && packages > 0) {
+    if (spine.isValid() && packages > 0 && increment >= 0) { // a fixed count may have a negative increment
         CHECK(blocks >= 0 && blocks <= spine.additionalPagePackageBlocks(many));
         if (areFinite(numbers.real) && numbers.real[1] >= 0)
             CHECK(!(spine.spineWidth(many) < spine.spineWidth(few)));

@@ -41,7 +41,8 @@ public:
 
     /// True when the page counts are valid.
     bool isValid() const;
-    /// Whole blocks of packages above the lowest page count; never negative for a valid configuration.
+    /// Whole blocks of packages above the lowest page count; negative only where the page increment or the packages per
+    /// block are.
     int additionalPagePackageBlocks(unsigned pages) const;
     /// The whole width, sides included, for any count; a count below the lowest gives the width at the lowest.
     RVDistance spineWidth(unsigned pages) const;

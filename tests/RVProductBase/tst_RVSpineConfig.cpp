@@ -130,6 +130,7 @@ void tst_RVSpineConfig::blocks_data()
     QTest::newRow("3 packages, 2 a block") << 2 << 4 << 38u << 1;
     QTest::newRow("below the lowest count") << 1 << 4 << 3u << 0;
     QTest::newRow("negative packages a block") << -2 << 4 << 38u << -1;
+    QTest::newRow("negative page increment") << 2 << -4 << 38u << -1;
     QTest::newRow("more pages than an int holds") << 1 << 1 << largestUnsigned << largest - 26;
     QTest::newRow("largest packages a block") << largest << 1 << largestUnsigned << 0;
     QTest::newRow("smallest packages a block") << smallest << 1 << largestUnsigned << 0;
