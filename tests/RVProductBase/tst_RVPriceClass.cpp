@@ -127,8 +127,8 @@ void tst_RVPriceClass::sortsAsKey()
     for (const QString &code : { u"kur2"_s, u"KUR2"_s, u"61"_s, u"KUR10"_s, u"KUR2"_s, u""_s })
         ++counts[RVPriceClass(code)];
     QStringList keys;
-    for (const RVPriceClass &key : counts.keys())
-        keys += key.toString();
+    for (auto it = counts.cbegin(); it != counts.cend(); ++it)
+        keys += it.key().toString();
     QCOMPARE(keys, QStringList({ u""_s, u"61"_s, u"KUR10"_s, u"KUR2"_s, u"kur2"_s }));
     QCOMPARE(counts.values(), QList<int>({ 1, 1, 1, 2, 1 }));
 }

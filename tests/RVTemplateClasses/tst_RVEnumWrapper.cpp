@@ -250,7 +250,8 @@ void tst_RVEnumWrapper::values()
         sorted += bit;
     QTEST(sorted, "split");
     QList<int> unsorted;
-    for (const FinishEnum bit : tested.splitToBits())
+    const QSet<FinishEnum> singleBits = tested.splitToBits();
+    for (const FinishEnum bit : singleBits)
         unsorted += bit;
     std::sort(unsorted.begin(), unsorted.end());
     QTEST(unsorted, "split");

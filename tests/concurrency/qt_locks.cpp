@@ -31,7 +31,7 @@ thread_local const QReadWriteLock *theWrittenLock = nullptr;
 
 }
 
-bool QRecursiveMutex::tryLock(int timeout)
+bool QRecursiveMutex::tryLock(int timeout) noexcept
 {
     static const auto next = nextFunction<bool (*)(QRecursiveMutex *, int)>("_ZN15QRecursiveMutex7tryLockEi");
     const bool locked = next(this, timeout);
