@@ -47,4 +47,4 @@ if [[ ${#changed[@]} -gt 0 ]]; then
     echo "The binary interface has changed. If that is meant, raise the version and run: ./dev abi --accept"
     exit 1
 fi
-[[ $mode == accept ]] || echo "The binary interface is that of the baseline."
+[[ $mode == accept ]] || echo "Whatever was built against the baseline goes on working."
