@@ -1,0 +1,91 @@
+#ifndef COMPARISON_H
+#define COMPARISON_H
+
+#include <benchmark/benchmark.h>
+
+#include <QtGlobal>
+
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <iterator>
+#include <string>
+#include <utility>
+
+/// Every program adds its benchmarks here; main.cpp runs them.
+void addBenchmarks();
+
+/// From now on allocations per iteration are counted, in a pass of their own beside the timed ones.
+void countAllocations();
+
+/// How many inputs a corpus has: too many for the branch predictor to learn their order, few enough for the cache.
+constexpr int CORPUS_SIZE = 256;
+
+/// One iteration is a pass over the whole corpus, so what is measured is not the loop.
+template<typename Corpus, typename Operation>
+void measure(benchmark::State &state, const Corpus &corpus, Operation operation)
+{
+    for (auto _ : state) {
+        for (const auto &input : corpus)
+            benchmark::DoNotOptimize(operation(input));
+    }
+    state.SetItemsProcessed(qint64(state.iterations()) * qint64(corpus.size()));
+    state.counters["corpus"] = benchmark::Counter(double(corpus.size()), benchmark::Counter::kAvgThreads);
+}
+
+/**
+ * An operation of the library beside its peers: "name/ours", "name/peer".
+ *
+ * A peer must give the same result for every input of the corpus; where it does not, the program ends before anything
+ * is timed.
+ */
+template<typename Corpus, typename Ours>
+class Comparison
+{
+public:
+    Comparison(std::string name, Corpus corpus, Ours ours)
+        : myName(std::move(name)),
+          myCorpus(std::move(corpus)),
+          myOurs(std::move(ours))
+    {
+        countAllocations();
+        add("ours", myCorpus, myOurs);
+    }
+
+    /// A peer that takes the same inputs.
+    template<typename Peer, typename Same = std::equal_to<>>
+    Comparison &against(const char *peerName, Peer peer, Same same = {})
+    {
+        return againstWithInputs(peerName, myCorpus, std::move(peer), same);
+    }
+
+    /// A peer that wants the same inputs in a form of its own.
+    template<typename PeerCorpus, typename Peer, typename Same = std::equal_to<>>
+    Comparison &againstWithInputs(const char *peerName, const PeerCorpus &corpus, Peer peer, Same same = {})
+    {
+        auto input = corpus.begin();
+        for (const auto &ourInput : myCorpus) {
+            if (!same(myOurs(ourInput), peer(*input++))) {
+                std::fprintf(stderr, "%s: the result of %s differs for input %d\n", myName.c_str(), peerName,
+                             int(std::distance(corpus.begin(), input)));
+                std::exit(EXIT_FAILURE);
+            }
+        }
+        add(peerName, corpus, std::move(peer));
+        return *this;
+    }
+
+private:
+    template<typename Inputs, typename Operation>
+    void add(const char *side, const Inputs &inputs, Operation operation)
+    {
+        benchmark::RegisterBenchmark((myName + '/' + side).c_str(),
+                                     [=](benchmark::State &state) { measure(state, inputs, operation); });
+    }
+
+    std::string myName;
+    Corpus myCorpus;
+    Ours myOurs;
+};
+
+#endif

@@ -1,0 +1,212 @@
+#!/usr/bin/env python3
+"""usage: bench.py FOLDER [--summary]
+
+Runs the benchmark programs in FOLDER/benchmarks, once with QT_HASH_SEED=0 and once with Qt's own seed, prints the table of
+operations and goals and writes all figures to FOLDER/benchmarks.json. With --summary it prints nothing but a line
+"NAME FIGURE GOAL" for each goal.
+"""
+import json
+import math
+import os
+import re
+import statistics
+import subprocess
+import sys
+
+PROGRAMS = ["keywords", "bits", "variants", "producttype", "services", "xml", "priceclasses", "threads", "complexity",
+            "catalogue"]
+SEEDS = {"seed 0": "0", "own seed": None}
+
+# name, operation and peer, benchmark of ours, of the peer, highest ratio, most allocations (None: any number)
+TIMES = [
+    ("decodeCSV-qt", "decodeCSV, three keywords; split, QHash", "decodeCSV/ours", "decodeCSV/qt", 0.15, 0),
+    ("decodeCSV-string_view", "decodeCSV; std::string_view, std::unordered_map", "decodeCSV/ours",
+     "decodeCSV/string_view", 1.0, None),
+    ("decodeCSV-article_class-qt", "decodeCSV of the largest table; split, QHash", "decodeCSV_article_class/ours",
+     "decodeCSV_article_class/qt", 0.15, 0),
+    ("decodeCSV-article_class-string_view", "the same; std::string_view, std::unordered_map",
+     "decodeCSV_article_class/ours", "decodeCSV_article_class/string_view", 1.0, None),
+    ("encodeCSV", "encodeCSV, three bits; QMetaEnum::valueToKeys", "encodeCSV/ours", "encodeCSV/qt", 0.12, 1),
+    ("encode", "encode, one value; QHash::value", "encode/ours", "encode/qt", 0.3, 0),
+    ("encode-article_class", "encode of the largest table; QHash::value", "encode_article_class/ours",
+     "encode_article_class/qt", 0.3, 0),
+    ("countBits", "countBits; 64 masks", "countBits/ours", "countBits/masks", 0.2, None),
+    ("hasExactlyOneBit", "hasExactlyOneBit; 64 masks", "hasExactlyOneBit/ours", "hasExactlyOneBit/masks", 0.2, None),
+    ("splitToBitsSorted", "splitToBitsSorted, three bits; 64 masks into a QList", "splitToBitsSorted/ours",
+     "splitToBitsSorted/masks", 0.5, None),
+    ("toggleBits", "toggleBits, three bits; 64 masks into a QSet", "toggleBits/ours", "toggleBits/set", 0.3, None),
+    ("createFromKTX", "createFromKTX, three pairs; QUrlQuery into a QHash", "createFromKTX/ours",
+     "createFromKTX/url_query", 0.6, None),
+    ("RVProductType-family", "RVProductType, family code; QRegularExpression", "RVProductType_family/ours",
+     "RVProductType_family/expression", 0.2, None),
+    ("RVProductType-other", "RVProductType, other code; QRegularExpression", "RVProductType_other/ours",
+     "RVProductType_other/expression", 0.2, None),
+    ("organization", "organization, cached; QRecursiveMutex, QHash", "organization/ours", "organization/cache", 1.1,
+     None),
+    ("isValid", "isValid, cached; QRecursiveMutex, QHash", "isValid/ours", "isValid/cache", 1.1, None),
+    ("product-element", "one product element; QDomElement::attribute", "product_element/ours", "product_element/dom",
+     0.3, None),
+    ("price-class-set", "a named price class set; QSet from literals", "price_class_set/ours",
+     "price_class_set/literals", 0.04, None),
+    ("catalogue-time", "rvcatalog show --json, 20,000 products; QDomDocument", "catalogue/ours", "catalogue/dom", 0.4,
+     None),
+]
+MOST_MEMORY = 0.05  # peak of the catalogue program, against the peer's
+LEAST_THROUGHPUT = 1.9  # of two threads, against one
+MOST_INSTRUCTIONS = 3.0  # millions, of loading the library and using every table
+
+
+class Row:
+    """A goal, the figures that count for it, and what the table shows of it."""
+
+    def __init__(self, name, operation, figures, goal, ours=(), peer=(), least=False, allocations=""):
+        self.name, self.operation, self.goal, self.least = name, operation, goal, least
+        self.figures, self.ours, self.peer, self.allocations = figures, ours, peer, allocations
+        self.figure = min(figures) if least else max(figures)  # the worse of the two seeds
+        self.met = self.figure >= goal if least else self.figure <= goal
+
+    def columns(self):
+        goal = ("≥ " if self.least else "≤ ") + f"{self.goal:g}" + ("" if self.met else " missed")
+        texts = [number(value) for pair in zip(self.ours, self.peer) for value in pair] or [""] * 4
+        return [self.operation, *texts[:2], f"{self.figures[0]:.3g}", f"{self.figures[1]:.3g}", goal, self.allocations,
+                *texts[2:]]
+
+
+HEADINGS = ["operation; peer", "ours ns", "peer ns", "ratio", "ratio, own seed", "goal", "allocations",
+            "ours ns, own seed", "peer ns, own seed"]
+
+
+def number(value):
+    return f"{value:.1f}" if value < 1000 else f"{value:,.0f}"
+
+
+def environment(seed):
+    result = {name: value for name, value in os.environ.items() if name != "QT_HASH_SEED"}
+    return result if SEEDS[seed] is None else {**result, "QT_HASH_SEED": SEEDS[seed]}
+
+
+def run(command, seed, **options):
+    process = subprocess.run(command, env=environment(seed), text=True, **options)
+    if process.returncode != 0:
+        sys.exit(f"bench: {command[0]} failed with {process.returncode}\n{process.stderr or ''}")
+    return process
+
+
+def run_program(folder, program, seed):
+    """All benchmarks of a program, with repetitions in random order."""
+    output = os.path.join(folder, "benchmarks", "run.json")
+    repetitions, seconds = {"complexity": (3, 0.02), "catalogue": (3, 1), "threads": (9, 0.1)}.get(program, (11, 0.05))
+    run([os.path.join(folder, "benchmarks", "bench_" + program), f"--benchmark_repetitions={repetitions}",
+         f"--benchmark_min_time={seconds}", "--benchmark_enable_random_interleaving=true",
+         "--benchmark_out=" + output], seed, stdout=subprocess.DEVNULL)
+    with open(output, encoding="utf-8") as file:
+        return json.load(file)["benchmarks"]
+
+
+def count_instructions(folder, program, seed):
+    """Millions of instructions from the start of a program to its end."""
+    process = run(["valgrind", "--tool=callgrind", "--callgrind-out-file=/dev/null",
+                   os.path.join(folder, "benchmarks", program)], seed, stderr=subprocess.PIPE)
+    return int(re.search(r"Collected : (\d+)", process.stderr)[1]) / 1e6
+
+
+def measure(folder, seed):
+    """The medians of every benchmark by its name, and Google Benchmark's complexity reports."""
+    runs, complexity = {}, {}
+    for program in PROGRAMS:
+        print(f"bench: {program}, {seed}", file=sys.stderr)
+        for entry in run_program(folder, program, seed):
+            if entry.get("aggregate_name") in ("BigO", "RMS"):
+                complexity.setdefault(entry["run_name"], {}).update(entry)
+            elif entry["run_type"] == "iteration":
+                runs.setdefault(entry["run_name"].removesuffix("/iterations:1/manual_time"), []).append(entry)
+    medians = {name: medians_of(entries) for name, entries in runs.items()}
+    print(f"bench: start-up, {seed}", file=sys.stderr)
+    instructions = {name: count_instructions(folder, "startup_" + name, seed) for name in ("library", "empty")}
+    return {"medians": medians, "complexity": complexity, "instructions": instructions}
+
+
+def medians_of(entries):
+    def median(key):
+        return statistics.median(entry[key] for entry in entries)
+
+    first = entries[0]
+    result = {"ns": median("real_time") * {"ns": 1, "ms": 1e6}[first["time_unit"]]}
+    if "items_per_second" in first:
+        result["ns"] = 1e9 / median("items_per_second")
+    if "allocs_per_iter" in first:
+        result["allocations"] = median("allocs_per_iter") / first["corpus"]
+    if "peak_megabytes" in first:
+        result["peak"] = median("peak_megabytes")
+    return result
+
+
+def time_rows(medians, name, operation, ours, peer, goal, most_allocations):
+    ours_ns = [medians[seed][ours]["ns"] for seed in SEEDS]
+    peer_ns = [medians[seed][peer]["ns"] for seed in SEEDS]
+    allocations = [medians[seed][ours].get("allocations") for seed in SEEDS]
+    text = "" if None in allocations else f"{max(allocations):.3g}"
+    # Against the peer at its best, which is seed 0.
+    yield Row(name, operation, [ns / peer_ns[0] for ns in ours_ns], goal, ours_ns, peer_ns, allocations=text)
+    if most_allocations is not None:
+        yield Row(name + "-allocations", "… its allocations", allocations, most_allocations)
+
+
+def make_rows(results):
+    medians = {seed: result["medians"] for seed, result in results.items()}
+    for row in TIMES:
+        yield from time_rows(medians, *row)
+    peaks = [[medians[seed]["catalogue/" + side]["peak"] for seed in SEEDS]
+             for side in ("ours", "dom")]
+    yield Row("catalogue-memory", "… its peak memory in MB", [peak / peaks[1][0] for peak in peaks[0]], MOST_MEMORY,
+              *peaks)
+    for name in ("decode", "encode", "normalise"):
+        one, two = ([medians[seed][f"{name}/real_time/threads:{count}"]["ns"] for seed in SEEDS] for count in (1, 2))
+        yield Row("two-threads-" + name, f"{name} on two threads; throughput of one", [a / b for a, b in zip(one, two)],
+                  LEAST_THROUGHPUT, two, one, least=True)
+    library, empty = ([results[seed]["instructions"][side] for seed in SEEDS] for side in ("library", "empty"))
+    yield Row("startup", "start-up in million instructions more; an empty program",
+              [a - b for a, b in zip(library, empty)], MOST_INSTRUCTIONS, library, empty)
+
+
+def table(rows):
+    """A Markdown table that reads well as it stands."""
+    widths = [max(len(row[i]) for row in rows) for i in range(len(rows[0]))]
+    lines = ["| " + " | ".join(text.ljust(width) if i == 0 else text.rjust(width)
+                               for i, (text, width) in enumerate(zip(row, widths))) + " |" for row in rows]
+    rule = "|" + "|".join("-" * (width + 1) + ("-" if i == 0 else ":") for i, width in enumerate(widths)) + "|"
+    return "\n".join([lines[0], rule, *lines[1:]])
+
+
+def exponent(medians, name):
+    """The slope of cost over size in double logarithmic scale: 1 is linear, 2 quadratic."""
+    points = [(math.log(int(run.rsplit("/", 1)[1])), math.log(figures["ns"])) for run, figures in medians.items()
+              if run.startswith(name + "/")]
+    mean_x, mean_y = (statistics.mean(values) for values in zip(*points))
+    return sum((x - mean_x) * (y - mean_y) for x, y in points) / sum((x - mean_x) ** 2 for x, _ in points)
+
+
+def complexity_table(result):
+    rows = [["cost of", "big O", "coefficient ns", "RMS", "measured exponent"]]
+    for name, report in result["complexity"].items():
+        rows.append([name, report["big_o"], f"{report['cpu_coefficient']:.3g}", f"{report['rms']:.0%}",
+                     f"{exponent(result['medians'], name):.2f}"])
+    return table(rows)
+
+
+def main():
+    folder, summary = sys.argv[1], sys.argv[2:] == ["--summary"]
+    load = os.getloadavg()[0]
+    if load > 0.5:
+        print(f"bench: other programs are running (load {load:.1f}), which disturbs the figures", file=sys.stderr)
+    results = {seed: measure(folder, seed) for seed in SEEDS}
+    rows = list(make_rows(results))
+    with open(os.path.join(folder, "benchmarks.json"), "w", encoding="utf-8") as file:
+        json.dump({"rows": [vars(row) for row in rows], **results}, file, indent=1)
+    if summary:
+        print("\n".join(f"{row.name} {row.figure:.4g} {row.goal:g}" for row in rows))
+        return
+    print(table([HEADINGS] + [row.columns() for row in rows]) + "\n\n" + complexity_table(results["seed 0"]))
+
+
+main()

@@ -1,0 +1,81 @@
+#include "Comparison.h"
+
+#include <atomic>
+#include <cstddef>
+#include <cstdlib>
+
+namespace {
+
+std::atomic<bool> isCounting { false };
+std::atomic<qint64> allocations { 0 };
+
+void countOne() noexcept
+{
+    if (isCounting.load(std::memory_order_relaxed))
+        allocations.fetch_add(1, std::memory_order_relaxed);
+}
+
+class AllocationCounter : public benchmark::MemoryManager
+{
+public:
+    void Start() override
+    {
+        allocations = 0;
+        isCounting = true;
+    }
+
+    // Newer versions of the benchmark library hand over a reference only.
+    void Stop(Result *result) override { Stop(*result); }
+    void Stop(Result &result) override
+    {
+        isCounting = false;
+        result.num_allocs = allocations;
+    }
+};
+
+}
+
+// Qt's strings and lists take their memory from malloc and realloc, and so does operator new. These stand in front of
+// glibc's for the whole process and hand over to it.
+extern "C" {
+// NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp): the names are glibc's
+void *__libc_malloc(std::size_t size);
+void *__libc_calloc(std::size_t count, std::size_t size);
+void *__libc_realloc(void *block, std::size_t size);
+
+void *malloc(std::size_t size) noexcept
+{
+    countOne();
+    return __libc_malloc(size);
+}
+
+void *calloc(std::size_t count, std::size_t size) noexcept
+{
+    countOne();
+    return __libc_calloc(count, size);
+}
+
+void *realloc(void *block, std::size_t size) noexcept
+{
+    countOne();
+    return __libc_realloc(block, size);
+}
+// NOLINTEND(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp)
+}
+
+void countAllocations()
+{
+    static AllocationCounter counter;
+    benchmark::RegisterMemoryManager(&counter);
+}
+
+int main(int argc, char *argv[])
+{
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return EXIT_FAILURE;
+    addBenchmarks();
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return EXIT_SUCCESS;
+}
