@@ -15,8 +15,18 @@
 /// Every program adds its benchmarks here; main.cpp runs them.
 void addBenchmarks();
 
-/// From now on allocations per iteration are counted, in a pass of their own beside the timed ones.
+/// From now on allocations are counted, in a pass of their own after the timed ones.
 void countAllocations();
+
+/// The part of a benchmark whose allocations count; without meaning in a timed pass.
+class CountedPart
+{
+    Q_DISABLE_COPY_MOVE(CountedPart)
+
+public:
+    CountedPart() noexcept;
+    ~CountedPart();
+};
 
 /// How many inputs a corpus has: too many for the branch predictor to learn their order, few enough for the cache.
 constexpr int CORPUS_SIZE = 256;
@@ -25,9 +35,12 @@ constexpr int CORPUS_SIZE = 256;
 template<typename Corpus, typename Operation>
 void measure(benchmark::State &state, const Corpus &corpus, Operation operation)
 {
-    for (auto _ : state) {
-        for (const auto &input : corpus)
-            benchmark::DoNotOptimize(operation(input));
+    {
+        const CountedPart counted;
+        for (auto _ : state) {
+            for (const auto &input : corpus)
+                benchmark::DoNotOptimize(operation(input));
+        }
     }
     state.SetItemsProcessed(qint64(state.iterations()) * qint64(corpus.size()));
     state.counters["corpus"] = benchmark::Counter(double(corpus.size()), benchmark::Counter::kAvgThreads);

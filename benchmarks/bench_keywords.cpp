@@ -132,19 +132,22 @@ bool isBlank(char c)
     return c == ' ' || (c >= '\t' && c <= '\r');
 }
 
-/// The keywords of the corpus are ASCII, so their letter case is that of single bytes.
-std::string_view trimmedAndLowered(std::string &buffer, std::string_view piece)
+std::string_view trimmed(std::string_view piece)
 {
     while (!piece.empty() && isBlank(piece.front()))
         piece.remove_prefix(1);
     while (!piece.empty() && isBlank(piece.back()))
         piece.remove_suffix(1);
-    buffer.assign(piece);
-    for (char &c : buffer) {
+    return piece;
+}
+
+/// The keywords of the corpus are ASCII, so their letter case is that of single bytes.
+void lower(std::string &text)
+{
+    for (char &c : text) {
         if (c >= 'A' && c <= 'Z')
             c = char(c - 'A' + 'a');
     }
-    return buffer;
 }
 
 template<typename Attribute>
@@ -160,11 +163,14 @@ EnumOf<Attribute> decodeWithStringView(std::string_view text)
     }();
     static const std::unordered_map<std::string_view, E> values(keywords.begin(), keywords.end());
     static const E defaultValue = Attribute().enumToStringTable()->defaultValue;
-    static thread_local std::string buffer;
+    static std::string buffer;
+    buffer.assign(text);
+    lower(buffer);
+    const std::string_view lowered = buffer;
     E result = E(0);
-    for (std::size_t begin = 0; begin <= text.size();) {
-        const std::size_t end = std::min(text.find(',', begin), text.size());
-        const auto found = values.find(trimmedAndLowered(buffer, text.substr(begin, end - begin)));
+    for (std::size_t begin = 0; begin <= lowered.size();) {
+        const std::size_t end = std::min(lowered.find(',', begin), lowered.size());
+        const auto found = values.find(trimmed(lowered.substr(begin, end - begin)));
         result |= found == values.end() ? defaultValue : found->second;
         begin = end + 1;
     }

@@ -6,6 +6,7 @@
 
 namespace {
 
+std::atomic<bool> isCountingPass { false };
 std::atomic<bool> isCounting { false };
 std::atomic<qint64> allocations { 0 };
 
@@ -21,14 +22,14 @@ public:
     void Start() override
     {
         allocations = 0;
-        isCounting = true;
+        isCountingPass = true;
     }
 
     // Newer versions of the benchmark library hand over a reference only.
     void Stop(Result *result) override { Stop(*result); }
     void Stop(Result &result) override
     {
-        isCounting = false;
+        isCountingPass = false;
         result.num_allocs = allocations;
     }
 };
@@ -61,6 +62,16 @@ void *realloc(void *block, std::size_t size) noexcept
     return __libc_realloc(block, size);
 }
 // NOLINTEND(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp)
+}
+
+CountedPart::CountedPart() noexcept
+{
+    isCounting = isCountingPass.load();
+}
+
+CountedPart::~CountedPart()
+{
+    isCounting = false;
 }
 
 void countAllocations()

@@ -89,6 +89,21 @@ run 2 "$tree/dev" run fast
 says 'dev: "run" takes no argument, but got "fast"'
 not_called 'cmake'
 
+mkdir "$tree/benchmarks"
+stand_in bench.py 'echo "the table"'
+mv "$tools/bench.py" "$tree/benchmarks"
+run 0 "$tree/dev" bench
+called 'cmake --build build/release --target benchmarks'
+called 'bench.py build/release/benchmarks build/bench$'
+# The build may talk, but not where the lines are read from.
+stand_in cmake 'echo building'
+[[ $(env -i PATH="$tools" "$tree/dev" bench --summary 2>/dev/null) == "the table" ]] || fail "not only the table came out"
+called 'bench.py build/release/benchmarks build/bench --summary$'
+stand_in cmake
+run 2 "$tree/dev" bench --quick
+says 'dev: "bench" takes no argument but --summary'
+not_called 'cmake'
+
 run 0 "$tree/dev" help
 [[ $(wc -l <<<"$output") -le 24 ]] || fail "help does not fit one screen of 24 lines"
 [[ $(wc -L <<<"$output") -le 80 ]] || fail "help does not fit one screen of 80 columns"
