@@ -77,7 +77,7 @@ public:
     Comparison &againstWithInputs(const char *peerName, const PeerCorpus &corpus, Peer peer, Same same = {})
     {
         auto input = corpus.begin();
-        for (const auto &ourInput : myCorpus) {
+        for (const auto &ourInput : std::as_const(myCorpus)) {
             if (!same(myOurs(ourInput), peer(*input++))) {
                 std::fprintf(stderr, "%s: the result of %s differs for input %d\n", myName.c_str(), peerName,
                              int(std::distance(corpus.begin(), input)));

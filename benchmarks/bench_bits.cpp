@@ -8,6 +8,8 @@
 
 namespace {
 
+constexpr RVPaperTypeEnum TOGGLED = FOTOPAPER | PREMIUM | INDIGO;
+
 /// All values of three bits below 2^8, over and over.
 QList<RVPaperType> valuesOfThreeBits()
 {
@@ -80,10 +82,9 @@ void addBenchmarks()
     Comparison("splitToBitsSorted", three, [](const RVPaperType &paper) {
         return paper.splitToBitsSorted();
     }).against("masks", [](const RVPaperType &paper) { return splitWithMasks(paper); });
-    const RVPaperTypeEnum start = FOTOPAPER | PREMIUM | INDIGO;
-    Comparison("toggleBits", three, [start](const RVPaperType &other) {
-        RVPaperType paper(start);
+    Comparison("toggleBits", three, [](const RVPaperType &other) {
+        RVPaperType paper(TOGGLED);
         paper.toggleBits(other);
         return paper.value();
-    }).against("set", [start](const RVPaperType &other) { return toggleWithSet(start, other); });
+    }).against("set", [](const RVPaperType &other) { return toggleWithSet(TOGGLED, other); });
 }

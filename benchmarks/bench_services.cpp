@@ -40,8 +40,7 @@ public:
     Value value(const Key &key) const
     {
         const QMutexLocker locker(&myMutex);
-        const auto found = myValues.constFind(key);
-        return found == myValues.constEnd() ? Value() : *found;
+        return myValues.value(key);
     }
 
 private:

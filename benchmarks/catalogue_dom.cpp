@@ -47,8 +47,8 @@ struct DomProduct
     double spineWidth(int pages) const
     {
         const int packages = (pages - geometry.lowestPages) / geometry.pageStep;
-        return geometry.baseWidth + geometry.blockWidth * (packages / geometry.packagesPerBlock)
-                + 2 * geometry.additionalWidth;
+        const int blocks = packages / geometry.packagesPerBlock;
+        return geometry.baseWidth + geometry.blockWidth * blocks + 2 * geometry.additionalWidth;
     }
 };
 

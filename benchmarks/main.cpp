@@ -41,8 +41,8 @@ public:
 extern "C" {
 // NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp): the names are glibc's
 void *__libc_malloc(std::size_t size);
-void *__libc_calloc(std::size_t count, std::size_t size);
-void *__libc_realloc(void *block, std::size_t size);
+void *__libc_calloc(std::size_t nmemb, std::size_t size);
+void *__libc_realloc(void *ptr, std::size_t size);
 
 void *malloc(std::size_t size) noexcept
 {
@@ -50,16 +50,16 @@ void *malloc(std::size_t size) noexcept
     return __libc_malloc(size);
 }
 
-void *calloc(std::size_t count, std::size_t size) noexcept
+void *calloc(std::size_t nmemb, std::size_t size) noexcept
 {
     countOne();
-    return __libc_calloc(count, size);
+    return __libc_calloc(nmemb, size);
 }
 
-void *realloc(void *block, std::size_t size) noexcept
+void *realloc(void *ptr, std::size_t size) noexcept
 {
     countOne();
-    return __libc_realloc(block, size);
+    return __libc_realloc(ptr, size);
 }
 // NOLINTEND(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp)
 }
