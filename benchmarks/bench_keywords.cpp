@@ -64,8 +64,9 @@ QString inAnyCase(const QString &keyword)
 }
 
 /// Three keywords or aliases each, with blanks around some.
-QStringList keywordLists(const QStringList &keywords)
+QStringList keywordLists(QStringList keywords)
 {
+    keywords.sort(); // the same corpus, whatever the hash seed
     QStringList result;
     for (int i = 0; i < CORPUS_SIZE; ++i) {
         QStringList pieces;
