@@ -136,14 +136,14 @@ def medians_of(entries):
         return statistics.median(entry[key] for entry in entries)
 
     first = entries[0]
-    result = {"ns": median("real_time") * {"ns": 1, "ms": 1e6}[first["time_unit"]]}
-    if "items_per_second" in first:
-        result["ns"] = 1e9 / median("items_per_second")
-        result["best_ns"] = 1e9 / max(entry["items_per_second"] for entry in entries)
+    if "peak_megabytes" in first:  # a whole process, in milliseconds
+        return {"ns": median("real_time") * 1e6, "peak": median("peak_megabytes")}
+    if "items_per_second" not in first:
+        return {"ns": median("cpu_time")}
+    result = {"ns": 1e9 / median("items_per_second"),
+              "best_ns": 1e9 / max(entry["items_per_second"] for entry in entries)}
     if "allocs_per_iter" in first:
         result["allocations"] = median("allocs_per_iter") / first["corpus"]
-    if "peak_megabytes" in first:
-        result["peak"] = median("peak_megabytes")
     return result
 
 
@@ -188,10 +188,8 @@ def table(rows):
 
 def exponent(medians, name):
     """The slope of cost over size in double logarithmic scale: 1 is linear, 2 quadratic."""
-    points = [(math.log(int(run.rsplit("/", 1)[1])), math.log(figures["ns"])) for run, figures in medians.items()
-              if run.startswith(name + "/")]
-    mean_x, mean_y = (statistics.mean(values) for values in zip(*points))
-    return sum((x - mean_x) * (y - mean_y) for x, y in points) / sum((x - mean_x) ** 2 for x, _ in points)
+    costs = {int(run.rsplit("/", 1)[1]): figures["ns"] for run, figures in medians.items() if run.startswith(name + "/")}
+    return statistics.linear_regression([math.log(size) for size in costs], [math.log(ns) for ns in costs.values()]).slope
 
 
 def complexity_table(result):
