@@ -15,18 +15,18 @@ template class RVEnumWrapper<RVDlpTypeEnum>;
 namespace {
 
 constexpr RVKeyword<RVDlpTypeEnum> KEYWORDS[] = {
-    { "background"_L1, DLP_TYPE_BACKGROUND },
-    { "template"_L1, DLP_TYPE_TEMPLATE },
-    { "clipart"_L1, DLP_TYPE_CLIPART },
-    { "mask"_L1, DLP_TYPE_MASK },
-    { "style_v2"_L1, DLP_TYPE_STYLE_V2 },
-    { "layoutcollection"_L1, DLP_TYPE_LAYOUTCOLLECTION },
-    { "form_parameter_data"_L1, DLP_TYPE_FORM_PARAMETER_DATA },
-    { "predefined_project"_L1, DLP_TYPE_PREDEFINED_PROJECT },
-    { "filter_linnen_capable"_L1, DLP_TYPE_FILTER_LINNEN_CAPABLE },
-    { "storybook"_L1, DLP_TYPE_STORYBOOK },
-    { "style_v2_coverpage"_L1, DLP_TYPE_STYLE_V2_COVERPAGE },
-    { "style_v2_innerpage"_L1, DLP_TYPE_STYLE_V2_INNERPAGE },
+    { u"background", DLP_TYPE_BACKGROUND },
+    { u"template", DLP_TYPE_TEMPLATE },
+    { u"clipart", DLP_TYPE_CLIPART },
+    { u"mask", DLP_TYPE_MASK },
+    { u"style_v2", DLP_TYPE_STYLE_V2 },
+    { u"layoutcollection", DLP_TYPE_LAYOUTCOLLECTION },
+    { u"form_parameter_data", DLP_TYPE_FORM_PARAMETER_DATA },
+    { u"predefined_project", DLP_TYPE_PREDEFINED_PROJECT },
+    { u"filter_linnen_capable", DLP_TYPE_FILTER_LINNEN_CAPABLE },
+    { u"storybook", DLP_TYPE_STORYBOOK },
+    { u"style_v2_coverpage", DLP_TYPE_STYLE_V2_COVERPAGE },
+    { u"style_v2_innerpage", DLP_TYPE_STYLE_V2_INNERPAGE },
 };
 
 /// With the note to translators that comes with every plural form.

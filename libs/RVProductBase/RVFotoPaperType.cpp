@@ -13,11 +13,11 @@ namespace {
 
 // clang-format off
 constexpr RVKeyword<RVFotoPaperTypeEnum> KEYWORDS[] = {
-    { "0"_L1, NO_FOTO_PAPER },
-    { "1"_L1, GLOSSY },
-    { "glossy"_L1, GLOSSY },
-    { "2"_L1, MATT },
-    { "matt"_L1, MATT },
+    { u"0", NO_FOTO_PAPER },
+    { u"1", GLOSSY },
+    { u"glossy", GLOSSY },
+    { u"2", MATT },
+    { u"matt", MATT },
 };
 // clang-format on
 

@@ -4,24 +4,24 @@
 #include "RVEnumToStringTable.h"
 
 #include <QDebug>
-#include <QLatin1StringView>
+#include <QStringView>
 
 #include <cstddef>
 
-/// One row of a keyword table. The first row of a value encodes it, the others are aliases.
+/// One row of a keyword table, a u"…" literal. The first row of a value encodes it, the others are aliases.
 template<typename E>
 struct RVKeyword
 {
-    QLatin1StringView keyword;
+    QStringView keyword;
     E value;
 };
 
-/// Inserts the rows in their order.
+/// Inserts the rows in their order. Like every QStringLiteral, the keywords stay where the compiler put them.
 template<typename E, std::size_t N>
 void rvInsertKeywords(RVEnumToStringTable<E> *table, const RVKeyword<E> (&rows)[N])
 {
     for (const RVKeyword<E> &row : rows)
-        table->insert(row.keyword.toString(), row.value);
+        table->insert(QString::fromRawData(row.keyword.data(), row.keyword.size()), row.value);
 }
 
 /// Writes "RVOrientation(portrait, square)".

@@ -10,12 +10,12 @@ namespace {
 
 // clang-format off
 constexpr RVKeyword<RVMaterialTypeEnum> KEYWORDS[] = {
-    { "notebook"_L1, MATERIAL_TYPE_NOTEBOOK },
-    { "picture_box"_L1, MATERIAL_TYPE_PICTURE_BOX },
-    { "card_playing"_L1, MATERIAL_TYPE_CARD_PLAYING },
-    { "deco_print"_L1, MATERIAL_TYPE_DECO_PRINT },
-    { "retro_print"_L1, MATERIAL_TYPE_RETRO_PRINT },
-    { "picture_bundle"_L1, MATERIAL_TYPE_PICTURE_BUNDLE },
+    { u"notebook", MATERIAL_TYPE_NOTEBOOK },
+    { u"picture_box", MATERIAL_TYPE_PICTURE_BOX },
+    { u"card_playing", MATERIAL_TYPE_CARD_PLAYING },
+    { u"deco_print", MATERIAL_TYPE_DECO_PRINT },
+    { u"retro_print", MATERIAL_TYPE_RETRO_PRINT },
+    { u"picture_bundle", MATERIAL_TYPE_PICTURE_BUNDLE },
 };
 // clang-format on
 

@@ -18,15 +18,15 @@ template class RVEnumWrapper<RVOrientationEnum>;
 namespace {
 
 constexpr RVKeyword<RVOrientationEnum> KEYWORDS[] = {
-    { "none"_L1, ORIENTATION_NONE },
-    { "portrait"_L1, ORIENTATION_PORTRAIT },
-    { "landscape"_L1, ORIENTATION_LANDSCAPE },
-    { "portrait_slim"_L1, ORIENTATION_PORTRAIT_SLIM },
-    { "landscape_slim"_L1, ORIENTATION_LANDSCAPE_SLIM },
-    { "landscape_large"_L1, ORIENTATION_LANDSCAPE },
-    { "square"_L1, ORIENTATION_SQUARE },
-    { "quadratic"_L1, ORIENTATION_SQUARE },
-    { "all"_L1, ORIENTATION_ALL },
+    { u"none", ORIENTATION_NONE },
+    { u"portrait", ORIENTATION_PORTRAIT },
+    { u"landscape", ORIENTATION_LANDSCAPE },
+    { u"portrait_slim", ORIENTATION_PORTRAIT_SLIM },
+    { u"landscape_slim", ORIENTATION_LANDSCAPE_SLIM },
+    { u"landscape_large", ORIENTATION_LANDSCAPE },
+    { u"square", ORIENTATION_SQUARE },
+    { u"quadratic", ORIENTATION_SQUARE },
+    { u"all", ORIENTATION_ALL },
 };
 
 }

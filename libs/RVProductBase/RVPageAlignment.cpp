@@ -12,17 +12,17 @@ namespace {
 
 // clang-format off
 constexpr RVKeyword<RVPageAlignmentEnum> KEYWORDS[] = {
-    { "left"_L1, PAGE_ALIGNMENT_LEFT },
-    { "leftpage"_L1, PAGE_ALIGNMENT_LEFT },
-    { "right"_L1, PAGE_ALIGNMENT_RIGHT },
-    { "rightpage"_L1, PAGE_ALIGNMENT_RIGHT },
-    { "top"_L1, PAGE_ALIGNMENT_TOP },
-    { "bottom"_L1, PAGE_ALIGNMENT_BOTTOM },
-    { "center"_L1, PAGE_ALIGNMENT_CENTER },
-    { "middle"_L1, PAGE_ALIGNMENT_MIDDLE },
-    { "fullpage"_L1, PAGE_ALIGNMENT_FULLPAGE },
-    { "cover"_L1, PAGE_ALIGNMENT_LEFT },
-    { "coverpage"_L1, PAGE_ALIGNMENT_LEFT },
+    { u"left", PAGE_ALIGNMENT_LEFT },
+    { u"leftpage", PAGE_ALIGNMENT_LEFT },
+    { u"right", PAGE_ALIGNMENT_RIGHT },
+    { u"rightpage", PAGE_ALIGNMENT_RIGHT },
+    { u"top", PAGE_ALIGNMENT_TOP },
+    { u"bottom", PAGE_ALIGNMENT_BOTTOM },
+    { u"center", PAGE_ALIGNMENT_CENTER },
+    { u"middle", PAGE_ALIGNMENT_MIDDLE },
+    { u"fullpage", PAGE_ALIGNMENT_FULLPAGE },
+    { u"cover", PAGE_ALIGNMENT_LEFT },
+    { u"coverpage", PAGE_ALIGNMENT_LEFT },
 };
 // clang-format on
 

@@ -16,13 +16,13 @@ constexpr char CONTEXT[] = "RVPageBinding";
 
 // clang-format off
 constexpr RVKeyword<RVPageBindingEnum> KEYWORDS[] = {
-    { "unknown"_L1, UNKNOWN },
-    { "glue"_L1, GLUE },
-    { "glued"_L1, GLUE },
-    { "layflat"_L1, LAYFLAT },
-    { "lay_flat"_L1, LAYFLAT },
-    { "stapled"_L1, STAPLED },
-    { "spiral"_L1, SPIRAL },
+    { u"unknown", UNKNOWN },
+    { u"glue", GLUE },
+    { u"glued", GLUE },
+    { u"layflat", LAYFLAT },
+    { u"lay_flat", LAYFLAT },
+    { u"stapled", STAPLED },
+    { u"spiral", SPIRAL },
 };
 // clang-format on
 

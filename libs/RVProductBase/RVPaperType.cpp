@@ -11,23 +11,23 @@ namespace {
 constexpr char CONTEXT[] = "RVPaperType";
 
 constexpr RVKeyword<RVPaperTypeEnum> KEYWORDS[] = {
-    { "unbekanntes Papier"_L1, UNKNOWN_PAPER },
-    { "indigo"_L1, INDIGO },
-    { "digital_printing_standard"_L1, INDIGO },
-    { "indigo-glossy"_L1, INDIGO_GLOSSY },
-    { "glossy"_L1, INDIGO_GLOSSY },
-    { "digital_printing_glossy"_L1, INDIGO_GLOSSY },
-    { "fotopaper"_L1, FOTOPAPER },
-    { "photopaper_matt"_L1, FOTOPAPER },
-    { "fotopaper-glossy"_L1, FOTOPAPER_GLOSSY },
-    { "photopaper_glossy"_L1, FOTOPAPER_GLOSSY },
-    { "premium"_L1, PREMIUM },
-    { "digital_printing_premium"_L1, PREMIUM },
-    { "premium-matt"_L1, PREMIUM_MATT },
-    { "digital_printing_matt"_L1, PREMIUM_MATT }, // not INDIGO
-    { "fotopaper-premium-matt"_L1, FOTOPAPER_PREMIUM_MATT },
-    { "photopaper_classy_matt"_L1, FOTOPAPER_PREMIUM_MATT },
-    { "digital_printing_recycled"_L1, DIGITAL_PRINTING_RECYCLED },
+    { u"unbekanntes Papier", UNKNOWN_PAPER },
+    { u"indigo", INDIGO },
+    { u"digital_printing_standard", INDIGO },
+    { u"indigo-glossy", INDIGO_GLOSSY },
+    { u"glossy", INDIGO_GLOSSY },
+    { u"digital_printing_glossy", INDIGO_GLOSSY },
+    { u"fotopaper", FOTOPAPER },
+    { u"photopaper_matt", FOTOPAPER },
+    { u"fotopaper-glossy", FOTOPAPER_GLOSSY },
+    { u"photopaper_glossy", FOTOPAPER_GLOSSY },
+    { u"premium", PREMIUM },
+    { u"digital_printing_premium", PREMIUM },
+    { u"premium-matt", PREMIUM_MATT },
+    { u"digital_printing_matt", PREMIUM_MATT }, // not INDIGO
+    { u"fotopaper-premium-matt", FOTOPAPER_PREMIUM_MATT },
+    { u"photopaper_classy_matt", FOTOPAPER_PREMIUM_MATT },
+    { u"digital_printing_recycled", DIGITAL_PRINTING_RECYCLED },
 };
 
 /// The key is stored elsewhere and stays; the text is what the customer reads.

@@ -10,11 +10,11 @@ namespace {
 
 // clang-format off
 constexpr RVKeyword<RVProductArrangementEnum> KEYWORDS[] = {
-    { "trivial"_L1, PRODUCT_ARRANGEMENT_TRIVIAL },
-    { "gift"_L1, PRODUCT_ARRANGEMENT_GIFT },
-    { "card"_L1, PRODUCT_ARRANGEMENT_CARD },
-    { "photobook"_L1, PRODUCT_ARRANGEMENT_PHOTOBOOK },
-    { "calendar"_L1, PRODUCT_ARRANGEMENT_CALENDAR },
+    { u"trivial", PRODUCT_ARRANGEMENT_TRIVIAL },
+    { u"gift", PRODUCT_ARRANGEMENT_GIFT },
+    { u"card", PRODUCT_ARRANGEMENT_CARD },
+    { u"photobook", PRODUCT_ARRANGEMENT_PHOTOBOOK },
+    { u"calendar", PRODUCT_ARRANGEMENT_CALENDAR },
 };
 // clang-format on
 

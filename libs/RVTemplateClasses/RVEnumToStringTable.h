@@ -1,6 +1,8 @@
 #ifndef RVENUMTOSTRINGTABLE_H
 #define RVENUMTOSTRINGTABLE_H
 
+#include "RVKeywordIndex.h"
+
 #include <QByteArray>
 #include <QDebug>
 #include <QHash>
@@ -8,9 +10,12 @@
 #include <QMessageLogger>
 #include <QString>
 #include <QStringList>
+#include <QStringView>
+#include <QtAlgorithms>
 
 #include <cxxabi.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <memory>
 #include <type_traits>
@@ -44,7 +49,7 @@ public:
     ENUM defaultValue = ENUM(0);
 
     /// The value of one keyword, @p fallback for an unknown or empty one.
-    ENUM decode(const QString &keyword, ENUM fallback) const;
+    ENUM decode(const QString &keyword, ENUM fallback) const { return decodePiece(keyword, fallback); }
 
     /// The value of one keyword, else the default value. An unknown keyword that is not empty is reported in the
     /// message log where @p warn is true.
@@ -55,7 +60,7 @@ public:
     ENUM decodeCSV(const QString &text) const;
 
     /// The keyword of exactly this value, be it a bit or a named combination, else the default keyword.
-    QString encode(ENUM value) const;
+    QString encode(ENUM value) const { return encoding(value); }
 
     /// One keyword a set bit, lowest bit first; the default keyword for a bit that has none. Empty for a value below 1.
     QStringList encodeAsList(ENUM value) const;
@@ -85,17 +90,46 @@ public:
     /// inserted again takes the new value.
     void insert(const QString &keyword, ENUM value);
 
+    /// Makes look-ups faster, their results stay the same. To be called once the table is filled; a keyword that is
+    /// inserted later undoes it.
+    void optimize();
+
 private:
     using Bits = std::make_signed_t<std::underlying_type_t<ENUM>>;
+    using UnsignedBits = std::make_unsigned_t<Bits>;
     static constexpr ENUM NOT_FOUND = ENUM(-260570);
 
+    ENUM decodePiece(QStringView piece, ENUM fallback) const
+    {
+        const qint64 *const indexed = myIndex.find(piece);
+        return indexed ? ENUM(*indexed) : decodeUnindexed(piece, fallback);
+    }
+    ENUM decodeUnindexed(QStringView piece, ENUM fallback) const;
+    const QString &encoding(ENUM value) const
+    {
+        const auto bits = UnsignedBits(value);
+        const bool isIndexed = (bits & myIndexedBits) != 0 && (bits & (bits - 1)) == 0;
+        return isIndexed ? myBitKeywords[qCountTrailingZeroBits(bits)] : findEncoding(value);
+    }
+    const QString &findEncoding(ENUM value) const;
+    template<typename Visitor>
+    static void visitBits(ENUM value, Visitor visit);
     static void warnUndecodable(const QString &keyword);
+
+    // What optimize() derives from the two maps.
+    RVKeywordIndex myIndex;
+    UnsignedBits myIndexedBits = 0;
+    QString myBitKeywords[sizeof(ENUM) * 8]; // of the indexed bits, by their numbers
 };
 
+// What the index cannot judge, say a text with a no-break space around it or with a Kelvin sign for a "k", is trimmed
+// and put into lower case by the rules of Unicode.
 template<typename ENUM>
-ENUM RVEnumToStringTable<ENUM>::decode(const QString &keyword, ENUM fallback) const
+ENUM RVEnumToStringTable<ENUM>::decodeUnindexed(QStringView piece, ENUM fallback) const
 {
-    return myKeywords.value(keyword.trimmed().toLower(), fallback);
+    if (myIndex.covers(piece))
+        return fallback;
+    return myKeywords.value(piece.trimmed().toString().toLower(), fallback);
 }
 
 template<typename ENUM>
@@ -112,32 +146,56 @@ ENUM RVEnumToStringTable<ENUM>::decodeOneElement(const QString &keyword, bool wa
 template<typename ENUM>
 ENUM RVEnumToStringTable<ENUM>::decodeCSV(const QString &text) const
 {
-    Bits bits = 0;
-    for (const QString &keyword : text.split(u','))
-        bits |= Bits(decode(keyword, defaultValue));
+    const QChar *piece = text.begin();
+    const QChar *comma = std::find(piece, text.end(), u',');
+    Bits bits = Bits(decodePiece({ piece, comma }, defaultValue));
+    while (comma != text.end()) {
+        piece = comma + 1;
+        comma = std::find(piece, text.end(), u',');
+        bits |= Bits(decodePiece({ piece, comma }, defaultValue));
+    }
     return ENUM(bits);
 }
 
 template<typename ENUM>
-QString RVEnumToStringTable<ENUM>::encode(ENUM value) const
+const QString &RVEnumToStringTable<ENUM>::findEncoding(ENUM value) const
 {
-    return myEncodings.value(value, defaultKeyword);
+    const auto found = myEncodings.constFind(value);
+    return found != myEncodings.constEnd() ? *found : defaultKeyword;
 }
 
 template<typename ENUM>
 QStringList RVEnumToStringTable<ENUM>::encodeAsList(ENUM value) const
 {
     QStringList result;
-    for (const ENUM bit : splitToBitsSorted(value))
-        result += encode(bit);
+    visitBits(value, [&](ENUM bit) { result += encoding(bit); });
     return result;
 }
 
+// The keywords are measured first, so that the text is allocated once.
 template<typename ENUM>
 QString RVEnumToStringTable<ENUM>::encodeCSV(ENUM value) const
 {
-    const QStringList keywords = encodeAsList(value);
-    return keywords.isEmpty() ? defaultKeyword : keywords.join(QStringLiteral(", "));
+    if (Bits(value) < 1)
+        return defaultKeyword;
+    constexpr QStringView SEPARATOR = u", ";
+    const QString *keywords[sizeof(ENUM) * 8];
+    int count = 0;
+    qsizetype size = -SEPARATOR.size();
+    visitBits(value, [&](ENUM bit) {
+        const QString &keyword = encoding(bit);
+        size += keyword.size() + SEPARATOR.size();
+        keywords[count++] = &keyword;
+    });
+    if (size == 0)
+        return QString();
+    QString result(size, Qt::Uninitialized);
+    QChar *end = std::copy(keywords[0]->begin(), keywords[0]->end(), result.data());
+    for (int i = 1; i < count; ++i) {
+        end = std::copy(SEPARATOR.begin(), SEPARATOR.end(), end);
+        end = std::copy(keywords[i]->begin(), keywords[i]->end(), end);
+    }
+    return result;
 }
 
 template<typename ENUM>
@@ -152,8 +210,7 @@ template<typename ENUM>
 QStringList RVEnumToStringTable<ENUM>::allPossibleKeywords(ENUM value) const
 {
     QStringList result;
-    for (const ENUM bit : splitToBitsSorted(value))
-        result += keywords(bit);
+    visitBits(value, [&](ENUM bit) { result += keywords(bit); });
     return result;
 }
 
@@ -161,11 +218,19 @@ template<typename ENUM>
 QList<ENUM> RVEnumToStringTable<ENUM>::splitToBitsSorted(ENUM value)
 {
     QList<ENUM> result;
-    if (Bits(value) < 1)
-        return result;
-    for (Bits rest = Bits(value); rest != 0; rest &= rest - 1)
-        result += ENUM(rest & -rest);
+    if (Bits(value) > 0)
+        result.reserve(qPopulationCount(UnsignedBits(value)));
+    visitBits(value, [&](ENUM bit) { result += bit; });
     return result;
+}
+
+// Calls visit(bit) for each bit of a value, lowest first; never for a value below 1.
+template<typename ENUM>
+template<typename Visitor>
+void RVEnumToStringTable<ENUM>::visitBits(ENUM value, Visitor visit)
+{
+    for (Bits rest = Bits(value); rest > 0; rest &= rest - 1)
+        visit(ENUM(rest & -rest));
 }
 
 template<typename ENUM>
@@ -180,6 +245,23 @@ void RVEnumToStringTable<ENUM>::insert(const QString &keyword, ENUM value)
     myKeywords.insert(keyword.toLower(), value);
     if (!myEncodings.contains(value))
         myEncodings.insert(value, keyword);
+    myIndex = RVKeywordIndex();
+    myIndexedBits = 0;
+}
+
+template<typename ENUM>
+void RVEnumToStringTable<ENUM>::optimize()
+{
+    myIndex = RVKeywordIndex(myKeywords.size());
+    for (auto it = myKeywords.begin(); it != myKeywords.end(); ++it)
+        myIndex.insert(it.key(), qint64(it.value()));
+    for (auto it = myEncodings.begin(); it != myEncodings.end(); ++it) {
+        const auto bits = UnsignedBits(it.key());
+        if (qPopulationCount(bits) != 1)
+            continue;
+        myIndexedBits |= bits;
+        myBitKeywords[qCountTrailingZeroBits(bits)] = it.value();
+    }
 }
 
 // Log filters of the application know this message by its context, which therefore stays as it is whatever compiler

@@ -109,12 +109,13 @@ public:
     /// Inverts every bit that is set in @p other; none for a value below 1.
     RVEnumWrapper &toggleBits(const RVEnumWrapper &other);
 
+    // Counting builds the table too, as every question about single bits does.
     /// Number of set bits; 0 for a negative value.
-    int countBits() const;
+    int countBits() const { return enumToStringTable(), bits() < 1 ? 0 : int(qPopulationCount(quint64(bits()))); }
     /// True for one set bit; never for a negative value.
-    bool hasExactlyOneBit() const { return countBits() == 1; }
+    bool hasExactlyOneBit() const { return enumToStringTable(), bits() > 0 && (bits() & (bits() - 1)) == 0; }
     /// True for two or more set bits; never for a negative value.
-    bool isConglumerate() const { return countBits() > 1; }
+    bool isConglumerate() const { return enumToStringTable(), bits() > 0 && (bits() & (bits() - 1)) != 0; }
     /// The single bits, in no particular order; empty for a value below 1.
     QSet<E> splitToBits() const;
     /// The single bits, lowest first; empty for a value below 1.
@@ -141,7 +142,11 @@ public:
     QStringList allPossibleKeywords() const { return enumToStringTable()->allPossibleKeywords(myValue); }
 
     /// The table of E, filled by the class of the first object that asks. It lives as long as the process. Any thread.
-    const RVEnumToStringTable<E> *enumToStringTable() const;
+    const RVEnumToStringTable<E> *enumToStringTable() const
+    {
+        const RVEnumToStringTable<E> *table = myTable.load(std::memory_order_acquire);
+        return table ? table : makeTable();
+    }
 
 private:
     using Bits = std::make_signed_t<std::underlying_type_t<E>>;
@@ -152,8 +157,10 @@ private:
         myValue = E(bits);
         return *this;
     }
+    const RVEnumToStringTable<E> *makeTable() const;
 
     E myValue;
+    static std::atomic<const RVEnumToStringTable<E> *> myTable;
 };
 
 template<typename E>
@@ -166,16 +173,11 @@ E RVEnumWrapper<E>::setValue(const QString &text)
 template<typename E>
 RVEnumWrapper<E> &RVEnumWrapper<E>::toggleBits(const RVEnumWrapper &other)
 {
-    for (const E bit : other.splitToBitsSorted())
+    for (Bits rest = other.bits(); rest > 0; rest &= rest - 1) {
+        const E bit = E(rest & -rest);
         setBit(bit, !matches(bit));
+    }
     return *this;
-}
-
-template<typename E>
-int RVEnumWrapper<E>::countBits() const
-{
-    enumToStringTable();
-    return bits() < 1 ? 0 : int(qPopulationCount(quint64(bits())));
 }
 
 template<typename E>
@@ -185,14 +187,13 @@ QSet<E> RVEnumWrapper<E>::splitToBits() const
     return QSet<E>(sorted.begin(), sorted.end());
 }
 
-// Not inline: the two statics stand for the whole process, so they belong to the one library that instantiates E.
+// Stands for the whole process, so it belongs to the one library that instantiates E.
 template<typename E>
-const RVEnumToStringTable<E> *RVEnumWrapper<E>::enumToStringTable() const
-{
-    static std::atomic<const RVEnumToStringTable<E> *> myTable { nullptr };
-    if (const auto *table = myTable.load(std::memory_order_acquire))
-        return table;
+std::atomic<const RVEnumToStringTable<E> *> RVEnumWrapper<E>::myTable { nullptr };
 
+template<typename E>
+const RVEnumToStringTable<E> *RVEnumWrapper<E>::makeTable() const
+{
     static QMutex theMutex;
     const QMutexLocker locker(&theMutex);
     if (const auto *table = myTable.load(std::memory_order_relaxed))
@@ -205,6 +206,7 @@ const RVEnumToStringTable<E> *RVEnumWrapper<E>::enumToStringTable() const
         static const auto *const withoutKeywords = new RVEnumToStringTable<E>;
         return withoutKeywords;
     }
+    table->optimize();
     myTable.store(table.get(), std::memory_order_release);
     return table.release();
 }

@@ -1,0 +1,153 @@
+#ifndef RVKEYWORDINDEX_H
+#define RVKEYWORDINDEX_H
+
+#include <QList>
+#include <QStringView>
+#include <QtMath>
+
+#include <algorithm>
+#include <cstring>
+
+/**
+ * Keywords in the form in which they are found fastest: a flat hash table that reads and compares four letters at a
+ * time. The values are those of any enumeration.
+ *
+ * Letter case and white space around a keyword are ignored, and nothing is allocated to find one. It knows ASCII
+ * keywords of up to LONGEST letters only; covers() tells for which texts "not found" is the last word.
+ *
+ * @ingroup templates
+ */
+class RVKeywordIndex
+{
+public:
+    /// In UTF-16 code units.
+    static constexpr qsizetype LONGEST = 32;
+
+    /// With room for so many keywords, not for more.
+    explicit RVKeywordIndex(qsizetype keywords = 0);
+
+    /// Adds a keyword that it does not know yet; does nothing with one that it does not cover.
+    void insert(QStringView keyword, qint64 value);
+
+    /// The value of the keyword; null for one that it does not know. Any number of threads may ask.
+    const qint64 *find(QStringView keyword) const noexcept;
+
+    /// True for ASCII texts of up to LONGEST letters, once there is room for a keyword.
+    bool covers(QStringView keyword) const noexcept;
+
+private:
+    static constexpr quint64 EACH = 0x0001'0001'0001'0001; // puts a number into each of the four letters of a word
+    static constexpr quint64 CASE = 0x20 * EACH; // tells "a" from "A"
+
+    struct Slot
+    {
+        bool isFree() const noexcept { return length < 0; }
+        bool holds(QStringView keyword) const noexcept;
+
+        quint64 words[LONGEST / 4];
+        qsizetype length = -1;
+        qint64 value = 0;
+    };
+
+    static QStringView trimmed(QStringView text) noexcept;
+    static quint64 word(QStringView text, qsizetype number) noexcept;
+    static quint64 lowerCase(quint64 word) noexcept;
+    static qsizetype wordCount(QStringView text) noexcept { return (text.size() + 3) / 4; }
+    qsizetype position(QStringView keyword) const noexcept;
+
+    QList<Slot> mySlots; // as many as a power of two, half of them or more free
+};
+
+inline RVKeywordIndex::RVKeywordIndex(qsizetype keywords)
+{
+    if (keywords > 0)
+        mySlots.resize(qsizetype(qNextPowerOfTwo(quint64(keywords) * 2 - 1)));
+}
+
+inline void RVKeywordIndex::insert(QStringView keyword, qint64 value)
+{
+    if (!covers(keyword))
+        return;
+    Slot &slot = mySlots[position(keyword)];
+    for (qsizetype i = 0; i < wordCount(keyword); ++i)
+        slot.words[i] = lowerCase(word(keyword, i));
+    slot.length = keyword.size();
+    slot.value = value;
+}
+
+inline const qint64 *RVKeywordIndex::find(QStringView keyword) const noexcept
+{
+    const QStringView text = trimmed(keyword);
+    if (mySlots.isEmpty() || text.size() > LONGEST)
+        return nullptr;
+    const Slot &slot = mySlots.at(position(text));
+    return slot.isFree() ? nullptr : &slot.value;
+}
+
+inline bool RVKeywordIndex::covers(QStringView keyword) const noexcept
+{
+    return !mySlots.isEmpty() && keyword.size() <= LONGEST
+            && std::all_of(keyword.begin(), keyword.end(), [](QChar letter) { return letter.unicode() < 0x80; });
+}
+
+// Where the keyword is, else the free slot where it would be. First and last letters tell most keywords apart.
+inline qsizetype RVKeywordIndex::position(QStringView keyword) const noexcept
+{
+    const quint64 first = word(keyword, 0) | CASE;
+    const quint64 last = word(keyword, wordCount(keyword) - 1) | CASE;
+    const quint64 hash = (first + 31 * last + quint64(keyword.size())) * 0x9e37'79b9'7f4a'7c15;
+    const Slot *const all = mySlots.constData();
+    const qsizetype mask = mySlots.size() - 1;
+    qsizetype i = qsizetype(hash >> 32) & mask;
+    while (!all[i].isFree() && !all[i].holds(keyword))
+        i = (i + 1) & mask;
+    return i;
+}
+
+inline bool RVKeywordIndex::Slot::holds(QStringView keyword) const noexcept
+{
+    if (length != keyword.size())
+        return false;
+    for (qsizetype i = 0; i < wordCount(keyword); ++i) {
+        const quint64 letters = word(keyword, i);
+        if ((letters & 0xff80 * EACH) != 0 || lowerCase(letters) != words[i])
+            return false;
+    }
+    return true;
+}
+
+// The white space of ASCII.
+inline QStringView RVKeywordIndex::trimmed(QStringView text) noexcept
+{
+    const auto isSpace = [](QChar letter) { return letter == u' ' || (letter >= u'\t' && letter <= u'\r'); };
+    while (!text.isEmpty() && isSpace(text.back()))
+        text.chop(1);
+    while (!text.isEmpty() && isSpace(text.front()))
+        text = text.sliced(1);
+    return text;
+}
+
+// Four letters. Those of the last word come from the end of the text, so some may be in the word before it as well.
+inline quint64 RVKeywordIndex::word(QStringView text, qsizetype number) noexcept
+{
+    const char16_t *const letters = text.utf16();
+    quint64 result = 0;
+    if (text.size() >= 4) {
+        std::memcpy(&result, letters + std::min(number * 4, text.size() - 4), sizeof result);
+        return result;
+    }
+    for (qsizetype i = 0; i < text.size(); ++i)
+        result = result << 16 | letters[i];
+    return result;
+}
+
+// Bit 7 of an ASCII letter is free. It becomes set where a letter is moved up far enough: from "A", and behind "Z".
+inline quint64 RVKeywordIndex::lowerCase(quint64 word) noexcept
+{
+    const quint64 fromA = word + (0x80 - u'A') * EACH;
+    const quint64 behindZ = word + (0x80 - (u'Z' + 1)) * EACH;
+    const quint64 upperCase = fromA & ~behindZ & 0x80 * EACH;
+    return word | upperCase >> 2; // in the place of CASE
+}
+
+#endif
