@@ -43,9 +43,13 @@ void RVPageOrganizationManager::setCalculator(RVPageOrganizationCalculator *calc
 RVPageCountOrganization *RVPageOrganizationManager::organization(const RVProductType &type)
 {
     const QMutexLocker locker(&myMutex);
-    if (RVPageCountOrganization *cached = myCache.value(type))
-        return cached;
-    RVPageCountOrganization *created = createPageOrganization(type);
+    RVPageCountOrganization *const cached = myCache.value(type);
+    return cached ? cached : calculate(type);
+}
+
+RVPageCountOrganization *RVPageOrganizationManager::calculate(const RVProductType &type)
+{
+    RVPageCountOrganization *const created = createPageOrganization(type);
     keepForever(created);
     myCache.insert(type, created);
     return created;

@@ -50,6 +50,8 @@ public Q_SLOTS:
     void clearCache();
 
 private:
+    RVPageCountOrganization *calculate(const RVProductType &type);
+
     mutable QRecursiveMutex myMutex;
     QHash<RVProductType, RVPageCountOrganization *> myCache;
     RVPageOrganizationCalculator *myCalculator = nullptr;

@@ -45,13 +45,15 @@ void RVProductCheckerRegistry::clearCaches()
 
 bool RVProductCheckerRegistry::isValid(const RVProductType &type, RVProductCheckerType kinds) const
 {
-    const std::pair key(type, kinds);
     const QMutexLocker locker(&myMutex);
-    const auto cached = myCache.constFind(key);
-    if (cached != myCache.constEnd())
-        return *cached;
+    const auto cached = myCache.constFind(std::pair(RVProductType::borrow(type), kinds));
+    return cached != myCache.constEnd() ? *cached : ask(type, kinds);
+}
+
+bool RVProductCheckerRegistry::ask(const RVProductType &type, RVProductCheckerType kinds) const
+{
     const bool result = isValidWorker(type, kinds);
-    myCache.insert(key, result);
+    myCache.insert(std::pair(type, kinds), result);
     return result;
 }
 

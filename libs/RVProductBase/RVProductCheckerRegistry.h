@@ -49,6 +49,8 @@ public:
                          RVProductCheckerType kinds) const;
 
 private:
+    bool ask(const RVProductType &type, RVProductCheckerType kinds) const;
+
     QList<RVProductChecker *> myCheckers;
     mutable QRecursiveMutex myMutex;
     mutable QHash<std::pair<RVProductType, RVProductCheckerType>, bool> myCache;

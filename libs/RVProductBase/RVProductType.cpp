@@ -5,22 +5,50 @@
 #include <QDomElement>
 #include <QHash>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 const RVRegularExpression RVProductType::myBookRegExp(u"((DUN|DUNS)\\d+).*"_s);
 
-RVProductType::RVProductType(const QString &code) : myName(code)
+namespace {
+
+constexpr bool isDigit(QChar letter)
 {
-    if (myName.isEmpty())
-        return;
-    // The search is not anchored: "DXDUN5A" belongs to "DUN5".
-    if (myName.startsWith(u'D')) {
-        const QRegularExpressionMatch match = myBookRegExp.match(myName);
-        if (match.hasMatch())
-            myName = match.captured(1);
-    }
-    myHashValue = qHash(myName, 0);
+    return letter >= u'0' && letter <= u'9';
 }
+
+/// Finds what myBookRegExp captures, without the cost of an expression; empty where it does not match.
+QStringView bookFamily(QStringView code)
+{
+    constexpr QStringView LETTERS = u"DUN";
+    for (const QChar *family = code.begin(); code.end() - family > LETTERS.size(); ++family) {
+        if (!std::equal(LETTERS.begin(), LETTERS.end(), family))
+            continue;
+        const QChar *digits = family + LETTERS.size();
+        if (*digits == u'S')
+            ++digits;
+        const QChar *end = std::find_if_not(digits, code.end(), isDigit);
+        // An expression does not search broken UTF-16.
+        if (end != digits)
+            return code.isValidUtf16() ? QStringView(family, end) : QStringView();
+    }
+    return QStringView();
+}
+
+// The search is not anchored: "DXDUN5A" belongs to "DUN5".
+QString normalized(const QString &code)
+{
+    const QStringView family = QStringView(code).startsWith(u'D') ? bookFamily(code) : QStringView();
+    return family.isEmpty() || family.size() == code.size() ? code : family.toString();
+}
+
+}
+
+RVProductType::RVProductType(const QString &code)
+    : myName(normalized(code)),
+      myHashValue(myName.isEmpty() ? 0 : qHash(myName, 0))
+{ }
 
 RVProductType RVProductType::fromPriceClass(const RVPriceClass &priceClass)
 {
@@ -48,11 +76,10 @@ QString RVProductType::orderTxtName() const
     return myName.isEmpty() ? u"UNKNOWN"_s : myName;
 }
 
-bool operator==(const RVProductType &a, const RVProductType &b)
+// Equal hashes nearly always mean equal names, and plain equality is quicker to tell.
+bool RVProductType::hasNameOf(const RVProductType &other) const
 {
-    if (a.myHashValue != b.myHashValue || a.isValid() != b.isValid())
-        return false;
-    return a.myName.compare(b.myName, Qt::CaseInsensitive) == 0;
+    return myName == other.myName || myName.compare(other.myName, Qt::CaseInsensitive) == 0;
 }
 
 bool operator<(const RVProductType &a, const RVProductType &b)

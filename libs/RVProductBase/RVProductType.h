@@ -50,13 +50,34 @@ public:
 
     /// Names compare case-insensitively, but only where the case-sensitive hashes are equal: "dun" and "DUN" differ.
     /// @{
-    RVPRODUCTBASE_EXPORT friend bool operator==(const RVProductType &a, const RVProductType &b);
+    friend bool operator==(const RVProductType &a, const RVProductType &b)
+    {
+        return a.myHashValue == b.myHashValue && a.isValid() == b.isValid() && a.sharesNameOf(b);
+    }
     friend bool operator!=(const RVProductType &a, const RVProductType &b) { return !(a == b); }
     /// @}
     /// By hash, then by name: the same order in every run, but none to show.
     RVPRODUCTBASE_EXPORT friend bool operator<(const RVProductType &a, const RVProductType &b);
 
 private:
+    friend class RVProductCheckerRegistry;
+
+    /// The same type, without a part in the ownership of its text: good for a look-up while @p type lives.
+    static RVProductType borrow(const RVProductType &type)
+    {
+        RVProductType borrowed;
+        borrowed.myName = QString::fromRawData(type.myName.constData(), type.myName.size());
+        borrowed.myHashValue = type.myHashValue;
+        return borrowed;
+    }
+    bool sharesNameOf(const RVProductType &other) const
+    {
+        // Copies of one type share their text, and the caches are asked with such copies.
+        return (myName.constData() == other.myName.constData() && myName.size() == other.myName.size())
+                || hasNameOf(other);
+    }
+    bool hasNameOf(const RVProductType &other) const;
+
     QString myName;
     quint64 myHashValue = 0;
 };
