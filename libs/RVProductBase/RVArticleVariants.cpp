@@ -11,6 +11,27 @@
 
 #include <algorithm>
 
+namespace {
+
+constexpr bool isSeparator(char16_t letter)
+{
+    return letter == u':' || letter == u'|' || letter == u'+';
+}
+
+/// True for the letters that are nothing but part of a key or a value, which most are.
+constexpr auto isOrdinary = [](QChar letter) { return letter > u':' && letter < u'|'; };
+
+/// Piece by piece, each with a regular expression, which does not search in broken UTF-16.
+RVArticleVariants readPieces(const QString &text)
+{
+    RVArticleVariants result;
+    for (const QString &piece : text.split(KOMMA))
+        result.insert(RVArticleVariants(piece));
+    return result;
+}
+
+}
+
 RVArticleVariants::RVArticleVariants(const QString &key, const QString &value)
 {
     if (!key.isEmpty() && !value.isEmpty())
@@ -42,12 +63,30 @@ RVArticleVariants::RVArticleVariants(const QJsonArray &parameters)
 
 RVArticleVariants::~RVArticleVariants() = default;
 
+// The same as readPieces(), in one go.
 RVArticleVariants RVArticleVariants::createFromKTX(const QString &text)
 {
     RVArticleVariants result;
-    for (const QString &piece : text.split(KOMMA, Qt::SkipEmptyParts))
-        result.insert(RVArticleVariants(piece));
-    return result;
+    const QChar *piece = text.begin();
+    const QChar *separator = nullptr;
+    int separators = 0;
+    for (const QChar *letter = piece;; ++letter) {
+        letter = std::find_if_not(letter, text.end(), isOrdinary);
+        if (letter == text.end() || *letter == KOMMA) {
+            if (separators == 1)
+                result.myVariants.emplace(QString(piece, separator - piece),
+                                          QString(separator + 1, letter - separator - 1));
+            if (letter == text.end())
+                return result;
+            piece = letter + 1;
+            separators = 0;
+        } else if (isSeparator(letter->unicode())) {
+            separator = letter;
+            ++separators;
+        } else if (letter->isSurrogate()) {
+            return readPieces(text);
+        }
+    }
 }
 
 RVArticleVariants RVArticleVariants::blackPXWGiftBox()
