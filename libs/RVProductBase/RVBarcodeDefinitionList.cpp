@@ -1,6 +1,6 @@
 #include "RVBarcodeDefinitionList.h"
 
-#include <QDomElement>
+#include "RVDomChildren_p.h"
 
 #include <algorithm>
 #include <iterator>
@@ -11,9 +11,8 @@ RVBarcodeDefinitionList RVBarcodeDefinitionList::createFromProductsXML(const QDo
                                                                        const RVDistanceUnit &unit)
 {
     RVBarcodeDefinitionList result;
-    for (QDomElement element = parent.firstChildElement(u"barcode"_s); !element.isNull();
-         element = element.nextSiblingElement(u"barcode"_s))
-        result += createFromXTCI(element, unit);
+    rvVisitChildElements(parent, u"barcode"_s,
+                         [&](const QDomElement &barcode) { result += createFromXTCI(barcode, unit); });
     return result;
 }
 

@@ -26,7 +26,7 @@ public:
     RVBarcodeDefinition findDefinition(const QRect &rect) const;
 
     /// Takes in the definitions of @p other: each is appended unless it is here already, and replaces what was at the
-    /// same rectangle.
+    /// same rectangle. Cost grows with the product of the sizes.
     void updateDefinitions(const RVBarcodeDefinitionList &other);
 
     /// No strict order: a shorter list comes first; of two lists of the same length, the one whose definitions are all

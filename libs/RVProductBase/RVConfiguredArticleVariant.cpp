@@ -9,6 +9,9 @@
 #include <QDebug>
 #include <QDomElement>
 
+#include <memory>
+#include <optional>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -18,10 +21,47 @@ QString textAttribute(const QDomElement &element, const QString &name)
     return RVXMLParser::attribute(element, name, u""_s, true);
 }
 
+/// The colour of a text such as "#8c1c2b", in which nearly all colours of a catalogue are written.
+std::optional<QColor> parseHexColor(QStringView text)
+{
+    if (text.size() != 7 || text.front() != u'#')
+        return std::nullopt;
+    QRgb rgb = 0;
+    for (const QChar letter : text.sliced(1)) {
+        if (letter >= u'0' && letter <= u'9')
+            rgb = rgb << 4 | QRgb(letter.unicode() - u'0');
+        else if (const char16_t lower = letter.unicode() | 0x20; lower >= u'a' && lower <= u'f')
+            rgb = rgb << 4 | QRgb(lower - u'a' + 10);
+        else
+            return std::nullopt;
+    }
+    return QColor::fromRgb(rgb);
+}
+
 QColor colorAttribute(const QDomElement &element, const QString &name)
 {
     const QString text = textAttribute(element, name);
-    return text.isEmpty() ? QColor() : QColor::fromString(text);
+    if (text.isEmpty())
+        return QColor();
+    const auto color = parseHexColor(text);
+    return color ? *color : QColor::fromString(text);
+}
+
+// Field by field, so that every text is moved into its place.
+RVConfiguredArticleVariantImpl *readOption(const QDomElement &element)
+{
+    auto option = std::make_unique<RVConfiguredArticleVariantImpl>();
+    option->key = textAttribute(element, u"key"_s);
+    option->keyName = textAttribute(element, u"key_name"_s);
+    option->value = textAttribute(element, u"value"_s);
+    option->visibleName = textAttribute(element, u"value_name"_s);
+    option->editorName = textAttribute(element, u"editor_name"_s);
+    option->name = textAttribute(element, u"name"_s);
+    option->preview = textAttribute(element, u"preview"_s);
+    option->color = colorAttribute(element, u"color"_s);
+    option->preselected = RVXMLParser::boolAttribute(element, u"preselected"_s, false);
+    option->notAccountable = RVXMLParser::boolAttribute(element, u"not_accountable"_s, false);
+    return option.release();
 }
 
 }
@@ -44,14 +84,7 @@ RVConfiguredArticleVariant::RVConfiguredArticleVariant(const QString &text) : RV
     d->value = pieces.at(1);
 }
 
-RVConfiguredArticleVariant::RVConfiguredArticleVariant(const QDomElement &element)
-    : d(new RVConfiguredArticleVariantImpl(textAttribute(element, u"key"_s), textAttribute(element, u"key_name"_s),
-                                           textAttribute(element, u"value"_s), textAttribute(element, u"value_name"_s),
-                                           textAttribute(element, u"editor_name"_s), textAttribute(element, u"name"_s),
-                                           textAttribute(element, u"preview"_s), colorAttribute(element, u"color"_s),
-                                           RVXMLParser::boolAttribute(element, u"preselected"_s, false),
-                                           RVXMLParser::boolAttribute(element, u"not_accountable"_s, false)))
-{ }
+RVConfiguredArticleVariant::RVConfiguredArticleVariant(const QDomElement &element) : d(readOption(element)) { }
 
 QString RVConfiguredArticleVariant::key() const
 {

@@ -1,10 +1,11 @@
 #include "RVConfiguredArticleVariantList.h"
 
 #include "RVComposite_p.h"
+#include "RVDomChildren_p.h"
 #include "RVKomma_p.h"
 
 #include <QDebug>
-#include <QDomElement>
+#include <QMap>
 
 #include <algorithm>
 #include <functional>
@@ -61,12 +62,9 @@ RVConfiguredArticleVariantList::createFromReduced(const RVConfiguredArticleVaria
 
 void RVConfiguredArticleVariantList::readVariants(const QDomElement &product)
 {
-    const QString form = QStringLiteral("form");
     clear();
-    const QDomElement forms = product.firstChildElement(QStringLiteral("forms"));
-    for (QDomElement element = forms.firstChildElement(form); !element.isNull();
-         element = element.nextSiblingElement(form))
-        appendValid(element);
+    const QDomElement forms = rvFirstChildElement(product, QStringLiteral("forms"));
+    rvVisitChildElements(forms, QStringLiteral("form"), [this](const QDomElement &form) { appendValid(form); });
 }
 
 RVConfiguredArticleVariant RVConfiguredArticleVariantList::variantByKey(const QString &key) const
@@ -144,8 +142,10 @@ RVArticleVariants RVConfiguredArticleVariantList::defaultVariants() const
     RVConfiguredArticleVariantList defaults;
     std::copy_if(begin(), end(), std::back_inserter(defaults), std::mem_fn(&RVConfiguredArticleVariant::isDefault));
     if (defaults.isEmpty()) {
-        for (const QString &key : keys())
-            defaults += variantByKey(key);
+        QMap<QString, RVConfiguredArticleVariant> firstByKey;
+        std::for_each(rbegin(), rend(),
+                      [&](const RVConfiguredArticleVariant &option) { firstByKey.insert(option.key(), option); });
+        defaults.append(firstByKey.values());
     }
     RVArticleVariants result;
     for (const RVConfiguredArticleVariant &option : defaults)

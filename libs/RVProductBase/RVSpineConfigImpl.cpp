@@ -1,11 +1,11 @@
 #include "RVSpineConfigImpl.h"
 
+#include "RVDomChildren_p.h"
 #include "RVFontCreator.h"
 #include "RVFontSizeManager.h"
 #include "RVSaturation_p.h"
 #include "RVXMLParser.h"
 
-#include <QDomElement>
 #include <QFont>
 #include <QFontMetrics>
 #include <QGuiApplication>
@@ -46,10 +46,10 @@ RVSpineConfigImpl::~RVSpineConfigImpl() = default;
 
 RVSpineConfigImpl RVSpineConfigImpl::createFromProductsXML(const QDomElement &product)
 {
-    const QDomElement composition = product.firstChildElement(u"composition"_s);
+    const QDomElement composition = rvFirstChildElement(product, u"composition"_s);
     const RVDistanceUnit unit(RVXMLParser::attribute(composition, u"units"_s, u"mm"_s));
     const auto pageCounts = RVPageCountOrganization::createFromProductsXML(product);
-    const QDomElement spine = composition.firstChildElement(u"spine"_s);
+    const QDomElement spine = rvFirstChildElement(composition, u"spine"_s);
     const int packagesPerBlock = RVXMLParser::intAttribute(spine, u"packages_per_block"_s, 0);
     const RVDistance baseWidth = RVXMLParser::readDistance(spine, u"base_width"_s, 0.0, unit);
     const RVDistance blockWidth = RVXMLParser::readDistance(spine, u"block_width"_s, 0.0, unit);

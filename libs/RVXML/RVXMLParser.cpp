@@ -5,6 +5,8 @@
 #include <QString>
 
 #include <algorithm>
+#include <limits>
+#include <optional>
 
 namespace {
 
@@ -21,19 +23,66 @@ constexpr QLatin1StringView FALSE_TEXTS[] = {
     QLatin1StringView("off"),
 };
 
+// Most texts are written as in the table, and plain equality is quicker to tell.
 template<typename Texts>
 bool isOneOf(const Texts &texts, const QString &text)
 {
     return std::any_of(std::begin(texts), std::end(texts), [&text](QLatin1StringView candidate) {
-        return text.compare(candidate, Qt::CaseInsensitive) == 0;
+        return text.size() == candidate.size()
+                && (text == candidate || text.compare(candidate, Qt::CaseInsensitive) == 0);
     });
+}
+
+/// A number such as "154" or "-290.5": its digits without the point, and how many of them stand behind it.
+struct PlainNumber
+{
+    qint64 digits = 0;
+    qsizetype decimals = 0;
+    bool isNegative = false;
+};
+
+constexpr double POWERS_OF_TEN[] = { 1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13 };
+
+/// Reads what nearly every number of a catalogue looks like; the other ones are Qt's to judge. No number that it reads
+/// has more digits than a double holds, so one division gives the nearest one.
+std::optional<PlainNumber> parsePlain(QStringView text) noexcept
+{
+    PlainNumber number;
+    number.isNegative = text.startsWith(u'-');
+    const QStringView digits = number.isNegative ? text.sliced(1) : text;
+    if (digits.isEmpty() || digits.size() > 15)
+        return std::nullopt;
+    for (qsizetype i = 0; i < digits.size(); ++i) {
+        const QChar letter = digits[i];
+        if (letter >= u'0' && letter <= u'9')
+            number.digits = number.digits * 10 + (letter.unicode() - u'0');
+        else if (letter == u'.' && number.decimals == 0 && i > 0 && i + 1 < digits.size())
+            number.decimals = digits.size() - i - 1;
+        else
+            return std::nullopt;
+    }
+    return number;
 }
 
 int toInt(const QString &text, int defaultValue)
 {
+    if (const auto plain = parsePlain(text);
+        plain && plain->decimals == 0 && plain->digits <= std::numeric_limits<int>::max())
+        return int(plain->isNegative ? -plain->digits : plain->digits);
     bool isNumber = false;
     const int number = text.toInt(&isNumber);
     return isNumber ? number : defaultValue;
+}
+
+qreal toDouble(const QString &text, qreal defaultValue)
+{
+    if (const auto plain = parsePlain(text)) {
+        const double number = double(plain->digits) / POWERS_OF_TEN[plain->decimals];
+        return plain->isNegative ? -number : number;
+    }
+    bool isNumber = false;
+    const qreal number = text.toDouble(&isNumber);
+    return isNumber && qIsFinite(number) ? number : defaultValue;
 }
 
 }
@@ -72,9 +121,7 @@ bool RVXMLParser::boolAttribute(const QDomElement &element, const QString &name,
 
 qreal RVXMLParser::doubleAttribute(const QDomElement &element, const QString &name, qreal defaultValue)
 {
-    bool isNumber = false;
-    const qreal number = element.attribute(name).toDouble(&isNumber);
-    return isNumber && qIsFinite(number) ? number : defaultValue;
+    return toDouble(element.attribute(name), defaultValue);
 }
 
 RVDistance RVXMLParser::readDistance(const QDomElement &element, const QString &name, qreal defaultValue,

@@ -59,7 +59,7 @@ void tst_RVBarcodeDefinitionList::readsProducts()
 {
     const QDomElement product = element(u"<product>"
                                         "<barcode position_x='3' pageNr='2'/><box><barcode position_x='4'/></box>"
-                                        "<barcode width='0'/><Barcode/><barcode image=''/>"
+                                        "<barcode width='0'/><Barcode/><?barcode a?><barcode image=''/>"
                                         "<barcode position_x='1' image='b'/><barcode position_x='3' pageNr='2'/>"
                                         "</product>"_s);
     QCOMPARE(texts(RVBarcodeDefinitionList::createFromProductsXML(product, DISTANCE_UNIT_MILLIMETRE)),

@@ -185,6 +185,9 @@ void tst_RVConfiguredArticleVariantList::createsFromXml_data()
                                            "<form key='d' value='z'/></forms>"_s
                                         << QStringList { u"a:x"_s, u"d:z"_s };
     QTest::newRow("form without forms") << u"<form key='a' value='x'/>"_s << QStringList();
+    QTest::newRow("instructions of the same names") << u"<?forms a?><forms><?form key='b' value='y'?>"
+                                                       "<form key='a' value='x'/></forms>"_s
+                                                    << QStringList(u"a:x"_s);
     QTest::newRow("other letter case") << u"<Forms><form key='a' value='x'/></Forms>"
                                           "<forms><Form key='a' value='x'/></forms>"_s
                                        << QStringList();

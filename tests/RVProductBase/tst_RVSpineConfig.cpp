@@ -206,6 +206,8 @@ void tst_RVSpineConfig::reads_data()
     row("spine outside the composition", spine + u"<composition/>"_s, 0, { 0, 0, 0 });
     row("first composition only", u"<composition/><composition>%1</composition>"_s.arg(spine), 0, { 0, 0, 0 });
     row("first spine only", u"<composition><spine/>%1</composition>"_s.arg(spine), 0, { 0, 0, 0 });
+    row("instructions of the same names", u"<?composition a?><composition><?spine b?>%1</composition>"_s.arg(spine), 3,
+        { 80, 15, 5 });
     row("deeper", u"<x><composition>%1</composition></x>"_s.arg(spine), 0, { 0, 0, 0 });
     row("no numbers", u"<composition><spine packages_per_block='x' base_width='8mm' block_width=''/></composition>"_s,
         0, { 0, 0, 0 });
