@@ -62,6 +62,7 @@
 #include <RVProductBase/RVSpineConfigImpl.h>
 #include <RVTemplateClasses/RVEnumToStringTable.h>
 #include <RVTemplateClasses/RVEnumWrapper.h>
+#include <RVTemplateClasses/RVKeywordIndex.h>
 #include <RVTemplateClasses/RVRange.h>
 #include <RVTemplateClasses/RVSingleton.h>
 #include <RVXML/RVXMLBuilder.h>
@@ -107,6 +108,7 @@ void tst_layout::sizes_data()
     QTest::addColumn<int>("expectedSize");
     QTest::addColumn<int>("alignment");
     QTest::addColumn<int>("expectedAlignment");
+    row<RVKeywordIndex>("RVKeywordIndex", 24, 8);
     row<RVAngle>("RVAngle", 8, 8);
     row<RVDirectoryConfig>("RVDirectoryConfig", 32, 8);
     row<RVDirectoryName>("RVDirectoryName", 4, 4);

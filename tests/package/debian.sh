@@ -5,7 +5,7 @@ set -euo pipefail
 cmake=$1 sources=$2 work=$3
 shift 3
 build=$work/build root=$work/root
-version=0.1.0-1
+version=0.2.0-1
 
 fail() {
     echo "$*"
@@ -61,7 +61,7 @@ depends rvcatalog 'libqt6core6 '
 dpkg-deb --control "$work"/packages/librvproductbase0_*.deb "$work/control"
 grep -q ldconfig "$work"/control/postinst || fail "the linker is not told of the new libraries"
 for library in libRVCore libRVXML libRVProductBase; do
-    grep -qxF "$library 0 librvproductbase0 (>= 0.1.0)" "$work"/control/shlibs ||
+    grep -qxF "$library 0 librvproductbase0 (>= 0.2.0)" "$work"/control/shlibs ||
         fail "packages built against $library cannot find out what they depend on"
 done
 
