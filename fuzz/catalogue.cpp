@@ -2,6 +2,7 @@
 #include "CommandRunner.h"
 #include "Properties.h"
 
+#include <CatalogueOption.h>
 #include <CatalogueProduct.h>
 #include <CatalogueReader.h>
 #include <Commands.h>
@@ -11,6 +12,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 
 using namespace Qt::StringLiterals;
 
@@ -64,6 +66,52 @@ QString describe(const QDomElement &element)
     return result + u'>';
 }
 
+// The readers of batches must find what the readers of documents find.
+void checkBatchProduct(const CatalogueElement &element)
+{
+    QDomDocument document;
+    const CatalogueProduct expected(element.deepCopy(&document));
+    const CatalogueProduct product = CatalogueProduct::withoutOptions(element);
+    CHECK(product.type == expected.type && product.pageCounts == expected.pageCounts);
+    CHECK_EQUAL(product.barcodes, expected.barcodes);
+    // An infinite width equals nothing.
+    CHECK_EQUAL(QString::number(product.spine.spineWidth(100).value(), 'g', 17),
+                QString::number(expected.spine.spineWidth(100).value(), 'g', 17));
+    const RVArticleVariants defaults = expected.options.defaultVariants();
+    const CatalogueOptions options(element);
+    CHECK_EQUAL(std::distance(options.begin(), options.end()), expected.options.size());
+    qsizetype i = 0;
+    for (const CatalogueOption &option : options) {
+        const RVConfiguredArticleVariant &other = expected.options.at(i++);
+        CHECK(option.key == other.key() && option.value == other.value() && option.valueName == other.visibleName());
+        CHECK_EQUAL(option.isPreselected, other.isDefault());
+        CHECK_EQUAL(option.isNotAccountable, other.isNotAccountable());
+        CHECK_EQUAL(options.isDefault(option), defaults.value(other.key()) == other.value());
+    }
+}
+
+/// The same, read in batches.
+Reading readBatches(QIODevice *device)
+{
+    device->open(QIODevice::ReadOnly);
+    CatalogueReader reader(device, u"product"_s);
+    Reading result;
+    for (CatalogueBatch batch; reader.read(&batch, 100); batch = CatalogueBatch()) {
+        for (int i = 0; i < batch.size(); ++i) {
+            QDomDocument document;
+            checkBatchProduct(batch.at(i));
+            result.products += describe(batch.at(i).deepCopy(&document));
+            result.lines += batch.at(i).position().line;
+        }
+    }
+    CHECK(reader.atEnd());
+    if (reader.hasError()) {
+        result.error = reader.errorString();
+        result.errorLine = reader.errorPosition().line;
+    }
+    return result;
+}
+
 /// The outermost products of a document.
 QStringList productsOf(const QDomNode &parent)
 {
@@ -106,6 +154,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
     QByteArray bytes(reinterpret_cast<const char *>(data), qsizetype(size));
     QBuffer buffer(&bytes);
     const Reading reading = readAll(&buffer);
+    QBuffer batchBuffer(&bytes);
+    const Reading batches = readBatches(&batchBuffer);
+    CHECK_EQUAL(batches.products, reading.products);
+    CHECK_EQUAL(batches.lines, reading.lines);
+    CHECK_EQUAL(batches.error, reading.error);
+    CHECK_EQUAL(batches.errorLine, reading.errorLine);
     Drops drops(&bytes);
     const Reading again = readAll(&drops);
     CHECK_EQUAL(again.error.isEmpty(), reading.error.isEmpty());

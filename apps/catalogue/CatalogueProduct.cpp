@@ -1,18 +1,30 @@
 #include "CatalogueProduct.h"
 
+#include "CatalogueBatch.h"
+
 #include <RVXMLParser.h>
 
-#include <QDomElement>
+#include <QDomDocument>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The attribute of a product; the null value where it is missing, though an empty text may stand for another one.
-template<typename T>
-T readAttribute(const QDomElement &product, const QString &name, const T &missing = T())
+QString textOf(const QDomElement &product, QLatin1StringView name)
 {
-    return product.hasAttribute(name) ? T(product.attribute(name)) : missing;
+    return product.attribute(name);
+}
+
+QString textOf(const CatalogueElement &product, QLatin1StringView name)
+{
+    return product.text(name);
+}
+
+/// The attribute of a product; the null value where it is missing, though an empty text may stand for another one.
+template<typename T, typename Element>
+T readAttribute(const Element &product, QLatin1StringView name, const T &missing = T())
+{
+    return product.hasAttribute(name) ? T(textOf(product, name)) : missing;
 }
 
 RVShippingGroupId readShippingGroup(const QDomElement &product, const RVArticleClass &articleClass)
@@ -27,35 +39,60 @@ RVBarcodeDefinitionList readBarcodes(const QDomElement &product)
     return RVBarcodeDefinitionList::createFromProductsXML(barcodes, RVDistanceUnit(barcodes.attribute(u"units"_s)));
 }
 
+/// The part of a product whose numbers the library's readers understand. The rest is most of it, and dear to copy.
+QDomElement numbersOf(const CatalogueElement &product)
+{
+    QDomDocument document;
+    QDomElement numbers = product.copy(&document,
+                                       { "article_id"_L1, "shipping_group"_L1, "pages"_L1, "max_pages"_L1,
+                                         "page_step"_L1, "pieces"_L1, "photo_box"_L1 });
+    for (const QLatin1StringView name : { "barcodes"_L1, "composition"_L1 }) {
+        const CatalogueElement child = product.firstChildElement(name);
+        if (!child.isNull())
+            numbers.appendChild(child.deepCopy(&document));
+    }
+    document.appendChild(numbers);
+    return numbers;
 }
 
-CatalogueProduct::CatalogueProduct(const QDomElement &product)
-    : name(product.attribute(u"name"_s)),
-      type(product.attribute(u"type"_s)),
-      articleId(RVArticleId::fromArticleIdAttribute(product)),
-      articleClass(readAttribute<RVArticleClass>(product, u"article_class"_s)),
-      coverType(readAttribute<RVCoverType>(product, u"cover_type"_s)),
-      pageBinding(readAttribute<RVPageBinding>(product, u"page_binding"_s)),
-      paperType(readAttribute<RVPaperType>(product, u"paper_type"_s)),
-      fotoPaperType(readAttribute(product, u"foto_paper_type"_s, RVFotoPaperType::defaultFor(articleClass))),
-      orientation(readAttribute<RVOrientation>(product, u"orientation"_s)),
-      spaceMagnitude(readAttribute<RVSpaceMagnitude>(product, u"space_magnitude"_s)),
-      shippingGroup(readShippingGroup(product, articleClass)),
-      barcodes(readBarcodes(product)),
-      pageCounts(RVXMLParser::boolAttribute(product, u"photo_box"_s, false)
-                         ? RVPageCountOrganization::createFromProductsXMLForPictureBox(product)
-                         : RVPageCountOrganization::createFromProductsXML(product)),
-      spine(RVSpineConfig::createFromProductsXML(product)),
-      options(product),
-      priceClass(product.attribute(u"price_class"_s)),
-      pagePriceClass(product.attribute(u"page_price_class"_s))
+}
+
+template<typename Element>
+CatalogueProduct::CatalogueProduct(const Element &texts, const QDomElement &numbers)
+    : name(textOf(texts, "name"_L1)),
+      type(textOf(texts, "type"_L1)),
+      articleId(RVArticleId::fromArticleIdAttribute(numbers)),
+      articleClass(readAttribute<RVArticleClass>(texts, "article_class"_L1)),
+      coverType(readAttribute<RVCoverType>(texts, "cover_type"_L1)),
+      pageBinding(readAttribute<RVPageBinding>(texts, "page_binding"_L1)),
+      paperType(readAttribute<RVPaperType>(texts, "paper_type"_L1)),
+      fotoPaperType(readAttribute(texts, "foto_paper_type"_L1, RVFotoPaperType::defaultFor(articleClass))),
+      orientation(readAttribute<RVOrientation>(texts, "orientation"_L1)),
+      spaceMagnitude(readAttribute<RVSpaceMagnitude>(texts, "space_magnitude"_L1)),
+      shippingGroup(readShippingGroup(numbers, articleClass)),
+      barcodes(readBarcodes(numbers)),
+      pageCounts(RVXMLParser::boolAttribute(numbers, u"photo_box"_s, false)
+                         ? RVPageCountOrganization::createFromProductsXMLForPictureBox(numbers)
+                         : RVPageCountOrganization::createFromProductsXML(numbers)),
+      spine(RVSpineConfig::createFromProductsXML(numbers)),
+      priceClass(textOf(texts, "price_class"_L1)),
+      pagePriceClass(textOf(texts, "page_price_class"_L1))
+{ }
+
+CatalogueProduct::CatalogueProduct(const QDomElement &product) : CatalogueProduct(product, product)
 {
+    options.readVariants(product);
     for (QDomElement form = product.firstChildElement(u"forms"_s).firstChildElement(u"form"_s); !form.isNull();
          form = form.nextSiblingElement(u"form"_s)) {
         const QString option = RVConfiguredArticleVariant(form).toString();
         if (!option.isEmpty() && !myOptionPriceClasses.contains(option))
             myOptionPriceClasses.insert(option, form.attribute(u"price_class"_s));
     }
+}
+
+CatalogueProduct CatalogueProduct::withoutOptions(const CatalogueElement &product)
+{
+    return CatalogueProduct(product, numbersOf(product));
 }
 
 bool CatalogueProduct::hasSpine() const

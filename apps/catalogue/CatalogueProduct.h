@@ -20,6 +20,7 @@
 #include <QHash>
 #include <QString>
 
+class CatalogueElement;
 class QDomElement;
 
 /// What a product element of the products XML says.
@@ -27,6 +28,8 @@ struct CatalogueProduct
 {
     CatalogueProduct() = default;
     explicit CatalogueProduct(const QDomElement &product);
+    /// All but the options, which CatalogueOptions reads.
+    static CatalogueProduct withoutOptions(const CatalogueElement &product);
 
     /// True when a spine of some width is configured.
     bool hasSpine() const;
@@ -53,6 +56,9 @@ struct CatalogueProduct
     RVPriceClass pagePriceClass; ///< of one package of added pages
 
 private:
+    template<typename Element>
+    CatalogueProduct(const Element &texts, const QDomElement &numbers);
+
     QHash<QString, RVPriceClass> myOptionPriceClasses;
 };
 

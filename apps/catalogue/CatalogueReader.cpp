@@ -90,16 +90,21 @@ CatalogueReader::CatalogueReader(QIODevice *device, const QString &elementName)
 
 QDomElement CatalogueReader::next()
 {
-    while (!myXml.atEnd()) {
-        const FilePosition start = nextPosition();
-        if (readToken() == QXmlStreamReader::StartElement && myXml.qualifiedName() == myElementName) {
-            myPosition = start;
-            myDocument = QDomDocument();
-            return readContent(appendElement(QDomNode()));
-        }
-        myInput.startPiece();
+    if (!findElement())
+        return QDomElement();
+    myDocument = QDomDocument();
+    return readContent(appendElement(QDomNode()));
+}
+
+bool CatalogueReader::read(CatalogueBatch *batch, qsizetype textSize)
+{
+    const int sizeBefore = batch->size();
+    while (batch->textSize() < textSize && findElement()) {
+        batch->startElement(myXml.qualifiedName(), myXml.attributes(), myPosition);
+        if (!readContent(batch))
+            batch->dropUnfinished();
     }
-    return QDomElement();
+    return batch->size() > sizeBefore;
 }
 
 QDomElement CatalogueReader::rootStart()
@@ -134,16 +139,30 @@ QString CatalogueReader::errorString() const
     return myXml.errorString().simplified();
 }
 
+bool CatalogueReader::findElement()
+{
+    while (!myXml.atEnd()) {
+        const FilePosition start = nextPosition();
+        if (readToken() == QXmlStreamReader::StartElement && myXml.qualifiedName() == myElementName) {
+            myPosition = start;
+            return true;
+        }
+        myInput.startPiece();
+    }
+    return false;
+}
+
 // The parser counts the characters that it has seen of the line; the last one is the faulty one.
 FilePosition CatalogueReader::currentPosition() const
 {
     return { myXml.lineNumber(), qMax(qint64(1), myXml.columnNumber()) };
 }
 
-// A text ends where the parser sees the "<" behind it; everything else ends before.
+// A text ends where the parser sees the "<" behind it; everything else, a CDATA section too, ends before.
 FilePosition CatalogueReader::nextPosition() const
 {
-    return { myXml.lineNumber(), myXml.columnNumber() + (myXml.isCharacters() ? 0 : 1) };
+    const bool hasSeenNext = myXml.isCharacters() && !myXml.isCDATA();
+    return { myXml.lineNumber(), myXml.columnNumber() + (hasSeenNext ? 0 : 1) };
 }
 
 QXmlStreamReader::TokenType CatalogueReader::readToken()
@@ -202,4 +221,29 @@ QDomElement CatalogueReader::readContent(const QDomElement &element)
         }
     }
     return QDomElement();
+}
+
+// The same into a batch; false after an error.
+bool CatalogueReader::readContent(CatalogueBatch *batch)
+{
+    int openElements = 1;
+    while (openElements > 0) {
+        const FilePosition start = nextPosition();
+        switch (readToken()) {
+        case QXmlStreamReader::StartElement:
+            ++openElements;
+            batch->startElement(myXml.qualifiedName(), myXml.attributes(), start);
+            break;
+        case QXmlStreamReader::EndElement:
+            --openElements;
+            batch->endElement();
+            break;
+        case QXmlStreamReader::Invalid:
+            return false;
+        default:
+            break;
+        }
+    }
+    myInput.startPiece();
+    return true;
 }

@@ -1,17 +1,13 @@
 #ifndef CATALOGUEREADER_H
 #define CATALOGUEREADER_H
 
+#include "CatalogueBatch.h"
+#include "FilePosition.h"
+
 #include <QDomDocument>
 #include <QIODevice>
 #include <QString>
 #include <QXmlStreamReader>
-
-/// A place in a file; both count from 1.
-struct FilePosition
-{
-    qint64 line = 1;
-    qint64 column = 1;
-};
 
 /// Passes a device on to the parser, but not without bound: neither more than `LIMIT` bytes for one piece of the
 /// file, nor the declaration of an entity.
@@ -49,8 +45,8 @@ private:
 };
 
 /**
- * Reads an XML file in one pass and hands out one element after the other, each as a document of its own, so that
- * memory does not grow with their number.
+ * Reads an XML file in one pass and hands out one element after the other, each as a document of its own, or several
+ * in a batch, so that memory does not grow with their number.
  *
  * Elements of the wanted name count wherever they stand, and what is around them may have any name. A file that is not
  * well-formed, ends too early, nests deeper than 256 levels, has an element larger than 1 MiB or declares entities ends
@@ -64,6 +60,9 @@ public:
 
     /// The next element; null at the end of the file and after an error. The previous one becomes invalid.
     QDomElement next();
+    /// Appends the elements that follow to the batch, until it has @p textSize code units or more. False, with nothing
+    /// appended, at the end of the file and after an error.
+    bool read(CatalogueBatch *batch, qsizetype textSize);
     /// The root element as it starts, without its content; null after an error. Instead of next(), and once.
     QDomElement rootStart();
     /// Reads on to the end; false where the rest is not well-formed.
@@ -71,6 +70,7 @@ public:
 
     /// Where the element that next() returned last begins; where the tag that rootStart() read ends.
     FilePosition position() const { return myPosition; }
+    bool atEnd() const { return myXml.atEnd(); } ///< Also after an error.
     bool hasError() const { return myXml.hasError(); }
     QString errorString() const;
     FilePosition errorPosition() const { return currentPosition(); }
@@ -78,9 +78,11 @@ public:
 private:
     FilePosition currentPosition() const;
     FilePosition nextPosition() const;
+    bool findElement();
     QXmlStreamReader::TokenType readToken();
     QDomElement appendElement(QDomNode parent);
     QDomElement readContent(const QDomElement &element);
+    bool readContent(CatalogueBatch *batch);
 
     BoundedInput myInput;
     QXmlStreamReader myXml;

@@ -1,13 +1,16 @@
 #include "Commands.h"
 
+#include <BatchPipeline.h>
 #include <CatalogueProduct.h>
+#include <ProductJson.h>
 
 #include <QCommandLineParser>
 #include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QTextStream>
+
+#include <cstdio>
+#include <string>
+#include <string_view>
 
 using namespace Qt::StringLiterals;
 
@@ -142,128 +145,90 @@ void writeRow(QTextStream &out, const QStringList &columns, const QStringList &d
         out << QString(end, u' ') << line << '\n';
 }
 
-QJsonObject spineJson(const CatalogueProduct &product, int pageCount)
+struct Problem
 {
-    return {
-        { u"pages"_s, pageCount },
-        { u"width_mm"_s, product.spine.spineWidth(pages(pageCount)).value(MILLIMETRE) },
-        { u"max_font_size"_s, fontSize(product, pageCount) },
-    };
-}
+    FilePosition position;
+    QString text;
+};
 
-/// Null for an attribute that the product does not have.
-template<typename T>
-QJsonValue attributeJson(const T &attribute, const QString &name = QString())
+QList<Problem> problems(const CatalogueProduct &product, const FilePosition &position)
 {
-    if (attribute.isNull())
-        return QJsonValue();
-    QJsonObject result { { u"keywords"_s, QJsonArray::fromStringList(attribute.encodeBits()) } };
-    if (!name.isEmpty())
-        result.insert(u"name"_s, name);
+    QList<Problem> result;
+    if (product.type.isUnknown())
+        result += { position, u"the product has no type"_s };
+    if (!product.pageCounts.isValid())
+        result += { position, u"the product has no valid page counts (%1)"_s.arg(product.pageCounts.dump()) };
     return result;
 }
 
-QJsonObject barcodeJson(const RVBarcodeDefinition &barcode)
+/// What the products of a file come to.
+struct Summary
 {
-    const auto inMillimetres = [](int tenths) { return RVDistance(tenths).value(MILLIMETRE); };
-    return {
-        { u"page"_s, barcode.pageNr() },
-        { u"left_mm"_s, inMillimetres(barcode.rect().left()) },
-        { u"top_mm"_s, inMillimetres(barcode.rect().top()) },
-        { u"width_mm"_s, inMillimetres(barcode.rect().width()) },
-        { u"height_mm"_s, inMillimetres(barcode.rect().height()) },
-        { u"image"_s, barcode.imageName() },
-    };
-}
+    QString fileName;
+    bool isEmpty = true;
+    bool hasProblems = false;
 
-QJsonObject toJson(const CatalogueProduct &product)
-{
-    const RVPageCountOrganization &counts = product.pageCounts;
-    const RVArticleVariants defaults = product.options.defaultVariants();
-    QJsonArray options;
-    for (const RVConfiguredArticleVariant &option : product.options) {
-        options += QJsonObject {
-            { u"key"_s, option.key() },
-            { u"key_name"_s, option.keyName() },
-            { u"value"_s, option.value() },
-            { u"value_name"_s, option.visibleName() },
-            { u"default"_s, defaults.value(option.key()) == option.value() },
-            { u"accountable"_s, !option.isNotAccountable() },
-        };
-    }
-    QJsonArray barcodes;
-    for (const RVBarcodeDefinition &barcode : product.barcodes)
-        barcodes += barcodeJson(barcode);
-    return {
-        { u"type"_s, product.type.toString() },
-        { u"name"_s, product.name },
-        { u"article_id"_s, product.articleId.isValid() ? QJsonValue(product.articleId.id()) : QJsonValue() },
-        { u"article_class"_s, attributeJson(product.articleClass, product.articleClass.toHumanReadable()) },
-        { u"cover_type"_s, attributeJson(product.coverType, product.coverType.humanReadableName()) },
-        { u"page_binding"_s, attributeJson(product.pageBinding, product.pageBinding.humanReadableName()) },
-        { u"paper_type"_s, attributeJson(product.paperType, product.paperType.humanReadableName()) },
-        { u"foto_paper_type"_s, attributeJson(product.fotoPaperType, product.fotoPaperType.humanReadableName()) },
-        { u"orientation"_s, attributeJson(product.orientation) },
-        { u"space_magnitude"_s, attributeJson(product.spaceMagnitude, product.spaceMagnitude.humanReadableName()) },
-        { u"shipping_group"_s,
-          product.shippingGroup.isValid() ? QJsonValue(product.shippingGroup.id()) : QJsonValue() },
-        { u"barcodes"_s, barcodes },
-        { u"pages"_s,
-          QJsonObject {
-                  { u"lowest"_s, counts.minPages() },
-                  { u"highest"_s, counts.maxPages() },
-                  { u"step"_s, counts.pageIncrement() },
-                  { u"count"_s, counts.numberOfPackages() },
-                  { u"valid"_s, counts.isValid() },
-          } },
-        { u"spine"_s,
-          product.hasSpine() ? QJsonValue(
-                  QJsonArray { spineJson(product, counts.minPages()), spineJson(product, counts.maxPages()) })
-                             : QJsonValue(QJsonValue::Null) },
-        { u"options"_s, options },
-    };
-}
-
-/// Writes products one by one, as rows of a table or as elements of a JSON array.
-class ProductWriter
-{
-public:
-    explicit ProductWriter(bool asJson) : myAsJson(asJson) { }
-
-    void begin()
+    void add(const QList<Problem> &problems)
     {
-        if (myAsJson)
-            myOut << '[';
-        else
-            writeRow(myOut, { u"TYPE"_s, u"PAGES"_s, u"COUNTS"_s, u"SPINE mm"_s, u"FONT pt"_s },
-                     { u"ATTRIBUTES, OPTIONS (* is the default)"_s });
+        isEmpty = false;
+        hasProblems = hasProblems || !problems.isEmpty();
+        for (const Problem &problem : problems)
+            report(fileName, problem.position, problem.text);
     }
+};
 
-    void write(const CatalogueProduct &product)
-    {
-        if (myAsJson) {
-            myOut << (myIsFirst ? "\n" : ",\n") << QJsonDocument(toJson(product)).toJson(QJsonDocument::Compact);
-            myIsFirst = false;
-            return;
-        }
-        writeRow(myOut,
+void showTable(CatalogueReader &reader, Summary *summary)
+{
+    QTextStream out(stdout);
+    writeRow(out, { u"TYPE"_s, u"PAGES"_s, u"COUNTS"_s, u"SPINE mm"_s, u"FONT pt"_s },
+             { u"ATTRIBUTES, OPTIONS (* is the default)"_s });
+    for (QDomElement element = reader.next(); !element.isNull(); element = reader.next()) {
+        const CatalogueProduct product(element);
+        writeRow(out,
                  { product.type.orderTxtName(), pageCountsText(product.pageCounts),
                    QString::number(product.pageCounts.numberOfPackages()), spineText(product), fontText(product) },
                  attributeTexts(product) + optionTexts(product));
+        summary->add(problems(product, reader.position()));
     }
+}
 
-    void end()
-    {
-        if (myAsJson)
-            myOut << "\n]\n";
-        myOut.flush();
-    }
-
-private:
-    QTextStream myOut { stdout };
-    bool myAsJson;
-    bool myIsFirst = true;
+struct JsonLines
+{
+    std::string text;
+    QList<Problem> problems;
 };
+
+JsonLines jsonLines(const CatalogueBatch &batch)
+{
+    ProductJson json;
+    JsonLines result;
+    for (int i = 0; i < batch.size(); ++i) {
+        const CatalogueElement element = batch.at(i);
+        const CatalogueProduct product = CatalogueProduct::withoutOptions(element);
+        json.separator(batch.firstProduct() + i == 0 ? "\n" : ",\n");
+        json.write(product, element);
+        result.problems += problems(product, element.position());
+    }
+    result.text = json.take();
+    return result;
+}
+
+void write(std::string_view text)
+{
+    std::fwrite(text.data(), 1, text.size(), stdout);
+}
+
+void showJson(CatalogueReader &reader, Summary *summary)
+{
+    write("[");
+    forEachBatch(reader, jsonLines, [&](const JsonLines &lines) {
+        write(lines.text);
+        summary->add(lines.problems);
+        return true;
+    });
+    write("\n]\n");
+    std::fflush(stdout);
+}
 
 }
 
@@ -289,31 +254,18 @@ int showCommand(const QStringList &arguments)
         return EXIT_UNREADABLE;
     }
     CatalogueReader reader(&file, u"product"_s);
-    ProductWriter writer(parser.isSet(json));
-    bool isEmpty = true;
-    writer.begin();
-    for (QDomElement element = reader.next(); !element.isNull(); element = reader.next()) {
-        const CatalogueProduct product(element);
-        isEmpty = false;
-        writer.write(product);
-        if (product.type.isUnknown()) {
-            report(fileName, reader.position(), u"the product has no type"_s);
-            exitCode = EXIT_PROBLEMS;
-        }
-        if (!product.pageCounts.isValid()) {
-            report(fileName, reader.position(),
-                   u"the product has no valid page counts (%1)"_s.arg(product.pageCounts.dump()));
-            exitCode = EXIT_PROBLEMS;
-        }
-    }
-    writer.end();
+    Summary summary { fileName };
+    if (parser.isSet(json))
+        showJson(reader, &summary);
+    else
+        showTable(reader, &summary);
     if (reader.hasError()) {
         report(fileName, reader.errorPosition(), reader.errorString());
         return EXIT_UNREADABLE;
     }
-    if (isEmpty) {
+    if (summary.isEmpty) {
         report(fileName, FilePosition(), u"there is no product in this file"_s);
         return EXIT_PROBLEMS;
     }
-    return exitCode;
+    return summary.hasProblems ? EXIT_PROBLEMS : EXIT_FINE;
 }
