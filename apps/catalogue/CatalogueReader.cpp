@@ -132,7 +132,7 @@ QString CatalogueReader::errorString() const
 {
     if (!myInput.refusal().isEmpty())
         return myInput.refusal();
-    if (myInput.isEmpty())
+    if (myInput.totalSize() == 0)
         return u"the file is empty"_s;
     if (myXml.error() == QXmlStreamReader::PrematureEndOfDocumentError)
         return u"the file ends too early"_s;

@@ -25,7 +25,7 @@ public:
     void leaveProlog() { myInProlog = false; }
     /// Why the input ended before its time; empty while it did not.
     QString refusal() const { return myRefusal; }
-    bool isEmpty() const { return myTotalSize == 0; }
+    qint64 totalSize() const { return myTotalSize; }
 
 protected:
     qint64 readData(char *data, qint64 maxSize) override;
@@ -71,6 +71,7 @@ public:
     /// Where the element that next() returned last begins; where the tag that rootStart() read ends.
     FilePosition position() const { return myPosition; }
     bool atEnd() const { return myXml.atEnd(); } ///< Also after an error.
+    qint64 bytesRead() const { return myInput.totalSize(); }
     bool hasError() const { return myXml.hasError(); }
     QString errorString() const;
     FilePosition errorPosition() const { return currentPosition(); }

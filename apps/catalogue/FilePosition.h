@@ -8,6 +8,11 @@ struct FilePosition
 {
     qint64 line = 1;
     qint64 column = 1;
+
+    friend constexpr bool operator<(const FilePosition &a, const FilePosition &b)
+    {
+        return a.line != b.line ? a.line < b.line : a.column < b.column;
+    }
 };
 
 #endif

@@ -19,6 +19,7 @@ void report(const QString &fileName, const FilePosition &position, const QString
 /// The sub-commands. The arguments begin with the program's name for messages; the result is the exit code.
 int showCommand(const QStringList &arguments);
 int orderCommand(const QStringList &arguments);
+int checkCommand(const QStringList &arguments);
 int keywordsCommand(const QStringList &arguments);
 int decodeCommand(const QStringList &arguments);
 

@@ -26,6 +26,7 @@ constexpr struct
 } COMMANDS[] = {
     { "show"_L1, showCommand, "list the products of a catalogue"_L1 },
     { "order"_L1, orderCommand, "check a project against the catalogue and write its order line"_L1 },
+    { "check"_L1, checkCommand, "find what would go wrong with catalogues"_L1 },
     { "keywords"_L1, keywordsCommand, "list the keywords of the attributes"_L1 },
     { "decode"_L1, decodeCommand, "read a list of keywords"_L1 },
 };

@@ -1,0 +1,46 @@
+#ifndef FINDINGWRITER_H
+#define FINDINGWRITER_H
+
+#include <CatalogueChecker.h>
+#include <JsonWriter.h>
+
+#include <QString>
+
+#include <memory>
+#include <string_view>
+
+/// What a run of "check" comes to.
+struct CheckSummary
+{
+    qint64 files = 0;
+    qint64 unreadable = 0;
+    qint64 products = 0;
+    qint64 errors = 0;
+    qint64 warnings = 0;
+    qint64 notes = 0;
+};
+
+/// Writes findings to the standard output, in one of several formats, as they come.
+class FindingWriter
+{
+    Q_DISABLE_COPY_MOVE(FindingWriter)
+
+public:
+    /// "text", "json" or "sarif"; null for any other format.
+    static std::unique_ptr<FindingWriter> create(const QString &format);
+    virtual ~FindingWriter();
+
+    virtual void begin() { }
+    virtual void finding(const QString &fileName, const CatalogueFinding &finding) = 0;
+    /// A file could not be read to its end.
+    virtual void unreadable(const QString &, const FilePosition &, const QString &) { }
+    /// @p exitCode is that of the program.
+    virtual void end(const CheckSummary &summary, int exitCode) = 0;
+
+protected:
+    FindingWriter() = default;
+
+    static void write(std::string_view text);
+};
+
+#endif
