@@ -1,0 +1,485 @@
+#include "SampleProduct.h"
+
+#include <CatalogueFinding.h>
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QUrl>
+
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <cstdlib>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Run
+{
+    int exitCode = -1;
+    QString output;
+    QString messages;
+};
+
+const char FAULTS[] = "<p>\n"
+                      "<product type='A' article_id='1' cover_type='hard'/>\n"
+                      "<x/><product type='B' article_id='0'/>\n"
+                      "<product type='Ä' article_id='3' page_price_class='\"x\"'/>\n"
+                      "</p>\n";
+
+const char SUMMARY_OF_FAULTS[] = "3 products in 1 file: 1 error, 1 warning, 1 note\n";
+
+QStringList propertyNames(const QJsonObject &object)
+{
+    return object.keys();
+}
+
+/// Checks what the format requires of a location, and returns "uri:line:column".
+QString location(const QJsonValue &value)
+{
+    const QJsonArray locations = value.toArray();
+    if (locations.size() != 1)
+        return u"%1 locations"_s.arg(locations.size());
+    const QJsonObject physical = locations.at(0).toObject().value("physicalLocation"_L1).toObject();
+    const QJsonObject artifact = physical.value("artifactLocation"_L1).toObject();
+    const QJsonObject region = physical.value("region"_L1).toObject();
+    const QString uri = artifact.value("uri"_L1).toString();
+    if (propertyNames(physical) != QStringList { u"artifactLocation"_s, u"region"_s }
+        || propertyNames(artifact) != QStringList { u"uri"_s }
+        || propertyNames(region) != QStringList { u"startColumn"_s, u"startLine"_s }
+        || !QUrl(uri, QUrl::StrictMode).isValid() || region.value("startLine"_L1).toInt() < 1
+        || region.value("startColumn"_L1).toInt() < 1)
+        return u"no location"_s;
+    return uri + u":%1:%2"_s.arg(region.value("startLine"_L1).toInt()).arg(region.value("startColumn"_L1).toInt());
+}
+
+}
+
+class tst_check : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void text();
+    void clean();
+    void notesAlone();
+    void warningsAlone();
+    void severalFiles();
+    void standardInput();
+    void unreadable();
+    void jsonFormat();
+    void jsonOfUnreadable();
+    void sarifFormat();
+    void sarifOfUnreadable();
+    void sarifUris();
+    void rules();
+    void disable();
+    void wrongUsage_data();
+    void wrongUsage();
+    void noProgressInAFile();
+    void progressOnATerminal();
+    void memory();
+
+private:
+    void write(const QString &name, const QByteArray &content);
+    Run check(const QStringList &arguments, const QByteArray &input = QByteArray());
+    static void compareSarif(const QString &output, bool isSuccessful, int exitCode, const QStringList &results,
+                             const QStringList &notifications);
+
+    QTemporaryDir myFolder;
+};
+
+void tst_check::write(const QString &name, const QByteArray &content)
+{
+    QFile file(myFolder.filePath(name));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), content.size());
+}
+
+Run tst_check::check(const QStringList &arguments, const QByteArray &input)
+{
+    QProcess process;
+    process.setWorkingDirectory(myFolder.path());
+    process.start(QStringLiteral(RVCATALOG), QStringList { u"check"_s } + arguments);
+    process.write(input);
+    process.closeWriteChannel();
+    if (!process.waitForFinished(120000) || process.exitStatus() != QProcess::NormalExit)
+        return Run();
+    return { process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+             QString::fromUtf8(process.readAllStandardError()) };
+}
+
+void tst_check::init()
+{
+    write(u"clean.xml"_s, CLEAN_CATALOGUE);
+    write(u"faults.xml"_s, FAULTS);
+    write(u"cut.xml"_s, QByteArray(FAULTS).left(60));
+}
+
+void tst_check::text()
+{
+    const Run run = check({ u"faults.xml"_s });
+    QCOMPARE(run.messages, QString());
+    QCOMPARE(run.output,
+             u"faults.xml:2:1: note: \"hard\" is an alias in cover_type; the main keyword is \"hardcover\" "
+             "[keyword-legacy]\n"
+             "faults.xml:3:5: error: the article id \"0\" is no whole number above 0 [article-id-invalid]\n"
+             "faults.xml:4:1: warning: the price class \"\"x\"\" belongs to no known group [price-class-unknown]\n"_s
+                     + QLatin1StringView(SUMMARY_OF_FAULTS));
+    QCOMPARE(run.exitCode, 1);
+}
+
+void tst_check::clean()
+{
+    const Run run = check({ u"clean.xml"_s });
+    QCOMPARE(run.messages, QString());
+    QCOMPARE(run.output, u"2 products in 1 file: 0 errors, 0 warnings, 0 notes\n"_s);
+    QCOMPARE(run.exitCode, 0);
+}
+
+void tst_check::notesAlone()
+{
+    const Run run = check(
+            { u"--disable"_s, u"article-id-invalid"_s, u"--disable=price-class-unknown"_s, u"faults.xml"_s });
+    QVERIFY(run.output.endsWith("\n3 products in 1 file: 0 errors, 0 warnings, 1 note\n"_L1));
+    QCOMPARE(run.exitCode, 0);
+}
+
+void tst_check::warningsAlone()
+{
+    const Run run = check({ u"--disable"_s, u"article-id-invalid"_s, u"faults.xml"_s });
+    QVERIFY(run.output.endsWith("\n3 products in 1 file: 0 errors, 1 warning, 1 note\n"_L1));
+    QCOMPARE(run.exitCode, 1);
+}
+
+// What is in two files may be the same product.
+void tst_check::severalFiles()
+{
+    const Run clean = check({ u"clean.xml"_s, u"clean.xml"_s });
+    QCOMPARE(clean.output, u"4 products in 2 files: 0 errors, 0 warnings, 0 notes\n"_s);
+    QCOMPARE(clean.exitCode, 0);
+
+    const Run run = check({ u"faults.xml"_s, u"clean.xml"_s, u"./faults.xml"_s });
+    const QStringList lines = run.output.split(u'\n');
+    QCOMPARE(lines.size(), 8);
+    QVERIFY(lines.at(0).startsWith("faults.xml:2:1: "_L1));
+    QVERIFY(lines.at(3).startsWith("./faults.xml:2:1: "_L1));
+    QCOMPARE(lines.at(6), u"8 products in 3 files: 2 errors, 2 warnings, 2 notes"_s);
+    QCOMPARE(run.exitCode, 1);
+}
+
+void tst_check::standardInput()
+{
+    const Run run = check({ u"-"_s }, FAULTS);
+    QCOMPARE(run.output.count("\n-:"_L1), 2);
+    QVERIFY(run.output.startsWith("-:2:1: note: "_L1));
+    QVERIFY(run.output.endsWith(QLatin1StringView(SUMMARY_OF_FAULTS)));
+    QCOMPARE(run.exitCode, 1);
+    QCOMPARE(check({ u"-"_s }).messages, u"-:1:1: error: the file is empty\n"_s);
+}
+
+void tst_check::unreadable()
+{
+    const Run missing = check({ u"missing.xml"_s, u"clean.xml"_s });
+    QCOMPARE(missing.messages, u"missing.xml:1:1: error: cannot open the file: No such file or directory\n"_s);
+    QCOMPARE(missing.output, u"2 products in 2 files: 0 errors, 0 warnings, 0 notes, 1 file not read to the end\n"_s);
+    QCOMPARE(missing.exitCode, 2);
+
+    const Run cut = check({ u"cut.xml"_s });
+    QCOMPARE(cut.messages, u"cut.xml:3:3: error: the file ends too early\n"_s);
+    QVERIFY(cut.output.startsWith("cut.xml:2:1: note: "_L1));
+    QVERIFY(cut.output.endsWith(
+            "\n1 product in 1 file: 0 errors, 0 warnings, 1 note, 1 file not read to the end\n"_L1));
+    QCOMPARE(cut.exitCode, 2);
+}
+
+void tst_check::jsonFormat()
+{
+    const Run run = check({ u"--format"_s, u"json"_s, u"faults.xml"_s });
+    QCOMPARE(run.messages, QString());
+    QCOMPARE(run.exitCode, 1);
+    QJsonParseError error;
+    const QJsonObject document = QJsonDocument::fromJson(run.output.toUtf8(), &error).object();
+    QCOMPARE(error.errorString(), u"no error occurred"_s);
+    QCOMPARE(propertyNames(document), (QStringList { u"findings"_s, u"summary"_s, u"unreadable"_s }));
+    const QJsonArray findings = document.value("findings"_L1).toArray();
+    QCOMPARE(findings.size(), 3);
+    const QJsonObject expected = {
+        { u"column"_s, 5 },
+        { u"file"_s, u"faults.xml"_s },
+        { u"line"_s, 3 },
+        { u"product"_s, 1 },
+        { u"rule"_s, u"article-id-invalid"_s },
+        { u"severity"_s, u"error"_s },
+        { u"text"_s, u"the article id \"0\" is no whole number above 0"_s },
+    };
+    QCOMPARE(findings.at(1).toObject(), expected);
+    const QJsonObject summary = {
+        { u"errors"_s, 1 }, { u"files"_s, 1 }, { u"notes"_s, 1 }, { u"products"_s, 3 }, { u"warnings"_s, 1 }
+    };
+    QCOMPARE(document.value("summary"_L1).toObject(), summary);
+    QCOMPARE(document.value("unreadable"_L1).toArray(), QJsonArray());
+
+    const Run clean = check({ u"--format=json"_s, u"clean.xml"_s });
+    const QJsonObject cleanDocument = QJsonDocument::fromJson(clean.output.toUtf8(), &error).object();
+    QCOMPARE(error.errorString(), u"no error occurred"_s);
+    QCOMPARE(cleanDocument.value("findings"_L1).toArray(), QJsonArray());
+    QCOMPARE(clean.exitCode, 0);
+
+    write(u"empty.xml"_s, "<p/>");
+    const Run empty = check({ u"--format=json"_s, u"empty.xml"_s });
+    const QJsonObject finding =
+            QJsonDocument::fromJson(empty.output.toUtf8()).object().value("findings"_L1).toArray().at(0).toObject();
+    QVERIFY(finding.value("product"_L1).isNull());
+}
+
+void tst_check::jsonOfUnreadable()
+{
+    const Run run = check({ u"--format=json"_s, u"cut.xml"_s, u"missing.xml"_s });
+    QCOMPARE(run.exitCode, 2);
+    const QJsonObject document = QJsonDocument::fromJson(run.output.toUtf8()).object();
+    QCOMPARE(document.value("findings"_L1).toArray().size(), 1);
+    const QJsonArray unreadable = document.value("unreadable"_L1).toArray();
+    const QJsonObject expected = {
+        { u"column"_s, 3 }, { u"file"_s, u"cut.xml"_s }, { u"line"_s, 3 }, { u"text"_s, u"the file ends too early"_s }
+    };
+    QCOMPARE(unreadable.at(0).toObject(), expected);
+    QCOMPARE(unreadable.at(1).toObject().value("file"_L1).toString(), u"missing.xml"_s);
+}
+
+// The properties that SARIF 2.1.0 requires of each object that is written, and the values that it allows.
+void tst_check::compareSarif(const QString &output, bool isSuccessful, int exitCode, const QStringList &results,
+                             const QStringList &notifications)
+{
+    QJsonParseError error;
+    const QJsonObject log = QJsonDocument::fromJson(output.toUtf8(), &error).object();
+    QCOMPARE(error.errorString(), u"no error occurred"_s);
+    QCOMPARE(propertyNames(log), (QStringList { u"$schema"_s, u"runs"_s, u"version"_s }));
+    QCOMPARE(log.value("version"_L1).toString(), u"2.1.0"_s);
+    QVERIFY(QUrl(log.value("$schema"_L1).toString(), QUrl::StrictMode).isValid());
+    QCOMPARE(log.value("runs"_L1).toArray().size(), 1);
+    const QJsonObject run = log.value("runs"_L1).toArray().at(0).toObject();
+    QCOMPARE(propertyNames(run), (QStringList { u"columnKind"_s, u"invocations"_s, u"results"_s, u"tool"_s }));
+    QCOMPARE(run.value("columnKind"_L1).toString(), u"utf16CodeUnits"_s);
+
+    static const QStringList levels = { u"none"_s, u"note"_s, u"warning"_s, u"error"_s };
+    const QJsonObject tool = run.value("tool"_L1).toObject();
+    QCOMPARE(propertyNames(tool), QStringList { u"driver"_s });
+    const QJsonObject driver = tool.value("driver"_L1).toObject();
+    QCOMPARE(propertyNames(driver), (QStringList { u"name"_s, u"rules"_s, u"version"_s }));
+    QCOMPARE(driver.value("name"_L1).toString(), u"rvcatalog"_s);
+    QVERIFY(driver.value("version"_L1).isString());
+    const QJsonArray rules = driver.value("rules"_L1).toArray();
+    QCOMPARE(rules.size(), catalogueRules().size());
+    for (int i = 0; i < rules.size(); ++i) {
+        const QJsonObject rule = rules.at(i).toObject();
+        QCOMPARE(propertyNames(rule), (QStringList { u"defaultConfiguration"_s, u"id"_s, u"shortDescription"_s }));
+        QCOMPARE(rule.value("id"_L1).toString(), catalogueRules().at(i).name);
+        QVERIFY(!rule.value("shortDescription"_L1).toObject().value("text"_L1).toString().isEmpty());
+        QVERIFY(levels.contains(rule.value("defaultConfiguration"_L1).toObject().value("level"_L1).toString()));
+    }
+
+    QStringList described;
+    for (const QJsonValue &value : run.value("results"_L1).toArray()) {
+        const QJsonObject result = value.toObject();
+        QCOMPARE(propertyNames(result),
+                 (QStringList { u"level"_s, u"locations"_s, u"message"_s, u"ruleId"_s, u"ruleIndex"_s }));
+        const QString level = result.value("level"_L1).toString();
+        QVERIFY(levels.contains(level));
+        QVERIFY(!result.value("message"_L1).toObject().value("text"_L1).toString().isEmpty());
+        const int index = result.value("ruleIndex"_L1).toInt(-1);
+        QCOMPARE(rules.at(index).toObject().value("id"_L1), result.value("ruleId"_L1));
+        described += location(result.value("locations"_L1)) + u' ' + level + u' '
+                + result.value("ruleId"_L1).toString();
+    }
+    QCOMPARE(described, results);
+
+    QCOMPARE(run.value("invocations"_L1).toArray().size(), 1);
+    const QJsonObject invocation = run.value("invocations"_L1).toArray().at(0).toObject();
+    QCOMPARE(propertyNames(invocation),
+             (QStringList { u"executionSuccessful"_s, u"exitCode"_s, u"toolExecutionNotifications"_s }));
+    QVERIFY(invocation.value("executionSuccessful"_L1).isBool());
+    QCOMPARE(invocation.value("executionSuccessful"_L1).toBool(), isSuccessful);
+    QCOMPARE(invocation.value("exitCode"_L1).toInt(-1), exitCode);
+    QStringList notified;
+    for (const QJsonValue &value : invocation.value("toolExecutionNotifications"_L1).toArray()) {
+        const QJsonObject notification = value.toObject();
+        QCOMPARE(propertyNames(notification), (QStringList { u"level"_s, u"locations"_s, u"message"_s }));
+        QCOMPARE(notification.value("level"_L1).toString(), u"error"_s);
+        notified += location(notification.value("locations"_L1)) + u' '
+                + notification.value("message"_L1).toObject().value("text"_L1).toString();
+    }
+    QCOMPARE(notified, notifications);
+}
+
+void tst_check::sarifFormat()
+{
+    const Run run = check({ u"--format"_s, u"sarif"_s, u"faults.xml"_s });
+    QCOMPARE(run.messages, QString());
+    QCOMPARE(run.exitCode, 1);
+    compareSarif(run.output, true, 1,
+                 { u"faults.xml:2:1 note keyword-legacy"_s, u"faults.xml:3:5 error article-id-invalid"_s,
+                   u"faults.xml:4:1 warning price-class-unknown"_s },
+                 {});
+    const Run clean = check({ u"--format=sarif"_s, u"clean.xml"_s });
+    QCOMPARE(clean.exitCode, 0);
+    compareSarif(clean.output, true, 0, {}, {});
+}
+
+void tst_check::sarifOfUnreadable()
+{
+    const Run run = check({ u"--format=sarif"_s, u"cut.xml"_s, u"missing.xml"_s });
+    QCOMPARE(run.exitCode, 2);
+    compareSarif(run.output, false, 2, { u"cut.xml:2:1 note keyword-legacy"_s },
+                 { u"cut.xml:3:3 the file ends too early"_s,
+                   u"missing.xml:1:1 cannot open the file: No such file or directory"_s });
+}
+
+void tst_check::sarifUris()
+{
+    const QString name = u"a b:ä#%.xml"_s;
+    write(name, "<p/>");
+    compareSarif(check({ u"--format=sarif"_s, name }).output, true, 1,
+                 { u"a%20b%3A%C3%A4%23%25.xml:1:1 error products-missing"_s }, {});
+    const QString absolute = myFolder.filePath(u"clean.xml"_s);
+    QVERIFY(QDir().mkpath(myFolder.filePath(u"d"_s)));
+    write(u"d/e.xml"_s, "<p/>");
+    compareSarif(check({ u"--format=sarif"_s, u"d/e.xml"_s, myFolder.filePath(u"d/e.xml"_s) }).output, true, 1,
+                 { u"d/e.xml:1:1 error products-missing"_s,
+                   QUrl::fromLocalFile(myFolder.filePath(u"d/e.xml"_s)).toString(QUrl::FullyEncoded)
+                           + u":1:1 error products-missing"_s },
+                 {});
+}
+
+void tst_check::rules()
+{
+    const Run run = check({ u"--rules"_s });
+    QCOMPARE(run.exitCode, 0);
+    QString expected;
+    for (const CatalogueRule &rule : catalogueRules())
+        expected += rule.name + " ("_L1 + severityName(rule.severity) + ")\n    "_L1 + rule.reason + u'\n';
+    QCOMPARE(run.output, expected);
+}
+
+void tst_check::disable()
+{
+    const Run run = check({ u"--disable=article-id-invalid"_s, u"--disable"_s, u"keyword-legacy"_s,
+                            u"--disable=price-class-unknown"_s, u"faults.xml"_s });
+    QCOMPARE(run.output, u"3 products in 1 file: 0 errors, 0 warnings, 0 notes\n"_s);
+    QCOMPARE(run.exitCode, 0);
+}
+
+void tst_check::wrongUsage_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("message");
+
+    const QString hint = u"\nTry \"rvcatalog check --help\".\n"_s;
+    QTest::newRow("no file") << QStringList() << u"rvcatalog: expected at least 1 argument, got 0"_s + hint;
+    QTest::newRow("unknown rule") << QStringList { u"--disable"_s, u"foo"_s, u"clean.xml"_s }
+                                  << u"rvcatalog: there is no rule \"foo\"; \"rvcatalog check --rules\" lists them"_s
+                    + hint;
+    QTest::newRow("unknown format") << QStringList { u"--format"_s, u"xml"_s, u"clean.xml"_s }
+                                    << u"rvcatalog: there is no format \"xml\"; there are: text, json, sarif"_s + hint;
+    QTest::newRow("unknown option") << QStringList { u"--foo"_s } << u"rvcatalog: Unknown option 'foo'."_s + hint;
+}
+
+void tst_check::wrongUsage()
+{
+    QFETCH(QStringList, arguments);
+    const Run run = check(arguments);
+    QCOMPARE(run.output, QString());
+    QTEST(run.messages, "message");
+    QCOMPARE(run.exitCode, 2);
+}
+
+namespace {
+
+/// So many products that the check of a slow input takes longer than a second.
+void writeSlowly(QProcess *process)
+{
+    process->write("<p>");
+    for (int i = 1; i <= 30; ++i) {
+        for (int j = 1; j <= 1000; ++j)
+            process->write("<product type='T" + QByteArray::number(i * 1000 + j) + "' article_id='"
+                           + QByteArray::number(i * 1000 + j) + "'/>\n");
+        QTest::qWait(60);
+    }
+    process->write("</p>");
+    process->closeWriteChannel();
+}
+
+}
+
+void tst_check::noProgressInAFile()
+{
+    QProcess process;
+    process.start(QStringLiteral(RVCATALOG), { u"check"_s, u"-"_s });
+    writeSlowly(&process);
+    QVERIFY(process.waitForFinished(60000));
+    QCOMPARE(process.readAllStandardError(), QByteArray());
+    QCOMPARE(process.readAllStandardOutput(), "30000 products in 1 file: 0 errors, 0 warnings, 0 notes\n");
+}
+
+void tst_check::progressOnATerminal()
+{
+    const int terminal = ::posix_openpt(O_RDWR | O_NOCTTY);
+    QVERIFY(terminal >= 0);
+    QCOMPARE(::grantpt(terminal), 0);
+    QCOMPARE(::unlockpt(terminal), 0);
+    const int userSide = ::open(::ptsname(terminal), O_RDWR | O_NOCTTY);
+    QVERIFY(userSide >= 0);
+    QProcess process;
+    process.setChildProcessModifier([userSide] { ::dup2(userSide, STDERR_FILENO); });
+    process.start(QStringLiteral(RVCATALOG), { u"check"_s, u"-"_s });
+    writeSlowly(&process);
+    QVERIFY(process.waitForFinished(60000));
+    QCOMPARE(process.readAllStandardOutput(), "30000 products in 1 file: 0 errors, 0 warnings, 0 notes\n");
+    QByteArray shown(100000, '\0');
+    shown.truncate(::read(terminal, shown.data(), std::size_t(shown.size())));
+    ::close(userSide);
+    ::close(terminal);
+    QVERIFY2(shown.startsWith("\r\033[K0 MB -"), shown.constData());
+    QVERIFY2(shown.endsWith("\r\033[K"), shown.constData());
+}
+
+// A document of these products takes over a gigabyte.
+void tst_check::memory()
+{
+#ifdef __SANITIZE_ADDRESS__
+    constexpr long limit = 800; // most of it is memory that was given back
+#else
+    constexpr long limit = 64;
+#endif
+    constexpr int count = 20000;
+    QFile file(myFolder.filePath(u"large.xml"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("<products>");
+    for (int i = 1; i <= count; ++i) {
+        const QByteArray number = QByteArray::number(i);
+        file.write("<product type='T" + number + "' article_id='" + number + "' name='" + QByteArray(200, 'x')
+                   + "' pages='26' max_pages='154' page_step='4'><forms>\n");
+        for (int j = 0; j < 10; ++j)
+            file.write("<form key='k" + QByteArray::number(j) + "' value='v' preselected='true' value_name='"
+                       + QByteArray(100, 'y') + "'/>\n");
+        file.write("</forms></product>\n");
+    }
+    file.write("</products>");
+    file.close();
+    const Run run = check({ u"large.xml"_s });
+    QCOMPARE(run.output, u"20000 products in 1 file: 0 errors, 0 warnings, 0 notes\n"_s);
+    rusage usage = {};
+    QCOMPARE(getrusage(RUSAGE_CHILDREN, &usage), 0);
+    QVERIFY2(usage.ru_maxrss < limit * 1024, qPrintable(u"%1 KiB"_s.arg(usage.ru_maxrss)));
+}
+
+QTEST_GUILESS_MAIN(tst_check)
+#include "tst_check.moc"

@@ -1,0 +1,210 @@
+#include "SampleProduct.h"
+
+#include <CatalogueAttribute.h>
+#include <CatalogueChecker.h>
+#include <KeywordCheck.h>
+
+#include <QBuffer>
+#include <QDomDocument>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+class tst_schema : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void sample();
+    void allowed_data();
+    void allowed();
+    void refused_data();
+    void refused();
+    void keywords_data();
+    void keywords();
+
+private:
+    bool isValid(const QByteArray &file);
+    static QStringList findings(QByteArray file);
+    static QByteArray changed(const QByteArray &from, const QByteArray &to);
+
+    QTemporaryDir myFolder;
+};
+
+/// Asks xmllint, which tells a file that the schema refuses from one that it cannot check.
+bool tst_schema::isValid(const QByteArray &content)
+{
+    constexpr int valid = 0;
+    constexpr int refused = 3;
+    QFile file(myFolder.filePath(u"c.xml"_s));
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        return QTest::qFail("cannot write the file", __FILE__, __LINE__), false;
+    file.close();
+    QProcess process;
+    process.start(QStringLiteral(XMLLINT), { u"--noout"_s, u"--schema"_s, QStringLiteral(SCHEMA), file.fileName() });
+    if (!process.waitForFinished(60000) || (process.exitCode() != valid && process.exitCode() != refused))
+        QTest::qFail(process.readAllStandardError().constData(), __FILE__, __LINE__);
+    return process.exitCode() == valid;
+}
+
+QStringList tst_schema::findings(QByteArray file)
+{
+    QBuffer buffer(&file);
+    buffer.open(QIODevice::ReadOnly);
+    QStringList result;
+    const auto checked = CatalogueChecker().check(
+            &buffer, [&](const CatalogueFinding &finding) { result += finding.rule + ": "_L1 + finding.text; });
+    return checked.error.isEmpty() ? result : result + QStringList { checked.error };
+}
+
+QByteArray tst_schema::changed(const QByteArray &from, const QByteArray &to)
+{
+    const QByteArray clean = CLEAN_CATALOGUE;
+    return clean.count(from) == 1 ? QByteArray(clean).replace(from, to) : QByteArray();
+}
+
+void tst_schema::sample()
+{
+    QFile file(QStringLiteral(SAMPLES "/products.xml"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(isValid(file.readAll()));
+}
+
+void tst_schema::allowed_data()
+{
+    QTest::addColumn<QByteArray>("file");
+
+    QTest::newRow("as it is") << QByteArray(CLEAN_CATALOGUE);
+    QTest::newRow("groups of any name") << changed("<products>", "<products><family name='x'><a><b>")
+                                                   .replace("</products>", "</b></a>text</family></products>");
+    QTest::newRow("unknown elements and attributes")
+            << changed("<forms>", "<x y='z'>text</x>text<forms x='y'><z/>").replace("<barcodes ", "<barcodes x='y' ");
+    QTest::newRow("keyword list in any case") << changed("orientation='portrait'", "orientation='Portrait , SQUARE'");
+    QTest::newRow("booleans") << changed("preselected='yes'", "preselected='TRUE'").replace("='true'", "='On'");
+    QTest::newRow("colours") << changed("color='red'", "color='Light Blue'").replace("#1a1a1a", "#fff");
+    QTest::newRow("no colour") << changed("color='red'", "color=''");
+    QTest::newRow("numbers") << changed("base_width='0.8'", "base_width=' 8e-1 '").replace("pages='26'", "pages='+26'");
+    QTest::newRow("photo box") << changed("<product type='FOT1'", "<product photo_box='1' type='FOT1'");
+}
+
+void tst_schema::allowed()
+{
+    QFETCH(QByteArray, file);
+    QVERIFY(!file.isEmpty());
+    QVERIFY(isValid(file));
+    QCOMPARE(findings(file), QStringList());
+}
+
+void tst_schema::refused_data()
+{
+    QTest::addColumn<QByteArray>("file");
+
+    const QList<std::pair<QByteArray, QByteArray>> changes = {
+        { "type='DUN9' ", "" },
+        { "type='DUN9'", "type=''" },
+        { "type='FOT1'", "type='DUN9'" },
+        { "article_id='2'", "" },
+        { "article_id='2'", "article_id='0'" },
+        { "article_id='2'", "article_id='1'" },
+        { "article_id='2'", "article_id='2147483648'" },
+        { "paper_type='fotopaper'", "paper_type=''" },
+        { "orientation='portrait'", "orientation='portrait,,square'" },
+        { "shipping_group='2'", "shipping_group='-1'" },
+        { "shipping_group='2'", "shipping_group=''" },
+        { "pages='26'", "pages='many'" },
+        { "pages='26'", "pages='-26'" },
+        { "max_pages='154'", "max_pages='154.0'" },
+        { "page_step='4'", "page_step='-4'" },
+        { "pieces='1'", "pieces='0'" },
+        { "pages='26'", "pages='26' photo_box='ja'" },
+        { "<barcodes units='mm'>", "<barcodes units='MM'>" },
+        { "position_x='62'", "position_x='62,0'" },
+        { "position_x='12' position_y='290.5'", "position_y='low'" },
+        { "width='38' height='10' pageNr='2'/>", "width='0' height='10'/>" },
+        { "height='10' pageNr='2'/>", "height='-1'/>" },
+        { "pageNr='2'/>", "pageNr='-1'/>" },
+        { "pageNr='2'/>", "pageNr='two'/>" },
+        { "image='a.png'", "image=''" },
+        { "<composition units='cm'>", "<composition units='km'>" },
+        { "packages_per_block='2'", "packages_per_block='1.5'" },
+        { "packages_per_block='2'", "packages_per_block='-2'" },
+        { "base_width='0.8'", "base_width='-0.8'" },
+        { "block_width='0.1'", "block_width='x'" },
+        { "additional_width='0.05'", "additional_width=''" },
+        { "key='alcolor' value='black'", "value='black'" },
+        { "value='red'", "" },
+        { "value='red'", "value=''" },
+        { "color='red'", "color='#12345'" },
+        { "color='red'", "color='red;'" },
+        { "preselected='yes'", "preselected='2'" },
+        { "not_accountable='true'", "not_accountable=''" },
+    };
+    for (const auto &[from, to] : changes) {
+        QTest::addRow("%s for %s", to.constData(), from.constData()) << changed(from, to);
+        QTest::addRow("%s for %s, in a group", to.constData(), from.constData())
+                << changed(from, to)
+                           .replace("<products>", "<products><a><b>")
+                           .replace("</products>", "</b></a></products>");
+    }
+}
+
+void tst_schema::refused()
+{
+    QFETCH(QByteArray, file);
+    QVERIFY(!file.isEmpty());
+    QVERIFY(!isValid(file));
+    QCOMPARE(findings(file).size(), 1);
+}
+
+void tst_schema::keywords_data()
+{
+    QTest::addColumn<QString>("attribute");
+
+    for (const QLatin1StringView name : keywordAttributesOfProducts())
+        QTest::newRow(name.data()) << name.toString();
+}
+
+// The schema offers what "check" has nothing to say of: the main keywords, and the words where those are numbers.
+void tst_schema::keywords()
+{
+    QFETCH(QString, attribute);
+    QFile file(QStringLiteral(SCHEMA));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QDomDocument document;
+    QVERIFY(document.setContent(&file));
+    QStringList offered;
+    const QDomElement root = document.documentElement();
+    for (QDomElement type = root.firstChildElement(u"xs:simpleType"_s); !type.isNull();
+         type = type.nextSiblingElement(u"xs:simpleType"_s)) {
+        if (type.attribute(u"name"_s) != attribute)
+            continue;
+        const QDomNodeList values = type.elementsByTagName(u"xs:enumeration"_s);
+        for (int i = 0; i < values.size(); ++i)
+            offered += values.at(i).toElement().attribute(u"value"_s);
+    }
+
+    const QList<CatalogueAttribute> &attributes = catalogueAttributes();
+    const auto found = std::find_if(attributes.begin(), attributes.end(),
+                                    [&](const CatalogueAttribute &each) { return each.name == attribute; });
+    QVERIFY(found != attributes.end());
+    QStringList expected;
+    for (const AttributeValue &value : found->values()) {
+        bool isNumber = false;
+        value.keyword.toInt(&isNumber);
+        if (isNumber && !value.aliases.isEmpty())
+            expected += value.aliases;
+        else
+            expected += value.keyword;
+    }
+    QCOMPARE(offered, expected);
+    for (const QString &keyword : offered)
+        QVERIFY2(keywordFaults(QLatin1StringView(attribute.toLatin1()), keyword).isEmpty(), qPrintable(keyword));
+}
+
+QTEST_MAIN(tst_schema)
+#include "tst_schema.moc"
