@@ -82,12 +82,16 @@ private Q_SLOTS:
 void tst_CatalogueChecker::rules()
 {
     static const QRegularExpression kebabCase(u"^[a-z]+(-[a-z]+)+$"_s);
+    QFile page(u"" DOCS "/catalogue-format.md"_s);
+    QVERIFY(page.open(QIODevice::ReadOnly));
+    const QString documented = QString::fromUtf8(page.readAll());
     QSet<QString> names;
     for (const CatalogueRule &rule : catalogueRules()) {
         QVERIFY2(kebabCase.match(rule.name).hasMatch(), rule.name.data());
         QVERIFY2(rule.reason.endsWith(u'.'), rule.name.data());
         QVERIFY2(rule.reason.count(". "_L1) == 0, rule.name.data());
         QCOMPARE(catalogueRules().at(indexOfRule(rule.name.toString())).name, rule.name);
+        QCOMPARE(documented.count("\n| `"_L1 + rule.name + "` | "_L1), 1);
         names.insert(rule.name);
     }
     QCOMPARE(names.size(), catalogueRules().size());

@@ -44,7 +44,7 @@ holds librvproductbase-dev \
     "$lib"/lib'RV(Core|XML|ProductBase)\.so' "$lib"/cmake/'RV(TemplateClasses|Core|XML|ProductBase)/RV.*\.cmake' \
     "$lib"/pkgconfig/RVProductBase.pc 'include/RV(TemplateClasses|Core|XML|ProductBase)/RV[A-Za-z]+\.h'
 holds rvcatalog \
-    bin/rvcatalog share/man/man1/rvcatalog.1.gz share/doc/rvcatalog/catalogue-format.md \
+    bin/rvcatalog share/man/man1/rvcatalog.1.gz share/doc/rvcatalog/catalogue-format.md share/rvcatalog/catalogue.xsd \
     'share/doc/rvcatalog/examples/(products|project)\.xml'
 
 for package in librvproductbase0 librvproductbase-dev rvcatalog; do
