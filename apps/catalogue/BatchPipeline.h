@@ -3,24 +3,44 @@
 
 #include "CatalogueReader.h"
 
-#include <QThread>
-#include <QThreadPool>
-
+#include <condition_variable>
 #include <deque>
+#include <functional>
 #include <future>
 #include <memory>
+#include <mutex>
+#include <thread>
+#include <utility>
+#include <vector>
 
-/// One thread reads, so more than some others would only wait for it.
-inline int batchThreads()
+/// Threads that do tasks in the order in which they come, as many as the machine has cores. For one owner.
+class BatchWorkers
 {
-    return qBound(1, QThread::idealThreadCount(), 8);
-}
+    Q_DISABLE_COPY_MOVE(BatchWorkers)
+
+public:
+    BatchWorkers() = default;
+    /// Waits for the tasks that have begun; the others are dropped.
+    ~BatchWorkers();
+
+    static int mostThreads();
+    void add(std::function<void()> task);
+
+private:
+    void work();
+
+    std::mutex myMutex;
+    std::condition_variable myHasNews;
+    std::deque<std::function<void()>> myTasks;
+    std::vector<std::thread> myThreads;
+    bool myIsEnding = false;
+};
 
 /**
  * Reads a catalogue to its end, or until @p take returns false: @p work turns every batch into a result, on every core
  * of the machine, and @p take gets the results in the order of the file.
  *
- * `Result work(const CatalogueBatch &)` is called on several threads at once; `bool take(Result)` on the caller's. Only
+ * `Result work(const CatalogueBatch &)` is called on several threads at once, `bool take(Result)` on the caller's. Only
  * so many batches are on their way that memory does not grow with the file.
  */
 template<typename Work, typename Take>
@@ -28,10 +48,9 @@ void forEachBatch(CatalogueReader &reader, Work work, Take take)
 {
     using Result = decltype(work(CatalogueBatch()));
     constexpr qsizetype batchSize = qsizetype(64) * 1024;
-    QThreadPool pool;
-    pool.setMaxThreadCount(batchThreads());
-    const std::size_t mostOnTheirWay = std::size_t(pool.maxThreadCount()) * 2;
+    const std::size_t mostOnTheirWay = std::size_t(BatchWorkers::mostThreads()) * 2;
 
+    BatchWorkers workers;
     std::deque<std::future<Result>> results;
     const auto takeFirst = [&] {
         Result result = results.front().get();
@@ -53,7 +72,7 @@ void forEachBatch(CatalogueReader &reader, Work work, Take take)
         const auto task = std::make_shared<std::packaged_task<Result()>>(
                 [&work, batch = std::move(batch)] { return work(batch); });
         results.push_back(task->get_future());
-        pool.start([task] { (*task)(); });
+        workers.add([task] { (*task)(); });
         if (results.size() >= mostOnTheirWay)
             goesOn = takeFirst();
     }

@@ -27,8 +27,9 @@ constexpr std::array PAGE_NUMBERS = { "pages"_L1, "max_pages"_L1, "page_step"_L1
 constexpr std::array SPINE_WIDTHS = { "base_width"_L1, "block_width"_L1, "additional_width"_L1 };
 constexpr std::array BARCODE_LENGTHS = { "position_x"_L1, "position_y"_L1, "width"_L1, "height"_L1 };
 constexpr std::array UNITS = { "mm"_L1, "cm"_L1, "inch"_L1, "in"_L1, "pt"_L1, "point"_L1, "0.1mm"_L1 };
-/// What the page size classes are made of; areas of barcodes are in tenths of a millimetre.
+/// Barcodes are measured in tenths of a millimetre. No printer prints three metres.
 constexpr qint64 SQUARE_CENTIMETRE = 100 * 100;
+constexpr int LONGEST_PAGE = 30000;
 constexpr qreal USABLE_PART_OF_SPINE = 0.85;
 
 template<typename Names>
@@ -204,12 +205,15 @@ bool ProductCheck::checkBoolean(const CatalogueElement &element, QLatin1StringVi
     return false;
 }
 
-void ProductCheck::checkUnit(const CatalogueElement &element)
+/// True where the attribute is missing, too.
+bool ProductCheck::checkUnit(const CatalogueElement &element)
 {
-    if (element.hasAttribute("units"_L1) && !contains(UNITS, element.attribute("units"_L1)))
+    const bool isKnown = !element.hasAttribute("units"_L1) || contains(UNITS, element.attribute("units"_L1));
+    if (!isKnown)
         add(Rule::UnitUnknown, element,
             u"there is no unit %1; there are mm, cm, inch, in, pt, point and 0.1mm"_s.arg(
                     quoted(element.attribute("units"_L1))));
+    return isKnown;
 }
 
 void ProductCheck::checkPageCounts(const CatalogueElement &product)
@@ -245,15 +249,15 @@ void ProductCheck::checkSpine(const CatalogueElement &product)
     const CatalogueElement composition = product.firstChildElement("composition"_L1);
     const CatalogueElement spine = composition.firstChildElement("spine"_L1);
     const bool isBound = myProduct.pageBinding.matches(GLUE | LAYFLAT);
-    checkUnit(composition);
+    const bool isUnitKnown = checkUnit(composition);
     if (!spine.isNull())
-        checkSpineWidths(spine, isBound);
+        checkSpineWidths(spine, isBound, isUnitKnown);
     else if (isBound)
         add(Rule::SpineMissing, composition.isNull() ? product : composition,
             u"the product is bound (%1), but has no spine in a composition"_s.arg(myProduct.pageBinding.encodeCSV()));
 }
 
-void ProductCheck::checkSpineWidths(const CatalogueElement &spine, bool isBound)
+void ProductCheck::checkSpineWidths(const CatalogueElement &spine, bool isBound, bool isUnitKnown)
 {
     bool isReadable = checkNumber(spine, "packages_per_block"_L1, true);
     bool hasWidth = false;
@@ -274,8 +278,8 @@ void ProductCheck::checkSpineWidths(const CatalogueElement &spine, bool isBound)
         add(Rule::SpineMissing, spine, u"the product is bound, but its spine has no width"_s);
     else if (negative.isEmpty())
         return;
-    else if (isReadable && !isNegative && myHasPageCounts && !isTooNarrow(myProduct.spine, counts.minPages())
-             && isTooNarrow(myProduct.spine, counts.maxPages()))
+    else if (isReadable && isUnitKnown && !isNegative && myHasPageCounts
+             && !isTooNarrow(myProduct.spine, counts.minPages()) && isTooNarrow(myProduct.spine, counts.maxPages()))
         add(Rule::SpineFontTooSmall, spine,
             u"the spine shrinks, so that at %1 pages it is too narrow for the smallest font"_s.arg(counts.maxPages()));
     else
@@ -378,16 +382,10 @@ void ProductCheck::checkDefaults(const CatalogueElement &forms)
 
 void ProductCheck::checkBarcodes(const CatalogueElement &product)
 {
-    struct Place
-    {
-        QRect rect;
-        int page;
-        FilePosition position;
-    };
-    std::vector<Place> places;
     const CatalogueElement barcodes = product.firstChildElement("barcodes"_L1);
     const RVDistanceUnit unit(barcodes.text("units"_L1));
-    checkUnit(barcodes);
+    const bool isUnitKnown = checkUnit(barcodes);
+    std::vector<PlacedBarcode> placed;
     forEachChild(barcodes, "barcode"_L1, [&](const CatalogueElement &barcode) {
         bool isReadable = checkNumber(barcode, "pageNr"_L1, true);
         for (const QLatin1StringView name : BARCODE_LENGTHS)
@@ -396,41 +394,52 @@ void ProductCheck::checkBarcodes(const CatalogueElement &product)
             return;
         QDomDocument document;
         const auto definition = RVBarcodeDefinition::createFromProductsXML(barcode.deepCopy(&document), unit);
-        if (!definition.isValid())
-            return add(Rule::BarcodeInvalid, barcode,
-                       definition.imageName().isEmpty() ? u"the barcode has no image"_s
-                                                        : u"the barcode has no width or no height"_s);
-        checkBarcodePlace(barcode, definition);
-        const auto other = std::find_if(places.begin(), places.end(), [&](const Place &place) {
-            return place.page == definition.pageNr() && overlap(place.rect, definition.rect());
-        });
-        if (other != places.end())
-            add(Rule::BarcodeOverlap, barcode, u"the barcode overlaps the one %1"_s.arg(inLine(other->position)));
-        places.push_back({ definition.rect(), definition.pageNr(), barcode.position() });
+        checkBarcodePage(barcode, definition.pageNr());
+        if (definition.imageName().isEmpty())
+            add(Rule::BarcodeInvalid, barcode, u"the barcode has no image"_s);
+        else if (isUnitKnown)
+            checkBarcodeArea({ barcode, definition.rect(), definition.pageNr() }, &placed);
     });
 }
 
-// How large a page is, nobody says but its size class; and of the largest class no page is too large.
-void ProductCheck::checkBarcodePlace(const CatalogueElement &barcode, const RVBarcodeDefinition &definition)
+void ProductCheck::checkBarcodePage(const CatalogueElement &barcode, int page)
 {
-    const int page = definition.pageNr();
-    if (page < 0 || (myHasPageCounts && page > myProduct.pageCounts.maxPages()))
+    const int highest = myProduct.pageCounts.maxPages();
+    if (page < 0)
+        add(Rule::BarcodePageImpossible, barcode, u"there is no page %1"_s.arg(page));
+    else if (myHasPageCounts && page > highest)
         add(Rule::BarcodePageImpossible, barcode,
-            page < 0 ? u"there is no page %1"_s.arg(page)
-                     : u"there is no page %1; the product has at most %2"_s.arg(page).arg(
-                             myProduct.pageCounts.maxPages()));
+            u"there is no page %1; the product has at most %2"_s.arg(page).arg(highest));
+}
 
-    const QRect rect = definition.rect();
+void ProductCheck::checkBarcodeArea(const PlacedBarcode &barcode, std::vector<PlacedBarcode> *placed)
+{
+    const QRect &area = barcode.area;
+    if (area.left() > area.right() || area.top() > area.bottom())
+        return add(Rule::BarcodeInvalid, barcode.element, u"the barcode has no width or no height"_s);
+    if (area.left() < 0 || area.top() < 0)
+        return add(Rule::BarcodeOutsidePage, barcode.element,
+                   u"the barcode begins %1 the page"_s.arg(area.left() < 0 ? u"left of"_s : u"above"_s));
+    if (isBeyondPage(area))
+        return add(Rule::BarcodeOutsidePage, barcode.element,
+                   u"the barcode ends %1 mm from the left and %2 mm from the top, where there is no page"_s.arg(
+                           QString::number((area.right() + 1.0) / 10), QString::number((area.bottom() + 1.0) / 10)));
+    const auto other = std::find_if(placed->begin(), placed->end(), [&](const PlacedBarcode &each) {
+        return each.page == barcode.page && overlap(each.area, area);
+    });
+    if (other != placed->end())
+        add(Rule::BarcodeOverlap, barcode.element,
+            u"the barcode overlaps the one %1"_s.arg(inLine(other->element.position())));
+    placed->push_back(barcode);
+}
+
+// How large a page is, nobody says but its size class; and of the largest class hardly any page is too large.
+bool ProductCheck::isBeyondPage(const QRect &area) const
+{
     const RVSpaceMagnitude size = myProduct.spaceMagnitude;
-    if (rect.left() < 0 || rect.top() < 0)
-        add(Rule::BarcodeOutsidePage, barcode,
-            u"the barcode begins %1 of the page"_s.arg(rect.left() < 0 ? u"left"_s : u"above the top"_s));
-    else if (size.hasExactlyOneBit()
-             && RVSpaceMagnitude::fromSquareCentimeters(leastPageArea(rect)).value() > size.value())
-        add(Rule::BarcodeOutsidePage, barcode,
-            u"the barcode ends %1 mm from the left and %2 mm from the top, which no page of %3 holds"_s.arg(
-                    QString::number((rect.right() + 1.0) / 10), QString::number((rect.bottom() + 1.0) / 10),
-                    size.encode()));
+    return area.right() > LONGEST_PAGE || area.bottom() > LONGEST_PAGE
+            || (size.hasExactlyOneBit()
+                && RVSpaceMagnitude::fromSquareCentimeters(leastPageArea(area)).value() > size.value());
 }
 
 void ProductCheck::checkPriceClass(const CatalogueElement &element, QLatin1StringView name)

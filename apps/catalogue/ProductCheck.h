@@ -1,18 +1,18 @@
 #ifndef PRODUCTCHECK_H
 #define PRODUCTCHECK_H
 
+#include "CatalogueBatch.h"
 #include "CatalogueProduct.h"
 #include "CatalogueRule.h"
 #include "KeywordCheck.h"
 
 #include <QHash>
 #include <QList>
+#include <QRect>
 #include <QSet>
 
-#include <cstddef>
 #include <utility>
-
-class CatalogueElement;
+#include <vector>
 
 /// What a check of one product came to, and what must not come twice in a file.
 struct CheckedProduct
@@ -41,21 +41,30 @@ public:
     CheckedProduct check(const CatalogueElement &product, qint64 number);
 
 private:
+    struct PlacedBarcode
+    {
+        CatalogueElement element;
+        QRect area;
+        int page;
+    };
+
     void add(Rule rule, const CatalogueElement &element, const QString &text);
 
     void checkIds(const CatalogueElement &product);
     void checkKeywords(const CatalogueElement &product);
     bool checkNumber(const CatalogueElement &element, QLatin1StringView name, bool isWhole);
     bool checkBoolean(const CatalogueElement &element, QLatin1StringView name);
-    void checkUnit(const CatalogueElement &element);
+    bool checkUnit(const CatalogueElement &element);
     void checkPageCounts(const CatalogueElement &product);
     void checkSpine(const CatalogueElement &product);
-    void checkSpineWidths(const CatalogueElement &spine, bool isBound);
+    void checkSpineWidths(const CatalogueElement &spine, bool isBound, bool isUnitKnown);
     void checkOptions(const CatalogueElement &product);
     void checkOption(const CatalogueElement &form);
     void checkDefaults(const CatalogueElement &forms);
     void checkBarcodes(const CatalogueElement &product);
-    void checkBarcodePlace(const CatalogueElement &barcode, const RVBarcodeDefinition &definition);
+    void checkBarcodePage(const CatalogueElement &barcode, int page);
+    void checkBarcodeArea(const PlacedBarcode &barcode, std::vector<PlacedBarcode> *placed);
+    bool isBeyondPage(const QRect &area) const;
     void checkPriceClass(const CatalogueElement &element, QLatin1StringView name);
 
     QSet<QString> myDisabledRules;

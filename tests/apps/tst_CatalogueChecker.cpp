@@ -373,10 +373,22 @@ void tst_CatalogueChecker::broken_data()
             << u"4:1 error barcode-outside-page: the barcode begins left of the page"_s;
     QTest::newRow("barcode above the page")
             << changed("position_x='12' position_y='290.5'", "position_x='12' position_y='9'")
-            << u"4:1 error barcode-outside-page: the barcode begins above the top of the page"_s;
+            << u"4:1 error barcode-outside-page: the barcode begins above the page"_s;
     QTest::newRow("barcode right of the page")
             << changed("position_x='62'", "position_x='600'")
-            << u"5:1 error barcode-outside-page: the barcode ends 638 mm from the left and 290.5 mm from the top, which no page of 600cm2 holds"_s;
+            << u"5:1 error barcode-outside-page: the barcode ends 638 mm from the left and 290.5 mm from the top, where there is no page"_s;
+    QTest::newRow("barcode below the page")
+            << changed("position_x='62' position_y='290.5'", "position_x='62' position_y='2905'")
+            << u"5:1 error barcode-outside-page: the barcode ends 100 mm from the left and 2905 mm from the top, where there is no page"_s;
+    QTest::newRow("barcode far from a page of any size")
+            << changed("space_magnitude='600cm2' ", "").replace("position_x='62'", "position_x='9999'")
+            << u"5:1 error barcode-outside-page: the barcode ends 10037 mm from the left and 290.5 mm from the top, where there is no page"_s;
+    QTest::newRow("barcode half outside over another")
+            << changed("position_x='62'", "position_x='-2'")
+            << u"5:1 error barcode-outside-page: the barcode begins left of the page"_s;
+    QTest::newRow("lengths in an unknown unit")
+            << changed("<barcodes units='mm'>", "<barcodes units='0.1 mm'>").replace("290.5", "2905")
+            << u"3:1 error unit-unknown: there is no unit \"0.1 mm\"; there are mm, cm, inch, in, pt, point and 0.1mm"_s;
     QTest::newRow("barcodes overlap") << changed("position_x='62'", "position_x='49.9'")
                                       << u"5:1 error barcode-overlap: the barcode overlaps the one in line 4"_s;
     QTest::newRow("barcode position is no number")
