@@ -4,6 +4,7 @@
 #include <QXmlStreamAttributes>
 
 #include <algorithm>
+#include <utility>
 
 CatalogueElement::CatalogueElement(const CatalogueBatch *batch, quint32 index, quint32 siblingsEnd)
     : myBatch(index < siblingsEnd ? batch : nullptr),
@@ -38,8 +39,13 @@ CatalogueElement CatalogueElement::named(QLatin1StringView name) const
 {
     CatalogueElement element = *this;
     while (!element.isNull() && !name.isEmpty() && element.tagName() != name)
-        element = element.nextSiblingElement();
+        element = element.next();
     return element;
+}
+
+CatalogueElement CatalogueElement::next() const
+{
+    return CatalogueElement(myBatch, myBatch->myElements[myIndex].end, mySiblingsEnd);
 }
 
 CatalogueElement CatalogueElement::firstChildElement(QLatin1StringView name) const
@@ -51,9 +57,7 @@ CatalogueElement CatalogueElement::firstChildElement(QLatin1StringView name) con
 
 CatalogueElement CatalogueElement::nextSiblingElement(QLatin1StringView name) const
 {
-    if (!myBatch)
-        return CatalogueElement();
-    return CatalogueElement(myBatch, myBatch->myElements[myIndex].end, mySiblingsEnd).named(name);
+    return myBatch ? next().named(name) : CatalogueElement();
 }
 
 QDomElement CatalogueElement::copy(QDomDocument *document, std::initializer_list<QLatin1StringView> attributes) const
@@ -71,14 +75,23 @@ QDomElement CatalogueElement::deepCopy(QDomDocument *document) const
 {
     if (!myBatch)
         return QDomElement();
-    const CatalogueBatch::Element &element = myBatch->myElements[myIndex];
-    QDomElement result = document->createElement(tagName().toString());
-    for (quint32 i = element.attributesBegin; i < element.attributesEnd; ++i) {
-        const CatalogueBatch::Attribute &attribute = myBatch->myAttributes[i];
-        result.setAttribute(myBatch->view(attribute.name).toString(), myBatch->view(attribute.value).toString());
+    QDomElement result;
+    std::vector<std::pair<QDomElement, quint32>> open; // with the end of what is in it
+    for (quint32 index = myIndex; index < myBatch->myElements[myIndex].end; ++index) {
+        const CatalogueBatch::Element &element = myBatch->myElements[index];
+        QDomElement copy = document->createElement(myBatch->view(element.name).toString());
+        for (quint32 i = element.attributesBegin; i < element.attributesEnd; ++i) {
+            const CatalogueBatch::Attribute &attribute = myBatch->myAttributes[i];
+            copy.setAttribute(myBatch->view(attribute.name).toString(), myBatch->view(attribute.value).toString());
+        }
+        while (!open.empty() && open.back().second <= index)
+            open.pop_back();
+        if (open.empty())
+            result = copy;
+        else
+            open.back().first.appendChild(copy);
+        open.emplace_back(copy, element.end);
     }
-    for (CatalogueElement child = firstChildElement(); !child.isNull(); child = child.nextSiblingElement())
-        result.appendChild(child.deepCopy(document));
     return result;
 }
 
@@ -91,11 +104,11 @@ CatalogueElement CatalogueBatch::at(int number) const
 void CatalogueBatch::startElement(QStringView name, const QXmlStreamAttributes &attributes,
                                   const FilePosition &position)
 {
-    const quint32 index = quint32(myElements.size());
+    const auto index = quint32(myElements.size());
     if (myOpenElements.empty())
         myProducts.push_back(index);
     myOpenElements.push_back(index);
-    const quint32 firstAttribute = quint32(myAttributes.size());
+    const auto firstAttribute = quint32(myAttributes.size());
     const Text ownName = append(name);
     for (const QXmlStreamAttribute &attribute : attributes)
         myAttributes.push_back({ append(attribute.qualifiedName()), append(attribute.value()) });

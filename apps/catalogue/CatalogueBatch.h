@@ -49,7 +49,9 @@ private:
     friend class CatalogueBatch;
 
     CatalogueElement(const CatalogueBatch *batch, quint32 index, quint32 siblingsEnd);
+    /// The first element of that name from this one on.
     CatalogueElement named(QLatin1StringView name) const;
+    CatalogueElement next() const;
 
     const CatalogueBatch *myBatch = nullptr;
     quint32 myIndex = 0;

@@ -19,8 +19,8 @@ using MainKeywords = QHash<QString, QString>;
 /// What an alias means has a keyword that tells more, unless that is a bare number.
 QString mainKeyword(const AttributeValue &value, const QString &alias)
 {
-    bool isNumber = false;
-    value.keyword.toInt(&isNumber);
+    const bool isNumber = std::all_of(value.keyword.begin(), value.keyword.end(),
+                                      [](QChar character) { return character.isDigit(); });
     return isNumber ? alias : value.keyword;
 }
 

@@ -28,7 +28,7 @@ constexpr std::array SPINE_WIDTHS = { "base_width"_L1, "block_width"_L1, "additi
 constexpr std::array BARCODE_LENGTHS = { "position_x"_L1, "position_y"_L1, "width"_L1, "height"_L1 };
 constexpr std::array UNITS = { "mm"_L1, "cm"_L1, "inch"_L1, "in"_L1, "pt"_L1, "point"_L1, "0.1mm"_L1 };
 /// Barcodes are measured in tenths of a millimetre. No printer prints three metres.
-constexpr qint64 SQUARE_CENTIMETRE = 100 * 100;
+constexpr qint64 SQUARE_CENTIMETRE = 10000;
 constexpr int LONGEST_PAGE = 30000;
 constexpr qreal USABLE_PART_OF_SPINE = 0.85;
 
@@ -329,54 +329,49 @@ void ProductCheck::checkOption(const CatalogueElement &form)
 
 void ProductCheck::checkDefaults(const CatalogueElement &forms)
 {
-    struct Key
-    {
-        CatalogueElement first;
-        CatalogueElement preselected;
-        QSet<QStringView> values;
-        bool hasTwoDefaults = false;
-    };
-    std::vector<QStringView> order;
-    QHash<QStringView, Key> keys;
+    std::vector<OptionKey> keys; // in the order of the file
+    QHash<QStringView, std::size_t> places;
     bool hasPreselected = false;
-    bool isCertain = true; // which option is preselected
+    bool isCertain = true; // which options are preselected
     forEachChild(forms, "form"_L1, [&](const CatalogueElement &form) {
         const QStringView name = form.attribute("key"_L1);
-        const QStringView value = form.attribute("value"_L1);
-        const auto isPreselected = boolValue(form, "preselected"_L1);
-        if (form.hasAttribute("preselected"_L1) && (!isPreselected.has_value() || (*isPreselected && name.isEmpty())))
+        const auto preselected = boolValue(form, "preselected"_L1);
+        if (preselected.has_value() ? *preselected && name.isEmpty() : form.hasAttribute("preselected"_L1))
             isCertain = false;
         if (name.isEmpty())
             return;
-        if (!keys.contains(name))
-            order.push_back(name);
-        Key &key = keys[name];
-        if (key.first.isNull())
-            key.first = form;
-        const bool isDuplicate = key.values.contains(value);
-        key.values.insert(value);
-        if (!isPreselected.value_or(false))
-            return;
-        hasPreselected = true;
-        if (!key.preselected.isNull() && !isDuplicate && !key.hasTwoDefaults) {
-            key.hasTwoDefaults = true;
-            add(Rule::OptionDefaultTwice, form,
-                u"%1 is preselected for %2, but %3 %4 is so already"_s.arg(
-                        quoted(value), quoted(name), quoted(key.preselected.attribute("value"_L1)),
-                        inLine(key.preselected.position())));
+        if (!places.contains(name)) {
+            places.insert(name, keys.size());
+            keys.push_back({ form, CatalogueElement(), {}, false });
         }
-        if (key.preselected.isNull())
-            key.preselected = form;
+        hasPreselected = hasPreselected || preselected.value_or(false);
+        checkDefault(form, preselected.value_or(false), &keys[places.value(name)]);
     });
-    if (!isCertain)
-        return;
-    for (const QStringView name : order) {
-        const Key &key = keys[name];
-        if (!key.preselected.isNull() || (!hasPreselected && key.values.size() < 2))
+    for (const OptionKey &key : keys) {
+        if (!isCertain || !key.preselected.isNull() || (!hasPreselected && key.values.size() < 2))
             continue;
         add(Rule::OptionDefaultMissing, key.first,
-            hasPreselected ? u"no option of %1 is preselected, so an order comes without any"_s.arg(quoted(name))
-                           : u"no option of %1 is preselected, so the first is taken"_s.arg(quoted(name)));
+            u"no option of %1 is preselected, so "_s.arg(quoted(key.first.attribute("key"_L1)))
+                    + (hasPreselected ? u"an order comes without any"_s : u"the first is taken"_s));
+    }
+}
+
+// An option that stands there twice is a mistake of its own.
+void ProductCheck::checkDefault(const CatalogueElement &form, bool isPreselected, OptionKey *key)
+{
+    const QStringView value = form.attribute("value"_L1);
+    const bool isDuplicate = key->values.contains(value);
+    key->values.insert(value);
+    if (!isPreselected)
+        return;
+    if (key->preselected.isNull()) {
+        key->preselected = form;
+    } else if (!isDuplicate && !key->hasTwoDefaults) {
+        key->hasTwoDefaults = true;
+        add(Rule::OptionDefaultTwice, form,
+            u"%1 is preselected for %2, but %3 %4 is so already"_s.arg(quoted(value), quoted(form.attribute("key"_L1)),
+                                                                       quoted(key->preselected.attribute("value"_L1)),
+                                                                       inLine(key->preselected.position())));
     }
 }
 

@@ -41,6 +41,13 @@ public:
     CheckedProduct check(const CatalogueElement &product, qint64 number);
 
 private:
+    struct OptionKey
+    {
+        CatalogueElement first;
+        CatalogueElement preselected; ///< the first that is
+        QSet<QStringView> values;
+        bool hasTwoDefaults;
+    };
     struct PlacedBarcode
     {
         CatalogueElement element;
@@ -61,6 +68,7 @@ private:
     void checkOptions(const CatalogueElement &product);
     void checkOption(const CatalogueElement &form);
     void checkDefaults(const CatalogueElement &forms);
+    void checkDefault(const CatalogueElement &form, bool isPreselected, OptionKey *key);
     void checkBarcodes(const CatalogueElement &product);
     void checkBarcodePage(const CatalogueElement &barcode, int page);
     void checkBarcodeArea(const PlacedBarcode &barcode, std::vector<PlacedBarcode> *placed);
