@@ -2,6 +2,7 @@
 #include "CommandRunner.h"
 #include "Properties.h"
 
+#include <CatalogueChecker.h>
 #include <CatalogueOption.h>
 #include <CatalogueProduct.h>
 #include <CatalogueReader.h>
@@ -112,6 +113,22 @@ Reading readBatches(QIODevice *device)
     return result;
 }
 
+// A check ends as the reading does, and its findings come in order, on one line each, and of known rules.
+void checkFindings(QIODevice *device, const Reading &reading)
+{
+    device->open(QIODevice::ReadOnly);
+    FilePosition last { 1, 0 };
+    const auto result = CatalogueChecker().check(device, [&](const CatalogueFinding &finding) {
+        CHECK(!(finding.position < last));
+        CHECK(!finding.text.isEmpty() && !finding.text.contains(u'\n'));
+        CHECK(indexOfRule(finding.rule.toString()) >= 0);
+        CHECK(finding.product < reading.products.size());
+        last = finding.position;
+    });
+    CHECK_EQUAL(result.error, reading.error);
+    CHECK_EQUAL(result.products, reading.products.size());
+}
+
 /// The outermost products of a document.
 QStringList productsOf(const QDomNode &parent)
 {
@@ -160,6 +177,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
     CHECK_EQUAL(batches.lines, reading.lines);
     CHECK_EQUAL(batches.error, reading.error);
     CHECK_EQUAL(batches.errorLine, reading.errorLine);
+    QBuffer checkBuffer(&bytes);
+    checkFindings(&checkBuffer, reading);
     Drops drops(&bytes);
     const Reading again = readAll(&drops);
     CHECK_EQUAL(again.error.isEmpty(), reading.error.isEmpty());
