@@ -42,7 +42,7 @@ public:
                 + counted(summary.notes, "note"_L1, "notes"_L1);
         const QString unread = summary.unreadable == 0
                 ? QString()
-                : ", "_L1 + counted(summary.unreadable, "file"_L1, "files"_L1) + " not read to the end"_L1;
+                : ", "_L1 + counted(summary.unreadable, "unreadable file"_L1, "unreadable files"_L1);
         write((checked + ": "_L1 + found + unread + u'\n').toStdString());
     }
 };
