@@ -54,6 +54,8 @@ QString nearestKeyword(const QString &piece, const MainKeywords &keywords)
     int best = int(piece.size() + 1) / 2;
     QString nearest;
     for (auto it = keywords.begin(); it != keywords.end(); ++it) {
+        if (qAbs(piece.size() - it.key().size()) > best)
+            continue;
         const int distance = editDistance(piece, it.key());
         if (distance < best || (distance == best && !nearest.isEmpty() && it.key() < nearest)) {
             best = distance;

@@ -430,7 +430,7 @@ void tst_check::noProgressInAFile()
 
 void tst_check::progressOnATerminal()
 {
-    const int terminal = ::posix_openpt(O_RDWR | O_NOCTTY);
+    const int terminal = ::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK);
     QVERIFY(terminal >= 0);
     QCOMPARE(::grantpt(terminal), 0);
     QCOMPARE(::unlockpt(terminal), 0);
@@ -442,12 +442,17 @@ void tst_check::progressOnATerminal()
     writeSlowly(&process);
     QVERIFY(process.waitForFinished(60000));
     QCOMPARE(process.readAllStandardOutput(), "30000 products in 1 file: 0 errors, 0 warnings, 0 notes\n");
-    QByteArray shown(100000, '\0');
-    shown.truncate(::read(terminal, shown.data(), std::size_t(shown.size())));
+    // The terminal hands on what was written in pieces of its own.
+    QByteArray shown;
+    const auto readMore = [&] {
+        char piece[4096];
+        const auto size = ::read(terminal, piece, sizeof piece);
+        return size > 0 ? shown.append(piece, size) : shown;
+    };
+    QTRY_VERIFY(readMore().endsWith("-\r\033[K"));
     ::close(userSide);
     ::close(terminal);
     QVERIFY2(shown.startsWith("\r\033[K0 MB -"), shown.constData());
-    QVERIFY2(shown.endsWith("\r\033[K"), shown.constData());
 }
 
 // A document of these products takes over a gigabyte.
