@@ -9,17 +9,19 @@
 inline QDomElement rvFirstChildElement(const QDomElement &parent, const QString &name)
 {
     const QDomNode child = parent.namedItem(name);
-    // A processing instruction may have that name too.
+    // A processing instruction or a reference to an entity may have that name too.
     return child.isNull() || child.isElement() ? child.toElement() : parent.firstChildElement(name);
 }
 
-/// Calls visit(element) for each child element of the name, in the order of the document.
+/// Calls visit(element) for what firstChildElement() and nextSiblingElement() find, in the order of the document.
 template<typename Visitor>
 void rvVisitChildElements(const QDomElement &parent, const QString &name, Visitor visit)
 {
     for (QDomNode child = parent.firstChild(); !child.isNull(); child = child.nextSibling()) {
-        if (child.isElement() && child.nodeName() == name)
-            visit(child.toElement());
+        const QDomElement element = child.toElement();
+        // Unlike nodeName(), this is without the prefix of a name space.
+        if (!element.isNull() && element.tagName() == name)
+            visit(element);
     }
 }
 

@@ -79,6 +79,7 @@ private Q_SLOTS:
     void createsFromVariant();
     void createsFromXml_data();
     void createsFromXml();
+    void createsFromXmlWithNameSpaces();
     void createsFromXmlCompletely();
     void readingReplaces();
     void createsFromCSV_data();
@@ -202,6 +203,18 @@ void tst_RVConfiguredArticleVariantList::createsFromXml()
     RVConfiguredArticleVariantList list;
     list.readVariants(element);
     QTEST(texts(list), "expected");
+}
+
+// Prefixes do not count where the document was parsed with name spaces.
+void tst_RVConfiguredArticleVariantList::createsFromXmlWithNameSpaces()
+{
+    QDomDocument document;
+    document.setContent(
+            u"<product xmlns:shop='urn:shop'><shop:forms><shop:form key='a' value='x'/><form key='b' value='y'/>"
+            "<shop:form key='d' value='z'/></shop:forms><forms/></product>"_s,
+            true);
+    const QStringList expected { u"a:x"_s, u"b:y"_s, u"d:z"_s };
+    QCOMPARE(texts(RVConfiguredArticleVariantList(document.documentElement())), expected);
 }
 
 void tst_RVConfiguredArticleVariantList::createsFromXmlCompletely()
