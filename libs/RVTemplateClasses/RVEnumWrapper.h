@@ -109,7 +109,7 @@ public:
     /// Inverts every bit that is set in @p other; none for a value below 1.
     RVEnumWrapper &toggleBits(const RVEnumWrapper &other);
 
-    // Counting builds the table too, as every question about single bits does.
+    // Counting and toggling build the table too, as every question about single bits does.
     /// Number of set bits; 0 for a negative value.
     int countBits() const { return enumToStringTable(), bits() < 1 ? 0 : int(qPopulationCount(quint64(bits()))); }
     /// True for one set bit; never for a negative value.
@@ -173,6 +173,7 @@ E RVEnumWrapper<E>::setValue(const QString &text)
 template<typename E>
 RVEnumWrapper<E> &RVEnumWrapper<E>::toggleBits(const RVEnumWrapper &other)
 {
+    other.enumToStringTable();
     for (Bits rest = other.bits(); rest > 0; rest &= rest - 1) {
         const E bit = E(rest & -rest);
         setBit(bit, !matches(bit));

@@ -214,8 +214,12 @@ void tst_RVEnumWrapper::countingBuildsTheTable()
     FreshWrapper<4>().countBits();
     QCOMPARE(FreshWrapper<4>::fillings, 1);
     QCOMPARE(FreshWrapper<4>().encode(), u"fresh"_s);
-    QVERIFY(!FreshWrapper<5>().isNull());
+    FreshWrapper<5> toggled;
+    QVERIFY(!toggled.isNull());
+    toggled.toggleBits(Fresh<5>::Enum(1)); // made from a bare value, which fills nothing
     QCOMPARE(FreshWrapper<5>::fillings, 0);
+    toggled.toggleBits(FreshWrapper<5>());
+    QCOMPARE(FreshWrapper<5>::fillings, 1);
 }
 
 void tst_RVEnumWrapper::values_data()
