@@ -52,8 +52,10 @@ bool RVProductCheckerRegistry::isValid(const RVProductType &type, RVProductCheck
 
 bool RVProductCheckerRegistry::ask(const RVProductType &type, RVProductCheckerType kinds) const
 {
+    // A checker may change the object that the caller asked about.
+    const std::pair key(type, kinds);
     const bool result = isValidWorker(type, kinds);
-    myCache.insert(std::pair(type, kinds), result);
+    myCache.insert(key, result);
     return result;
 }
 

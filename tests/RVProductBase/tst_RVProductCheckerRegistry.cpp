@@ -61,6 +61,24 @@ private:
     RVProductCheckerRegistry *myRegistry;
 };
 
+/// Changes the type that it is asked about, and refuses.
+class ChangingChecker : public RVProductChecker
+{
+public:
+    explicit ChangingChecker(RVProductType *type) : myType(type) { }
+
+    bool isValid(const RVProductType &) const override
+    {
+        *myType = RVProductType(u"changed"_s);
+        return false;
+    }
+    RVProductCheckerType checkerTypes() const override { return 1; }
+    bool isValidBoxStyle(const RVProductType &, const RVArticleVariants &) const override { return false; }
+
+private:
+    RVProductType *myType;
+};
+
 /// Counts the questions and accepts even numbers.
 class CountingChecker : public RVProductChecker
 {
@@ -94,6 +112,7 @@ private Q_SLOTS:
     void ignoresNull();
     void neverCachesBoxStyles();
     void checkersMayCallBack();
+    void checkersMayChangeTheType();
     void threads();
     void slotOrder();
 };
@@ -240,6 +259,22 @@ void tst_RVProductCheckerRegistry::checkersMayCallBack()
     AskingChecker checker(&registry);
     registry.registerChecker(&checker);
     QVERIFY(registry.isValid(u"other"_s, 1));
+}
+
+// The answer is remembered for the type of the question.
+void tst_RVProductCheckerRegistry::checkersMayChangeTheType()
+{
+    RVProductCheckerRegistry registry;
+    RVProductType type(u"VIR29"_s);
+    ChangingChecker checker(&type);
+    registry.registerChecker(&checker);
+    QVERIFY(!registry.isValid(type, 1));
+    QCOMPARE(type.toString(), u"changed"_s);
+    type = RVProductType(u"untouched"_s);
+    QVERIFY(!registry.isValid(RVProductType(u"VIR29"_s), 1));
+    QCOMPARE(type.toString(), u"untouched"_s);
+    QVERIFY(!registry.isValid(RVProductType(u"changed"_s), 1));
+    QCOMPARE(type.toString(), u"changed"_s);
 }
 
 void tst_RVProductCheckerRegistry::threads()
