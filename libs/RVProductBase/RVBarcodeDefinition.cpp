@@ -50,7 +50,7 @@ RVBarcodeDefinition RVBarcodeDefinition::createFromProductsXML(const QDomElement
     const QPoint topLeft(rvSaturated(x), rvSaturated(y - height));
     const QPoint bottomRight(inclusiveEnd(topLeft.x(), width), inclusiveEnd(topLeft.y(), height));
     const QString imageName = RVXMLParser::attribute(element, u"image"_s, DEFAULT_IMAGE_NAME, true);
-    const int pageNr = RVXMLParser::intAttribute(element, u"pageNr"_s, 0);
+    const int pageNr = RVXMLParser::intAttribute(element.attributes(), u"pageNr"_s, 0);
     return RVBarcodeDefinition(QRect(topLeft, bottomRight), pageNr, imageName);
 }
 
