@@ -52,7 +52,7 @@ public:
     /// @{
     friend bool operator==(const RVProductType &a, const RVProductType &b)
     {
-        return a.myHashValue == b.myHashValue && a.isValid() == b.isValid() && a.sharesNameOf(b);
+        return a.myHashValue == b.myHashValue && a.isValid() == b.isValid() && (a.sharesTextOf(b) || a.hasNameOf(b));
     }
     friend bool operator!=(const RVProductType &a, const RVProductType &b) { return !(a == b); }
     /// @}
@@ -70,11 +70,10 @@ private:
         borrowed.myHashValue = type.myHashValue;
         return borrowed;
     }
-    bool sharesNameOf(const RVProductType &other) const
+    /// True for copies of one type, with which the caches are asked as a rule.
+    bool sharesTextOf(const RVProductType &other) const
     {
-        // Copies of one type share their text, and the caches are asked with such copies.
-        return (myName.constData() == other.myName.constData() && myName.size() == other.myName.size())
-                || hasNameOf(other);
+        return myName.constData() == other.myName.constData() && myName.size() == other.myName.size();
     }
     bool hasNameOf(const RVProductType &other) const;
 
