@@ -44,7 +44,7 @@ private:
         bool isFree() const noexcept { return length < 0; }
         bool holds(QStringView keyword) const noexcept;
 
-        quint64 words[LONGEST / 4];
+        quint64 words[LONGEST / 4] = {};
         qsizetype length = -1;
         qint64 value = 0;
     };
