@@ -22,6 +22,7 @@ int orderCommand(const QStringList &arguments);
 int checkCommand(const QStringList &arguments);
 int keywordsCommand(const QStringList &arguments);
 int decodeCommand(const QStringList &arguments);
+int spineCommand(const QStringList &arguments);
 
 /// Parses the options and the least to most arguments of a sub-command. Returns false when the program is to end with
 /// @p exitCode: after the help text, or after a message about wrong usage.

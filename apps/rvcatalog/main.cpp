@@ -29,6 +29,7 @@ constexpr struct
     { "check"_L1, checkCommand, "find what would go wrong with catalogues"_L1 },
     { "keywords"_L1, keywordsCommand, "list the keywords of the attributes"_L1 },
     { "decode"_L1, decodeCommand, "read a list of keywords"_L1 },
+    { "spine"_L1, spineCommand, "list the spine of a product at every page count, and draw it"_L1 },
 };
 
 QString usage()
@@ -105,8 +106,8 @@ int main(int argc, char *argv[])
     useUtf8();
     // Options come out in the order of a hash; with a fixed seed every run writes the same.
     QHashSeed::setDeterministicGlobalSeed();
-    // Fonts are measured, but nothing is shown, so no display is needed.
-    qputenv("QT_QPA_PLATFORM", "minimal");
+    // Fonts are measured, and plots are drawn to files, but nothing is shown, so no display is needed.
+    qputenv("QT_QPA_PLATFORM", "minimal:enable_fonts");
     // Without a desktop session Qt warns of a missing run-time directory, which nothing here uses.
     QLoggingCategory::defaultCategory()->setEnabled(QtWarningMsg, false);
     QGuiApplication application(argc, argv);

@@ -1,0 +1,68 @@
+#include "SpineTable.h"
+
+#include <algorithm>
+
+namespace {
+
+// The spine of a negative count is that of the lowest one.
+unsigned spinePages(int pages)
+{
+    return unsigned(qMax(0, pages));
+}
+
+}
+
+SpineTable::SpineTable(const RVSpineConfig &spine, const RVPageCountOrganization &pageCounts)
+    : mySpine(spine),
+      myPageCounts(pageCounts),
+      myRowCount(pageCounts.isValid() ? pageCounts.numberOfPackages() : 0)
+{
+    for (int first = 0; first < myRowCount; first = nextChange(first, &SpineTable::fontSize))
+        myFontRuns += FontRun { first, fontSize(first) };
+}
+
+SpineRow SpineTable::row(int index) const
+{
+    const auto behind = std::upper_bound(myFontRuns.begin(), myFontRuns.end(), index,
+                                         [](int row, const FontRun &run) { return row < run.firstRow; });
+    return { pages(index), index, blocks(index),
+             mySpine.spineWidth(spinePages(pages(index))).value(DISTANCE_UNIT_MILLIMETRE),
+             behind == myFontRuns.begin() ? 0 : std::prev(behind)->fontSize };
+}
+
+QList<SpineRow> SpineTable::steps(int most) const
+{
+    QList<SpineRow> result;
+    for (int index = 0; index < myRowCount && result.size() < most; index = nextChange(index, &SpineTable::blocks))
+        result += row(index);
+    if (result.isEmpty() || result.constLast().packages == myRowCount - 1)
+        return result;
+    if (result.size() < most && nextChange(result.constLast().packages, &SpineTable::blocks) == myRowCount)
+        return result += row(myRowCount - 1);
+    result.clear();
+    for (int i = 0; i < most; ++i)
+        result += row(int(qint64(myRowCount - 1) * i / (most - 1)));
+    return result;
+}
+
+int SpineTable::blocks(int index) const
+{
+    return mySpine.additionalPagePackageBlocks(spinePages(pages(index)));
+}
+
+int SpineTable::fontSize(int index) const
+{
+    return mySpine.spineMaxFontHeigth(spinePages(pages(index)), QString());
+}
+
+int SpineTable::nextChange(int index, int (SpineTable::*function)(int) const) const
+{
+    const int value = (this->*function)(index);
+    int same = index;
+    int other = myRowCount;
+    while (other - same > 1) {
+        const int middle = same + (other - same) / 2;
+        ((this->*function)(middle) == value ? same : other) = middle;
+    }
+    return other;
+}

@@ -1,0 +1,254 @@
+#include <QDomDocument>
+#include <QFile>
+#include <QImage>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const char CATALOGUE[] =
+        "<products>\n"
+        "<product type='DUN9' name='Groß &amp; klein' pages='26' max_pages='42' page_step='4'>"
+        "<composition><spine packages_per_block='2' base_width='0.32' block_width='0.05' additional_width='0.02'/>"
+        "</composition></product>\n"
+        "<product type='POS1'/>\n"
+        "<product type='BAD' pages='20' max_pages='10' page_step='2'/>\n"
+        "<product type='ONE' pages='30'><composition units='mm'><spine base_width='4'/></composition></product>\n"
+        "<product type='MANY' pages='1' max_pages='2147483647' page_step='1'>"
+        "<composition><spine packages_per_block='7' base_width='5' block_width='0.001'/></composition></product>\n"
+        "</products>\n";
+
+}
+
+class tst_rvcatalog_spine : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void table();
+    void oneCount();
+    void sample();
+    void problems_data();
+    void problems();
+    void broken();
+    void manyCountsAreStreamed();
+    void png();
+    void svg();
+    void plotFailures_data();
+    void plotFailures();
+
+private:
+    void write(const QString &name, const QByteArray &content);
+    /// Runs "rvcatalog spine" to its end in the folder of the catalogue.
+    void run(const QStringList &arguments);
+
+    QTemporaryDir myFolder;
+    int myExitCode = -1;
+    QString myOutput;
+    QString myMessages;
+};
+
+void tst_rvcatalog_spine::write(const QString &name, const QByteArray &content)
+{
+    QFile file(myFolder.filePath(name));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), content.size());
+}
+
+void tst_rvcatalog_spine::run(const QStringList &arguments)
+{
+    QProcess process;
+    process.setWorkingDirectory(myFolder.path());
+    process.start(QString::fromUtf8(RVCATALOG), QStringList { u"spine"_s } + arguments);
+    QVERIFY(process.waitForFinished(60000));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    myExitCode = process.exitCode();
+    myOutput = QString::fromUtf8(process.readAllStandardOutput());
+    myMessages = QString::fromUtf8(process.readAllStandardError());
+}
+
+void tst_rvcatalog_spine::initTestCase()
+{
+    QByteArray content(CATALOGUE);
+    write(u"c.xml"_s,
+          content.replace("<composition><spine packages_per_block='2'",
+                          "<composition units='inch'><spine packages_per_block='2'"));
+}
+
+void tst_rvcatalog_spine::table()
+{
+    run({ u"c.xml"_s, u"DUN9_30"_s });
+    QCOMPARE(myMessages, QString());
+    QCOMPARE(myExitCode, 0);
+    QStringList lines = myOutput.split(u'\n');
+    QCOMPARE(lines.takeFirst(), u"     PAGES   PACKAGES     BLOCKS  SPINE mm  FONT pt"_s);
+    QCOMPARE(lines.takeLast(), QString());
+    QStringList rows;
+    int fontSize = 0;
+    for (const QString &line : lines) {
+        QStringList cells = line.simplified().split(u' ');
+        QVERIFY(cells.constLast().toInt() >= qMax(6, fontSize)); // depends on the fonts of the machine
+        fontSize = cells.takeLast().toInt();
+        rows += cells.join(u' ');
+    }
+    QCOMPARE(rows,
+             (QStringList { u"26 0 0 9.14"_s, u"30 1 0 9.14"_s, u"34 2 1 10.41"_s, u"38 3 1 10.41"_s,
+                            u"42 4 2 11.68"_s }));
+}
+
+void tst_rvcatalog_spine::oneCount()
+{
+    run({ u"c.xml"_s, u"ONE"_s });
+    QCOMPARE(myExitCode, 0);
+    QCOMPARE(myOutput.count(u'\n'), 2);
+    QVERIFY2(myOutput.contains("        30          0          0      4.00"_L1), qPrintable(myOutput));
+}
+
+void tst_rvcatalog_spine::sample()
+{
+    run({ QString::fromUtf8(SAMPLES "/products.xml"), u"DUN9"_s });
+    QCOMPARE(myExitCode, 0);
+    QCOMPARE(myOutput.count(u'\n'), 34);
+    QVERIFY2(myOutput.contains("       154         32         16     25.00"_L1), qPrintable(myOutput));
+}
+
+void tst_rvcatalog_spine::problems_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QString>("message");
+
+    QTest::newRow("unknown") << u"DUN8"_s
+                             << u"c.xml:1:1: the catalogue has no product of type \"DUN8\"; did you mean \"DUN9\"?\n"_s;
+    QTest::newRow("letter case")
+            << u"pos1"_s << u"c.xml:1:1: the catalogue has no product of type \"pos1\"; did you mean \"POS1\"?\n"_s;
+    QTest::newRow("a letter missing")
+            << u"MAY"_s << u"c.xml:1:1: the catalogue has no product of type \"MAY\"; did you mean \"MANY\"?\n"_s;
+    QTest::newRow("no type") << QString()
+                             << u"c.xml:1:1: the catalogue has no product of type \"UNKNOWN\"; "
+                                "did you mean \"BAD\"?\n"_s;
+    QTest::newRow("no spine") << u"POS1"_s << u"c.xml:3:1: POS1 has no spine\n"_s;
+    QTest::newRow("page counts") << u"BAD"_s
+                                 << u"c.xml:4:1: BAD has no valid page counts (min: 20; max: 10; increment: 2)\n"_s;
+}
+
+void tst_rvcatalog_spine::problems()
+{
+    QFETCH(QString, type);
+    run({ u"c.xml"_s, type, u"--plot"_s, u"none.png"_s });
+    QTEST(myMessages, "message");
+    QCOMPARE(myOutput, QString());
+    QCOMPARE(myExitCode, 1);
+    QVERIFY(!QFile::exists(myFolder.filePath(u"none.png"_s)));
+}
+
+void tst_rvcatalog_spine::broken()
+{
+    run({ u"missing.xml"_s, u"DUN9"_s });
+    QCOMPARE(myMessages, u"missing.xml:1:1: cannot open the file: No such file or directory\n"_s);
+    QCOMPARE(myExitCode, 2);
+    write(u"x.xml"_s, "<p><product type='DUN9' pages='1'/>");
+    run({ u"x.xml"_s, u"DUN9"_s });
+    QCOMPARE(myMessages, u"x.xml:1:35: the file ends too early\n"_s);
+    QCOMPARE(myOutput, QString());
+    QCOMPARE(myExitCode, 2);
+    write(u"empty.xml"_s, "<p/>");
+    run({ u"empty.xml"_s, u"DUN9"_s });
+    QCOMPARE(myMessages, u"empty.xml:1:1: the catalogue has no product of type \"DUN9\"\n"_s);
+    QCOMPARE(myExitCode, 1);
+}
+
+// Two billion rows begin to come at once, and a reader that has enough ends the program.
+void tst_rvcatalog_spine::manyCountsAreStreamed()
+{
+    QProcess program;
+    QProcess head;
+    program.setWorkingDirectory(myFolder.path());
+    program.setStandardOutputProcess(&head);
+    program.start(QString::fromUtf8(RVCATALOG), { u"spine"_s, u"c.xml"_s, u"MANY"_s });
+    head.start(u"head"_s, { u"-n"_s, u"15"_s });
+    QVERIFY(head.waitForFinished(20000));
+    QVERIFY(program.waitForFinished(20000));
+    const QByteArray lines = head.readAllStandardOutput();
+    QCOMPARE(lines.count('\n'), 15);
+    QVERIFY2(lines.contains("\n        14         13          1      5.00"), lines);
+}
+
+void tst_rvcatalog_spine::png()
+{
+    run({ u"c.xml"_s, u"DUN9"_s, u"--plot"_s, u"spine.PNG"_s });
+    QCOMPARE(myMessages, QString());
+    QCOMPARE(myExitCode, 0);
+    const QImage image(myFolder.filePath(u"spine.PNG"_s));
+    QCOMPARE(image.size(), QSize(1890, 1181));
+    QCOMPARE(image.dotsPerMeterX(), 11811);
+    QCOMPARE(image.dotsPerMeterY(), 11811);
+    for (const QPoint corner : { QPoint(0, 0), QPoint(1889, 0), QPoint(0, 1180), QPoint(1889, 1180) })
+        QCOMPARE(image.pixelColor(corner), QColor(Qt::white));
+    // In each part of the picture there is something: title, axes, curve.
+    const auto darkPixels = [&image](const QRect &part) {
+        int count = 0;
+        for (int y = part.top(); y <= part.bottom(); ++y) {
+            for (int x = part.left(); x <= part.right(); ++x)
+                count += image.pixelColor(x, y).lightness() < 128;
+        }
+        return count;
+    };
+    QVERIFY(darkPixels(QRect(0, 0, 1890, 80)) > 1000);
+    QVERIFY(darkPixels(QRect(0, 200, 130, 900)) > 1000);
+    QVERIFY(darkPixels(QRect(200, 1080, 1600, 90)) > 1000);
+    QVERIFY(darkPixels(QRect(200, 300, 1600, 700)) > 1000);
+}
+
+void tst_rvcatalog_spine::svg()
+{
+    run({ u"--plot"_s, u"spine.svg"_s, u"c.xml"_s, u"DUN9"_s });
+    QCOMPARE(myMessages, QString());
+    QCOMPARE(myExitCode, 0);
+    QFile file(myFolder.filePath(u"spine.svg"_s));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QDomDocument document;
+    QVERIFY(document.setContent(&file));
+    const QDomElement root = document.documentElement();
+    QCOMPARE(root.tagName(), u"svg"_s);
+    QCOMPARE(root.attribute(u"width"_s), u"160mm"_s);
+    QCOMPARE(root.attribute(u"height"_s), u"100mm"_s);
+    QStringList texts;
+    const QDomNodeList elements = root.elementsByTagName(u"text"_s);
+    for (int i = 0; i < elements.size(); ++i)
+        texts += elements.at(i).toElement().text().trimmed();
+    for (const QString &text : { u"Groß & klein (DUN9)"_s, u"pages"_s, u"spine width in mm"_s,
+                                 u"largest font size in pt"_s, u"30"_s, u"40"_s, u"9.0"_s })
+        QVERIFY2(texts.contains(text), qPrintable(text + u" is not among "_s + texts.join(u'|')));
+    QVERIFY(!root.elementsByTagName(u"path"_s).isEmpty());
+    QVERIFY(root.elementsByTagName(u"image"_s).isEmpty()); // it is a drawing
+}
+
+void tst_rvcatalog_spine::plotFailures_data()
+{
+    QTest::addColumn<QString>("fileName");
+    QTest::addColumn<QString>("message");
+
+    QTest::newRow("format") << u"spine.gif"_s
+                            << u"rvcatalog: the name of a plot ends in .png or .svg, but got \"spine.gif\"\n"_s;
+    QTest::newRow("no name") << QString() << u"rvcatalog: the name of a plot ends in .png or .svg, but got \"\"\n"_s;
+    QTest::newRow("folder") << u"nowhere/spine.png"_s
+                            << u"nowhere/spine.png:1:1: cannot write the plot: No such file or directory\n"_s;
+    QTest::newRow("folder of a drawing")
+            << u"nowhere/spine.svg"_s << u"nowhere/spine.svg:1:1: cannot write the plot: No such file or directory\n"_s;
+}
+
+void tst_rvcatalog_spine::plotFailures()
+{
+    QFETCH(QString, fileName);
+    run({ u"c.xml"_s, u"DUN9"_s, u"--plot"_s, fileName });
+    QTEST(myMessages, "message");
+    QCOMPARE(myOutput, QString());
+    QCOMPARE(myExitCode, 2);
+}
+
+QTEST_GUILESS_MAIN(tst_rvcatalog_spine)
+#include "tst_rvcatalog_spine.moc"
