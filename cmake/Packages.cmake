@@ -45,8 +45,18 @@ This package contains the headers, the CMake packages and the pkg-config file.")
 set(CPACK_DEBIAN_RVCATALOG_PACKAGE_NAME rvcatalog)
 set(CPACK_DEBIAN_RVCATALOG_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_RVCATALOG_PACKAGE_DEPENDS "${library} ${same_version}")
+set(CPACK_DEBIAN_RVCATALOG_PACKAGE_RECOMMENDS "fonts-dejavu-core | fonts-liberation")
 set(CPACK_DEBIAN_RVCATALOG_DESCRIPTION "The program lists the products of a catalogue with page counts, spine widths and
 options, explains keywords, and checks the order line of a project against the catalogue.")
+
+# Its icon is an SVG drawing, which Qt reads with a plug-in. Buttons of dialogs speak German with Qt's own translations.
+set(CPACK_DEBIAN_RVBROWSER_PACKAGE_NAME rvbrowser)
+set(CPACK_DEBIAN_RVBROWSER_PACKAGE_SECTION graphics)
+set(CPACK_DEBIAN_RVBROWSER_PACKAGE_DEPENDS "${library} ${same_version}, libqt6svg6")
+set(CPACK_DEBIAN_RVBROWSER_PACKAGE_RECOMMENDS "qt6-translations-l10n, fonts-dejavu-core | fonts-liberation")
+set(CPACK_DEBIAN_RVBROWSER_PACKAGE_SUGGESTS "rvcatalog")
+set(CPACK_DEBIAN_RVBROWSER_DESCRIPTION "The window shows the products of a catalogue: attributes, page counts with the spine,
+the page with its barcodes, options and the lines that they become in an order, and what is wrong with the catalogue.")
 
 include(CPack)
 foreach(component RVCore RVXML RVProductBase)
@@ -56,3 +66,4 @@ foreach(component RVTemplateClasses RVCore RVXML RVProductBase)
     cpack_add_component(${component}Development GROUP development)
 endforeach()
 cpack_add_component(rvcatalog GROUP rvcatalog)
+cpack_add_component(rvbrowser GROUP rvbrowser)

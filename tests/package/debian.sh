@@ -47,7 +47,11 @@ holds rvcatalog \
     bin/rvcatalog share/man/man1/rvcatalog.1.gz share/doc/rvcatalog/catalogue-format.md share/rvcatalog/catalogue.xsd \
     'share/doc/rvcatalog/examples/(products|project)\.xml'
 
-for package in librvproductbase0 librvproductbase-dev rvcatalog; do
+holds rvbrowser \
+    bin/rvbrowser share/man/man1/rvbrowser.1.gz share/applications/rvbrowser.desktop \
+    share/icons/hicolor/scalable/apps/rvbrowser.svg
+
+for package in librvproductbase0 librvproductbase-dev rvcatalog rvbrowser; do
     [[ $(field "$package" Version) == "$version" ]] || fail "$package has version $(field "$package" Version)"
     dpkg-deb --extract "$work"/packages/"$package"_*.deb "$root"
 done
@@ -58,6 +62,10 @@ depends librvproductbase-dev "librvproductbase0 \(= $version\)"
 depends librvproductbase-dev 'qt6-base-dev '
 depends rvcatalog "librvproductbase0 \(= $version\)"
 depends rvcatalog 'libqt6core6 '
+depends rvcatalog 'libqt6svg6 '
+depends rvbrowser "librvproductbase0 \(= $version\)"
+depends rvbrowser 'libqt6widgets6 '
+depends rvbrowser 'libqt6svg6'
 dpkg-deb --control "$work"/packages/librvproductbase0_*.deb "$work/control"
 grep -q ldconfig "$work"/control/postinst || fail "the linker is not told of the new libraries"
 for library in libRVCore libRVXML libRVProductBase; do
@@ -67,10 +75,17 @@ done
 
 libdir=$(dirname "$root"/usr/lib/*/libRVProductBase.so)
 export LD_LIBRARY_PATH=$libdir
-if readelf -d "$root/usr/bin/rvcatalog" "$libdir/libRVProductBase.so" | grep -E 'RPATH|RUNPATH'; then
+if readelf -d "$root/usr/bin/rvcatalog" "$root/usr/bin/rvbrowser" "$libdir/libRVProductBase.so" | grep -E 'RPATH|RUNPATH'; then
     fail "a packaged file searches for libraries where the system does not"
 fi
 "$root/usr/bin/rvcatalog" show "$root/usr/share/doc/rvcatalog/examples/products.xml" | grep '^DUN9 '
+"$root/usr/bin/rvbrowser" --screenshot "$work/screenshot.png" "$root/usr/share/doc/rvcatalog/examples/products.xml"
+file "$work/screenshot.png" | grep 'PNG image data, 1280 x 800'
+
+man_page=$(gzip --decompress --stdout "$root/usr/share/man/man1/rvbrowser.1.gz")
+for option in $("$root/usr/bin/rvbrowser" --help | grep -oE -- '--[a-z]+'); do
+    grep -qE -- "-${option#--}" <<<"$man_page" || fail "the man page does not explain: rvbrowser $option"
+done
 
 man_page=$(gzip --decompress --stdout "$root/usr/share/man/man1/rvcatalog.1.gz")
 for command in $("$root/usr/bin/rvcatalog" 2>&1 | sed -n 's/^  \([a-z]\+\) .*/\1/p'); do

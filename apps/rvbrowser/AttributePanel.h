@@ -1,0 +1,27 @@
+#ifndef ATTRIBUTEPANEL_H
+#define ATTRIBUTEPANEL_H
+
+#include <QGroupBox>
+#include <QList>
+
+class AttributeWords;
+class QFormLayout;
+class QLabel;
+struct CatalogueProduct;
+
+/// What a product is, in words that can be selected and copied.
+class AttributePanel : public QGroupBox
+{
+    Q_OBJECT
+
+public:
+    explicit AttributePanel(QWidget *parent = nullptr);
+
+    void setProduct(const CatalogueProduct &product, const AttributeWords &words);
+
+private:
+    QFormLayout *myLayout;
+    QList<QLabel *> myTexts; // one a fact
+};
+
+#endif

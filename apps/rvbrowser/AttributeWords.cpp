@@ -1,0 +1,55 @@
+#include "AttributeWords.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The library's names of orientations are adjectives that stand before the name of a product.
+constexpr struct
+{
+    QLatin1StringView keyword;
+    const char *name;
+} ORIENTATIONS[] = {
+    { "portrait"_L1, QT_TRANSLATE_NOOP("AttributeWords", "portrait") },
+    { "landscape"_L1, QT_TRANSLATE_NOOP("AttributeWords", "landscape") },
+    { "square"_L1, QT_TRANSLATE_NOOP("AttributeWords", "square") },
+    { "portrait_slim"_L1, QT_TRANSLATE_NOOP("AttributeWords", "slim portrait") },
+    { "landscape_slim"_L1, QT_TRANSLATE_NOOP("AttributeWords", "slim landscape") },
+};
+
+}
+
+AttributeWords::AttributeWords()
+{
+    for (const CatalogueAttribute &attribute : catalogueAttributes()) {
+        QHash<QString, AttributeValue> &values = myValues[attribute.name];
+        for (const AttributeValue &value : attribute.values())
+            values.insert(value.keyword, value);
+    }
+    QHash<QString, AttributeValue> &orientations = myValues[u"orientation"_s];
+    for (const auto &orientation : ORIENTATIONS)
+        orientations[orientation.keyword].displayName = tr(orientation.name);
+}
+
+QString AttributeWords::text(const QString &attribute, const QStringList &keywords) const
+{
+    const QHash<QString, AttributeValue> values = myValues.value(attribute);
+    QStringList result;
+    for (const QString &keyword : keywords) {
+        const QString name = values.value(keyword).displayName;
+        result += name.isEmpty() || name == keyword ? keyword : u"%1 (%2)"_s.arg(name, keyword);
+    }
+    return result.join(", "_L1);
+}
+
+QStringList AttributeWords::searchTexts(const QString &attribute, const QStringList &keywords) const
+{
+    const QHash<QString, AttributeValue> values = myValues.value(attribute);
+    QStringList result = keywords;
+    for (const QString &keyword : keywords) {
+        const AttributeValue value = values.value(keyword);
+        result += value.aliases;
+        result += value.displayName;
+    }
+    return result;
+}

@@ -1,0 +1,44 @@
+#ifndef CATALOGUESESSION_H
+#define CATALOGUESESSION_H
+
+#include "CatalogueLoader.h"
+#include "CatalogueServices.h"
+#include "CatalogueWatcher.h"
+
+/// The catalogue that is open: loads it, puts it behind the services, and loads it again when its file changes. When
+/// loading fails or is cancelled, the catalogue before it stays.
+class CatalogueSession : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit CatalogueSession(QObject *parent = nullptr);
+
+    void open(const QString &fileName);
+    /// Reads the open file again, or the one that could not be opened while there is none.
+    void reload();
+    void cancel() { myLoader.cancel(); }
+    bool isLoading() const { return myLoader.isLoading(); }
+    /// Null until one was loaded.
+    CataloguePointer catalogue() const { return myServices.catalogue(); }
+
+Q_SIGNALS:
+    void started(const QString &fileName);
+    void progressed(int percent);
+    /// Whatever becomes of it, loading is over; comes before the next two.
+    void ended();
+    void catalogueChanged();
+    void failed(const LoadError &error);
+
+private:
+    void take(const CataloguePointer &catalogue);
+    void fail(const LoadError &error);
+
+    CatalogueServices myServices;
+    CatalogueLoader myLoader;
+    CatalogueWatcher myWatcher;
+    QString myFileName; // what was to be loaded last
+    FileStamp myStamp; // when loading began
+};
+
+#endif

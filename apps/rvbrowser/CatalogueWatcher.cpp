@@ -1,0 +1,55 @@
+#include "CatalogueWatcher.h"
+
+#include <QFileInfo>
+
+#include <chrono>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+/// Editors write a file in several steps.
+constexpr auto QUIET_TIME = 200ms;
+
+}
+
+FileStamp FileStamp::of(const QString &fileName)
+{
+    const QFileInfo info(fileName);
+    return { info.exists(), info.size(), info.lastModified() };
+}
+
+CatalogueWatcher::CatalogueWatcher(QObject *parent) : QObject(parent)
+{
+    myTimer.setSingleShot(true);
+    myTimer.setInterval(QUIET_TIME);
+    connect(&myTimer, &QTimer::timeout, this, &CatalogueWatcher::check);
+    connect(&myWatcher, &QFileSystemWatcher::fileChanged, &myTimer, qOverload<>(&QTimer::start));
+    connect(&myWatcher, &QFileSystemWatcher::directoryChanged, &myTimer, qOverload<>(&QTimer::start));
+}
+
+void CatalogueWatcher::watch(const QString &fileName, const FileStamp &known)
+{
+    const QStringList paths = myWatcher.files() + myWatcher.directories();
+    if (!paths.isEmpty())
+        myWatcher.removePaths(paths);
+    myFileName = QFileInfo(fileName).absoluteFilePath();
+    myKnown = known;
+    myWatcher.addPath(QFileInfo(myFileName).path());
+    check();
+}
+
+// A file that was replaced is no longer watched, and one that is gone for a moment comes back with a change of the
+// folder.
+void CatalogueWatcher::check()
+{
+    const FileStamp now = FileStamp::of(myFileName);
+    if (!now.exists)
+        return;
+    if (!myWatcher.files().contains(myFileName))
+        myWatcher.addPath(myFileName);
+    if (now == myKnown)
+        return;
+    myKnown = now;
+    Q_EMIT changed();
+}

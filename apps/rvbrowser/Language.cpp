@@ -1,0 +1,30 @@
+#include "Language.h"
+
+#include <QCoreApplication>
+#include <QLibraryInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool isSpoken(QLocale::Language language)
+{
+    return language == QLocale::German || language == QLocale::English;
+}
+
+void load(QTranslator *translator, const QString &name, const QString &folder)
+{
+    const QString language = QLocale().name().section(u'_', 0, 0);
+    if (translator->load(u"%1/%2_%3"_s.arg(folder, name, language)))
+        QCoreApplication::installTranslator(translator);
+}
+
+}
+
+void Language::speak(const QLocale &locale)
+{
+    QLocale::setDefault(isSpoken(locale.language()) ? locale : QLocale(QLocale::English));
+    load(&myQt, u"qtbase"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    load(&myLibrary, u"rvproductbase"_s, u":/translations"_s);
+    load(&myProgram, u"rvbrowser"_s, u":/translations"_s);
+}

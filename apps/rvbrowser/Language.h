@@ -1,0 +1,21 @@
+#ifndef LANGUAGE_H
+#define LANGUAGE_H
+
+#include <QLocale>
+#include <QTranslator>
+
+/// The language of the program, English or German, as long as this object lives. Texts of the program are English in
+/// its sources, display names of the library are German.
+class Language
+{
+public:
+    /// English where the program does not speak the language. Call it once.
+    void speak(const QLocale &locale);
+
+private:
+    QTranslator myProgram;
+    QTranslator myLibrary;
+    QTranslator myQt;
+};
+
+#endif

@@ -1,0 +1,45 @@
+#include "MessageBanner.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QStyle>
+#include <QToolButton>
+
+using namespace Qt::StringLiterals;
+
+MessageBanner::MessageBanner(QWidget *parent) : QFrame(parent), myText(new QLabel)
+{
+    setObjectName(u"banner"_s);
+    setFrameShape(QFrame::StyledPanel);
+    setAutoFillBackground(true);
+    setBackgroundRole(QPalette::ToolTipBase);
+    auto *icon = new QLabel;
+    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxCritical).pixmap(size, size));
+    myText->setObjectName(u"bannerText"_s);
+    myText->setForegroundRole(QPalette::ToolTipText);
+    myText->setTextFormat(Qt::PlainText);
+    myText->setWordWrap(true);
+    myText->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    auto *close = new QToolButton;
+    close->setAutoRaise(true);
+    close->setText(tr("Close"));
+    close->setAccessibleName(tr("Close the message"));
+    connect(close, &QToolButton::clicked, this, &QWidget::hide);
+    auto *layout = new QHBoxLayout(this);
+    layout->addWidget(icon);
+    layout->addWidget(myText, 1);
+    layout->addWidget(close);
+    hide();
+}
+
+void MessageBanner::showMessage(const QString &text)
+{
+    myText->setText(text);
+    show();
+}
+
+QString MessageBanner::text() const
+{
+    return isHidden() ? QString() : myText->text();
+}

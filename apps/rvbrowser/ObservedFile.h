@@ -1,0 +1,22 @@
+#ifndef OBSERVEDFILE_H
+#define OBSERVEDFILE_H
+
+#include <QFile>
+
+#include <functional>
+
+/// A file that tells with every read how far it was read, and that ends for whoever reads it when the answer is false.
+class ObservedFile : public QFile
+{
+public:
+    ObservedFile(const QString &fileName, const std::function<bool(int percent)> &progressed);
+
+protected:
+    qint64 readData(char *data, qint64 maxSize) override;
+
+private:
+    std::function<bool(int)> myProgressed;
+    qint64 myRead = 0;
+};
+
+#endif

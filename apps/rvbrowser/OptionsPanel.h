@@ -1,0 +1,49 @@
+#ifndef OPTIONSPANEL_H
+#define OPTIONSPANEL_H
+
+#include "OptionValueModel.h"
+
+#include <RVArticleVariants.h>
+
+#include <QGroupBox>
+#include <QList>
+
+class QComboBox;
+class QFormLayout;
+class QLabel;
+struct CatalogueProduct;
+
+/// The options of a product, one line a key, with the defaults chosen at first.
+class OptionsPanel : public QGroupBox
+{
+    Q_OBJECT
+
+public:
+    explicit OptionsPanel(QWidget *parent = nullptr);
+
+    void setProduct(const CatalogueProduct &product);
+    /// What is chosen.
+    RVArticleVariants variants() const;
+    /// Chooses those of the options that the product has.
+    void setVariants(const RVArticleVariants &variants);
+
+Q_SIGNALS:
+    void variantsChanged();
+
+private:
+    struct Line
+    {
+        QString key;
+        OptionValueModel *model;
+        QComboBox *values;
+        QLabel *note;
+    };
+
+    void addLine(const CatalogueProduct &product, const QString &key, const QString &defaultValue);
+
+    QFormLayout *myLayout;
+    QLabel *myNoOptions;
+    QList<Line> myLines;
+};
+
+#endif

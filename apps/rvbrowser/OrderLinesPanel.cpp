@@ -1,0 +1,65 @@
+#include "OrderLinesPanel.h"
+
+#include <RVArticleVariants.h>
+
+#include <QClipboard>
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
+
+OrderLinesPanel::OrderLinesPanel(QWidget *parent) : QGroupBox(tr("Order lines"), parent), myNames(new QLabel)
+{
+    auto *layout = new QGridLayout(this);
+    layout->setColumnStretch(1, 1);
+    layout->setVerticalSpacing(4);
+    myNames->setObjectName(u"optionNames"_s);
+    myNames->setTextFormat(Qt::PlainText);
+    myNames->setWordWrap(true);
+    myNames->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    auto *label = new QLabel(tr("Customer:"));
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    layout->addWidget(label, 0, 0);
+    layout->addWidget(myNames, 0, 1, 1, 2);
+    addLine(layout, tr("P&roject file:"), u"projectFile"_s);
+    addLine(layout, tr("Order tra&nsfer:"), u"orderTransfer"_s);
+    addLine(layout, tr("Order te&xt:"), u"orderText"_s);
+}
+
+void OrderLinesPanel::setVariants(const RVArticleVariants &variants, const QStringList &names)
+{
+    myNames->setText(names.isEmpty() ? u"–"_s : names.join(u" · "_s));
+    const QStringList texts { variants.toKTX(), variants.toXTCI().toKTX(), variants.toOrderTxt() };
+    for (qsizetype i = 0; i < texts.size(); ++i) {
+        myLines.at(i)->setText(texts.at(i));
+        myLines.at(i)->setCursorPosition(0);
+        myLines.at(i)->setToolTip(texts.at(i));
+    }
+}
+
+void OrderLinesPanel::copy(Line line) const
+{
+    QGuiApplication::clipboard()->setText(myLines.at(line)->text());
+}
+
+void OrderLinesPanel::addLine(QGridLayout *layout, const QString &label, const QString &objectName)
+{
+    auto *line = new QLineEdit;
+    line->setObjectName(objectName);
+    line->setReadOnly(true);
+    auto *name = new QLabel(label);
+    name->setBuddy(line);
+    auto *button = new QPushButton(tr("Copy"));
+    button->setObjectName("copy "_L1 + objectName);
+    button->setAccessibleName(tr("Copy: %1").arg(QString(label).remove(u'&')));
+    const int row = layout->rowCount();
+    layout->addWidget(name, row, 0);
+    layout->addWidget(line, row, 1);
+    layout->addWidget(button, row, 2);
+    const Line which = Line(myLines.size());
+    myLines += line;
+    connect(button, &QPushButton::clicked, this, [this, which] { copy(which); });
+}

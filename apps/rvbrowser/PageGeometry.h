@@ -1,0 +1,40 @@
+#ifndef PAGEGEOMETRY_H
+#define PAGEGEOMETRY_H
+
+#include <RVBarcodeDefinitionList.h>
+#include <RVPageSizeSpec.h>
+
+#include <QList>
+#include <QRect>
+
+struct CatalogueProduct;
+
+/// The page of a product in tenths of a millimetre, as far as a catalogue tells: it has the area of the size class and
+/// the usual proportions of the orientation. Around it goes the usual bleed.
+class PageGeometry
+{
+public:
+    PageGeometry() = default; ///< No page.
+    /// No page for a product without exactly one size class and one orientation.
+    explicit PageGeometry(const CatalogueProduct &product);
+
+    bool isValid() const { return mySpec.usableSize().isValid(); }
+    QSize usableSize() const { return mySpec.usableSize(); }
+    RVMargins bleed() const { return mySpec.bleedMargins(); }
+    /// Both relative to the page with its bleed.
+    /// @{
+    QRect totalRect() const { return QRect(QPoint(), mySpec.totalSize()); }
+    QRect usableRect() const { return QRect(mySpec.topLeftOffsetOfUsablePrintArea(), mySpec.usableSize()); }
+    /// A barcode, whose place counts from the corner of the usable area.
+    QRect barcodeRect(const RVBarcodeDefinition &barcode) const;
+    /// @}
+    /// The pages that have barcodes, in ascending order.
+    QList<int> barcodePages() const;
+    const RVBarcodeDefinitionList &barcodes() const { return myBarcodes; }
+
+private:
+    RVPageSizeSpec mySpec;
+    RVBarcodeDefinitionList myBarcodes;
+};
+
+#endif

@@ -1,0 +1,26 @@
+#ifndef PALETTECOLORS_H
+#define PALETTECOLORS_H
+
+#include <QColor>
+#include <QPalette>
+
+/// Colours that a palette does not have, made of those that it has, so that they fit light and dark ones.
+class PaletteColors
+{
+public:
+    explicit PaletteColors(const QPalette &palette) : myPalette(palette) { }
+
+    /// From 0, the colour of the background, to 1, that of the text.
+    QColor shade(qreal strength) const;
+    /// For curves; readable on the background.
+    QColor accent() const;
+
+    /// The palettes that the program brings for people who want another one than that of their desktop.
+    static QPalette light();
+    static QPalette dark();
+
+private:
+    QPalette myPalette;
+};
+
+#endif

@@ -1,0 +1,117 @@
+#include "ProductView.h"
+
+#include "AttributePanel.h"
+#include "CatalogueServices.h"
+#include "OptionsPanel.h"
+#include "PagePanel.h"
+#include "SpinePanel.h"
+
+#include <QLabel>
+#include <QResizeEvent>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// In characters: less has no room for two columns.
+constexpr int TWO_COLUMNS = 115;
+
+}
+
+ProductView::ProductView(QWidget *parent)
+    : QScrollArea(parent),
+      myTitle(new QLabel),
+      myNote(new QLabel),
+      myColumns(new QBoxLayout(QBoxLayout::LeftToRight)),
+      myDrawings(new QVBoxLayout),
+      myAttributes(new AttributePanel),
+      myPage(new PagePanel),
+      mySpine(new SpinePanel),
+      myOptions(new OptionsPanel),
+      myOrderLines(new OrderLinesPanel)
+{
+    setObjectName(u"productView"_s);
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    QFont font = myTitle->font();
+    font.setPointSizeF(font.pointSizeF() * 1.4);
+    font.setBold(true);
+    myTitle->setFont(font);
+    myTitle->setObjectName(u"title"_s);
+    myTitle->setTextFormat(Qt::PlainText);
+    myTitle->setWordWrap(true);
+    myTitle->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    myNote->setObjectName(u"note"_s);
+    myNote->setTextFormat(Qt::PlainText);
+    myNote->setWordWrap(true);
+
+    // Texts need no more room than they have; drawings take what there is.
+    auto *left = new QVBoxLayout;
+    left->addWidget(myAttributes);
+    left->addWidget(myOptions);
+    left->addWidget(myOrderLines);
+    left->addStretch(1);
+    myDrawings->addWidget(mySpine);
+    myDrawings->addWidget(myPage);
+    myDrawings->addStretch();
+    myColumns->addLayout(left, 1);
+    myColumns->addLayout(myDrawings, 1);
+    auto *content = new QWidget;
+    auto *layout = new QVBoxLayout(content);
+    layout->addWidget(myTitle);
+    layout->addWidget(myNote);
+    layout->addLayout(myColumns, 1);
+    setWidget(content);
+    connect(myOptions, &OptionsPanel::variantsChanged, this, &ProductView::showOrderLines);
+}
+
+void ProductView::setProduct(const CataloguePointer &catalogue, int product)
+{
+    const CatalogueProduct values = catalogue->product(product);
+    const bool isSold = catalogue->indexOf(values.type) == product;
+    myOffered = values.options;
+    showHeader(*catalogue, product);
+    myAttributes->setProduct(values, catalogue->words());
+    mySpine->setProduct(values, isSold ? CatalogueServices::pageCounts(values.type) : values.pageCounts);
+    myPage->setProduct(values);
+    myOptions->setProduct(values);
+    myDrawings->setStretchFactor(mySpine, mySpine->isDrawn() ? 1 : 0);
+    myDrawings->setStretchFactor(myPage, myPage->isDrawn() ? 1 : 0);
+}
+
+void ProductView::updateProduct(const CataloguePointer &catalogue, int product)
+{
+    const int pages = mySpine->pages();
+    const RVArticleVariants variants = myOptions->variants();
+    setProduct(catalogue, product);
+    mySpine->setPages(pages);
+    myOptions->setVariants(variants);
+}
+
+void ProductView::resizeEvent(QResizeEvent *event)
+{
+    QScrollArea::resizeEvent(event);
+    const bool isWide = event->size().width() >= TWO_COLUMNS * fontMetrics().averageCharWidth();
+    myColumns->setDirection(isWide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+}
+
+void ProductView::showHeader(const LoadedCatalogue &catalogue, int product)
+{
+    const LoadedCatalogue::Entry &entry = catalogue.at(product);
+    const QString type = entry.type.orderTxtName();
+    myTitle->setText(entry.name.isEmpty() ? type : u"%1 – %2"_s.arg(type, entry.name));
+    QString note;
+    if (catalogue.indexOf(entry.type) != product)
+        note = tr("An earlier product has the same type, so this one is never offered.");
+    else if (!CatalogueServices::isOffered(entry.type))
+        note = tr("This product cannot be offered: it needs a type, an article id and valid page counts.");
+    myNote->setText(note);
+    myNote->setVisible(!note.isEmpty());
+}
+
+void ProductView::showOrderLines()
+{
+    const RVArticleVariants variants = myOptions->variants();
+    myOrderLines->setVariants(variants, myOffered.visibleNames(variants));
+}

@@ -1,0 +1,50 @@
+#ifndef PRODUCTVIEW_H
+#define PRODUCTVIEW_H
+
+#include "LoadedCatalogue.h"
+#include "OrderLinesPanel.h"
+
+#include <QScrollArea>
+
+class AttributePanel;
+class OptionsPanel;
+class PagePanel;
+class QBoxLayout;
+class QLabel;
+class QVBoxLayout;
+class SpinePanel;
+
+/// All there is to see of one product: in two columns where they have room, in one where they have not.
+class ProductView : public QScrollArea
+{
+    Q_OBJECT
+
+public:
+    explicit ProductView(QWidget *parent = nullptr);
+
+    /// With the lowest page count and the default options.
+    void setProduct(const CataloguePointer &catalogue, int product);
+    /// The same, but the page count and the options stay as they were chosen, as far as the product still has them.
+    void updateProduct(const CataloguePointer &catalogue, int product);
+    void copy(OrderLinesPanel::Line line) const { myOrderLines->copy(line); }
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void showHeader(const LoadedCatalogue &catalogue, int product);
+    void showOrderLines();
+
+    QLabel *myTitle;
+    QLabel *myNote;
+    QBoxLayout *myColumns;
+    QVBoxLayout *myDrawings;
+    AttributePanel *myAttributes;
+    PagePanel *myPage;
+    SpinePanel *mySpine;
+    OptionsPanel *myOptions;
+    OrderLinesPanel *myOrderLines;
+    RVConfiguredArticleVariantList myOffered;
+};
+
+#endif

@@ -1,0 +1,64 @@
+#include "Screenshot.h"
+
+#include "MainWindow.h"
+
+#include <QApplication>
+#include <QImage>
+#include <QPixmap>
+#include <QTextStream>
+#include <QTimer>
+
+#include <chrono>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+/// For the documentation; it takes a little longer.
+constexpr int SMALLEST_FILE = 0;
+/// Widgets that have new texts ask for new places one after the other.
+constexpr auto LAYOUT_TIME = 200ms;
+
+}
+
+Screenshot::Screenshot(MainWindow *window, const QString &fileName, const RVProductType &type)
+    : QObject(window),
+      myWindow(window),
+      myFileName(fileName),
+      myType(type)
+{
+    // After the window, which shows the catalogue first.
+    connect(window->session(), &CatalogueSession::catalogueChanged, this, &Screenshot::take, Qt::QueuedConnection);
+    connect(window->session(), &CatalogueSession::failed, this, &Screenshot::failToLoad);
+}
+
+void Screenshot::failToLoad(const LoadError &error)
+{
+    const FilePosition position = error.position.value_or(FilePosition());
+    fail(2, u"%1:%2:%3: %4"_s.arg(error.fileName).arg(position.line).arg(position.column).arg(error.text));
+}
+
+void Screenshot::take()
+{
+    if (myType.isValid() && !myWindow->showType(myType)) {
+        fail(1, u"rvbrowser: the catalogue has no product of type \"%1\""_s.arg(myType.toString()));
+        return;
+    }
+    QTimer::singleShot(LAYOUT_TIME, this, &Screenshot::save);
+}
+
+void Screenshot::save()
+{
+    const QImage picture = myWindow->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    if (picture.save(myFileName, "PNG", SMALLEST_FILE))
+        QApplication::exit(0);
+    else
+        fail(2, u"rvbrowser: cannot write %1"_s.arg(myFileName));
+}
+
+void Screenshot::fail(int exitCode, const QString &text)
+{
+    QTextStream(stderr) << text << '\n';
+    QApplication::exit(exitCode);
+}

@@ -1,0 +1,41 @@
+#ifndef SPINEDRAWING_H
+#define SPINEDRAWING_H
+
+#include "SpineTable.h"
+
+#include <QWidget>
+
+class RVDistance;
+
+/// A piece of the spine, drawn to scale, with its title in the largest font size that fits. The scale is that of the
+/// widest spine of the product, so the spine is seen to grow.
+class SpineDrawing : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit SpineDrawing(QWidget *parent = nullptr);
+
+    /// @p sideWidth is the width of each side, in millimetres; @p widest that of the widest spine.
+    void setSpine(const SpineRow &row, qreal sideWidth, qreal widest);
+    void setTitle(const QString &title);
+    /// Draws nothing.
+    void clear();
+
+    QSize sizeHint() const override { return { 130, 135 }; }
+    QSize minimumSizeHint() const override { return { 90, 125 }; }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void paintTitle(QPainter *painter, const QRectF &spine, qreal scale) const;
+    void paintWidth(QPainter *painter, const QRectF &spine) const;
+
+    SpineRow myRow;
+    qreal mySideWidth = 0;
+    qreal myWidest = 0;
+    QString myTitle;
+};
+
+#endif

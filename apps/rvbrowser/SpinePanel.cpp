@@ -1,0 +1,106 @@
+#include "SpinePanel.h"
+
+#include "PageCountChooser.h"
+#include "SpineCurve.h"
+#include "SpineDrawing.h"
+
+#include <CatalogueProduct.h>
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString rangeText(const RVPageCountOrganization &counts)
+{
+    if (!counts.isValid())
+        return SpinePanel::tr("The page counts are not valid (%1).").arg(counts.dump());
+    if (counts.minPages() == counts.maxPages())
+        return SpinePanel::tr("always");
+    return SpinePanel::tr("%1 to %2 in steps of %3")
+            .arg(QString::number(counts.minPages()), QString::number(counts.maxPages()),
+                 QString::number(counts.pageIncrement()));
+}
+
+}
+
+SpinePanel::SpinePanel(QWidget *parent)
+    : QGroupBox(tr("Pages and spine"), parent),
+      myChooser(new PageCountChooser),
+      myRange(new QLabel),
+      myText(new QLabel),
+      myDrawing(new SpineDrawing),
+      myCurve(new SpineCurve)
+{
+    auto *label = new QLabel(tr("&Page count:"));
+    label->setBuddy(myChooser);
+    myText->setObjectName(u"spineText"_s);
+    myText->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    myText->setWordWrap(true);
+    myRange->setObjectName(u"pageRange"_s);
+    myRange->setWordWrap(true);
+
+    auto *counts = new QHBoxLayout;
+    counts->addWidget(label);
+    counts->addWidget(myChooser);
+    counts->addWidget(myRange, 1);
+    auto *drawings = new QHBoxLayout;
+    drawings->addWidget(myDrawing);
+    drawings->addWidget(myCurve, 1);
+    auto *layout = new QVBoxLayout(this);
+    layout->addLayout(counts);
+    layout->addWidget(myText);
+    layout->addLayout(drawings, 1);
+    connect(myChooser, &PageCountChooser::rowChanged, this, &SpinePanel::showRow);
+}
+
+void SpinePanel::setProduct(const CatalogueProduct &product, const RVPageCountOrganization &pageCounts)
+{
+    myTable = product.hasSpine() ? SpineTable(product.spine, pageCounts) : SpineTable();
+    mySideWidth = product.spine.additionalSpineWidth().value(DISTANCE_UNIT_MILLIMETRE);
+    myDrawing->setTitle(product.type.toString());
+    const bool hasSpine = myTable.rowCount() > 0;
+    myDrawing->setVisible(hasSpine);
+    myCurve->setVisible(hasSpine);
+    myWidest = 0;
+    if (hasSpine)
+        myWidest = qMax(myTable.row(0).width, myTable.row(myTable.rowCount() - 1).width);
+    myCurve->setTable(myTable);
+    myRange->setText(rangeText(pageCounts));
+    myChooser->setPageCounts(pageCounts, product.articleClass.matches(ARTICLE_CLASS_PICTURE_BOX | ARTICLE_CLASS_PHOTO));
+}
+
+bool SpinePanel::isDrawn() const
+{
+    return myTable.rowCount() > 0;
+}
+
+int SpinePanel::pages() const
+{
+    return myChooser->pages();
+}
+
+void SpinePanel::setPages(int pages)
+{
+    myChooser->setPages(pages);
+}
+
+void SpinePanel::showRow(int row)
+{
+    myCurve->setRow(row);
+    if (row < 0 || myTable.rowCount() == 0) {
+        myDrawing->clear();
+        myText->setText(row < 0 ? QString() : tr("This product has no spine."));
+        return;
+    }
+    const SpineRow spine = myTable.row(row);
+    myDrawing->setSpine(spine, mySideWidth, myWidest);
+    myText->setText(tr("Spine %1 mm · font up to %2 pt · %3, %4 more")
+                            .arg(QLocale().toString(spine.width, 'f', 2), QLocale().toString(spine.fontSize),
+                                 tr("%n package(s)", nullptr, spine.packages),
+                                 tr("%n block(s)", nullptr, spine.blocks)));
+}

@@ -1,0 +1,43 @@
+#ifndef SPINEPANEL_H
+#define SPINEPANEL_H
+
+#include "SpineTable.h"
+
+#include <QGroupBox>
+
+class PageCountChooser;
+class QLabel;
+class SpineCurve;
+class SpineDrawing;
+struct CatalogueProduct;
+
+/// The page counts of a product, and what its spine becomes at the chosen one.
+class SpinePanel : public QGroupBox
+{
+    Q_OBJECT
+
+public:
+    explicit SpinePanel(QWidget *parent = nullptr);
+
+    /// The page counts may be others than the product says itself.
+    void setProduct(const CatalogueProduct &product, const RVPageCountOrganization &pageCounts);
+    /// False for a product without a spine.
+    bool isDrawn() const;
+    /// What is chosen.
+    int pages() const;
+    void setPages(int pages);
+
+private:
+    void showRow(int row);
+
+    SpineTable myTable;
+    qreal mySideWidth = 0;
+    qreal myWidest = 0;
+    PageCountChooser *myChooser;
+    QLabel *myRange;
+    QLabel *myText;
+    SpineDrawing *myDrawing;
+    SpineCurve *myCurve;
+};
+
+#endif

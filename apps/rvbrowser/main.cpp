@@ -1,0 +1,74 @@
+#include "BrowserOptions.h"
+#include "Language.h"
+#include "MainWindow.h"
+#include "PaletteColors.h"
+#include "Screenshot.h"
+
+#include <QApplication>
+#include <QHashSeed>
+#include <QLoggingCategory>
+#include <QTextStream>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int EXIT_USAGE = 2;
+
+QStringList arguments(int argc, char *argv[])
+{
+    QStringList result;
+    for (int i = 0; i < argc; ++i)
+        result += QString::fromLocal8Bit(argv[i]);
+    return result;
+}
+
+int runWindow(const BrowserOptions &options)
+{
+    MainWindow window;
+    if (options.size())
+        window.resize(*options.size());
+    if (options.isScreenshot()) {
+        new Screenshot(&window, options.screenshot(), RVProductType(options.product()));
+    } else if (!options.product().isEmpty()) {
+        QObject::connect(
+                window.session(), &CatalogueSession::catalogueChanged, &window,
+                [&] { window.showType(RVProductType(options.product())); }, Qt::SingleShotConnection);
+    }
+    window.show();
+    if (!options.catalogue().isEmpty())
+        window.session()->open(options.catalogue());
+    return QApplication::exec();
+}
+
+}
+
+int main(int argc, char *argv[])
+{
+    // Options come out in the order of a hash; with a fixed seed every run writes the same.
+    QHashSeed::setDeterministicGlobalSeed();
+    const BrowserOptions options(arguments(argc, argv));
+    if (options.isWithoutDisplay()) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        // Qt warns of a missing run-time directory and of windows that cannot be resized; neither matters here.
+        QLoggingCategory::defaultCategory()->setEnabled(QtWarningMsg, false);
+    }
+    const QApplication application(argc, argv);
+    QApplication::setApplicationName(u"rvbrowser"_s);
+    QApplication::setApplicationVersion(QStringLiteral(RVBROWSER_VERSION));
+    QApplication::setDesktopFileName(u"rvbrowser"_s);
+    QApplication::setWindowIcon(QIcon(u":/rvbrowser.svg"_s));
+    if (!options.error().isEmpty()) {
+        QTextStream(stderr) << "rvbrowser: " << options.error() << "\nTry \"rvbrowser --help\".\n";
+        return EXIT_USAGE;
+    }
+    if (options.isHelp() || options.isVersion()) {
+        QTextStream(stdout) << (options.isHelp() ? options.helpText() : u"rvbrowser " RVBROWSER_VERSION "\n"_s);
+        return 0;
+    }
+    Language language;
+    language.speak(options.language().isEmpty() ? QLocale() : QLocale(options.language()));
+    if (!options.palette().isEmpty())
+        QApplication::setPalette(options.palette() == "dark"_L1 ? PaletteColors::dark() : PaletteColors::light());
+    return runWindow(options);
+}

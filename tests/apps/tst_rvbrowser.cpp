@@ -1,0 +1,737 @@
+#include <FindingsPanel.h>
+#include <Language.h>
+#include <MainWindow.h>
+#include <MessageBanner.h>
+#include <PageCountChooser.h>
+#include <PageDrawing.h>
+#include <ProductTreeModel.h>
+
+#include <QAbstractItemModelTester>
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QDropEvent>
+#include <QFile>
+#include <QImage>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QProcess>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTreeView>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const char CATALOGUE[] =
+        "<products>\n"
+        "<product type='DUN9' article_id='1001' name='Großes Buch' article_class='book' cover_type='hardcover' "
+        "orientation='portrait' space_magnitude='A4' price_class='PB9' pages='26' max_pages='154' page_step='4'>"
+        "<barcodes units='mm'><barcode position_x='12' position_y='290' width='38' height='10' pageNr='2'/>"
+        "<barcode position_x='12' position_y='400' width='38' height='10' pageNr='7'/></barcodes>"
+        "<composition units='mm'><spine packages_per_block='2' base_width='8' block_width='1' "
+        "additional_width='0.5'/></composition><forms>"
+        "<form key='alcolor' key_name='Farbe' value='black' value_name='Schwarz' color='#1a1a1a' preselected='true'/>"
+        "<form key='alcolor' key_name='Farbe' value='red' value_name='Rot' color='red'/>"
+        "<form key='box;lining' key_name='Box' value='none;none' value_name='Ohne' preselected='true'/>"
+        "<form key='box;lining' key_name='Box' value='wood;black' value_name='Holz'/>"
+        "</forms></product>\n"
+        "<product type='VIR1' article_id='1002' name='Wandkalender' article_class='normal_calendar' pages='13'/>\n"
+        "<product type='DUNS4' article_id='1003' name='Heft' article_class='book' page_binding='spiral' pages='24' "
+        "max_pages='72' page_step='2'/>\n"
+        "</products>\n";
+
+QByteArray manyProducts(int count)
+{
+    QByteArray content("<products>\n");
+    for (int i = 0; i < count; ++i)
+        content += "<product type='T" + QByteArray::number(i) + "' article_id='" + QByteArray::number(i + 1)
+                + "' article_class='book' cover_type='hardcover' pages='26' max_pages='154' page_step='4'/>\n";
+    return content + "</products>\n";
+}
+
+}
+
+class tst_rvbrowser : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void startsEmpty();
+    void loads();
+    void keepsEveryCharacter();
+    void searches_data();
+    void searches();
+    void searchByKeys();
+    void choosesByKeys();
+    void attributesInWords();
+    void changesTheCount();
+    void hugeCounts();
+    void invalidCounts();
+    void optionsAndOrderLines();
+    void copies_data();
+    void copies();
+    void barcodePages();
+    void productsOfOneType();
+    void findings();
+    void reloadsAChangedFile();
+    void reloadsAReplacedFile();
+    void reloadsWithF5();
+    void opensABrokenFile();
+    void mendsABrokenFile();
+    void cancelsALoad();
+    void opensAnotherWhileLoading();
+    void dropsAFile();
+    void dropsNothingElse();
+    void speaksGerman();
+    void manyProductsStayUsable();
+    void narrowWindow();
+    void models();
+
+    void screenshot_data();
+    void screenshot();
+    void screenshotProblems_data();
+    void screenshotProblems();
+    void help();
+
+private:
+    QString path(const QString &name) const { return myFolder->filePath(name); }
+    void write(const QString &name, const QByteArray &content);
+    /// Loads a file with this content, and waits until it is shown.
+    void load(const QByteArray &content);
+    template<typename T>
+    T *find(const QString &name) const
+    {
+        return myWindow->findChild<T *>(name);
+    }
+    QString text(const QString &label) const { return find<QLabel>(label)->text(); }
+    QStringList shownTypes() const;
+    void drop(const QMimeData &data);
+
+    std::unique_ptr<QTemporaryDir> myFolder;
+    std::unique_ptr<MainWindow> myWindow;
+};
+
+void tst_rvbrowser::write(const QString &name, const QByteArray &content)
+{
+    QFile file(path(name));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), content.size());
+}
+
+void tst_rvbrowser::load(const QByteArray &content)
+{
+    write(u"c.xml"_s, content);
+    QSignalSpy changed(myWindow->session(), &CatalogueSession::catalogueChanged);
+    myWindow->session()->open(path(u"c.xml"_s));
+    QVERIFY(changed.wait(60000));
+}
+
+QStringList tst_rvbrowser::shownTypes() const
+{
+    QStringList result;
+    const QAbstractItemModel *model = find<QTreeView>(u"products"_s)->model();
+    for (int group = 0; group < model->rowCount(); ++group) {
+        const QModelIndex parent = model->index(group, 0);
+        for (int row = 0; row < model->rowCount(parent); ++row)
+            result += model->index(row, 0, parent).data().toString();
+    }
+    return result;
+}
+
+void tst_rvbrowser::init()
+{
+    myFolder = std::make_unique<QTemporaryDir>();
+    myWindow = std::make_unique<MainWindow>();
+    myWindow->show();
+    QVERIFY(QTest::qWaitForWindowExposed(myWindow.get()));
+    myWindow->activateWindow();
+}
+
+void tst_rvbrowser::cleanup()
+{
+    myWindow.reset();
+}
+
+void tst_rvbrowser::startsEmpty()
+{
+    QVERIFY(find<QLabel>(u"welcome"_s)->isVisible());
+    QVERIFY(!find<QWidget>(u"productView"_s)->isVisible());
+    QVERIFY(shownTypes().isEmpty());
+    QTest::keyClick(myWindow.get(), Qt::Key_F5); // there is nothing to load again
+    QVERIFY(!myWindow->session()->isLoading());
+}
+
+void tst_rvbrowser::loads()
+{
+    load(CATALOGUE);
+    QCOMPARE(shownTypes(), (QStringList { u"DUN9"_s, u"DUNS4"_s, u"VIR1"_s }));
+    const QAbstractItemModel *model = find<QTreeView>(u"products"_s)->model();
+    QCOMPARE(model->index(0, 0).data().toString(), u"RAVO PHOTO BOOK (2)"_s);
+    QCOMPARE(model->index(1, 0).data().toString(), u"RAVO CALENDAR (1)"_s);
+    QCOMPARE(text(u"title"_s), u"DUN9 – Großes Buch"_s);
+    QCOMPARE(text(u"count"_s), u"3 products"_s);
+    QVERIFY(!find<QLabel>(u"welcome"_s)->isVisible());
+    QVERIFY(!find<QWidget>(u"progress"_s)->isVisible());
+    QVERIFY(myWindow->windowTitle().startsWith("c.xml"_L1));
+}
+
+// Products are packed away until somebody looks at them.
+void tst_rvbrowser::keepsEveryCharacter()
+{
+    load("<p><product type='X &amp; &lt;Y&gt;' name='&quot;a&apos;&#10;&#9;b&#x1F4D6; ü'><forms>"
+         "<form key='k' value='v&amp;&lt;&quot;' value_name='&#233;&#10;'/></forms></product></p>");
+    const CatalogueProduct product = myWindow->session()->catalogue()->product(0);
+    QCOMPARE(product.type.toString(), u"X & <Y>"_s);
+    QCOMPARE(product.name, u"\"a'\n\tb\U0001F4D6 ü"_s);
+    QCOMPARE(product.options.size(), 1);
+    QCOMPARE(product.options.constFirst().value(), u"v&<\""_s);
+    QCOMPARE(product.options.constFirst().visibleName(), u"é\n"_s);
+    QCOMPARE(find<QLineEdit>(u"projectFile"_s)->text(), u"k:v&<\""_s);
+}
+
+void tst_rvbrowser::searches_data()
+{
+    QTest::addColumn<QString>("search");
+    QTest::addColumn<QStringList>("types");
+
+    QTest::newRow("type") << u"dun"_s << QStringList { u"DUN9"_s, u"DUNS4"_s };
+    QTest::newRow("article id") << u"1002"_s << QStringList { u"VIR1"_s };
+    QTest::newRow("keyword") << u"spiral"_s << QStringList { u"DUNS4"_s };
+    QTest::newRow("keyword of the kind") << u"normal_calendar"_s << QStringList { u"VIR1"_s };
+    QTest::newRow("another keyword for the same") << u"600cm2"_s << QStringList { u"DUN9"_s };
+    QTest::newRow("display name of an attribute") << u"photo book"_s << QStringList { u"DUN9"_s, u"DUNS4"_s };
+    QTest::newRow("name, letter case") << u"GROSSES"_s << QStringList();
+    QTest::newRow("name") << u"großes"_s << QStringList { u"DUN9"_s };
+    QTest::newRow("two words in any order") << u"hardcover  dun"_s << QStringList { u"DUN9"_s };
+    QTest::newRow("nothing") << u"dun 1002"_s << QStringList();
+    QTest::newRow("blank") << u"  "_s << QStringList { u"DUN9"_s, u"DUNS4"_s, u"VIR1"_s };
+}
+
+void tst_rvbrowser::searches()
+{
+    load(CATALOGUE);
+    QFETCH(QString, search);
+    QTest::keyClicks(find<QLineEdit>(u"search"_s), search);
+    QTEST(shownTypes(), "types");
+    QTest::keyClick(find<QLineEdit>(u"search"_s), Qt::Key_Escape);
+    QCOMPARE(shownTypes().size(), 3);
+}
+
+void tst_rvbrowser::searchByKeys()
+{
+    load(CATALOGUE);
+    find<QTreeView>(u"products"_s)->setFocus();
+    QTest::keyClick(myWindow.get(), Qt::Key_F, Qt::ControlModifier);
+    QTRY_COMPARE(QApplication::focusWidget(), find<QLineEdit>(u"search"_s));
+    QTest::keyClicks(QApplication::focusWidget(), u"wand"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QCOMPARE(text(u"title"_s), u"VIR1 – Wandkalender"_s);
+    QCOMPARE(QApplication::focusWidget(), find<QTreeView>(u"products"_s));
+}
+
+void tst_rvbrowser::choosesByKeys()
+{
+    load(CATALOGUE);
+    auto *products = find<QTreeView>(u"products"_s);
+    QTest::keyClick(products, Qt::Key_Down);
+    QCOMPARE(text(u"title"_s), u"DUNS4 – Heft"_s);
+    QTest::keyClick(products, Qt::Key_Down); // the next kind of article; the product stays
+    QCOMPARE(text(u"title"_s), u"DUNS4 – Heft"_s);
+    QTest::keyClick(products, Qt::Key_Down);
+    QCOMPARE(text(u"title"_s), u"VIR1 – Wandkalender"_s);
+    const QModelIndex first = products->model()->index(0, 1, products->model()->index(0, 0));
+    QTest::mouseClick(products->viewport(), Qt::LeftButton, {}, products->visualRect(first).center());
+    QCOMPARE(text(u"title"_s), u"DUN9 – Großes Buch"_s);
+}
+
+void tst_rvbrowser::attributesInWords()
+{
+    load(CATALOGUE);
+    QStringList texts;
+    for (const QLabel *label : myWindow->findChildren<QLabel *>()) {
+        if (label->isVisible())
+            texts += label->text();
+    }
+    for (const QString &wanted :
+         { u"Kind of article"_s, u"RAVO PHOTO BOOK (book)"_s, u"1001"_s, u"Hardcover (HARDCOVER)"_s, u"A4 (600cm2)"_s,
+           u"PB9"_s, u"38.0 × 10.0 mm on page 2\n38.0 × 10.0 mm on page 7"_s })
+        QVERIFY2(texts.contains(wanted), qPrintable(wanted));
+    QVERIFY(!texts.contains(u"Paper"_s)); // the product says nothing of it
+}
+
+void tst_rvbrowser::changesTheCount()
+{
+    load(CATALOGUE);
+    auto *counts = find<QComboBox>(u"pageCounts"_s);
+    QCOMPARE(counts->count(), 33);
+    QCOMPARE(counts->currentText(), u"26 pages"_s);
+    QVERIFY2(text(u"spineText"_s).startsWith(u"Spine 9.00 mm · font up to "_s), qPrintable(text(u"spineText"_s)));
+    QCOMPARE(text(u"pageRange"_s), u"26 to 154 in steps of 4"_s);
+    const QImage before = find<QWidget>(u"spineCurve"_s)->grab().toImage();
+    QTest::keyClick(counts, Qt::Key_Down);
+    QTest::keyClick(counts, Qt::Key_Down);
+    QCOMPARE(counts->currentText(), u"34 pages"_s);
+    QVERIFY(text(u"spineText"_s).startsWith(u"Spine 10.00 mm · font up to "_s));
+    QVERIFY(text(u"spineText"_s).endsWith(u" pt · 2 packages, 1 block more"_s));
+    QVERIFY(find<QWidget>(u"spineCurve"_s)->grab().toImage() != before);
+    QTest::keyClick(counts, Qt::Key_End);
+    QVERIFY(text(u"spineText"_s).startsWith("Spine 25.00 mm"_L1));
+
+    QVERIFY(myWindow->showType(RVProductType(u"VIR1"_s)));
+    QCOMPARE(counts->count(), 1);
+    QCOMPARE(text(u"spineText"_s), u"This product has no spine."_s);
+    QVERIFY(!find<QWidget>(u"spineCurve"_s)->isVisible());
+}
+
+void tst_rvbrowser::hugeCounts()
+{
+    load("<p><product type='X' pages='1' max_pages='2147483647' page_step='3'><composition>"
+         "<spine packages_per_block='1' base_width='5' block_width='0.001'/></composition></product></p>");
+    auto *number = find<QSpinBox>(u"pageNumber"_s);
+    QVERIFY(number->isVisible());
+    QVERIFY(!find<QComboBox>(u"pageCounts"_s)->isVisible());
+    number->selectAll();
+    QTest::keyClicks(number, u"3000"_s);
+    QTest::keyClick(number, Qt::Key_Return);
+    QCOMPARE(number->value(), 3001);
+    QVERIFY2(text(u"spineText"_s).startsWith("Spine 6.00 mm"_L1), qPrintable(text(u"spineText"_s)));
+    QTest::keyClick(number, Qt::Key_Up);
+    QCOMPARE(number->value(), 3004);
+}
+
+void tst_rvbrowser::invalidCounts()
+{
+    load("<p><product type='X' pages='20' max_pages='10' page_step='2'/></p>");
+    QCOMPARE(text(u"pageRange"_s), u"The page counts are not valid (min: 20; max: 10; increment: 2)."_s);
+    QVERIFY(!find<QComboBox>(u"pageCounts"_s)->isEnabled());
+    QVERIFY(text(u"note"_s).startsWith("This product cannot be offered"_L1));
+}
+
+void tst_rvbrowser::optionsAndOrderLines()
+{
+    load(CATALOGUE);
+    auto *color = find<QComboBox>(u"option alcolor"_s);
+    auto *box = find<QComboBox>(u"option box;lining"_s);
+    QCOMPARE(color->currentText(), u"Schwarz"_s);
+    QCOMPARE(box->currentText(), u"Ohne"_s);
+    const auto swatch = color->itemData(1, Qt::DecorationRole).value<QPixmap>();
+    QCOMPARE(swatch.toImage().pixelColor(swatch.rect().center()), QColor(Qt::red));
+    QVERIFY(!box->itemData(0, Qt::DecorationRole).isValid());
+
+    const auto pieces = [this](const QString &line, QChar separator) {
+        QStringList result = find<QLineEdit>(line)->text().split(separator);
+        result.sort();
+        return result;
+    };
+    QCOMPARE(pieces(u"projectFile"_s, u','), (QStringList { u"alcolor:black"_s, u"box;lining:none;none"_s }));
+    QTest::keyClick(color, Qt::Key_Down);
+    QTest::keyClick(box, Qt::Key_Down);
+    QCOMPARE(pieces(u"projectFile"_s, u','), (QStringList { u"alcolor:red"_s, u"box;lining:wood;black"_s }));
+    const QStringList single { u"alcolor:red"_s, u"box:wood"_s, u"lining:black"_s };
+    QCOMPARE(pieces(u"orderTransfer"_s, u','), single);
+    QCOMPARE(pieces(u"orderText"_s, u';'), single);
+    QCOMPARE(text(u"optionNames"_s), u"Farbe: Rot · Box: Holz"_s);
+
+    QVERIFY(myWindow->showType(RVProductType(u"VIR1"_s)));
+    QCOMPARE(find<QLineEdit>(u"projectFile"_s)->text(), QString());
+    QVERIFY(!find<QComboBox>(u"option alcolor"_s));
+}
+
+void tst_rvbrowser::copies_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<Qt::Key>("key");
+
+    QTest::newRow("project file") << u"projectFile"_s << Qt::Key_P;
+    QTest::newRow("order transfer") << u"orderTransfer"_s << Qt::Key_T;
+    QTest::newRow("order text") << u"orderText"_s << Qt::Key_O;
+}
+
+void tst_rvbrowser::copies()
+{
+    load(CATALOGUE);
+    QFETCH(QString, line);
+    QFETCH(Qt::Key, key);
+    const QString expected = find<QLineEdit>(line)->text();
+    QVERIFY(expected.contains("alcolor:black"_L1));
+    QApplication::clipboard()->clear();
+    QTest::mouseClick(find<QPushButton>("copy "_L1 + line), Qt::LeftButton);
+    QCOMPARE(QApplication::clipboard()->text(), expected);
+    QApplication::clipboard()->clear();
+    QTest::keyClick(myWindow.get(), key, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(QApplication::clipboard()->text(), expected);
+}
+
+void tst_rvbrowser::barcodePages()
+{
+    load(CATALOGUE);
+    auto *pages = find<QComboBox>(u"barcodePages"_s);
+    QCOMPARE(pages->count(), 2);
+    QCOMPARE(pages->currentText(), u"2"_s);
+    QVERIFY(text(u"pageText"_s).endsWith("A barcode lies outside of it (red)."_L1)); // the other one does
+    const QImage before = find<QWidget>(u"pageDrawing"_s)->grab().toImage();
+    QTest::keyClick(pages, Qt::Key_Down);
+    QCOMPARE(pages->currentText(), u"7"_s);
+    QVERIFY(find<QWidget>(u"pageDrawing"_s)->grab().toImage() != before);
+    QVERIFY(myWindow->showType(RVProductType(u"VIR1"_s)));
+    QVERIFY(!pages->isVisible());
+    QVERIFY(!find<QWidget>(u"pageDrawing"_s)->isVisible());
+}
+
+// The services know the first product of a type only; the others are shown as they are.
+void tst_rvbrowser::productsOfOneType()
+{
+    load("<p><product type='X' article_id='1' pages='5'/><product type='X' article_id='2' pages='7'/></p>");
+    QCOMPARE(find<QComboBox>(u"pageCounts"_s)->currentText(), u"5 pages"_s);
+    QVERIFY(!find<QLabel>(u"note"_s)->isVisible());
+    QTest::keyClick(find<QTreeView>(u"products"_s), Qt::Key_Down);
+    QCOMPARE(find<QComboBox>(u"pageCounts"_s)->currentText(), u"7 pages"_s);
+    QVERIFY(text(u"note"_s).startsWith("An earlier product has the same type"_L1));
+}
+
+void tst_rvbrowser::findings()
+{
+    load(CATALOGUE);
+    QVERIFY(text(u"summary"_s).contains("errors"_L1));
+    QByteArray content(CATALOGUE);
+    load(content.replace("page_binding='spiral'", "page_binding='spirall'"));
+    auto *view = find<QTableView>(u"findings"_s);
+    const QAbstractItemModel *model = view->model();
+    int row = 0;
+    while (row < model->rowCount() && !model->index(row, 2).data().toString().contains("spirall"_L1))
+        ++row;
+    QVERIFY(row < model->rowCount());
+    QCOMPARE(model->index(row, 1).data().toString(), u"DUNS4"_s);
+    QCOMPARE(model->index(row, 3).data().toString(), u"4:1"_s);
+    QCOMPARE(text(u"title"_s), u"DUN9 – Großes Buch"_s);
+    QTest::keyClicks(find<QLineEdit>(u"search"_s), u"wand"_s); // which hides the product
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(model->index(row, 2)).center());
+    QCOMPARE(text(u"title"_s), u"DUNS4 – Heft"_s);
+    QCOMPARE(find<QLineEdit>(u"search"_s)->text(), QString());
+
+    QVERIFY(view->isVisible());
+    QTest::keyClick(myWindow.get(), Qt::Key_F4);
+    QVERIFY(!view->isVisible());
+}
+
+// The page counts come from the manager's cache, which must have been emptied.
+void tst_rvbrowser::reloadsAChangedFile()
+{
+    load(CATALOGUE);
+    auto *counts = find<QComboBox>(u"pageCounts"_s);
+    counts->setCurrentIndex(2);
+    QTest::keyClick(find<QComboBox>(u"option alcolor"_s), Qt::Key_Down);
+    QByteArray content(CATALOGUE);
+    write(u"c.xml"_s, content.replace("max_pages='154'", "max_pages='50'").replace("Großes Buch", "Buch"));
+    QTRY_COMPARE_WITH_TIMEOUT(text(u"title"_s), u"DUN9 – Buch"_s, 20000);
+    QCOMPARE(counts->count(), 7);
+    QCOMPARE(counts->currentText(), u"34 pages"_s);
+    QCOMPARE(find<QComboBox>(u"option alcolor"_s)->currentText(), u"Rot"_s);
+}
+
+void tst_rvbrowser::reloadsAReplacedFile()
+{
+    load(CATALOGUE);
+    QVERIFY(myWindow->showType(RVProductType(u"VIR1"_s)));
+    for (const QByteArray pages : { "14", "15" }) {
+        QByteArray content(CATALOGUE);
+        write(u"new.xml"_s, content.replace("pages='13'", "pages='" + pages + "'"));
+        QVERIFY(QFile::remove(path(u"c.xml"_s)));
+        QTest::qWait(300); // for a moment there is no file
+        QVERIFY(QFile::rename(path(u"new.xml"_s), path(u"c.xml"_s)));
+        QTRY_COMPARE_WITH_TIMEOUT(find<QComboBox>(u"pageCounts"_s)->currentText(),
+                                  QString::fromLatin1(pages) + u" pages"_s, 20000);
+        QCOMPARE(text(u"title"_s), u"VIR1 – Wandkalender"_s);
+    }
+}
+
+void tst_rvbrowser::reloadsWithF5()
+{
+    load(CATALOGUE);
+    QSignalSpy changed(myWindow->session(), &CatalogueSession::catalogueChanged);
+    QTest::keyClick(myWindow.get(), Qt::Key_F5);
+    QVERIFY(changed.wait(20000));
+}
+
+void tst_rvbrowser::opensABrokenFile()
+{
+    load(CATALOGUE);
+    write(u"broken.xml"_s, "<products>\n <product type='A'></products>");
+    myWindow->session()->open(path(u"broken.xml"_s));
+    auto *banner = myWindow->findChild<MessageBanner *>();
+    QTRY_VERIFY_WITH_TIMEOUT(banner->isVisible(), 20000);
+    QVERIFY2(banner->text().startsWith(path(u"broken.xml"_s) + ", line 2, column 30: "_L1), qPrintable(banner->text()));
+    QVERIFY(banner->text().endsWith("\nWhat was loaded before is still shown."_L1));
+    QCOMPARE(text(u"title"_s), u"DUN9 – Großes Buch"_s);
+    QCOMPARE(find<QComboBox>(u"pageCounts"_s)->count(), 33);
+    QVERIFY(myWindow->windowTitle().startsWith("c.xml"_L1));
+
+    myWindow->session()->open(path(u"missing.xml"_s));
+    QTRY_VERIFY_WITH_TIMEOUT(banner->text().contains("cannot open the file"_L1), 20000);
+    load(CATALOGUE);
+    QVERIFY(!banner->isVisible());
+}
+
+void tst_rvbrowser::mendsABrokenFile()
+{
+    load(CATALOGUE);
+    auto *banner = myWindow->findChild<MessageBanner *>();
+    write(u"c.xml"_s, QByteArray(CATALOGUE).left(700));
+    QTRY_VERIFY_WITH_TIMEOUT(banner->isVisible(), 20000);
+    QVERIFY2(banner->text().contains("the file ends too early"_L1), qPrintable(banner->text()));
+    QCOMPARE(shownTypes().size(), 3);
+    write(u"c.xml"_s, CATALOGUE);
+    QTRY_VERIFY_WITH_TIMEOUT(!banner->isVisible(), 20000);
+}
+
+void tst_rvbrowser::cancelsALoad()
+{
+    load(CATALOGUE);
+    write(u"big.xml"_s, manyProducts(50000));
+    QSignalSpy ended(myWindow->session(), &CatalogueSession::ended);
+    QSignalSpy progressed(myWindow->session(), &CatalogueSession::progressed);
+    myWindow->session()->open(path(u"big.xml"_s));
+    QVERIFY(find<QWidget>(u"progress"_s)->isVisible());
+    QVERIFY(progressed.wait(20000));
+    QTest::mouseClick(find<QPushButton>(u"cancel"_s), Qt::LeftButton);
+    QVERIFY(ended.wait(20000));
+    QVERIFY(!myWindow->session()->isLoading());
+    QVERIFY(!find<QWidget>(u"progress"_s)->isVisible());
+    QCOMPARE(shownTypes().size(), 3);
+
+    myWindow->session()->open(path(u"big.xml"_s));
+    QTest::keyClick(myWindow.get(), Qt::Key_Escape);
+    QVERIFY(ended.wait(20000));
+    QCOMPARE(shownTypes().size(), 3);
+    QCOMPARE(ended.size(), 2);
+}
+
+void tst_rvbrowser::opensAnotherWhileLoading()
+{
+    write(u"big.xml"_s, manyProducts(50000));
+    QSignalSpy ended(myWindow->session(), &CatalogueSession::ended);
+    myWindow->session()->open(path(u"big.xml"_s));
+    load(CATALOGUE);
+    QTest::qWait(200);
+    QCOMPARE(ended.size(), 1); // what was given up says nothing
+    QCOMPARE(shownTypes().size(), 3);
+}
+
+void tst_rvbrowser::drop(const QMimeData &data)
+{
+    const QPoint middle = myWindow->rect().center();
+    QDragEnterEvent enter(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QApplication::sendEvent(myWindow.get(), &enter);
+    if (!enter.isAccepted())
+        return;
+    QDropEvent event(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(myWindow.get(), &event);
+}
+
+void tst_rvbrowser::dropsAFile()
+{
+    write(u"c.xml"_s, CATALOGUE);
+    QMimeData data;
+    data.setUrls({ QUrl::fromLocalFile(path(u"c.xml"_s)) });
+    QSignalSpy changed(myWindow->session(), &CatalogueSession::catalogueChanged);
+    drop(data);
+    QVERIFY(changed.wait(20000));
+    QCOMPARE(shownTypes().size(), 3);
+}
+
+void tst_rvbrowser::dropsNothingElse()
+{
+    QMimeData text;
+    text.setText(u"c.xml"_s);
+    drop(text);
+    QMimeData two;
+    two.setUrls({ QUrl::fromLocalFile(u"/a.xml"_s), QUrl::fromLocalFile(u"/b.xml"_s) });
+    drop(two);
+    QMimeData remote;
+    remote.setUrls({ QUrl(u"https://localhost/c.xml"_s) });
+    drop(remote);
+    QVERIFY(!myWindow->session()->isLoading());
+}
+
+void tst_rvbrowser::speaksGerman()
+{
+    myWindow.reset();
+    {
+        Language german;
+        german.speak(QLocale(QLocale::German));
+        myWindow = std::make_unique<MainWindow>();
+        myWindow->show();
+        load(CATALOGUE);
+        QCOMPARE(text(u"count"_s), u"3 Produkte"_s);
+        QVERIFY2(text(u"spineText"_s).startsWith(u"Rücken 9,00 mm"_s), qPrintable(text(u"spineText"_s)));
+        write(u"c.xml"_s, "");
+        auto *banner = myWindow->findChild<MessageBanner *>();
+        QTRY_VERIFY_WITH_TIMEOUT(banner->isVisible(), 20000);
+        QVERIFY2(banner->text().contains(u", Zeile 1, Spalte 1: die Datei ist leer"_s), qPrintable(banner->text()));
+        myWindow.reset();
+    }
+    QLocale::setDefault(QLocale(QLocale::English));
+}
+
+void tst_rvbrowser::manyProductsStayUsable()
+{
+    load(manyProducts(20000));
+    QCOMPARE(text(u"count"_s), u"20000 products"_s);
+    QElapsedTimer timer;
+    timer.start();
+    QTest::keyClicks(find<QLineEdit>(u"search"_s), u"t1999"_s);
+    QCOMPARE(shownTypes().size(), 11);
+    QVERIFY(myWindow->showType(RVProductType(u"T7"_s)));
+    QCOMPARE(text(u"title"_s), u"T7"_s);
+    QVERIFY2(timer.elapsed() < 10000, qPrintable(QString::number(timer.elapsed())));
+}
+
+// Where there is no room for two columns, nothing is cut off: the product can be scrolled down, but not sideways.
+void tst_rvbrowser::narrowWindow()
+{
+    load(CATALOGUE);
+    auto *view = find<QScrollArea>(u"productView"_s);
+    for (const QSize size : { QSize(1280, 800), QSize(1000, 640), QSize(800, 500), QSize(1920, 1080) }) {
+        myWindow->resize(size);
+        QTest::qWait(50);
+        QCOMPARE(myWindow->size(), size);
+        QVERIFY2(view->widget()->width() <= view->viewport()->width(), qPrintable(QString::number(size.width())));
+    }
+}
+
+void tst_rvbrowser::models()
+{
+    load(CATALOGUE);
+    ProductTreeModel tree;
+    const QAbstractItemModelTester treeTester(&tree, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    tree.setCatalogue(myWindow->session()->catalogue());
+    QCOMPARE(tree.indexOfProduct(1).data(), QVariant(u"VIR1"_s));
+    QCOMPARE(tree.indexOfProduct(1).parent(), tree.index(1, 0));
+    QVERIFY(!tree.indexOfProduct(3).isValid());
+    QVERIFY(!tree.indexOfProduct(-1).isValid());
+    tree.setCatalogue(nullptr);
+    QCOMPARE(tree.rowCount(), 0);
+    FindingsModel findings;
+    const QAbstractItemModelTester findingsTester(&findings, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    findings.setCatalogue(myWindow->session()->catalogue());
+    findings.setCatalogue(nullptr);
+    QCOMPARE(findings.rowCount(), 0);
+}
+
+void tst_rvbrowser::screenshot_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<bool>("isDark");
+
+    QTest::newRow("usual") << QStringList { u"--palette"_s, u"light"_s } << QSize(1280, 800) << false;
+    QTest::newRow("dark, small") << QStringList { u"--palette"_s, u"dark"_s, u"--size"_s, u"1000x640"_s }
+                                 << QSize(1000, 640) << true;
+    QTest::newRow("product, German") << QStringList { u"--product"_s, u"DUN9_30"_s, u"--language"_s, u"de"_s }
+                                     << QSize(1280, 800) << false;
+}
+
+// From outside, without a display.
+void tst_rvbrowser::screenshot()
+{
+    QFETCH(QStringList, options);
+    QFETCH(bool, isDark);
+    QProcess process;
+    process.setProcessEnvironment(QProcessEnvironment());
+    process.start(QString::fromUtf8(RVBROWSER),
+                  options + QStringList { u"--screenshot"_s, path(u"out.png"_s), QString::fromUtf8(SAMPLE) });
+    QVERIFY(process.waitForFinished(60000));
+    QCOMPARE(QString::fromUtf8(process.readAllStandardError()), QString());
+    QCOMPARE(process.exitCode(), 0);
+    const QImage image(path(u"out.png"_s));
+    QTEST(image.size(), "size");
+    QCOMPARE(image.pixelColor(5, image.height() - 5).lightness() < 128, isDark);
+    int colors = 0;
+    QSet<QRgb> seen;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            seen.insert(image.pixel(x, y));
+    }
+    colors = int(seen.size());
+    QVERIFY2(colors > 100, qPrintable(QString::number(colors)));
+}
+
+void tst_rvbrowser::screenshotProblems_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QString>("message");
+
+    const QString sample = QString::fromUtf8(SAMPLE);
+    QTest::newRow("no such product") << QStringList { u"--screenshot"_s, u"o.png"_s, u"--product"_s, u"X"_s, sample }
+                                     << 1 << u"rvbrowser: the catalogue has no product of type \"X\"\n"_s;
+    QTest::newRow("broken") << QStringList { u"--screenshot"_s, u"o.png"_s, u"cut.xml"_s } << 2
+                            << u"cut.xml:1:10: the file ends too early\n"_s;
+    QTest::newRow("missing") << QStringList { u"--screenshot"_s, u"o.png"_s, u"missing.xml"_s } << 2
+                             << u"missing.xml:1:1: cannot open the file: No such file or directory\n"_s;
+    QTest::newRow("cannot write") << QStringList { u"--screenshot"_s, u"nowhere/o.png"_s, sample } << 2
+                                  << u"rvbrowser: cannot write nowhere/o.png\n"_s;
+    const auto wrong = [](const QString &text) { return "rvbrowser: "_L1 + text + "\nTry \"rvbrowser --help\".\n"_L1; };
+    QTest::newRow("no catalogue") << QStringList { u"--screenshot"_s, u"o.png"_s } << 2
+                                  << wrong(u"a screenshot needs a catalogue"_s);
+    QTest::newRow("size") << QStringList { u"--size"_s, u"12"_s } << 2
+                          << wrong(u"\"12\" is no size; write it as 1280x800"_s);
+    QTest::newRow("palette") << QStringList { u"--palette"_s, u"pink"_s } << 2
+                             << wrong(u"there is no palette \"pink\"; there are: light, dark"_s);
+    QTest::newRow("language") << QStringList { u"--language"_s, u"fr"_s } << 2
+                              << wrong(u"there is no language \"fr\"; there are: de, en"_s);
+    QTest::newRow("two catalogues") << QStringList { sample, sample } << 2
+                                    << wrong(u"expected at most 1 catalogue, got 2"_s);
+    QTest::newRow("unknown option") << QStringList { u"--sing"_s } << 2 << wrong(u"Unknown option 'sing'."_s);
+}
+
+void tst_rvbrowser::screenshotProblems()
+{
+    QFETCH(QStringList, arguments);
+    write(u"cut.xml"_s, "<products>");
+    QProcess process;
+    process.setWorkingDirectory(myFolder->path());
+    process.setProcessEnvironment(QProcessEnvironment());
+    process.start(QString::fromUtf8(RVBROWSER), arguments);
+    QVERIFY(process.waitForFinished(60000));
+    QTEST(QString::fromUtf8(process.readAllStandardError()), "message");
+    QTEST(process.exitCode(), "exitCode");
+    QVERIFY(!QFile::exists(path(u"o.png"_s)));
+}
+
+void tst_rvbrowser::help()
+{
+    QProcess process;
+    process.start(QString::fromUtf8(RVBROWSER), { u"--help"_s });
+    QVERIFY(process.waitForFinished(60000));
+    QCOMPARE(process.exitCode(), 0);
+    QVERIFY(process.readAllStandardOutput().contains("[CATALOGUE.xml]"));
+    process.start(QString::fromUtf8(RVBROWSER), { u"--version"_s });
+    QVERIFY(process.waitForFinished(60000));
+    QVERIFY(process.readAllStandardOutput().startsWith("rvbrowser 0."));
+}
+
+// The texts of the program in English, whatever the machine speaks.
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    Language language;
+    language.speak(QLocale(QLocale::English));
+    tst_rvbrowser test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_rvbrowser.moc"
