@@ -287,7 +287,8 @@ void tst_check::compareSarif(const QString &output, bool isSuccessful, int exitC
     }
 
     QStringList described;
-    for (const QJsonValue &value : run.value("results"_L1).toArray()) {
+    const QJsonArray found = run.value("results"_L1).toArray();
+    for (const QJsonValue &value : found) {
         const QJsonObject result = value.toObject();
         QCOMPARE(propertyNames(result),
                  (QStringList { u"level"_s, u"locations"_s, u"message"_s, u"ruleId"_s, u"ruleIndex"_s }));
@@ -309,7 +310,8 @@ void tst_check::compareSarif(const QString &output, bool isSuccessful, int exitC
     QCOMPARE(invocation.value("executionSuccessful"_L1).toBool(), isSuccessful);
     QCOMPARE(invocation.value("exitCode"_L1).toInt(-1), exitCode);
     QStringList notified;
-    for (const QJsonValue &value : invocation.value("toolExecutionNotifications"_L1).toArray()) {
+    const QJsonArray sent = invocation.value("toolExecutionNotifications"_L1).toArray();
+    for (const QJsonValue &value : sent) {
         const QJsonObject notification = value.toObject();
         QCOMPARE(propertyNames(notification), (QStringList { u"level"_s, u"locations"_s, u"message"_s }));
         QCOMPARE(notification.value("level"_L1).toString(), u"error"_s);
@@ -348,7 +350,6 @@ void tst_check::sarifUris()
     write(name, "<p/>");
     compareSarif(check({ u"--format=sarif"_s, name }).output, true, 1,
                  { u"a%20b%3A%C3%A4%23%25.xml:1:1 error products-missing"_s }, {});
-    const QString absolute = myFolder.filePath(u"clean.xml"_s);
     QVERIFY(QDir().mkpath(myFolder.filePath(u"d"_s)));
     write(u"d/e.xml"_s, "<p/>");
     compareSarif(check({ u"--format=sarif"_s, u"d/e.xml"_s, myFolder.filePath(u"d/e.xml"_s) }).output, true, 1,
