@@ -23,7 +23,7 @@ public:
     /// In UTF-16 code units.
     static constexpr qsizetype LONGEST = 32;
 
-    /// With room for so many keywords, not for more.
+    /// With room for so many keywords. To insert more is an error of the caller, and look-ups may not end.
     explicit RVKeywordIndex(qsizetype keywords = 0);
 
     /// Adds a keyword that it does not know yet; does nothing with one that it does not cover.
@@ -38,6 +38,7 @@ public:
 private:
     static constexpr quint64 EACH = 0x0001'0001'0001'0001; // puts a number into each of the four letters of a word
     static constexpr quint64 CASE = 0x20 * EACH; // tells "a" from "A"
+    static constexpr quint64 GOLDEN_RATIO = 0x9e37'79b9'7f4a'7c15; // a part of 2^64; spreads what differs in few bits
 
     struct Slot
     {
@@ -77,10 +78,9 @@ inline void RVKeywordIndex::insert(QStringView keyword, qint64 value)
 
 inline const qint64 *RVKeywordIndex::find(QStringView keyword) const noexcept
 {
-    const QStringView text = trimmed(keyword);
-    if (mySlots.isEmpty() || text.size() > LONGEST)
+    if (mySlots.isEmpty())
         return nullptr;
-    const Slot &slot = mySlots.at(position(text));
+    const Slot &slot = mySlots.at(position(trimmed(keyword)));
     return slot.isFree() ? nullptr : &slot.value;
 }
 
@@ -95,7 +95,7 @@ inline qsizetype RVKeywordIndex::position(QStringView keyword) const noexcept
 {
     const quint64 first = word(keyword, 0) | CASE;
     const quint64 last = word(keyword, wordCount(keyword) - 1) | CASE;
-    const quint64 hash = (first + 31 * last + quint64(keyword.size())) * 0x9e37'79b9'7f4a'7c15;
+    const quint64 hash = (first + 31 * last + quint64(keyword.size())) * GOLDEN_RATIO;
     const Slot *const all = mySlots.constData();
     const qsizetype mask = mySlots.size() - 1;
     qsizetype i = qsizetype(hash >> 32) & mask;
@@ -104,13 +104,13 @@ inline qsizetype RVKeywordIndex::position(QStringView keyword) const noexcept
     return i;
 }
 
+// A letter beyond ASCII keeps the bits that tell it from every letter of a keyword.
 inline bool RVKeywordIndex::Slot::holds(QStringView keyword) const noexcept
 {
     if (length != keyword.size())
         return false;
     for (qsizetype i = 0; i < wordCount(keyword); ++i) {
-        const quint64 letters = word(keyword, i);
-        if ((letters & 0xff80 * EACH) != 0 || lowerCase(letters) != words[i])
+        if (lowerCase(word(keyword, i)) != words[i])
             return false;
     }
     return true;
@@ -142,6 +142,7 @@ inline quint64 RVKeywordIndex::word(QStringView text, qsizetype number) noexcept
 }
 
 // Bit 7 of an ASCII letter is free. It becomes set where a letter is moved up far enough: from "A", and behind "Z".
+// What comes of other letters does not matter, as long as no bit of theirs is cleared.
 inline quint64 RVKeywordIndex::lowerCase(quint64 word) noexcept
 {
     const quint64 fromA = word + (0x80 - u'A') * EACH;

@@ -12,7 +12,9 @@ private Q_SLOTS:
     void startsEmpty();
     void finds_data();
     void finds();
+    void ignoresTheCaseOfWhatIsInserted();
     void tellsNeighboursApart();
+    void tellsLettersBeyondAsciiApart();
     void holdsAsManyAsPromised();
     void leavesOutWhatItDoesNotCover();
     void covers_data();
@@ -66,6 +68,8 @@ void tst_RVKeywordIndex::finds_data()
     QTest::newRow("upper case") << u"A BOOK_Z"_s << qint64(-5);
     QTest::newRow("mixed case") << u"wIrE-O"_s << qint64(4);
     QTest::newRow("white space around it") << u" \tWood\r\n "_s << qint64(3);
+    QTest::newRow("more white space than letters fit")
+            << QString(40, u' ') + u"wood"_s + QString(40, u'\t') << qint64(3);
     QTest::newRow("white space within it") << u"wo od"_s << qint64(0);
     QTest::newRow("control characters around it") << u"\x08wood"_s << qint64(0);
     QTest::newRow("behind the white space") << u"wood\x0e"_s << qint64(0);
@@ -81,6 +85,16 @@ void tst_RVKeywordIndex::finds()
 {
     QFETCH(QString, keyword);
     QTEST(valueOf(filledIndex(), keyword), "value");
+}
+
+void tst_RVKeywordIndex::ignoresTheCaseOfWhatIsInserted()
+{
+    RVKeywordIndex index(2);
+    index.insert(u"Wire-O", 1);
+    index.insert(u"SET", 2);
+    QCOMPARE(valueOf(index, u"wire-o"), qint64(1));
+    QCOMPARE(valueOf(index, u"WIRE-O"), qint64(1));
+    QCOMPARE(valueOf(index, u"set"), qint64(2));
 }
 
 // Only letters have a letter case. "@" and "[" stand before "A" and behind "Z", "`" and "{" before "a" and behind "z".
@@ -100,6 +114,23 @@ void tst_RVKeywordIndex::tellsNeighboursApart()
         for (char16_t other = 1; other < 0x100; ++other) {
             const char16_t otherWord[] = { u'x', other, u'x', u'x' };
             QCOMPARE(valueOf(own, QStringView(otherWord)), qint64(QChar::toLower(other) == lowerCase ? 1 : 0));
+        }
+    }
+}
+
+// In each place of a word, whatever a sum of its bits carries over into the place beside it.
+void tst_RVKeywordIndex::tellsLettersBeyondAsciiApart()
+{
+    const QString keyword = u"abyzabyz"_s;
+    RVKeywordIndex index(1);
+    index.insert(keyword, 1);
+    for (int place = 0; place < keyword.size(); ++place) {
+        for (int letter = 0x80; letter <= 0xffff; ++letter) {
+            QString text = keyword;
+            text[place] = QChar(letter);
+            QCOMPARE(valueOf(index, text), qint64(0));
+            text[place ^ 1] = text.at(place ^ 1).toUpper();
+            QCOMPARE(valueOf(index, text), qint64(0));
         }
     }
 }
