@@ -18,7 +18,7 @@ constexpr bool isSeparator(char16_t letter)
     return letter == u':' || letter == u'|' || letter == u'+';
 }
 
-/// True for the letters that are nothing but part of a key or a value, which most are.
+/// True for most letters that are nothing but part of a key or a value; false for digits, which are looked at closer.
 constexpr auto isOrdinary = [](QChar letter) { return letter > u':' && letter < u'|'; };
 
 /// Piece by piece, each with a regular expression, which does not search in broken UTF-16.
