@@ -1,12 +1,13 @@
 #include "OrderLinesPanel.h"
 
+#include "OrderLine.h"
+
 #include <RVArticleVariants.h>
 
 #include <QClipboard>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
@@ -33,32 +34,29 @@ void OrderLinesPanel::setVariants(const RVArticleVariants &variants, const QStri
 {
     myNames->setText(names.isEmpty() ? u"–"_s : names.join(u" · "_s));
     const QStringList texts { variants.toKTX(), variants.toXTCI().toKTX(), variants.toOrderTxt() };
-    for (qsizetype i = 0; i < texts.size(); ++i) {
+    for (qsizetype i = 0; i < texts.size(); ++i)
         myLines.at(i)->setText(texts.at(i));
-        myLines.at(i)->setCursorPosition(0);
-        myLines.at(i)->setToolTip(texts.at(i));
-    }
 }
 
 void OrderLinesPanel::copy(Line line) const
 {
-    QGuiApplication::clipboard()->setText(myLines.at(line)->text());
+    QGuiApplication::clipboard()->setText(myLines.at(line)->toPlainText());
 }
 
 void OrderLinesPanel::addLine(QGridLayout *layout, const QString &label, const QString &objectName)
 {
-    auto *line = new QLineEdit;
+    auto *line = new OrderLine;
     line->setObjectName(objectName);
-    line->setReadOnly(true);
     auto *name = new QLabel(label);
     name->setBuddy(line);
+    name->setContentsMargins(0, line->frameWidth() + 2, 0, 0); // on a line with the text
     auto *button = new QPushButton(tr("Copy"));
     button->setObjectName("copy "_L1 + objectName);
     button->setAccessibleName(tr("Copy: %1").arg(QString(label).remove(u'&')));
     const int row = layout->rowCount();
-    layout->addWidget(name, row, 0);
+    layout->addWidget(name, row, 0, Qt::AlignTop);
     layout->addWidget(line, row, 1);
-    layout->addWidget(button, row, 2);
+    layout->addWidget(button, row, 2, Qt::AlignTop);
     const Line which = Line(myLines.size());
     myLines += line;
     connect(button, &QPushButton::clicked, this, [this, which] { copy(which); });

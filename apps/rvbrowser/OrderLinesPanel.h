@@ -5,9 +5,9 @@
 #include <QList>
 #include <QStringList>
 
+class OrderLine;
 class QGridLayout;
 class QLabel;
-class QLineEdit;
 class RVArticleVariants;
 
 /// The chosen options as the customer reads them, and as they are written to project and order, ready to copy.
@@ -28,7 +28,7 @@ private:
     void addLine(QGridLayout *layout, const QString &label, const QString &objectName);
 
     QLabel *myNames;
-    QList<QLineEdit *> myLines;
+    QList<OrderLine *> myLines;
 };
 
 #endif

@@ -17,7 +17,7 @@ public:
     void setPage(const PageGeometry &geometry);
     void setPageNumber(int number);
 
-    QSize sizeHint() const override { return { 300, 150 }; }
+    QSize sizeHint() const override { return { 300, 160 }; }
     QSize minimumSizeHint() const override { return { 180, 140 }; }
 
 protected:

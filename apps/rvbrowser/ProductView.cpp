@@ -7,23 +7,16 @@
 #include "SpinePanel.h"
 
 #include <QLabel>
-#include <QResizeEvent>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// In characters: less has no room for two columns.
-constexpr int TWO_COLUMNS = 115;
-
-}
 
 ProductView::ProductView(QWidget *parent)
     : QScrollArea(parent),
       myTitle(new QLabel),
       myNote(new QLabel),
       myColumns(new QBoxLayout(QBoxLayout::LeftToRight)),
+      myTexts(new QVBoxLayout),
       myDrawings(new QVBoxLayout),
       myAttributes(new AttributePanel),
       myPage(new PagePanel),
@@ -47,15 +40,14 @@ ProductView::ProductView(QWidget *parent)
     myNote->setWordWrap(true);
 
     // Texts need no more room than they have; drawings take what there is.
-    auto *left = new QVBoxLayout;
-    left->addWidget(myAttributes);
-    left->addWidget(myOptions);
-    left->addWidget(myOrderLines);
-    left->addStretch(1);
+    myTexts->addWidget(myAttributes);
+    myTexts->addWidget(myOptions);
+    myTexts->addWidget(myOrderLines);
+    myTexts->addStretch(1);
     myDrawings->addWidget(mySpine);
     myDrawings->addWidget(myPage);
     myDrawings->addStretch();
-    myColumns->addLayout(left, 1);
+    myColumns->addLayout(myTexts, 1);
     myColumns->addLayout(myDrawings, 1);
     auto *content = new QWidget;
     auto *layout = new QVBoxLayout(content);
@@ -78,6 +70,7 @@ void ProductView::setProduct(const CataloguePointer &catalogue, int product)
     myOptions->setProduct(values);
     myDrawings->setStretchFactor(mySpine, mySpine->isDrawn() ? 1 : 0);
     myDrawings->setStretchFactor(myPage, myPage->isDrawn() ? 1 : 0);
+    arrangeColumns();
 }
 
 void ProductView::updateProduct(const CataloguePointer &catalogue, int product)
@@ -92,7 +85,15 @@ void ProductView::updateProduct(const CataloguePointer &catalogue, int product)
 void ProductView::resizeEvent(QResizeEvent *event)
 {
     QScrollArea::resizeEvent(event);
-    const bool isWide = event->size().width() >= TWO_COLUMNS * fontMetrics().averageCharWidth();
+    arrangeColumns();
+}
+
+void ProductView::arrangeColumns()
+{
+    const QMargins edges = widget()->layout()->contentsMargins();
+    const int needed = edges.left() + myTexts->minimumSize().width() + myColumns->spacing()
+            + myDrawings->minimumSize().width() + edges.right();
+    const bool isWide = needed <= viewport()->width();
     myColumns->setDirection(isWide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
 }
 

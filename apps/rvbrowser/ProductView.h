@@ -34,10 +34,13 @@ protected:
 private:
     void showHeader(const LoadedCatalogue &catalogue, int product);
     void showOrderLines();
+    /// Two columns where both have room, else one below the other.
+    void arrangeColumns();
 
     QLabel *myTitle;
     QLabel *myNote;
     QBoxLayout *myColumns;
+    QVBoxLayout *myTexts;
     QVBoxLayout *myDrawings;
     AttributePanel *myAttributes;
     PagePanel *myPage;

@@ -16,7 +16,7 @@ public:
     void setTable(const SpineTable &table);
     void setRow(int row);
 
-    QSize sizeHint() const override { return { 380, 135 }; }
+    QSize sizeHint() const override { return { 380, 160 }; }
     QSize minimumSizeHint() const override { return { 240, 125 }; }
 
 protected:

@@ -22,7 +22,7 @@ public:
     /// Draws nothing.
     void clear();
 
-    QSize sizeHint() const override { return { 130, 135 }; }
+    QSize sizeHint() const override { return { 130, 160 }; }
     QSize minimumSizeHint() const override { return { 90, 125 }; }
 
 protected:

@@ -17,6 +17,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QPlainTextEdit>
 #include <QProcess>
 #include <QPushButton>
 #include <QScrollArea>
@@ -198,7 +199,7 @@ void tst_rvbrowser::keepsEveryCharacter()
     QCOMPARE(product.options.size(), 1);
     QCOMPARE(product.options.constFirst().value(), u"v&<\""_s);
     QCOMPARE(product.options.constFirst().visibleName(), u"é\n"_s);
-    QCOMPARE(find<QLineEdit>(u"projectFile"_s)->text(), u"k:v&<\""_s);
+    QCOMPARE(find<QPlainTextEdit>(u"projectFile"_s)->toPlainText(), u"k:v&<\""_s);
 }
 
 void tst_rvbrowser::searches_data()
@@ -331,7 +332,7 @@ void tst_rvbrowser::optionsAndOrderLines()
     QVERIFY(!box->itemData(0, Qt::DecorationRole).isValid());
 
     const auto pieces = [this](const QString &line, QChar separator) {
-        QStringList result = find<QLineEdit>(line)->text().split(separator);
+        QStringList result = find<QPlainTextEdit>(line)->toPlainText().split(separator);
         result.sort();
         return result;
     };
@@ -344,8 +345,13 @@ void tst_rvbrowser::optionsAndOrderLines()
     QCOMPARE(pieces(u"orderText"_s, u';'), single);
     QCOMPARE(text(u"optionNames"_s), u"Farbe: Rot · Box: Holz"_s);
 
+    // What is longer than its field is broken, not cut off.
+    myWindow->resize(800, 500);
+    const QPlainTextEdit *line = find<QPlainTextEdit>(u"projectFile"_s);
+    QTRY_VERIFY(line->height() > line->fontMetrics().lineSpacing() * line->document()->size().height());
+
     QVERIFY(myWindow->showType(RVProductType(u"VIR1"_s)));
-    QCOMPARE(find<QLineEdit>(u"projectFile"_s)->text(), QString());
+    QCOMPARE(line->toPlainText(), QString());
     QVERIFY(!find<QComboBox>(u"option alcolor"_s));
 }
 
@@ -364,7 +370,7 @@ void tst_rvbrowser::copies()
     load(CATALOGUE);
     QFETCH(QString, line);
     QFETCH(Qt::Key, key);
-    const QString expected = find<QLineEdit>(line)->text();
+    const QString expected = find<QPlainTextEdit>(line)->toPlainText();
     QVERIFY(expected.contains("alcolor:black"_L1));
     QApplication::clipboard()->clear();
     QTest::mouseClick(find<QPushButton>("copy "_L1 + line), Qt::LeftButton);
@@ -602,14 +608,26 @@ void tst_rvbrowser::manyProductsStayUsable()
 // Where there is no room for two columns, nothing is cut off: the product can be scrolled down, but not sideways.
 void tst_rvbrowser::narrowWindow()
 {
+    myWindow.reset();
+    Language german;
+    german.speak(QLocale(QLocale::German)); // whose words are longer
+    myWindow = std::make_unique<MainWindow>();
+    myWindow->show();
     load(CATALOGUE);
     auto *view = find<QScrollArea>(u"productView"_s);
-    for (const QSize size : { QSize(1280, 800), QSize(1000, 640), QSize(800, 500), QSize(1920, 1080) }) {
+    for (const QSize size : { QSize(800, 500), QSize(1000, 640), QSize(1100, 900), QSize(1150, 700), QSize(1200, 900),
+                              QSize(1280, 800), QSize(1920, 1080) }) {
         myWindow->resize(size);
-        QTest::qWait(50);
+        QTest::qWait(100);
         QCOMPARE(myWindow->size(), size);
         QVERIFY2(view->widget()->width() <= view->viewport()->width(), qPrintable(QString::number(size.width())));
     }
+    const auto left = [this](const QString &name) { return find<QWidget>(name)->mapTo(myWindow.get(), QPoint()).x(); };
+    QVERIFY(left(u"pageDrawing"_s) > left(u"projectFile"_s)); // two columns
+    myWindow->resize(800, 500);
+    QTRY_VERIFY(left(u"pageDrawing"_s) < left(u"projectFile"_s));
+    myWindow.reset();
+    QLocale::setDefault(QLocale(QLocale::English));
 }
 
 void tst_rvbrowser::models()
