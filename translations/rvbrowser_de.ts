@@ -310,6 +310,10 @@ Zeigt Kataloge von Druckprodukten.</translation>
         <source>%1 mm</source>
         <translation>%1 mm</translation>
     </message>
+    <message>
+        <source>Page with bleed, usable area and barcodes, drawn to scale</source>
+        <translation>Seite mit Beschnitt, nutzbarer Fläche und Barcodes, maßstäblich gezeichnet</translation>
+    </message>
 </context>
 <context>
     <name>PagePanel</name>
@@ -446,10 +450,25 @@ Zeigt Kataloge von Druckprodukten.</translation>
     </message>
 </context>
 <context>
+    <name>SpineCurve</name>
+    <message>
+        <source>Spine width over the page count</source>
+        <translation>Rückenbreite über der Seitenzahl</translation>
+    </message>
+</context>
+<context>
     <name>SpineDrawing</name>
     <message>
         <source>%1 mm</source>
         <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>Spine, drawn to scale</source>
+        <translation>Rücken, maßstäblich gezeichnet</translation>
+    </message>
+    <message>
+        <source>%1 mm wide</source>
+        <translation>%1 mm breit</translation>
     </message>
 </context>
 <context>

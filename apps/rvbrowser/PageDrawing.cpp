@@ -29,6 +29,7 @@ QString millimetres(int tenths)
 PageDrawing::PageDrawing(QWidget *parent) : QWidget(parent)
 {
     setObjectName(u"pageDrawing"_s);
+    setAccessibleName(tr("Page with bleed, usable area and barcodes, drawn to scale"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 

@@ -9,6 +9,7 @@ using namespace Qt::StringLiterals;
 SpineCurve::SpineCurve(QWidget *parent) : QWidget(parent)
 {
     setObjectName(u"spineCurve"_s);
+    setAccessibleName(tr("Spine width over the page count"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 

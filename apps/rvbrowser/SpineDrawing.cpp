@@ -25,6 +25,7 @@ constexpr qreal THICK_BOOK = 100;
 SpineDrawing::SpineDrawing(QWidget *parent) : QWidget(parent)
 {
     setObjectName(u"spineDrawing"_s);
+    setAccessibleName(tr("Spine, drawn to scale"));
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
 }
 
@@ -33,6 +34,7 @@ void SpineDrawing::setSpine(const SpineRow &row, qreal sideWidth, qreal widest)
     myRow = row;
     mySideWidth = sideWidth;
     myWidest = widest;
+    setAccessibleDescription(tr("%1 mm wide").arg(QLocale().toString(row.width, 'f', 1)));
     update();
 }
 

@@ -287,6 +287,7 @@ void tst_rvbrowser::changesTheCount()
     QVERIFY(text(u"spineText"_s).startsWith(u"Spine 10.00 mm · font up to "_s));
     QVERIFY(text(u"spineText"_s).endsWith(u" pt · 2 packages, 1 block more"_s));
     QVERIFY(find<QWidget>(u"spineCurve"_s)->grab().toImage() != before);
+    QCOMPARE(find<QWidget>(u"spineDrawing"_s)->accessibleDescription(), u"10.0 mm wide"_s);
     QTest::keyClick(counts, Qt::Key_End);
     QVERIFY(text(u"spineText"_s).startsWith("Spine 25.00 mm"_L1));
 
@@ -451,7 +452,7 @@ void tst_rvbrowser::reloadsAReplacedFile()
 {
     load(CATALOGUE);
     QVERIFY(myWindow->showType(RVProductType(u"VIR1"_s)));
-    for (const QByteArray pages : { "14", "15" }) {
+    for (const QByteArray &pages : { QByteArray("14"), QByteArray("15") }) {
         QByteArray content(CATALOGUE);
         write(u"new.xml"_s, content.replace("pages='13'", "pages='" + pages + "'"));
         QVERIFY(QFile::remove(path(u"c.xml"_s)));
