@@ -113,7 +113,7 @@ private:
     }
     const QString &findEncoding(ENUM value) const;
     template<typename Visitor>
-    static void visitBits(ENUM value, Visitor visit);
+    Q_DECL_HIDDEN static void visitBits(ENUM value, Visitor visit);
     static void warnUndecodable(const QString &keyword);
 
     // What optimize() derives from the two maps.

@@ -39,7 +39,7 @@ mkdir -p "$root"
 
 lib='lib/[a-z0-9_]+-linux-gnu'
 holds librvproductbase0 \
-    "$lib"/lib'RV(Core|XML|ProductBase)\.so\.0(\.1\.0)?' 'share/RVProductBase/translations/rvproductbase_(de|en)\.qm'
+    "$lib"/lib'RV(Core|XML|ProductBase)\.so\.0(\.2\.0)?' 'share/RVProductBase/translations/rvproductbase_(de|en)\.qm'
 holds librvproductbase-dev \
     "$lib"/lib'RV(Core|XML|ProductBase)\.so' "$lib"/cmake/'RV(TemplateClasses|Core|XML|ProductBase)/RV.*\.cmake' \
     "$lib"/pkgconfig/RVProductBase.pc 'include/RV(TemplateClasses|Core|XML|ProductBase)/RV[A-Za-z]+\.h'
