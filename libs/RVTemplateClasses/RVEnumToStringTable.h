@@ -252,9 +252,7 @@ void RVEnumToStringTable<ENUM>::insert(const QString &keyword, ENUM value)
 template<typename ENUM>
 void RVEnumToStringTable<ENUM>::optimize()
 {
-    myIndex = RVKeywordIndex(myKeywords.size());
-    for (auto it = myKeywords.begin(); it != myKeywords.end(); ++it)
-        myIndex.insert(it.key(), qint64(it.value()));
+    myIndex = RVKeywordIndex(myKeywords);
     for (auto it = myEncodings.begin(); it != myEncodings.end(); ++it) {
         const auto bits = UnsignedBits(it.key());
         if (qPopulationCount(bits) != 1)

@@ -109,13 +109,12 @@ public:
     /// Inverts every bit that is set in @p other; none for a value below 1.
     RVEnumWrapper &toggleBits(const RVEnumWrapper &other);
 
-    // Counting and toggling build the table too, as every question about single bits does.
     /// Number of set bits; 0 for a negative value.
-    int countBits() const { return enumToStringTable(), bits() < 1 ? 0 : int(qPopulationCount(quint64(bits()))); }
+    int countBits() const { return preparedBits() < 1 ? 0 : int(qPopulationCount(quint64(bits()))); }
     /// True for one set bit; never for a negative value.
-    bool hasExactlyOneBit() const { return enumToStringTable(), bits() > 0 && (bits() & (bits() - 1)) == 0; }
+    bool hasExactlyOneBit() const { return preparedBits() > 0 && (bits() & (bits() - 1)) == 0; }
     /// True for two or more set bits; never for a negative value.
-    bool isConglumerate() const { return enumToStringTable(), bits() > 0 && (bits() & (bits() - 1)) != 0; }
+    bool isConglumerate() const { return preparedBits() > 0 && (bits() & (bits() - 1)) != 0; }
     /// The single bits, in no particular order; empty for a value below 1.
     QSet<E> splitToBits() const;
     /// The single bits, lowest first; empty for a value below 1.
@@ -152,6 +151,12 @@ private:
     using Bits = std::make_signed_t<std::underlying_type_t<E>>;
 
     Bits bits() const noexcept { return Bits(myValue); }
+    /// The same, for questions about single bits: they build the table, as those about keywords do.
+    Bits preparedBits() const
+    {
+        enumToStringTable();
+        return bits();
+    }
     RVEnumWrapper &assign(Bits bits) noexcept
     {
         myValue = E(bits);
@@ -173,8 +178,7 @@ E RVEnumWrapper<E>::setValue(const QString &text)
 template<typename E>
 RVEnumWrapper<E> &RVEnumWrapper<E>::toggleBits(const RVEnumWrapper &other)
 {
-    other.enumToStringTable();
-    for (Bits rest = other.bits(); rest > 0; rest &= rest - 1) {
+    for (Bits rest = other.preparedBits(); rest > 0; rest &= rest - 1) {
         const E bit = E(rest & -rest);
         setBit(bit, !matches(bit));
     }

@@ -1,7 +1,9 @@
 #ifndef RVKEYWORDINDEX_H
 #define RVKEYWORDINDEX_H
 
+#include <QHash>
 #include <QList>
+#include <QString>
 #include <QStringView>
 #include <QtMath>
 
@@ -23,16 +25,16 @@ public:
     /// In UTF-16 code units.
     static constexpr qsizetype LONGEST = 32;
 
-    /// With room for so many keywords. To insert more is an error of the caller, and look-ups may not end.
-    explicit RVKeywordIndex(qsizetype keywords = 0);
-
-    /// Adds a keyword that it does not know yet; does nothing with one that it does not cover.
-    void insert(QStringView keyword, qint64 value);
+    /// Without keywords.
+    RVKeywordIndex() = default;
+    /// The keywords that it covers, which may be in any letter case but not differ in it alone.
+    template<typename ENUM>
+    explicit RVKeywordIndex(const QHash<QString, ENUM> &keywords);
 
     /// The value of the keyword; null for one that it does not know. Any number of threads may ask.
     const qint64 *find(QStringView keyword) const noexcept;
 
-    /// True for ASCII texts of up to LONGEST letters, once there is room for a keyword.
+    /// True for ASCII texts of up to LONGEST letters; for none where it was made without keywords.
     bool covers(QStringView keyword) const noexcept;
 
 private:
@@ -55,20 +57,25 @@ private:
     static quint64 lowerCase(quint64 word) noexcept;
     static qsizetype wordCount(QStringView text) noexcept { return (text.size() + 3) / 4; }
     qsizetype position(QStringView keyword) const noexcept;
+    void insert(QStringView keyword, qint64 value);
 
     QList<Slot> mySlots; // as many as a power of two, half of them or more free
 };
 
-inline RVKeywordIndex::RVKeywordIndex(qsizetype keywords)
+template<typename ENUM>
+RVKeywordIndex::RVKeywordIndex(const QHash<QString, ENUM> &keywords)
 {
-    if (keywords > 0)
-        mySlots.resize(qsizetype(qNextPowerOfTwo(quint64(keywords) * 2 - 1)));
+    if (keywords.isEmpty())
+        return;
+    mySlots.resize(qsizetype(qNextPowerOfTwo(quint64(keywords.size()) * 2 - 1)));
+    for (auto it = keywords.begin(); it != keywords.end(); ++it) {
+        if (covers(it.key()))
+            insert(it.key(), qint64(it.value()));
+    }
 }
 
 inline void RVKeywordIndex::insert(QStringView keyword, qint64 value)
 {
-    if (!covers(keyword))
-        return;
     Slot &slot = mySlots[position(keyword)];
     for (qsizetype i = 0; i < wordCount(keyword); ++i)
         slot.words[i] = lowerCase(word(keyword, i));
