@@ -1,5 +1,6 @@
 // A catalogue, read as "rvcatalog show" reads it: product by product, out of a stream.
 #include "CommandRunner.h"
+#include "ElementText.h"
 #include "Properties.h"
 
 #include <CatalogueChecker.h>
@@ -52,21 +53,6 @@ void checkProduct(const QDomElement &element)
     CHECK(again.barcodes == product.barcodes);
 }
 
-/// The element with its attributes and with all elements in it.
-QString describe(const QDomElement &element)
-{
-    QStringList attributes;
-    for (int i = 0; i < element.attributes().size(); ++i) {
-        const QDomAttr attribute = element.attributes().item(i).toAttr();
-        attributes += attribute.name() + u'=' + attribute.value();
-    }
-    attributes.sort();
-    QString result = u'<' + element.tagName() + u' ' + attributes.join(u' ');
-    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement())
-        result += describe(child);
-    return result + u'>';
-}
-
 // The readers of batches must find what the readers of documents find.
 void checkBatchProduct(const CatalogueElement &element)
 {
@@ -99,9 +85,8 @@ Reading readBatches(QIODevice *device)
     Reading result;
     for (CatalogueBatch batch; reader.read(&batch, 100); batch = CatalogueBatch()) {
         for (int i = 0; i < batch.size(); ++i) {
-            QDomDocument document;
             checkBatchProduct(batch.at(i));
-            result.products += describe(batch.at(i).deepCopy(&document));
+            result.products += describe(batch.at(i));
             result.lines += batch.at(i).position().line;
         }
     }

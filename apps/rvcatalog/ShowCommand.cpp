@@ -6,6 +6,7 @@
 
 #include <QCommandLineParser>
 #include <QFile>
+#include <QMap>
 #include <QTextStream>
 
 #include <cstdio>
@@ -67,13 +68,12 @@ QString fontText(const CatalogueProduct &product)
 QStringList optionTexts(const CatalogueProduct &product)
 {
     const RVArticleVariants defaults = product.options.defaultVariants();
+    QMap<QString, QStringList> valuesByKey;
+    for (const RVConfiguredArticleVariant &option : product.options)
+        valuesByKey[option.key()] += option.value() + (defaults.value(option.key()) == option.value() ? "*"_L1 : ""_L1);
     QStringList result;
-    for (const QString &key : product.options.keys()) {
-        QStringList values;
-        for (const RVConfiguredArticleVariant &option : product.options.filter(key))
-            values += option.value() + (defaults.value(key) == option.value() ? "*"_L1 : ""_L1);
-        result += key + ": "_L1 + values.join(", "_L1);
-    }
+    for (auto it = valuesByKey.constBegin(); it != valuesByKey.constEnd(); ++it)
+        result += it.key() + ": "_L1 + it.value().join(", "_L1);
     return result;
 }
 

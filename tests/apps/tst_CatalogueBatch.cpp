@@ -1,3 +1,4 @@
+#include "ElementText.h"
 #include "RandomCatalogue.h"
 
 #include <BatchPipeline.h>
@@ -14,27 +15,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The element with its attributes and with all elements in it.
-QString describe(const QDomElement &element)
-{
-    QStringList attributes;
-    for (int i = 0; i < element.attributes().size(); ++i) {
-        const QDomAttr attribute = element.attributes().item(i).toAttr();
-        attributes += attribute.name() + u'=' + attribute.value();
-    }
-    attributes.sort();
-    QString result = u'<' + element.tagName() + u' ' + attributes.join(u' ');
-    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement())
-        result += describe(child);
-    return result + u'>';
-}
-
-QString describe(const CatalogueElement &element)
-{
-    QDomDocument document;
-    return describe(element.deepCopy(&document));
-}
 
 QByteArray randomProducts(quint32 seed, int count)
 {
