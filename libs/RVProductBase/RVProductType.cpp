@@ -79,7 +79,8 @@ QString RVProductType::orderTxtName() const
 // Equal hashes nearly always mean equal names, and plain equality is quicker to tell.
 bool RVProductType::hasNameOf(const RVProductType &other) const
 {
-    return myName == other.myName || myName.compare(other.myName, Qt::CaseInsensitive) == 0;
+    return isValid() == other.isValid()
+            && (myName == other.myName || myName.compare(other.myName, Qt::CaseInsensitive) == 0);
 }
 
 bool operator<(const RVProductType &a, const RVProductType &b)

@@ -52,7 +52,7 @@ public:
     /// @{
     friend bool operator==(const RVProductType &a, const RVProductType &b)
     {
-        return a.myHashValue == b.myHashValue && a.isValid() == b.isValid() && (a.sharesTextOf(b) || a.hasNameOf(b));
+        return a.myHashValue == b.myHashValue && (a.sharesTextOf(b) || a.hasNameOf(b));
     }
     friend bool operator!=(const RVProductType &a, const RVProductType &b) { return !(a == b); }
     /// @}
@@ -65,8 +65,9 @@ private:
     /// The same type, without a part in the ownership of its text: good for a look-up while @p type lives.
     static RVProductType borrow(const RVProductType &type)
     {
+        const QString::DataPointer &text = type.myName.data_ptr();
         RVProductType borrowed;
-        borrowed.myName = QString::fromRawData(type.myName.constData(), type.myName.size());
+        borrowed.myName = QString(QString::DataPointer::fromRawData(text.data(), text.size));
         borrowed.myHashValue = type.myHashValue;
         return borrowed;
     }
