@@ -1,0 +1,203 @@
+#include <CatalogueLoader.h>
+
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray catalogue(int products)
+{
+    QByteArray content("<products>\n");
+    for (int i = 0; i < products; ++i)
+        content += "<product type='T" + QByteArray::number(i) + "' article_id='" + QByteArray::number(i + 1)
+                + "' article_class='book' cover_type='hardcovers' pages='26' max_pages='154' page_step='4'/>\n";
+    return content + "</products>\n";
+}
+
+constexpr int MANY = 20000;
+constexpr int TIMEOUT = 60000; // ms
+
+}
+
+/// The thread in which the window loads catalogues, without the window.
+class tst_CatalogueLoader : public QObject
+{
+    Q_OBJECT
+
+private:
+    QString write(const QByteArray &content);
+
+    std::unique_ptr<QTemporaryDir> myFolder;
+    int myFiles = 0;
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void loads();
+    void reportsItsProgress();
+    void failsWhereTheFileIsBroken();
+    void failsWithoutAFile();
+    void cancels();
+    void cancelsNothing();
+    void givesUpForAnother();
+    void giveUpsAreSilent();
+    void endsWhileLoading();
+};
+
+QString tst_CatalogueLoader::write(const QByteArray &content)
+{
+    const QString fileName = myFolder->filePath(QString::number(++myFiles) + u".xml"_s);
+    QFile file(fileName);
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? fileName : QString();
+}
+
+void tst_CatalogueLoader::init()
+{
+    myFolder = std::make_unique<QTemporaryDir>();
+    QVERIFY(myFolder->isValid());
+}
+
+void tst_CatalogueLoader::cleanup()
+{
+    myFolder.reset();
+}
+
+// What the thread has made is read by this one: every product and every finding.
+void tst_CatalogueLoader::loads()
+{
+    const QString fileName = write(catalogue(300));
+    CatalogueLoader loader;
+    CataloguePointer loaded;
+    connect(&loader, &CatalogueLoader::loaded, this, [&](const CataloguePointer &catalogue) { loaded = catalogue; });
+    for (int turn = 0; turn < 3; ++turn) {
+        loader.start(fileName);
+        QVERIFY(loader.isLoading());
+        QTRY_VERIFY_WITH_TIMEOUT(loaded, TIMEOUT);
+        QVERIFY(!loader.isLoading());
+        QCOMPARE(loaded->fileName(), fileName);
+        QCOMPARE(loaded->size(), 300);
+        for (int i = 0; i < loaded->size(); ++i) {
+            QCOMPARE(loaded->at(i).type, RVProductType(u"T"_s + QString::number(i)));
+            QCOMPARE(loaded->at(i).position.line, i + 2);
+            QCOMPARE(loaded->product(i).articleId.toString(), QString::number(i + 1));
+        }
+        QCOMPARE(loaded->findings().size(), 300); // no cover is of the type "hardcovers"
+        loaded.reset();
+    }
+}
+
+void tst_CatalogueLoader::reportsItsProgress()
+{
+    CatalogueLoader loader;
+    QSignalSpy progressed(&loader, &CatalogueLoader::progressed);
+    QSignalSpy loaded(&loader, &CatalogueLoader::loaded);
+    loader.start(write(catalogue(MANY)));
+    QVERIFY(loaded.wait(TIMEOUT));
+    QVERIFY(progressed.size() > 2);
+    int before = -1;
+    for (const QList<QVariant> &arguments : std::as_const(progressed)) {
+        QVERIFY(arguments.at(0).toInt() > before);
+        before = arguments.at(0).toInt();
+    }
+    QCOMPARE(before, 100);
+}
+
+void tst_CatalogueLoader::failsWhereTheFileIsBroken()
+{
+    const QString fileName = write(catalogue(20).chopped(30));
+    CatalogueLoader loader;
+    LoadError error;
+    connect(&loader, &CatalogueLoader::failed, this, [&](const LoadError &failure) { error = failure; });
+    loader.start(fileName);
+    QTRY_VERIFY_WITH_TIMEOUT(!loader.isLoading(), TIMEOUT);
+    QCOMPARE(error.fileName, fileName);
+    QVERIFY(error.position);
+    QCOMPARE(error.position->line, 21);
+    QCOMPARE(error.text, u"the file ends too early"_s);
+}
+
+void tst_CatalogueLoader::failsWithoutAFile()
+{
+    CatalogueLoader loader;
+    LoadError error;
+    connect(&loader, &CatalogueLoader::failed, this, [&](const LoadError &failure) { error = failure; });
+    loader.start(myFolder->filePath(u"missing.xml"_s));
+    QTRY_VERIFY_WITH_TIMEOUT(!loader.isLoading(), TIMEOUT);
+    QVERIFY(!error.position);
+    QCOMPARE(error.text, u"cannot open the file: No such file or directory"_s);
+}
+
+void tst_CatalogueLoader::cancels()
+{
+    CatalogueLoader loader;
+    QSignalSpy progressed(&loader, &CatalogueLoader::progressed);
+    QSignalSpy loaded(&loader, &CatalogueLoader::loaded);
+    QSignalSpy cancelled(&loader, &CatalogueLoader::cancelled);
+    loader.start(write(catalogue(MANY)));
+    QVERIFY(progressed.wait(TIMEOUT));
+    loader.cancel();
+    QVERIFY(cancelled.wait(TIMEOUT));
+    QVERIFY(!loader.isLoading());
+    QCOMPARE(loaded.size(), 0);
+}
+
+void tst_CatalogueLoader::cancelsNothing()
+{
+    CatalogueLoader loader;
+    QSignalSpy cancelled(&loader, &CatalogueLoader::cancelled);
+    loader.cancel();
+    QVERIFY(!loader.isLoading());
+    QVERIFY(!cancelled.wait(20));
+}
+
+void tst_CatalogueLoader::givesUpForAnother()
+{
+    const QString small = write(catalogue(3));
+    CatalogueLoader loader;
+    QSignalSpy loaded(&loader, &CatalogueLoader::loaded);
+    loader.start(write(catalogue(MANY)));
+    loader.start(small);
+    QVERIFY(loaded.wait(TIMEOUT));
+    QCOMPARE(loaded.size(), 1);
+    QCOMPARE(loaded.at(0).at(0).value<CataloguePointer>()->fileName(), small);
+}
+
+void tst_CatalogueLoader::giveUpsAreSilent()
+{
+    CatalogueLoader loader;
+    QSignalSpy cancelled(&loader, &CatalogueLoader::cancelled);
+    QSignalSpy failed(&loader, &CatalogueLoader::failed);
+    QSignalSpy loaded(&loader, &CatalogueLoader::loaded);
+    const QString big = write(catalogue(MANY));
+    for (int i = 0; i < 10; ++i)
+        loader.start(big);
+    loader.start(write(catalogue(1)));
+    QVERIFY(loaded.wait(TIMEOUT));
+    QTest::qWait(100); // for the others to end
+    QCOMPARE(loaded.size(), 1);
+    QCOMPARE(failed.size(), 0);
+    QCOMPARE(cancelled.size(), 0);
+}
+
+// The threads hold nothing of the loader when it is gone, and their files can be removed.
+void tst_CatalogueLoader::endsWhileLoading()
+{
+    const QString fileName = write(catalogue(MANY));
+    for (int milliseconds = 0; milliseconds < 20; milliseconds += 4) {
+        CatalogueLoader loader;
+        loader.start(fileName);
+        QTest::qWait(milliseconds);
+        QVERIFY(loader.isLoading());
+    }
+    QVERIFY(QFile::remove(fileName));
+}
+
+QTEST_MAIN(tst_CatalogueLoader)
+#include "tst_CatalogueLoader.moc"
