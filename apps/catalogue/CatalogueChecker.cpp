@@ -25,22 +25,32 @@ public:
 
     void check(const CheckedProduct &product, qint64 number)
     {
-        if (product.type.isValid()) {
-            const QString family = product.type.toString() == product.typeText
-                    ? QString()
-                    : u", that is %1,"_s.arg(quoted(product.type.toString()));
-            find(&myTypes, quint64(product.type.calcHashValue()), Rule::TypeDuplicate, product, number,
-                 u"the type "_s + quoted(product.typeText) + family);
-        }
+        if (product.type.isValid())
+            find(&myTypes, quint64(product.type.calcHashValue()), Rule::TypeDuplicate, product, number, typeText);
         if (product.articleId != 0)
-            find(&myArticleIds, product.articleId, Rule::ArticleIdDuplicate, product, number,
-                 u"the article id %1"_s.arg(product.articleId));
+            find(&myArticleIds, product.articleId, Rule::ArticleIdDuplicate, product, number, articleIdText);
     }
 
 private:
+    using Text = QString (*)(const CheckedProduct &product, const QString &line);
+
+    static QString typeText(const CheckedProduct &product, const QString &line)
+    {
+        const QString family = product.type.toString();
+        if (product.typeText == family)
+            return FindingText::tr("the type %1 is already that of the product in line %2").arg(quoted(family), line);
+        return FindingText::tr("the type %1, that is %2, is already that of the product in line %3")
+                .arg(quoted(product.typeText), quoted(family), line);
+    }
+
+    static QString articleIdText(const CheckedProduct &product, const QString &line)
+    {
+        return FindingText::tr("the article id %1 is already that of the product in line %2")
+                .arg(QString::number(product.articleId), line);
+    }
+
     template<typename Id>
-    void find(QHash<Id, SmallPosition> *seen, Id id, Rule rule, const CheckedProduct &product, qint64 number,
-              const QString &what)
+    void find(QHash<Id, SmallPosition> *seen, Id id, Rule rule, const CheckedProduct &product, qint64 number, Text text)
     {
         const auto known = seen->constFind(id);
         if (known == seen->constEnd()) {
@@ -49,8 +59,8 @@ private:
         }
         const CatalogueRule &broken = catalogueRule(rule);
         if (!myDisabledRules.contains(broken.name))
-            myTake({ product.position, broken.severity,
-                     what + u" is already that of the product in line %1"_s.arg(known->line), broken.name, number });
+            myTake({ product.position, broken.severity, text(product, QString::number(known->line)), broken.name,
+                     number });
     }
 
     const QSet<QString> &myDisabledRules;
@@ -91,7 +101,7 @@ CatalogueCheckResult CatalogueChecker::check(QIODevice *device, const Take &take
     } else if (result.products == 0) {
         const CatalogueRule &rule = catalogueRule(Rule::ProductsMissing);
         if (!myDisabledRules.contains(rule.name))
-            take({ FilePosition(), rule.severity, u"there is no product in this file"_s, rule.name });
+            take({ FilePosition(), rule.severity, FindingText::tr("there is no product in this file"), rule.name });
     }
     return result;
 }

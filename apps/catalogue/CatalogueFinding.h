@@ -21,7 +21,9 @@ struct CatalogueRule
 {
     QLatin1StringView name; ///< such as "keyword-unknown"; stays the same from version to version
     FindingSeverity severity; ///< of its findings
-    QLatin1StringView reason; ///< one sentence on why it matters
+    const char *reason; ///< one sentence on why it matters, in English
+
+    QString translatedReason() const;
 };
 
 /// Every rule, grouped by subject.

@@ -21,18 +21,19 @@ qint64 BoundedInput::readData(char *data, qint64 maxSize)
     if (!myRefusal.isEmpty())
         return 0;
     if (myPieceSize >= LIMIT) {
-        myRefusal = u"an element, text, comment or declaration is larger than 1 MiB"_s;
+        myRefusal = CatalogueReader::tr("an element, text, comment or declaration is larger than 1 MiB");
         return 0;
     }
     qint64 size = readSource(data, qMin(maxSize, LIMIT - myPieceSize));
     if (size < 0) {
         // A device that has come to its end may say so in this way too.
         if (!mySource->atEnd())
-            myRefusal = u"cannot read on: "_s + mySource->errorString();
+            myRefusal = CatalogueReader::tr("cannot read on: %1").arg(mySource->errorString());
         return 0;
     }
     if (myInProlog)
         size = sizeBeforeEntity(data, size);
+    myUtf8Check.read({ data, size });
     myPieceSize += size;
     myTotalSize += size;
     return size;
@@ -72,7 +73,7 @@ qint64 BoundedInput::sizeBeforeEntity(const char *data, qint64 size)
             continue;
         myProlog += data[i];
         if (myProlog.endsWith(ENTITY_DECLARATION)) {
-            myRefusal = u"entity declarations are not supported"_s;
+            myRefusal = CatalogueReader::tr("entity declarations are not supported");
             return i + 1;
         }
     }
@@ -133,10 +134,23 @@ QString CatalogueReader::errorString() const
     if (!myInput.refusal().isEmpty())
         return myInput.refusal();
     if (myInput.totalSize() == 0)
-        return u"the file is empty"_s;
+        return tr("the file is empty");
+    if (encodingFault())
+        return tr("this is not encoded in UTF-8, as files are that do not say otherwise in their first line");
     if (myXml.error() == QXmlStreamReader::PrematureEndOfDocumentError)
-        return u"the file ends too early"_s;
+        return tr("the file ends too early");
     return myXml.errorString().simplified();
+}
+
+FilePosition CatalogueReader::errorPosition() const
+{
+    return encodingFault().value_or(currentPosition());
+}
+
+// The parser decodes far ahead of what it parses, and stops there: in the tag before, or as if the file ended.
+std::optional<FilePosition> CatalogueReader::encodingFault() const
+{
+    return myIsUtf8 && myInput.refusal().isEmpty() ? myInput.utf8Fault() : std::nullopt;
 }
 
 bool CatalogueReader::findElement()
@@ -169,16 +183,20 @@ QXmlStreamReader::TokenType CatalogueReader::readToken()
 {
     const auto token = myXml.readNext();
     switch (token) {
+    case QXmlStreamReader::StartDocument:
+        myIsUtf8 = myXml.documentEncoding().isEmpty()
+                || myXml.documentEncoding().compare("UTF-8"_L1, Qt::CaseInsensitive) == 0;
+        break;
     case QXmlStreamReader::StartElement:
         myInput.leaveProlog();
         if (++myDepth > DEEPEST_LEVEL)
-            myXml.raiseError(u"elements are nested deeper than %1 levels"_s.arg(DEEPEST_LEVEL));
+            myXml.raiseError(tr("elements are nested deeper than %1 levels").arg(DEEPEST_LEVEL));
         break;
     case QXmlStreamReader::EndElement:
         --myDepth;
         break;
     case QXmlStreamReader::EntityReference:
-        myXml.raiseError(u"the entity \"%1\" is not declared"_s.arg(myXml.name()));
+        myXml.raiseError(tr("the entity \"%1\" is not declared").arg(myXml.name()));
         break;
     default:
         break;

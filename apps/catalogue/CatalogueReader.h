@@ -3,11 +3,15 @@
 
 #include "CatalogueBatch.h"
 #include "FilePosition.h"
+#include "Utf8Check.h"
 
+#include <QCoreApplication>
 #include <QDomDocument>
 #include <QIODevice>
 #include <QString>
 #include <QXmlStreamReader>
+
+#include <optional>
 
 /// Passes a device on to the parser, but not without bound: neither more than `LIMIT` bytes for one piece of the
 /// file, nor the declaration of an entity.
@@ -26,6 +30,8 @@ public:
     /// Why the input ended before its time; empty while it did not.
     QString refusal() const { return myRefusal; }
     qint64 totalSize() const { return myTotalSize; }
+    /// The first place that was not UTF-8 in what was read.
+    std::optional<FilePosition> utf8Fault() const { return myUtf8Check.fault(); }
 
 protected:
     qint64 readData(char *data, qint64 maxSize) override;
@@ -39,6 +45,7 @@ private:
     QIODevice *mySource;
     QByteArray myProlog; // what was read of it, without the zero bytes of UTF-16
     QString myRefusal;
+    Utf8Check myUtf8Check;
     qint64 myPieceSize = 0;
     qint64 myTotalSize = 0;
     bool myInProlog = true;
@@ -54,6 +61,8 @@ private:
  */
 class CatalogueReader
 {
+    Q_DECLARE_TR_FUNCTIONS(CatalogueReader)
+
 public:
     /// @p device stays the caller's and outlives the reader.
     CatalogueReader(QIODevice *device, const QString &elementName);
@@ -74,11 +83,12 @@ public:
     qint64 bytesRead() const { return myInput.totalSize(); }
     bool hasError() const { return myXml.hasError(); }
     QString errorString() const;
-    FilePosition errorPosition() const { return currentPosition(); }
+    FilePosition errorPosition() const;
 
 private:
     FilePosition currentPosition() const;
     FilePosition nextPosition() const;
+    std::optional<FilePosition> encodingFault() const;
     bool findElement();
     QXmlStreamReader::TokenType readToken();
     QDomElement appendElement(QDomNode parent);
@@ -91,6 +101,7 @@ private:
     QDomDocument myDocument;
     FilePosition myPosition;
     int myDepth = 0;
+    bool myIsUtf8 = true; // as declared
 };
 
 #endif

@@ -25,39 +25,45 @@ QLatin1StringView severityName(FindingSeverity severity)
     return "error"_L1;
 }
 
+QString CatalogueRule::translatedReason() const
+{
+    return FindingText::tr(reason);
+}
+
 const QList<CatalogueRule> &catalogueRules()
 {
     // clang-format off
     static const QList<CatalogueRule> theRules = {
-        { "products-missing"_L1, ERROR, "A file without a product is no catalogue: nothing of it can be ordered."_L1 },
-        { "type-missing"_L1, ERROR, "Projects find their product by its type, so one without a type cannot be ordered."_L1 },
-        { "type-duplicate"_L1, ERROR, "Of two products of one type the application only ever finds the first, and the codes of a photo book family are one type."_L1 },
-        { "article-id-missing"_L1, ERROR, "Shop and production know an article by its id."_L1 },
-        { "article-id-invalid"_L1, ERROR, "An article id is a whole number above 0; anything else is read as no id."_L1 },
-        { "article-id-duplicate"_L1, ERROR, "Two products with one article id are the same article to shop and production."_L1 },
-        { "shipping-group-invalid"_L1, ERROR, "A shipping group that is no whole number from 0 is read as none, so the product is shipped with nothing else."_L1 },
-        { "number-invalid"_L1, ERROR, "What cannot be read as a number silently becomes the default."_L1 },
-        { "boolean-invalid"_L1, ERROR, "What is none of true, false, 1, 0, yes, no, on and off silently becomes the default."_L1 },
-        { "unit-unknown"_L1, ERROR, "Lengths in an unknown unit are read as millimetres."_L1 },
-        { "keyword-unknown"_L1, ERROR, "A keyword that nobody knows silently becomes the default of its attribute."_L1 },
-        { "keyword-legacy"_L1, NOTE, "An alias is still read, but a program that writes the value uses its main keyword."_L1 },
-        { "page-counts-reversed"_L1, ERROR, "With a lowest page count above the highest no count can be chosen."_L1 },
-        { "page-counts-invalid"_L1, ERROR, "Without valid page counts the product cannot be ordered."_L1 },
-        { "page-step-misses-highest"_L1, WARNING, "The highest page count can never be reached when the steps do not meet it."_L1 },
-        { "spine-missing"_L1, ERROR, "A glued or lay-flat book has a spine, and without its widths the cover is made too narrow."_L1 },
-        { "spine-negative"_L1, ERROR, "A spine that has a negative width, or grows backwards, comes out too narrow."_L1 },
-        { "spine-font-too-small"_L1, WARNING, "Where the spine shrinks until the smallest font no longer fits, its text is cut off."_L1 },
-        { "option-incomplete"_L1, ERROR, "An option without key or value is dropped, so the customer is never offered it."_L1 },
-        { "option-duplicate"_L1, ERROR, "The customer is offered the same choice twice, and only the first has a price."_L1 },
-        { "option-default-twice"_L1, ERROR, "Of several defaults of one key the last one silently wins."_L1 },
-        { "option-default-missing"_L1, WARNING, "Without a default an order comes without the option, or with whichever stands first."_L1 },
-        { "option-color-invalid"_L1, WARNING, "The editor shows no swatch for a colour that it cannot read."_L1 },
-        { "option-composite-mismatch"_L1, ERROR, "Keys that are chosen together need one value each, or production gets none of them."_L1 },
-        { "barcode-invalid"_L1, ERROR, "A barcode without extent or image is dropped, and production cannot tell the product."_L1 },
-        { "barcode-page-impossible"_L1, ERROR, "A barcode on a page that the product cannot have is never printed."_L1 },
-        { "barcode-outside-page"_L1, ERROR, "A barcode that leaves its page is cut off and cannot be read."_L1 },
-        { "barcode-overlap"_L1, ERROR, "Barcodes that overlap cannot be read."_L1 },
-        { "price-class-unknown"_L1, WARNING, "An add-on whose price class belongs to no known group is not counted where add-ons are billed."_L1 },
+        { "products-missing"_L1, ERROR, QT_TRANSLATE_NOOP("FindingText", "A file without a product is no catalogue: nothing of it can be ordered.") },
+        { "type-missing"_L1, ERROR, QT_TRANSLATE_NOOP("FindingText", "Projects find their product by its type, so one without a type cannot be ordered.") },
+        { "type-duplicate"_L1, ERROR, QT_TRANSLATE_NOOP("FindingText", "Of two products of one type the application only ever finds the first, and the codes of a photo book family are one type.") },
+        { "article-id-missing"_L1, ERROR, QT_TRANSLATE_NOOP("FindingText", "Shop and production know an article by its id.") },
+        { "article-id-invalid"_L1, ERROR, QT_TRANSLATE_NOOP("FindingText", "An article id is a whole number above 0; anything else is read as no id.") },
+        { "article-id-duplicate"_L1, ERROR, QT_TRANSLATE_NOOP("FindingText", "Two products with one article id are the same article to shop and production.") },
+        { "shipping-group-invalid"_L1, ERROR, QT_TRANSLATE_NOOP("FindingText", "A shipping group that is no whole number, or -1, is none, so the product is shipped with nothing else.") },
+        { "element-ignored"_L1, ERROR, QT_TRANSLATE_NOOP("FindingText", "Only the first element of each kind in a product is read, so what the others say is lost.") },
+        { "number-invalid"_L1, ERROR, QT_TRANSLATE_NOOP("FindingText", "What cannot be read as a number silently becomes the default.") },
+        { "boolean-invalid"_L1, ERROR, QT_TRANSLATE_NOOP("FindingText", "What is none of true, false, 1, 0, yes, no, on and off silently becomes the default.") },
+        { "unit-unknown"_L1, ERROR, QT_TRANSLATE_NOOP("FindingText", "Lengths in an unknown unit are read as millimetres.") },
+        { "keyword-unknown"_L1, ERROR, QT_TRANSLATE_NOOP("FindingText", "A keyword that nobody knows silently becomes the default of its attribute.") },
+        { "keyword-legacy"_L1, NOTE, QT_TRANSLATE_NOOP("FindingText", "An alias is still read, but a program that writes the value uses its main keyword.") },
+        { "page-counts-reversed"_L1, ERROR, QT_TRANSLATE_NOOP("FindingText", "With a lowest page count above the highest no count can be chosen.") },
+        { "page-counts-invalid"_L1, ERROR, QT_TRANSLATE_NOOP("FindingText", "Without valid page counts the product cannot be ordered.") },
+        { "page-step-misses-highest"_L1, WARNING, QT_TRANSLATE_NOOP("FindingText", "The highest page count can never be reached when the steps do not meet it.") },
+        { "spine-missing"_L1, ERROR, QT_TRANSLATE_NOOP("FindingText", "A glued or lay-flat book has a spine, and without its widths the cover is made too narrow.") },
+        { "spine-negative"_L1, ERROR, QT_TRANSLATE_NOOP("FindingText", "A spine that has a negative width, or grows backwards, comes out too narrow.") },
+        { "spine-font-too-small"_L1, WARNING, QT_TRANSLATE_NOOP("FindingText", "Where the spine shrinks until the smallest font no longer fits, its text is cut off.") },
+        { "option-incomplete"_L1, ERROR, QT_TRANSLATE_NOOP("FindingText", "An option without key or value is dropped, so the customer is never offered it.") },
+        { "option-duplicate"_L1, ERROR, QT_TRANSLATE_NOOP("FindingText", "The customer is offered the same choice twice, and only the first has a price.") },
+        { "option-default-twice"_L1, ERROR, QT_TRANSLATE_NOOP("FindingText", "Of several defaults of one key the last one silently wins.") },
+        { "option-default-missing"_L1, WARNING, QT_TRANSLATE_NOOP("FindingText", "Without a default an order comes without the option, or with whichever stands first.") },
+        { "option-color-invalid"_L1, WARNING, QT_TRANSLATE_NOOP("FindingText", "The editor shows no swatch for a colour that it cannot read.") },
+        { "option-composite-mismatch"_L1, ERROR, QT_TRANSLATE_NOOP("FindingText", "Keys that are chosen together need one value each, or production gets none of them.") },
+        { "barcode-invalid"_L1, ERROR, QT_TRANSLATE_NOOP("FindingText", "A barcode without extent or image is dropped, and production cannot tell the product.") },
+        { "barcode-page-impossible"_L1, ERROR, QT_TRANSLATE_NOOP("FindingText", "A barcode on a page that the product cannot have is never printed.") },
+        { "barcode-outside-page"_L1, ERROR, QT_TRANSLATE_NOOP("FindingText", "A barcode that leaves its page is cut off and cannot be read.") },
+        { "barcode-overlap"_L1, ERROR, QT_TRANSLATE_NOOP("FindingText", "Barcodes that overlap cannot be read.") },
+        { "price-class-unknown"_L1, WARNING, QT_TRANSLATE_NOOP("FindingText", "An add-on whose price class belongs to no known group is not counted where add-ons are billed.") },
     };
     // clang-format on
     return theRules;
@@ -83,7 +89,7 @@ QString quoted(QStringView text)
     if (!shown.isEmpty() && shown.back().isHighSurrogate())
         shown.chop(1);
     for (QChar &character : shown) {
-        if (character < u' ')
+        if (!character.isPrint() && !character.isSurrogate())
             character = u' ';
     }
     return u'"' + shown + (text.size() > longest ? u"…\""_s : u"\""_s);

@@ -3,6 +3,8 @@
 
 #include "CatalogueFinding.h"
 
+#include <QCoreApplication>
+
 /// The rules, in the order of catalogueRules().
 enum class Rule {
     ProductsMissing,
@@ -12,6 +14,7 @@ enum class Rule {
     ArticleIdInvalid,
     ArticleIdDuplicate,
     ShippingGroupInvalid,
+    ElementIgnored,
     NumberInvalid,
     BooleanInvalid,
     UnitUnknown,
@@ -37,6 +40,12 @@ enum class Rule {
 };
 
 const CatalogueRule &catalogueRule(Rule rule);
+
+/// What findings say, in the language of the program: English, unless it has a translation.
+class FindingText
+{
+    Q_DECLARE_TR_FUNCTIONS(FindingText)
+};
 
 /// The text in quotes, on one line and not too long, as findings show what a catalogue says.
 QString quoted(QStringView text);

@@ -46,23 +46,46 @@ const MainKeywords &mainKeywordsOf(QLatin1StringView attribute)
     return *theKeywords.constFind(attribute);
 }
 
-/// Of the keywords that are equally near, the first of the alphabet; none where half of the letters differ.
-QString nearestKeyword(const QString &piece, const MainKeywords &keywords)
+bool isAlias(MainKeywords::const_iterator keyword)
 {
+    return keyword.key() != keyword.value().toLower();
+}
+
+/// Of the keywords that are equally near, a main one, then the first of the alphabet; none where half of the letters
+/// differ.
+MainKeywords::const_iterator nearestKeyword(const QString &piece, const MainKeywords &keywords)
+{
+    auto nearest = keywords.end();
     if (piece.size() > LONGEST_GUESS)
-        return QString();
+        return nearest;
     int best = int(piece.size() + 1) / 2;
-    QString nearest;
     for (auto it = keywords.begin(); it != keywords.end(); ++it) {
         if (qAbs(piece.size() - it.key().size()) > best)
             continue;
         const int distance = editDistance(piece, it.key());
-        if (distance < best || (distance == best && !nearest.isEmpty() && it.key() < nearest)) {
+        const auto rank = [](auto keyword) { return std::pair(isAlias(keyword), keyword.key()); };
+        if (distance < best || (distance == best && nearest != keywords.end() && rank(it) < rank(nearest))) {
             best = distance;
-            nearest = it.key();
+            nearest = it;
         }
     }
-    return keywords.value(nearest);
+    return nearest;
+}
+
+/// In the letter case of a piece that is all lower case, else as it is.
+QString spelledLike(const QString &piece, const QString &keyword)
+{
+    return piece == piece.toLower() ? keyword.toLower() : keyword;
+}
+
+KeywordFault unknownKeyword(const QString &piece, const MainKeywords &keywords)
+{
+    const auto nearest = nearestKeyword(piece.toLower(), keywords);
+    if (nearest == keywords.end())
+        return { piece, QString(), QString(), false };
+    const QString meaning = spelledLike(piece, nearest.value());
+    return isAlias(nearest) ? KeywordFault { piece, nearest.key(), meaning, false }
+                            : KeywordFault { piece, meaning, QString(), false };
 }
 
 }
@@ -87,8 +110,8 @@ QList<KeywordFault> keywordFaults(QLatin1StringView attribute, const QString &li
         const bool isKnown = known != keywords.constEnd();
         if (isKnown && known->toLower() == lower)
             continue;
-        const QString better = isKnown ? *known : nearestKeyword(lower, keywords);
-        result += { piece, piece == lower ? better.toLower() : better, isKnown };
+        result += isKnown ? KeywordFault { piece, spelledLike(piece, *known), QString(), true }
+                          : unknownKeyword(piece, keywords);
         if (result.size() == MOST_FAULTS)
             break;
     }

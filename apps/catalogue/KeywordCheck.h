@@ -12,6 +12,7 @@ struct KeywordFault
     /// The main keyword of the same value; of an unknown piece the keyword that is most like it, empty where none is.
     /// In lower case where the piece is.
     QString betterKeyword;
+    QString meaning; ///< the main keyword of the better one, where that is an alias
     bool isKnown = false; ///< an alias
 };
 

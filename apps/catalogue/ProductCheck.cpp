@@ -11,6 +11,7 @@
 #include <QDomDocument>
 #include <QFont>
 #include <QFontMetrics>
+#include <QLocale>
 #include <QStringList>
 
 #include <algorithm>
@@ -28,7 +29,7 @@ constexpr std::array SPINE_WIDTHS = { "base_width"_L1, "block_width"_L1, "additi
 constexpr std::array BARCODE_LENGTHS = { "position_x"_L1, "position_y"_L1, "width"_L1, "height"_L1 };
 constexpr std::array UNITS = { "mm"_L1, "cm"_L1, "inch"_L1, "in"_L1, "pt"_L1, "point"_L1, "0.1mm"_L1 };
 /// Barcodes are measured in tenths of a millimetre. No printer prints three metres.
-constexpr qint64 SQUARE_CENTIMETRE = 10000;
+constexpr double SQUARE_CENTIMETRE = 10000;
 constexpr int LONGEST_PAGE = 30000;
 constexpr qreal USABLE_PART_OF_SPINE = 0.85;
 
@@ -38,9 +39,9 @@ bool contains(const Names &names, QStringView name)
     return std::any_of(names.begin(), names.end(), [&](QLatin1StringView each) { return name == each; });
 }
 
-QString inLine(const FilePosition &position)
+QString lineOf(const FilePosition &position)
 {
-    return u"in line %1"_s.arg(position.line);
+    return QString::number(position.line);
 }
 
 RVPriceClassSet knownPriceClasses()
@@ -82,21 +83,61 @@ bool isTooNarrow(const RVSpineConfig &spine, int pages)
     return smallest.lineSpacing() > std::round(width.value() * USABLE_PART_OF_SPINE);
 }
 
+QString millimetres(double tenths)
+{
+    return QString::number(tenths / 10, 'f', QLocale::FloatingPointShortest);
+}
+
 bool overlap(const QRect &a, const QRect &b)
 {
     return a.left() <= b.right() && b.left() <= a.right() && a.top() <= b.bottom() && b.top() <= a.bottom();
 }
 
-/// The least area in cm² that a page has where the barcode fits, measured from its upper left corner.
-int leastPageArea(const QRect &barcode)
+/// The proportions, width by height, that pages of an orientation have.
+struct PageRatios
 {
-    const qint64 area = (qint64(barcode.right()) + 1) * (qint64(barcode.bottom()) + 1) / SQUARE_CENTIMETRE;
-    return int(qMin(area, qint64(std::numeric_limits<int>::max())));
+    double least;
+    double most;
+};
+
+PageRatios pageRatios(const RVOrientation &orientation)
+{
+    constexpr PageRatios any { 0.1, 10 }; // nothing is printed that is longer and slimmer
+    const bool isUpright = orientation.isPortrait();
+    const bool isWide = orientation.isLandscape();
+    if (orientation.isQuadratic() && !isUpright && !isWide)
+        return { 0.9, 1.1 };
+    return { isWide && !isUpright && !orientation.isQuadratic() ? 1 : any.least,
+             isUpright && !isWide && !orientation.isQuadratic() ? 1 : any.most };
+}
+
+/// The area in cm² of the smallest page where the barcode fits, measured from its upper left corner.
+int leastPageArea(const QRect &barcode, const PageRatios &ratios)
+{
+    const double height = qMax(barcode.bottom() + 1.0, (barcode.right() + 1.0) / ratios.most);
+    const double width = qMax(barcode.right() + 1.0, height * ratios.least);
+    return int(qMin(width * height / SQUARE_CENTIMETRE, double(std::numeric_limits<int>::max())));
 }
 
 CatalogueElement formsOf(const CatalogueElement &product)
 {
     return product.firstChildElement("forms"_L1);
+}
+
+QString keywordText(const KeywordFault &fault, QLatin1StringView attribute)
+{
+    if (fault.isKnown)
+        return FindingText::tr("%1 is an alias in %2; the main keyword is %3")
+                .arg(quoted(fault.piece), attribute, quoted(fault.betterKeyword));
+    if (fault.piece.isEmpty())
+        return FindingText::tr("there is an empty keyword in %1").arg(attribute);
+    if (fault.betterKeyword.isEmpty())
+        return FindingText::tr("%1 is no keyword of %2").arg(quoted(fault.piece), attribute);
+    if (fault.meaning.isEmpty())
+        return FindingText::tr("%1 is no keyword of %2; did you mean %3?")
+                .arg(quoted(fault.piece), attribute, quoted(fault.betterKeyword));
+    return FindingText::tr("%1 is no keyword of %2; did you mean %3, that is %4?")
+            .arg(quoted(fault.piece), attribute, quoted(fault.betterKeyword), quoted(fault.meaning));
 }
 
 /// Calls a function with every child of that name.
@@ -119,6 +160,7 @@ CheckedProduct ProductCheck::check(const CatalogueElement &product, qint64 numbe
     myResult.position = product.position();
     myNumber = number;
     checkIds(product);
+    checkParts(product);
     checkKeywords(product);
     checkPageCounts(product);
     checkSpine(product);
@@ -141,21 +183,42 @@ void ProductCheck::checkIds(const CatalogueElement &product)
 {
     myResult.typeText = product.text("type"_L1);
     if (myResult.typeText.trimmed().isEmpty())
-        add(Rule::TypeMissing, product, u"the product has no type"_s);
+        add(Rule::TypeMissing, product, FindingText::tr("the product has no type"));
     else
         myResult.type = myProduct.type;
 
     const QStringView articleId = product.attribute("article_id"_L1);
     if (articleId.trimmed().isEmpty())
-        add(Rule::ArticleIdMissing, product, u"the product has no article id"_s);
+        add(Rule::ArticleIdMissing, product, FindingText::tr("the product has no article id"));
     else if (!myProduct.articleId.isValid())
-        add(Rule::ArticleIdInvalid, product, u"the article id %1 is no whole number above 0"_s.arg(quoted(articleId)));
+        add(Rule::ArticleIdInvalid, product,
+            FindingText::tr("the article id %1 is no whole number above 0").arg(quoted(articleId)));
     else
         myResult.articleId = myProduct.articleId.id();
 
-    if (product.hasAttribute("shipping_group"_L1) && intValue(product, "shipping_group"_L1).value_or(-1) < 0)
+    const QStringView shippingGroup = product.attribute("shipping_group"_L1);
+    if (!shippingGroup.isNull() && intValue(product, "shipping_group"_L1).value_or(-1) == -1)
         add(Rule::ShippingGroupInvalid, product,
-            u"the shipping group %1 is no whole number from 0"_s.arg(quoted(product.attribute("shipping_group"_L1))));
+            FindingText::tr("the shipping group %1 is none").arg(quoted(shippingGroup)));
+}
+
+void ProductCheck::checkParts(const CatalogueElement &product)
+{
+    forEachChild(product, "product"_L1, [&](const CatalogueElement &inner) {
+        add(Rule::ElementIgnored, inner, FindingText::tr("a product inside a product is not read"));
+    });
+    for (const QLatin1StringView name : { "barcodes"_L1, "composition"_L1, "forms"_L1 })
+        checkFirst(product.firstChildElement(name), name);
+    checkFirst(product.firstChildElement("composition"_L1).firstChildElement("spine"_L1), "spine"_L1);
+}
+
+/// Finds all the others of that name.
+void ProductCheck::checkFirst(const CatalogueElement &first, QLatin1StringView name)
+{
+    for (CatalogueElement other = first.nextSiblingElement(name); !other.isNull();
+         other = other.nextSiblingElement(name))
+        add(Rule::ElementIgnored, other,
+            FindingText::tr("only the first %1 is read, the one in line %2").arg(name, lineOf(first.position())));
 }
 
 void ProductCheck::checkKeywords(const CatalogueElement &product)
@@ -166,20 +229,8 @@ void ProductCheck::checkKeywords(const CatalogueElement &product)
         const std::pair<QLatin1StringView, QString> key(name, product.text(name));
         if (!myKeywordFaults.contains(key))
             myKeywordFaults.insert(key, keywordFaults(name, key.second));
-        for (const KeywordFault &fault : std::as_const(myKeywordFaults)[key]) {
-            if (fault.isKnown)
-                add(Rule::KeywordLegacy, product,
-                    u"%1 is an alias in %2; the main keyword is %3"_s.arg(quoted(fault.piece), name,
-                                                                          quoted(fault.betterKeyword)));
-            else if (fault.piece.isEmpty())
-                add(Rule::KeywordUnknown, product, u"there is an empty keyword in %1"_s.arg(name));
-            else
-                add(Rule::KeywordUnknown, product,
-                    u"%1 is no keyword of %2"_s.arg(quoted(fault.piece), name)
-                            + (fault.betterKeyword.isEmpty()
-                                       ? QString()
-                                       : u"; did you mean %1?"_s.arg(quoted(fault.betterKeyword))));
-        }
+        for (const KeywordFault &fault : std::as_const(myKeywordFaults)[key])
+            add(fault.isKnown ? Rule::KeywordLegacy : Rule::KeywordUnknown, product, keywordText(fault, name));
     }
 }
 
@@ -189,9 +240,9 @@ bool ProductCheck::checkNumber(const CatalogueElement &element, QLatin1StringVie
     if (!element.hasAttribute(name)
         || (isWhole ? intValue(element, name).has_value() : doubleValue(element, name).has_value()))
         return true;
-    add(Rule::NumberInvalid, element,
-        u"%1 is %2, which is no %3"_s.arg(name, quoted(element.attribute(name)),
-                                          isWhole ? u"whole number"_s : u"number"_s));
+    const QString text = isWhole ? FindingText::tr("%1 is %2, which is no whole number")
+                                 : FindingText::tr("%1 is %2, which is no number");
+    add(Rule::NumberInvalid, element, text.arg(name, quoted(element.attribute(name))));
     return false;
 }
 
@@ -201,7 +252,7 @@ bool ProductCheck::checkBoolean(const CatalogueElement &element, QLatin1StringVi
     if (!element.hasAttribute(name) || boolValue(element, name).has_value())
         return true;
     add(Rule::BooleanInvalid, element,
-        u"%1 is %2, which is neither true nor false"_s.arg(name, quoted(element.attribute(name))));
+        FindingText::tr("%1 is %2, which is neither true nor false").arg(name, quoted(element.attribute(name))));
     return false;
 }
 
@@ -211,8 +262,8 @@ bool ProductCheck::checkUnit(const CatalogueElement &element)
     const bool isKnown = !element.hasAttribute("units"_L1) || contains(UNITS, element.attribute("units"_L1));
     if (!isKnown)
         add(Rule::UnitUnknown, element,
-            u"there is no unit %1; there are mm, cm, inch, in, pt, point and 0.1mm"_s.arg(
-                    quoted(element.attribute("units"_L1))));
+            FindingText::tr("there is no unit %1; there are mm, cm, inch, in, pt, point and 0.1mm")
+                    .arg(quoted(element.attribute("units"_L1))));
     return isKnown;
 }
 
@@ -228,16 +279,24 @@ void ProductCheck::checkPageCounts(const CatalogueElement &product)
     const RVPageCountOrganization &counts = myProduct.pageCounts;
     const int pieces = intValue(product, "pieces"_L1).value_or(1);
     if (pieces < 1)
-        return add(Rule::PageCountsInvalid, product, u"there are %1 pieces"_s.arg(pieces));
+        return add(Rule::PageCountsInvalid, product, FindingText::tr("there are %1 pieces").arg(pieces));
     if (counts.minPages() > counts.maxPages())
-        return add(
-                Rule::PageCountsReversed, product,
-                u"the lowest page count %1 is above the highest, %2"_s.arg(counts.minPages()).arg(counts.maxPages()));
+        return add(Rule::PageCountsReversed, product,
+                   FindingText::tr("the lowest page count %1 is above the highest, %2")
+                           .arg(counts.minPages())
+                           .arg(counts.maxPages()));
+    if (counts.minPages() < counts.maxPages() && counts.pageIncrement() == 0)
+        return add(Rule::PageCountsInvalid, product,
+                   FindingText::tr("there is no step (page_step) that leads from %1 to %2 pages")
+                           .arg(counts.minPages())
+                           .arg(counts.maxPages()));
     if (!counts.isValid() || counts.minPages() < 0 || counts.pageIncrement() < 0)
-        return add(Rule::PageCountsInvalid, product, u"there are no valid page counts (%1)"_s.arg(counts.dump()));
+        return add(Rule::PageCountsInvalid, product,
+                   FindingText::tr("there are no valid page counts (%1)").arg(counts.dump()));
     if (!counts.isConsistent())
         add(Rule::PageStepMissesHighest, product,
-            u"steps of %1 from %2 pages end at %3 and never meet %4"_s.arg(counts.pageIncrement())
+            FindingText::tr("steps of %1 from %2 pages end at %3 and never meet %4")
+                    .arg(counts.pageIncrement())
                     .arg(counts.minPages())
                     .arg(counts.pagesWithNExtraPackages(counts.numberOfPackages() - 1))
                     .arg(counts.maxPages()));
@@ -254,7 +313,8 @@ void ProductCheck::checkSpine(const CatalogueElement &product)
         checkSpineWidths(spine, isBound, isUnitKnown);
     else if (isBound)
         add(Rule::SpineMissing, composition.isNull() ? product : composition,
-            u"the product is bound (%1), but has no spine in a composition"_s.arg(myProduct.pageBinding.encodeCSV()));
+            FindingText::tr("the product is bound (%1), but has no spine in a composition")
+                    .arg(myProduct.pageBinding.encodeCSV()));
 }
 
 void ProductCheck::checkSpineWidths(const CatalogueElement &spine, bool isBound, bool isUnitKnown)
@@ -274,22 +334,31 @@ void ProductCheck::checkSpineWidths(const CatalogueElement &spine, bool isBound,
         negative += u"packages_per_block"_s;
 
     const RVPageCountOrganization &counts = myProduct.pageCounts;
-    if (isReadable && isBound && !hasWidth)
-        add(Rule::SpineMissing, spine, u"the product is bound, but its spine has no width"_s);
+    const auto hasWidthAt = [this](int pages) {
+        return qIsFinite(myProduct.spine.spineWidth(unsigned(qMax(0, pages))).value());
+    };
+    if (isReadable && !(hasWidthAt(counts.minPages()) && hasWidthAt(counts.maxPages())))
+        add(Rule::NumberInvalid, spine, FindingText::tr("the widths of the spine are too large for a number"));
+    else if (isReadable && isBound && !hasWidth)
+        add(Rule::SpineMissing, spine, FindingText::tr("the product is bound, but its spine has no width"));
     else if (negative.isEmpty())
         return;
     else if (isReadable && isUnitKnown && !isNegative && myHasPageCounts
              && !isTooNarrow(myProduct.spine, counts.minPages()) && isTooNarrow(myProduct.spine, counts.maxPages()))
         add(Rule::SpineFontTooSmall, spine,
-            u"the spine shrinks, so that at %1 pages it is too narrow for the smallest font"_s.arg(counts.maxPages()));
+            FindingText::tr("the spine shrinks, so that at %1 pages it is too narrow for the smallest font")
+                    .arg(counts.maxPages()));
     else
-        add(Rule::SpineNegative, spine, u"%1 is below 0"_s.arg(negative.join(" and "_L1)));
+        add(Rule::SpineNegative, spine,
+            (negative.size() == 1 ? FindingText::tr("%1 is below 0") : FindingText::tr("%1 are below 0"))
+                    .arg(negative.join(", "_L1)));
 }
 
 void ProductCheck::checkOptions(const CatalogueElement &product)
 {
     const CatalogueElement forms = formsOf(product);
     QHash<std::pair<QStringView, QStringView>, FilePosition> seen;
+    myMismatches.clear();
     forEachChild(forms, "form"_L1, [&](const CatalogueElement &form) {
         checkOption(form);
         const std::pair<QStringView, QStringView> option(form.attribute("key"_L1), form.attribute("value"_L1));
@@ -297,8 +366,8 @@ void ProductCheck::checkOptions(const CatalogueElement &product)
             return;
         if (seen.contains(option))
             add(Rule::OptionDuplicate, form,
-                u"the option %1 of %2 is already there %3"_s.arg(quoted(option.second), quoted(option.first),
-                                                                 inLine(seen.value(option))));
+                FindingText::tr("the option %1 of %2 is already there in line %3")
+                        .arg(quoted(option.second), quoted(option.first), lineOf(seen.value(option))));
         else
             seen.insert(option, form.position());
     });
@@ -311,17 +380,19 @@ void ProductCheck::checkOption(const CatalogueElement &form)
     const QString value = form.text("value"_L1);
     if (key.isEmpty() || value.isEmpty())
         add(Rule::OptionIncomplete, form,
-            u"the option has no %1"_s.arg(!key.isEmpty()            ? u"value"_s
-                                                  : value.isEmpty() ? u"key and no value"_s
-                                                                    : u"key"_s));
+            !key.isEmpty()            ? FindingText::tr("the option has no value")
+                    : value.isEmpty() ? FindingText::tr("the option has no key and no value")
+                                      : FindingText::tr("the option has no key"));
     else if ((key.contains(u';') || value.contains(u';'))
-             && RVConfiguredArticleVariantList::createForProduction(RVConfiguredArticleVariant(key, value)).isEmpty())
+             && RVConfiguredArticleVariantList::createForProduction(RVConfiguredArticleVariant(key, value)).isEmpty()) {
+        myMismatches.push_back(form);
         add(Rule::OptionCompositeMismatch, form,
-            u"the keys %1 and the values %2 are not equally many"_s.arg(quoted(key), quoted(value)));
+            FindingText::tr("the keys %1 and the values %2 are not equally many").arg(quoted(key), quoted(value)));
+    }
 
     const QString color = form.text("color"_L1);
     if (!color.isEmpty() && !QColor::fromString(color).isValid())
-        add(Rule::OptionColorInvalid, form, u"%1 is no colour"_s.arg(quoted(color)));
+        add(Rule::OptionColorInvalid, form, FindingText::tr("%1 is no colour").arg(quoted(color)));
     checkBoolean(form, "preselected"_L1);
     checkBoolean(form, "not_accountable"_L1);
     checkPriceClass(form, "price_class"_L1);
@@ -336,9 +407,10 @@ void ProductCheck::checkDefaults(const CatalogueElement &forms)
     forEachChild(forms, "form"_L1, [&](const CatalogueElement &form) {
         const QStringView name = form.attribute("key"_L1);
         const auto preselected = boolValue(form, "preselected"_L1);
+        const bool isOption = !form.attribute("value"_L1).isEmpty() && !isMismatch(form);
         if (preselected.has_value() ? *preselected && name.isEmpty() : form.hasAttribute("preselected"_L1))
             isCertain = false;
-        if (name.isEmpty())
+        if (name.isEmpty() || !(isOption || preselected.value_or(false)))
             return;
         if (!places.contains(name)) {
             places.insert(name, keys.size());
@@ -348,12 +420,28 @@ void ProductCheck::checkDefaults(const CatalogueElement &forms)
         checkDefault(form, preselected.value_or(false), &keys[places.value(name)]);
     });
     for (const OptionKey &key : keys) {
-        if (!isCertain || !key.preselected.isNull() || (!hasPreselected && key.values.size() < 2))
+        if (!isCertain || !key.preselected.isNull() || (!hasPreselected && key.values.size() < 2)
+            || mayBePreselected(key.first.attribute("key"_L1)))
             continue;
-        add(Rule::OptionDefaultMissing, key.first,
-            u"no option of %1 is preselected, so "_s.arg(quoted(key.first.attribute("key"_L1)))
-                    + (hasPreselected ? u"an order comes without any"_s : u"the first is taken"_s));
+        const QString text = hasPreselected
+                ? FindingText::tr("no option of %1 is preselected, so an order comes without any")
+                : FindingText::tr("no option of %1 is preselected, so the first is taken");
+        add(Rule::OptionDefaultMissing, key.first, text.arg(quoted(key.first.attribute("key"_L1))));
     }
+}
+
+bool ProductCheck::isMismatch(const CatalogueElement &form) const
+{
+    return std::find(myMismatches.begin(), myMismatches.end(), form) != myMismatches.end();
+}
+
+// A preselected option whose values are as many as these keys may be one of them, with a mistake in its own keys.
+bool ProductCheck::mayBePreselected(QStringView key) const
+{
+    return std::any_of(myMismatches.begin(), myMismatches.end(), [&](const CatalogueElement &form) {
+        return boolValue(form, "preselected"_L1).value_or(false)
+                && form.attribute("value"_L1).count(u';') == key.count(u';');
+    });
 }
 
 // An option that stands there twice is a mistake of its own.
@@ -369,9 +457,9 @@ void ProductCheck::checkDefault(const CatalogueElement &form, bool isPreselected
     } else if (!isDuplicate && !key->hasTwoDefaults) {
         key->hasTwoDefaults = true;
         add(Rule::OptionDefaultTwice, form,
-            u"%1 is preselected for %2, but %3 %4 is so already"_s.arg(quoted(value), quoted(form.attribute("key"_L1)),
-                                                                       quoted(key->preselected.attribute("value"_L1)),
-                                                                       inLine(key->preselected.position())));
+            FindingText::tr("%1 is preselected for %2, but %3 in line %4 is so already")
+                    .arg(quoted(value), quoted(form.attribute("key"_L1)),
+                         quoted(key->preselected.attribute("value"_L1)), lineOf(key->preselected.position())));
     }
 }
 
@@ -391,7 +479,7 @@ void ProductCheck::checkBarcodes(const CatalogueElement &product)
         const auto definition = RVBarcodeDefinition::createFromProductsXML(barcode.deepCopy(&document), unit);
         checkBarcodePage(barcode, definition.pageNr());
         if (definition.imageName().isEmpty())
-            add(Rule::BarcodeInvalid, barcode, u"the barcode has no image"_s);
+            add(Rule::BarcodeInvalid, barcode, FindingText::tr("the barcode has no image"));
         else if (isUnitKnown)
             checkBarcodeArea({ barcode, definition.rect(), definition.pageNr() }, &placed);
     });
@@ -401,40 +489,46 @@ void ProductCheck::checkBarcodePage(const CatalogueElement &barcode, int page)
 {
     const int highest = myProduct.pageCounts.maxPages();
     if (page < 0)
-        add(Rule::BarcodePageImpossible, barcode, u"there is no page %1"_s.arg(page));
+        add(Rule::BarcodePageImpossible, barcode, FindingText::tr("there is no page %1").arg(page));
     else if (myHasPageCounts && page > highest)
         add(Rule::BarcodePageImpossible, barcode,
-            u"there is no page %1; the product has at most %2"_s.arg(page).arg(highest));
+            FindingText::tr("there is no page %1; the product has at most %2").arg(page).arg(highest));
 }
 
 void ProductCheck::checkBarcodeArea(const PlacedBarcode &barcode, std::vector<PlacedBarcode> *placed)
 {
     const QRect &area = barcode.area;
     if (area.left() > area.right() || area.top() > area.bottom())
-        return add(Rule::BarcodeInvalid, barcode.element, u"the barcode has no width or no height"_s);
+        return add(Rule::BarcodeInvalid, barcode.element, FindingText::tr("the barcode has no width or no height"));
     if (area.left() < 0 || area.top() < 0)
         return add(Rule::BarcodeOutsidePage, barcode.element,
-                   u"the barcode begins %1 the page"_s.arg(area.left() < 0 ? u"left of"_s : u"above"_s));
+                   area.left() < 0 ? FindingText::tr("the barcode begins left of the page")
+                                   : FindingText::tr("the barcode begins above the page"));
     if (isBeyondPage(area))
-        return add(Rule::BarcodeOutsidePage, barcode.element,
-                   u"the barcode ends %1 mm from the left and %2 mm from the top, where there is no page"_s.arg(
-                           QString::number((area.right() + 1.0) / 10), QString::number((area.bottom() + 1.0) / 10)));
+        return add(
+                Rule::BarcodeOutsidePage, barcode.element,
+                FindingText::tr("the barcode ends %1 mm from the left and %2 mm from the top, where there is no page")
+                        .arg(millimetres(area.right() + 1.0))
+                        .arg(millimetres(area.bottom() + 1.0)));
     const auto other = std::find_if(placed->begin(), placed->end(), [&](const PlacedBarcode &each) {
         return each.page == barcode.page && overlap(each.area, area);
     });
     if (other != placed->end())
         add(Rule::BarcodeOverlap, barcode.element,
-            u"the barcode overlaps the one %1"_s.arg(inLine(other->element.position())));
+            FindingText::tr("the barcode overlaps the one in line %1").arg(lineOf(other->element.position())));
     placed->push_back(barcode);
 }
 
-// How large a page is, nobody says but its size class; and of the largest class hardly any page is too large.
+// How large a page is, nobody says but its size class and its orientation; and of the largest class hardly any page is
+// too large. The usual area of a class may belong to the next one.
 bool ProductCheck::isBeyondPage(const QRect &area) const
 {
     const RVSpaceMagnitude size = myProduct.spaceMagnitude;
-    return area.right() > LONGEST_PAGE || area.bottom() > LONGEST_PAGE
-            || (size.hasExactlyOneBit()
-                && RVSpaceMagnitude::fromSquareCentimeters(leastPageArea(area)).value() > size.value());
+    if (area.right() > LONGEST_PAGE || area.bottom() > LONGEST_PAGE)
+        return true;
+    const int least = leastPageArea(area, pageRatios(myProduct.orientation));
+    return size.hasExactlyOneBit() && least > size.normativeSize()
+            && RVSpaceMagnitude::fromSquareCentimeters(least).value() > size.value();
 }
 
 void ProductCheck::checkPriceClass(const CatalogueElement &element, QLatin1StringView name)
@@ -443,5 +537,5 @@ void ProductCheck::checkPriceClass(const CatalogueElement &element, QLatin1Strin
     const RVPriceClass priceClass(element.text(name));
     if (!priceClass.isFree() && !known.contains(priceClass))
         add(Rule::PriceClassUnknown, element,
-            u"the price class %1 belongs to no known group"_s.arg(quoted(priceClass.toString())));
+            FindingText::tr("the price class %1 belongs to no known group").arg(quoted(priceClass.toString())));
 }

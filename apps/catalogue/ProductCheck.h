@@ -58,6 +58,8 @@ private:
     void add(Rule rule, const CatalogueElement &element, const QString &text);
 
     void checkIds(const CatalogueElement &product);
+    void checkParts(const CatalogueElement &product);
+    void checkFirst(const CatalogueElement &first, QLatin1StringView name);
     void checkKeywords(const CatalogueElement &product);
     bool checkNumber(const CatalogueElement &element, QLatin1StringView name, bool isWhole);
     bool checkBoolean(const CatalogueElement &element, QLatin1StringView name);
@@ -68,6 +70,8 @@ private:
     void checkOptions(const CatalogueElement &product);
     void checkOption(const CatalogueElement &form);
     void checkDefaults(const CatalogueElement &forms);
+    bool isMismatch(const CatalogueElement &form) const;
+    bool mayBePreselected(QStringView key) const;
     void checkDefault(const CatalogueElement &form, bool isPreselected, OptionKey *key);
     void checkBarcodes(const CatalogueElement &product);
     void checkBarcodePage(const CatalogueElement &barcode, int page);
@@ -81,6 +85,7 @@ private:
     CheckedProduct myResult;
     qint64 myNumber = 0;
     bool myHasPageCounts = false; // that make sense
+    std::vector<CatalogueElement> myMismatches; // options whose keys and values are not equally many
 };
 
 #endif

@@ -1,10 +1,12 @@
 #include "SpineTable.h"
 
+#include <QtNumeric>
+
 #include <algorithm>
 
 namespace {
 
-// The spine of a negative count is that of the lowest one.
+// As an unsigned number a negative count would have the spine of four billion pages.
 unsigned spinePages(int pages)
 {
     return unsigned(qMax(0, pages));
@@ -17,6 +19,8 @@ SpineTable::SpineTable(const RVSpineConfig &spine, const RVPageCountOrganization
       myPageCounts(pageCounts),
       myRowCount(pageCounts.isValid() ? pageCounts.numberOfPackages() : 0)
 {
+    if (myRowCount > 0 && !(qIsFinite(width(0)) && qIsFinite(width(myRowCount - 1))))
+        myRowCount = 0;
     for (int first = 0; first < myRowCount; first = nextChange(first, &SpineTable::fontSize))
         myFontRuns += FontRun { first, fontSize(first) };
 }
@@ -25,8 +29,7 @@ SpineRow SpineTable::row(int index) const
 {
     const auto behind = std::upper_bound(myFontRuns.begin(), myFontRuns.end(), index,
                                          [](int row, const FontRun &run) { return row < run.firstRow; });
-    return { pages(index), index, blocks(index),
-             mySpine.spineWidth(spinePages(pages(index))).value(DISTANCE_UNIT_MILLIMETRE),
+    return { pages(index), index, blocks(index), width(index),
              behind == myFontRuns.begin() ? 0 : std::prev(behind)->fontSize };
 }
 
@@ -48,6 +51,11 @@ QList<SpineRow> SpineTable::steps(int most) const
 int SpineTable::blocks(int index) const
 {
     return mySpine.additionalPagePackageBlocks(spinePages(pages(index)));
+}
+
+qreal SpineTable::width(int index) const
+{
+    return mySpine.spineWidth(spinePages(pages(index))).value(DISTANCE_UNIT_MILLIMETRE);
 }
 
 int SpineTable::fontSize(int index) const

@@ -35,7 +35,7 @@ public:
 
     /// No rows.
     SpineTable() = default;
-    /// No rows where the page counts are invalid.
+    /// No rows where the page counts are invalid, or a width is too large for a number.
     SpineTable(const RVSpineConfig &spine, const RVPageCountOrganization &pageCounts);
 
     int rowCount() const { return myRowCount; }
@@ -49,6 +49,7 @@ public:
 private:
     int pages(int index) const { return myPageCounts.pagesWithNExtraPackages(index); }
     int blocks(int index) const;
+    qreal width(int index) const;
     int fontSize(int index) const;
     /// The first row after @p index, found by halving, of which the function gives another result.
     int nextChange(int index, int (SpineTable::*function)(int) const) const;

@@ -1,12 +1,14 @@
 #include "CatalogueSession.h"
 
+#include <utility>
+
 CatalogueSession::CatalogueSession(QObject *parent) : QObject(parent)
 {
     connect(&myLoader, &CatalogueLoader::progressed, this, &CatalogueSession::progressed);
     connect(&myLoader, &CatalogueLoader::loaded, this, &CatalogueSession::take);
     connect(&myLoader, &CatalogueLoader::failed, this, &CatalogueSession::fail);
-    connect(&myLoader, &CatalogueLoader::cancelled, this, &CatalogueSession::ended);
-    connect(&myWatcher, &CatalogueWatcher::changed, this, &CatalogueSession::reload);
+    connect(&myLoader, &CatalogueLoader::cancelled, this, &CatalogueSession::giveUp);
+    connect(&myWatcher, &CatalogueWatcher::changed, this, &CatalogueSession::noticeChange);
 }
 
 void CatalogueSession::open(const QString &fileName)
@@ -19,7 +21,7 @@ void CatalogueSession::open(const QString &fileName)
 
 void CatalogueSession::reload()
 {
-    const QString fileName = catalogue() ? catalogue()->fileName() : myFileName;
+    const QString fileName = catalogue() && !isLoading() ? catalogue()->fileName() : myFileName;
     if (!fileName.isEmpty())
         open(fileName);
 }
@@ -27,6 +29,7 @@ void CatalogueSession::reload()
 void CatalogueSession::take(const CataloguePointer &catalogue)
 {
     myServices.setCatalogue(catalogue);
+    myHasMissedChange = false;
     Q_EMIT ended();
     Q_EMIT catalogueChanged();
     myWatcher.watch(catalogue->fileName(), myStamp);
@@ -36,4 +39,26 @@ void CatalogueSession::fail(const LoadError &error)
 {
     Q_EMIT ended();
     Q_EMIT failed(error);
+    catchUp();
+}
+
+void CatalogueSession::giveUp()
+{
+    Q_EMIT ended();
+    catchUp();
+}
+
+// What somebody is opening comes before what changes by itself.
+void CatalogueSession::noticeChange()
+{
+    if (isLoading() && myFileName != catalogue()->fileName())
+        myHasMissedChange = true;
+    else
+        reload();
+}
+
+void CatalogueSession::catchUp()
+{
+    if (std::exchange(myHasMissedChange, false))
+        reload();
 }

@@ -15,7 +15,8 @@ public:
     explicit CatalogueSession(QObject *parent = nullptr);
 
     void open(const QString &fileName);
-    /// Reads the open file again, or the one that could not be opened while there is none.
+    /// Reads the open file again; begins anew with the one that is being loaded, or that could not be while there is
+    /// none.
     void reload();
     void cancel() { myLoader.cancel(); }
     bool isLoading() const { return myLoader.isLoading(); }
@@ -33,12 +34,16 @@ Q_SIGNALS:
 private:
     void take(const CataloguePointer &catalogue);
     void fail(const LoadError &error);
+    void giveUp();
+    void noticeChange();
+    void catchUp();
 
     CatalogueServices myServices;
     CatalogueLoader myLoader;
     CatalogueWatcher myWatcher;
     QString myFileName; // what was to be loaded last
     FileStamp myStamp; // when loading began
+    bool myHasMissedChange = false; // of the open file, while another one was being loaded
 };
 
 #endif

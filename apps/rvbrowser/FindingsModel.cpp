@@ -1,5 +1,7 @@
 #include "FindingsModel.h"
 
+#include "PlainToolTip.h"
+
 #include <QApplication>
 #include <QStyle>
 
@@ -20,6 +22,11 @@ QString severityText(FindingSeverity severity)
         break;
     }
     return FindingsModel::tr("Error");
+}
+
+QString reason(const CatalogueFinding &finding)
+{
+    return catalogueRules().at(indexOfRule(finding.rule.toString())).translatedReason();
 }
 
 QIcon severityIcon(FindingSeverity severity)
@@ -78,7 +85,7 @@ QVariant FindingsModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return text(finding, index.column());
     case Qt::ToolTipRole:
-        return finding.text;
+        return index.column() == RuleColumn ? reason(finding) : plainToolTip(finding.text);
     case Qt::DecorationRole:
         return index.column() == SeverityColumn ? QVariant(severityIcon(finding.severity)) : QVariant();
     default:

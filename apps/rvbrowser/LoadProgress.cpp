@@ -17,6 +17,7 @@ constexpr int BAR_WIDTH = 200;
 LoadProgress::LoadProgress(QWidget *parent) : QWidget(parent), myText(new QLabel), myBar(new QProgressBar)
 {
     setObjectName(u"progress"_s);
+    myText->setTextFormat(Qt::PlainText);
     myBar->setRange(0, 100);
     myBar->setFixedWidth(BAR_WIDTH);
     auto *cancel = new QPushButton(tr("&Cancel"));

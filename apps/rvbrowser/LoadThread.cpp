@@ -4,26 +4,9 @@
 
 #include <CatalogueChecker.h>
 
-#include <QCoreApplication>
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// What the reader says of files that are not what they should be; all else comes from Qt.
-[[maybe_unused]] constexpr const char *READER_TEXTS[] = {
-    QT_TRANSLATE_NOOP("CatalogueReader", "the file is empty"),
-    QT_TRANSLATE_NOOP("CatalogueReader", "the file ends too early"),
-    QT_TRANSLATE_NOOP("CatalogueReader", "entity declarations are not supported"),
-    QT_TRANSLATE_NOOP("CatalogueReader", "an element, text, comment or declaration is larger than 1 MiB"),
-};
-
-QString translated(const QString &readerText)
-{
-    return QCoreApplication::translate("CatalogueReader", readerText.toUtf8().constData());
-}
-
-}
 
 void LoadThread::run()
 {
@@ -46,7 +29,7 @@ bool LoadThread::readProducts(LoadedCatalogue *catalogue)
     if (isInterruptionRequested())
         return false;
     if (reader.hasError())
-        myError = LoadError { myFileName, reader.errorPosition(), translated(reader.errorString()) };
+        myError = LoadError { myFileName, reader.errorPosition(), reader.errorString() };
     else if (catalogue->size() == 0)
         myError = LoadError { myFileName, std::nullopt, tr("there is no product in this file") };
     return !myError;
@@ -63,7 +46,7 @@ bool LoadThread::readFindings(LoadedCatalogue *catalogue)
     if (isInterruptionRequested())
         return false;
     if (!result.error.isEmpty()) // it has changed since its products were read
-        myError = LoadError { myFileName, result.errorPosition, translated(result.error) };
+        myError = LoadError { myFileName, result.errorPosition, result.error };
     catalogue->setFindings(findings);
     return !myError;
 }
@@ -80,8 +63,12 @@ bool LoadThread::report(int percent)
 
 bool LoadThread::open(ObservedFile *file)
 {
-    if (file->open(QIODevice::ReadOnly))
+    // A pipe would wait for whoever writes into it, and can be read but once.
+    const QFileInfo info(myFileName);
+    const bool isReadable = !info.exists() || info.isFile();
+    if (isReadable && file->open(QIODevice::ReadOnly))
         return true;
-    myError = LoadError { myFileName, std::nullopt, tr("cannot open the file: %1").arg(file->errorString()) };
+    const QString reason = isReadable ? file->errorString() : tr("it is no regular file");
+    myError = LoadError { myFileName, std::nullopt, tr("cannot open the file: %1").arg(reason) };
     return false;
 }

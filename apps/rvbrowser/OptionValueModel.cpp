@@ -1,5 +1,7 @@
 #include "OptionValueModel.h"
 
+#include "PlainToolTip.h"
+
 #include <QPainter>
 #include <QPixmap>
 
@@ -45,7 +47,7 @@ QVariant OptionValueModel::data(const QModelIndex &index, int role) const
     case Qt::DecorationRole:
         return option.color().isValid() ? QVariant(swatch(option.color())) : QVariant();
     case Qt::ToolTipRole:
-        return option.toString();
+        return plainToolTip(option.toString());
     default:
         return QVariant();
     }

@@ -1,5 +1,7 @@
 #include "OptionsPanel.h"
 
+#include "PlainToolTip.h"
+
 #include <CatalogueProduct.h>
 
 #include <QComboBox>
@@ -76,10 +78,11 @@ void OptionsPanel::addLine(const CatalogueProduct &product, const QString &key, 
     auto *values = new QComboBox;
     auto *model = new OptionValueModel(options, values);
     auto *note = new QLabel;
+    note->setTextFormat(Qt::PlainText);
     const QString name = options.constFirst().keyName().isEmpty() ? key : options.constFirst().keyName();
     values->setObjectName("option "_L1 + key);
     values->setAccessibleName(name);
-    values->setToolTip(key);
+    values->setToolTip(plainToolTip(key));
     values->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     values->setMinimumContentsLength(SHORTEST_LIST);
     values->setModel(model);
@@ -97,6 +100,7 @@ void OptionsPanel::addLine(const CatalogueProduct &product, const QString &key, 
     note->setMinimumWidth(note->fontMetrics().horizontalAdvance(longest));
     // The name comes from the catalogue, where an ampersand stands for itself.
     auto *label = new QLabel(QString(name).replace(u'&', "&&"_L1) + u':');
+    label->setTextFormat(Qt::PlainText);
     label->setBuddy(values);
     myLayout->addRow(label, field);
     myLines += Line { key, model, values, note };

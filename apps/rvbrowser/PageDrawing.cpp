@@ -46,9 +46,9 @@ void PageDrawing::setPageNumber(int number)
 }
 
 // A barcode beside the page is a fault of the catalogue that should be seen.
-QRect PageDrawing::extent() const
+QRectF PageDrawing::extent() const
 {
-    QRect result = myGeometry.totalRect();
+    QRectF result = myGeometry.totalRect();
     for (const RVBarcodeDefinition &barcode : myGeometry.barcodes()) {
         if (barcode.pageNr() == myNumber)
             result |= myGeometry.barcodeRect(barcode);
@@ -84,8 +84,8 @@ void PageDrawing::paintEvent(QPaintEvent *)
     for (const RVBarcodeDefinition &barcode : myGeometry.barcodes()) {
         if (barcode.pageNr() != myNumber)
             continue;
-        const QRect place = myGeometry.barcodeRect(barcode);
-        paintBarcode(&painter, transform.mapRect(QRectF(place)), myGeometry.usableRect().contains(place));
+        const QRectF place = myGeometry.barcodeRect(barcode);
+        paintBarcode(&painter, transform.mapRect(place), QRectF(myGeometry.usableRect()).contains(place));
     }
 }
 

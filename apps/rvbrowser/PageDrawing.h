@@ -24,7 +24,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    QRect extent() const;
+    QRectF extent() const;
     void paintSizes(QPainter *painter, const QRectF &page) const;
     void paintBarcode(QPainter *painter, const QRectF &place, bool isInside) const;
 

@@ -36,9 +36,10 @@ PageGeometry::PageGeometry(const CatalogueProduct &product)
       myBarcodes(product.barcodes)
 { }
 
-QRect PageGeometry::barcodeRect(const RVBarcodeDefinition &barcode) const
+QRectF PageGeometry::barcodeRect(const RVBarcodeDefinition &barcode) const
 {
-    return barcode.rect().translated(mySpec.topLeftOffsetOfUsablePrintArea());
+    // A place that was too large to be stored is at the limit of whole numbers, so it moves as a real one.
+    return QRectF(barcode.rect()).translated(mySpec.topLeftOffsetOfUsablePrintArea());
 }
 
 QList<int> PageGeometry::barcodePages() const

@@ -26,7 +26,7 @@ public:
     QRect totalRect() const { return QRect(QPoint(), mySpec.totalSize()); }
     QRect usableRect() const { return QRect(mySpec.topLeftOffsetOfUsablePrintArea(), mySpec.usableSize()); }
     /// A barcode, whose place counts from the corner of the usable area.
-    QRect barcodeRect(const RVBarcodeDefinition &barcode) const;
+    QRectF barcodeRect(const RVBarcodeDefinition &barcode) const;
     /// @}
     /// The pages that have barcodes, in ascending order.
     QList<int> barcodePages() const;

@@ -47,7 +47,7 @@ void PagePanel::setProduct(const CatalogueProduct &product)
         return;
     }
     const auto isOutside = [&geometry](const RVBarcodeDefinition &barcode) {
-        return !geometry.usableRect().contains(geometry.barcodeRect(barcode));
+        return !QRectF(geometry.usableRect()).contains(geometry.barcodeRect(barcode));
     };
     QString text = tr("Nominal size by size class and orientation, with %1 mm bleed.")
                            .arg(QLocale().toString(geometry.bleed().top() / 10.0, 'f', 0));

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScopedValueRollback>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -34,6 +35,8 @@ ProductList::ProductList(QWidget *parent)
     myView->header()->setStretchLastSection(true);
     connect(myView->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex &current) {
+                if (myIsSearching)
+                    return;
                 const QVariant product = current.siblingAtColumn(0).data(ProductTreeModel::ProductRole);
                 if (!product.isValid() || product.toInt() < 0 || product.toInt() == myProduct)
                     return;
@@ -110,12 +113,15 @@ bool ProductList::eventFilter(QObject *watched, QEvent *event)
 
 void ProductList::search(const QString &text)
 {
+    const QScopedValueRollback<bool> searching(myIsSearching, true);
     myFilter.setSearch(text);
     for (int group = 0; group < myFilter.rowCount(); ++group)
         myView->setFirstColumnSpanned(group, QModelIndex(), true);
     myView->expandAll();
-    if (myProduct >= 0)
-        myView->scrollTo(myFilter.mapFromSource(myModel.indexOfProduct(myProduct)));
+    // Qt would go on to a neighbour of the chosen product where that is hidden, but searching is not choosing.
+    const QModelIndex chosen = myFilter.mapFromSource(myModel.indexOfProduct(myProduct));
+    myView->setCurrentIndex(chosen);
+    myView->scrollTo(chosen);
     showCount();
 }
 

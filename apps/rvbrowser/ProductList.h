@@ -42,6 +42,7 @@ private:
     QTreeView *myView;
     QLabel *myCount;
     int myProduct = -1;
+    bool myIsSearching = false;
 };
 
 #endif

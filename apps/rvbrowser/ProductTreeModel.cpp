@@ -1,5 +1,7 @@
 #include "ProductTreeModel.h"
 
+#include "PlainToolTip.h"
+
 #include <QFont>
 
 using namespace Qt::StringLiterals;
@@ -101,7 +103,7 @@ QVariant ProductTreeModel::productData(int product, int column, int role) const
     case Qt::DisplayRole:
         return column == 0 ? entry.type.orderTxtName() : entry.name;
     case Qt::ToolTipRole:
-        return entry.name;
+        return plainToolTip(entry.name);
     case SearchRole:
         return entry.searchText;
     case ProductRole:

@@ -6,6 +6,7 @@
 #include "PagePanel.h"
 #include "SpinePanel.h"
 
+#include <QFontInfo>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -28,7 +29,7 @@ ProductView::ProductView(QWidget *parent)
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
     QFont font = myTitle->font();
-    font.setPointSizeF(font.pointSizeF() * 1.4);
+    font.setPointSizeF(QFontInfo(font).pointSizeF() * 1.4); // also where the desktop counts in pixels
     font.setBold(true);
     myTitle->setFont(font);
     myTitle->setObjectName(u"title"_s);

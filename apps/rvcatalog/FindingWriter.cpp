@@ -226,7 +226,7 @@ private:
             json->beginObject();
             json->key("id"_L1);
             json->value(rule.name);
-            writeMessage(json, "shortDescription"_L1, rule.reason);
+            writeMessage(json, "shortDescription"_L1, rule.translatedReason());
             json->key("defaultConfiguration"_L1);
             json->beginObject();
             json->key("level"_L1);

@@ -56,16 +56,19 @@ QString problem(const Lookup &lookup, const RVProductType &type)
         const QString text = u"the catalogue has no product of type \"%1\""_s.arg(type.orderTxtName());
         return lookup.nearestType.isEmpty() ? text : text + u"; did you mean \"%1\"?"_s.arg(lookup.nearestType);
     }
-    if (!lookup.product->pageCounts.isValid())
+    if (!lookup.product->pageCounts.isValid() || lookup.product->pageCounts.minPages() < 0)
         return u"%1 has no valid page counts (%2)"_s.arg(type.toString(), lookup.product->pageCounts.dump());
     if (!lookup.product->hasSpine())
         return u"%1 has no spine"_s.arg(type.toString());
+    if (SpineTable(lookup.product->spine, lookup.product->pageCounts).rowCount() == 0)
+        return u"the spine widths of %1 are too large for a number"_s.arg(type.toString());
     return QString();
 }
 
+/// A number that needs more room gets it, and still stands apart.
 void writeCell(QTextStream &out, int width, const QString &text)
 {
-    out << text.rightJustified(width);
+    out << ' ' << text.rightJustified(width - 1);
 }
 
 /// False where the output is gone, say because the reader of a pipe has enough.

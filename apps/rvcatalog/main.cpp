@@ -69,6 +69,15 @@ void loadTranslation(QTranslator *translator, const QLocale &locale)
         QCoreApplication::installTranslator(translator);
 }
 
+/// What a command returned, unless its output has not arrived, say because a disk is full: half a list looks whole.
+int withOutput(int exitCode)
+{
+    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0)
+        return exitCode;
+    QTextStream(stderr) << "rvcatalog: cannot write to the standard output\n";
+    return EXIT_UNREADABLE;
+}
+
 }
 
 void report(const QString &fileName, const FilePosition &position, const QString &text)
@@ -120,7 +129,7 @@ int main(int argc, char *argv[])
     const QString name = arguments.isEmpty() ? QString() : arguments.takeFirst();
     for (const auto &command : COMMANDS) {
         if (name == command.name)
-            return command.run(QStringList { "rvcatalog "_L1 + name } + arguments);
+            return withOutput(command.run(QStringList { "rvcatalog "_L1 + name } + arguments));
     }
     if (name == "--help"_L1 || name == "-h"_L1 || name == "help"_L1) {
         QTextStream(stdout) << usage();

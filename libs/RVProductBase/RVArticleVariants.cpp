@@ -19,6 +19,7 @@ constexpr bool isSeparator(char16_t letter)
 }
 
 /// True for most letters that are nothing but part of a key or a value; false for digits, which are looked at closer.
+/// A lambda, so that the compiler inlines it into a search.
 constexpr auto isOrdinary = [](QChar letter) { return letter > u':' && letter < u'|'; };
 
 /// Piece by piece, each with a regular expression, which does not search in broken UTF-16.
@@ -63,7 +64,7 @@ RVArticleVariants::RVArticleVariants(const QJsonArray &parameters)
 
 RVArticleVariants::~RVArticleVariants() = default;
 
-// The same as readPieces(), in one go.
+// In one go what readPieces() does, which takes over where there are surrogates, since they may be broken.
 RVArticleVariants RVArticleVariants::createFromKTX(const QString &text)
 {
     RVArticleVariants result;

@@ -49,9 +49,11 @@ RVPageCountOrganization *RVPageOrganizationManager::organization(const RVProduct
 
 RVPageCountOrganization *RVPageOrganizationManager::calculate(const RVProductType &type)
 {
+    // A calculator may change the object that the caller asked about.
+    const RVProductType key = type;
     RVPageCountOrganization *const created = createPageOrganization(type);
     keepForever(created);
-    myCache.insert(type, created);
+    myCache.insert(key, created);
     return created;
 }
 

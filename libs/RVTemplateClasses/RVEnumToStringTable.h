@@ -112,6 +112,7 @@ private:
         return isIndexed ? myBitKeywords[qCountTrailingZeroBits(bits)] : findEncoding(value);
     }
     const QString &findEncoding(ENUM value) const;
+    // Hidden, since a copy of it for each visitor would be part of the binary interface.
     template<typename Visitor>
     Q_DECL_HIDDEN static void visitBits(ENUM value, Visitor visit);
     static void warnUndecodable(const QString &keyword);
@@ -187,7 +188,7 @@ QString RVEnumToStringTable<ENUM>::encodeCSV(ENUM value) const
         size += keyword.size() + SEPARATOR.size();
         keywords[count++] = &keyword;
     });
-    if (size == 0)
+    if (size == 0) // one keyword, and an empty one: as null as the text of an empty list
         return QString();
     QString result(size, Qt::Uninitialized);
     QChar *end = std::copy(keywords[0]->begin(), keywords[0]->end(), result.data());

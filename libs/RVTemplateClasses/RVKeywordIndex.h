@@ -14,6 +14,8 @@
  * Keywords in the form in which they are found fastest: a flat hash table that reads and compares four letters at a
  * time. The values are those of any enumeration.
  *
+ * A part of RVEnumToStringTable, which applications ask instead.
+ *
  * Letter case and white space around a keyword are ignored, and nothing is allocated to find one. It knows ASCII
  * keywords of up to LONGEST letters only; covers() tells for which texts "not found" is the last word.
  *

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
 #include <optional>
 
@@ -41,7 +42,11 @@ struct PlainNumber
     bool isNegative = false;
 };
 
+/// A double holds all numbers of this length.
+constexpr qsizetype MOST_LETTERS = 15;
 constexpr double POWERS_OF_TEN[] = { 1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13 };
+
+static_assert(std::size(POWERS_OF_TEN) == MOST_LETTERS - 1, "one letter is the point, and one stands before it");
 
 /// Reads what nearly every number of a catalogue looks like; the other ones are Qt's to judge. No number that it reads
 /// has more digits than a double holds, so one division gives the nearest one.
@@ -50,7 +55,7 @@ std::optional<PlainNumber> parsePlain(QStringView text) noexcept
     PlainNumber number;
     number.isNegative = text.startsWith(u'-');
     const QStringView digits = number.isNegative ? text.sliced(1) : text;
-    if (digits.isEmpty() || digits.size() > 15)
+    if (digits.isEmpty() || digits.size() > MOST_LETTERS)
         return std::nullopt;
     for (qsizetype i = 0; i < digits.size(); ++i) {
         const QChar letter = digits[i];

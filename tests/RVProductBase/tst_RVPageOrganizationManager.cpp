@@ -121,6 +121,7 @@ private Q_SLOTS:
     void keepsTheSameCalculator();
     void pointersOutliveTheManager();
     void calculatorAsksTheManager();
+    void calculatorChangesTheType();
     void calculatorClearsTheCache();
     void calculatorSetsItself();
     void calculatorAsksWhenItGoes();
@@ -388,6 +389,25 @@ void tst_RVPageOrganizationManager::calculatorAsksTheManager()
     QCOMPARE(*manager.organization(RVProductType(u"middle"_s)), organization(30, 154, 4));
     QCOMPARE(*manager.organization(RVProductType(u"base"_s)), organization(26, 154, 4));
     QCOMPARE(log.asked, QStringList({ u"top"_s, u"middle"_s, u"base"_s }));
+}
+
+// What was asked about is remembered, not what the asked object has become.
+void tst_RVPageOrganizationManager::calculatorChangesTheType()
+{
+    Log log;
+    RVPageOrganizationManager manager;
+    RVProductType type(u"before"_s);
+    manager.setCalculator(new Calculator(&log, [&type](const RVProductType &asked) {
+        if (asked.toString() != "before"_L1)
+            return organization(20, 20, 2);
+        type = RVProductType(u"after"_s);
+        return organization(10, 10, 2);
+    }));
+    QCOMPARE(*manager.organization(type), organization(10, 10, 2));
+    QCOMPARE(type.toString(), u"after"_s);
+    QCOMPARE(*manager.organization(type), organization(20, 20, 2));
+    QCOMPARE(*manager.organization(RVProductType(u"before"_s)), organization(10, 10, 2));
+    QCOMPARE(log.asked, QStringList({ u"before"_s, u"after"_s }));
 }
 
 void tst_RVPageOrganizationManager::calculatorClearsTheCache()

@@ -5,6 +5,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/stat.h>
+
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -44,6 +46,7 @@ private Q_SLOTS:
     void reportsItsProgress();
     void failsWhereTheFileIsBroken();
     void failsWithoutAFile();
+    void failsWithAPipe();
     void cancels();
     void cancelsNothing();
     void givesUpForAnother();
@@ -132,6 +135,22 @@ void tst_CatalogueLoader::failsWithoutAFile()
     QTRY_VERIFY_WITH_TIMEOUT(!loader.isLoading(), TIMEOUT);
     QVERIFY(!error.position);
     QCOMPARE(error.text, u"cannot open the file: No such file or directory"_s);
+}
+
+// Nobody writes into it, so opening it would never end.
+void tst_CatalogueLoader::failsWithAPipe()
+{
+    const QString pipe = myFolder->filePath(u"pipe"_s);
+    QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    CatalogueLoader loader;
+    QStringList errors;
+    connect(&loader, &CatalogueLoader::failed, this, [&](const LoadError &failure) { errors += failure.text; });
+    for (const QString &fileName : { pipe, myFolder->path() }) {
+        loader.start(fileName);
+        QTRY_VERIFY_WITH_TIMEOUT(!loader.isLoading(), TIMEOUT);
+    }
+    const QString expected = u"cannot open the file: it is no regular file"_s;
+    QCOMPARE(errors, QStringList({ expected, expected }));
 }
 
 void tst_CatalogueLoader::cancels()

@@ -150,6 +150,7 @@ void tst_CatalogueReader::errors_data()
     QTest::addColumn<qint64>("line");
 
     const QString large = u"an element, text, comment or declaration is larger than 1 MiB"_s;
+    const QString other = u"this is not encoded in UTF-8, as files are that do not say otherwise in their first line"_s;
     const QString deep = u"elements are nested deeper than 256 levels"_s;
     const QString entity = u"entity declarations are not supported"_s;
     QTest::newRow("empty") << QByteArray() << u"the file is empty"_s << qint64(1);
@@ -160,8 +161,18 @@ void tst_CatalogueReader::errors_data()
     QTest::newRow("cut off in a tag") << QByteArray("<p>\n<product a='") << u"the file ends too early"_s << qint64(2);
     QTest::newRow("content behind the root")
             << QByteArray("<p/>\n<p/>") << u"Extra content at end of document."_s << qint64(2);
-    QTest::newRow("wrong encoding") << QByteArray("<p a='\xff'/>") << u"Encountered incorrectly encoded content."_s
-                                    << qint64(1);
+    QTest::newRow("wrong encoding") << QByteArray("<p>\n<a b='\xff'/></p>") << other << qint64(2);
+    QTest::newRow("wrong encoding as declared")
+            << QByteArray("<?xml version='1.0' encoding='utf-8'?>\n\n<p>\xfc</p>") << other << qint64(3);
+    QTest::newRow("wrong encoding far behind")
+            << "<p>\n" + QByteArray("<a>\xc3\xbc</a>\n").repeated(100000) + "<a>\xf6\xdf</a></p>" << other
+            << qint64(100002);
+    QTest::newRow("wrong encoding cut off") << QByteArray("<p>\n<a>\xc3") << u"the file ends too early"_s << qint64(2);
+    QTest::newRow("fault long before the wrong encoding") << "<p>\n<a></b>\n" + QByteArray(100000, ' ') + "\xff</p>"
+                                                          << u"Opening and ending tag mismatch."_s << qint64(2);
+    QTest::newRow("wrong encoding, another one declared")
+            << QByteArray("<?xml version='1.0' encoding='ISO-8859-1'?>\n<p>\xfc</q>")
+            << u"Opening and ending tag mismatch."_s << qint64(2);
     QTest::newRow("entity declared") << QByteArray("<!DOCTYPE p [\n<!ENTITY a 'b'>]><p/>") << entity << qint64(2);
     QTest::newRow("parameter entity declared")
             << QByteArray("<!DOCTYPE p [\n<!ENTITY % a 'b'>]><p/>") << entity << qint64(2);

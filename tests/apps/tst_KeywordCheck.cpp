@@ -105,15 +105,18 @@ void tst_KeywordCheck::guesses_data()
     QTest::addColumn<QString>("attribute");
     QTest::addColumn<QString>("piece");
     QTest::addColumn<QString>("guess");
+    QTest::addColumn<QString>("meaning");
 
-    QTest::newRow("letter missing") << u"cover_type"_s << u"softcver"_s << u"softcover"_s;
-    QTest::newRow("letters swapped") << u"orientation"_s << u"lanscdape"_s << u"landscape"_s;
-    QTest::newRow("written in capitals") << u"cover_type"_s << u"SOFTCVER"_s << u"SOFTCOVER"_s;
-    QTest::newRow("near an alias") << u"article_class"_s << u"fotobok"_s << u"book"_s;
-    QTest::newRow("other separator") << u"paper_type"_s << u"indigo_glossy"_s << u"indigo-glossy"_s;
-    QTest::newRow("like nothing") << u"cover_type"_s << u"zzzzzzzz"_s << QString();
-    QTest::newRow("empty") << u"cover_type"_s << QString() << QString();
-    QTest::newRow("too long") << u"cover_type"_s << QString(100, u'h') << QString();
+    QTest::newRow("letter missing") << u"cover_type"_s << u"softcver"_s << u"softcover"_s << QString();
+    QTest::newRow("letters swapped") << u"orientation"_s << u"lanscdape"_s << u"landscape"_s << QString();
+    QTest::newRow("written in capitals") << u"cover_type"_s << u"SOFTCVER"_s << u"SOFTCOVER"_s << QString();
+    QTest::newRow("near an alias") << u"article_class"_s << u"fotobok"_s << u"fotobook"_s << u"book"_s;
+    QTest::newRow("near a foreign alias") << u"article_class"_s << u"postr"_s << u"poster"_s << u"deko"_s;
+    QTest::newRow("near a size") << u"space_magnitude"_s << u"A33"_s << u"a3"_s << u"1200cm2"_s;
+    QTest::newRow("other separator") << u"paper_type"_s << u"indigo_glossy"_s << u"indigo-glossy"_s << QString();
+    QTest::newRow("like nothing") << u"cover_type"_s << u"zzzzzzzz"_s << QString() << QString();
+    QTest::newRow("empty") << u"cover_type"_s << QString() << QString() << QString();
+    QTest::newRow("too long") << u"cover_type"_s << QString(100, u'h') << QString() << QString();
 }
 
 void tst_KeywordCheck::guesses()
@@ -124,6 +127,7 @@ void tst_KeywordCheck::guesses()
     QCOMPARE(faults.size(), 1);
     QVERIFY(!faults.first().isKnown);
     QTEST(faults.first().betterKeyword, "guess");
+    QTEST(faults.first().meaning, "meaning");
 }
 
 // A value is there exactly when the library's reader does not fall back to its default.

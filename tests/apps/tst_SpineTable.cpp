@@ -70,6 +70,9 @@ void tst_SpineTable::noRows()
     QVERIFY(SpineTable().steps(10).isEmpty());
     QCOMPARE(makeTable(RVPageCountOrganization(RVIntRange(10, 20), 0), 1, 8, 1).rowCount(), 0);
     QCOMPARE(makeTable(RVPageCountOrganization(RVIntRange(20, 10), 2), 1, 8, 1).rowCount(), 0);
+    QCOMPARE(makeTable(RVPageCountOrganization(RVIntRange(10, 20), 2), 1, 1e308, 1).rowCount(), 0);
+    QCOMPARE(makeTable(RVPageCountOrganization(RVIntRange(10, 20), 2), 1, 8, 1e307).rowCount(), 0);
+    QCOMPARE(makeTable(RVPageCountOrganization(RVIntRange(10, 20), 2), 1, 8, 1e300).rowCount(), 6);
 }
 
 void tst_SpineTable::steps_data()

@@ -75,6 +75,7 @@ private Q_SLOTS:
     void severalFiles();
     void standardInput();
     void unreadable();
+    void fullDisk();
     void jsonFormat();
     void jsonOfUnreadable();
     void sarifFormat();
@@ -198,6 +199,20 @@ void tst_check::unreadable()
     QVERIFY(cut.output.startsWith("cut.xml:2:1: note: "_L1));
     QVERIFY(cut.output.endsWith("\n1 product in 1 file: 0 errors, 0 warnings, 1 note, 1 unreadable file\n"_L1));
     QCOMPARE(cut.exitCode, 2);
+}
+
+// A report that looks whole and is not would let a broken catalogue pass.
+void tst_check::fullDisk()
+{
+    for (const QString &format : { u"text"_s, u"json"_s, u"sarif"_s }) {
+        QProcess process;
+        process.setWorkingDirectory(myFolder.path());
+        process.setStandardOutputFile(u"/dev/full"_s);
+        process.start(QStringLiteral(RVCATALOG), { u"check"_s, u"--format"_s, format, u"clean.xml"_s });
+        QVERIFY(process.waitForFinished(60000));
+        QCOMPARE(process.exitCode(), 2);
+        QCOMPARE(process.readAllStandardError(), QByteArray("rvcatalog: cannot write to the standard output\n"));
+    }
 }
 
 void tst_check::jsonFormat()
@@ -365,7 +380,8 @@ void tst_check::rules()
     QCOMPARE(run.exitCode, 0);
     QString expected;
     for (const CatalogueRule &rule : catalogueRules())
-        expected += rule.name + " ("_L1 + severityName(rule.severity) + ")\n    "_L1 + rule.reason + u'\n';
+        expected += rule.name + " ("_L1 + severityName(rule.severity) + ")\n    "_L1 + QLatin1StringView(rule.reason)
+                + u'\n';
     QCOMPARE(run.output, expected);
 }
 

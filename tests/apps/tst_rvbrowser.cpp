@@ -4,6 +4,7 @@
 #include <MessageBanner.h>
 #include <PageCountChooser.h>
 #include <PageDrawing.h>
+#include <PlainToolTip.h>
 #include <ProductTreeModel.h>
 
 #include <QAbstractItemModelTester>
@@ -74,11 +75,14 @@ private Q_SLOTS:
     void keepsEveryCharacter();
     void searches_data();
     void searches();
+    void searchIsNoChoice();
     void searchByKeys();
     void choosesByKeys();
     void attributesInWords();
     void changesTheCount();
     void hugeCounts();
+    void hugeLengths();
+    void showsMarkupAsItIs();
     void invalidCounts();
     void optionsAndOrderLines();
     void copies_data();
@@ -93,6 +97,7 @@ private Q_SLOTS:
     void mendsABrokenFile();
     void cancelsALoad();
     void opensAnotherWhileLoading();
+    void changesWhileLoadingAnother();
     void dropsAFile();
     void dropsNothingElse();
     void speaksGerman();
@@ -230,6 +235,25 @@ void tst_rvbrowser::searches()
     QCOMPARE(shownTypes().size(), 3);
 }
 
+// What was chosen stays, with all that was chosen for it, and is current again as soon as it is found.
+void tst_rvbrowser::searchIsNoChoice()
+{
+    load(CATALOGUE);
+    auto *products = find<QTreeView>(u"products"_s);
+    auto *search = find<QLineEdit>(u"search"_s);
+    find<QComboBox>(u"pageCounts"_s)->setCurrentIndex(2);
+    for (const QString &hiding : { u"wand"_s, u"no such product"_s }) {
+        QTest::keyClicks(search, hiding);
+        QCOMPARE(text(u"title"_s), u"DUN9 – Großes Buch"_s);
+        QVERIFY(!products->currentIndex().isValid());
+        QTest::keyClick(search, Qt::Key_Escape);
+        QCOMPARE(products->currentIndex().siblingAtColumn(0).data().toString(), u"DUN9"_s);
+        QCOMPARE(find<QComboBox>(u"pageCounts"_s)->currentText(), u"34 pages"_s);
+    }
+    QTest::keyClick(products, Qt::Key_Down);
+    QCOMPARE(text(u"title"_s), u"DUNS4 – Heft"_s);
+}
+
 void tst_rvbrowser::searchByKeys()
 {
     load(CATALOGUE);
@@ -311,6 +335,44 @@ void tst_rvbrowser::hugeCounts()
     QVERIFY2(text(u"spineText"_s).startsWith("Spine 6.00 mm"_L1), qPrintable(text(u"spineText"_s)));
     QTest::keyClick(number, Qt::Key_Up);
     QCOMPARE(number->value(), 3004);
+}
+
+// Drawn by whole numbers, the page would vanish, or the barcode stand on its other side.
+void tst_rvbrowser::hugeLengths()
+{
+    QByteArray content(CATALOGUE);
+    load(content.replace("position_x='12' position_y='400'", "position_x='1e300' position_y='1e300'"));
+    auto *pages = find<QComboBox>(u"barcodePages"_s);
+    auto *drawing = find<PageDrawing>(u"pageDrawing"_s);
+    pages->setCurrentIndex(pages->findText(u"7"_s));
+    // Of so much room the page is a point.
+    const QImage image = drawing->grab().toImage();
+    bool isEmpty = true;
+    for (int y = 0; y < image.height() && isEmpty; ++y) {
+        for (int x = 0; x < image.width() && isEmpty; ++x)
+            isEmpty = image.pixelColor(x, y) == drawing->palette().color(QPalette::Base);
+    }
+    QVERIFY(!isEmpty);
+
+    content = CATALOGUE;
+    load(content.replace("base_width='8'", "base_width='1e308'").replace("units='mm'><spine", "units='inch'><spine"));
+    QCOMPARE(text(u"spineText"_s), u"This product has no spine."_s);
+}
+
+void tst_rvbrowser::showsMarkupAsItIs()
+{
+    QByteArray content(CATALOGUE);
+    load(content.replace("key_name='Farbe'", "key_name='&lt;b>Farbe&lt;/b>'"));
+    QLabel *name = nullptr;
+    for (QLabel *label : myWindow->findChildren<QLabel *>()) {
+        if (label->buddy() == find<QComboBox>(u"option alcolor"_s))
+            name = label;
+    }
+    QVERIFY(name);
+    QCOMPARE(name->text(), u"<b>Farbe</b>:"_s);
+    QCOMPARE(name->textFormat(), Qt::PlainText);
+    QCOMPARE(plainToolTip(u"a <b>b</b> & c"_s), u"<p>a &lt;b&gt;b&lt;/b&gt; &amp; c</p>"_s);
+    QCOMPARE(plainToolTip(u"a & b < c"_s), u"a & b < c"_s);
 }
 
 void tst_rvbrowser::invalidCounts()
@@ -536,6 +598,26 @@ void tst_rvbrowser::opensAnotherWhileLoading()
     QCOMPARE(shownTypes().size(), 3);
 }
 
+// What is being opened goes on; the change is not forgotten when nothing comes of it.
+void tst_rvbrowser::changesWhileLoadingAnother()
+{
+    load(CATALOGUE);
+    write(u"big.xml"_s, manyProducts(50000));
+    QSignalSpy started(myWindow->session(), &CatalogueSession::started);
+    myWindow->session()->open(path(u"big.xml"_s));
+    write(u"c.xml"_s, QByteArray(CATALOGUE).replace("Großes Buch", "Buch"));
+    QTest::qWait(400); // until it was noticed
+    QVERIFY(myWindow->session()->isLoading());
+    QCOMPARE(started.size(), 1);
+    myWindow->session()->cancel();
+    QTRY_COMPARE_WITH_TIMEOUT(text(u"title"_s), u"DUN9 – Buch"_s, 20000);
+
+    myWindow->session()->open(path(u"big.xml"_s));
+    QTest::keyClick(myWindow.get(), Qt::Key_F5); // begins anew with the same file
+    QCOMPARE(started.constLast().at(0).toString(), path(u"big.xml"_s));
+    QTRY_COMPARE_WITH_TIMEOUT(text(u"count"_s), u"50000 products"_s, 60000);
+}
+
 void tst_rvbrowser::drop(const QMimeData &data)
 {
     const QPoint middle = myWindow->rect().center();
@@ -584,6 +666,15 @@ void tst_rvbrowser::speaksGerman()
         load(CATALOGUE);
         QCOMPARE(text(u"count"_s), u"3 Produkte"_s);
         QVERIFY2(text(u"spineText"_s).startsWith(u"Rücken 9,00 mm"_s), qPrintable(text(u"spineText"_s)));
+        const QAbstractItemModel *findings = find<QTableView>(u"findings"_s)->model();
+        int row = 0;
+        while (row < findings->rowCount() && findings->index(row, 4).data().toString() != "keyword-legacy"_L1)
+            ++row;
+        QVERIFY(row < findings->rowCount());
+        QCOMPARE(findings->index(row, 2).data().toString(),
+                 u"\"A4\" ist ein Zweitname in space_magnitude; das Hauptschlüsselwort ist \"600cm2\""_s);
+        QCOMPARE(findings->index(row, 4).data(Qt::ToolTipRole).toString(),
+                 u"Ein Zweitname wird noch gelesen, aber wer den Wert schreibt, nimmt sein Hauptschlüsselwort."_s);
         write(u"c.xml"_s, "");
         auto *banner = myWindow->findChild<MessageBanner *>();
         QTRY_VERIFY_WITH_TIMEOUT(banner->isVisible(), 20000);

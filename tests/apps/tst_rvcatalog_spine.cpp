@@ -19,6 +19,11 @@ const char CATALOGUE[] =
         "<product type='ONE' pages='30'><composition units='mm'><spine base_width='4'/></composition></product>\n"
         "<product type='MANY' pages='1' max_pages='2147483647' page_step='1'>"
         "<composition><spine packages_per_block='7' base_width='5' block_width='0.001'/></composition></product>\n"
+        "<product type='LARGE' pages='2147483647'><composition><spine base_width='12345678901'/></composition>"
+        "</product>\n"
+        "<product type='NEGATIVE' pages='-8' max_pages='8' page_step='4'><composition><spine base_width='9'/>"
+        "</composition></product>\n"
+        "<product type='WIDE' pages='9'><composition units='inch'><spine base_width='1e308'/></composition></product>\n"
         "</products>\n";
 
 }
@@ -34,6 +39,7 @@ private Q_SLOTS:
     void sample();
     void problems_data();
     void problems();
+    void largeNumbersStandApart();
     void broken();
     void manyCountsAreStreamed();
     void png();
@@ -133,6 +139,10 @@ void tst_rvcatalog_spine::problems_data()
     QTest::newRow("no spine") << u"POS1"_s << u"c.xml:3:1: POS1 has no spine\n"_s;
     QTest::newRow("page counts") << u"BAD"_s
                                  << u"c.xml:4:1: BAD has no valid page counts (min: 20; max: 10; increment: 2)\n"_s;
+    QTest::newRow("negative page counts")
+            << u"NEGATIVE"_s << u"c.xml:8:1: NEGATIVE has no valid page counts (min: -8; max: 8; increment: 4)\n"_s;
+    QTest::newRow("infinite widths") << u"WIDE"_s
+                                     << u"c.xml:9:1: the spine widths of WIDE are too large for a number\n"_s;
 }
 
 void tst_rvcatalog_spine::problems()
@@ -159,6 +169,14 @@ void tst_rvcatalog_spine::broken()
     run({ u"empty.xml"_s, u"DUN9"_s });
     QCOMPARE(myMessages, u"empty.xml:1:1: the catalogue has no product of type \"DUN9\"\n"_s);
     QCOMPARE(myExitCode, 1);
+}
+
+void tst_rvcatalog_spine::largeNumbersStandApart()
+{
+    run({ u"c.xml"_s, u"LARGE"_s });
+    QCOMPARE(myExitCode, 0);
+    const QStringList cells = myOutput.section(u'\n', 1, 1).simplified().split(u' ');
+    QCOMPARE(cells.mid(0, 4), (QStringList { u"2147483647"_s, u"0"_s, u"0"_s, u"12345678901.00"_s }));
 }
 
 // Two billion rows begin to come at once, and a reader that has enough ends the program.

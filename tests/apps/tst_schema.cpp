@@ -114,7 +114,7 @@ void tst_schema::refused_data()
         { "article_id='2'", "article_id='2147483648'" },
         { "paper_type='fotopaper'", "paper_type=''" },
         { "orientation='portrait'", "orientation='portrait,,square'" },
-        { "shipping_group='2'", "shipping_group='-1'" },
+        { "shipping_group='2'", "shipping_group='none'" },
         { "shipping_group='2'", "shipping_group=''" },
         { "pages='26'", "pages='many'" },
         { "pages='26'", "pages='-26'" },
