@@ -17,6 +17,9 @@ import sys
 PROGRAMS = ["keywords", "bits", "variants", "producttype", "services", "xml", "priceclasses", "threads", "complexity",
             "catalogue"]
 SEEDS = {"seed 0": "0", "own seed": None}
+# How often a program runs with each seed, how many repetitions that is, and for how many seconds each.
+USUAL_ROUNDS = (3, 5, 0.05)
+ROUNDS = {"complexity": (1, 3, 0.02), "catalogue": (1, 3, 1), "threads": (3, 3, 0.1)}
 
 # name, operation and peer, benchmark of ours, of the peer, highest ratio, most allocations (None: any number)
 TIMES = [
@@ -97,7 +100,7 @@ def run(command, seed):
 def run_program(programs, folder, program, seed):
     """All benchmarks of a program, with repetitions in random order."""
     output = os.path.join(folder, "run.json")
-    repetitions, seconds = {"complexity": (3, 0.02), "catalogue": (3, 1), "threads": (9, 0.1)}.get(program, (15, 0.05))
+    _, repetitions, seconds = ROUNDS.get(program, USUAL_ROUNDS)
     run([os.path.join(programs, "bench_" + program), f"--benchmark_repetitions={repetitions}",
          f"--benchmark_min_time={seconds}", "--benchmark_enable_random_interleaving=true",
          "--benchmark_out=" + output], seed)
@@ -115,8 +118,10 @@ def count_instructions(programs, program, seed):
 def measure(programs, folder):
     """For each seed the medians of every benchmark by its name, Google Benchmark's complexity reports, instructions."""
     runs, complexity, instructions = ({seed: {} for seed in SEEDS} for _ in range(3))
-    # Both seeds of one program follow each other, so that they meet the machine in the same mood.
-    for program, seed in itertools.product(PROGRAMS, SEEDS):
+    # The seeds take turns, so that they meet the machine in the same moods.
+    turns = [(program, seed) for program in PROGRAMS for _ in range(ROUNDS.get(program, USUAL_ROUNDS)[0])
+             for seed in SEEDS]
+    for program, seed in turns:
         print(f"bench: {program}, {seed}", file=sys.stderr)
         for entry in run_program(programs, folder, program, seed):
             if entry.get("aggregate_name") in ("BigO", "RMS"):

@@ -18,6 +18,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int FORMS = 6;
+constexpr int PRODUCTS = 16;
 
 struct Product
 {
@@ -63,7 +64,7 @@ bool sameProduct(const Product &ours, const DomGeometry &theirs)
 QList<QDomElement> products()
 {
     static QDomDocument document;
-    document.setContent(catalogueXml(CORPUS_SIZE, FORMS));
+    document.setContent(catalogueXml(PRODUCTS, FORMS));
     QList<QDomElement> result;
     for (QDomElement product = document.documentElement().firstChildElement(); !product.isNull();
          product = product.nextSiblingElement())
