@@ -71,6 +71,7 @@ qint64 BoundedInput::sizeBeforeEntity(const char *data, qint64 size)
     for (qint64 i = 0; i < size; ++i) {
         if (data[i] == '\0')
             continue;
+        count(uchar(data[i]));
         myProlog += data[i];
         if (myProlog.endsWith(ENTITY_DECLARATION)) {
             myRefusal = CatalogueReader::tr("entity declarations are not supported");
@@ -79,6 +80,19 @@ qint64 BoundedInput::sizeBeforeEntity(const char *data, qint64 size)
     }
     myProlog = myProlog.right(ENTITY_DECLARATION.size());
     return size;
+}
+
+// In UTF-8; of other encodings the letters of ASCII are counted right.
+void BoundedInput::count(uchar byte)
+{
+    const bool isByteOrderMark = myPosition.line == 1 && myPosition.column == 1 && (byte == 0xef || byte >= 0xfe);
+    const bool isContinuation = byte >= 0x80 && byte < 0xc0;
+    if (byte == '<')
+        myTagPosition = myPosition;
+    if (byte == '\n')
+        myPosition = { myPosition.line + 1, 1 };
+    else if (!isByteOrderMark && !isContinuation)
+        ++myPosition.column;
 }
 
 CatalogueReader::CatalogueReader(QIODevice *device, const QString &elementName)
@@ -156,9 +170,11 @@ std::optional<FilePosition> CatalogueReader::encodingFault() const
 bool CatalogueReader::findElement()
 {
     while (!myXml.atEnd()) {
+        const bool isBeforeRoot = myDepth == 0;
         const FilePosition start = nextPosition();
         if (readToken() == QXmlStreamReader::StartElement && myXml.qualifiedName() == myElementName) {
-            myPosition = start;
+            // White space between the prolog and the root is no token, so the root does not follow the one before it.
+            myPosition = isBeforeRoot ? myInput.rootPosition() : start;
             return true;
         }
         myInput.startPiece();

@@ -30,6 +30,8 @@ public:
     /// Why the input ended before its time; empty while it did not.
     QString refusal() const { return myRefusal; }
     qint64 totalSize() const { return myTotalSize; }
+    /// Where the last tag of the prolog begins, which is the root's once that was read.
+    FilePosition rootPosition() const { return myTagPosition; }
     /// The first place that was not UTF-8 in what was read.
     std::optional<FilePosition> utf8Fault() const { return myUtf8Check.fault(); }
 
@@ -41,11 +43,14 @@ private:
     qint64 readSource(char *data, qint64 maxSize);
     bool isEnough(const char *data, qint64 size) const;
     qint64 sizeBeforeEntity(const char *data, qint64 size);
+    void count(uchar byte);
 
     QIODevice *mySource;
     QByteArray myProlog; // what was read of it, without the zero bytes of UTF-16
     QString myRefusal;
     Utf8Check myUtf8Check;
+    FilePosition myPosition; // in the prolog
+    FilePosition myTagPosition;
     qint64 myPieceSize = 0;
     qint64 myTotalSize = 0;
     bool myInProlog = true;

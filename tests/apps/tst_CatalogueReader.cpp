@@ -1,6 +1,7 @@
 #include <CatalogueReader.h>
 
 #include <QBuffer>
+#include <QStringEncoder>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -26,6 +27,8 @@ private Q_SLOTS:
     void byteByByte();
     void content();
     void positions();
+    void positionOfTheRoot_data();
+    void positionOfTheRoot();
     void rootStart();
     void errors_data();
     void errors();
@@ -115,6 +118,36 @@ void tst_CatalogueReader::content()
     QCOMPARE(product.text(), u"xy<z>"_s);
     QVERIFY(reader.next().isNull());
     QVERIFY(!reader.hasError());
+}
+
+void tst_CatalogueReader::positionOfTheRoot_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<int>("line");
+    QTest::addColumn<int>("column");
+
+    const QString text = u"<?xml version='1.0'?>\n<!-- Größe: \U0001F4D5 -->\n  <product type='a>b'/>\n"_s;
+    QTest::newRow("alone") << QByteArray("<product/>") << 1 << 1;
+    QTest::newRow("behind a mark") << QByteArray("\xef\xbb\xbf<product/>") << 1 << 1;
+    QTest::newRow("behind white space") << QByteArray("\n\n   <product\ntype='a'\n/>\n") << 3 << 4;
+    QTest::newRow("behind a declaration") << QByteArray("<?xml version='1.0'?><product/>") << 1 << 22;
+    QTest::newRow("behind a document type") << QByteArray("<!DOCTYPE product>\n\n<product/>") << 3 << 1;
+    QTest::newRow("behind a comment") << text.toUtf8() << 3 << 3;
+    QTest::newRow("behind a comment, CRLF") << QString(text).replace(u'\n', "\r\n"_L1).toUtf8() << 3 << 3;
+    QTest::newRow("with an element in it") << QByteArray("<!--<a--><product><product/></product>") << 1 << 10;
+    QTest::newRow("in UTF-16") << QByteArray(QStringEncoder(QStringEncoder::Utf16LE, QStringEncoder::Flag::WriteBom)(
+            text)) << 3 << 3;
+}
+
+void tst_CatalogueReader::positionOfTheRoot()
+{
+    QFETCH(QByteArray, file);
+    QBuffer buffer(&file);
+    QVERIFY(buffer.open(QIODevice::ReadOnly));
+    CatalogueReader reader(&buffer, u"product"_s);
+    QVERIFY2(!reader.next().isNull(), qPrintable(reader.errorString()));
+    QTEST(int(reader.position().line), "line");
+    QTEST(int(reader.position().column), "column");
 }
 
 void tst_CatalogueReader::positions()
