@@ -102,13 +102,21 @@ struct PageRatios
 
 PageRatios pageRatios(const RVOrientation &orientation)
 {
-    constexpr PageRatios any { 0.1, 10 }; // nothing is printed that is longer and slimmer
-    const bool isUpright = orientation.isPortrait();
-    const bool isWide = orientation.isLandscape();
-    if (orientation.isQuadratic() && !isUpright && !isWide)
+    // Nothing is printed that is longer and slimmer.
+    constexpr double slimmest = 0.1;
+    constexpr double widest = 10;
+    switch (orientation.value()) {
+    case ORIENTATION_PORTRAIT:
+    case ORIENTATION_PORTRAIT_SLIM:
+        return { slimmest, 1 };
+    case ORIENTATION_LANDSCAPE:
+    case ORIENTATION_LANDSCAPE_SLIM:
+        return { 1, widest };
+    case ORIENTATION_SQUARE:
         return { 0.9, 1.1 };
-    return { isWide && !isUpright && !orientation.isQuadratic() ? 1 : any.least,
-             isUpright && !isWide && !orientation.isQuadratic() ? 1 : any.most };
+    default:
+        return { slimmest, widest };
+    }
 }
 
 /// The area in cm² of the smallest page where the barcode fits, measured from its upper left corner.
@@ -508,8 +516,7 @@ void ProductCheck::checkBarcodeArea(const PlacedBarcode &barcode, std::vector<Pl
         return add(
                 Rule::BarcodeOutsidePage, barcode.element,
                 FindingText::tr("the barcode ends %1 mm from the left and %2 mm from the top, where there is no page")
-                        .arg(millimetres(area.right() + 1.0))
-                        .arg(millimetres(area.bottom() + 1.0)));
+                        .arg(millimetres(area.right() + 1.0), millimetres(area.bottom() + 1.0)));
     const auto other = std::find_if(placed->begin(), placed->end(), [&](const PlacedBarcode &each) {
         return each.page == barcode.page && overlap(each.area, area);
     });

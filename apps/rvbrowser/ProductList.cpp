@@ -94,9 +94,10 @@ void ProductList::focusSearch()
 // From the search line on to what was found, and back to all products.
 bool ProductList::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched != mySearch || event->type() != QEvent::KeyPress)
+    const auto *pressed = event->type() == QEvent::KeyPress ? dynamic_cast<QKeyEvent *>(event) : nullptr;
+    if (watched != mySearch || !pressed)
         return QWidget::eventFilter(watched, event);
-    switch (static_cast<QKeyEvent *>(event)->key()) {
+    switch (pressed->key()) {
     case Qt::Key_Down:
     case Qt::Key_Return:
     case Qt::Key_Enter:

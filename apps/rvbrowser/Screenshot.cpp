@@ -6,7 +6,6 @@
 #include <QImage>
 #include <QPixmap>
 #include <QTextStream>
-#include <QTimer>
 
 #include <chrono>
 
@@ -28,6 +27,8 @@ Screenshot::Screenshot(MainWindow *window, const QString &fileName, const RVProd
       myFileName(fileName),
       myType(type)
 {
+    myLayoutTimer.setSingleShot(true);
+    connect(&myLayoutTimer, &QTimer::timeout, this, &Screenshot::save);
     // After the window, which shows the catalogue first.
     connect(window->session(), &CatalogueSession::catalogueChanged, this, &Screenshot::take, Qt::QueuedConnection);
     connect(window->session(), &CatalogueSession::failed, this, &Screenshot::failToLoad);
@@ -45,7 +46,7 @@ void Screenshot::take()
         fail(1, u"rvbrowser: the catalogue has no product of type \"%1\""_s.arg(myType.toString()));
         return;
     }
-    QTimer::singleShot(LAYOUT_TIME, this, &Screenshot::save);
+    myLayoutTimer.start(LAYOUT_TIME);
 }
 
 void Screenshot::save()

@@ -4,6 +4,7 @@
 #include <RVProductType.h>
 
 #include <QObject>
+#include <QTimer>
 
 class MainWindow;
 struct LoadError;
@@ -27,6 +28,7 @@ private:
     MainWindow *myWindow;
     QString myFileName;
     RVProductType myType;
+    QTimer myLayoutTimer;
 };
 
 #endif

@@ -39,7 +39,7 @@ QString usage()
         text += "  "_L1 + command.name.toString().leftJustified(10) + command.summary + u'\n';
     return text
             + "\n\"rvcatalog COMMAND --help\" explains a command; \"rvcatalog --version\" prints the version.\n"
-              "Exit codes: 0 fine, 1 problems found, 2 cannot read.\n"_L1;
+              "Exit codes: 0 fine, 1 problems found, 2 cannot read or write.\n"_L1;
 }
 
 // Asked for before the locale is changed, and also understood where the system has no such locale.

@@ -49,7 +49,7 @@ RVPageCountOrganization *RVPageOrganizationManager::organization(const RVProduct
 
 RVPageCountOrganization *RVPageOrganizationManager::calculate(const RVProductType &type)
 {
-    // A calculator may change the object that the caller asked about.
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): a calculator may change what the caller asked about.
     const RVProductType key = type;
     RVPageCountOrganization *const created = createPageOrganization(type);
     keepForever(created);
