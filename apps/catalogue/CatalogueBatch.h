@@ -23,11 +23,6 @@ public:
     CatalogueElement() = default; ///< No element; without attributes and children.
 
     bool isNull() const { return !myBatch; }
-    /// The same element of the same batch.
-    friend bool operator==(const CatalogueElement &a, const CatalogueElement &b)
-    {
-        return a.myBatch == b.myBatch && a.myIndex == b.myIndex;
-    }
     QStringView tagName() const;
     /// Where the start tag begins.
     FilePosition position() const;

@@ -23,6 +23,7 @@ struct CatalogueRule
     FindingSeverity severity; ///< of its findings
     const char *reason; ///< one sentence on why it matters, in English
 
+    /// The same in the language of the program.
     QString translatedReason() const;
 };
 

@@ -132,6 +132,17 @@ CatalogueElement formsOf(const CatalogueElement &product)
     return product.firstChildElement("forms"_L1);
 }
 
+/// True where keys that are chosen together have not one value each.
+bool isMismatch(const CatalogueElement &form)
+{
+    const QStringView key = form.attribute("key"_L1);
+    const QStringView value = form.attribute("value"_L1);
+    return (key.contains(u';') || value.contains(u';'))
+            && RVConfiguredArticleVariantList::createForProduction(
+                       RVConfiguredArticleVariant(key.toString(), value.toString()))
+                       .isEmpty();
+}
+
 QString keywordText(const KeywordFault &fault, QLatin1StringView attribute)
 {
     if (fault.isKnown)
@@ -366,7 +377,6 @@ void ProductCheck::checkOptions(const CatalogueElement &product)
 {
     const CatalogueElement forms = formsOf(product);
     QHash<std::pair<QStringView, QStringView>, FilePosition> seen;
-    myMismatches.clear();
     forEachChild(forms, "form"_L1, [&](const CatalogueElement &form) {
         checkOption(form);
         const std::pair<QStringView, QStringView> option(form.attribute("key"_L1), form.attribute("value"_L1));
@@ -391,12 +401,9 @@ void ProductCheck::checkOption(const CatalogueElement &form)
             !key.isEmpty()            ? FindingText::tr("the option has no value")
                     : value.isEmpty() ? FindingText::tr("the option has no key and no value")
                                       : FindingText::tr("the option has no key"));
-    else if ((key.contains(u';') || value.contains(u';'))
-             && RVConfiguredArticleVariantList::createForProduction(RVConfiguredArticleVariant(key, value)).isEmpty()) {
-        myMismatches.push_back(form);
+    else if (isMismatch(form))
         add(Rule::OptionCompositeMismatch, form,
             FindingText::tr("the keys %1 and the values %2 are not equally many").arg(quoted(key), quoted(value)));
-    }
 
     const QString color = form.text("color"_L1);
     if (!color.isEmpty() && !QColor::fromString(color).isValid())
@@ -412,10 +419,15 @@ void ProductCheck::checkDefaults(const CatalogueElement &forms)
     QHash<QStringView, std::size_t> places;
     bool hasPreselected = false;
     bool isCertain = true; // which options are preselected
+    QSet<qsizetype> mismatches; // how many semicolons the values of those have that are preselected
     forEachChild(forms, "form"_L1, [&](const CatalogueElement &form) {
         const QStringView name = form.attribute("key"_L1);
         const auto preselected = boolValue(form, "preselected"_L1);
-        const bool isOption = !form.attribute("value"_L1).isEmpty() && !isMismatch(form);
+        const QStringView value = form.attribute("value"_L1);
+        const bool hasMismatch = !value.isEmpty() && isMismatch(form);
+        const bool isOption = !value.isEmpty() && !hasMismatch;
+        if (hasMismatch && preselected.value_or(false))
+            mismatches.insert(value.count(u';'));
         if (preselected.has_value() ? *preselected && name.isEmpty() : form.hasAttribute("preselected"_L1))
             isCertain = false;
         if (name.isEmpty() || !(isOption || preselected.value_or(false)))
@@ -428,28 +440,15 @@ void ProductCheck::checkDefaults(const CatalogueElement &forms)
         checkDefault(form, preselected.value_or(false), &keys[places.value(name)]);
     });
     for (const OptionKey &key : keys) {
-        if (!isCertain || !key.preselected.isNull() || (!hasPreselected && key.values.size() < 2)
-            || mayBePreselected(key.first.attribute("key"_L1)))
+        // One with as many values as these keys may be meant for them, with a mistake in its own keys.
+        const bool mayBePreselected = mismatches.contains(key.first.attribute("key"_L1).count(u';'));
+        if (!isCertain || mayBePreselected || !key.preselected.isNull() || (!hasPreselected && key.values.size() < 2))
             continue;
         const QString text = hasPreselected
                 ? FindingText::tr("no option of %1 is preselected, so an order comes without any")
                 : FindingText::tr("no option of %1 is preselected, so the first is taken");
         add(Rule::OptionDefaultMissing, key.first, text.arg(quoted(key.first.attribute("key"_L1))));
     }
-}
-
-bool ProductCheck::isMismatch(const CatalogueElement &form) const
-{
-    return std::find(myMismatches.begin(), myMismatches.end(), form) != myMismatches.end();
-}
-
-// A preselected option whose values are as many as these keys may be one of them, with a mistake in its own keys.
-bool ProductCheck::mayBePreselected(QStringView key) const
-{
-    return std::any_of(myMismatches.begin(), myMismatches.end(), [&](const CatalogueElement &form) {
-        return boolValue(form, "preselected"_L1).value_or(false)
-                && form.attribute("value"_L1).count(u';') == key.count(u';');
-    });
 }
 
 // An option that stands there twice is a mistake of its own.

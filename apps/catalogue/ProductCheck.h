@@ -70,8 +70,6 @@ private:
     void checkOptions(const CatalogueElement &product);
     void checkOption(const CatalogueElement &form);
     void checkDefaults(const CatalogueElement &forms);
-    bool isMismatch(const CatalogueElement &form) const;
-    bool mayBePreselected(QStringView key) const;
     void checkDefault(const CatalogueElement &form, bool isPreselected, OptionKey *key);
     void checkBarcodes(const CatalogueElement &product);
     void checkBarcodePage(const CatalogueElement &barcode, int page);
@@ -85,7 +83,6 @@ private:
     CheckedProduct myResult;
     qint64 myNumber = 0;
     bool myHasPageCounts = false; // that make sense
-    std::vector<CatalogueElement> myMismatches; // options whose keys and values are not equally many
 };
 
 #endif

@@ -490,6 +490,11 @@ void tst_CatalogueChecker::broken()
 // One mistake is one finding, and two are two.
 void tst_CatalogueChecker::mismatchHidesNoOtherKey()
 {
+    const QString missing =
+            u"13:1 warning option-default-missing: no option of \"a;b\" is preselected, so an order comes "
+            "without any"_s;
+    const Check incomplete = check(changed(" preselected='yes'", "").replace("value='black'", "value=''"));
+    QCOMPARE(incomplete.findings, QStringList({ u"11:1 error option-incomplete: the option has no value"_s, missing }));
     const Check checked = check(changed("value='v;w'", "value='vw'").replace(" preselected='true'", ""));
     QCOMPARE(checked.findings,
              QStringList({ u"11:1 warning option-default-missing: no option of \"alcolor\" is preselected, so an order "
