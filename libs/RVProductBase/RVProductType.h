@@ -64,7 +64,7 @@ private:
     friend class RVProductCheckerRegistry;
 
     /// The same type, without a part in the ownership of its text: good for a look-up while @p type lives.
-    /// Counting owners, up and down again, would cost a remembered check as much as all the rest.
+    /// Spares every remembered check the count of owners, up and down again.
     static RVProductType borrow(const RVProductType &type)
     {
         const QString::DataPointer &text = type.myName.data_ptr();

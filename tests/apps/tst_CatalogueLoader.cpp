@@ -1,3 +1,5 @@
+#include "ManyProducts.h"
+
 #include <CatalogueLoader.h>
 
 #include <QFile>
@@ -12,15 +14,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QByteArray catalogue(int products)
-{
-    QByteArray content("<products>\n");
-    for (int i = 0; i < products; ++i)
-        content += "<product type='T" + QByteArray::number(i) + "' article_id='" + QByteArray::number(i + 1)
-                + "' article_class='book' cover_type='hardcovers' pages='26' max_pages='154' page_step='4'/>\n";
-    return content + "</products>\n";
-}
 
 constexpr int MANY = 20000;
 constexpr int TIMEOUT = 60000; // ms
@@ -75,7 +68,7 @@ void tst_CatalogueLoader::cleanup()
 // What the thread has made is read by this one: every product and every finding.
 void tst_CatalogueLoader::loads()
 {
-    const QString fileName = write(catalogue(300));
+    const QString fileName = write(manyProducts(300).replace("hardcover", "hardcovers"));
     CatalogueLoader loader;
     CataloguePointer loaded;
     connect(&loader, &CatalogueLoader::loaded, this, [&](const CataloguePointer &catalogue) { loaded = catalogue; });
@@ -101,7 +94,7 @@ void tst_CatalogueLoader::reportsItsProgress()
     CatalogueLoader loader;
     QSignalSpy progressed(&loader, &CatalogueLoader::progressed);
     QSignalSpy loaded(&loader, &CatalogueLoader::loaded);
-    loader.start(write(catalogue(MANY)));
+    loader.start(write(manyProducts(MANY)));
     QVERIFY(loaded.wait(TIMEOUT));
     QVERIFY(progressed.size() > 2);
     int before = -1;
@@ -114,7 +107,7 @@ void tst_CatalogueLoader::reportsItsProgress()
 
 void tst_CatalogueLoader::failsWhereTheFileIsBroken()
 {
-    const QString fileName = write(catalogue(20).chopped(30));
+    const QString fileName = write(manyProducts(20).chopped(30));
     CatalogueLoader loader;
     LoadError error;
     connect(&loader, &CatalogueLoader::failed, this, [&](const LoadError &failure) { error = failure; });
@@ -159,7 +152,7 @@ void tst_CatalogueLoader::cancels()
     QSignalSpy progressed(&loader, &CatalogueLoader::progressed);
     QSignalSpy loaded(&loader, &CatalogueLoader::loaded);
     QSignalSpy cancelled(&loader, &CatalogueLoader::cancelled);
-    loader.start(write(catalogue(MANY)));
+    loader.start(write(manyProducts(MANY)));
     QVERIFY(progressed.wait(TIMEOUT));
     loader.cancel();
     QVERIFY(cancelled.wait(TIMEOUT));
@@ -178,10 +171,10 @@ void tst_CatalogueLoader::cancelsNothing()
 
 void tst_CatalogueLoader::givesUpForAnother()
 {
-    const QString small = write(catalogue(3));
+    const QString small = write(manyProducts(3));
     CatalogueLoader loader;
     QSignalSpy loaded(&loader, &CatalogueLoader::loaded);
-    loader.start(write(catalogue(MANY)));
+    loader.start(write(manyProducts(MANY)));
     loader.start(small);
     QVERIFY(loaded.wait(TIMEOUT));
     QCOMPARE(loaded.size(), 1);
@@ -194,10 +187,10 @@ void tst_CatalogueLoader::giveUpsAreSilent()
     QSignalSpy cancelled(&loader, &CatalogueLoader::cancelled);
     QSignalSpy failed(&loader, &CatalogueLoader::failed);
     QSignalSpy loaded(&loader, &CatalogueLoader::loaded);
-    const QString big = write(catalogue(MANY));
+    const QString big = write(manyProducts(MANY));
     for (int i = 0; i < 10; ++i)
         loader.start(big);
-    loader.start(write(catalogue(1)));
+    loader.start(write(manyProducts(1)));
     QVERIFY(loaded.wait(TIMEOUT));
     QTest::qWait(100); // for the others to end
     QCOMPARE(loaded.size(), 1);
@@ -208,7 +201,7 @@ void tst_CatalogueLoader::giveUpsAreSilent()
 // The threads hold nothing of the loader when it is gone, and their files can be removed.
 void tst_CatalogueLoader::endsWhileLoading()
 {
-    const QString fileName = write(catalogue(MANY));
+    const QString fileName = write(manyProducts(MANY));
     for (int milliseconds = 0; milliseconds < 20; milliseconds += 4) {
         CatalogueLoader loader;
         loader.start(fileName);

@@ -1,3 +1,5 @@
+#include "ManyProducts.h"
+
 #include <FindingsPanel.h>
 #include <Language.h>
 #include <MainWindow.h>
@@ -50,15 +52,6 @@ const char CATALOGUE[] =
         "<product type='DUNS4' article_id='1003' name='Heft' article_class='book' page_binding='spiral' pages='24' "
         "max_pages='72' page_step='2'/>\n"
         "</products>\n";
-
-QByteArray manyProducts(int count)
-{
-    QByteArray content("<products>\n");
-    for (int i = 0; i < count; ++i)
-        content += "<product type='T" + QByteArray::number(i) + "' article_id='" + QByteArray::number(i + 1)
-                + "' article_class='book' cover_type='hardcover' pages='26' max_pages='154' page_step='4'/>\n";
-    return content + "</products>\n";
-}
 
 }
 
