@@ -11,6 +11,9 @@ class RVRegularExpression : public QRegularExpression
 public:
     /// An invalid pattern matches nothing.
     RVRegularExpression(const QString &pattern) : QRegularExpression(pattern) { optimize(); }
+    // Without moves, which leave an expression that must not be asked.
+    RVRegularExpression(const RVRegularExpression &) = default;
+    RVRegularExpression &operator=(const RVRegularExpression &) = default;
 };
 
 #endif

@@ -271,7 +271,7 @@ void RVArticleClass::toTemplates2Format(QDomElement &parent) const
 
 void RVArticleClass::fillTable(RVEnumToStringTable<RVArticleClassEnum> *table) const
 {
-    rvInsertKeywords(table, KEYWORDS);
+    rvFillTable(table, KEYWORDS);
 }
 
 QDebug operator<<(QDebug debug, const RVArticleClass &articleClass)

@@ -1,5 +1,6 @@
 #include "RVArticleId.h"
 
+#include "RVNumbers_p.h"
 #include "RVXMLBuilder.h"
 #include "RVXMLParser.h"
 
@@ -14,7 +15,8 @@ const QString RVArticleId::ARTICLE_ID_KEY = u"id"_s;
 const QString RVArticleId::ARTICLE_ART_ID_KEY = u"art_id"_s;
 const QString RVArticleId::ARTICLE_ARTICLE_ID_KEY = u"article_id"_s;
 
-RVArticleId::RVArticleId(const QJsonObject &object, const QString &key) : myId(object.value(key).toInt(0)) { }
+RVArticleId::RVArticleId(const QJsonObject &object, const QString &key) : myId(rvToInt(object.value(key)).value_or(0))
+{ }
 
 RVArticleId::RVArticleId(const QJsonObject &object) : RVArticleId(object, ARTICLE_ID_KEY) { }
 

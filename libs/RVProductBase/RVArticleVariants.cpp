@@ -41,7 +41,7 @@ RVArticleVariants::RVArticleVariants(const QString &key, const QString &value)
 
 RVArticleVariants::RVArticleVariants(const QString &text)
 {
-    static const QRegularExpression separator(QStringLiteral("[:|+]"));
+    static const auto &separator = *new QRegularExpression(QStringLiteral("[:|+]"));
     const QStringList pieces = text.split(separator);
     if (pieces.size() == 2)
         insert(pieces.at(0), pieces.at(1));
@@ -234,8 +234,8 @@ QString RVArticleVariants::toKTX() const
 RVArticleVariants RVArticleVariants::toXTCI() const
 {
     RVArticleVariants result;
-    for (auto it = myVariants.begin(); it != myVariants.end(); ++it)
-        result.splitForProduction(it.key(), it.value());
+    for (const QString &key : keys())
+        result.splitForProduction(key, value(key));
     return result;
 }
 

@@ -31,6 +31,9 @@ public:
     RVConfiguredArticleVariant(const QString &text);
     /// From the attributes of a "form" element.
     RVConfiguredArticleVariant(const QDomElement &element);
+    // Moves share the data as copies do, so that every object has some.
+    RVConfiguredArticleVariant(const RVConfiguredArticleVariant &) = default;
+    RVConfiguredArticleVariant &operator=(const RVConfiguredArticleVariant &) = default;
 
     QString key() const; ///< What is chosen, such as "alcolor".
     QString keyName() const; ///< What the customer reads for the key.

@@ -22,18 +22,18 @@ RVConfiguredArticleVariantImpl::RVConfiguredArticleVariantImpl(const QString &ke
 QString RVConfiguredArticleVariantImpl::previewNameFallbacked(const QString &optionValue) const
 {
     using Previews = QHash<QString, QString>;
-    static const Previews spiralFallback = {
-        { QStringLiteral("silver"), QStringLiteral("calendar_binding_spiral_metal") },
-        { QStringLiteral("black"), QStringLiteral("calendar_binding_spiral_black") },
-    };
-    static const Previews pocketColorFallback = {
-        { QStringLiteral("white"), QStringLiteral("POCKET-photobook-photopaper-preview_white") },
-        { QStringLiteral("black"), QStringLiteral("POCKET-photobook-photopaper-preview_black") },
-        { QStringLiteral("beige"), QStringLiteral("POCKET-photobook-preview_beige") },
-    };
-    static const QHash<QString, Previews> fallbackByKey = {
-        { QStringLiteral("spiral"), spiralFallback },
-        { QStringLiteral("pocketcolor"), pocketColorFallback },
+    static const auto &fallbackByKey = *new QHash<QString, Previews> {
+        { QStringLiteral("spiral"),
+          {
+                  { QStringLiteral("silver"), QStringLiteral("calendar_binding_spiral_metal") },
+                  { QStringLiteral("black"), QStringLiteral("calendar_binding_spiral_black") },
+          } },
+        { QStringLiteral("pocketcolor"),
+          {
+                  { QStringLiteral("white"), QStringLiteral("POCKET-photobook-photopaper-preview_white") },
+                  { QStringLiteral("black"), QStringLiteral("POCKET-photobook-photopaper-preview_black") },
+                  { QStringLiteral("beige"), QStringLiteral("POCKET-photobook-preview_beige") },
+          } },
     };
     return fallbackByKey.value(key).value(optionValue, preview);
 }

@@ -181,20 +181,21 @@ QString RVCoverType::toolTip() const
 
 const RVDisplayNames<RVCoverType> &RVCoverType::bindingNames()
 {
-    static const RVDisplayNames<RVCoverType> theNames(CONTEXT, rvTranslated<RVCoverType>(CONTEXT, NAMES), RVCoverType(),
-                                                      unknownName());
+    static const auto &theNames = *new RVDisplayNames<RVCoverType>(CONTEXT, rvTranslated<RVCoverType>(CONTEXT, NAMES),
+                                                                   RVCoverType(), unknownName());
     return theNames;
 }
 
 const RVDisplayNames<RVCoverType> &RVCoverType::bindingToolTips()
 {
-    static const RVDisplayNames<RVCoverType> theToolTips(CONTEXT, toolTips(), RVCoverType(), unknownName());
+    static const auto &theToolTips = *new RVDisplayNames<RVCoverType>(CONTEXT, toolTips(), RVCoverType(),
+                                                                      unknownName());
     return theToolTips;
 }
 
 void RVCoverType::fillTable(RVEnumToStringTable<RVCoverTypeEnum> *table) const
 {
-    rvInsertKeywords(table, KEYWORDS);
+    rvFillTable(table, KEYWORDS);
 }
 
 QDebug operator<<(QDebug debug, const RVCoverType &coverType)

@@ -52,6 +52,8 @@ template<typename T>
 T RVDisplayNames<T>::value(const QString &name) const
 {
     const QByteArray sourceText = name.toLatin1();
+    if (sourceText.contains('\0')) // the translator would read no further
+        return defaultValue;
     return names.key(QCoreApplication::translate(myContext, sourceText.constData()), defaultValue);
 }
 

@@ -2,6 +2,7 @@
 
 #include "RVArticleClass.h"
 #include "RVKeywords_p.h"
+#include "RVNumbers_p.h"
 
 #include <QCoreApplication>
 
@@ -44,11 +45,8 @@ RVFotoPaperType RVFotoPaperType::defaultFor(const RVArticleClass &articleClass)
 
 QList<RVFotoPaperType> RVFotoPaperType::createFromXTCI(const QString &code)
 {
-    bool isNumber = false;
-    const int number = code.toInt(&isNumber);
-    if (!isNumber)
-        return {};
-    switch (number) {
+    constexpr int NO_CODE = -1;
+    switch (rvToInt(code).value_or(NO_CODE)) {
     case 0:
         return { GLOSSY, MATT };
     case 1:

@@ -24,6 +24,16 @@ void rvInsertKeywords(RVEnumToStringTable<E> *table, const RVKeyword<E> (&rows)[
         table->insert(QString::fromRawData(row.keyword.data(), row.keyword.size()), row.value);
 }
 
+/// The same, and assigns the defaults, whatever they were before.
+template<typename E, std::size_t N>
+void rvFillTable(RVEnumToStringTable<E> *table, const RVKeyword<E> (&rows)[N],
+                 const QString &defaultKeyword = QString(), E defaultValue = E(0))
+{
+    rvInsertKeywords(table, rows);
+    table->defaultKeyword = defaultKeyword;
+    table->defaultValue = defaultValue;
+}
+
 /// Writes "RVOrientation(portrait, square)".
 template<typename Attribute>
 QDebug rvDebugAttribute(QDebug debug, const char *className, const Attribute &attribute)

@@ -13,8 +13,7 @@ class QDebug;
 /**
  * The bleed around a page: what is printed beyond each of its four edges and cut away, in the unit of the page size.
  *
- * It never changes, so copies share their data, also between threads. A moved-from object may only be destroyed or
- * assigned to.
+ * It never changes, so copies share their data, also between threads. An object that is moved from has no margins.
  *
  * @ingroup geometry
  */
@@ -30,27 +29,30 @@ public:
 
     /// What is cut away at one edge.
     /// @{
-    int top() const noexcept { return d->top(); }
-    int bottom() const noexcept { return d->bottom(); }
-    int left() const noexcept { return d->left(); }
-    int right() const noexcept { return d->right(); }
+    int top() const noexcept { return data().top(); }
+    int bottom() const noexcept { return data().bottom(); }
+    int left() const noexcept { return data().left(); }
+    int right() const noexcept { return data().right(); }
     /// @}
 
     /// The left margin as x, the top margin as y.
-    QPoint topLeft() const noexcept { return d->topLeft(); }
+    QPoint topLeft() const noexcept { return data().topLeft(); }
     /// The right margin as x, the bottom margin as y.
-    QPoint bottomRight() const noexcept { return d->bottomRight(); }
+    QPoint bottomRight() const noexcept { return data().bottomRight(); }
     /// What the margins add to the width and to the height of the page.
-    QSize totalMarginWH() const noexcept { return d->totalMarginWH(); }
-    bool allNull() const noexcept { return d->allNull(); } ///< True without any bleed.
+    QSize totalMarginWH() const noexcept { return data().totalMarginWH(); }
+    bool allNull() const noexcept { return data().allNull(); } ///< True without any bleed.
 
     /// By all four margins.
     /// @{
-    bool operator==(const RVMargins &other) const noexcept { return d == other.d || *d == *other.d; }
+    bool operator==(const RVMargins &other) const noexcept { return d == other.d || data() == other.data(); }
     bool operator!=(const RVMargins &other) const noexcept { return !(*this == other); }
     /// @}
 
 private:
+    const RVMarginsImpl &data() const noexcept { return d ? *d : none(); }
+    static const RVMarginsImpl &none() noexcept;
+
     QExplicitlySharedDataPointer<const RVMarginsImpl> d;
 };
 

@@ -30,7 +30,7 @@ RVMaterialType::RVMaterialType(const QString &text) : RVMaterialType()
 
 void RVMaterialType::fillTable(RVEnumToStringTable<RVMaterialTypeEnum> *table) const
 {
-    rvInsertKeywords(table, KEYWORDS);
+    rvFillTable(table, KEYWORDS);
 }
 
 QDebug operator<<(QDebug debug, const RVMaterialType &material)

@@ -175,8 +175,7 @@ void RVOrientation::toTemplates2Format(QDomElement &parent) const
 
 void RVOrientation::fillTable(RVEnumToStringTable<RVOrientationEnum> *table) const
 {
-    rvInsertKeywords(table, KEYWORDS);
-    table->defaultKeyword = u"portrait"_s;
+    rvFillTable(table, KEYWORDS, u"portrait"_s);
 }
 
 QDebug operator<<(QDebug debug, const RVOrientation &orientation)

@@ -73,8 +73,7 @@ QString RVPageAlignment::modifyProductionPath(const QString &path, bool split) c
 
 void RVPageAlignment::fillTable(RVEnumToStringTable<RVPageAlignmentEnum> *table) const
 {
-    rvInsertKeywords(table, KEYWORDS);
-    table->defaultValue = PAGE_ALIGNMENT_LEFT;
+    rvFillTable(table, KEYWORDS, QString(), PAGE_ALIGNMENT_LEFT);
 }
 
 QDebug operator<<(QDebug debug, const RVPageAlignment &alignment)

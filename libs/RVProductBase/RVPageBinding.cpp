@@ -48,7 +48,7 @@ QString RVPageBinding::humanReadableName() const
 
 const RVDisplayNames<RVPageBinding> &RVPageBinding::pageBindingNames()
 {
-    static const RVDisplayNames<RVPageBinding> theNames = initPageBindingNames();
+    static const auto &theNames = *new RVDisplayNames<RVPageBinding>(initPageBindingNames());
     return theNames;
 }
 
@@ -65,7 +65,7 @@ void RVPageBinding::toTemplates2Format(QDomElement &parent) const
 
 void RVPageBinding::fillTable(RVEnumToStringTable<RVPageBindingEnum> *table) const
 {
-    rvInsertKeywords(table, KEYWORDS);
+    rvFillTable(table, KEYWORDS);
 }
 
 QDebug operator<<(QDebug debug, const RVPageBinding &pageBinding)

@@ -2,6 +2,7 @@
 
 #include "RVPageOrganizationCalculator.h"
 
+#include <QCoreApplication>
 #include <QList>
 #include <QMutex>
 #include <QMutexLocker>
@@ -24,7 +25,12 @@ void keepForever(RVPageCountOrganization *organization)
 
 }
 
-RVPageOrganizationManager::RVPageOrganizationManager() = default;
+// The thread that asks first may end soon, and would take with it what connections to clearCache() are delivered by.
+RVPageOrganizationManager::RVPageOrganizationManager()
+{
+    if (const auto *application = QCoreApplication::instance())
+        moveToThread(application->thread());
+}
 
 RVPageOrganizationManager::~RVPageOrganizationManager()
 {

@@ -148,7 +148,7 @@ bool RVPageType::isSpotColorAllowed(const QList<RVSpotColor> &colors) const
 
 void RVPageType::fillTable(RVEnumToStringTable<RVPageTypeEnum> *table) const
 {
-    rvInsertKeywords(table, KEYWORDS);
+    rvFillTable(table, KEYWORDS);
 }
 
 QDebug operator<<(QDebug debug, const RVPageType &pageType)

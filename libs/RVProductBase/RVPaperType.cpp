@@ -90,13 +90,13 @@ QString RVPaperType::humanReadableName() const
 
 const RVDisplayNames<RVPaperType> &RVPaperType::paperTypeNames()
 {
-    static const RVDisplayNames<RVPaperType> theNames = initPaperTypeNames();
+    static const auto &theNames = *new RVDisplayNames<RVPaperType>(initPaperTypeNames());
     return theNames;
 }
 
 QHash<QString, QString> RVPaperType::translatedPaperTypes()
 {
-    static const QHash<QString, QString> theTexts = translatedTexts();
+    static const auto &theTexts = *new QHash<QString, QString>(translatedTexts());
     return theTexts;
 }
 
@@ -111,9 +111,7 @@ RVDisplayNames<RVPaperType> RVPaperType::initPaperTypeNames()
 
 void RVPaperType::fillTable(RVEnumToStringTable<RVPaperTypeEnum> *table) const
 {
-    rvInsertKeywords(table, KEYWORDS);
-    table->defaultKeyword = u"indigo"_s;
-    table->defaultValue = INDIGO;
+    rvFillTable(table, KEYWORDS, u"indigo"_s, INDIGO);
 }
 
 QDebug operator<<(QDebug debug, const RVPaperType &paperType)

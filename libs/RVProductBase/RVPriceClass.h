@@ -1,6 +1,8 @@
 #ifndef RVPRICECLASS_H
 #define RVPRICECLASS_H
 
+#include "RVProductBaseExport.h"
+
 #include <QHash>
 #include <QString>
 
@@ -10,19 +12,19 @@
  *
  * @ingroup pricing
  */
-class RVPriceClass
+class RVPRODUCTBASE_EXPORT RVPriceClass
 {
 public:
     RVPriceClass() = default; ///< No price class.
-    RVPriceClass(const QString &code) : myCode(code) { } ///< The code as it stands, blanks included.
+    RVPriceClass(const QString &code); ///< The code as it stands, blanks included.
 
     /// The same as the constructor.
-    static RVPriceClass create(const QString &code) { return RVPriceClass(code); }
+    static RVPriceClass create(const QString &code);
 
     bool isEmpty() const noexcept { return myCode.isEmpty(); } ///< True without a code.
     bool isValid() const noexcept { return !myCode.isEmpty(); } ///< True with a code, whether it is known or not.
     /// True for the empty code and for every code that begins with the digit 0: nothing is charged.
-    bool isFree() const noexcept { return myCode.isEmpty() || myCode.front() == u'0'; }
+    bool isFree() const noexcept;
 
     QString toString() const { return myCode; } ///< The code as it was given.
 
@@ -30,7 +32,7 @@ public:
     /// @{
     friend bool operator==(const RVPriceClass &a, const RVPriceClass &b) noexcept { return a.myCode == b.myCode; }
     friend bool operator!=(const RVPriceClass &a, const RVPriceClass &b) noexcept { return a.myCode != b.myCode; }
-    friend bool operator<(const RVPriceClass &a, const RVPriceClass &b) noexcept { return a.myCode < b.myCode; }
+    RVPRODUCTBASE_EXPORT friend bool operator<(const RVPriceClass &a, const RVPriceClass &b) noexcept;
     /// @}
 
 private:

@@ -29,7 +29,7 @@ RVProductArrangement::RVProductArrangement(const QString &text) : RVProductArran
 
 void RVProductArrangement::fillTable(RVEnumToStringTable<RVProductArrangementEnum> *table) const
 {
-    rvInsertKeywords(table, KEYWORDS);
+    rvFillTable(table, KEYWORDS);
 }
 
 QDebug operator<<(QDebug debug, const RVProductArrangement &arrangement)

@@ -9,9 +9,14 @@
 
 using namespace Qt::StringLiterals;
 
-const RVRegularExpression RVProductType::myBookRegExp(u"((DUN|DUNS)\\d+).*"_s);
-
 namespace {
+
+/// Is never destroyed and so keeps what its copies share: destructors of static objects may still search with one.
+const RVRegularExpression &bookPattern()
+{
+    static const auto &pattern = *new RVRegularExpression(u"((DUN|DUNS)\\d+).*"_s);
+    return pattern;
+}
 
 constexpr bool isDigit(QChar letter)
 {
@@ -44,6 +49,8 @@ QString normalized(const QString &code)
 }
 
 }
+
+const RVRegularExpression RVProductType::myBookRegExp(bookPattern());
 
 RVProductType::RVProductType(const QString &code)
     : myName(normalized(code)),

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <cstddef>
+#include <utility>
 
 class QDomElement;
 class RVPriceClass;
@@ -30,6 +31,24 @@ public:
     RVProductType() = default; ///< The unknown type.
     /// Any code; that of a photo book is reduced to its family.
     RVProductType(const QString &code);
+
+    RVProductType(const RVProductType &) = default;
+    RVProductType &operator=(const RVProductType &) = default;
+    /// The type that is moved from becomes the unknown one, or the one that was assigned to.
+    /// @{
+    RVProductType(RVProductType &&other) noexcept { swap(other); }
+    RVProductType &operator=(RVProductType &&other) noexcept
+    {
+        swap(other);
+        return *this;
+    }
+    /// @}
+    /// Exchanges the text together with its hash.
+    void swap(RVProductType &other) noexcept
+    {
+        myName.swap(other.myName);
+        std::swap(myHashValue, other.myHashValue);
+    }
 
     /// From the billing code of a product.
     static RVProductType fromPriceClass(const RVPriceClass &priceClass);

@@ -1,5 +1,6 @@
 #include "RVShippingGroupId.h"
 
+#include "RVNumbers_p.h"
 #include "RVXMLParser.h"
 
 #include <QDataStream>
@@ -26,13 +27,12 @@ RVShippingGroupId::RVShippingGroupId(const QDomNamedNodeMap &attributes)
 { }
 
 RVShippingGroupId::RVShippingGroupId(const QJsonObject &object)
-    : myId(object.value(SHIPPING_GROUP_ID_KEY).toInt(-1)) { }
+    : myId(rvToInt(object.value(SHIPPING_GROUP_ID_KEY)).value_or(-1))
+{ }
 
 RVShippingGroupId RVShippingGroupId::createFrom(const QString &text)
 {
-    bool isNumber = false;
-    const int id = text.toInt(&isNumber);
-    return isNumber ? id : -1;
+    return rvToInt(text).value_or(-1);
 }
 
 QString RVShippingGroupId::defaultKey()

@@ -226,8 +226,8 @@ QFont RVSpaceMagnitude::adaptFont(const QFont &font, const RVSpaceMagnitude &tar
         const int pixelSize = rvSaturated(std::floor(font.pixelSize() * factor));
         if (pixelSize > 0)
             result.setPixelSize(pixelSize);
-    } else if (factor > 0.0 && std::isfinite(factor)) {
-        result.setPointSizeF(font.pointSizeF() * factor);
+    } else if (const double pointSize = font.pointSizeF() * factor; pointSize > 0.0 && std::isfinite(pointSize)) {
+        result.setPointSizeF(pointSize);
     }
     return result;
 }
@@ -239,7 +239,7 @@ QString RVSpaceMagnitude::humanReadableName() const
 
 const RVDisplayNames<RVSpaceMagnitude> &RVSpaceMagnitude::names()
 {
-    static const RVDisplayNames<RVSpaceMagnitude> theNames = initNames();
+    static const auto &theNames = *new RVDisplayNames<RVSpaceMagnitude>(initNames());
     return theNames;
 }
 
@@ -251,9 +251,7 @@ RVDisplayNames<RVSpaceMagnitude> RVSpaceMagnitude::initNames()
 
 void RVSpaceMagnitude::fillTable(RVEnumToStringTable<RVSpaceMagnitudeEnum> *table) const
 {
-    rvInsertKeywords(table, KEYWORDS);
-    table->defaultKeyword = u"any"_s;
-    table->defaultValue = SPACE_MAGNITUDE_ANY;
+    rvFillTable(table, KEYWORDS, u"any"_s, SPACE_MAGNITUDE_ANY);
 }
 
 QDebug operator<<(QDebug debug, const RVSpaceMagnitude &magnitude)

@@ -18,8 +18,8 @@ class QString;
  * spine has 9 mm at 26 and 30 pages and 10 mm at 34 and 38.
  *
  * Read from the products XML; by default without growth and all widths 0. It never changes, so copies share their
- * data, also between threads; moving one to a new object shares it as well. One that was assigned from as an rvalue may
- * only be destroyed or assigned to.
+ * data, also between threads; moving one to a new object shares it as well. Moving one to an object that is there
+ * exchanges the two.
  *
  * @ingroup geometry
  */
@@ -33,7 +33,11 @@ public:
 
     RVSpineConfig(const RVSpineConfig &) = default;
     RVSpineConfig &operator=(const RVSpineConfig &) = default;
-    RVSpineConfig &operator=(RVSpineConfig &&) = default;
+    RVSpineConfig &operator=(RVSpineConfig &&other) noexcept
+    {
+        d.swap(other.d);
+        return *this;
+    }
 
     /// Reads the page counts of a product element and, of "spine" in its "composition", "packages_per_block" (0),
     /// "base_width", "block_width" and "additional_width" (0), in the "units" ("mm") of the composition.

@@ -48,6 +48,12 @@ public:
     /// Returned by decoding where a keyword is not known. 0 until assigned.
     ENUM defaultValue = ENUM(0);
 
+    /// Without keywords.
+    RVEnumToStringTable() = default;
+    // A table that is moved from stays whole, which a move of its members one by one would not leave it.
+    RVEnumToStringTable(const RVEnumToStringTable &) = default;
+    RVEnumToStringTable &operator=(const RVEnumToStringTable &) = default;
+
     /// The value of one keyword, @p fallback for an unknown or empty one.
     ENUM decode(const QString &keyword, ENUM fallback) const { return decodePiece(keyword, fallback); }
 
@@ -81,7 +87,7 @@ public:
     QList<ENUM> allKnownEnumValues() const { return myEncodings.keys(); }
 
     /// The single bits of a value, lowest first; none for a value below 1.
-    static QList<ENUM> splitToBitsSorted(ENUM value);
+    QList<ENUM> splitToBitsSorted(ENUM value) const;
 
     /// True while nothing was inserted and no default assigned.
     bool isUntouched() const;
@@ -216,7 +222,7 @@ QStringList RVEnumToStringTable<ENUM>::allPossibleKeywords(ENUM value) const
 }
 
 template<typename ENUM>
-QList<ENUM> RVEnumToStringTable<ENUM>::splitToBitsSorted(ENUM value)
+QList<ENUM> RVEnumToStringTable<ENUM>::splitToBitsSorted(ENUM value) const
 {
     QList<ENUM> result;
     if (Bits(value) > 0)

@@ -11,6 +11,7 @@
 #include <atomic>
 #include <memory>
 #include <type_traits>
+#include <typeinfo>
 
 /**
  * The value of one attribute of a product: a set of bits of the flag enumeration E.
@@ -199,18 +200,18 @@ std::atomic<const RVEnumToStringTable<E> *> RVEnumWrapper<E>::myTable { nullptr 
 template<typename E>
 const RVEnumToStringTable<E> *RVEnumWrapper<E>::makeTable() const
 {
-    static QMutex theMutex;
+    static QBasicMutex theMutex; // has no destructor, so that a table can still be made while the process ends
     const QMutexLocker locker(&theMutex);
     if (const auto *table = myTable.load(std::memory_order_relaxed))
         return table;
 
-    auto table = std::make_unique<RVEnumToStringTable<E>>();
-    fillTable(table.get());
     // A plain wrapper (a temporary made from a bare value, say) must not leave the process without keywords.
-    if (table->isUntouched()) {
+    if (typeid(*this) == typeid(RVEnumWrapper)) {
         static const auto *const withoutKeywords = new RVEnumToStringTable<E>;
         return withoutKeywords;
     }
+    auto table = std::make_unique<RVEnumToStringTable<E>>();
+    fillTable(table.get());
     table->optimize();
     myTable.store(table.get(), std::memory_order_release);
     return table.release();

@@ -37,7 +37,7 @@ protected:
 template<typename T>
 T *RVSingleton<T>::instance()
 {
-    static QReadWriteLock theLock;
+    static auto &theLock = *new QReadWriteLock;
     static T *theInstance = nullptr;
     {
         const QReadLocker locker(&theLock);

@@ -76,7 +76,7 @@ int toInt(const QString &text, int defaultValue)
         return int(plain->isNegative ? -plain->digits : plain->digits);
     bool isNumber = false;
     const int number = text.toInt(&isNumber);
-    return isNumber ? number : defaultValue;
+    return isNumber && !text.contains(QChar::Null) ? number : defaultValue; // Qt's number ends at a null character
 }
 
 qreal toDouble(const QString &text, qreal defaultValue)

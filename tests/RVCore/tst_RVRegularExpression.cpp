@@ -12,6 +12,7 @@ private Q_SLOTS:
     void matches();
     void hasNoOptions();
     void keepsBrokenPatterns();
+    void isWholeAfterAMove();
 };
 
 void tst_RVRegularExpression::matches()
@@ -33,6 +34,18 @@ void tst_RVRegularExpression::keepsBrokenPatterns()
 {
     QTest::failOnWarning(QRegularExpression(u"."_s));
     QVERIFY(!RVRegularExpression(u"(b"_s).isValid());
+}
+
+void tst_RVRegularExpression::isWholeAfterAMove()
+{
+    RVRegularExpression first(u"(b+)c"_s);
+    const RVRegularExpression taken = std::move(first);
+    QCOMPARE(taken.match(u"aabbc"_s).captured(1), u"bb"_s);
+    QCOMPARE(first.match(u"aabbc"_s).hasMatch(), first.pattern() == taken.pattern());
+    RVRegularExpression second(u"d"_s);
+    second = std::move(first);
+    QVERIFY(second.match(u"bc"_s).hasMatch());
+    QCOMPARE(first.match(u"bc"_s).hasMatch(), first.pattern() == taken.pattern());
 }
 
 QTEST_APPLESS_MAIN(tst_RVRegularExpression)

@@ -1,6 +1,8 @@
 #ifndef ATTRIBUTETEST_H
 #define ATTRIBUTETEST_H
 
+#include <RVTemplateClasses/RVEnumToStringTable.h>
+
 #include <QDomDocument>
 #include <QTest>
 
@@ -21,10 +23,15 @@ class KeywordTableTest
     using Enum = std::decay_t<decltype(std::declval<Attribute>().value())>;
 
 public:
-    KeywordTableTest(const QList<KeywordRow> &rows, const QString &defaultKeyword, qint64 defaultValue)
+    /// Most classes assign the defaults of their table; others leave those of a new one.
+    enum Defaults { Assigned, Left };
+
+    KeywordTableTest(const QList<KeywordRow> &rows, const QString &defaultKeyword, qint64 defaultValue,
+                     Defaults defaults = Assigned)
         : myRows(rows),
           myDefaultKeyword(defaultKeyword),
-          myDefaultValue(defaultValue)
+          myDefaultValue(defaultValue),
+          myDefaults(defaults)
     { }
 
     /// Call from a test function.
@@ -44,6 +51,7 @@ public:
             knownValues += qint64(value);
         QCOMPARE(sorted(knownValues), sorted(allValues));
         checkDefaults();
+        checkChangedDefaults();
     }
 
 private:
@@ -73,6 +81,16 @@ private:
         QCOMPARE(qint64(Attribute().value()), 0);
     }
 
+    void checkChangedDefaults() const
+    {
+        RVEnumToStringTable<Enum> table;
+        table.defaultKeyword = QStringLiteral("changed");
+        table.defaultValue = Enum(0x40);
+        Attribute().fillTable(&table);
+        QCOMPARE(table.defaultKeyword, myDefaults == Assigned ? myDefaultKeyword : QStringLiteral("changed"));
+        QCOMPARE(qint64(table.defaultValue), myDefaults == Assigned ? myDefaultValue : 0x40);
+    }
+
     template<typename List>
     static List sorted(List list)
     {
@@ -83,6 +101,7 @@ private:
     QList<KeywordRow> myRows;
     QString myDefaultKeyword;
     qint64 myDefaultValue;
+    Defaults myDefaults;
 };
 
 /// "name=text" of every child element, sorted.

@@ -130,6 +130,16 @@ void tst_RVArticleId::readsJson_data()
     QTest::newRow("numbers") << QJsonObject { { u"id"_s, 4 }, { u"article_id"_s, -6 } } << 4 << -6;
     QTest::newRow("texts") << QJsonObject { { u"id"_s, u"4"_s }, { u"article_id"_s, true } } << 0 << 0;
     QTest::newRow("fractions") << QJsonObject { { u"id"_s, 4.5 }, { u"article_id"_s, 1e10 } } << 0 << 0;
+    QTest::newRow("not a number and infinite")
+            << QJsonObject { { u"id"_s, qQNaN() }, { u"article_id"_s, qInf() } } << 0 << 0;
+    QTest::newRow("beyond 32 bits") << QJsonObject { { u"id"_s, 2147483648.0 }, { u"article_id"_s, -2147483649.0 } }
+                                    << 0 << 0;
+    QTest::newRow("beyond 64 bits") << QJsonObject { { u"id"_s, 1e300 }, { u"article_id"_s, -1e300 } } << 0 << 0;
+    QTest::newRow("large whole numbers") << QJsonObject { { u"id"_s, qint64(4294967297) },
+                                                          { u"article_id"_s, qint64(-4294967297) } }
+                                         << 0 << 0;
+    QTest::newRow("limits of 32 bits") << QJsonObject { { u"id"_s, 2147483647.0 }, { u"article_id"_s, -2147483648.0 } }
+                                       << std::numeric_limits<int>::max() << std::numeric_limits<int>::min();
     QTest::newRow("empty") << QJsonObject() << 0 << 0;
 }
 

@@ -625,6 +625,16 @@ void tst_RVArticleVariants::writesXTCI_data()
     QTest::newRow("fewer values") << QStringList { u"a;b=x"_s, u"d=z"_s } << QStringList(u"d=z"_s);
     QTest::newRow("more values") << QStringList { u"a=x;y"_s, u"d=z"_s } << QStringList(u"d=z"_s);
     QTest::newRow("empty key or value") << QStringList { u"=x"_s, u"a="_s } << QStringList();
+    QTest::newRow("single option behind a composite one")
+            << QStringList { u"a;b=x;y"_s, u"b=z"_s } << QStringList { u"a=x"_s, u"b=z"_s };
+    QTest::newRow("composite option behind a single one")
+            << QStringList { u"a=z"_s, u"b;a=x;y"_s } << QStringList { u"a=y"_s, u"b=x"_s };
+    QTest::newRow("same option five times")
+            << QStringList { u"k=1"_s, u"k;a=2;x"_s, u"k;b=3;x"_s, u"k;c=4;x"_s, u"k;d=5;x"_s }
+            << QStringList { u"a=x"_s, u"b=x"_s, u"c=x"_s, u"d=x"_s, u"k=5"_s };
+    QTest::newRow("capital letters come first")
+            << QStringList { u"B=x"_s, u"a;B=y;z"_s } << QStringList { u"B=z"_s, u"a=y"_s };
+    QTest::newRow("umlauts come last") << QStringList { u"z=x"_s, u"ä;z=y;w"_s } << QStringList { u"z=w"_s, u"ä=y"_s };
     QTest::newRow("empty") << QStringList() << QStringList();
 }
 

@@ -2,6 +2,7 @@
 
 #include <RVCore/RVSpotColor.h>
 #include <RVProductBase/RVArticleVariants.h>
+#include <RVProductBase/RVConfiguredArticleVariantList.h>
 
 #include <QDebug>
 #include <QDomDocument>
@@ -65,6 +66,8 @@ private Q_SLOTS:
     void mergesEmpty();
     void mergesItself();
     void mergingCopyLeavesSourceAlone();
+    void isWholeAfterAMove_data();
+    void isWholeAfterAMove();
     void compares_data();
     void compares();
     void orders_data();
@@ -464,6 +467,45 @@ void tst_RVConfiguredArticleVariant::mergingCopyLeavesSourceAlone()
     QCOMPARE(assigned.preview(), u"red.png"_s);
     const RVConfiguredArticleVariant moved = std::move(assigned);
     QCOMPARE(moved.preview(), u"red.png"_s);
+}
+
+void tst_RVConfiguredArticleVariant::isWholeAfterAMove_data()
+{
+    QTest::addColumn<bool>("assigned");
+    QTest::newRow("to a new object") << false;
+    QTest::newRow("to an object that was there") << true;
+}
+
+void tst_RVConfiguredArticleVariant::isWholeAfterAMove()
+{
+    QFETCH(bool, assigned);
+    RVConfiguredArticleVariantList list { RVConfiguredArticleVariant(element(COMPLETE)) };
+    RVConfiguredArticleVariant target;
+    if (assigned)
+        target = std::move(list.first());
+    else
+        const RVConfiguredArticleVariant created = std::move(list.first());
+    const RVConfiguredArticleVariant &moved = list.constFirst();
+    QCOMPARE(moved.isValid(), !moved.key().isEmpty() && !moved.value().isEmpty());
+    QCOMPARE(moved.toString().isNull(), !moved.isValid());
+    QCOMPARE(moved.visibleName().isNull(), !moved.isValid());
+    QCOMPARE(moved.toArticleVariants().isValid(), moved.isValid());
+    QCOMPARE(moved.describe().isEmpty(), moved.keyName().isEmpty());
+    QCOMPARE(moved.color().isValid(), !moved.preview().isEmpty());
+    QCOMPARE(moved.isNotAccountable(), moved.isValid());
+    QVERIFY(moved.isDefault());
+    QVERIFY(!moved.isSpotColor(RVSpotColor(SPOT_COLOR_GOLD)));
+    QCOMPARE(moved, RVConfiguredArticleVariant(moved.key(), moved.value()));
+    QVERIFY(!(moved < moved));
+    QString text;
+    QDebug(&text) << list;
+    QVERIFY(text.contains(u"1: \"RVConfiguredArticleVariant: key: "_s));
+    QCOMPARE(list.contains(RVConfiguredArticleVariant(element(COMPLETE))), moved.isValid());
+    QCOMPARE(list.keys(), QStringList(moved.key()));
+    list.first().merge(RVConfiguredArticleVariant(element(u"preview='p'"_s)));
+    QCOMPARE(moved.preview(), u"p"_s);
+    list.first() = RVConfiguredArticleVariant(u"alcolor:red"_s);
+    QCOMPARE(moved.toString(), u"alcolor:red"_s);
 }
 
 void tst_RVConfiguredArticleVariant::compares_data()

@@ -52,6 +52,8 @@ void tst_RVDisplayNames::looksUpNames()
     QCOMPARE(names().value(u"?"_s).value(), SET);
     QCOMPARE(names().value(u"Leder"_s).value(), SET);
     QCOMPARE(names().value(QString()).value(), SET);
+    QCOMPARE(names().value(u"leather\0"_s).value(), SET);
+    QCOMPARE(names().value(u"leather\0zzz"_s).value(), SET);
 }
 
 void tst_RVDisplayNames::translatesNamesFirst()

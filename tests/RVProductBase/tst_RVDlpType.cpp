@@ -44,7 +44,7 @@ void tst_RVDlpType::keywordTable()
                     { 1024, { u"style_v2_coverpage"_s } },
                     { 2048, { u"style_v2_innerpage"_s } },
             },
-            u""_s, 0);
+            u""_s, 0, KeywordTableTest<RVDlpType>::Left);
     test.check();
 }
 

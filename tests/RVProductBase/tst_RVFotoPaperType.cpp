@@ -28,7 +28,7 @@ void tst_RVFotoPaperType::keywordTable()
                     { GLOSSY, { u"1"_s, u"glossy"_s } },
                     { MATT, { u"2"_s, u"matt"_s } },
             },
-            u""_s, 0);
+            u""_s, 0, KeywordTableTest<RVFotoPaperType>::Left);
     test.check();
     QCOMPARE(int(NO_FOTO_PAPER), 0);
     QCOMPARE(int(GLOSSY), 1);
@@ -91,6 +91,8 @@ void tst_RVFotoPaperType::orderTransfer_data()
     QTest::newRow("word") << u"glossy"_s << QList<int>();
     QTest::newRow("too large") << u"4294967297"_s << QList<int>();
     QTest::newRow("hexadecimal") << u"0x1"_s << QList<int>();
+    QTest::newRow("null character behind a number") << QString(u"1\0abc"_s) << QList<int>();
+    QTest::newRow("null character before a number") << QString(u"\0001"_s) << QList<int>();
 }
 
 void tst_RVFotoPaperType::orderTransfer()

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void compares_data();
     void compares();
     void moves();
+    void hasNoMarginsAfterAMove();
     void debugOutput();
 };
 
@@ -102,6 +103,33 @@ void tst_RVMargins::moves()
     QCOMPARE(first.right(), 4);
     const RVMargins third(std::move(first));
     QCOMPARE(third.left(), 3);
+}
+
+void tst_RVMargins::hasNoMarginsAfterAMove()
+{
+    RVMargins first(1, 2, 3, 4);
+    const RVMargins taken(std::move(first));
+    RVMargins second(5, 6);
+    RVMargins target;
+    target = std::move(second);
+    for (const RVMargins &moved : { first, second }) {
+        QCOMPARE((QList<int> { moved.top(), moved.bottom(), moved.left(), moved.right() }), QList<int>(4, 0));
+        QCOMPARE(moved.topLeft(), QPoint(0, 0));
+        QCOMPARE(moved.bottomRight(), QPoint(0, 0));
+        QCOMPARE(moved.totalMarginWH(), QSize(0, 0));
+        QVERIFY(moved.allNull());
+        QVERIFY(moved == RVMargins());
+        QVERIFY(RVMargins() == moved);
+        QVERIFY(moved == moved);
+        QVERIFY(moved != taken);
+        QVERIFY(taken != moved);
+        QString text;
+        QDebug(&text) << moved;
+        QCOMPARE(text, u"\"RVMargins: left:\" 0 \"top:\" 0 \"right:\" 0 \"bottom:\" 0 "_s);
+    }
+    QVERIFY(first == second);
+    first = target;
+    QCOMPARE(first.top(), 5);
 }
 
 void tst_RVMargins::debugOutput()

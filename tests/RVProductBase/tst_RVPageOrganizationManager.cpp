@@ -1,6 +1,7 @@
 #include <RVProductBase/RVPageOrganizationCalculator.h>
 #include <RVProductBase/RVPageOrganizationManager.h>
 
+#include <QCoreApplication>
 #include <QMetaMethod>
 #include <QSemaphore>
 #include <QTest>
@@ -107,6 +108,7 @@ Q_SIGNALS:
 
 private Q_SLOTS:
     void instanceForManyThreads();
+    void instanceBelongsToTheApplication();
     void metaObject();
     void withoutCalculator();
     void asksOncePerType();
@@ -146,6 +148,23 @@ void tst_RVPageOrganizationManager::instanceForManyThreads()
     seen[0]->setupInstance();
     QCOMPARE(RVPageOrganizationManager::instance(), seen[0]);
     QCOMPARE(seen[0]->pageCountOrganzation(RVProductType(u"VIR29"_s)), organization(0, 0, 0));
+}
+
+// The threads that asked first have ended.
+void tst_RVPageOrganizationManager::instanceBelongsToTheApplication()
+{
+    RVPageOrganizationManager *const manager = RVPageOrganizationManager::instance();
+    QCOMPARE(manager->thread(), QCoreApplication::instance()->thread());
+    const RVPageCountOrganization *const before = manager->organization(u"VIR29"_s);
+    const auto connection = connect(this, &tst_RVPageOrganizationManager::catalogueReloaded, manager,
+                                    &RVPageOrganizationManager::clearCache);
+    std::thread(&tst_RVPageOrganizationManager::catalogueReloaded, this).join();
+    QCoreApplication::processEvents();
+    QVERIFY(manager->organization(u"VIR29"_s) != before);
+    const RVPageCountOrganization *const between = manager->organization(u"VIR29"_s);
+    Q_EMIT catalogueReloaded();
+    QVERIFY(manager->organization(u"VIR29"_s) != between);
+    disconnect(connection);
 }
 
 void tst_RVPageOrganizationManager::metaObject()

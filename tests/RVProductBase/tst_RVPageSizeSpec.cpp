@@ -27,6 +27,7 @@ private Q_SLOTS:
     void slipcase();
     void compares_data();
     void compares();
+    void isWholeAfterAMove();
     void debugOutput();
 };
 
@@ -107,6 +108,21 @@ void tst_RVPageSizeSpec::compares()
     const RVPageSizeSpec spec(QSize(200, 300), RVMargins(3, 3));
     QCOMPARE(spec == other, equal);
     QCOMPARE(spec != other, !equal);
+}
+
+void tst_RVPageSizeSpec::isWholeAfterAMove()
+{
+    RVPageSizeSpec spec(QSize(200, 300), RVMargins(1, 2, 3, 4));
+    spec.setUsableSlipcaseCoverSize(QSize(190, 280));
+    const RVPageSizeSpec taken = std::move(spec);
+    QCOMPARE(taken.totalSize(), QSize(207, 303));
+    QCOMPARE(spec.totalSize(), spec.usableSize() + spec.bleedMargins().totalMarginWH());
+    QCOMPARE(spec.topLeftOffsetOfUsablePrintArea(), spec.bleedMargins().topLeft());
+    QVERIFY(spec.bleedMargins().allNull());
+    QVERIFY(spec == RVPageSizeSpec(spec.usableSize(), RVMargins()));
+    QVERIFY(spec != taken);
+    spec = taken;
+    QVERIFY(spec == taken);
 }
 
 void tst_RVPageSizeSpec::debugOutput()

@@ -49,6 +49,7 @@ private Q_SLOTS:
     void bookPattern_data();
     void bookPattern();
     void copies();
+    void isWholeAfterAMove();
 };
 
 void tst_RVProductType::normalises_data()
@@ -318,6 +319,28 @@ void tst_RVProductType::copies()
     const RVProductType moved = std::move(copy);
     QCOMPARE(moved.toString(), u"VIR29"_s);
     QCOMPARE(moved.calcHashValue(), textHash(u"VIR29"_s));
+}
+
+void tst_RVProductType::isWholeAfterAMove()
+{
+    RVProductType first(u"DUN9_30"_s);
+    const RVProductType taken = std::move(first);
+    QCOMPARE(taken, RVProductType(u"DUN9"_s));
+    QVERIFY(first.isUnknown());
+    QCOMPARE(first.calcHashValue(), std::size_t(0));
+    QCOMPARE(first, RVProductType());
+    QVERIFY(!(first < RVProductType()));
+    QVERIFY(!(RVProductType() < first));
+
+    RVProductType second(u"VIR29"_s);
+    RVProductType target(u"KUR2"_s);
+    target = std::move(second);
+    QCOMPARE(target, RVProductType(u"VIR29"_s));
+    QCOMPARE(second, RVProductType(second.toString()));
+    QCOMPARE(second.calcHashValue(), RVProductType(second.toString()).calcHashValue());
+    target.swap(second);
+    QCOMPARE(second, RVProductType(u"VIR29"_s));
+    QCOMPARE(target, RVProductType(u"KUR2"_s));
 }
 
 QTEST_GUILESS_MAIN(tst_RVProductType)

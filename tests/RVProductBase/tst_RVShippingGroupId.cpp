@@ -72,6 +72,7 @@ void tst_RVShippingGroupId::readsText_data()
     QTest::newRow("word") << u"none"_s << -1;
     QTest::newRow("fraction") << u"1.5"_s << -1;
     QTest::newRow("hexadecimal") << u"0x10"_s << -1;
+    QTest::newRow("null character behind a number") << QString(u"1\0abc"_s) << -1;
 }
 
 void tst_RVShippingGroupId::readsText()
@@ -125,6 +126,14 @@ void tst_RVShippingGroupId::readsJson_data()
     QTest::newRow("text") << QJsonObject { { u"id"_s, u"18"_s } } << -1;
     QTest::newRow("fraction") << QJsonObject { { u"id"_s, 1.5 } } << -1;
     QTest::newRow("too large") << QJsonObject { { u"id"_s, 4294967296.0 } } << -1;
+    QTest::newRow("not a number") << QJsonObject { { u"id"_s, qQNaN() } } << -1;
+    QTest::newRow("infinite") << QJsonObject { { u"id"_s, qInf() } } << -1;
+    QTest::newRow("infinite below 0") << QJsonObject { { u"id"_s, -qInf() } } << -1;
+    QTest::newRow("one above 32 bits") << QJsonObject { { u"id"_s, 2147483648.0 } } << -1;
+    QTest::newRow("one below 32 bits") << QJsonObject { { u"id"_s, -2147483649.0 } } << -1;
+    QTest::newRow("beyond 64 bits") << QJsonObject { { u"id"_s, -1e300 } } << -1;
+    QTest::newRow("large whole number") << QJsonObject { { u"id"_s, qint64(4294967297) } } << -1;
+    QTest::newRow("lowest of 32 bits") << QJsonObject { { u"id"_s, -2147483648.0 } } << std::numeric_limits<int>::min();
     QTest::newRow("null") << QJsonObject { { u"id"_s, QJsonValue() } } << -1;
     QTest::newRow("missing") << QJsonObject { { u"art_id"_s, 18 } } << -1;
 }

@@ -41,6 +41,8 @@ private Q_SLOTS:
     void adaptsPixelSizes();
     void keepsFontsWithoutAFactor_data();
     void keepsFontsWithoutAFactor();
+    void keepsFontsThatWouldHaveNoSize_data();
+    void keepsFontsThatWouldHaveNoSize();
     void displayNames_data();
     void displayNames();
     void readsDisplayNames_data();
@@ -238,6 +240,26 @@ void tst_RVSpaceMagnitude::keepsFontsWithoutAFactor()
     QFont pixels;
     pixels.setPixelSize(15);
     QTEST(magnitude(from).adaptFont(pixels, magnitude(to)).pixelSize(), "pixelSize");
+}
+
+void tst_RVSpaceMagnitude::keepsFontsThatWouldHaveNoSize_data()
+{
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("to");
+    QTest::addColumn<qreal>("pointSize");
+    QTest::newRow("largest number") << 2 << 2048 << std::numeric_limits<qreal>::max();
+    QTest::newRow("smallest number") << 2048 << 2 << std::numeric_limits<qreal>::denorm_min();
+}
+
+void tst_RVSpaceMagnitude::keepsFontsThatWouldHaveNoSize()
+{
+    QFETCH(int, from);
+    QFETCH(int, to);
+    QFETCH(qreal, pointSize);
+    QTest::failOnWarning(QRegularExpression(u"."_s));
+    QFont font;
+    font.setPointSizeF(pointSize);
+    QTEST(magnitude(from).adaptFont(font, magnitude(to)).pointSizeF(), "pointSize");
 }
 
 void tst_RVSpaceMagnitude::displayNames_data()

@@ -362,6 +362,17 @@ void tst_RVSpineConfig::copiesShareData()
     QVERIFY(first == RVSpineConfig()); // moving shares
     moved = copy;
     QVERIFY(moved == photoBook());
+    RVSpineConfig target;
+    target = std::move(moved);
+    QVERIFY(target == photoBook());
+    QVERIFY(!moved.isValid()); // what the target was
+    QCOMPARE(moved.spineWidth(34).value(), 0.0);
+    QCOMPARE(moved.additionalPagePackageBlocks(34), 0);
+    QCOMPARE(moved.additionalSpineWidth().value(), 0.0);
+    QCOMPARE(moved.coverReduceSize(), 0);
+    QCOMPARE(moved.spineMaxFontHeigth(34, QString()), 6);
+    QVERIFY(moved == RVSpineConfig());
+    QVERIFY(moved != target);
     QVERIFY(!std::is_polymorphic_v<RVSpineConfig>);
 }
 

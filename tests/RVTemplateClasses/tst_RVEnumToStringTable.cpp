@@ -5,6 +5,8 @@
 #include <QTest>
 
 #include <algorithm>
+#include <type_traits>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -20,6 +22,8 @@ enum WideEnum : qint64 {};
 namespace {
 
 using Table = RVEnumToStringTable<FinishEnum>;
+
+static_assert(std::is_same_v<decltype(&Table::splitToBitsSorted), QList<FinishEnum> (Table::*)(FinishEnum) const>);
 
 Table filledTable()
 {
@@ -73,6 +77,7 @@ private Q_SLOTS:
     void knownKeywords();
     void isUntouched();
     void copies();
+    void isWholeAfterAMove();
 };
 
 void tst_RVEnumToStringTable::emptyTable()
@@ -332,6 +337,20 @@ void tst_RVEnumToStringTable::copies()
     QCOMPARE(int(copy.decode(u"matt"_s, FinishEnum(32))), 2);
     QCOMPARE(copy.encode(FinishEnum(4)), u"plain"_s);
     QCOMPARE(int(copy.decodeCSV(u"velvet"_s)), 64);
+}
+
+void tst_RVEnumToStringTable::isWholeAfterAMove()
+{
+    Table table = filledTable();
+    table.optimize();
+    const Table taken = std::move(table);
+    for (const Table *each : { &std::as_const(table), &taken }) {
+        const bool isKnown = each->decode(u"matt"_s, FinishEnum(32)) == FINISH_MATT;
+        QCOMPARE(each->encode(FINISH_MATT), isKnown ? u"matt"_s : each->defaultKeyword);
+        QCOMPARE(each->encodeCSV(FINISH_MATT), each->encode(FINISH_MATT));
+        QCOMPARE(each->allKnownKeywords().contains(u"matt"_s), isKnown);
+    }
+    QCOMPARE(taken.encode(FINISH_MATT), u"matt"_s);
 }
 
 QTEST_APPLESS_MAIN(tst_RVEnumToStringTable)

@@ -21,6 +21,7 @@ enum FinishEnum : qint32 {
 RV_DECLARE_ENUM_OPERATORS(FinishEnum)
 
 enum RacedEnum : qint64 {};
+enum SilentEnum : qint32 {};
 
 enum WideEnum : qint64 {
     WIDE_LOWEST = 1,
@@ -64,6 +65,25 @@ public:
     }
 
     static inline std::atomic<int> fillings { 0 };
+};
+
+/// Inserts nothing into the table, and counts how often it is asked to.
+class Silent : public RVEnumWrapper<SilentEnum>
+{
+public:
+    Silent() : RVEnumWrapper(SilentEnum(1)) { }
+
+    void fillTable(RVEnumToStringTable<SilentEnum> *) const override { ++fillings; }
+
+    static inline int fillings = 0;
+};
+
+class Talkative : public RVEnumWrapper<SilentEnum>
+{
+public:
+    Talkative() : RVEnumWrapper(SilentEnum(1)) { }
+
+    void fillTable(RVEnumToStringTable<SilentEnum> *table) const override { table->insert(u"a"_s, SilentEnum(1)); }
 };
 
 class Wide : public RVEnumWrapper<WideEnum>
@@ -136,6 +156,7 @@ class tst_RVEnumWrapper : public QObject
 
 private Q_SLOTS:
     void plainWrapperKeepsTheTableFree();
+    void tableWithoutKeywordsIsKept();
     void tableIsBuiltOnce();
     void countingBuildsTheTable();
     void values_data();
@@ -171,6 +192,19 @@ void tst_RVEnumWrapper::plainWrapperKeepsTheTableFree()
     QCOMPARE(plain.countBits(), 1);
     QCOMPARE(finish(2).encode(), u"matt"_s);
     QCOMPARE(plain.encode(), u"matt"_s);
+}
+
+void tst_RVEnumWrapper::tableWithoutKeywordsIsKept()
+{
+    const auto *const table = Silent().enumToStringTable();
+    QCOMPARE(Silent::fillings, 1);
+    QCOMPARE(table->allKnownKeywords(), QStringList());
+    Silent().encode();
+    QCOMPARE(Silent::fillings, 1);
+    QCOMPARE(Silent().enumToStringTable(), table);
+    QCOMPARE(Talkative().enumToStringTable(), table); // the class of the first object has filled it
+    QCOMPARE(Talkative().encode(), QString());
+    QCOMPARE(RVEnumWrapper(SilentEnum(1)).enumToStringTable(), table);
 }
 
 void tst_RVEnumWrapper::tableIsBuiltOnce()

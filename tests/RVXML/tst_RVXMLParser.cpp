@@ -77,6 +77,8 @@ void tst_RVXMLParser::integers_data()
     QTest::newRow("grouped") << u"1.000"_s << 7;
     QTest::newRow("hexadecimal") << u"0x1a"_s << 7;
     QTest::newRow("word") << u"many"_s << 7;
+    QTest::newRow("null character behind a number") << u"26\0abc"_s << 7;
+    QTest::newRow("null character behind a blank") << u" 26\0"_s << 7;
     QTest::newRow("empty") << u""_s << 7;
     QTest::newRow("missing") << QString() << 7;
 }
@@ -123,6 +125,8 @@ void tst_RVXMLParser::doubles_data()
     QTest::newRow("infinite") << u"inf"_s << 7.5;
     QTest::newRow("not a number") << u"nan"_s << 7.5;
     QTest::newRow("with unit") << u"5mm"_s << 7.5;
+    QTest::newRow("null character behind a number") << u"0.32\0abc"_s << 7.5;
+    QTest::newRow("null character behind an exponent") << u"1e3\0"_s << 7.5;
     QTest::newRow("empty") << u""_s << 7.5;
     QTest::newRow("missing") << QString() << 7.5;
 }

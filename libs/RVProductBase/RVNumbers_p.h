@@ -1,0 +1,29 @@
+#ifndef RVNUMBERS_P_H
+#define RVNUMBERS_P_H
+
+#include <QJsonValue>
+#include <QString>
+
+#include <limits>
+#include <optional>
+
+/// A whole number in decimal. QString::toInt() would stop at a null character and overlook what stands behind it.
+inline std::optional<int> rvToInt(const QString &text)
+{
+    bool isNumber = false;
+    const int number = text.toInt(&isNumber);
+    return isNumber && !text.contains(QChar::Null) ? std::optional(number) : std::nullopt;
+}
+
+/// A whole number of JSON. A value that was not parsed but set may be infinite or NaN, for which QJsonValue::toInt()
+/// has no firm answer.
+inline std::optional<int> rvToInt(const QJsonValue &value)
+{
+    using Limits = std::numeric_limits<int>;
+    const double number = value.toDouble(Limits::max() + 1.0);
+    if (!(number >= Limits::min() && number <= Limits::max()) || number != int(number))
+        return std::nullopt;
+    return int(number);
+}
+
+#endif
