@@ -16,7 +16,7 @@ extern template class RVCORE_EXPORT RVSingleton<RVFontSizeManager>;
 class RVCORE_EXPORT RVFontSizeManager : public RVSingleton<RVFontSizeManager>
 {
 public:
-    /// The sizes in points, ascending; 6 to 72 unless the application set its own. Empty only if it set none.
+    /// The sizes in points, ascending; 6 to 72 unless the application set its own, which may be an empty list.
     QList<int> defaultFontSizes() const;
     /// Replaces the sizes; they may come in any order.
     void setDefaultFontSizes(const QList<int> &sizes);

@@ -16,7 +16,7 @@ RV_DECLARE_ENUM_OPERATORS(RVSpotColorEnum)
 
 extern template class RVCORE_EXPORT RVEnumWrapper<RVSpotColorEnum>;
 
-/// The finish that is printed or embossed on a cover in addition to the four process colours. 0 is no finish.
+/// The finish of a page or a cover beside its colours, such as gloss or gold. 0 is no finish.
 /// @ingroup attributes
 class RVCORE_EXPORT RVSpotColor : public RVEnumWrapper<RVSpotColorEnum>
 {

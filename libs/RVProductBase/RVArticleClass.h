@@ -113,7 +113,9 @@ public:
     QVariant toStartPageId() const;
     /// The first help topic that has a bit here; a null text where there is none.
     QString toHelpTopic() const;
-    /// "3 Fotos" or "3 Seiten" in the customer's language; empty for a class that is not sold by the page.
+    /// "3 Fotos" for exactly a picture box or a nature bundle, "3 Seiten" for exactly a book, in the customer's
+    /// language; empty for anything else. Plural forms come from a translation, also the German ones: while none is
+    /// loaded, it is "3 Foto" and "1 Seiten". A negative number is not filled in, "%n" stays.
     QString morePagesText(int n) const;
     /// True for photo prints.
     bool canModifyABK() const;
@@ -123,7 +125,8 @@ public:
     /// The order of add-ons in the shop cart. Exact values count; what has no place there comes first, in any order.
     static bool lessThanShopCart(const RVArticleClassEnum &a, const RVArticleClassEnum &b);
 
-    /// Appends an element "type" for each bit, in no particular order; none for "printfun".
+    /// Appends an element "type" for each bit, in no particular order; none for "printfun". A bit without a keyword is
+    /// written as an empty element.
     void toTemplates2Format(QDomElement &parent) const;
 
     void fillTable(RVEnumToStringTable<RVArticleClassEnum> *table) const override;

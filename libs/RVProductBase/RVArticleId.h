@@ -42,7 +42,7 @@ public:
     RVArticleId(const QDomNamedNodeMap &attributes, const QString &attribute);
     /// @}
 
-    /// From the attribute "id", "art_id", respectively "article_id".
+    /// From the attribute "id", "art_id" or "article_id".
     /// @{
     static RVArticleId fromIdAttribute(const QDomElement &element);
     static RVArticleId fromIdAttribute(const QDomNamedNodeMap &attributes);
@@ -66,7 +66,7 @@ public:
     static QString defaultKey();
 
     QString toString() const; ///< In decimal.
-    /// Sets the attribute @p name, "id", respectively "art_id".
+    /// Sets the attribute @p name, "id" or "art_id".
     /// @{
     void toAttribute(QDomElement &element, const QString &name) const;
     void toIdAttribute(QDomElement &element) const;

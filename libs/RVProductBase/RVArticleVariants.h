@@ -33,7 +33,8 @@ public:
     /// One option from a text such as "alcolor:red", "alcolor|red" or "alcolor+red"; key or value may be empty. None
     /// unless the text has exactly one separator.
     RVArticleVariants(const QString &text);
-    /// One option from the attributes "key" and "value"; a missing attribute counts as empty.
+    /// One option from the attributes "key" and "value"; a missing attribute counts as empty. So the result is valid
+    /// even where there is neither.
     RVArticleVariants(const QDomElement &element);
     /// One option for each element such as "form_parameter-alcolor:red"; later ones win.
     RVArticleVariants(const QJsonArray &parameters);
@@ -87,14 +88,20 @@ public:
     void insert(const QString &key, const QString &value);
     /// Adds every option of @p other, which wins on equal keys.
     void insert(const RVArticleVariants &other);
-    /// Adds the single options of a composite one; nothing where key and value have different numbers of pieces.
+    /// Adds the single options of a composite one. Nothing where key and value have different numbers of pieces; empty
+    /// pieces do not count, so ("a;;b", "1;2") adds {"a" = "1"} and {"b" = "2"}.
     void splitForProduction(const QString &key, const QString &value);
 
-    /// The project-file form; options with an empty key or value are left out.
+    /// The project-file form; options with an empty key or value are left out. A comma, ":", "|" or "+" in a key or a
+    /// value breaks it: {"a" = "b,c"} becomes "a:b,c", which createFromKTX() reads as {"a" = "b"}; {"a" = "x:y"}
+    /// becomes "a:x:y", which it skips.
     QString toKTX() const;
-    /// The order-transfer form: composite options come out as single ones.
+    /// The order-transfer form: composite options come out as single ones, by splitForProduction() in ascending order
+    /// of the keys, so that a later one replaces an earlier one with the same key. An option is dropped where its key
+    /// or its value is empty, and where they have different numbers of pieces, such as {"a" = "x;y"}.
     RVArticleVariants toXTCI() const;
-    /// The order-text form, such as "a:x;b:y": composite options come out as single ones.
+    /// The order-text form, such as "a:x;b:y": composite options come out as single ones. Drops the same options as
+    /// toXTCI(), but replaces none: a key can come twice.
     QString toOrderTxt() const;
 
     /// By keys and values; letter case counts.

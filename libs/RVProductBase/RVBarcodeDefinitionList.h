@@ -22,15 +22,19 @@ public:
     RVBarcodeDefinitionList barcodesOnPage(int pageNr) const;
     /// All rectangles together, whatever their pages.
     QRegion occupiedRegion() const;
-    /// The first with exactly this rectangle; an invalid one where there is none.
+    /// The first with exactly this rectangle, on whatever page; an invalid one where there is none.
     RVBarcodeDefinition findDefinition(const QRect &rect) const;
 
-    /// Takes in the definitions of @p other: each is appended unless it is here already, and replaces what was at the
-    /// same rectangle. Cost grows with the product of the sizes.
+    /// Takes in the definitions of @p other. One that is here already stays in its place; any other is appended. It
+    /// replaces what findDefinition() finds at its rectangle, with all that are equal to that, but only where that is
+    /// valid. So of two different definitions that were at the rectangle the second stays. Cost grows with the product
+    /// of the sizes.
     void updateDefinitions(const RVBarcodeDefinitionList &other);
 
     /// No strict order: a shorter list comes first; of two lists of the same length, the one whose definitions are all
-    /// less than their counterparts.
+    /// less than their counterparts. Only this one operator is the list's: `>`, `<=` and `>=` are those of QList, which
+    /// compares element by element, and they disagree with it. For a shorter list that begins with a greater
+    /// definition, `a < b` and `a > b` are both true.
     bool operator<(const RVBarcodeDefinitionList &other) const;
 };
 

@@ -16,7 +16,7 @@ class RVSpotColor;
  * image, the swatch colour, whether it is the default choice and whether it is charged for.
  *
  * Read from a "form" element of the products XML. Valid when both key and value are non-empty. Copies share their
- * data. An option that does not come from XML counts as a default choice.
+ * data, and what was moved from is a valid object. An option that does not come from XML counts as a default choice.
  *
  * @ingroup articles
  */
@@ -51,7 +51,7 @@ public:
     /// True when the value is the keyword of the spot colour.
     bool isSpotColor(const RVSpotColor &spotColor) const;
     /// The line that explains the option: key name, a swatch in HTML where there is a colour, value name. Empty
-    /// without a key name.
+    /// without a key name. The names come as they are, so markup in them is markup.
     QString describe() const;
 
     /// Takes preview and colour from @p other and keeps all else.
@@ -67,7 +67,9 @@ public:
     bool operator==(const RVConfiguredArticleVariant &other) const;
     bool operator!=(const RVConfiguredArticleVariant &other) const { return !(*this == other); }
     /// @}
-    /// By the key's display name, so options of one key are unordered among themselves.
+    /// By the key's display name alone. Options whose key names are equal are unordered among themselves, whatever
+    /// their keys and values: so are all that do not come from XML, as they have none. Options that are `==` can still
+    /// be ordered, by different key names.
     bool operator<(const RVConfiguredArticleVariant &other) const;
 
 private:

@@ -16,7 +16,8 @@ class QDomElement;
  * Read from the "forms" element of a product or from a text. Readers append valid options only and skip the rest
  * without a message; a lookup that finds nothing returns an invalid option.
  *
- * An option matches a configuration when the configuration has its value under its key.
+ * An option matches a configuration when the configuration has its value under its key. An absent key counts as an
+ * empty value: an option with an empty value, which only append() can add, matches wherever its key is absent.
  *
  * @ingroup articles
  */
@@ -30,7 +31,7 @@ public:
     /// Reads a product element as readVariants() does.
     RVConfiguredArticleVariantList(const QDomElement &product);
 
-    /// From a text such as "alcolor:red,pocketcolor:white".
+    /// From a text such as "alcolor:red,pocketcolor:white"; a piece without exactly one colon is skipped.
     static RVConfiguredArticleVariantList createFromCSV(const QString &text);
     /// The single options of a composite one ("a;b" = "x;y"), with key and value only; empty where the numbers of
     /// pieces differ.
@@ -40,7 +41,7 @@ public:
     /// Replaces the list by the "form" elements of the first "forms" element of a product.
     void readVariants(const QDomElement &product);
 
-    /// The first option of the key, of the value, respectively the first that is not charged for.
+    /// The first option of the key, of the value, and the first that is not charged for.
     /// @{
     RVConfiguredArticleVariant variantByKey(const QString &key) const;
     RVConfiguredArticleVariant variantByValue(const QString &value) const;
@@ -57,7 +58,8 @@ public:
     bool contains(const RVConfiguredArticleVariant &variant) const;
     /// True when every option of @p other is contained.
     bool contains(const RVConfiguredArticleVariantList &other) const;
-    /// True when every entry of the configuration is an option of this list. The second argument has no effect.
+    /// True when every entry of the configuration is an option of this list, also one with an empty value. The second
+    /// argument has no effect.
     bool contains(const RVArticleVariants &variants, bool = false) const;
     /// True when some option is contained in @p other, or one of the lists is empty.
     bool containsAtLeastOne(const RVConfiguredArticleVariantList &other) const;
@@ -72,7 +74,8 @@ public:
     QStringList editorNames(const RVArticleVariants &variants) const;
     /// Every box style, combined with every cover photo where there are any; box by box.
     RVArticleVariantsList possibleBoxStyles() const;
-    /// The order text of all options, such as "a:1;b:2": composite options come out as single ones.
+    /// The order text of all options, such as "a:1;b:2": composite options come out as single ones. An option whose key
+    /// and value have different numbers of pieces is dropped.
     QString joinForOrderTxt() const;
 
     /// Keeps only the options that @p other contains. An empty list becomes a copy of @p other where

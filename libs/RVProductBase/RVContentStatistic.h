@@ -29,7 +29,7 @@ public:
     QMap<RVPriceClass, int> boughtAdditionalContent() const { return myBoughtAdditionalContent; }
     /// The quantity of an add-on; 0 where it was not bought.
     int count(const RVPriceClass &priceClass) const;
-    /// True when an add-on of @p priceClasses was bought, be its quantity 0.
+    /// True when an add-on of @p priceClasses was bought, even if its quantity is 0.
     bool isPriceClassAddOnApplied(const RVPriceClassSet &priceClasses) const;
 
     /// Sets the quantity; an earlier one is replaced, not added to.

@@ -56,13 +56,14 @@ public:
     /// From a keyword list such as "hardcover, canvas"; unknown keywords add nothing.
     RVCoverType(const QString &text);
 
-    /// The value of a German display name, or of one in the application's language; none for an unknown name. Many
-    /// covers have the empty name; it stands for GIFT, the lowest of them.
+    /// The value of a display name, German or in the application's language; none for an unknown name. Only what
+    /// bindingNames() held when it was built is found, so ask in the same language, and nothing with letters beyond
+    /// ASCII; see RVDisplayNames::value(). Many covers have the empty name; it stands for GIFT, the lowest of them.
     static RVCoverType createFromHumanReadable(const QString &name);
 
     /// True for every valid cover but exactly WIRE_O.
     bool isRegularCover() const;
-    /// True with a cover that is printed all around: a hardcover, a softcover or a booklet.
+    /// True with a hardcover, a softcover or a booklet.
     bool isFullCover() const;
     /// True with a product that counts as printed on one side: a wall calendar, a one-page calendar, a two-page annual
     /// planner, a gift or an agenda, but no table calendar.

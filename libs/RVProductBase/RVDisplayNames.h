@@ -13,7 +13,8 @@
  * others.
  *
  * The names are in the language that the application speaks when the table is built, which is when it is first asked
- * for; a later change of language does not change them. Every lookup is by the exact value, not by bits.
+ * for; a later change of language does not change them. The tables of the attribute classes live as long as the
+ * process. Every lookup is by the exact value, not by bits.
  *
  * @ingroup attributes
  */
@@ -39,9 +40,14 @@ public:
     /// The name of exactly this value, else unknownName.
     QString name(const T &value) const { return names.value(value, unknownName); }
 
-    /// The lowest value of that name, else the default value. A German name is translated first, so it is understood
-    /// whatever language the table is in. It goes to the translator as Latin-1 bytes, which are read as UTF-8 there: a
-    /// name with an umlaut is never found.
+    /// The lowest value of that name, else the default value. Only a name that the table held when it was built is
+    /// found, after @p name has passed through the translation that is loaded now. While that is English, as it was
+    /// when the table was built, "Leder" and "Leather" both mean LEATHER. After a change of language the two do not fit
+    /// together: a German table finds neither once English is loaded, and an English table finds "Leather" alone once
+    /// it is unloaded.
+    ///
+    /// The translator gets the name as Latin-1 bytes and reads them as UTF-8, so umlauts and all other letters beyond
+    /// ASCII are lost: "Fotopapier Glänzend" is never found.
     T value(const QString &name) const;
 
 private:

@@ -17,7 +17,7 @@ enum RVDlpTypeEnum : qint32 {
     DLP_TYPE_STORYBOOK = 64, ///< "storybook"
     DLP_TYPE_FORM_PARAMETER_DATA = 128, ///< "form_parameter_data"
     DLP_TYPE_PREDEFINED_PROJECT = 256, ///< "predefined_project"
-    DLP_TYPE_FILTER_LINNEN_CAPABLE = 512, ///< "filter_linnen_capable": limits a type to what suits linen covers
+    DLP_TYPE_FILTER_LINNEN_CAPABLE = 512, ///< "filter_linnen_capable": goes with a type, is none itself
     DLP_TYPE_STYLE_V2_COVERPAGE = 1024, ///< "style_v2_coverpage"
     DLP_TYPE_STYLE_V2_INNERPAGE = 2048, ///< "style_v2_innerpage"
 };
@@ -36,8 +36,9 @@ public:
     /// From a keyword list such as "clipart, mask".
     RVDlpType(const QString &text);
 
-    /// What the customer reads for exactly this type, without a number for -1, else with @p n in the plural form that
-    /// belongs to it: "3 Cliparts". A null text where there is no name.
+    /// What the customer reads for exactly this type, or for styles and book templates together. Without a number for
+    /// -1, else with @p n in the plural form that belongs to it: "3 Cliparts". Plural forms come from a translation,
+    /// also the German ones: while none is loaded, it is "1 Cliparts". A null text where there is no name.
     QString visibleName(int n) const;
     /// The name of the directory for exactly this type; designs have an alternative one. A null text where there is
     /// none.

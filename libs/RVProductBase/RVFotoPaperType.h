@@ -19,7 +19,8 @@ RV_DECLARE_ENUM_OPERATORS(RVFotoPaperTypeEnum)
 
 extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVFotoPaperTypeEnum>;
 
-/// The surface of a photo print. 0 is none; it has the keyword "0".
+/// The surface of a photo print. 0 is none. It has the keyword "0", but only encode() writes it: encodeCSV() of 0 is
+/// empty.
 /// @ingroup attributes
 class RVPRODUCTBASE_EXPORT RVFotoPaperType : public RVEnumWrapper<RVFotoPaperTypeEnum>
 {
@@ -31,7 +32,8 @@ public:
 
     /// The surface for exactly one class of photo print; none for any other class, and for several at once.
     static RVFotoPaperType defaultFor(const RVArticleClass &articleClass);
-    /// From the paper field of an order transfer: both surfaces for "0", one for "1" and "2", none for anything else.
+    /// From the paper field of an order transfer, a decimal number: GLOSSY and MATT for 0, GLOSSY for 1, MATT for 2,
+    /// nothing for anything else.
     static QList<RVFotoPaperType> createFromXTCI(const QString &code);
 
     /// What the customer reads for exactly this value; a null text where there is no name.

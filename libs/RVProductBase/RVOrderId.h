@@ -35,7 +35,8 @@ public:
     /// Writes toString(): the order is on the left, the stream on the right.
     QDataStream &operator<<(QDataStream &stream) const;
 
-    /// By text; letter case counts.
+    /// By text; letter case counts. A null and an empty text are equal, so no order equals the order with the empty id,
+    /// though only the latter is valid.
     /// @{
     friend bool operator==(const RVOrderId &a, const RVOrderId &b) noexcept { return a.myId == b.myId; }
     friend bool operator!=(const RVOrderId &a, const RVOrderId &b) noexcept { return a.myId != b.myId; }

@@ -10,7 +10,7 @@ class QDataStream;
 class QDebug;
 
 /// Ties a project of the user to the order that it was sent with, or asks for its order data to be deleted. Written to
-/// streams; a reader makes it anew from what was written.
+/// streams, but without that request; a reader passes what was written to the constructor.
 /// @ingroup pricing
 class RVPRODUCTBASE_EXPORT RVOrderProjectInfo
 {
@@ -24,7 +24,7 @@ public:
     RVOrderProjectInfo &operator=(RVOrderProjectInfo &&) = default;
     virtual ~RVOrderProjectInfo();
 
-    /// The one that asks for deletion; it is not valid.
+    /// The one that asks for deletion; it is not valid. The request does not survive a stream.
     static RVOrderProjectInfo createDeletingProjetInfo();
 
     QString xtciSession() const { return myXtciSession; } ///< The name of the session of the order transfer.
@@ -38,7 +38,8 @@ public:
     void setOrderId(const RVOrderId &orderId); ///< Everything else stays as it is.
 
     /// Writes the order id, the position as a 32-bit integer and the session: the info is on the left, the stream on
-    /// the right.
+    /// the right. deleteProjectInfo() is not written: what is read back of an info that asks for deletion asks for
+    /// none.
     QDataStream &operator<<(QDataStream &stream) const;
 
     /// By all four values.
@@ -60,7 +61,7 @@ private:
 
 Q_DECLARE_TYPEINFO(RVOrderProjectInfo, Q_RELOCATABLE_TYPE);
 
-/// Prints order id, position and session. @relates RVOrderProjectInfo
+/// Prints order id, position and session, but not whether it asks for deletion. @relates RVOrderProjectInfo
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVOrderProjectInfo &info);
 
 #endif

@@ -26,7 +26,8 @@ RV_DECLARE_ENUM_OPERATORS(RVOrientationEnum)
 extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVOrientationEnum>;
 
 /// Whether a page or a product is upright, wide, square, or slim. 0 is none; a value without a keyword is written as
-/// "portrait".
+/// "portrait". 0 has the keyword "none", but only encode() writes it: encodeCSV() writes "portrait", which is read as
+/// such.
 /// @ingroup attributes
 class RVPRODUCTBASE_EXPORT RVOrientation : public RVEnumWrapper<RVOrientationEnum>
 {
@@ -49,7 +50,7 @@ public:
     /// landscape. None where a side is negative or not a number, or both are 0. The object's own value does not count.
     RVOrientationEnum fromSize(const QSizeF &size) const;
 
-    /// True with one of the bits, be it the slim form.
+    /// True with one of the bits, slim or not.
     /// @{
     bool isPortrait() const noexcept { return matches(ORIENTATION_PORTRAIT | ORIENTATION_PORTRAIT_SLIM); }
     bool isLandscape() const noexcept { return matches(ORIENTATION_LANDSCAPE | ORIENTATION_LANDSCAPE_SLIM); }
@@ -65,14 +66,15 @@ public:
     QString previewFileNamePrefix() const;
     /// The usual width / height of exactly this value; 1 where there is none.
     double defaultWidthHeightRatio() const;
-    /// The part of the length of a folded product that goes into the fold, by reduceToBasics(); 0 for none.
+    /// The fold margin of a folded product as a part of its length, by reduceToBasics(); 0 for none.
     double foldMarginFactor() const;
-    /// The fold of a product of this length, rounded down, in the unit of the length.
+    /// The fold margin of a product of this length, rounded down, in the unit of the length.
     int foldMargin(int length) const;
 
     /// The keyword of reduceToBasics(): "portrait", "landscape", "square" or "none".
     QString encodeForDLP() const;
-    /// Appends an element "orientation" for each bit, in no particular order; none for "all".
+    /// Appends an element "orientation" for each bit, in no particular order; none for "all". A bit without a keyword
+    /// is written as "portrait".
     void toTemplates2Format(QDomElement &parent) const;
 
     void fillTable(RVEnumToStringTable<RVOrientationEnum> *table) const override;
@@ -80,7 +82,8 @@ public:
 
 Q_DECLARE_TYPEINFO(RVOrientation, Q_RELOCATABLE_TYPE);
 
-/// Prints the class and encodeCSV(), such as RVOrientation(portrait, square). @relates RVOrientation
+/// Prints the class and encodeCSV(), such as RVOrientation(portrait, square); RVOrientation(portrait) for 0 as well.
+/// @relates RVOrientation
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVOrientation &orientation);
 
 #endif

@@ -20,12 +20,13 @@ RV_DECLARE_ENUM_OPERATORS(RVPageAlignmentEnum)
 
 extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVPageAlignmentEnum>;
 
-/// Where a page stands in the spread, or an element on its page. 0 is nowhere; an unknown keyword stands for the left.
+/// Where a page stands in the spread, or an element on its page. 0 is nowhere; an unknown keyword stands for the left,
+/// and so do "cover" and "coverpage".
 /// @ingroup attributes
 class RVPRODUCTBASE_EXPORT RVPageAlignment : public RVEnumWrapper<RVPageAlignmentEnum>
 {
 public:
-    /// A value or several combined; none by default.
+    /// A value or several combined; none by default. `RVPageAlignment(0)` is the left: 0 is taken for a null text.
     RVPageAlignment(RVPageAlignmentEnum value = RVPageAlignmentEnum(0)) noexcept;
     /// From a keyword list such as "left, top"; an empty one is the left.
     RVPageAlignment(const QString &text);

@@ -20,7 +20,8 @@ RV_DECLARE_ENUM_OPERATORS(RVPageBindingEnum)
 
 extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVPageBindingEnum>;
 
-/// What holds the pages of a product together. 0 is unknown, and has the keyword "unknown".
+/// What holds the pages of a product together. 0 is unknown. It has the keyword "unknown", but only encode() writes it:
+/// encodeCSV() of 0 is empty.
 /// @ingroup attributes
 class RVPRODUCTBASE_EXPORT RVPageBinding : public RVEnumWrapper<RVPageBindingEnum>
 {
@@ -32,10 +33,12 @@ public:
 
     /// What the customer reads for exactly this value; empty where there is no name, such as for SPIRAL.
     QString humanReadableName() const;
-    static const RVDisplayNames<RVPageBinding> &pageBindingNames(); ///< The table behind humanReadableName().
+    /// The table behind humanReadableName(). Its reverse look-up never finds "Rückstichbindung", which has an umlaut.
+    static const RVDisplayNames<RVPageBinding> &pageBindingNames();
 
-    /// Appends an element "pageBinding" with encodeCSV(), but only for a binding that is known and has no bit of GLUE,
-    /// LAYFLAT and STAPLED: templates name none but the spiral.
+    /// Appends an element "pageBinding" with encodeCSV(), but only for a value that is not 0 and has no bit of GLUE,
+    /// LAYFLAT and STAPLED. So SPIRAL is written and SPIRAL | GLUE is not; a value of unknown bits alone is written as
+    /// an empty element.
     void toTemplates2Format(QDomElement &parent) const;
 
     void fillTable(RVEnumToStringTable<RVPageBindingEnum> *table) const override;
@@ -46,7 +49,7 @@ private:
 
 Q_DECLARE_TYPEINFO(RVPageBinding, Q_RELOCATABLE_TYPE);
 
-/// Prints the class and encodeCSV(), such as RVPageBinding(glue). @relates RVPageBinding
+/// Prints the class and encodeCSV(), such as RVPageBinding(glue); RVPageBinding() for 0. @relates RVPageBinding
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVPageBinding &pageBinding);
 
 #endif

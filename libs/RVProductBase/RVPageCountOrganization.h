@@ -60,15 +60,20 @@ public:
     int pagesWithNExtraPackages(int n) const noexcept;
     /// Whole packages above the lowest count; 0 at or below it, and without increment.
     int countPackages(int pages) const noexcept;
-    /// How many counts can be chosen; 1 without increment.
+    /// How many counts can be chosen; 1 without increment. Below 1 only for an invalid organisation.
     int numberOfPackages() const noexcept;
-    /// The lowest count and two packages, which a panorama page needs.
+    /// The lowest count of a product with panorama pages: the lowest count and two packages.
     int minPagesWithPano() const noexcept;
-    /// The allowed count at or above @p pages, clamped for counts outside the range. Rounding up is not clamped again:
-    /// 28 becomes 30 for ([26, 29], 4).
+    /// The count to take where @p pages are wanted. If isConsistent() is true, that is the next allowed count from
+    /// @p pages on, or the highest where there is none: 38 for 35 and 154 for 200 of ([26, 154], 4).
+    ///
+    /// Otherwise it can be a count that isValidPageCount() denies. Rounding up is not clamped, and clamping is not
+    /// rounded: of ([26, 29], 4), 28 becomes 30 and 200 becomes 29. Without increment a count in range becomes the
+    /// lowest, even if that is less: of ([10, 20], 0), 15 becomes 10 and 30 becomes 20.
     int constrain(int pages) const noexcept;
 
     /// With the lowest count raised to what constrain() makes of @p pages, so that no smaller count is offered.
+    /// Unchanged where @p pages is not above the lowest. Invalid where constrain() rounds up above the highest count.
     RVPageCountOrganization adaptedTo(int pages) const;
     /// A copy; with @p minOnly the lowest count is the only one.
     RVPageCountOrganization clone(bool minOnly = false) const;

@@ -20,7 +20,7 @@ extern template class RVPRODUCTBASE_EXPORT RVSingleton<RVPageOrganizationManager
  * answer until clearCache().
  *
  * Any thread may call; one lock serialises all operations. Without a calculator every type has the empty, invalid
- * organisation.
+ * organisation. Whichever thread asks first, the QObject belongs to the thread of the application where there is one.
  *
  * @ingroup services
  */
@@ -37,16 +37,17 @@ public:
     /// @p calculator is the one that is set already.
     void setCalculator(RVPageOrganizationCalculator *calculator);
 
-    /// The page counts of the type, never null. The object stays as it is for the life of the process, even when the
-    /// cache or the manager forgets it; nobody may delete it.
+    /// The page counts of the type, never null. The object lives as long as the process, even when the cache or the
+    /// manager forgets it; nobody may delete it. Leave it unchanged: a change through the pointer shows in every answer
+    /// for the type until the cache is emptied, and nothing synchronises it with threads that read.
     RVPageCountOrganization *organization(const RVProductType &type);
-    /// A copy of what organization() points to.
+    /// A copy of what organization() points to, free to be changed.
     RVPageCountOrganization pageCountOrganzation(const RVProductType &type);
     /// Asks the calculator, past the cache; the caller owns the result.
     RVPageCountOrganization *createPageOrganization(const RVProductType &type) const;
 
 public Q_SLOTS:
-    /// Forgets every answer, say after the catalogue was reloaded.
+    /// Forgets every answer, for instance after the catalogue was reloaded.
     void clearCache();
 
 private:

@@ -34,7 +34,7 @@ public:
     bool operator!=(const RVPageSizeKey &other) const { return !(*this == other); }
     /// @}
     /// No strict order: keys of the same page count are equivalent whatever their contexts, all others are ordered by
-    /// their contexts alone. Sorted tables of page sizes rely on it.
+    /// their contexts alone. So a sorted container takes all keys of one page count for the same.
     bool operator<(const RVPageSizeKey &other) const;
 
 private:

@@ -70,13 +70,17 @@ public:
 
     /// How exactly this page is rendered for production: 0, 1 or 2.
     int productionRenderingRule() const;
-    /// The page number that an order gives to exactly this page; else 0 for a page of a book cover, -1 for any other.
+    /// The page number that an order gives to exactly this page; else 0 with a bit of spine, full cover, linen or
+    /// leather, -1 for any other.
     int explicitOrderPageNumber() const;
-    /// Which templates exactly this page accepts: 0 for none, 3, or 7 for all.
+    /// Which templates exactly this page accepts: 0, 3 or 7.
     int acceptTemplateRule() const;
-    /// Which photos exactly this page accepts: 0 for none, or 3.
+    /// Which photos exactly this page accepts: 0 or 3.
     int acceptFotoRule() const;
-    /// True when the page can be printed with all these spot colours.
+    /// True when the page can have all these spot colours, so always for an empty list. Linen and leather take neither
+    /// gloss nor silver ink; other pages take silver ink only with a card front or a full cover. Each element of the
+    /// list counts as a whole: gloss and gold combined in one is not gloss. The caller includes RVSpotColor.h, also to
+    /// write `isSpotColorAllowed({})`.
     bool isSpotColorAllowed(const QList<RVSpotColor> &colors) const;
 
     void fillTable(RVEnumToStringTable<RVPageTypeEnum> *table) const override;

@@ -25,17 +25,20 @@ RV_DECLARE_ENUM_OPERATORS(RVPaperTypeEnum)
 
 extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVPaperTypeEnum>;
 
-/// The paper of a printed product. 0 is unknown; an unknown keyword stands for INDIGO, the paper that every press has.
+/// The paper of a printed product. 0 is unknown; an unknown keyword stands for INDIGO. 0 has the keyword "unbekanntes
+/// Papier", but only encode() writes it: encodeCSV() writes "indigo", which is read as INDIGO.
 /// @ingroup attributes
 class RVPRODUCTBASE_EXPORT RVPaperType : public RVEnumWrapper<RVPaperTypeEnum>
 {
 public:
-    /// A value or several combined; none by default.
+    /// A value or several combined; none by default. `RVPaperType(0)` is INDIGO: 0 is taken for a null text.
     RVPaperType(RVPaperTypeEnum value = UNKNOWN_PAPER) noexcept;
     /// From a keyword list such as "glossy"; an empty one is INDIGO.
     RVPaperType(const QString &text);
 
-    /// The value of a German display name, or of one in the application's language; INDIGO for an unknown name.
+    /// The value of a display name, German or in the application's language; INDIGO for an unknown name. Only what
+    /// paperTypeNames() held when it was built is found, so ask in the same language, and nothing with letters beyond
+    /// ASCII: "Fotopapier Glänzend" gives INDIGO, not FOTOPAPER_GLOSSY. See RVDisplayNames::value().
     static RVPaperType createFromHumanReadable(const QString &name);
 
     /// What the customer reads for exactly this value, else "unbekannter Papiertyp".
@@ -53,7 +56,7 @@ private:
 
 Q_DECLARE_TYPEINFO(RVPaperType, Q_RELOCATABLE_TYPE);
 
-/// Prints the class and encodeCSV(), such as RVPaperType(indigo). @relates RVPaperType
+/// Prints the class and encodeCSV(): RVPaperType(indigo) for INDIGO and for 0 alike. @relates RVPaperType
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVPaperType &paperType);
 
 #endif

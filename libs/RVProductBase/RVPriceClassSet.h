@@ -25,7 +25,7 @@ public:
     RVPriceClassSet() = default; ///< The empty set.
     /// Shares the data of @p priceClasses.
     RVPriceClassSet(const QSet<RVPriceClass> &priceClasses);
-    RVPriceClassSet(const RVPriceClass &priceClass); ///< The set of this one, be it empty.
+    RVPriceClassSet(const RVPriceClass &priceClass); ///< The set of this one, also of the empty one.
     RVPriceClassSet(std::initializer_list<QString> codes); ///< Doubles count once.
     RVPriceClassSet(const RVPriceClassSet &) = default;
     RVPriceClassSet(RVPriceClassSet &&) = default;
@@ -47,8 +47,7 @@ public:
 
     static RVPriceClassSet spotColorGloss(); ///< 19 codes that begin with KUR.
     static RVPriceClassSet spotColorGoldSilver(); ///< 30 codes that begin with KUR: gold, silver and rose gold.
-    /// Silver ink is not billed, so the group is empty.
-    static RVPriceClassSet spotColorSilverInk();
+    static RVPriceClassSet spotColorSilverInk(); ///< Empty.
     static RVPriceClassSet spotColorAll(); ///< All groups above.
     /// The group of one spot colour; empty for none, for a combination and for an unknown one.
     static RVPriceClassSet spotColorPriceClasses(const RVSpotColor &color);
@@ -86,7 +85,7 @@ public:
     static RVPriceClassSet linenCoverPriceClasses(); ///< LEZ1 to LEZ6
     static RVPriceClassSet flyleafAndInsideCoverPriceClasses(); ///< SAV1 to SAV13
     static RVPriceClassSet pxwPanoPagesPriceClasses(); ///< WAF3
-    static RVPriceClassSet pageIncrements(); ///< RODA6x9 and KEMI62: one package of pages.
+    static RVPriceClassSet pageIncrements(); ///< RODA6x9 and KEMI62: extra pages.
     /// @}
 
     /// @name Design

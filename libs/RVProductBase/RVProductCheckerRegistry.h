@@ -20,8 +20,17 @@ extern template class RVPRODUCTBASE_EXPORT RVSingleton<RVProductCheckerRegistry>
  * Asks all checkers of the application whether a product may be offered: it may when none of those that take part in
  * one of the kinds of check refuses. Without such a checker everything may be offered.
  *
- * Any thread may call isValid(), also a checker that is being asked. Checkers are registered and removed while no other
- * thread asks, typically when the application starts and ends.
+ * Any thread may call isValid(), also a checker that is being asked: its lock is recursive, and the checkers run under
+ * it. If a checker asks RVPageOrganizationManager there, whose calculator asks this registry, two threads that come
+ * from the two sides wait for each other for ever.
+ *
+ * Everything else takes no lock. isValidWorker() and isValidBoxStyle() ask the checkers from several threads at once.
+ * registerChecker(), unregisterChecker() and clearCaches() crash beside isValid() in another thread: call them while no
+ * other thread asks, typically when the application starts and ends.
+ *
+ * A checker may call them too, but a question goes to those that were registered when it was asked. One that is
+ * unregistered meanwhile is still called once, so it must live until then. One that is registered meanwhile is not
+ * called, and isValid() remembers the answer all the same: clear the caches when the question is answered.
  *
  * @ingroup services
  */
@@ -37,14 +46,15 @@ public:
     void registerChecker(RVProductChecker *checker);
     /// Removes a checker however often it is registered. Empties the cache.
     void unregisterChecker(RVProductChecker *checker);
-    /// Forgets every answer.
+    /// Forgets every answer. Takes no lock, so it crashes beside isValid() in another thread.
     void clearCaches();
 
     /// True unless a checker refuses. The answer for the type and exactly these kinds is remembered.
     bool isValid(const RVProductType &type, RVProductCheckerType kinds) const;
-    /// The same, past the cache: asks the checkers in the order of their registration, up to the first refusal.
+    /// The same, past the cache and without the lock: asks the checkers in the order of their registration, up to the
+    /// first refusal.
     bool isValidWorker(const RVProductType &type, RVProductCheckerType kinds) const;
-    /// True unless a checker refuses the type with these options. Nothing is remembered.
+    /// True unless a checker refuses the type with these options. Nothing is remembered, and no lock is taken.
     bool isValidBoxStyle(const RVProductType &type, const RVArticleVariants &variants,
                          RVProductCheckerType kinds) const;
 

@@ -17,7 +17,7 @@ class RVPriceClass;
  * key under which page counts and product checks are cached. An empty code is the unknown type.
  *
  * Photo book codes are reduced to their family, so every size and variant of one book is one type: "DUN9_30" is
- * "DUN9".
+ * "DUN9". What was moved from is a valid object.
  *
  * @ingroup geometry
  */
@@ -56,7 +56,7 @@ public:
     static RVProductType fromKtx(const QDomElement &project);
 
     bool isUnknown() const noexcept { return myName.isEmpty(); } ///< True without a code.
-    bool isValid() const noexcept { return !myName.isEmpty(); } ///< True with a code, be it in the catalogue or not.
+    bool isValid() const noexcept { return !myName.isEmpty(); } ///< True with a code, known or not.
     bool isAgenda() const; ///< True for exactly "VIR29" and "VIR30".
     /// True for every code that begins with "VIR", so also for an agenda.
     bool isCalendar() const;

@@ -38,23 +38,27 @@ extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVSpaceMagnitudeEnum>;
 
 /**
  * The size class of a printable area, and what page layout makes of it. 0 is no size; an unknown keyword stands for
- * every size, and a value without a keyword is written as "any".
+ * every size, and a value without a keyword is written as "any". So 0, once written, is read as every size.
  *
  * @ingroup attributes
  */
 class RVPRODUCTBASE_EXPORT RVSpaceMagnitude : public RVEnumWrapper<RVSpaceMagnitudeEnum>
 {
 public:
-    /// A value or several combined; none by default.
+    /// A value or several combined; none by default. The number 0 does not come here: `RVSpaceMagnitude(0)` and
+    /// `setValue(0)` take it for a null text, which is every size (4095). Write `RVSpaceMagnitude()`.
     RVSpaceMagnitude(RVSpaceMagnitudeEnum value = RVSpaceMagnitudeEnum(0)) noexcept;
-    /// From a keyword list such as "A4, A5"; an empty one is every size.
+    /// From a keyword list such as "A4, A5"; an empty one is every size. The keyword "XL" stands for 900 and 2000 cm²,
+    /// the display name "XL" for 900 cm² alone.
     RVSpaceMagnitude(const QString &text);
 
     /// The size class of an area in cm².
     static RVSpaceMagnitude fromSquareCentimeters(int area);
-    /// The size class of 30 / @p x cm²; none for 0.
+    /// The size class of 30 / @p x cm², truncated; none for 0.
     static RVSpaceMagnitude estimateByAreaSizes(double x);
-    /// The size class of a German display name, or of one in the application's language; none for an unknown name.
+    /// The size class of a display name, German or in the application's language; none for an unknown name. Only what
+    /// names() held when it was built is found, so ask in the same language, and nothing with letters beyond ASCII;
+    /// see RVDisplayNames::value().
     static RVSpaceMagnitude createFromHumanReadable(const QString &name);
 
     /// How many images one page takes at most; 1 for anything but exactly one size class that is known to take more.
@@ -70,10 +74,11 @@ public:
     double scaleFactorPerDimension(const RVSpaceMagnitude &other) const;
     /// How many photos look best on a page of exactly this size class, from 1.5 to 4; 2.1 for anything else.
     double optimumFotosPerPage(const RVOrientation &orientation) const;
-    /// The font scaled from this size class to another. It stays as it is where no size would come out of that.
+    /// The font scaled from this size class to another; a size in pixels is rounded down. A point size stays as it is
+    /// where the new one would be infinite or not above 0, a size in pixels where it would be below 1.
     QFont adaptFont(const QFont &font, const RVSpaceMagnitude &target) const;
 
-    /// What the customer reads for exactly this value, else "Undefiniert".
+    /// What the customer reads for exactly this value; "Undefiniert" for combinations, 0 and 50 cm².
     QString humanReadableName() const;
     static const RVDisplayNames<RVSpaceMagnitude> &names(); ///< The table behind humanReadableName().
 

@@ -48,7 +48,8 @@ public:
     /// Whole blocks of packages above the lowest page count; negative only where the page increment or the packages per
     /// block are.
     int additionalPagePackageBlocks(unsigned pages) const;
-    /// The whole width, sides included, for any count; a count below the lowest gives the width at the lowest.
+    /// The whole width, sides included, for any count; a count below the lowest gives the width at the lowest. A
+    /// negative int turns into some four billion pages here.
     RVDistance spineWidth(unsigned pages) const;
     /// The extra width on each side of the spine.
     RVDistance additionalSpineWidth() const;

@@ -65,7 +65,7 @@ public:
     /// value, so an empty text gives the default value.
     ENUM decodeCSV(const QString &text) const;
 
-    /// The keyword of exactly this value, be it a bit or a named combination, else the default keyword.
+    /// The keyword of exactly this value, a bit or a named combination, else the default keyword.
     QString encode(ENUM value) const { return encoding(value); }
 
     /// One keyword a set bit, lowest bit first; the default keyword for a bit that has none. Empty for a value below 1.
@@ -93,7 +93,8 @@ public:
     bool isUntouched() const;
 
     /// Adds a keyword. The first keyword of a value encodes it, in the letter case given here; a keyword that is
-    /// inserted again takes the new value.
+    /// inserted again takes the new value, but goes on encoding the old one. White space around it is kept, so that
+    /// decoding never finds it.
     void insert(const QString &keyword, ENUM value);
 
     /// Makes look-ups faster, their results stay the same. To be called once the table is filled; a keyword that is

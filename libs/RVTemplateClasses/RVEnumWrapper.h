@@ -52,14 +52,14 @@ public:
     virtual bool operator!=(const RVEnumWrapper &other) const { return bits() != other.bits(); }
     virtual bool operator!=(E value) const { return bits() != Bits(value); }
     /// @}
-    /// Sets, respectively keeps only, the bits of the argument.
+    /// `|=` sets the bits of the argument, `&=` keeps no others.
     /// @{
     virtual RVEnumWrapper &operator|=(const RVEnumWrapper &other) { return assign(bits() | other.bits()); }
     virtual RVEnumWrapper &operator|=(E value) { return assign(bits() | Bits(value)); }
     virtual RVEnumWrapper &operator&=(const RVEnumWrapper &other) { return assign(bits() & other.bits()); }
     virtual RVEnumWrapper &operator&=(E value) { return assign(bits() & Bits(value)); }
     /// @}
-    /// The common bits, respectively the bits of both, as a bare value.
+    /// `&` gives the common bits, `|` the bits of both, as a bare value.
     /// @{
     virtual E operator&(const RVEnumWrapper &other) const { return E(bits() & other.bits()); }
     virtual E operator|(const RVEnumWrapper &other) const { return E(bits() | other.bits()); }
@@ -103,7 +103,9 @@ public:
     /// @}
 
     void setValue(E value) noexcept { myValue = value; } ///< Replaces all bits.
-    /// Stores and returns what decodeCSV() reads in @p text.
+    /// Stores and returns what decodeCSV() reads in @p text. `setValue(0)` comes here as well, because 0 is no
+    /// enumerator but can be a null text: it stores the default value of the table, as the constructors of the
+    /// attribute classes do for 0; QT_NO_CAST_FROM_ASCII makes both an error. Write `setValue(E(0))`.
     E setValue(const QString &text);
     /// Sets or clears the bits of @p bit.
     RVEnumWrapper &setBit(E bit, bool on) { return on ? expandTo(bit) : exclude(bit); }
@@ -123,7 +125,8 @@ public:
 
     /// The keyword of exactly this value, else the default keyword.
     QString encode() const { return enumToStringTable()->encode(myValue); }
-    /// One keyword a set bit, lowest first, joined with ", "; the default keyword for a value below 1.
+    /// One keyword a set bit, lowest first, joined with ", "; the default keyword for a bit without one, which may be
+    /// empty, and for a value below 1. A keyword of 0 or of a combination is never written.
     QString encodeCSV() const { return enumToStringTable()->encodeCSV(myValue); }
     /// One keyword a set bit, lowest first.
     QStringList encodeBits() const { return enumToStringTable()->encodeAsList(myValue); }

@@ -33,7 +33,7 @@ public:
     static int intAttribute(const QDomNamedNodeMap &attributes, const QString &name, int defaultValue);
     /// @}
 
-    /// "true", "1", "yes" or "on", respectively "false", "0", "no" or "off", in any letter case.
+    /// True for "true", "1", "yes" and "on", false for "false", "0", "no" and "off", in any letter case.
     static bool boolAttribute(const QDomElement &element, const QString &name, bool defaultValue);
 
     /// A decimal number with a point, whatever the locale.
