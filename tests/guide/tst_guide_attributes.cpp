@@ -1,3 +1,4 @@
+#include <RVProductBase/RVArticleClass.h>
 #include <RVProductBase/RVOrientation.h>
 #include <RVProductBase/RVPageAlignment.h>
 #include <RVProductBase/RVPaperType.h>
@@ -50,6 +51,10 @@ void tst_guide_attributes::unknownKeywords()
     QCOMPARE(RVSpaceMagnitude(u"huge"_s).value(), SPACE_MAGNITUDE_ANY);
     QCOMPARE(RVPageAlignment(u"upstairs"_s).value(), PAGE_ALIGNMENT_LEFT);
     //! [unknown]
+    //! [empty]
+    QCOMPARE(RVSpaceMagnitude(QString()).value(), SPACE_MAGNITUDE_ANY);
+    QCOMPARE(RVSpaceMagnitude().value(), RVSpaceMagnitudeEnum(0));
+    //! [empty]
 }
 
 void tst_guide_attributes::knownKeywords()
@@ -94,6 +99,12 @@ void tst_guide_attributes::exactOrByBits()
     QCOMPARE(both.humanReadable(), QString());
     QCOMPARE(both.encode(), u"portrait"_s);
     //! [exact]
+    //! [zero]
+    QCOMPARE(RVOrientation().encode(), u"none"_s);
+    QCOMPARE(RVOrientation().encodeCSV(), u"portrait"_s);
+    QCOMPARE(RVPaperType().encode(), u"unbekanntes Papier"_s);
+    QCOMPARE(RVPaperType().encodeCSV(), u"indigo"_s);
+    //! [zero]
 }
 
 void tst_guide_attributes::names()
@@ -104,6 +115,17 @@ void tst_guide_attributes::names()
     QCOMPARE(paper.humanReadableName(), u"Fotopapier Matt"_s);
     QCOMPARE(RVPaperType::createFromHumanReadable(u"Fotopapier Matt"_s).value(), FOTOPAPER);
     //! [names]
+    //! [reverse]
+    const QString shown = RVPaperType(FOTOPAPER_GLOSSY).humanReadableName();
+
+    QCOMPARE(shown, u"Fotopapier Glänzend"_s);
+    QCOMPARE(RVPaperType::createFromHumanReadable(shown).value(), INDIGO);
+    QCOMPARE(RVSpaceMagnitude::createFromHumanReadable(u"XL"_s).value(), SPACE_MAGNITUDE_900CM2);
+    QCOMPARE(RVSpaceMagnitude(u"XL"_s).value(), SPACE_MAGNITUDE_900CM2 | SPACE_MAGNITUDE_2000CM2);
+    //! [reverse]
+    //! [plural]
+    QCOMPARE(RVArticleClass(u"picture_box"_s).morePagesText(3), u"3 Foto"_s);
+    //! [plural]
 }
 
 QTEST_MAIN(tst_guide_attributes)

@@ -44,6 +44,13 @@ void tst_guide_options::chosen()
 
     QVERIFY(!offered.contains(impossible));
     //! [chosen]
+    //! [empty]
+    RVArticleVariants withoutCutOut = chosen;
+    withoutCutOut.insert(u"cutout"_s, QString());
+
+    QVERIFY(chosen.contains(withoutCutOut));
+    QVERIFY(!offered.contains(withoutCutOut));
+    //! [empty]
 }
 
 void tst_guide_options::defaults()
@@ -85,6 +92,26 @@ void tst_guide_options::written()
     QCOMPARE(ordered.toXTCI().value(u"boxstyle"_s), u"wood"_s);
     QCOMPARE(ordered.toXTCI().value(u"giftboxcolor"_s), u"black"_s);
     //! [written]
+    //! [lost]
+    const RVArticleVariants unpaired(u"boxstyle;giftboxcolor"_s, u"wood"_s);
+
+    QVERIFY(!unpaired.toXTCI().isValid());
+    QCOMPARE(unpaired.toOrderTxt(), QString());
+
+    const RVArticleVariants written(u"alcolor"_s, u"red,beige"_s);
+    const auto readBack = RVArticleVariants::createFromKTX(written.toKTX());
+
+    QCOMPARE(written.toKTX(), u"alcolor:red,beige"_s);
+    QCOMPARE(readBack.value(u"alcolor"_s), u"red"_s);
+    //! [lost]
+    //! [order]
+    const RVConfiguredArticleVariant color(u"alcolor"_s, u"red"_s);
+    const RVConfiguredArticleVariant photo(u"coverphoto"_s, u"yes"_s);
+
+    QVERIFY(!(color < photo));
+    QVERIFY(!(photo < color));
+    QVERIFY(color != photo);
+    //! [order]
 }
 
 QTEST_MAIN(tst_guide_options)

@@ -49,6 +49,13 @@ void tst_guide_pages::constrained()
 
     QVERIFY(!odd.isConsistent());
     QCOMPARE(odd.constrain(28), 30);
+    QCOMPARE(odd.constrain(200), 29);
+    QVERIFY(!odd.isValidPageCount(29));
+
+    const RVPageCountOrganization withoutStep(RVIntRange(10, 20), 0);
+
+    QVERIFY(!withoutStep.isConsistent());
+    QCOMPARE(withoutStep.constrain(15), 10);
     //! [inconsistent]
 }
 

@@ -9,6 +9,7 @@
 #include <QTest>
 
 #include <thread>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -40,6 +41,22 @@ public:
     }
 };
 //! [checker]
+
+/// Brings in another checker while it is asked.
+class LateShopChecker : public ShopChecker
+{
+public:
+    bool isValid(const RVProductType &) const override
+    {
+        if (RVProductChecker *checker = std::exchange(myLate, nullptr))
+            RVProductCheckerRegistry::instance()->registerChecker(checker);
+        return true;
+    }
+    explicit LateShopChecker(RVProductChecker *late) : myLate(late) { }
+
+private:
+    mutable RVProductChecker *myLate;
+};
 
 class tst_guide_services : public QObject
 {
@@ -79,7 +96,18 @@ void tst_guide_services::pointers()
     QVERIFY(before != after);
     QCOMPARE(before->minPages(), 26);
     //! [pointers]
-    QCOMPARE(calculator->calls, 2);
+    //! [shared]
+    *manager->organization(u"DUN9"_s) -= 6;
+
+    QCOMPARE(manager->pageCountOrganzation(u"DUN9"_s).minPages(), 20);
+
+    manager->clearCache();
+    RVPageCountOrganization copy = manager->pageCountOrganzation(u"DUN9"_s);
+    copy -= 6;
+
+    QCOMPARE(manager->pageCountOrganzation(u"DUN9"_s).minPages(), 26);
+    //! [shared]
+    QCOMPARE(calculator->calls, 3);
     manager->setCalculator(nullptr);
 }
 
@@ -116,6 +144,19 @@ void tst_guide_services::checkers()
 
     QVERIFY(registry->isValid(u"VIR1"_s, SOLD_IN_SHOP));
     //! [registry]
+    //! [meanwhile]
+    LateShopChecker first(&checker); // registers the other one when it is asked
+    registry->registerChecker(&first);
+
+    QVERIFY(registry->isValid(u"VIR1"_s, SOLD_IN_SHOP));
+    QVERIFY(registry->isValid(u"VIR1"_s, SOLD_IN_SHOP));
+
+    registry->clearCaches();
+
+    QVERIFY(!registry->isValid(u"VIR1"_s, SOLD_IN_SHOP));
+    //! [meanwhile]
+    registry->unregisterChecker(&first);
+    registry->unregisterChecker(&checker);
 }
 
 QTEST_MAIN(tst_guide_services)
