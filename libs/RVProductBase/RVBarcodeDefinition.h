@@ -40,7 +40,8 @@ public:
 
     QRect rect() const noexcept { return myRect; } ///< In tenths of a millimetre.
     int pageNr() const noexcept { return myPageNr; } ///< As the catalogue counts pages.
-    QString imageName() const { return myImageName; } ///< A file below "icons/picjolly/".
+    /// Joined to "icons/picjolly/" as it is, so a name with ".." can leave that directory.
+    QString imageName() const { return myImageName; }
     /// The placeholder, loaded when it is first asked for; null where it cannot be loaded. Copies share it afterwards.
     /// One thread at a time.
     QImage image() const;
