@@ -123,6 +123,12 @@ void checkRows(const RVPageCountOrganization &counts, int row)
     CHECK_EQUAL(model.lowestValue(), counts.minPages());
     CHECK_EQUAL(model.highestValue(), counts.maxPages());
     CHECK_EQUAL(model.pagesAtIndex(row), counts.pagesWithNExtraPackages(row));
+    const RVPageCounts offered = counts.pageCounts();
+    CHECK(offered.isEmpty() || offered.first() == counts.minPages());
+    if (counts.range().isValid())
+        CHECK_EQUAL(saturated(offered.size()), qMax(0, model.rowCount()));
+    if (row >= 0 && row < offered.size())
+        CHECK_EQUAL(offered.at(row), model.pagesAtIndex(row));
     const QString text = model.data(model.index(row, 0), Qt::DisplayRole).toString();
     CHECK_EQUAL(text.isEmpty(), row < 0 || row >= model.rowCount());
     if (!text.isEmpty())

@@ -317,7 +317,7 @@ void ProductCheck::checkPageCounts(const CatalogueElement &product)
             FindingText::tr("steps of %1 from %2 pages end at %3 and never meet %4")
                     .arg(counts.pageIncrement())
                     .arg(counts.minPages())
-                    .arg(counts.pagesWithNExtraPackages(counts.numberOfPackages() - 1))
+                    .arg(counts.pageCounts().last())
                     .arg(counts.maxPages()));
     myHasPageCounts = true;
 }

@@ -3,6 +3,7 @@
 #include <QtNumeric>
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -16,8 +17,8 @@ unsigned spinePages(int pages)
 
 SpineTable::SpineTable(const RVSpineConfig &spine, const RVPageCountOrganization &pageCounts)
     : mySpine(spine),
-      myPageCounts(pageCounts),
-      myRowCount(pageCounts.isValid() ? pageCounts.numberOfPackages() : 0)
+      myPageCounts(pageCounts.isValid() ? pageCounts.pageCounts() : RVPageCounts()),
+      myRowCount(int(qMin(myPageCounts.size(), qint64(std::numeric_limits<int>::max()))))
 {
     if (myRowCount > 0 && !(qIsFinite(width(0)) && qIsFinite(width(myRowCount - 1))))
         myRowCount = 0;

@@ -47,7 +47,7 @@ public:
     QList<SpineRow> steps(int most) const;
 
 private:
-    int pages(int index) const { return myPageCounts.pagesWithNExtraPackages(index); }
+    int pages(int index) const { return myPageCounts.at(index); }
     int blocks(int index) const;
     qreal width(int index) const;
     int fontSize(int index) const;
@@ -55,7 +55,7 @@ private:
     int nextChange(int index, int (SpineTable::*function)(int) const) const;
 
     RVSpineConfig mySpine;
-    RVPageCountOrganization myPageCounts;
+    RVPageCounts myPageCounts;
     int myRowCount = 0;
     QList<FontRun> myFontRuns;
 };

@@ -105,8 +105,7 @@ QStringList pageCountProblems(const QString &text, const CatalogueProduct &produ
                      .arg(counts.minPages())
                      .arg(counts.maxPages())
                      .arg(counts.pageIncrement())
-                     .arg(qMin(counts.constrain(pages),
-                               counts.pagesWithNExtraPackages(counts.numberOfPackages() - 1))) };
+                     .arg(qMin(counts.constrain(pages), counts.pageCounts().last())) };
 }
 
 /// All packages and options of a product may share one price class, so the sum may be larger than an int.

@@ -66,6 +66,13 @@ bool RVPageCountOrganization::isConsistent() const noexcept
     return isValid() && isValidPageCount(maxPages());
 }
 
+RVPageCounts RVPageCountOrganization::pageCounts() const noexcept
+{
+    const qint64 extraPages = qint64(maxPages()) - minPages();
+    const qint64 size = myPageIncrement == 0 ? 1 : extraPages / myPageIncrement + 1;
+    return extraPages < 0 || size < 1 ? RVPageCounts() : RVPageCounts(minPages(), myPageIncrement, size);
+}
+
 int RVPageCountOrganization::pagesWithNExtraPackages(int n) const noexcept
 {
     return rvSaturated(minPages() + qint64(myPageIncrement) * n);

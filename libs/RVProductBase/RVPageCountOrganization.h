@@ -2,6 +2,7 @@
 #define RVPAGECOUNTORGANIZATION_H
 
 #include "RVIntRange.h"
+#include "RVPageCounts.h"
 #include "RVProductBaseExport.h"
 
 class QDebug;
@@ -56,6 +57,13 @@ public:
     /// True when fewer than two pages are enough.
     bool isOnePageProduct() const noexcept { return minPages() < 2; }
 
+    /// The counts that can be chosen, ascending: 26, 30, … 154 for ([26, 154], 4), and 3 alone for ([3, 3], 0). They
+    /// are the rows of RVPageCountOrganizationListModel, and isValidPageCount() accepts each of them.
+    ///
+    /// Ask isValid() first: of an invalid organisation they are the lowest count at most, such as 0 by default and 10
+    /// for
+    /// ([10, 20], 0). There are none of a range whose lowest count is above the highest.
+    RVPageCounts pageCounts() const noexcept;
     /// The lowest count and @p n packages.
     int pagesWithNExtraPackages(int n) const noexcept;
     /// Whole packages above the lowest count; 0 at or below it, and without increment.

@@ -1,4 +1,5 @@
 #include <RVProductBase/RVPageCountOrganization.h>
+#include <RVProductBase/RVPageCountOrganizationListModel.h>
 
 #include <QDebug>
 #include <QDomDocument>
@@ -41,6 +42,12 @@ private Q_SLOTS:
     void packages();
     void numberOfPackages_data();
     void numberOfPackages();
+    void pageCounts_data();
+    void pageCounts();
+    void largestPageCounts_data();
+    void largestPageCounts();
+    void pageCountsAndTheModel_data();
+    void pageCountsAndTheModel();
     void minPagesWithPano_data();
     void minPagesWithPano();
     void adaptedTo_data();
@@ -260,6 +267,109 @@ void tst_RVPageCountOrganization::numberOfPackages()
 {
     QFETCH(RVPageCountOrganization, organization);
     QTEST(organization.numberOfPackages(), "number");
+}
+
+void tst_RVPageCountOrganization::pageCounts_data()
+{
+    QTest::addColumn<RVPageCountOrganization>("organization");
+    QTest::addColumn<QList<int>>("counts");
+    QTest::newRow("default") << RVPageCountOrganization() << QList<int> { 0 };
+    QTest::newRow("short book") << organization(26, 38, 4) << QList<int> { 26, 30, 34, 38 };
+    QTest::newRow("card") << organization(3, 3, 0) << QList<int> { 3 };
+    QTest::newRow("one count with an increment") << organization(3, 3, 4) << QList<int> { 3 };
+    QTest::newRow("one count, negative increment") << organization(3, 3, -4) << QList<int> { 3 };
+    QTest::newRow("increment misses the highest") << organization(26, 33, 4) << QList<int> { 26, 30 };
+    QTest::newRow("increment beyond the highest") << organization(26, 29, 4) << QList<int> { 26 };
+    QTest::newRow("across zero") << organization(-4, 4, 4) << QList<int> { -4, 0, 4 };
+    QTest::newRow("several without increment") << organization(10, 20, 0) << QList<int> { 10 };
+    QTest::newRow("several with a negative increment") << organization(10, 20, -5) << QList<int>();
+    QTest::newRow("negative increment beyond the lowest") << organization(10, 20, -11) << QList<int> { 10 };
+    QTest::newRow("inverted") << organization(20, 10, 4) << QList<int>();
+    QTest::newRow("inverted by less than a package") << organization(20, 17, 4) << QList<int>();
+    QTest::newRow("inverted, negative increment") << organization(20, 10, -4) << QList<int>();
+    QTest::newRow("inverted without increment") << organization(20, 10, 0) << QList<int>();
+    QTest::newRow("at the highest integer")
+            << organization(INT_HIGHEST - 4, INT_HIGHEST, 3) << QList<int> { INT_HIGHEST - 4, INT_HIGHEST - 1 };
+    QTest::newRow("highest integer alone") << organization(INT_HIGHEST, INT_HIGHEST, 1) << QList<int> { INT_HIGHEST };
+    QTest::newRow("from the lowest to the highest integer")
+            << organization(INT_LOWEST, INT_HIGHEST, INT_HIGHEST) << QList<int> { INT_LOWEST, -1, INT_HIGHEST - 1 };
+}
+
+void tst_RVPageCountOrganization::pageCounts()
+{
+    QFETCH(RVPageCountOrganization, organization);
+    QFETCH(QList<int>, counts);
+    const RVPageCounts pageCounts = organization.pageCounts();
+    QList<int> visited;
+    for (const int pages : pageCounts)
+        visited += pages;
+    QCOMPARE(visited, counts);
+    QCOMPARE(QList<int>(pageCounts.begin(), pageCounts.end()), counts);
+    QCOMPARE(pageCounts.size(), qint64(counts.size()));
+    QCOMPARE(pageCounts.isEmpty(), counts.isEmpty());
+    QCOMPARE(pageCounts.first(), counts.value(0));
+    QCOMPARE(pageCounts.last(), counts.value(counts.size() - 1));
+    for (qsizetype i = 0; i < counts.size(); ++i) {
+        QCOMPARE(pageCounts.at(i), counts.at(i));
+        QVERIFY(organization.isValidPageCount(counts.at(i)));
+    }
+    QCOMPARE(pageCounts.at(-1), pageCounts.first());
+    QCOMPARE(pageCounts.at(counts.size()), pageCounts.last());
+}
+
+void tst_RVPageCountOrganization::largestPageCounts_data()
+{
+    QTest::addColumn<RVPageCountOrganization>("organization");
+    QTest::addColumn<qint64>("size");
+    QTest::addColumn<int>("first");
+    QTest::addColumn<int>("middle");
+    QTest::addColumn<int>("last");
+    QTest::newRow("from 0") << organization(0, INT_HIGHEST, 1) << qint64(2147483648) << 0 << 1073741824 << INT_HIGHEST;
+    QTest::newRow("all integers") << organization(INT_LOWEST, INT_HIGHEST, 1) << qint64(4294967296) << INT_LOWEST << 0
+                                  << INT_HIGHEST;
+    QTest::newRow("every second integer")
+            << organization(INT_LOWEST, INT_HIGHEST, 2) << qint64(2147483648) << INT_LOWEST << 0 << INT_HIGHEST - 1;
+}
+
+void tst_RVPageCountOrganization::largestPageCounts()
+{
+    QFETCH(RVPageCountOrganization, organization);
+    QFETCH(qint64, size);
+    const RVPageCounts pageCounts = organization.pageCounts();
+    QCOMPARE(pageCounts.size(), size);
+    QTEST(pageCounts.first(), "first");
+    QTEST(pageCounts.at(size / 2), "middle");
+    QTEST(pageCounts.last(), "last");
+    QTEST(pageCounts.at(std::numeric_limits<qint64>::max()), "last");
+    QTEST(pageCounts.at(std::numeric_limits<qint64>::min()), "first");
+    auto it = pageCounts.begin();
+    QCOMPARE(*it++, pageCounts.first());
+    QCOMPARE(*it, pageCounts.at(1));
+    QVERIFY(it != pageCounts.end());
+}
+
+void tst_RVPageCountOrganization::pageCountsAndTheModel_data()
+{
+    QTest::addColumn<RVPageCountOrganization>("organization");
+    QTest::newRow("default") << RVPageCountOrganization();
+    QTest::newRow("photo book") << organization(26, 154, 4);
+    QTest::newRow("card") << organization(3, 3, 0);
+    QTest::newRow("increment misses the highest") << organization(26, 33, 4);
+    QTest::newRow("several without increment") << organization(10, 20, 0);
+    QTest::newRow("one count, negative increment") << organization(3, 3, -4);
+    QTest::newRow("negative increment beyond the lowest") << organization(10, 20, -11);
+}
+
+void tst_RVPageCountOrganization::pageCountsAndTheModel()
+{
+    QFETCH(RVPageCountOrganization, organization);
+    RVPageCountOrganizationListModel model(false);
+    model.setPageOrganization(organization);
+    QList<int> rows;
+    for (int row = 0; row < model.rowCount(); ++row)
+        rows += model.pagesAtIndex(row);
+    const RVPageCounts pageCounts = organization.pageCounts();
+    QCOMPARE(QList<int>(pageCounts.begin(), pageCounts.end()), rows);
 }
 
 void tst_RVPageCountOrganization::minPagesWithPano_data()

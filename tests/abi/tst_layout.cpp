@@ -149,6 +149,7 @@ void tst_layout::sizes_data()
     row<RVPageContext>("RVPageContext", 40, 8);
     row<RVPageCountOrganization>("RVPageCountOrganization", 32, 8);
     row<RVPageCountOrganizationListModel>("RVPageCountOrganizationListModel", 56, 8);
+    row<RVPageCounts>("RVPageCounts", 16, 8);
     row<RVPageOrganizationCalculator>("RVPageOrganizationCalculator", 8, 8);
     row<RVPageOrganizationManager>("RVPageOrganizationManager", 56, 8);
     row<RVPageSizeKey>("RVPageSizeKey", 56, 8);

@@ -34,6 +34,19 @@ void tst_guide_pages::counts()
     QCOMPARE(book.countPackages(34), 2);
     QCOMPARE(book.numberOfPackages(), 33);
     //! [counts]
+    //! [all]
+    QStringList offered;
+    for (const int pages : book.pageCounts())
+        offered += QString::number(pages);
+
+    QCOMPARE(offered.size(), 33);
+    QCOMPARE(offered.last(), u"154"_s);
+
+    const RVPageCountOrganization card(RVIntRange(3, 3), 0);
+
+    QCOMPARE(card.pageCounts().size(), 1);
+    QCOMPARE(card.pageCounts().first(), 3);
+    //! [all]
 }
 
 void tst_guide_pages::constrained()
