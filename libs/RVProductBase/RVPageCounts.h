@@ -25,12 +25,15 @@ public:
     class const_iterator
     {
     public:
+        /// For the standard library.
+        /// @{
         using iterator_category = std::input_iterator_tag; // it makes its values
         using iterator_concept = std::forward_iterator_tag;
         using value_type = int;
         using difference_type = std::ptrdiff_t;
         using pointer = void;
         using reference = int;
+        /// @}
 
         constexpr const_iterator() noexcept = default; ///< Belongs to no counts.
 
@@ -64,8 +67,11 @@ public:
         qint64 myPages = 0; // behind the last one it may be no int
         qint64 myIncrement = 1;
     };
+    /// For the standard library.
+    /// @{
     using iterator = const_iterator;
     using value_type = int;
+    /// @}
 
     constexpr RVPageCounts() noexcept = default; ///< No counts.
 

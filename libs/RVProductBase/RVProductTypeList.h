@@ -20,7 +20,8 @@ public:
     /// From codes; empty ones are skipped, doubles are kept.
     RVProductTypeList(const QList<QString> &codes);
 
-    /// From codes separated by commas; empty ones are skipped, doubles are kept.
+    /// From codes separated by commas; empty ones are skipped, doubles are kept. A blank belongs to its code: "DUN9,
+    /// DUN3" has the type " DUN3".
     static RVProductTypeList buildFromCSV(const QString &csv);
 
     bool containsAgenda() const; ///< True when some element is an agenda.
