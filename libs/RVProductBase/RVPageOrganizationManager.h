@@ -20,7 +20,8 @@ extern template class RVPRODUCTBASE_EXPORT RVSingleton<RVPageOrganizationManager
  * answer until clearCache().
  *
  * Any thread may call; one lock serialises all operations. Without a calculator every type has the empty, invalid
- * organisation. Whichever thread asks first, the QObject belongs to the thread of the application where there is one.
+ * organisation. Whichever thread asks first, the QObject belongs to the thread of the application, if there is one by
+ * then.
  *
  * @ingroup services
  */

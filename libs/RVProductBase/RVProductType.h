@@ -17,7 +17,7 @@ class RVPriceClass;
  * key under which page counts and product checks are cached. An empty code is the unknown type.
  *
  * Photo book codes are reduced to their family, so every size and variant of one book is one type: "DUN9_30" is
- * "DUN9". What was moved from is a valid object.
+ * "DUN9".
  *
  * @ingroup geometry
  */

@@ -33,6 +33,7 @@ public:
 
     RVSpineConfig(const RVSpineConfig &) = default;
     RVSpineConfig &operator=(const RVSpineConfig &) = default;
+    /// Exchanges the two.
     RVSpineConfig &operator=(RVSpineConfig &&other) noexcept
     {
         d.swap(other.d);
