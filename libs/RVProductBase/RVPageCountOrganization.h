@@ -61,8 +61,7 @@ public:
     /// are the rows of RVPageCountOrganizationListModel, and isValidPageCount() accepts each of them.
     ///
     /// Ask isValid() first: of an invalid organisation they are the lowest count at most, such as 0 by default and 10
-    /// for
-    /// ([10, 20], 0). There are none of a range whose lowest count is above the highest.
+    /// for the range ([10, 20], 0). There are none where the lowest count is above the highest.
     RVPageCounts pageCounts() const noexcept;
     /// The lowest count and @p n packages.
     int pagesWithNExtraPackages(int n) const noexcept;

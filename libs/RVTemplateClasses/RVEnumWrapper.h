@@ -11,7 +11,9 @@
 #include <atomic>
 #include <memory>
 #include <type_traits>
-#include <typeinfo>
+#ifdef __cpp_rtti
+#    include <typeinfo>
+#endif
 
 /**
  * The value of one attribute of a product: a set of bits of the flag enumeration E.
@@ -208,13 +210,19 @@ const RVEnumToStringTable<E> *RVEnumWrapper<E>::makeTable() const
     if (const auto *table = myTable.load(std::memory_order_relaxed))
         return table;
 
-    // A plain wrapper (a temporary made from a bare value, say) must not leave the process without keywords.
-    if (typeid(*this) == typeid(RVEnumWrapper)) {
+    auto table = std::make_unique<RVEnumToStringTable<E>>();
+    fillTable(table.get());
+    // A plain wrapper, such as a temporary made from a bare value, must not leave the process without keywords. Without
+    // run-time type information every class that inserts nothing is taken for one.
+#ifdef __cpp_rtti
+    const bool isPlain = typeid(*this) == typeid(RVEnumWrapper);
+#else
+    const bool isPlain = table->isUntouched();
+#endif
+    if (isPlain) {
         static const auto *const withoutKeywords = new RVEnumToStringTable<E>;
         return withoutKeywords;
     }
-    auto table = std::make_unique<RVEnumToStringTable<E>>();
-    fillTable(table.get());
     table->optimize();
     myTable.store(table.get(), std::memory_order_release);
     return table.release();
