@@ -128,7 +128,7 @@ double RVOrientation::defaultWidthHeightRatio() const
 {
     switch (value()) {
     case ORIENTATION_PORTRAIT:
-        return 0.666666; // six decimals, not two thirds: layouts were made with it
+        return 0.666666; // six decimals, not two thirds
     case ORIENTATION_LANDSCAPE:
         return 1.5;
     case ORIENTATION_PORTRAIT_SLIM:

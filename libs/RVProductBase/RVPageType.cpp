@@ -32,7 +32,7 @@ constexpr RVKeyword<RVPageTypeEnum> KEYWORDS[] = {
     { u"cromolinen", PAGE_TYPE_CROMOLINEN },
     { u"calendarcoverback", PAGE_TYPE_CALENDARCOVERBACK },
     { u"calendarcoverfront", PAGE_TYPE_CALENDARCOVERFRONT },
-    { u"calendercoverfront", PAGE_TYPE_CALENDARCOVERFRONT }, // old catalogues spell it so
+    { u"calendercoverfront", PAGE_TYPE_CALENDARCOVERFRONT }, // spelt so on purpose
     { u"normalpages", PAGE_TYPE_NORMALPAGES },
     { u"all", PAGE_TYPE_ALL },
     { u"slipcasefrontcover", PAGE_TYPE_SLIPCASEFRONTCOVER },
@@ -140,7 +140,7 @@ int RVPageType::acceptFotoRule() const
 bool RVPageType::isSpotColorAllowed(const QList<RVSpotColor> &colors) const
 {
     const bool hasSilverInk = colors.contains(RVSpotColor(SPOT_COLOR_SILVER_INK));
-    // Nothing glossy and no ink on linen and leather, only embossing.
+    // Linen and leather take neither gloss nor silver ink.
     if (matches(TEXTILE_COVER))
         return !hasSilverInk && !colors.contains(RVSpotColor(SPOT_COLOR_GLOSS));
     return !hasSilverInk || matches(PAGE_TYPE_CARDFRONT | PAGE_TYPE_FULLCOVER);

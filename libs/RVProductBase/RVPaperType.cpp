@@ -30,7 +30,7 @@ constexpr RVKeyword<RVPaperTypeEnum> KEYWORDS[] = {
     { u"digital_printing_recycled", DIGITAL_PRINTING_RECYCLED },
 };
 
-/// The key is stored elsewhere and stays; the text is what the customer reads.
+/// The key is fixed; the text is what the customer reads.
 constexpr struct
 {
     QLatin1StringView key;

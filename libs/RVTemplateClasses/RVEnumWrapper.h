@@ -205,7 +205,7 @@ std::atomic<const RVEnumToStringTable<E> *> RVEnumWrapper<E>::myTable { nullptr 
 template<typename E>
 const RVEnumToStringTable<E> *RVEnumWrapper<E>::makeTable() const
 {
-    static QBasicMutex theMutex; // has no destructor, so that a table can still be made while the process ends
+    static QMutex theMutex;
     const QMutexLocker locker(&theMutex);
     if (const auto *table = myTable.load(std::memory_order_relaxed))
         return table;
