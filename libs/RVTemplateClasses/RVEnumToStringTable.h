@@ -13,13 +13,18 @@
 #include <QStringView>
 #include <QtAlgorithms>
 
-#include <cxxabi.h>
-
 #include <algorithm>
-#include <cstdlib>
-#include <memory>
 #include <type_traits>
-#include <typeinfo>
+
+#if defined(__cpp_rtti) && __has_include(<cxxabi.h>)
+#    include <cxxabi.h>
+
+#    include <cstdlib>
+#    include <memory>
+#    include <typeinfo>
+#else
+#    include <QMetaType>
+#endif
 
 /**
  * The two-way table between the values of one flag enumeration and their keywords, the words in which the products
@@ -271,16 +276,24 @@ void RVEnumToStringTable<ENUM>::optimize()
 }
 
 // Log filters of the application know this message by its context, which therefore stays as it is whatever compiler
-// built the library and wherever these lines move.
+// built the library and wherever these lines move. A name in no namespace, as those of all attributes are, is spelt the
+// same without run-time type information.
 template<typename ENUM>
 void RVEnumToStringTable<ENUM>::warnUndecodable(const QString &keyword)
 {
+#if defined(__cpp_rtti) && __has_include(<cxxabi.h>)
     const char *typeName = typeid(ENUM).name();
-    const std::unique_ptr<char, decltype(&std::free)> readableName(
+    const std::unique_ptr<char, decltype(&std::free)> demangledName(
             abi::__cxa_demangle(typeName, nullptr, nullptr, nullptr), &std::free);
+    const char *readableName = demangledName ? demangledName.get() : typeName;
+#else
+    const char *readableName = QMetaType::fromType<ENUM>().name();
+    const QByteArray mangledName = QByteArray::number(qstrlen(readableName)) + readableName;
+    const char *typeName = mangledName.constData();
+#endif
     const QByteArray function = QByteArrayLiteral("ENUM RVEnumToStringTable<ENUM>::decodeOneElement(const QString&, "
                                                   "bool) const [with ENUM = ")
-            + (readableName ? readableName.get() : typeName) + ']';
+            + readableName + ']';
     QMessageLogger("libs/RVTemplateClasses/RVEnumToStringTable", 186, function.constData()).warning()
             << "undecodable:" << keyword << "(using default in" << typeName << ")";
 }
