@@ -27,6 +27,8 @@
 #include <algorithm>
 #include <type_traits>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 template<typename T>
@@ -109,7 +111,7 @@ void checkReading(const QString &text, const QString &other)
         united |= T(piece);
     CHECK(united == value);
     CHECK(T(text + u',' + other) == T(value | T(other)));
-    CHECK(T(other + u" ,\t"_qs + text) == T(value | T(other)));
+    CHECK(T(other + u" ,\t"_s + text) == T(value | T(other)));
     if (isAscii(text)) { // "ı" is no "i" in lower case, but in upper case
         CHECK(T(text.toUpper()) == value);
         CHECK(T(text.toLower()) == value);
