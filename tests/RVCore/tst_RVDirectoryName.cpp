@@ -11,6 +11,7 @@ class tst_RVDirectoryName : public QObject
 private Q_SLOTS:
     void names_data();
     void names();
+    void combinationsHaveNoName();
 };
 
 void tst_RVDirectoryName::names_data()
@@ -37,6 +38,14 @@ void tst_RVDirectoryName::names()
     QCOMPARE(int(directory.value()), value);
     QCOMPARE(directory.name(), name);
     QCOMPARE(directory.name().isNull(), name.isNull());
+}
+
+void tst_RVDirectoryName::combinationsHaveNoName()
+{
+    for (int value = 0; value < 0x80000; ++value) {
+        if (qPopulationCount(quint32(value)) != 1)
+            QVERIFY(RVDirectoryName(RVDirectoryNameEnum(value)).name().isNull());
+    }
 }
 
 QTEST_APPLESS_MAIN(tst_RVDirectoryName)

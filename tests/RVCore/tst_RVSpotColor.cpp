@@ -39,7 +39,10 @@ void tst_RVSpotColor::defaults()
     QCOMPARE(int(RVSpotColor().value()), 0);
     QCOMPARE(int(RVSpotColor(u"copper"_s).value()), 0);
     QCOMPARE(RVSpotColor().encode(), QString());
-    QCOMPARE(RVSpotColor(SPOT_COLOR_GLOSS | SPOT_COLOR_GOLD).encode(), QString());
+    for (int value = 0; value < 0x80; ++value) {
+        if (value >= 0x20 || qPopulationCount(quint32(value)) != 1)
+            QCOMPARE(RVSpotColor(RVSpotColorEnum(value)).encode(), QString());
+    }
     QCOMPARE(RVSpotColor(u"gold,GLOSS"_s).encodeCSV(), u"gloss, gold"_s);
 }
 

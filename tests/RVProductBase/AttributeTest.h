@@ -7,6 +7,7 @@
 #include <QTest>
 
 #include <algorithm>
+#include <future>
 #include <type_traits>
 
 /// What the keyword table of an attribute class says about one value. The first keyword encodes it.
@@ -14,6 +15,22 @@ struct KeywordRow
 {
     qint64 value;
     QStringList keywords;
+};
+
+/// What the function gives on another thread.
+template<typename Function>
+auto onAnotherThread(Function function)
+{
+    return std::async(std::launch::async, function).get();
+}
+
+/// An attribute that says the opposite of the truth when it is asked whether it is valid.
+template<typename Attribute>
+class LyingAttribute : public Attribute
+{
+public:
+    using Attribute::Attribute;
+    bool isValid() const override { return !Attribute::isValid(); }
 };
 
 /// Checks the keyword table of an attribute class against rows that are written out.
@@ -50,6 +67,8 @@ public:
         for (const Enum value : Attribute().allKnownEnumValues())
             knownValues += qint64(value);
         QCOMPARE(sorted(knownValues), sorted(allValues));
+        const auto table = [] { return Attribute().enumToStringTable(); };
+        QCOMPARE(onAnotherThread(table), table());
         checkDefaults();
         checkChangedDefaults();
     }

@@ -32,6 +32,7 @@ private Q_SLOTS:
     void startPage();
     void morePages_data();
     void morePages();
+    void combinationsHaveNoText();
     void amounts();
     void shopCartOrder();
     void shopCartOrderOfTheUnlisted_data();
@@ -241,6 +242,19 @@ void tst_RVArticleClass::morePages()
     QTEST(articleClass(value).morePagesText(3), "text");
 }
 
+void tst_RVArticleClass::combinationsHaveNoText()
+{
+    const QList<int> startPages = { 0x1, 0x6, 0x8, 0x10, 0x3FC0, 0x38000 };
+    for (int value = 0; value < 0x80000; ++value) {
+        if (qPopulationCount(quint32(value)) < 2)
+            continue;
+        if (!startPages.contains(value))
+            QCOMPARE(articleClass(value).toStartPageId(), QVariant(1));
+        QCOMPARE(articleClass(value).morePagesText(3), u""_s);
+        QCOMPARE(articleClass(value).shippingGroup(), -1);
+    }
+}
+
 void tst_RVArticleClass::amounts()
 {
     const QList<int> once = { 14, 23, 27, 28, 29, 30, 31, 32, 33, 34, 35, 36, 38, 39, 40, 41, 42, 43 };
@@ -248,6 +262,7 @@ void tst_RVArticleClass::amounts()
         QCOMPARE(articleClass(Q_INT64_C(1) << bit).maxAmount(), once.contains(bit) ? 1 : 2147483647);
     QCOMPARE(articleClass(0).maxAmount(), 2147483647);
     QCOMPARE(articleClass(0x4001).maxAmount(), 1);
+    QCOMPARE(articleClass(-1).maxAmount(), 1);
 }
 
 void tst_RVArticleClass::shopCartOrder()
@@ -308,6 +323,9 @@ void tst_RVArticleClass::templates()
     QDomElement parent = document.createElement(u"article"_s);
     articleClass(value).toTemplates2Format(parent);
     QTEST(childTexts(parent), "children");
+    QDomElement other = document.createElement(u"article"_s);
+    LyingAttribute<RVArticleClass>(RVArticleClassEnum(value)).toTemplates2Format(other);
+    QTEST(childTexts(other), "children");
 }
 
 void tst_RVArticleClass::debugOutput()

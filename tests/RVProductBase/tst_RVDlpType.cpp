@@ -21,6 +21,7 @@ private Q_SLOTS:
     void keywordTable();
     void values_data();
     void values();
+    void combinationsHaveNoName();
     void pluralForms();
     void button();
     void descriptions();
@@ -97,6 +98,21 @@ void tst_RVDlpType::values()
     QTEST(tested.queryValue(), "query");
 }
 
+void tst_RVDlpType::combinationsHaveNoName()
+{
+    for (int value = 0; value < 0x2000; ++value) {
+        const int type = value & ~512;
+        if (qPopulationCount(quint32(type)) < 2)
+            continue;
+        QVERIFY(dlpType(value).dlpPath(false).isNull());
+        QVERIFY(dlpType(value).dlpPath(true).isNull());
+        if (type == 66)
+            continue;
+        QVERIFY(dlpType(value).visibleName(-1).isNull());
+        QVERIFY(dlpType(value).visibleName(1).isNull());
+    }
+}
+
 void tst_RVDlpType::pluralForms()
 {
     QCOMPARE(dlpType(8).visibleName(0), u"0 Cliparts"_s);
@@ -116,6 +132,7 @@ void tst_RVDlpType::descriptions()
 {
     QCOMPARE(dlpType(9).describe(), u"9 | background, clipart"_s);
     QCOMPARE(dlpType(0).describe(), u"0 | "_s);
+    QCOMPARE(dlpType(1024).describe(), u"1024 | style_v2_coverpage"_s);
     QCOMPARE(dlpType(520).describe(), u"520 | clipart, filter_linnen_capable"_s);
 }
 

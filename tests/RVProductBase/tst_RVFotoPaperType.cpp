@@ -13,6 +13,7 @@ private Q_SLOTS:
     void keywordTable();
     void values_data();
     void values();
+    void combinationsHaveNoName();
     void defaults_data();
     void defaults();
     void orderTransfer_data();
@@ -55,6 +56,15 @@ void tst_RVFotoPaperType::values()
     QCOMPARE(paper.humanReadableName(), name);
     QCOMPARE(paper.humanReadableName().isNull(), name.isNull());
     QTEST(paper.encodeForProduction(), "code");
+}
+
+void tst_RVFotoPaperType::combinationsHaveNoName()
+{
+    for (int value = 3; value < 0x100; ++value) {
+        const RVFotoPaperType paper { RVFotoPaperTypeEnum(value) };
+        QVERIFY(paper.humanReadableName().isNull());
+        QCOMPARE(paper.encodeForProduction(), u""_s);
+    }
 }
 
 void tst_RVFotoPaperType::defaults_data()

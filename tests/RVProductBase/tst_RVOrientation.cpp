@@ -34,6 +34,7 @@ private Q_SLOTS:
     void pageTilt();
     void values_data();
     void values();
+    void combinationsHaveNoName();
     void foldMargins_data();
     void foldMargins();
     void templates_data();
@@ -84,6 +85,7 @@ void tst_RVOrientation::sizes_data()
     QTest::newRow("twice as wide as high") << 200.0 << 100.0 << 16;
     QTest::newRow("no height") << 10.0 << 0.0 << 16;
     QTest::newRow("no width") << 0.0 << 10.0 << 8;
+    QTest::newRow("negative zero height") << 10.0 << -0.0 << 16;
     QTest::newRow("no size") << 0.0 << 0.0 << 0;
     QTest::newRow("negative zeros") << -0.0 << -0.0 << 0;
     QTest::newRow("negative width") << -1.0 << 5.0 << 0;
@@ -170,6 +172,16 @@ void tst_RVOrientation::values()
     QCOMPARE(tested.isQuadratic(), (value & 4) != 0);
 }
 
+void tst_RVOrientation::combinationsHaveNoName()
+{
+    for (int value = 0; value < 0x100; ++value) {
+        if (value >= 0x20 || qPopulationCount(quint32(value)) != 1)
+            QCOMPARE(orientation(value).humanReadable(), u""_s);
+        if (qPopulationCount(quint32(value)) > 1)
+            QCOMPARE(orientation(value).defaultWidthHeightRatio(), 1.0);
+    }
+}
+
 void tst_RVOrientation::foldMargins_data()
 {
     QTest::addColumn<int>("value");
@@ -217,12 +229,21 @@ void tst_RVOrientation::templates()
     QDomElement parent = document.createElement(u"layout"_s);
     orientation(value).toTemplates2Format(parent);
     QTEST(childTexts(parent), "children");
+    QDomElement other = document.createElement(u"layout"_s);
+    LyingAttribute<RVOrientation>(RVOrientationEnum(value)).toTemplates2Format(other);
+    QTEST(childTexts(other), "children");
 }
 
 void tst_RVOrientation::debugOutput()
 {
     QCOMPARE(debugText(orientation(5)), u"RVOrientation(portrait, square) "_s);
     QCOMPARE(debugText(orientation(0)), u"RVOrientation(portrait) "_s);
+    QString text;
+    QDebug(&text) << u"page"_s << orientation(5) << u"a4"_s;
+    QCOMPARE(text, u"\"page\" RVOrientation(portrait, square) \"a4\" "_s);
+    text.clear();
+    QDebug(&text).nospace().noquote() << u"page"_s << orientation(5) << u"a4"_s;
+    QCOMPARE(text, u"pageRVOrientation(portrait, square)a4"_s);
 }
 
 QTEST_GUILESS_MAIN(tst_RVOrientation)

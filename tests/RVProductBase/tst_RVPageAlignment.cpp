@@ -12,6 +12,7 @@ private Q_SLOTS:
     void keywordTable();
     void values_data();
     void values();
+    void combinationsHaveNoWords();
     void productionPaths_data();
     void productionPaths();
     void debugOutput();
@@ -57,6 +58,16 @@ void tst_RVPageAlignment::values()
     QTEST(alignment.describe(), "description");
     QTEST(alignment.pdfPostFix(true), "splitPostFix");
     QCOMPARE(alignment.pdfPostFix(false), u"_center.pdf"_s);
+}
+
+void tst_RVPageAlignment::combinationsHaveNoWords()
+{
+    for (int value = 0; value < 0x200; ++value) {
+        if (value >= 0x80 || qPopulationCount(quint32(value)) != 1)
+            QCOMPARE(RVPageAlignment(RVPageAlignmentEnum(value)).describe(), u""_s);
+        if (value != PAGE_ALIGNMENT_LEFT && value != PAGE_ALIGNMENT_RIGHT)
+            QCOMPARE(RVPageAlignment(RVPageAlignmentEnum(value)).pdfPostFix(true), u"_center.pdf"_s);
+    }
 }
 
 void tst_RVPageAlignment::productionPaths_data()

@@ -62,13 +62,19 @@ void tst_RVPageBinding::displayNames()
 {
     QFETCH(int, value);
     QTEST(binding(value).humanReadableName(), "name");
+    for (int combination = 0; combination < 0x100; ++combination) {
+        if (combination != GLUE && combination != LAYFLAT && combination != STAPLED)
+            QCOMPARE(binding(combination).humanReadableName(), u""_s);
+    }
 }
 
 void tst_RVPageBinding::nameTable()
 {
     QCOMPARE(RVPageBinding::pageBindingNames().names.size(), 3);
     QVERIFY(RVPageBinding::pageBindingNames().defaultValue.isNull());
+    QVERIFY(RVPageBinding::pageBindingNames().value(u"no such name"_s).isNull());
     QCOMPARE(RVPageBinding::pageBindingNames().unknownName, u""_s);
+    QCOMPARE(onAnotherThread([] { return &RVPageBinding::pageBindingNames(); }), &RVPageBinding::pageBindingNames());
 }
 
 void tst_RVPageBinding::templates_data()
@@ -94,6 +100,9 @@ void tst_RVPageBinding::templates()
     QDomElement parent = document.createElement(u"template"_s);
     binding(value).toTemplates2Format(parent);
     QTEST(childTexts(parent), "children");
+    QDomElement other = document.createElement(u"template"_s);
+    LyingAttribute<RVPageBinding>(RVPageBindingEnum(value)).toTemplates2Format(other);
+    QTEST(childTexts(other), "children");
 }
 
 void tst_RVPageBinding::debugOutput()

@@ -161,6 +161,11 @@ void tst_RVPageType::rules()
     QTEST(pageType(value).explicitOrderPageNumber(), "orderPage");
     QTEST(pageType(value).acceptTemplateRule(), "templates");
     QTEST(pageType(value).acceptFotoRule(), "photos");
+    const LyingAttribute<RVPageType> lying { RVPageTypeEnum(value) };
+    QTEST(lying.productionRenderingRule(), "rendering");
+    QTEST(lying.explicitOrderPageNumber(), "orderPage");
+    QTEST(lying.acceptTemplateRule(), "templates");
+    QTEST(lying.acceptFotoRule(), "photos");
 }
 
 void tst_RVPageType::spotColors_data()
@@ -199,6 +204,7 @@ void tst_RVPageType::spotColors()
     for (const int color : colors)
         spotColors += RVSpotColor(RVSpotColorEnum(color));
     QTEST(pageType(value).isSpotColorAllowed(spotColors), "allowed");
+    QTEST(LyingAttribute<RVPageType>(RVPageTypeEnum(value)).isSpotColorAllowed(spotColors), "allowed");
 }
 
 void tst_RVPageType::debugOutput()

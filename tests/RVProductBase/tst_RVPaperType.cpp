@@ -22,6 +22,7 @@ private Q_SLOTS:
     void combinations();
     void displayNames_data();
     void displayNames();
+    void combinationsHaveNoName();
     void readsDisplayNames_data();
     void readsDisplayNames();
     void translatedPaperTypes();
@@ -91,6 +92,14 @@ void tst_RVPaperType::displayNames()
     QTEST(paper(value).humanReadableName(), "name");
 }
 
+void tst_RVPaperType::combinationsHaveNoName()
+{
+    for (int value = 0; value < 0x400; ++value) {
+        if (value >= 0x100 || qPopulationCount(quint32(value)) != 1)
+            QCOMPARE(paper(value).humanReadableName(), u"unbekannter Papiertyp"_s);
+    }
+}
+
 void tst_RVPaperType::readsDisplayNames_data()
 {
     QTest::addColumn<QString>("name");
@@ -138,6 +147,12 @@ void tst_RVPaperType::nameTable()
     QCOMPARE(RVPaperType::paperTypeNames().names.size(), 8);
     QCOMPARE(int(RVPaperType::paperTypeNames().defaultValue.value()), 1);
     QCOMPARE(RVPaperType::paperTypeNames().unknownName, u"unbekannter Papiertyp"_s);
+    QCOMPARE(onAnotherThread([] { return &RVPaperType::paperTypeNames(); }), &RVPaperType::paperTypeNames());
+    const auto text = [] {
+        const QHash<QString, QString> texts = RVPaperType::translatedPaperTypes();
+        return static_cast<const void *>(&*texts.constBegin());
+    };
+    QCOMPARE(onAnotherThread(text), text());
 }
 
 void tst_RVPaperType::debugOutput()

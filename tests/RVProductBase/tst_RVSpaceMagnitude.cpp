@@ -37,6 +37,7 @@ private Q_SLOTS:
     void photosOnA4();
     void scaleFactors_data();
     void scaleFactors();
+    void scaleFactorsOfTheInvalid();
     void adaptsPointSizes();
     void adaptsPixelSizes();
     void keepsFontsWithoutAFactor_data();
@@ -45,6 +46,7 @@ private Q_SLOTS:
     void keepsFontsThatWouldHaveNoSize();
     void displayNames_data();
     void displayNames();
+    void combinationsHaveNoName();
     void readsDisplayNames_data();
     void readsDisplayNames();
     void nameTable();
@@ -197,6 +199,15 @@ void tst_RVSpaceMagnitude::scaleFactors()
     QTEST(magnitude(from).scaleFactorPerDimension(magnitude(to)), "dimension");
 }
 
+// A size class of the application's own may have its own idea of what is valid.
+void tst_RVSpaceMagnitude::scaleFactorsOfTheInvalid()
+{
+    const LyingAttribute<RVSpaceMagnitude> invalidA4(SPACE_MAGNITUDE_600CM2);
+    QCOMPARE(invalidA4.scaleFactorForArea(SPACE_MAGNITUDE_1200CM2), 1.0);
+    QCOMPARE(RVSpaceMagnitude(SPACE_MAGNITUDE_1200CM2).scaleFactorForArea(invalidA4), 1.0);
+    QCOMPARE(LyingAttribute<RVSpaceMagnitude>().scaleFactorForArea(SPACE_MAGNITUDE_600CM2), infinity);
+}
+
 void tst_RVSpaceMagnitude::adaptsPointSizes()
 {
     QFont font(u"DejaVu Sans"_s);
@@ -292,6 +303,14 @@ void tst_RVSpaceMagnitude::displayNames()
         QCOMPARE(int(RVSpaceMagnitude::createFromHumanReadable(name).value()), value);
 }
 
+void tst_RVSpaceMagnitude::combinationsHaveNoName()
+{
+    for (int value = 0; value < 0x2000; ++value) {
+        if (value >= 0x1000 || qPopulationCount(quint32(value)) != 1)
+            QCOMPARE(magnitude(value).humanReadableName(), u"Undefiniert"_s);
+    }
+}
+
 void tst_RVSpaceMagnitude::readsDisplayNames_data()
 {
     QTest::addColumn<QString>("name");
@@ -313,7 +332,7 @@ void tst_RVSpaceMagnitude::nameTable()
     QCOMPARE(RVSpaceMagnitude::names().names.size(), 11);
     QCOMPARE(RVSpaceMagnitude::names().unknownName, u"Undefiniert"_s);
     QVERIFY(RVSpaceMagnitude::names().defaultValue.isNull());
-    QCOMPARE(&RVSpaceMagnitude::names(), &RVSpaceMagnitude::names());
+    QCOMPARE(onAnotherThread([] { return &RVSpaceMagnitude::names(); }), &RVSpaceMagnitude::names());
 }
 
 void tst_RVSpaceMagnitude::debugOutput()
