@@ -194,6 +194,8 @@ void tst_RVArticleVariants::createsFromText_data()
     QTest::newRow("other punctuation") << u"a=x;y-z[0]"_s << QStringList();
     QTest::newRow("comma belongs to the value") << u"a:x,y"_s << QStringList(u"a=x,y"_s);
     QTest::newRow("composite") << u"a;b:x;y"_s << QStringList(u"a;b=x;y"_s);
+    QTest::newRow("surrogate pairs") << u"\U0001F4D6:\U0001F4F7"_s << QStringList(u"\U0001F4D6=\U0001F4F7"_s);
+    QTest::newRow("half a surrogate pair") << u"a:x"_s + QChar(0xD83D) << QStringList();
     QTest::newRow("empty") << u""_s << QStringList();
     QTest::newRow("null") << QString() << QStringList();
 }
@@ -298,6 +300,19 @@ void tst_RVArticleVariants::createsFromKTX_data()
     QTest::newRow("commas only") << u",,"_s << QStringList();
     QTest::newRow("empty") << u""_s << QStringList();
     QTest::newRow("null") << QString() << QStringList();
+    QTest::newRow("surrogate pairs") << u"a:\U0001F4D6,\U0001F4D6|y,d+z"_s
+                                     << QStringList { u"a=\U0001F4D6"_s, u"d=z"_s, u"\U0001F4D6=y"_s };
+    QTest::newRow("surrogate pair without separator") << u"\U0001F4D6,a:x"_s << QStringList(u"a=x"_s);
+    QTest::newRow("surrogate pair and two separators") << u"a:\U0001F4D6:x,b:y"_s << QStringList(u"b=y"_s);
+    // A piece with broken UTF-16 is not searched for a separator.
+    const QString high = QChar(0xD83D);
+    const QString low = QChar(0xDCD6);
+    QTest::newRow("high surrogate alone") << u"b:y,a:x"_s + high + u",d:z"_s << QStringList { u"b=y"_s, u"d=z"_s };
+    QTest::newRow("low surrogate alone") << u"b:y,"_s + low + u"a:x,d:z"_s << QStringList { u"b=y"_s, u"d=z"_s };
+    QTest::newRow("pair the wrong way round") << u"a:"_s + low + high + u",d:z"_s << QStringList(u"d=z"_s);
+    QTest::newRow("pair torn by a comma") << u"a:"_s + high + u',' + low + u":x,d:z"_s << QStringList(u"d=z"_s);
+    QTest::newRow("broken piece does not replace an earlier one") << u"a:x,a:"_s + high << QStringList(u"a=x"_s);
+    QTest::newRow("broken piece without separator") << high + u",a:x"_s << QStringList(u"a=x"_s);
 }
 
 void tst_RVArticleVariants::createsFromKTX()

@@ -555,6 +555,8 @@ void tst_RVConfiguredArticleVariant::orders_data()
     QTest::newRow("same key name, all else differs")
             << u"key='a' value='a' key_name='n'"_s << u"key='b' value='b' key_name='n'"_s << 0;
     QTest::newRow("letter case") << u"key_name='B'"_s << u"key_name='a'"_s << -1;
+    QTest::newRow("umlaut behind z") << u"key_name='z'"_s << u"key_name='\u00C4'"_s << -1;
+    QTest::newRow("surrogate before later unit") << u"key_name='\U0001F4F7'"_s << u"key_name='\uFB01'"_s << -1;
     QTest::newRow("shorter first") << u"key_name='a'"_s << u"key_name='ab'"_s << -1;
     QTest::newRow("none first") << u""_s << u"key_name='a'"_s << -1;
     QTest::newRow("none at all") << u"key='a'"_s << u"key='b'"_s << 0;

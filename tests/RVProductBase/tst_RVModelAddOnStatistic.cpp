@@ -76,6 +76,8 @@ void tst_RVModelAddOnStatistic::setsAddOns()
     QCOMPARE(tested.spotColorAddOn(), RVPriceClass(u"KUR3"_s));
     QCOMPARE(tested.flyLeafAddOn(), RVPriceClass(u"SAV1"_s));
     QCOMPARE(tested.flyLeafVariants().value(u"flyleafcolor"_s), u"grey"_s);
+    tested.setFlyLeafAddOn(u"SAV1"_s, RVArticleVariants(u"alcolor"_s, u"red"_s));
+    QCOMPARE(tested.flyLeafVariants(), RVArticleVariants(u"alcolor"_s, u"red"_s));
     QVERIFY(tested.designStyleAddOns() == RVPriceClassSet({ u"62"_s, u"61"_s }));
     QCOMPARE(tested.panoPagesAddOn(), RVPriceClass(u"WAF3"_s));
 }

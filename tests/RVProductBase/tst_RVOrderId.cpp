@@ -53,6 +53,7 @@ void tst_RVOrderId::writesText_data()
     QTest::addColumn<QString>("fileName");
     QTest::newRow("groups of digits") << u"123-456-789"_s << u"123_456_789"_s;
     QTest::newRow("no dash") << u"123_456"_s << u"123_456"_s;
+    QTest::newRow("blanks are kept") << u" 1 - 2 "_s << u" 1 _ 2 "_s;
     QTest::newRow("dashes only") << u"--"_s << u"__"_s;
     QTest::newRow("empty") << u""_s << u""_s;
 }
@@ -93,6 +94,10 @@ void tst_RVOrderId::compares_data()
     QTest::newRow("greater") << u"B"_s << u"A1"_s << 1;
     QTest::newRow("as texts") << u"A10"_s << u"A2"_s << -1;
     QTest::newRow("letter case") << u"A"_s << u"a"_s << -1;
+    QTest::newRow("lower case behind later upper case") << u"a"_s << u"B"_s << 1;
+    QTest::newRow("umlaut behind z") << u"\u00C4"_s << u"z"_s << 1;
+    QTest::newRow("dash before letters") << u"A-1"_s << u"AA"_s << -1;
+    QTest::newRow("surrogate before later unit") << u"\U0001F4F7"_s << u"\uFB01"_s << -1;
     QTest::newRow("null and empty") << QString() << u""_s << 0;
     QTest::newRow("empty") << u""_s << u"A"_s << -1;
 }

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <future>
 #include <limits>
 #include <thread>
 #include <type_traits>
@@ -37,6 +38,17 @@ struct Group
     bool builtOnce;
     QStringView codes;
 };
+
+/// Where a set keeps its first element; copies share it.
+const RVPriceClass *firstElement(const RVPriceClassSet &set)
+{
+    return &*set.constBegin();
+}
+
+const RVPriceClass *firstElementOnAnotherThread(GroupFunction function)
+{
+    return std::async(std::launch::async, [function] { return firstElement(function()); }).get();
+}
 
 const Group GROUPS[] = {
     { "spotColorGloss", RVPriceClassSet::spotColorGloss, 19, true,
@@ -140,6 +152,7 @@ private Q_SLOTS:
     void groups();
     void spotColors_data();
     void spotColors();
+    void designIsOneSet();
     void designFromManyThreads();
     void defaultIsEmpty();
     void fromSet();
@@ -214,7 +227,7 @@ void tst_RVPriceClassSet::groups()
     const RVPriceClassSet again = group.function();
     QCOMPARE(sortedCodes(again), expected);
     if (group.builtOnce)
-        QCOMPARE(&*set.constBegin(), &*again.constBegin());
+        QCOMPARE(firstElementOnAnotherThread(group.function), firstElement(again));
     set.insert(RVPriceClass(u"XYZ1"_s));
     set.subtract(again);
     QCOMPARE(sortedCodes(set), QStringList { u"XYZ1"_s });
@@ -258,6 +271,13 @@ void tst_RVPriceClassSet::spotColors()
     QFETCH(QStringList, codes);
     const RVPriceClassSet set = RVPriceClassSet::spotColorPriceClasses(RVSpotColor(RVSpotColorEnum(value)));
     QCOMPARE(sortedCodes(set), sorted(codes));
+}
+
+// Every call changes the one set that is stored, and no copy is left here that it would have to leave alone.
+void tst_RVPriceClassSet::designIsOneSet()
+{
+    const RVPriceClass *first = firstElement(RVPriceClassSet::designPriceClasses());
+    QCOMPARE(firstElementOnAnotherThread(RVPriceClassSet::designPriceClasses), first);
 }
 
 void tst_RVPriceClassSet::designFromManyThreads()

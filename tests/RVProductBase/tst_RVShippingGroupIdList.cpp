@@ -44,6 +44,7 @@ void tst_RVShippingGroupIdList::filters_data()
     QTest::addColumn<QList<int>>("others");
     QTest::newRow("some") << QList<int> { 3, 0, 3 } << 3 << QList<int> { 3, 3 } << QList<int> { 0 };
     QTest::newRow("none") << QList<int> { 1, 18, 1 } << 2 << QList<int>() << QList<int> { 1, 18, 1 };
+    QTest::newRow("no group") << QList<int> { 3, -1, 0 } << -1 << QList<int> { -1 } << QList<int> { 3, 0 };
     QTest::newRow("empty list") << QList<int>() << 3 << QList<int>() << QList<int>();
 }
 
