@@ -97,6 +97,9 @@ void tst_RVBarcodeDefinition::reads_data()
         { 50, 100, 172, 199 }, -3, u"code.png"_s);
     row("the lower edge before truncation", u"position_x='-1.9' position_y='10.9' width='1.9' height='0.5'"_s, 1,
         { -1, 10, -1, 9 }, 0, dummy);
+    row("above the page, truncated toward zero", u"position_y='1' height='2.5'"_s, 1, { 1, -1, 1, 0 }, 0, dummy);
+    row("just above the page", u"position_x='-0.5' position_y='0.25' height='1'"_s, 1, { 0, 0, 0, 0 }, 0, dummy);
+    row("negative sides, truncated toward zero", u"width='-1.5' height='-1.5'"_s, 1, { 1, 2, -1, 0 }, 0, dummy);
     row("above the page", u"position_y='5' height='10'"_s, 1, { 1, -5, 1, 4 }, 0, dummy);
     row("no width", u"width='0'"_s, 2, { 10, 0, 9, 9 }, 0, dummy);
     row("negative width", u"width='-2'"_s, 2, { 10, 0, -11, 9 }, 0, dummy);

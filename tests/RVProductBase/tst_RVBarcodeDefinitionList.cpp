@@ -29,10 +29,10 @@ QStringList texts(const RVBarcodeDefinitionList &definitions)
     return result;
 }
 
-QDomElement element(const QString &xml)
+QDomElement element(const QString &xml, bool withNameSpaces = false)
 {
     static QDomDocument document;
-    document.setContent(xml);
+    document.setContent(xml, withNameSpaces);
     return document.documentElement();
 }
 
@@ -46,6 +46,8 @@ private Q_SLOTS:
     void readsProducts();
     void readsOrderTransfers_data();
     void readsOrderTransfers();
+    void readsNameSpaces_data();
+    void readsNameSpaces();
     void findsPages();
     void occupiedRegion();
     void findsRectangles();
@@ -82,6 +84,29 @@ void tst_RVBarcodeDefinitionList::readsOrderTransfers()
 {
     QFETCH(QString, xml);
     QTEST(texts(RVBarcodeDefinitionList::createFromXTCI(element(xml), DISTANCE_UNIT_MILLIMETRE)), "definitions");
+}
+
+void tst_RVBarcodeDefinitionList::readsNameSpaces_data()
+{
+    QTest::addColumn<QString>("barcode");
+    QTest::addColumn<bool>("withNameSpaces");
+    QTest::addColumn<int>("count");
+    QTest::newRow("no prefix") << u"<barcode/>"_s << true << 1;
+    QTest::newRow("no prefix in another name space") << u"<barcode xmlns='urn:shop'/>"_s << true << 1;
+    QTest::newRow("prefix") << u"<shop:barcode/>"_s << true << 0;
+    QTest::newRow("prefix, parsed without name spaces") << u"<shop:barcode/>"_s << false << 0;
+}
+
+// A prefix makes it another element, whatever name space it stands for.
+void tst_RVBarcodeDefinitionList::readsNameSpaces()
+{
+    QFETCH(QString, barcode);
+    QFETCH(bool, withNameSpaces);
+    QFETCH(int, count);
+    const QDomElement product = element(u"<product xmlns:shop='urn:shop'>%1</product>"_s.arg(barcode), withNameSpaces);
+    QCOMPARE(RVBarcodeDefinitionList::createFromProductsXML(product, DISTANCE_UNIT_MILLIMETRE).size(), count);
+    QCOMPARE(RVBarcodeDefinitionList::createFromXTCI(product.firstChildElement(), DISTANCE_UNIT_MILLIMETRE).size(),
+             count);
 }
 
 void tst_RVBarcodeDefinitionList::findsPages()

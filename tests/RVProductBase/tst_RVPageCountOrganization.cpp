@@ -194,6 +194,13 @@ void tst_RVPageCountOrganization::counts_data()
     QTest::newRow("below the middle of all") << all << -1 << true << true << INT_HIGHEST << -1;
     QTest::newRow("highest of all") << all << INT_HIGHEST << true << true << INT_HIGHEST << INT_HIGHEST;
 
+    // The pages above the lowest count are more than an int holds, and have another remainder there.
+    const RVPageCountOrganization thirds = organization(INT_LOWEST, INT_HIGHEST, 3);
+    QTest::newRow("every third of all, highest") << thirds << INT_HIGHEST << true << true << 1431655765 << INT_HIGHEST;
+    QTest::newRow("every third of all, between")
+            << thirds << INT_HIGHEST - 2 << true << false << 1431655764 << INT_HIGHEST;
+    QTest::newRow("every third of all, middle") << thirds << 1 << true << true << 715827883 << 1;
+
     const RVPageCountOrganization broad = organization(0, INT_HIGHEST, 1500000000);
     QTest::newRow("rounded beyond the integers") << broad << 1500000001 << true << false << 1 << INT_HIGHEST;
     const RVPageCountOrganization lowered = organization(INT_LOWEST, INT_HIGHEST, INT_LOWEST);

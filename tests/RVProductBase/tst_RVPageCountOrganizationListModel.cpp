@@ -2,6 +2,7 @@
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
+#include <QStringListModel>
 #include <QTest>
 #include <QTranslator>
 
@@ -85,6 +86,7 @@ private Q_SLOTS:
     void invalidIndexes_data();
     void invalidIndexes();
     void indexesBeyondTheRows();
+    void indexesOfAnotherModel();
     void resets();
     void keepsACopy();
     void translates();
@@ -220,6 +222,8 @@ void tst_RVPageCountOrganizationListModel::rowCountIgnoresParent()
     QCOMPARE(base.columnCount(), 1);
     QVERIFY(base.hasChildren());
     QVERIFY(!base.hasChildren(model.index(1)));
+    model.setPageOrganization(organization(20, 12, 4));
+    QCOMPARE(model.rowCount(), -1);
 }
 
 void tst_RVPageCountOrganizationListModel::hasNoParentIndex()
@@ -271,6 +275,18 @@ void tst_RVPageCountOrganizationListModel::indexesBeyondTheRows()
     QCOMPARE(model.data(model.createIndex(1, 4), Qt::DisplayRole), QVariant(u"30 Seiten"_s));
     QVERIFY(!model.data(model.createIndex(-1, 0), Qt::DisplayRole).isValid());
     QVERIFY(!model.data(model.createIndex(0, -1), Qt::DisplayRole).isValid());
+}
+
+// A proxy may hand on an index of its own: the row alone counts.
+void tst_RVPageCountOrganizationListModel::indexesOfAnotherModel()
+{
+    RVPageCountOrganizationListModel model(false);
+    model.setPageOrganization(organization(26, 34, 4));
+    RVPageCountOrganizationListModel other(true);
+    other.setPageOrganization(organization(1, 30, 1));
+    QCOMPARE(model.data(other.index(1), Qt::DisplayRole), QVariant(u"30 Seiten"_s));
+    QCOMPARE(model.data(other.index(29), Qt::DisplayRole), QVariant(u"142 Seiten"_s));
+    QCOMPARE(model.data(QStringListModel({ u"a"_s }).index(0), Qt::DisplayRole), QVariant(u"26 Seiten"_s));
 }
 
 void tst_RVPageCountOrganizationListModel::resets()

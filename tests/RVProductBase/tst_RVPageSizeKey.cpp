@@ -90,6 +90,7 @@ void tst_RVPageSizeKey::dumps()
 {
     // Every alignment together has no keyword.
     QCOMPARE(key(0x20, 24).dump(), u" fullcover 24"_s);
+    QCOMPARE(key(0x20, 1000).dump(), u" fullcover 1000"_s);
     QString debug;
     QDebug(&debug) << key(0x8, -1);
     QCOMPARE(debug, u"\" normalpage -1\" "_s);

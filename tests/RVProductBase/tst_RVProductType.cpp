@@ -71,6 +71,8 @@ void tst_RVProductType::normalises_data()
     QTest::newRow("no digits") << u"DUNX"_s << u"DUNX"_s;
     QTest::newRow("letter before the digits") << u"DUNX5"_s << u"DUNX5"_s;
     QTest::newRow("letter behind the second family") << u"DUNST5"_s << u"DUNST5"_s;
+    QTest::newRow("second family with one more S") << u"DUNSS5A"_s << u"DUNSS5A"_s;
+    QTest::newRow("second family behind one with one more S") << u"DUNSS5DUNS6"_s << u"DUNS6"_s;
     QTest::newRow("blank before the digits") << u"DUN 5"_s << u"DUN 5"_s;
     QTest::newRow("digits of another script") << u"DUN\u0665"_s << u"DUN\u0665"_s;
     QTest::newRow("digits of two scripts") << u"DUN5\u0665"_s << u"DUN5"_s;

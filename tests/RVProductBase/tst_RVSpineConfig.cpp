@@ -60,6 +60,7 @@ class tst_RVSpineConfig : public QObject
 private Q_SLOTS:
     void init() { RVFontSizeManager::instance()->setDefaultFontSizes({ 6, 8, 10, 12, 20, 48 }); }
     void defaultConstruction();
+    void addsInOneOrder();
     void widths_data();
     void widths();
     void blocks_data();
@@ -69,6 +70,7 @@ private Q_SLOTS:
     void coverReduceSize();
     void reads_data();
     void reads();
+    void readsNameSpaces();
     void compares_data();
     void compares();
     void comparesUnordinaryWidths();
@@ -93,6 +95,14 @@ void tst_RVSpineConfig::defaultConstruction()
     QVERIFY(photoBook().isValid());
 }
 
+// Base and growth, then the sides: every other order ends with another digit here.
+void tst_RVSpineConfig::addsInOneOrder()
+{
+    const RVSpineConfig config(RVPageCountOrganization(RVIntRange(26, 154), 4), 1, RVDistance(0.2), RVDistance(0.3),
+                               RVDistance(0.2));
+    QVERIFY(config.spineWidth(30).value() == 0.9);
+}
+
 void tst_RVSpineConfig::widths_data()
 {
     QTest::addColumn<unsigned>("pages");
@@ -100,6 +110,7 @@ void tst_RVSpineConfig::widths_data()
     QTest::newRow("no pages") << 0u << 9.0;
     QTest::newRow("below the lowest count") << 25u << 9.0;
     QTest::newRow("lowest count") << 26u << 9.0;
+    QTest::newRow("one page above the lowest count") << 27u << 9.0;
     QTest::newRow("one package") << 30u << 9.0;
     QTest::newRow("just below a block") << 33u << 9.0;
     QTest::newRow("one block") << 34u << 10.0;
@@ -232,6 +243,17 @@ void tst_RVSpineConfig::reads()
                              RVDistance()));
 }
 
+// Prefixes do not count where the document was parsed with name spaces.
+void tst_RVSpineConfig::readsNameSpaces()
+{
+    const QString xml = u"<product xmlns:shop='urn:shop'><shop:composition units='cm'><shop:spine base_width='2'/>"
+                        "</shop:composition></product>"_s;
+    QDomDocument document;
+    document.setContent(xml, true);
+    QCOMPARE(RVSpineConfig::createFromProductsXML(document.documentElement()).spineWidth(1).value(), 200.0);
+    QCOMPARE(RVSpineConfig::createFromProductsXML(element(xml)).spineWidth(1).value(), 0.0);
+}
+
 void tst_RVSpineConfig::compares_data()
 {
     QTest::addColumn<RVSpineConfig>("other");
@@ -315,8 +337,13 @@ void tst_RVSpineConfig::fontSizesRoundTheLimit()
 {
     const QString family = u"DejaVu Sans"_s;
     const int spacing = lineSpacing(family, 20);
-    QCOMPARE(spineFor(spacing - 0.51).spineMaxFontHeigth(26, family), 12);
-    QCOMPARE(spineFor(spacing - 0.49).spineMaxFontHeigth(26, family), 20);
+    // So close that 85.01 % would not do.
+    QCOMPARE(spineFor(spacing - 0.50001).spineMaxFontHeigth(26, family), 12);
+    QCOMPARE(spineFor(spacing - 0.49999).spineMaxFontHeigth(26, family), 20);
+    // Nothing is left of a base that the sides swallow.
+    const RVSpineConfig swallowed(RVPageCountOrganization(RVIntRange(26, 26), 0), 0, RVDistance(1000), RVDistance(),
+                                  RVDistance(1e20));
+    QCOMPARE(swallowed.spineMaxFontHeigth(26, family), 6);
 }
 
 void tst_RVSpineConfig::fontSizesOfTheDefaultFamily()
