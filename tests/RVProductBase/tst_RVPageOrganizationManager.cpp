@@ -1,3 +1,5 @@
+#include "LockWatch.h"
+
 #include <RVProductBase/RVPageOrganizationCalculator.h>
 #include <RVProductBase/RVPageOrganizationManager.h>
 
@@ -9,8 +11,10 @@
 #include <atomic>
 #include <functional>
 #include <memory>
+#include <new>
 #include <thread>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -36,6 +40,23 @@ struct Log
     QStringList asked;
     int deleted = 0;
 };
+
+/// Counts how many of its kind are destroyed.
+class WatchedOrganization : public RVPageCountOrganization
+{
+public:
+    ~WatchedOrganization() override { ++destroyed; }
+
+    static inline int destroyed = 0;
+};
+
+/// Puts a watched organisation in the place of another one.
+void watch(RVPageCountOrganization *organization)
+{
+    static_assert(sizeof(WatchedOrganization) == sizeof(RVPageCountOrganization));
+    organization->~RVPageCountOrganization();
+    new (organization) WatchedOrganization;
+}
 
 using Rule = std::function<RVPageCountOrganization(const RVProductType &)>;
 
@@ -113,6 +134,7 @@ private Q_SLOTS:
     void withoutCalculator();
     void asksOncePerType();
     void handsOutCopies();
+    void copiesUnderTheLock();
     void remembersInvalidAnswers();
     void createsPastTheCache();
     void createsPlainOrganizations();
@@ -122,6 +144,7 @@ private Q_SLOTS:
     void removesTheCalculator();
     void keepsTheSameCalculator();
     void pointersOutliveTheManager();
+    void neverFreesOrganizations();
     void calculatorAsksTheManager();
     void calculatorChangesTheType();
     void calculatorClearsTheCache();
@@ -235,6 +258,24 @@ void tst_RVPageOrganizationManager::handsOutCopies()
     QCOMPARE(*manager.organization(type), organization(26, 154, 4));
     QCOMPARE(manager.pageCountOrganzation(type), organization(26, 154, 4));
     QCOMPARE(log.asked, QStringList { u"DUN9"_s });
+}
+
+// Wherever another thread could come in, one changes the organisation.
+void tst_RVPageOrganizationManager::copiesUnderTheLock()
+{
+    Log log;
+    RVPageOrganizationManager manager;
+    manager.setCalculator(new Calculator(&log, always(26, 154, 4)));
+    const RVProductType type(u"DUN9"_s);
+    RVPageCountOrganization *cached = manager.organization(type);
+    int held = 0;
+    const LockWatch watch([&held] { ++held; },
+                          [&held, cached] {
+                              if (--held == 0)
+                                  *cached = organization(3, 3, 0);
+                          });
+    QCOMPARE(manager.pageCountOrganzation(type), organization(26, 154, 4));
+    QCOMPARE(*cached, organization(3, 3, 0));
 }
 
 void tst_RVPageOrganizationManager::remembersInvalidAnswers()
@@ -391,6 +432,25 @@ void tst_RVPageOrganizationManager::pointersOutliveTheManager()
     QCOMPARE(log.deleted, 1);
     for (const RVPageCountOrganization *pointer : pointers)
         QCOMPARE(*pointer, organization(26, 154, 4));
+}
+
+void tst_RVPageOrganizationManager::neverFreesOrganizations()
+{
+    Log log;
+    auto manager = std::make_unique<RVPageOrganizationManager>();
+    manager->setCalculator(new Calculator(&log, always(26, 154, 4)));
+    const RVProductType type(u"DUN9"_s);
+    RVPageCountOrganization *own = manager->createPageOrganization(type);
+    watch(own);
+    delete own; // belongs to the one who asked
+    QCOMPARE(std::exchange(WatchedOrganization::destroyed, 0), 1);
+    watch(manager->organization(type));
+    manager->clearCache();
+    watch(manager->organization(type));
+    manager->setCalculator(nullptr);
+    watch(manager->organization(type));
+    manager.reset();
+    QCOMPARE(WatchedOrganization::destroyed, 0);
 }
 
 void tst_RVPageOrganizationManager::calculatorAsksTheManager()
@@ -574,17 +634,22 @@ void tst_RVPageOrganizationManager::othersWaitForTheCalculation()
 
     std::thread slow([&manager] { manager.organization(RVProductType(u"slow"_s)); });
     started.acquire();
+    QSemaphore asksOrIsDone;
     std::atomic<bool> done = false;
-    std::thread other([&manager, &operation, &done] {
+    std::thread other([&manager, &operation, &asksOrIsDone, &done] {
+        const LockWatch watch([&asksOrIsDone] { asksOrIsDone.release(); }, nullptr);
         operation(&manager);
         done = true;
+        asksOrIsDone.release();
     });
-    QTest::qSleep(30);
+    asksOrIsDone.acquire();
     const bool doneTooEarly = done;
+    const int deletedTooEarly = log.deleted;
     mayFinish.release();
     slow.join();
     other.join();
     QVERIFY(!doneTooEarly);
+    QCOMPARE(deletedTooEarly, 0);
     QVERIFY(done);
 }
 

@@ -1,9 +1,13 @@
+#include "LockWatch.h"
+
 #include <RVProductBase/RVArticleVariants.h>
 #include <RVProductBase/RVProductCheckerRegistry.h>
 
+#include <QSemaphore>
 #include <QTest>
 
 #include <atomic>
+#include <functional>
 #include <thread>
 #include <type_traits>
 #include <vector>
@@ -79,6 +83,25 @@ private:
     RVProductType *myType;
 };
 
+/// Does not answer about the type "slow" until it may.
+class SlowChecker : public RVProductChecker
+{
+public:
+    bool isValid(const RVProductType &type) const override
+    {
+        if (type == RVProductType(u"slow"_s)) {
+            asked.release();
+            mayAnswer.acquire();
+        }
+        return true;
+    }
+    RVProductCheckerType checkerTypes() const override { return 1; }
+    bool isValidBoxStyle(const RVProductType &, const RVArticleVariants &) const override { return true; }
+
+    mutable QSemaphore asked;
+    mutable QSemaphore mayAnswer;
+};
+
 /// Counts the questions and accepts even numbers.
 class CountingChecker : public RVProductChecker
 {
@@ -94,7 +117,11 @@ public:
     mutable std::atomic<int> count { 0 };
 };
 
+using Operation = std::function<void(RVProductCheckerRegistry *)>;
+
 }
+
+Q_DECLARE_METATYPE(Operation)
 
 class tst_RVProductCheckerRegistry : public QObject
 {
@@ -114,6 +141,10 @@ private Q_SLOTS:
     void checkersMayCallBack();
     void checkersMayChangeTheType();
     void threads();
+    void othersNeedNotWait_data();
+    void othersNeedNotWait();
+    void otherQuestionsWait_data();
+    void otherQuestionsWait();
     void slotOrder();
 };
 
@@ -301,6 +332,72 @@ void tst_RVProductCheckerRegistry::threads()
         thread.join();
     QCOMPARE(wrong.load(), 0);
     QCOMPARE(checker.count.load(), types);
+}
+
+void tst_RVProductCheckerRegistry::othersNeedNotWait_data()
+{
+    QTest::addColumn<Operation>("operation");
+    const auto row = [](const char *name, const Operation &operation) { QTest::newRow(name) << operation; };
+    static CountingChecker checker;
+    row("register", [](RVProductCheckerRegistry *registry) { registry->registerChecker(&checker); });
+    row("unregister", [](RVProductCheckerRegistry *registry) { registry->unregisterChecker(&checker); });
+    row("clear the cache", [](RVProductCheckerRegistry *registry) { registry->clearCaches(); });
+    row("past the cache", [](RVProductCheckerRegistry *registry) { registry->isValidWorker(u"A"_s, 1); });
+    row("box style", [](RVProductCheckerRegistry *registry) { registry->isValidBoxStyle(u"A"_s, {}, 1); });
+}
+
+// Only a question waits for the answer to another one; nothing else takes the lock.
+void tst_RVProductCheckerRegistry::othersNeedNotWait()
+{
+    QFETCH(Operation, operation);
+    SlowChecker checker;
+    RVProductCheckerRegistry registry;
+    registry.registerChecker(&checker);
+    std::thread slow([&registry] { registry.isValid(u"slow"_s, 1); });
+    checker.asked.acquire();
+    QSemaphore done;
+    std::thread other([&registry, &operation, &done] {
+        operation(&registry);
+        done.release();
+    });
+    const bool doneMeanwhile = done.tryAcquire(1, 10000);
+    checker.mayAnswer.release();
+    slow.join();
+    other.join();
+    QVERIFY(doneMeanwhile);
+}
+
+void tst_RVProductCheckerRegistry::otherQuestionsWait_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::newRow("new") << u"new"_s;
+    QTest::newRow("cached") << u"cached"_s;
+}
+
+void tst_RVProductCheckerRegistry::otherQuestionsWait()
+{
+    QFETCH(QString, type);
+    SlowChecker checker;
+    RVProductCheckerRegistry registry;
+    registry.registerChecker(&checker);
+    registry.isValid(u"cached"_s, 1);
+    std::thread slow([&registry] { registry.isValid(u"slow"_s, 1); });
+    checker.asked.acquire();
+    QSemaphore asksOrIsDone;
+    std::atomic<bool> done = false;
+    std::thread other([&registry, &type, &asksOrIsDone, &done] {
+        const LockWatch watch([&asksOrIsDone] { asksOrIsDone.release(); }, nullptr);
+        registry.isValid(type, 1);
+        done = true;
+        asksOrIsDone.release();
+    });
+    asksOrIsDone.acquire();
+    const bool doneTooEarly = done;
+    checker.mayAnswer.release();
+    slow.join();
+    other.join();
+    QVERIFY(!doneTooEarly);
+    QVERIFY(done);
 }
 
 // The registry may be older than the checker: it finds the operations by their place alone.
