@@ -240,6 +240,8 @@ void tst_RVArticleClass::morePages()
 {
     QFETCH(qint64, value);
     QTEST(articleClass(value).morePagesText(3), "text");
+    QCOMPARE(articleClass(0x1).morePagesText(26), u"26 Seiten"_s);
+    QCOMPARE(articleClass(0x800).morePagesText(1), u"1 Foto"_s);
 }
 
 void tst_RVArticleClass::combinationsHaveNoText()

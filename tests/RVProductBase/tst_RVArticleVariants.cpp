@@ -265,6 +265,8 @@ void tst_RVArticleVariants::createsFromJson_data()
     QTest::newRow("empty value") << QJsonArray { u"alcolor:"_s } << QStringList(u"alcolor="_s);
     QTest::newRow("malformed among well-formed")
             << QJsonArray { u"a:x"_s, u"junk"_s, u"b:y"_s } << QStringList { u"a=x"_s, u"b=y"_s };
+    QTest::newRow("half a surrogate pair")
+            << QJsonArray { QString(u"a:x"_s + QChar(0xD83D)) } << QStringList(u"a=x"_s + QChar(0xD83D));
     QTest::newRow("no texts") << QJsonArray { 17, true, QJsonValue::Null, QJsonObject { { u"a:x"_s, u"a:x"_s } },
                                               QJsonArray { u"a:x"_s } }
                               << QStringList();

@@ -160,6 +160,7 @@ void tst_RVConfiguredArticleVariant::createsFromText_data()
     QTest::newRow("two colons") << u"a:b:x"_s << u""_s << u""_s << false;
     QTest::newRow("adjacent colons") << u"a::x"_s << u""_s << u""_s << false;
     QTest::newRow("no colon") << u"alcolor"_s << u""_s << u""_s << false;
+    QTest::newRow("half a surrogate pair") << u"a:x"_s + QChar(0xD83D) << u"a"_s << u"x"_s + QChar(0xD83D) << true;
     QTest::newRow("empty") << u""_s << u""_s << u""_s << false;
     QTest::newRow("null") << QString() << u""_s << u""_s << false;
 }

@@ -125,23 +125,23 @@ void tst_RVContentStatistic::adaptsToVario_data()
     QTest::addColumn<bool>("from");
     QTest::addColumn<bool>("to");
     QTest::addColumn<Bought>("result");
-    QTest::newRow("to vario") << false << true << Bought { { u"MUL1"_s, 10 }, { u"KUR2"_s, 10 } };
-    QTest::newRow("from vario") << true << false << Bought { { u"MUL1"_s, 1 }, { u"KUR2"_s, 1 } };
-    QTest::newRow("still vario") << true << true << Bought { { u"MUL1"_s, 1 }, { u"KUR2"_s, 4 } };
-    QTest::newRow("never vario") << false << false << Bought { { u"MUL1"_s, 1 }, { u"KUR2"_s, 4 } };
+    QTest::newRow("to vario") << false << true << Bought { { u"MUL1"_s, 10 }, { u"KUR2"_s, 10 }, { u"QO2"_s, 10 } };
+    QTest::newRow("from vario") << true << false << Bought { { u"MUL1"_s, 1 }, { u"KUR2"_s, 1 }, { u"QO2"_s, 1 } };
+    QTest::newRow("still vario") << true << true << Bought { { u"MUL1"_s, 1 }, { u"KUR2"_s, 4 }, { u"QO2"_s, 0 } };
+    QTest::newRow("never vario") << false << false << Bought { { u"MUL1"_s, 1 }, { u"KUR2"_s, 4 }, { u"QO2"_s, 0 } };
 }
 
 void tst_RVContentStatistic::adaptsToVario()
 {
     QFETCH(bool, from);
     QFETCH(bool, to);
-    RVContentStatistic tested = statistic({ { u"MUL1"_s, 1 }, { u"KUR2"_s, 4 } });
+    RVContentStatistic tested = statistic({ { u"MUL1"_s, 1 }, { u"KUR2"_s, 4 }, { u"QO2"_s, 0 } });
     const RVContentStatistic copy = tested;
     tested.adaptFromOrToVario(from, to);
     QTEST(tested.boughtAdditionalContent(), "result");
     QCOMPARE(tested.countGeoMapAreas(), 2);
     QCOMPARE(tested.countVideoAreas(), 3);
-    QCOMPARE(copy.boughtAdditionalContent(), (Bought { { u"MUL1"_s, 1 }, { u"KUR2"_s, 4 } }));
+    QCOMPARE(copy.boughtAdditionalContent(), (Bought { { u"MUL1"_s, 1 }, { u"KUR2"_s, 4 }, { u"QO2"_s, 0 } }));
 }
 
 void tst_RVContentStatistic::compares()

@@ -68,6 +68,7 @@ private Q_SLOTS:
     void decodesSilently();
     void encodes_data();
     void encodes();
+    void insertsIntoAnOptimizedTable();
     void splits_data();
     void splits();
     void splitsWideValues();
@@ -247,6 +248,25 @@ void tst_RVEnumToStringTable::encodes()
     QTEST(filledTable().encode(FinishEnum(value)), "exact");
     QTEST(filledTable().encodeAsList(FinishEnum(value)), "list");
     QTEST(filledTable().encodeCSV(FinishEnum(value)), "csv");
+    Table optimized = filledTable();
+    optimized.optimize();
+    QTEST(optimized.encode(FinishEnum(value)), "exact");
+    QTEST(optimized.encodeCSV(FinishEnum(value)), "csv");
+    QVERIFY(Table().encodeCSV(FINISH_MATT).isNull());
+}
+
+void tst_RVEnumToStringTable::insertsIntoAnOptimizedTable()
+{
+    Table table = filledTable();
+    table.optimize();
+    QCOMPARE(table.decode(u"matt"_s, FinishEnum(-7)), FINISH_MATT);
+    table.insert(u"silk"_s, FinishEnum(4));
+    QCOMPARE(table.decode(u"silk"_s, FinishEnum(-7)), FinishEnum(4));
+    QCOMPARE(table.encode(FinishEnum(4)), u"silk"_s);
+    table.optimize();
+    table.insert(u"matt"_s, FINISH_GLOSS);
+    QCOMPARE(table.decode(u"matt"_s, FinishEnum(-7)), FINISH_GLOSS);
+    QCOMPARE(table.encode(FINISH_MATT), u"matt"_s);
 }
 
 void tst_RVEnumToStringTable::splits_data()
