@@ -9,5 +9,3 @@ s/(, public RV\w+)<\w+>$/\1/
 s/^ *RV\w+\((const )?RV\w+ &&?\)( noexcept)? = default;$//
 s/^ *RV\w+ &operator=\((const )?RV\w+ &&?\)( noexcept)? = default;$//
 s/^ *void fillTable\(.*\) const override;$//
-# Links that leave the documentation lead nowhere.
-s/\[([^]]+)\]\(\.\.\/(examples[^)]*)\)/\1 (`\2`)/g
