@@ -1,6 +1,9 @@
 # What the libraries of this tree have in common: how their headers are included and how they are installed.
 
-include(CMakePackageConfigHelpers)
+if(RV_INSTALL)
+    include(CMakePackageConfigHelpers)
+    include(GNUInstallDirs)
+endif()
 
 # rv_add_shared_library(RVName SOURCES... HEADERS...)
 # Makes the shared library libRVName.so with the export macro of RVNameExport.h; the target is RV::Name.
@@ -18,16 +21,16 @@ function(rv_add_shared_library name)
     )
     target_compile_definitions(${name} PRIVATE ${build_macro})
     target_compile_features(${name} PUBLIC cxx_std_17)
-    target_link_options(${name} PRIVATE LINKER:--version-script=${PROJECT_SOURCE_DIR}/cmake/local_symbols.map)
-    set_property(TARGET ${name} APPEND PROPERTY LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/local_symbols.map)
-    rv_install_library(${name} PUBLIC ${arg_HEADERS})
+    if(UNIX AND NOT APPLE)
+        target_link_options(${name} PRIVATE LINKER:--version-script=${PROJECT_SOURCE_DIR}/cmake/local_symbols.map)
+        set_property(TARGET ${name} APPEND PROPERTY LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/local_symbols.map)
+    endif()
+    rv_add_headers(${name} PUBLIC ${arg_HEADERS})
 endfunction()
 
-# rv_install_library(RVName PUBLIC|INTERFACE HEADERS...)
-# Headers are included as <RVName/Header.h> and as "Header.h", in the tree and installed. The CMake package RVName
-# finds what RVNameConfig.cmake.in names. What programs run with is the install component RVName, what they are built
-# with is RVNameDevelopment.
-function(rv_install_library name scope)
+# rv_add_headers(RVName PUBLIC|INTERFACE HEADERS...)
+# Headers are included as <RVName/Header.h> and as "Header.h", in the tree and installed.
+function(rv_add_headers name scope)
     target_sources(${name} ${scope}
         FILE_SET HEADERS
         BASE_DIRS ${PROJECT_SOURCE_DIR}/libs
@@ -37,12 +40,22 @@ function(rv_install_library name scope)
         $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>
         $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/${name}>
     )
+    if(RV_INSTALL)
+        rv_install_library(${name})
+    endif()
+endfunction()
 
+# rv_install_library(RVName)
+# The CMake package RVName finds what RVNameConfig.cmake.in names. What programs run with is the install component RVName,
+# what they are built with is RVNameDevelopment.
+function(rv_install_library name)
     set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/${name})
     set(development ${name}Development)
     install(TARGETS ${name}
         EXPORT ${name}Targets
+        RUNTIME COMPONENT ${name}
         LIBRARY COMPONENT ${name} NAMELINK_COMPONENT ${development}
+        ARCHIVE COMPONENT ${development}
         FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT ${development}
     )
     install(EXPORT ${name}Targets

@@ -49,7 +49,7 @@ not_called() { ! grep -qE "^$1" "$calls" || fail "called $1"; }
 says() { grep -qF -- "$1" <<<"$output" || fail "did not say: $1"; }
 
 run 0 "$tree/dev" translations
-called 'cmake --build build/release --target update_translations'
+called 'cmake --build build/release --target rv_update_translations'
 not_called 'apt-get'
 not_called 'sudo'
 run 0 "$work/link to dev" translations
@@ -87,6 +87,32 @@ run 2 "$tree/dev" translation
 says 'dev: there is no command "translation"'
 run 2 "$tree/dev" run fast
 says 'dev: "run" takes no argument, but got "fast"'
+not_called 'cmake'
+
+# What is shown is what is built, and no more.
+mkdir -p "$tree/build/release/bin"
+stand_in rvcatalog 'echo "the sample"'
+mv "$tools/rvcatalog" "$tree/build/release/bin"
+run 0 "$tree/dev" run
+called 'cmake --build build/release --target rvcatalog$'
+called 'rvcatalog show '
+called 'rvcatalog order '
+says 'the sample'
+says "export PATH=\"$tree/build/release/bin:\$PATH\""
+not_called 'ctest'
+
+# "test" leaves out what takes long; "test --all" runs each test once, and then the sanitizers.
+run 0 "$tree/dev" test
+called 'ctest --test-dir build/release .*--label-exclude slow$'
+[[ $(grep -c '^ctest' "$calls") == 1 ]] || fail "more than the quick tests were run"
+run 0 "$tree/dev" test --all
+called 'ctest --test-dir build/release .*--label-exclude slow$'
+called 'ctest --test-dir build/release .*--label-regex slow$'
+called 'ctest --test-dir build/asan .*--label-exclude compile$'
+called 'ctest --test-dir build/tsan .*--label-regex concurrency$'
+[[ $(grep -c '^ctest' "$calls") == 4 ]] || fail "there are more runs than four"
+run 2 "$tree/dev" test --quick
+says 'dev: "test" takes no argument but --all'
 not_called 'cmake'
 
 mkdir "$tree/benchmarks"

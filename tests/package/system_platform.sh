@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
 # system_platform.sh CMAKE SOURCES BUILD LIBDIR OPTIONS...: the library builds on a platform layer installed in LIBDIR,
-# which has nothing but that, and is linked with it.
+# which has nothing but that, and is linked with it. Every source includes what it uses, as nothing is precompiled here.
 set -euo pipefail
 cmake=$1 sources=$2 build=$3 libdir=$(realpath "$4")
 shift 4
 
 rm -rf "$build"
-"$cmake" -S "$sources" -B "$build" -DBUILD_TESTING=OFF -DRV_PLATFORM=system "$@"
+"$cmake" -S "$sources" -B "$build" -DBUILD_TESTING=OFF -DRV_PLATFORM=system -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON "$@"
 "$cmake" --build "$build" --target RVProductBase
 
 if compgen -G "$libdir/libRVProductBase*"; then

@@ -1,0 +1,67 @@
+# A test program looks at the libraries, which are optimised as ever; the program itself is compiled quickly.
+set(RV_TEST_OPTIONS "$<$<AND:$<CXX_COMPILER_ID:GNU,Clang>,$<CONFIG:RelWithDebInfo,Release>>:-O1;-g1>")
+
+# Qt6::Test also defines the folders of the test that links it, and a precompiled header holds only for the same definitions.
+add_library(rv_test_library INTERFACE)
+target_include_directories(rv_test_library SYSTEM INTERFACE
+    $<TARGET_PROPERTY:Qt6::Test,INTERFACE_INCLUDE_DIRECTORIES>
+)
+target_link_libraries(rv_test_library INTERFACE Qt6::Core Qt6::Gui Qt6::Xml $<LINK_ONLY:Qt6::Test>)
+
+add_library(rv_test_precompiled OBJECT ${CMAKE_CURRENT_LIST_DIR}/precompiled.cpp)
+target_compile_options(rv_test_precompiled PRIVATE ${RV_TEST_OPTIONS})
+target_link_libraries(rv_test_precompiled PRIVATE rv_test_library)
+target_precompile_headers(rv_test_precompiled PRIVATE
+    <QDebug>
+    <QDomDocument>
+    <QHash>
+    <QMap>
+    <QRegularExpression>
+    <QSet>
+    <QTest>
+)
+
+# rv_add_test_program(name SOURCE file LIBRARIES... DEFINITIONS... PROGRAMS...)
+# Builds a test program from one file, which includes <name>.moc. It may define macros, and run other programs of the tree.
+function(rv_add_test_program name)
+    cmake_parse_arguments(arg "" "SOURCE" "LIBRARIES;DEFINITIONS;PROGRAMS" ${ARGN})
+    if(NOT arg_SOURCE)
+        set(arg_SOURCE ${name}.cpp)
+    endif()
+
+    # moc itself rather than AUTOMOC, which costs three more processes and a source a program.
+    set(moc ${CMAKE_CURRENT_BINARY_DIR}/${name}.moc)
+    qt_generate_moc(${arg_SOURCE} ${moc})
+    add_executable(${name} ${arg_SOURCE} ${moc})
+    target_compile_definitions(${name} PRIVATE ${arg_DEFINITIONS})
+    target_compile_options(${name} PRIVATE ${RV_TEST_OPTIONS})
+    target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_BINARY_DIR} ${PROJECT_SOURCE_DIR}/tests)
+    target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} rv_test_library)
+    target_precompile_headers(${name} REUSE_FROM rv_test_precompiled)
+    if(arg_PROGRAMS)
+        add_dependencies(${name} ${arg_PROGRAMS})
+    endif()
+endfunction()
+
+# rv_add_test(name SOURCE file LIBRARIES... DEFINITIONS... PROGRAMS... LABELS... WORKING_DIRECTORY folder)
+# The same, and the test of that name.
+function(rv_add_test name)
+    cmake_parse_arguments(arg "" "WORKING_DIRECTORY" "LABELS" ${ARGN})
+    rv_add_test_program(${name} ${arg_UNPARSED_ARGUMENTS})
+    rv_add_run(${name} ${name} LABELS ${arg_LABELS})
+    if(arg_WORKING_DIRECTORY)
+        set_tests_properties(${name} PROPERTIES WORKING_DIRECTORY ${arg_WORKING_DIRECTORY})
+    endif()
+endfunction()
+
+# rv_add_run(name command... LABELS...)
+# A test that runs a program, without a screen and for five minutes at most.
+function(rv_add_run name)
+    cmake_parse_arguments(arg "" "" "LABELS" ${ARGN})
+    add_test(NAME ${name} COMMAND ${arg_UNPARSED_ARGUMENTS})
+    set_tests_properties(${name} PROPERTIES
+        ENVIRONMENT QT_QPA_PLATFORM=offscreen
+        TIMEOUT 300
+        LABELS "${arg_LABELS}"
+    )
+endfunction()

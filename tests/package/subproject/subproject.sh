@@ -1,0 +1,49 @@
+#!/usr/bin/env bash
+# subproject.sh CMAKE TREE BUILD OPTIONS...: a project that takes the tree in gets the libraries and nothing else: no other
+# target, test or installed file, and nothing in its cache.
+set -euo pipefail
+cmake=$1 tree=$2 build=$3
+shift 3
+
+fail() {
+    echo "$*"
+    exit 1
+}
+
+configure() {
+    "$cmake" --fresh -S "$(dirname "${BASH_SOURCE[0]}")" -B "$build" -G Ninja -DRV_TREE="$tree" -DRV_TAKE_IN="$1" "${@:2}"
+}
+
+# Without the marks that every project() and FetchContent_Declare() leaves behind.
+cache() {
+    grep -E '^[A-Za-z_]' "$build/CMakeCache.txt" |
+        grep -vE '^(RV_TAKE_IN|CMAKE_NUMBER_OF_MAKEFILES|RVProductBase_(BINARY_DIR|SOURCE_DIR|IS_TOP_LEVEL)|FETCHCONTENT_[A-Z_]+)[:-]' |
+        LC_ALL=C sort
+}
+
+# The targets by name, without those that moc runs in and without folders.
+targets() {
+    "$cmake" --build "$build" --target help | sed -n 's/^\([^/ ]*\): phony$/\1/p' | grep -v _autogen | LC_ALL=C sort
+}
+
+# Without RVTemplateClasses, which is nothing but headers.
+libraries=(RVCore RVProductBase RVXML libRVCore.so libRVProductBase.so libRVXML.so rv_precompiled)
+rm -rf "$build"
+configure "" "$@"
+cache >"$build.cache"
+targets >"$build.targets"
+
+for way in add_subdirectory FetchContent; do
+    configure "$way" "$@"
+    diff "$build.cache" <(cache) || fail "$way changes the cache"
+    diff <(printf '%s\n' "${libraries[@]}") <(LC_ALL=C comm -13 "$build.targets" <(targets)) ||
+        fail "$way brings other targets"
+    "$cmake" --build "$build"
+    (cd "$build" && "$(dirname "$cmake")/ctest" --output-on-failure --no-tests=error)
+    tests=$("$(dirname "$cmake")/ctest" --test-dir "$build" --show-only | sed -n 's/^  Test *#[0-9]*: //p')
+    [[ $tests == catalogue ]] || fail "$way brings tests: $tests"
+    rm -rf "$build.prefix"
+    "$cmake" --install "$build" --prefix "$build.prefix"
+    installed=$(cd "$build.prefix" && find . -type f)
+    [[ $installed == ./bin/catalogue ]] || fail "$way brings files: $installed"
+done
