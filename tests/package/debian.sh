@@ -5,7 +5,8 @@ set -euo pipefail
 cmake=$1 sources=$2 work=$3
 shift 3
 build=$work/build root=$work/root
-version=0.2.0-1
+release=$(sed -nE 's/^ +VERSION ([0-9.]+)$/\1/p' "$sources/CMakeLists.txt")
+version=$release-1
 
 fail() {
     echo "$*"
@@ -39,7 +40,7 @@ mkdir -p "$root"
 
 lib='lib/[a-z0-9_]+-linux-gnu'
 holds librvproductbase0 \
-    "$lib"/lib'RV(Core|XML|ProductBase)\.so\.0(\.2\.0)?' 'share/RVProductBase/translations/rvproductbase_(de|en)\.qm'
+    "$lib"/lib'RV(Core|XML|ProductBase)\.so\.0(\.[0-9]+\.[0-9]+)?' 'share/RVProductBase/translations/rvproductbase_(de|en)\.qm'
 holds librvproductbase-dev \
     "$lib"/lib'RV(Core|XML|ProductBase)\.so' "$lib"/cmake/'RV(TemplateClasses|Core|XML|ProductBase)/RV.*\.cmake' \
     "$lib"/pkgconfig/RVProductBase.pc 'include/RV(TemplateClasses|Core|XML|ProductBase)/RV[A-Za-z]+\.h'
@@ -69,7 +70,7 @@ depends rvbrowser 'libqt6svg6'
 dpkg-deb --control "$work"/packages/librvproductbase0_*.deb "$work/control"
 grep -q ldconfig "$work"/control/postinst || fail "the linker is not told of the new libraries"
 for library in libRVCore libRVXML libRVProductBase; do
-    grep -qxF "$library 0 librvproductbase0 (>= 0.2.0)" "$work"/control/shlibs ||
+    grep -qxF "$library 0 librvproductbase0 (>= $release)" "$work"/control/shlibs ||
         fail "packages built against $library cannot find out what they depend on"
 done
 
