@@ -21,29 +21,33 @@ target_precompile_headers(rv_test_precompiled PRIVATE
     <QTest>
 )
 
-# rv_add_test_program(name SOURCE file LIBRARIES... DEFINITIONS... PROGRAMS...)
-# Builds a test program from one file, which includes <name>.moc. It may define macros, and run other programs of the tree.
+# rv_add_test_program(name NOT_PRECOMPILED SOURCE file LIBRARIES... DEFINITIONS... OPTIONS... PROGRAMS...)
+# Builds a test program from one file, <name>.cpp if no other is given, which includes what moc makes of it. It may run
+# other programs of the tree. Where options or libraries give the headers of Qt another meaning, it is NOT_PRECOMPILED.
 function(rv_add_test_program name)
-    cmake_parse_arguments(arg "" "SOURCE" "LIBRARIES;DEFINITIONS;PROGRAMS" ${ARGN})
+    cmake_parse_arguments(arg "NOT_PRECOMPILED" "SOURCE" "LIBRARIES;DEFINITIONS;OPTIONS;PROGRAMS" ${ARGN})
     if(NOT arg_SOURCE)
         set(arg_SOURCE ${name}.cpp)
     endif()
 
     # moc itself rather than AUTOMOC, which costs three more processes and a source a program.
-    set(moc ${CMAKE_CURRENT_BINARY_DIR}/${name}.moc)
-    qt_generate_moc(${arg_SOURCE} ${moc})
-    add_executable(${name} ${arg_SOURCE} ${moc})
+    cmake_path(GET arg_SOURCE STEM source_name)
+    set(moc_folder ${CMAKE_CURRENT_BINARY_DIR}/${name}_moc)
+    qt_generate_moc(${arg_SOURCE} ${moc_folder}/${source_name}.moc)
+    add_executable(${name} ${arg_SOURCE} ${moc_folder}/${source_name}.moc)
     target_compile_definitions(${name} PRIVATE ${arg_DEFINITIONS})
-    target_compile_options(${name} PRIVATE ${RV_TEST_OPTIONS})
-    target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_BINARY_DIR} ${PROJECT_SOURCE_DIR}/tests)
+    target_compile_options(${name} PRIVATE ${RV_TEST_OPTIONS} ${arg_OPTIONS})
+    target_include_directories(${name} PRIVATE ${moc_folder} ${PROJECT_SOURCE_DIR}/tests)
     target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} rv_test_library)
-    target_precompile_headers(${name} REUSE_FROM rv_test_precompiled)
+    if(NOT arg_NOT_PRECOMPILED)
+        target_precompile_headers(${name} REUSE_FROM rv_test_precompiled)
+    endif()
     if(arg_PROGRAMS)
         add_dependencies(${name} ${arg_PROGRAMS})
     endif()
 endfunction()
 
-# rv_add_test(name SOURCE file LIBRARIES... DEFINITIONS... PROGRAMS... LABELS... WORKING_DIRECTORY folder)
+# rv_add_test(name ... LABELS... WORKING_DIRECTORY folder)
 # The same, and the test of that name.
 function(rv_add_test name)
     cmake_parse_arguments(arg "" "WORKING_DIRECTORY" "LABELS" ${ARGN})

@@ -77,6 +77,9 @@ run 2 "$tree/dev" translations
 says 'dev: please install as root: apt-get install ninja-build'
 not_called 'apt-get'
 not_called 'cmake'
+missing=ccache
+run 0 "$tree/dev" translations
+called 'cmake --build'
 missing=
 run 0 "$tree/dev" translations
 rm "$tools/dpkg-query"
