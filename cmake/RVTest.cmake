@@ -30,11 +30,15 @@ function(rv_add_test_program name)
         set(arg_SOURCE ${name}.cpp)
     endif()
 
-    # moc itself rather than AUTOMOC, which costs three more processes and a source a program.
+    # moc itself rather than AUTOMOC, which costs three more processes and a source a program; as a target, so that it can run
+    # before the libraries are built.
     cmake_path(GET arg_SOURCE STEM source_name)
-    set(moc_folder ${CMAKE_CURRENT_BINARY_DIR}/${name}_moc)
+    set(moc_folder ${CMAKE_CURRENT_BINARY_DIR}/moc/${name})
     qt_generate_moc(${arg_SOURCE} ${moc_folder}/${source_name}.moc)
-    add_executable(${name} ${arg_SOURCE} ${moc_folder}/${source_name}.moc)
+    add_custom_target(${name}_moc DEPENDS ${moc_folder}/${source_name}.moc)
+
+    add_executable(${name} ${arg_SOURCE})
+    add_dependencies(${name} ${name}_moc)
     target_compile_definitions(${name} PRIVATE ${arg_DEFINITIONS})
     target_compile_options(${name} PRIVATE ${RV_TEST_OPTIONS} ${arg_OPTIONS})
     target_include_directories(${name} PRIVATE ${moc_folder} ${PROJECT_SOURCE_DIR}/tests)
