@@ -97,11 +97,8 @@ void addBenchmarks()
     add("decodeCSV_over_keywords", 16, 2048, oN, keywordList,
         [paper = RVPaperType()](const QString &text) { return paper.decodeCSV(text); });
     add("createFromKTX_over_pairs", 16, 2048, oN, optionText, RVArticleVariants::createFromKTX);
-    add(
-            "catalogue_over_products", 4, 256, oN, [](int products) { return catalogueXml(products, 6); },
-            readCatalogue);
-    add(
-            "catalogue_over_forms", 16, 1024, oN, [](int forms) { return catalogueXml(1, forms); }, readCatalogue);
+    add("catalogue_over_products", 4, 256, oN, [](int products) { return catalogueXml(products, 6); }, readCatalogue);
+    add("catalogue_over_forms", 16, 1024, oN, [](int forms) { return catalogueXml(1, forms); }, readCatalogue);
     add("updateDefinitions", 16, 512, oNSquared, barcodes, [](const RVBarcodeDefinitionList &other) {
         RVBarcodeDefinitionList list;
         list.updateDefinitions(other);

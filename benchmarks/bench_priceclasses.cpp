@@ -34,37 +34,20 @@ constexpr Group GROUPS[] = {
                          u"KUR45"_s,  u"KUR47"_s,  u"KUR49"_s,  u"KUR501"_s, u"KUR502"_s, u"KUR503"_s,
                          u"KUR504"_s, u"KUR505"_s, u"KUR507"_s, u"KUR508"_s, u"KUR509"_s, u"KUR551"_s };
       } },
-    { RVPriceClassSet::bookGiftBoxes,
-      [] {
-          return Codes { u"VEL4"_s, u"VEL5"_s, u"VEL6"_s, u"VEL7"_s };
-      } },
-    { RVPriceClassSet::bookGiftService,
-      [] {
-          return Codes { u"HAZ5"_s, u"HAZ6"_s, u"HAZ7"_s, u"HAZ8"_s };
-      } },
+    { RVPriceClassSet::bookGiftBoxes, [] { return Codes { u"VEL4"_s, u"VEL5"_s, u"VEL6"_s, u"VEL7"_s }; } },
+    { RVPriceClassSet::bookGiftService, [] { return Codes { u"HAZ5"_s, u"HAZ6"_s, u"HAZ7"_s, u"HAZ8"_s }; } },
     { RVPriceClassSet::calendarGiftService, [] { return Codes { u"HAZ9"_s }; } },
-    { RVPriceClassSet::calendarGiftBoxes,
-      [] {
-          return Codes { u"HAZ10"_s, u"HAZ11"_s };
-      } },
-    { RVPriceClassSet::maps,
-      [] {
-          return Codes { u"JOT1"_s, u"JOT51"_s };
-      } },
+    { RVPriceClassSet::calendarGiftBoxes, [] { return Codes { u"HAZ10"_s, u"HAZ11"_s }; } },
+    { RVPriceClassSet::maps, [] { return Codes { u"JOT1"_s, u"JOT51"_s }; } },
     { RVPriceClassSet::envelops,
       [] {
           return Codes { u"YIB1"_s, u"YIB2"_s, u"YIB3"_s, u"YIB4"_s, u"YIB5"_s,
                          u"YIB6"_s, u"YIB7"_s, u"YIB8"_s, u"YIB9"_s };
       } },
-    { RVPriceClassSet::calendarStrips,
-      [] {
-          return Codes { u"NUS1"_s, u"NUS2"_s, u"NUS3"_s };
-      } },
+    { RVPriceClassSet::calendarStrips, [] { return Codes { u"NUS1"_s, u"NUS2"_s, u"NUS3"_s }; } },
     { RVPriceClassSet::calendarStandPriceClasses, [] { return Codes { u"ZUD1"_s }; } },
     { RVPriceClassSet::posterWoodenStrips,
-      [] {
-          return Codes { u"BIX1"_s, u"BIX2"_s, u"BIX3"_s, u"BIX4"_s, u"BIX5"_s };
-      } },
+      [] { return Codes { u"BIX1"_s, u"BIX2"_s, u"BIX3"_s, u"BIX4"_s, u"BIX5"_s }; } },
     { RVPriceClassSet::wallholderThatActsLikeAFrame, [] { return Codes { u"QO20"_s }; } },
     { RVPriceClassSet::wallholderPriceClasses,
       [] {
@@ -74,10 +57,7 @@ constexpr Group GROUPS[] = {
       } },
     { RVPriceClassSet::memorabiliaPocketPriceClass,
       [] { return Codes { u"GEK1"_s, u"GEK2"_s, u"GEK3"_s, u"GEK4"_s, u"GEK5"_s, u"GEK6"_s, u"GEK7"_s, u"GEK8"_s }; } },
-    { RVPriceClassSet::artPrintBoxPriceClasses,
-      [] {
-          return Codes { u"TY64"_s, u"TY65"_s };
-      } },
+    { RVPriceClassSet::artPrintBoxPriceClasses, [] { return Codes { u"TY64"_s, u"TY65"_s }; } },
     { RVPriceClassSet::videoNames,
       [] {
           return Codes { u"MUL1"_s, u"MUL2"_s, u"MUL3"_s,  u"MUL4"_s,  u"MUL5"_s,  u"MUL6"_s,  u"MUL7"_s,
@@ -97,10 +77,7 @@ constexpr Group GROUPS[] = {
                          u"SAV8"_s, u"SAV9"_s, u"SAV10"_s, u"SAV11"_s, u"SAV12"_s, u"SAV13"_s };
       } },
     { RVPriceClassSet::pxwPanoPagesPriceClasses, [] { return Codes { u"WAF3"_s }; } },
-    { RVPriceClassSet::pageIncrements,
-      [] {
-          return Codes { u"RODA6x9"_s, u"KEMI62"_s };
-      } },
+    { RVPriceClassSet::pageIncrements, [] { return Codes { u"RODA6x9"_s, u"KEMI62"_s }; } },
     { RVPriceClassSet::pxwInnerPagesDesignPriceClasses, [] { return Codes { u"premium_inner_pages_design"_s }; } },
     { RVPriceClassSet::pxwCoverDesignPriceClasses, [] { return Codes { u"premium_cover_design"_s }; } },
 };
@@ -118,7 +95,7 @@ bool sameCodes(const RVPriceClassSet &ours, const Codes &theirs)
 void addBenchmarks()
 {
     const QList<Group> groups(std::begin(GROUPS), std::end(GROUPS));
-    Comparison("price_class_set", groups, [](const Group &group) { return group.ours(); })
-            .against(
-                    "literals", [](const Group &group) { return group.literals(); }, sameCodes);
+    Comparison("price_class_set", groups, [](const Group &group) {
+        return group.ours();
+    }).against("literals", [](const Group &group) { return group.literals(); }, sameCodes);
 }

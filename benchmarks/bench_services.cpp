@@ -111,9 +111,7 @@ void addIsValid(const QList<RVProductType> &types)
         cache.insert({ { type.toString(), type.calcHashValue() }, KINDS }, checker.isValid(type));
     Comparison("isValid", types, [registry](const RVProductType &type) {
         return registry->isValid(type, KINDS);
-    }).againstWithInputs("cache", codes(types), [](const Code &code) {
-        return cache.value({ code, KINDS });
-    });
+    }).againstWithInputs("cache", codes(types), [](const Code &code) { return cache.value({ code, KINDS }); });
 }
 
 }

@@ -77,6 +77,5 @@ QList<QDomElement> products()
 void addBenchmarks()
 {
     Comparison("product_element", products(), readProduct)
-            .against(
-                    "dom", [](const QDomElement &product) { return DomGeometry(product); }, sameProduct);
+            .against("dom", [](const QDomElement &product) { return DomGeometry(product); }, sameProduct);
 }

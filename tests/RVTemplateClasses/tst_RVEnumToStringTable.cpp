@@ -17,7 +17,7 @@ enum FinishEnum : qint32 {
     FINISH_SHINY = FINISH_GLOSS | FINISH_LINEN,
 };
 
-enum WideEnum : qint64 {};
+enum WideEnum : qint64 { };
 
 namespace {
 

@@ -20,8 +20,8 @@ enum FinishEnum : qint32 {
 };
 RV_DECLARE_ENUM_OPERATORS(FinishEnum)
 
-enum RacedEnum : qint64 {};
-enum SilentEnum : qint32 {};
+enum RacedEnum : qint64 { };
+enum SilentEnum : qint32 { };
 
 enum WideEnum : qint64 {
     WIDE_LOWEST = 1,
@@ -102,7 +102,7 @@ public:
 template<int>
 struct Fresh
 {
-    enum Enum : qint32 {};
+    enum Enum : qint32 { };
 };
 
 /// Each N has a table of its own, which nobody asked for before.

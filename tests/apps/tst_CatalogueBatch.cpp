@@ -134,8 +134,8 @@ QJsonObject toJson(const CatalogueProduct &product)
                   { u"valid"_s, counts.isValid() },
           } },
         { u"spine"_s,
-          product.hasSpine() ? QJsonValue(
-                  QJsonArray { spineJson(product, counts.minPages()), spineJson(product, counts.maxPages()) })
+          product.hasSpine() ? QJsonValue(QJsonArray { spineJson(product, counts.minPages()),
+                                                       spineJson(product, counts.maxPages()) })
                              : QJsonValue(QJsonValue::Null) },
         { u"options"_s, optionsJson(product.options) },
     };
@@ -353,8 +353,7 @@ void tst_CatalogueBatch::pipelineStops()
     QVERIFY(buffer.open(QIODevice::ReadOnly));
     CatalogueReader reader(&buffer, u"product"_s);
     int taken = 0;
-    forEachBatch(
-            reader, [](const CatalogueBatch &batch) { return batch.size(); }, [&](int) { return ++taken < 3; });
+    forEachBatch(reader, [](const CatalogueBatch &batch) { return batch.size(); }, [&](int) { return ++taken < 3; });
     QCOMPARE(taken, 3);
     QVERIFY(!reader.atEnd());
 }

@@ -672,7 +672,7 @@ void tst_CatalogueChecker::progressAndCancel()
         steps += bytesRead;
         return true;
     });
-    const CatalogueCheckResult whole = checker.check(&buffer, [](const CatalogueFinding &) {});
+    const CatalogueCheckResult whole = checker.check(&buffer, [](const CatalogueFinding &) { });
     QCOMPARE(whole.products, qint64(50000));
     QVERIFY(!whole.isCancelled);
     QVERIFY(steps.size() > 3);
@@ -681,7 +681,7 @@ void tst_CatalogueChecker::progressAndCancel()
 
     buffer.seek(0);
     checker.setProgress([](qint64) { return false; });
-    const CatalogueCheckResult cancelled = checker.check(&buffer, [](const CatalogueFinding &) {});
+    const CatalogueCheckResult cancelled = checker.check(&buffer, [](const CatalogueFinding &) { });
     QVERIFY(cancelled.isCancelled);
     QCOMPARE(cancelled.error, QString());
     QVERIFY(cancelled.products < 50000);

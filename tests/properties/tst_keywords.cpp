@@ -21,8 +21,8 @@
 
 using namespace Qt::StringLiterals;
 
-enum NarrowEnum : qint32 {};
-enum WideEnum : qint64 {};
+enum NarrowEnum : qint32 { };
+enum WideEnum : qint64 { };
 
 namespace {
 
