@@ -131,6 +131,7 @@ void tst_reading::numbers()
         const QString text = nextNumber(&random, &texts);
         bool isNumber = false;
         const int integer = text.toInt(&isNumber);
+        isNumber = isNumber && !text.contains(QChar::Null); // Qt's number ends there
         QVERIFY2(RVXMLParser::intAttribute(element(u"a"_s, text), u"a"_s, -77) == (isNumber ? integer : -77),
                  readable(text).constData());
         const double number = text.toDouble(&isNumber);
