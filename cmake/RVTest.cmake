@@ -9,6 +9,7 @@ target_include_directories(rv_test_library SYSTEM INTERFACE
 target_link_libraries(rv_test_library INTERFACE Qt6::Core Qt6::Gui Qt6::Xml $<LINK_ONLY:Qt6::Test>)
 
 add_library(rv_test_precompiled OBJECT ${CMAKE_CURRENT_LIST_DIR}/precompiled.cpp)
+set_target_properties(rv_test_precompiled PROPERTIES POSITION_INDEPENDENT_CODE ON)
 target_compile_options(rv_test_precompiled PRIVATE ${RV_TEST_OPTIONS})
 target_link_libraries(rv_test_precompiled PRIVATE rv_test_library)
 target_precompile_headers(rv_test_precompiled PRIVATE
@@ -44,7 +45,7 @@ function(rv_add_test_program name)
     target_include_directories(${name} PRIVATE ${moc_folder} ${PROJECT_SOURCE_DIR}/tests)
     target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} rv_test_library)
     if(NOT arg_NOT_PRECOMPILED)
-        target_precompile_headers(${name} REUSE_FROM rv_test_precompiled)
+        rv_use_precompiled(${name} rv_test_precompiled)
     endif()
     if(arg_PROGRAMS)
         add_dependencies(${name} ${arg_PROGRAMS})
