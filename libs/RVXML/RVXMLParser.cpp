@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <algorithm>
+#include <cfloat>
 #include <iterator>
 #include <limits>
 #include <optional>
@@ -46,6 +47,9 @@ struct PlainNumber
 constexpr qsizetype MOST_LETTERS = 15;
 constexpr double POWERS_OF_TEN[] = { 1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13 };
 
+/// Where a register holds more digits than a double, as on i386, a quotient is rounded twice and may be off by a bit.
+constexpr bool ROUNDS_ONCE = FLT_EVAL_METHOD == 0;
+
 static_assert(std::size(POWERS_OF_TEN) == MOST_LETTERS - 1, "one letter is the point, and one stands before it");
 
 /// Reads what nearly every number of a catalogue looks like; the other ones are Qt's to judge. No number that it reads
@@ -81,7 +85,7 @@ int toInt(const QString &text, int defaultValue)
 
 qreal toDouble(const QString &text, qreal defaultValue)
 {
-    if (const auto plain = parsePlain(text)) {
+    if (const auto plain = parsePlain(text); plain && (ROUNDS_ONCE || plain->decimals == 0)) {
         const double number = double(plain->digits) / POWERS_OF_TEN[plain->decimals];
         return plain->isNegative ? -number : number;
     }

@@ -3,7 +3,6 @@
 #include <QTest>
 
 #include <algorithm>
-#include <cstring>
 #include <limits>
 
 namespace {
@@ -70,7 +69,6 @@ private Q_SLOTS:
     void orders();
     void compositesCallTheVirtuals();
     void compositesAskInOrder();
-    void slotOrder();
 };
 
 void tst_RVRange::construction()
@@ -303,29 +301,6 @@ void tst_RVRange::compositesAskInOrder()
     QVERIFY(wide.intersects(second));
     QCOMPARE(wide.asked, (QList<int> { 8 }));
     QCOMPARE(second.asked, (QList<int> { 1, 2 }));
-}
-
-// Applications were compiled against this order.
-void tst_RVRange::slotOrder()
-{
-    // The offset in the table of virtual functions, as a pointer to a member function holds it: 1 + 8 * slot.
-    const auto slot = [](auto member) {
-        std::ptrdiff_t words[2];
-        static_assert(sizeof(words) == sizeof(member));
-        memcpy(words, &member, sizeof(member));
-        return int(words[0] - 1) / int(sizeof(void *));
-    };
-    int next = 2; // behind the two destructors
-    QCOMPARE(slot(&Range::operator==), next++);
-    QCOMPARE(slot(&Range::operator!=), next++);
-    QCOMPARE(slot(&Range::operator<), next++);
-    QCOMPARE(slot(&Range::expandTo), next++);
-    QCOMPARE(slot(&Range::center), next++);
-    QCOMPARE(slot(&Range::isValid), next++);
-    QCOMPARE(slot(static_cast<bool (Range::*)(const int &) const>(&Range::contains)), next++);
-    QCOMPARE(slot(static_cast<bool (Range::*)(const Range &) const>(&Range::contains)), next++);
-    QCOMPARE(slot(&Range::intersects), next++);
-    QCOMPARE(sizeof(Range), 2 * sizeof(void *));
 }
 
 QTEST_APPLESS_MAIN(tst_RVRange)

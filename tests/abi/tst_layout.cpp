@@ -109,6 +109,7 @@ void tst_layout::sizes_data()
     QTest::addColumn<int>("alignment");
     QTest::addColumn<int>("expectedAlignment");
     row<RVKeywordIndex>("RVKeywordIndex", 24, 8);
+    row<RVRange<int>>("RVRange", 16, 8);
     row<RVAngle>("RVAngle", 8, 8);
     row<RVDirectoryConfig>("RVDirectoryConfig", 32, 8);
     row<RVDirectoryName>("RVDirectoryName", 4, 4);
