@@ -53,9 +53,9 @@ void forEachBatch(CatalogueReader &reader, Work work, Take take)
     BatchWorkers workers;
     std::deque<std::future<Result>> results;
     const auto takeFirst = [&] {
-        Result result = results.front().get();
+        std::future<Result> first = std::move(results.front());
         results.pop_front();
-        return take(std::move(result));
+        return take(first.get());
     };
     qint64 productCount = 0;
     bool goesOn = true;

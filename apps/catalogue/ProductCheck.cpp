@@ -77,7 +77,7 @@ bool isTooNarrow(const RVSpineConfig &spine, int pages)
     const QList<int> sizes = RVFontSizeManager::instance()->defaultFontSizes();
     if (sizes.isEmpty())
         return false;
-    RVFontCreator *fonts = RVFontCreator::instance();
+    const RVFontCreator *fonts = RVFontCreator::instance();
     const QFontMetrics smallest(fonts->createFont(fonts->defaultFontFamily(), sizes.first()));
     const RVDistance width = spine.spineWidth(unsigned(qMax(0, pages))) - spine.additionalSpineWidth() * 2.0;
     return smallest.lineSpacing() > std::round(width.value() * USABLE_PART_OF_SPINE);

@@ -40,8 +40,8 @@ void CatalogueLoader::finish(LoadThread *thread)
     myThread = nullptr;
     if (thread->catalogue())
         Q_EMIT loaded(thread->catalogue());
-    else if (thread->error())
-        Q_EMIT failed(*thread->error());
+    else if (const std::optional<LoadError> error = thread->error())
+        Q_EMIT failed(*error);
     else
         Q_EMIT cancelled();
 }

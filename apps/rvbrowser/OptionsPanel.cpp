@@ -9,6 +9,8 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -55,7 +57,7 @@ void OptionsPanel::setProduct(const CatalogueProduct &product)
 RVArticleVariants OptionsPanel::variants() const
 {
     RVArticleVariants result;
-    for (const Line &line : myLines) {
+    for (const Line &line : std::as_const(myLines)) {
         const RVConfiguredArticleVariant option = line.model->option(line.values->currentIndex());
         if (option.isValid())
             result.insert(option.key(), option.value());
@@ -65,7 +67,7 @@ RVArticleVariants OptionsPanel::variants() const
 
 void OptionsPanel::setVariants(const RVArticleVariants &variants)
 {
-    for (const Line &line : myLines) {
+    for (const Line &line : std::as_const(myLines)) {
         const int row = line.model->rowOf(variants.value(line.key));
         if (row >= 0)
             line.values->setCurrentIndex(row);
