@@ -49,8 +49,8 @@ RVArticleVariants::RVArticleVariants(const QString &text)
 
 RVArticleVariants::RVArticleVariants(const QDomElement &element)
 {
-    insert(RVXMLParser::attribute(element, QStringLiteral("key"), QStringLiteral(""), true),
-           RVXMLParser::attribute(element, QStringLiteral("value"), QStringLiteral(""), true));
+    insert(RVXMLParser::attribute(element, QStringLiteral("key"), QLatin1StringView(""), true),
+           RVXMLParser::attribute(element, QStringLiteral("value"), QLatin1StringView(""), true));
 }
 
 RVArticleVariants::RVArticleVariants(const QJsonArray &parameters)
