@@ -1,3 +1,5 @@
+#include "NameSpaces.h"
+
 #include <RVProductBase/RVBarcodeDefinitionList.h>
 
 #include <QDomDocument>
@@ -32,7 +34,10 @@ QStringList texts(const RVBarcodeDefinitionList &definitions)
 QDomElement element(const QString &xml, bool withNameSpaces = false)
 {
     static QDomDocument document;
-    document.setContent(xml, withNameSpaces);
+    if (withNameSpaces)
+        document = parseWithNameSpaces(xml);
+    else
+        document.setContent(xml);
     return document.documentElement();
 }
 

@@ -1,3 +1,5 @@
+#include "NameSpaces.h"
+
 #include <RVProductBase/RVConfiguredArticleVariantList.h>
 
 #include <QDebug>
@@ -205,28 +207,14 @@ void tst_RVConfiguredArticleVariantList::createsFromXml()
     QTEST(texts(list), "expected");
 }
 
-// Prefixes do not count in a document whose elements know their name spaces.
+// Prefixes do not count where the document was parsed with name spaces.
 void tst_RVConfiguredArticleVariantList::createsFromXmlWithNameSpaces()
 {
-    QDomDocument document;
-    document.setContent(u"<product/>"_s);
-    const QDomElement product = document.documentElement();
-    const auto append = [&document](QDomNode parent, const QString &name, const QString &key = {}) {
-        const QString nameSpace = name.startsWith(u"shop:") ? u"urn:shop"_s : QString();
-        QDomElement element = document.createElementNS(nameSpace, name);
-        if (!key.isEmpty()) {
-            element.setAttribute(u"key"_s, key);
-            element.setAttribute(u"value"_s, u"v"_s);
-        }
-        return parent.appendChild(element);
-    };
-    const QDomNode forms = append(product, u"shop:forms"_s);
-    append(forms, u"shop:form"_s, u"a"_s);
-    append(forms, u"form"_s, u"b"_s);
-    append(forms, u"shop:form"_s, u"d"_s);
-    append(product, u"forms"_s);
-    const QStringList expected { u"a:v"_s, u"b:v"_s, u"d:v"_s };
-    QCOMPARE(texts(RVConfiguredArticleVariantList(product)), expected);
+    const QDomDocument document = parseWithNameSpaces(
+            u"<product xmlns:shop='urn:shop'><shop:forms><shop:form key='a' value='x'/><form key='b' value='y'/>"
+            "<shop:form key='d' value='z'/></shop:forms><forms/></product>"_s);
+    const QStringList expected { u"a:x"_s, u"b:y"_s, u"d:z"_s };
+    QCOMPARE(texts(RVConfiguredArticleVariantList(document.documentElement())), expected);
 }
 
 void tst_RVConfiguredArticleVariantList::createsFromXmlCompletely()

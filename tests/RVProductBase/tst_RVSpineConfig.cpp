@@ -1,3 +1,5 @@
+#include "NameSpaces.h"
+
 #include <RVCore/RVFontCreator.h>
 #include <RVCore/RVFontSizeManager.h>
 #include <RVProductBase/RVSpineConfig.h>
@@ -248,8 +250,7 @@ void tst_RVSpineConfig::readsNameSpaces()
 {
     const QString xml = u"<product xmlns:shop='urn:shop'><shop:composition units='cm'><shop:spine base_width='2'/>"
                         "</shop:composition></product>"_s;
-    QDomDocument document;
-    document.setContent(xml, true);
+    const QDomDocument document = parseWithNameSpaces(xml);
     QCOMPARE(RVSpineConfig::createFromProductsXML(document.documentElement()).spineWidth(1).value(), 200.0);
     QCOMPARE(RVSpineConfig::createFromProductsXML(element(xml)).spineWidth(1).value(), 0.0);
 }
