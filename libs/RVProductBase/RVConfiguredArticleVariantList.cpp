@@ -201,7 +201,8 @@ QString RVConfiguredArticleVariantList::joinForOrderTxt() const
 
 void RVConfiguredArticleVariantList::intersect(const RVConfiguredArticleVariantList &other, bool takeOtherWhenEmpty)
 {
-    const RVConfiguredArticleVariantList kept = other; // the argument may be this very list
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): the argument may be this very list.
+    const RVConfiguredArticleVariantList kept = other;
     if (isEmpty() && takeOtherWhenEmpty)
         *this = kept;
     else

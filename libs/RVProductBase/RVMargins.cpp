@@ -2,6 +2,8 @@
 
 #include <QDebug>
 
+#include <type_traits>
+
 using namespace Qt::StringLiterals;
 
 RVMargins::RVMargins() : RVMargins(0, 0, 0, 0) { }
@@ -12,7 +14,8 @@ RVMargins::RVMargins(int vertical, int horizontal) : RVMargins(vertical, vertica
 
 const RVMarginsImpl &RVMargins::none() noexcept
 {
-    static const auto &margins = *new RVMarginsImpl;
+    static_assert(std::is_trivially_destructible_v<RVMarginsImpl>, "it would not outlive its readers");
+    static const RVMarginsImpl margins;
     return margins;
 }
 

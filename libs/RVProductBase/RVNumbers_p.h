@@ -21,7 +21,8 @@ inline std::optional<int> rvToInt(const QJsonValue &value)
 {
     using Limits = std::numeric_limits<int>;
     const double number = value.toDouble(Limits::max() + 1.0);
-    if (!(number >= Limits::min() && number <= Limits::max()) || number != int(number))
+    const bool isInRange = number >= Limits::min() && number <= Limits::max(); // and not NaN
+    if (!isInRange || number != int(number))
         return std::nullopt;
     return int(number);
 }
