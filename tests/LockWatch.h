@@ -1,7 +1,7 @@
 #ifndef LOCKWATCH_H
 #define LOCKWATCH_H
 
-#include <QRecursiveMutex>
+#include "RecursiveLock.h"
 
 #include <dlfcn.h>
 
@@ -38,10 +38,10 @@ private:
     static inline thread_local Callback theGivenBack;
 };
 
-bool QRecursiveMutex::tryLock(int timeout) noexcept
+bool QRecursiveMutex::tryLock(RecursiveLockTimeout timeout) noexcept
 {
-    using Function = bool (*)(QRecursiveMutex *, int);
-    static const auto next = reinterpret_cast<Function>(dlsym(RTLD_NEXT, "_ZN15QRecursiveMutex7tryLockEi"));
+    using Function = bool (*)(QRecursiveMutex *, RecursiveLockTimeout);
+    static const auto next = reinterpret_cast<Function>(dlsym(RTLD_NEXT, RECURSIVE_TRY_LOCK));
     LockWatch::notifyAsked();
     return next(this, timeout);
 }

@@ -4,6 +4,7 @@
 #include "RVDisplayNames.h"
 
 #include <cstddef>
+#include <utility>
 
 /// One row of a table of display texts. The text is German, and the source text of its translations.
 template<typename E>
@@ -20,6 +21,13 @@ QMap<T, QString> rvTranslated(const char *context, const RVDisplayText<E> (&rows
     for (const RVDisplayText<E> &row : rows)
         result.insert(row.value, QCoreApplication::translate(context, row.text));
     return result;
+}
+
+/// The names on the heap, where whatever is handed out of them outlives every object with static storage.
+template<typename T>
+const RVDisplayNames<T> &rvForever(RVDisplayNames<T> names)
+{
+    return *new RVDisplayNames<T>(std::move(names));
 }
 
 #endif

@@ -1,5 +1,6 @@
 #include "RVPaperType.h"
 
+#include "RVDisplayNames_p.h"
 #include "RVKeywords_p.h"
 
 using namespace Qt::StringLiterals;
@@ -90,7 +91,7 @@ QString RVPaperType::humanReadableName() const
 
 const RVDisplayNames<RVPaperType> &RVPaperType::paperTypeNames()
 {
-    static const auto &theNames = *new RVDisplayNames<RVPaperType>(initPaperTypeNames());
+    static const auto &theNames = rvForever(initPaperTypeNames());
     return theNames;
 }
 

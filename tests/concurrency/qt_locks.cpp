@@ -4,8 +4,9 @@
 // this file everything that they guard looks like a race, and a lock that is missing looks like all the others. A
 // program that links this file calls Qt's own functions through the ones below. Nothing has to be suppressed, and a
 // lock that is taken out is found.
+#include "RecursiveLock.h"
+
 #include <QReadWriteLock>
-#include <QRecursiveMutex>
 
 #include <dlfcn.h>
 #include <sanitizer/tsan_interface.h>
@@ -31,9 +32,9 @@ thread_local const QReadWriteLock *theWrittenLock = nullptr;
 
 }
 
-bool QRecursiveMutex::tryLock(int timeout) noexcept
+bool QRecursiveMutex::tryLock(RecursiveLockTimeout timeout) noexcept
 {
-    static const auto next = nextFunction<bool (*)(QRecursiveMutex *, int)>("_ZN15QRecursiveMutex7tryLockEi");
+    static const auto next = nextFunction<bool (*)(QRecursiveMutex *, RecursiveLockTimeout)>(RECURSIVE_TRY_LOCK);
     const bool locked = next(this, timeout);
     if (locked)
         __tsan_acquire(this);
@@ -47,6 +48,31 @@ void QRecursiveMutex::unlock() noexcept
     next(this);
 }
 
+#if QT_VERSION >= QT_VERSION_CHECK(6, 6, 0)
+bool QReadWriteLock::tryLockForRead(QDeadlineTimer timeout)
+{
+    static const auto next = nextFunction<bool (*)(QReadWriteLock *, QDeadlineTimer)>(
+            "_ZN14QReadWriteLock14tryLockForReadE14QDeadlineTimer");
+    constexpr unsigned flags = __tsan_mutex_read_lock | __tsan_mutex_try_lock;
+    __tsan_mutex_pre_lock(this, flags);
+    const bool locked = next(this, timeout);
+    __tsan_mutex_post_lock(this, locked ? flags : flags | __tsan_mutex_try_lock_failed, 0);
+    return locked;
+}
+
+bool QReadWriteLock::tryLockForWrite(QDeadlineTimer timeout)
+{
+    static const auto next = nextFunction<bool (*)(QReadWriteLock *, QDeadlineTimer)>(
+            "_ZN14QReadWriteLock15tryLockForWriteE14QDeadlineTimer");
+    constexpr unsigned flags = __tsan_mutex_try_lock;
+    __tsan_mutex_pre_lock(this, flags);
+    const bool locked = next(this, timeout);
+    __tsan_mutex_post_lock(this, locked ? flags : flags | __tsan_mutex_try_lock_failed, 0);
+    if (locked)
+        theWrittenLock = this;
+    return locked;
+}
+#else
 void QReadWriteLock::lockForRead()
 {
     static const auto next = nextFunction<void (*)(QReadWriteLock *)>("_ZN14QReadWriteLock11lockForReadEv");
@@ -63,6 +89,7 @@ void QReadWriteLock::lockForWrite()
     __tsan_mutex_post_lock(this, 0, 0);
     theWrittenLock = this;
 }
+#endif
 
 void QReadWriteLock::unlock()
 {
