@@ -25,9 +25,9 @@ QMap<T, QString> rvTranslated(const char *context, const RVDisplayText<E> (&rows
 
 /// The names on the heap, where whatever is handed out of them outlives every object with static storage.
 template<typename T>
-const RVDisplayNames<T> &rvForever(RVDisplayNames<T> names)
+const RVDisplayNames<T> *rvForever(RVDisplayNames<T> names)
 {
-    return *new RVDisplayNames<T>(std::move(names));
+    return new RVDisplayNames<T>(std::move(names));
 }
 
 #endif

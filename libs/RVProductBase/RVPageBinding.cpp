@@ -48,7 +48,7 @@ QString RVPageBinding::humanReadableName() const
 
 const RVDisplayNames<RVPageBinding> &RVPageBinding::pageBindingNames()
 {
-    static const auto &theNames = rvForever(initPageBindingNames());
+    static const auto &theNames = *rvForever(initPageBindingNames());
     return theNames;
 }
 

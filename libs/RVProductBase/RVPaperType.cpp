@@ -91,7 +91,7 @@ QString RVPaperType::humanReadableName() const
 
 const RVDisplayNames<RVPaperType> &RVPaperType::paperTypeNames()
 {
-    static const auto &theNames = rvForever(initPaperTypeNames());
+    static const auto &theNames = *rvForever(initPaperTypeNames());
     return theNames;
 }
 

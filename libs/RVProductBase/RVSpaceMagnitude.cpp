@@ -239,7 +239,7 @@ QString RVSpaceMagnitude::humanReadableName() const
 
 const RVDisplayNames<RVSpaceMagnitude> &RVSpaceMagnitude::names()
 {
-    static const auto &theNames = rvForever(initNames());
+    static const auto &theNames = *rvForever(initNames());
     return theNames;
 }
 

@@ -20,7 +20,7 @@ private Q_SLOTS:
 
 void tst_locale::isInForce()
 {
-    QCOMPARE(std::setlocale(LC_ALL, nullptr), "de_DE.UTF-8");
+    QCOMPARE(QByteArray(std::setlocale(LC_ALL, nullptr)), QByteArray("de_DE.UTF-8"));
     QCOMPARE(QLocale().name(), u"de_DE"_s);
     QCOMPARE(QLocale().collation().name(), u"de_DE"_s);
 }
