@@ -181,14 +181,14 @@ QString RVCoverType::toolTip() const
 
 const RVDisplayNames<RVCoverType> &RVCoverType::bindingNames()
 {
-    static const auto &theNames = rvForever<RVCoverType>(
+    static const auto &theNames = *rvForever<RVCoverType>(
             { CONTEXT, rvTranslated<RVCoverType>(CONTEXT, NAMES), RVCoverType(), unknownName() });
     return theNames;
 }
 
 const RVDisplayNames<RVCoverType> &RVCoverType::bindingToolTips()
 {
-    static const auto &theToolTips = rvForever<RVCoverType>({ CONTEXT, toolTips(), RVCoverType(), unknownName() });
+    static const auto &theToolTips = *rvForever<RVCoverType>({ CONTEXT, toolTips(), RVCoverType(), unknownName() });
     return theToolTips;
 }
 

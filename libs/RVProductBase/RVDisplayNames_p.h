@@ -23,7 +23,7 @@ QMap<T, QString> rvTranslated(const char *context, const RVDisplayText<E> (&rows
     return result;
 }
 
-/// The names on the heap, where whatever is handed out of them outlives every object with static storage.
+/// The names on the heap. Nothing deletes them, so they outlive every object with static storage.
 template<typename T>
 const RVDisplayNames<T> *rvForever(RVDisplayNames<T> names)
 {

@@ -36,9 +36,9 @@ public:
     /// From a keyword list such as "clipart, mask".
     RVDlpType(const QString &text);
 
-    /// What the customer reads for exactly this type, or for styles and book templates together. Without a number for
-    /// -1, else with @p n in the plural form that belongs to it: "3 Cliparts". Plural forms come from a translation,
-    /// also the German ones: while none is loaded, it is "1 Cliparts". A null text where there is no name.
+    /// The name that the customer reads for exactly this type, or for styles and book templates together. Without a
+    /// number for -1, else with @p n in the plural form that belongs to it: "3 Cliparts". Plural forms come from a
+    /// translation, also the German ones: while none is loaded, it is "1 Cliparts". A null text where there is no name.
     QString visibleName(int n) const;
     /// The name of the directory for exactly this type; designs have an alternative one. A null text where there is
     /// none.

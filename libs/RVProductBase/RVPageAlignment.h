@@ -20,8 +20,8 @@ RV_DECLARE_ENUM_OPERATORS(RVPageAlignmentEnum)
 
 extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVPageAlignmentEnum>;
 
-/// Where a page stands in the spread, or an element on its page. 0 is nowhere; an unknown keyword stands for the left,
-/// and so do "cover" and "coverpage".
+/// The place of a page in the spread, or of an element on its page. 0 is nowhere; an unknown keyword stands for the
+/// left, and so do "cover" and "coverpage".
 /// @ingroup attributes
 class RVPRODUCTBASE_EXPORT RVPageAlignment : public RVEnumWrapper<RVPageAlignmentEnum>
 {

@@ -20,8 +20,8 @@ RV_DECLARE_ENUM_OPERATORS(RVPageBindingEnum)
 
 extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVPageBindingEnum>;
 
-/// What holds the pages of a product together. 0 is unknown. It has the keyword "unknown", but only encode() writes it:
-/// encodeCSV() of 0 is empty.
+/// The binding that holds the pages of a product together. 0 is unknown. It has the keyword "unknown", but only
+/// encode() writes it: encodeCSV() of 0 is empty.
 /// @ingroup attributes
 class RVPRODUCTBASE_EXPORT RVPageBinding : public RVEnumWrapper<RVPageBindingEnum>
 {

@@ -67,7 +67,7 @@ public:
     int pagesWithNExtraPackages(int n) const noexcept;
     /// Whole packages above the lowest count; 0 at or below it, and without increment.
     int countPackages(int pages) const noexcept;
-    /// How many counts can be chosen; 1 without increment. Below 1 only for an invalid organisation.
+    /// The number of counts that can be chosen; 1 without increment. Below 1 only for an invalid organisation.
     int numberOfPackages() const noexcept;
     /// The lowest count of a product with panorama pages: the lowest count and two packages.
     int minPagesWithPano() const noexcept;

@@ -81,7 +81,7 @@ public:
     constexpr const_iterator end() const noexcept { return const_iterator(pages(mySize), myIncrement); }
     /// @}
 
-    /// How many there are; more than an int holds for the largest ranges.
+    /// The number of counts; more than an int holds for the largest ranges.
     constexpr qint64 size() const noexcept { return mySize; }
     constexpr bool isEmpty() const noexcept { return mySize == 0; } ///< True without any count.
     /// The count at a place, counted from 0. A place beyond the ends counts as the end; 0 without any count.

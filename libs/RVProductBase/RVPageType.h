@@ -54,8 +54,8 @@ RV_DECLARE_ENUM_OPERATORS(RVPageTypeEnum)
 
 extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVPageTypeEnum>;
 
-/// What kind of page a page is: cover, spine, content page, side of a card, face of a slipcase. 0 is no page. The
-/// results of the three rules below are small bit sets, whose meaning is the caller's.
+/// The kind of a page: cover, spine, content page, side of a card, face of a slipcase. 0 is no page. The results of the
+/// three rules below are small bit sets, whose meaning is the caller's.
 /// @ingroup attributes
 class RVPRODUCTBASE_EXPORT RVPageType : public RVEnumWrapper<RVPageTypeEnum>
 {

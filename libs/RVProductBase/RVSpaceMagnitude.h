@@ -78,7 +78,7 @@ public:
     /// where the new one would be infinite or not above 0, a size in pixels where it would be below 1.
     QFont adaptFont(const QFont &font, const RVSpaceMagnitude &target) const;
 
-    /// What the customer reads for exactly this value; "Undefiniert" for combinations, 0 and 50 cm².
+    /// The name that the customer reads for exactly this value; "Undefiniert" for combinations, 0 and 50 cm².
     QString humanReadableName() const;
     static const RVDisplayNames<RVSpaceMagnitude> &names(); ///< The table behind humanReadableName().
 

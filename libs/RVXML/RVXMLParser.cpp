@@ -47,7 +47,7 @@ struct PlainNumber
 constexpr qsizetype MOST_LETTERS = 15;
 constexpr double POWERS_OF_TEN[] = { 1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13 };
 
-/// Where a register holds more digits than a double, as on i386, a quotient is rounded twice and may be off by a bit.
+/// A register with more digits than a double, as on i386, rounds a quotient twice, which may then be off by a bit.
 constexpr bool ROUNDS_ONCE = FLT_EVAL_METHOD == 0;
 
 static_assert(std::size(POWERS_OF_TEN) == MOST_LETTERS - 1, "one letter is the point, and one stands before it");
