@@ -4,7 +4,7 @@
 #include <QDeadlineTimer>
 #include <QRecursiveMutex>
 
-/// What QRecursiveMutex::lock() calls in Qt's library: the type of its argument, and the name of the function there.
+/// The function that QRecursiveMutex::lock() calls in the library of Qt: the type of its argument, and its name there.
 #if QT_VERSION >= QT_VERSION_CHECK(6, 6, 0)
 using RecursiveLockTimeout = QDeadlineTimer;
 inline constexpr char RECURSIVE_TRY_LOCK[] = "_ZN15QRecursiveMutex7tryLockE14QDeadlineTimer";

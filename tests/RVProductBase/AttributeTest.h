@@ -17,7 +17,7 @@ struct KeywordRow
     QStringList keywords;
 };
 
-/// What the function gives on another thread.
+/// The result of the function on another thread.
 template<typename Function>
 auto onAnotherThread(Function function)
 {

@@ -39,7 +39,7 @@ struct Group
     QStringView codes;
 };
 
-/// Where a set keeps its first element; copies share it.
+/// The address of the first element of a set; copies share it.
 const RVPriceClass *firstElement(const RVPriceClassSet &set)
 {
     return &*set.constBegin();

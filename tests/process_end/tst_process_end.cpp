@@ -132,7 +132,7 @@ constexpr Question QUESTIONS[] = {
     { "resource", [] { return RVDirectoryConfig::instance()->resource(u"no/such.file"_s, false); }, "no/such.file" },
 };
 
-// What is defined outside of functions dies last.
+// Objects that are defined outside of functions are destroyed last.
 constexpr Question LAST_QUESTIONS[] = {
     { "key of an article id", [] { return RVArticleId::ARTICLE_ID_KEY; }, "id" },
     { "second key of an article id", [] { return RVArticleId::ARTICLE_ART_ID_KEY; }, "art_id" },
