@@ -10,10 +10,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The length in tenths of a millimetre; 1 of the unit where it is missing.
-qreal readLength(const QDomElement &element, const QString &name, const RVDistanceUnit &unit)
+/// 1 of the unit where it is missing.
+RVDistance readLength(const QDomElement &element, const QString &name, const RVDistanceUnit &unit)
 {
-    return RVXMLParser::readDistance(element, name, 1.0, unit).value(DISTANCE_UNIT_TENTH_MILLIMETRE);
+    return RVXMLParser::readDistance(element, name, 1.0, unit);
+}
+
+qreal inTenths(const RVDistance &length)
+{
+    return length.value(DISTANCE_UNIT_TENTH_MILLIMETRE);
 }
 
 int inclusiveEnd(int start, qreal length)
@@ -42,15 +47,18 @@ RVBarcodeDefinition::~RVBarcodeDefinition() = default;
 
 RVBarcodeDefinition RVBarcodeDefinition::createFromProductsXML(const QDomElement &element, const RVDistanceUnit &unit)
 {
-    const qreal x = readLength(element, u"position_x"_s, unit);
-    const qreal y = readLength(element, u"position_y"_s, unit);
-    const qreal width = readLength(element, u"width"_s, unit);
-    const qreal height = readLength(element, u"height"_s, unit);
+    return createFromLengths(readLength(element, u"position_x"_s, unit), readLength(element, u"position_y"_s, unit),
+                             readLength(element, u"width"_s, unit), readLength(element, u"height"_s, unit),
+                             RVXMLParser::intAttribute(element.attributes(), u"pageNr"_s, 0),
+                             RVXMLParser::attribute(element, u"image"_s, DEFAULT_IMAGE_NAME, true));
+}
 
-    const QPoint topLeft(rvSaturated(x), rvSaturated(y - height));
-    const QPoint bottomRight(inclusiveEnd(topLeft.x(), width), inclusiveEnd(topLeft.y(), height));
-    const QString imageName = RVXMLParser::attribute(element, u"image"_s, DEFAULT_IMAGE_NAME, true);
-    const int pageNr = RVXMLParser::intAttribute(element.attributes(), u"pageNr"_s, 0);
+RVBarcodeDefinition RVBarcodeDefinition::createFromLengths(const RVDistance &x, const RVDistance &y,
+                                                           const RVDistance &width, const RVDistance &height,
+                                                           int pageNr, const QString &imageName)
+{
+    const QPoint topLeft(rvSaturated(inTenths(x)), rvSaturated(inTenths(y) - inTenths(height)));
+    const QPoint bottomRight(inclusiveEnd(topLeft.x(), inTenths(width)), inclusiveEnd(topLeft.y(), inTenths(height)));
     return RVBarcodeDefinition(QRect(topLeft, bottomRight), pageNr, imageName);
 }
 

@@ -9,6 +9,7 @@
 #include <QString>
 
 class QDomElement;
+class RVDistance;
 
 /**
  * Where the production barcode of a product goes: a rectangle in tenths of a millimetre on one page, and the
@@ -37,6 +38,9 @@ public:
     /// "pageNr" (0). "position_y" is the lower edge; the barcode stands on it. At 20 mm, 10 mm high, it is
     /// in the tenths 100 to 199.
     static RVBarcodeDefinition createFromProductsXML(const QDomElement &element, const RVDistanceUnit &unit);
+    /// The same from what stands in the attributes: left and lower edge, width and height.
+    static RVBarcodeDefinition createFromLengths(const RVDistance &x, const RVDistance &y, const RVDistance &width,
+                                                 const RVDistance &height, int pageNr, const QString &imageName);
 
     QRect rect() const noexcept { return myRect; } ///< In tenths of a millimetre.
     int pageNr() const noexcept { return myPageNr; } ///< As the catalogue counts pages.

@@ -86,6 +86,10 @@ RVConfiguredArticleVariant::RVConfiguredArticleVariant(const QString &text) : RV
 
 RVConfiguredArticleVariant::RVConfiguredArticleVariant(const QDomElement &element) : d(readOption(element)) { }
 
+RVConfiguredArticleVariant::RVConfiguredArticleVariant(const RVConfiguredArticleVariantImpl &fields)
+    : d(new RVConfiguredArticleVariantImpl(fields))
+{ }
+
 QString RVConfiguredArticleVariant::key() const
 {
     return d->key;

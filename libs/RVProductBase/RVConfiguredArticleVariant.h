@@ -31,6 +31,8 @@ public:
     RVConfiguredArticleVariant(const QString &text);
     /// From the attributes of a "form" element.
     RVConfiguredArticleVariant(const QDomElement &element);
+    /// From its fields, for who reads them elsewhere.
+    explicit RVConfiguredArticleVariant(const RVConfiguredArticleVariantImpl &fields);
     // Moves share the data as copies do, so that every object has some.
     RVConfiguredArticleVariant(const RVConfiguredArticleVariant &) = default;
     RVConfiguredArticleVariant &operator=(const RVConfiguredArticleVariant &) = default;

@@ -1,0 +1,65 @@
+#ifndef RVCATALOGUEATTRIBUTES_H
+#define RVCATALOGUEATTRIBUTES_H
+
+#include "RVCatalogueProduct.h"
+
+#include <RVDlpType.h>
+#include <RVMaterialType.h>
+#include <RVPageAlignment.h>
+#include <RVPageType.h>
+#include <RVProductArrangement.h>
+#include <RVSpotColor.h>
+
+#include <QLatin1StringView>
+#include <QtGlobal>
+
+#include <tuple>
+#include <type_traits>
+
+/// An attribute whose values are written as keywords: its class, its name in the products XML, its label for people,
+/// and how a product tells it; null where it is no attribute of products.
+/// @ingroup catalogues
+template<typename T>
+struct RVCatalogueAttributeRow
+{
+    using Class = T;
+
+    QLatin1StringView name;
+    const char *label;
+    T (RVCatalogueProduct::*value)() const = nullptr;
+};
+
+/**
+ * Every attribute whose values are written as keywords, those of products first. Everything that goes through the
+ * attributes walks this list, with std::apply() where it needs their classes and with RVCatalogueAttribute::all() where
+ * it does not.
+ *
+ * @ingroup catalogues
+ */
+inline constexpr std::tuple RV_CATALOGUE_ATTRIBUTES {
+    // clang-format off
+    RVCatalogueAttributeRow<RVArticleClass> { QLatin1StringView("article_class"), QT_TRANSLATE_NOOP("RVCatalogueAttribute", "Article class"), &RVCatalogueProduct::articleClass },
+    RVCatalogueAttributeRow<RVCoverType> { QLatin1StringView("cover_type"), QT_TRANSLATE_NOOP("RVCatalogueAttribute", "Cover"), &RVCatalogueProduct::coverType },
+    RVCatalogueAttributeRow<RVPageBinding> { QLatin1StringView("page_binding"), QT_TRANSLATE_NOOP("RVCatalogueAttribute", "Binding"), &RVCatalogueProduct::pageBinding },
+    RVCatalogueAttributeRow<RVPaperType> { QLatin1StringView("paper_type"), QT_TRANSLATE_NOOP("RVCatalogueAttribute", "Paper"), &RVCatalogueProduct::paperType },
+    RVCatalogueAttributeRow<RVFotoPaperType> { QLatin1StringView("foto_paper_type"), QT_TRANSLATE_NOOP("RVCatalogueAttribute", "Photo paper"), &RVCatalogueProduct::fotoPaperType },
+    RVCatalogueAttributeRow<RVOrientation> { QLatin1StringView("orientation"), QT_TRANSLATE_NOOP("RVCatalogueAttribute", "Orientation"), &RVCatalogueProduct::orientation },
+    RVCatalogueAttributeRow<RVSpaceMagnitude> { QLatin1StringView("space_magnitude"), QT_TRANSLATE_NOOP("RVCatalogueAttribute", "Size class"), &RVCatalogueProduct::spaceMagnitude },
+    RVCatalogueAttributeRow<RVPageType> { QLatin1StringView("page_type"), QT_TRANSLATE_NOOP("RVCatalogueAttribute", "Page type") },
+    RVCatalogueAttributeRow<RVPageAlignment> { QLatin1StringView("page_alignment"), QT_TRANSLATE_NOOP("RVCatalogueAttribute", "Page alignment") },
+    RVCatalogueAttributeRow<RVMaterialType> { QLatin1StringView("material_type"), QT_TRANSLATE_NOOP("RVCatalogueAttribute", "Material") },
+    RVCatalogueAttributeRow<RVProductArrangement> { QLatin1StringView("product_arrangement"), QT_TRANSLATE_NOOP("RVCatalogueAttribute", "Arrangement") },
+    RVCatalogueAttributeRow<RVDlpType> { QLatin1StringView("dlp_type"), QT_TRANSLATE_NOOP("RVCatalogueAttribute", "Design content") },
+    RVCatalogueAttributeRow<RVSpotColor> { QLatin1StringView("spot_color"), QT_TRANSLATE_NOOP("RVCatalogueAttribute", "Spot colour") },
+    // clang-format on
+};
+
+/// The name of the attribute that has this class.
+/// @relates RVCatalogueAttributeRow
+template<typename T>
+constexpr QLatin1StringView rvCatalogueAttributeName()
+{
+    return std::get<RVCatalogueAttributeRow<T>>(RV_CATALOGUE_ATTRIBUTES).name;
+}
+
+#endif

@@ -1,0 +1,120 @@
+#include "RVCatalogueElement.h"
+
+#include "RVCatalogueProductData_p.h"
+#include "RVFilePosition_p.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+bool equal(QByteArrayView a, QLatin1StringView b)
+{
+    return a.size() == b.size() && std::memcmp(a.data(), b.data(), std::size_t(a.size())) == 0;
+}
+
+const RVCatalogueRows::Attribute *findAttribute(const RVCatalogueRows &rows, const RVCatalogueRows::Element &element,
+                                                QLatin1StringView name)
+{
+    const auto *begin = rows.attributes.data() + element.attributesBegin;
+    const auto *end = rows.attributes.data() + element.attributesEnd;
+    const auto *found = std::find_if(begin, end, [&](const RVCatalogueRows::Attribute &attribute) {
+        return equal(rows.view(attribute.name), name);
+    });
+    return found == end ? nullptr : found;
+}
+
+/// The place in a start tag, so many bytes behind its begin.
+RVFilePosition place(const RVCatalogueRows &rows, const RVCatalogueRows::Element &element, quint32 offset)
+{
+    const QByteArrayView tag = rows.view(element.tag);
+    const char next = qsizetype(offset) < tag.size() ? tag[offset] : '\0';
+    return rvAdvanced(element.position, tag.first(offset), next);
+}
+
+}
+
+RVCatalogueElement::RVCatalogueElement(const RVCatalogueProductData *data, quint32 index, quint32 siblingsEnd) noexcept
+    : d(index < siblingsEnd ? data : nullptr),
+      myIndex(index),
+      mySiblingsEnd(siblingsEnd)
+{ }
+
+QString RVCatalogueElement::name() const
+{
+    return d ? QString::fromUtf8(d->rows.name(d->rows.elements[myIndex])) : QString();
+}
+
+bool RVCatalogueElement::hasAttribute(QLatin1StringView name) const noexcept
+{
+    return d && findAttribute(d->rows, d->rows.elements[myIndex], name);
+}
+
+QByteArrayView RVCatalogueElement::utf8(QLatin1StringView name) const noexcept
+{
+    const auto *attribute = d ? findAttribute(d->rows, d->rows.elements[myIndex], name) : nullptr;
+    return attribute ? d->rows.view(attribute->value) : QByteArrayView();
+}
+
+QString RVCatalogueElement::attribute(QLatin1StringView name) const
+{
+    const QByteArrayView text = utf8(name);
+    return text.isNull() ? QString() : QString::fromUtf8(text);
+}
+
+QStringList RVCatalogueElement::attributeNames() const
+{
+    QStringList result;
+    if (!d)
+        return result;
+    const RVCatalogueRows::Element &element = d->rows.elements[myIndex];
+    for (quint32 i = element.attributesBegin; i < element.attributesEnd; ++i)
+        result += QString::fromUtf8(d->rows.view(d->rows.attributes[i].name));
+    return result;
+}
+
+RVFileRange RVCatalogueElement::range() const
+{
+    if (!d)
+        return RVFileRange();
+    const RVCatalogueRows::Element &element = d->rows.elements[myIndex];
+    return { element.position, place(d->rows, element, element.tag.size) };
+}
+
+RVFileRange RVCatalogueElement::attributeRange(QLatin1StringView name) const
+{
+    if (!d)
+        return RVFileRange();
+    const RVCatalogueRows::Element &element = d->rows.elements[myIndex];
+    const auto *attribute = findAttribute(d->rows, element, name);
+    // A document type may give an attribute to an element that does not have it in the file.
+    if (!attribute || attribute->name.begin >= element.tag.begin + element.tag.size)
+        return range();
+    return { place(d->rows, element, attribute->name.begin - element.tag.begin),
+             place(d->rows, element, attribute->end - element.tag.begin) };
+}
+
+RVCatalogueElement RVCatalogueElement::firstChildElement(QLatin1StringView name) const noexcept
+{
+    if (!d)
+        return RVCatalogueElement();
+    return RVCatalogueElement(d, myIndex + 1, d->rows.elements[myIndex].end).named(name);
+}
+
+RVCatalogueElement RVCatalogueElement::nextSiblingElement(QLatin1StringView name) const noexcept
+{
+    return d ? next().named(name) : RVCatalogueElement();
+}
+
+RVCatalogueElement RVCatalogueElement::named(QLatin1StringView name) const noexcept
+{
+    RVCatalogueElement element = *this;
+    while (!element.isNull() && !name.isEmpty() && !equal(d->rows.name(d->rows.elements[element.myIndex]), name))
+        element = element.next();
+    return element;
+}
+
+RVCatalogueElement RVCatalogueElement::next() const noexcept
+{
+    return RVCatalogueElement(d, d->rows.elements[myIndex].end, mySiblingsEnd);
+}

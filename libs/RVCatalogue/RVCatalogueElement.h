@@ -1,0 +1,70 @@
+#ifndef RVCATALOGUEELEMENT_H
+#define RVCATALOGUEELEMENT_H
+
+#include "RVCatalogueExport.h"
+#include "RVFileRange.h"
+
+#include <QByteArrayView>
+#include <QString>
+#include <QStringList>
+
+class RVCatalogueProductData;
+
+/**
+ * A product element as it stands in the file, or an element in it: its attributes as texts, its child elements, and the
+ * places of both. It is for what RVCatalogueProduct has no function for, and for who judges the text rather than the
+ * value.
+ *
+ * An element is a view of a product and small enough to be passed by value. It is valid as long as the product that it
+ * came from, or a copy of that product, is there. The default element is null: it has no name, no attributes and no
+ * children, and neither has the missing child or sibling of another one, so calls can be chained.
+ *
+ * Names are compared exactly, prefixes included. Any thread may ask.
+ *
+ * @ingroup catalogues
+ */
+class RVCATALOGUE_EXPORT RVCatalogueElement
+{
+public:
+    RVCatalogueElement() = default;
+
+    bool isNull() const noexcept { return !d; }
+    QString name() const;
+
+    bool hasAttribute(QLatin1StringView name) const noexcept;
+    /// The value as XML reads it, entities resolved; null where the attribute is missing, empty where its text is.
+    QString attribute(QLatin1StringView name) const;
+    /// The same in UTF-8 and without a copy; its size is 0 in both cases.
+    QByteArrayView utf8(QLatin1StringView name) const noexcept;
+    /// In the order of the file.
+    QStringList attributeNames() const;
+
+    /// The start tag, from "<" to ">".
+    RVFileRange range() const;
+    /// The attribute from the first letter of its name to the quote behind its value; the start tag where it is
+    /// missing.
+    RVFileRange attributeRange(QLatin1StringView name) const;
+
+    /// The first child, or the next sibling, of that name; of any name where it is empty. Texts and comments do not
+    /// count.
+    /// @{
+    RVCatalogueElement firstChildElement(QLatin1StringView name = {}) const noexcept;
+    RVCatalogueElement nextSiblingElement(QLatin1StringView name = {}) const noexcept;
+    /// @}
+
+private:
+    friend class RVCatalogueProduct;
+    friend class RVCatalogueProject;
+
+    RVCatalogueElement(const RVCatalogueProductData *data, quint32 index, quint32 siblingsEnd) noexcept;
+    RVCatalogueElement named(QLatin1StringView name) const noexcept;
+    RVCatalogueElement next() const noexcept;
+
+    const RVCatalogueProductData *d = nullptr;
+    quint32 myIndex = 0;
+    quint32 mySiblingsEnd = 0;
+};
+
+Q_DECLARE_TYPEINFO(RVCatalogueElement, Q_RELOCATABLE_TYPE);
+
+#endif

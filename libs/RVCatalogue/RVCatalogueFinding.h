@@ -1,0 +1,45 @@
+#ifndef RVCATALOGUEFINDING_H
+#define RVCATALOGUEFINDING_H
+
+#include "RVCatalogueExport.h"
+#include "RVCatalogueRule.h"
+#include "RVFileRange.h"
+
+#include <QExplicitlySharedDataPointer>
+#include <QString>
+
+class RVCatalogueFindingData;
+
+/**
+ * One place of a catalogue where something is to be mended, or could be written better. It never changes, so copies
+ * share their data, also between threads. The default finding is null: it breaks no rule.
+ *
+ * @ingroup catalogues
+ */
+class RVCATALOGUE_EXPORT RVCatalogueFinding
+{
+public:
+    RVCatalogueFinding();
+    /// @p product is its number in the file from 0, or -1 for the file as a whole. The severity is that of the rule.
+    RVCatalogueFinding(RVCatalogueRule rule, const RVFileRange &range, const QString &text, qint64 product = -1);
+    RVCatalogueFinding(const RVCatalogueFinding &other);
+    RVCatalogueFinding(RVCatalogueFinding &&other) noexcept;
+    RVCatalogueFinding &operator=(const RVCatalogueFinding &other);
+    RVCatalogueFinding &operator=(RVCatalogueFinding &&other) noexcept;
+    ~RVCatalogueFinding();
+
+    bool isNull() const noexcept { return !d; }
+    RVCatalogueRule rule() const;
+    RVCatalogueSeverity severity() const;
+    RVFileRange
+    range() const; ///< The attribute that is wrong; the start tag of the element where it is not one attribute.
+    QString text() const; ///< One line, without a full stop, in the language of the program.
+    qint64 product() const; ///< Its number in the file from 0; -1 for the file as a whole.
+
+private:
+    QExplicitlySharedDataPointer<const RVCatalogueFindingData> d;
+};
+
+Q_DECLARE_TYPEINFO(RVCatalogueFinding, Q_RELOCATABLE_TYPE);
+
+#endif

@@ -1,0 +1,104 @@
+#ifndef RVCATALOGUEPRODUCT_H
+#define RVCATALOGUEPRODUCT_H
+
+#include "RVCatalogueElement.h"
+#include "RVCatalogueExport.h"
+#include "RVCatalogueFinding.h"
+
+#include <RVArticleClass.h>
+#include <RVArticleId.h>
+#include <RVBarcodeDefinitionList.h>
+#include <RVConfiguredArticleVariantList.h>
+#include <RVCoverType.h>
+#include <RVFotoPaperType.h>
+#include <RVOrientation.h>
+#include <RVPageBinding.h>
+#include <RVPageCountOrganization.h>
+#include <RVPaperType.h>
+#include <RVPriceClass.h>
+#include <RVProductType.h>
+#include <RVShippingGroupId.h>
+#include <RVSpaceMagnitude.h>
+#include <RVSpineConfig.h>
+
+#include <QExplicitlySharedDataPointer>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+/**
+ * A product of a catalogue: the `product` element of the products XML with everything in it.
+ *
+ * RVCatalogueReader hands products out. They never change, so copies share their data, also between threads. A product
+ * keeps the text of its element; every function below reads its value out of that, which takes some ten nanoseconds for
+ * an id and some microseconds for all options. What is asked for often is better kept.
+ *
+ * The values are those that the `createFromProductsXML` readers of the library give for the same element: what is
+ * missing or cannot be read stands for its default. An attribute that a product does not have is null, though an empty
+ * text may stand for something. The default product is null and has nothing but defaults.
+ *
+ * @ingroup catalogues
+ */
+class RVCATALOGUE_EXPORT RVCatalogueProduct
+{
+public:
+    RVCatalogueProduct();
+    RVCatalogueProduct(const RVCatalogueProduct &other);
+    RVCatalogueProduct(RVCatalogueProduct &&other) noexcept;
+    RVCatalogueProduct &operator=(const RVCatalogueProduct &other);
+    RVCatalogueProduct &operator=(RVCatalogueProduct &&other) noexcept;
+    ~RVCatalogueProduct();
+
+    bool isNull() const noexcept { return !d; }
+
+    RVProductType type() const; ///< "type"; a photo book code is reduced to its family.
+    QString name() const; ///< "name", for people.
+    RVArticleId articleId() const; ///< "article_id"
+    RVArticleClass articleClass() const; ///< "article_class"
+    RVCoverType coverType() const; ///< "cover_type"
+    RVPageBinding pageBinding() const; ///< "page_binding"
+    RVPaperType paperType() const; ///< "paper_type"
+    /// "foto_paper_type"; where it is missing the default of the article class, which only photo prints have.
+    RVFotoPaperType fotoPaperType() const;
+    RVOrientation orientation() const; ///< "orientation"
+    RVSpaceMagnitude spaceMagnitude() const; ///< "space_magnitude"
+    RVShippingGroupId shippingGroup() const; ///< "shipping_group"; that of the article class where it is missing.
+
+    /// "pages", "max_pages", "page_step" and "pieces"; those of a box of photos where "photo_box" is true.
+    RVPageCountOrganization pageCounts() const;
+    RVSpineConfig spine() const; ///< Of "spine" in the first "composition".
+    bool hasSpine() const; ///< True when the spine has some width at the highest page count.
+    RVBarcodeDefinitionList barcodes() const; ///< The valid ones of the first "barcodes".
+
+    /// The valid options of the first "forms", in the order of the file, with their names, editor names, preview images
+    /// and colours.
+    RVConfiguredArticleVariantList options() const;
+    RVPriceClass priceClass() const; ///< "price_class"; what the product itself is billed by.
+    RVPriceClass pagePriceClass() const; ///< "page_price_class"; what a package above the lowest count is billed by.
+    /// What the first option of that key and value is billed by; empty where it is not billed, or not there.
+    RVPriceClass optionPriceClass(const QString &key, const QString &value) const;
+
+    /// The "name" of each element around the product that has one, from the outermost inwards.
+    QStringList families() const;
+    qint64 number() const; ///< Products of a file count from 0; -1 for a null product.
+    RVFileRange range() const; ///< The start tag.
+    RVCatalogueElement element() const; ///< The product as it stands in the file.
+    /// What is wrong with the product, in the order of the file; nothing where the reader was given no check.
+    QList<RVCatalogueFinding> findings() const;
+
+    /// The elements and attributes of the product in UTF-8, without comments and texts between tags, to be kept and
+    /// read again by an RVCatalogueReader; empty for a null product.
+    QByteArray toXml() const;
+
+private:
+    friend class RVCatalogueParser;
+    friend class RVCatalogueReaderPrivate;
+
+    explicit RVCatalogueProduct(RVCatalogueProductData *data);
+
+    QExplicitlySharedDataPointer<RVCatalogueProductData> d;
+};
+
+Q_DECLARE_TYPEINFO(RVCatalogueProduct, Q_RELOCATABLE_TYPE);
+
+#endif

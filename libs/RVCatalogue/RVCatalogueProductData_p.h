@@ -1,0 +1,72 @@
+#ifndef RVCATALOGUEPRODUCTDATA_P_H
+#define RVCATALOGUEPRODUCTDATA_P_H
+
+#include "RVCatalogueFinding.h"
+#include "RVFilePosition.h"
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QList>
+#include <QSharedData>
+#include <QStringList>
+
+#include <vector>
+
+struct RVXmlTag;
+
+/// The elements of a product: all start tags as they stand in the file, one behind the other, and rows that say what is
+/// where in them. So a value costs no copy, and the place of an attribute can be told whenever somebody asks for it.
+struct RVCatalogueRows
+{
+    struct Piece
+    {
+        quint32 begin;
+        quint32 size;
+    };
+    struct Attribute
+    {
+        Piece name;
+        Piece value; // in the tag, or behind all tags where XML reads something else than what stands there
+        quint32 end; // of the quote behind the value
+    };
+    struct Element
+    {
+        Piece tag;
+        quint32 nameSize;
+        quint32 attributesBegin;
+        quint32 attributesEnd;
+        quint32 end; // behind the last element in it; elements follow one another as they start
+        RVFilePosition position;
+    };
+
+    /// Appends an element, without children so far.
+    void append(const RVXmlTag &tag);
+
+    QByteArrayView view(const Piece &piece) const noexcept
+    {
+        return QByteArrayView(text).sliced(piece.begin, piece.size);
+    }
+    QByteArrayView name(const Element &element) const noexcept
+    {
+        return QByteArrayView(text).sliced(element.tag.begin + 1, element.nameSize);
+    }
+
+    std::vector<Element> elements; // the product first
+    std::vector<Attribute> attributes;
+    QByteArray text; // UTF-8
+
+private:
+    void appendGiven(const RVXmlTag &tag, quint32 begin);
+    Piece append(QByteArrayView bytes);
+};
+
+class RVCatalogueProductData : public QSharedData
+{
+public:
+    RVCatalogueRows rows;
+    QStringList families;
+    QList<RVCatalogueFinding> findings;
+    qint64 number = 0;
+};
+
+#endif

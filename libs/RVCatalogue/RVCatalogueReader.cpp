@@ -1,0 +1,269 @@
+#include "RVCatalogueReader.h"
+
+#include "RVCatalogueParser_p.h"
+#include "RVDuplicates_p.h"
+#include "RVXmlScanner_p.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QSemaphore>
+#include <QThread>
+#include <QThreadPool>
+
+#include <algorithm>
+#include <deque>
+#include <utility>
+
+namespace {
+
+/// The reading thread keeps one core busy for a third of the time, so more cores would wait.
+int mostThreads()
+{
+    constexpr int most = 8;
+    return std::clamp(QThread::idealThreadCount(), 1, most);
+}
+
+/// Products that a thread works on, and what becomes of them.
+struct Order
+{
+    QList<RVCatalogueProduct> products;
+    std::shared_ptr<void> result;
+    QSemaphore isDone;
+};
+
+}
+
+class RVCatalogueReaderPrivate
+{
+    Q_DECLARE_TR_FUNCTIONS(RVCatalogueReader)
+    Q_DISABLE_COPY_MOVE(RVCatalogueReaderPrivate)
+
+public:
+    explicit RVCatalogueReaderPrivate(const QString &fileName) : myFile(fileName), myDevice(&myFile)
+    {
+        if (!myFile.open(QIODevice::ReadOnly))
+            myOpenError = RVXmlScanner::openError(myFile);
+    }
+    explicit RVCatalogueReaderPrivate(QIODevice *device) : myDevice(device) { }
+
+    void setCheck(const RVCatalogueCheck &check)
+    {
+        myCheck = check;
+        myDuplicates = std::make_unique<RVDuplicates>(check);
+    }
+
+    /// True when a product follows.
+    bool fill();
+    /// The products that follow and were parsed together; none at the end.
+    QList<RVCatalogueProduct> read();
+    RVCatalogueProduct next();
+    /// Gives the products their findings, which may be done on any thread.
+    void check(const QList<RVCatalogueProduct> &products) const;
+    QList<RVCatalogueFinding> findings() const;
+
+    QString errorString() const;
+    RVFilePosition errorPosition() const { return myScanner.errorPosition(); }
+    qint64 bytesRead() const { return myScanner.bytesRead(); }
+    qint64 size() const { return myDevice->isSequential() ? 0 : myDevice->size(); }
+
+private:
+    bool isExhausted() const { return myNext == myProducts.size(); }
+    void findDuplicates(const RVCatalogueProduct &product);
+
+    QFile myFile;
+    QIODevice *myDevice;
+    QString myOpenError;
+    RVCatalogueParser myParser;
+    RVXmlScanner myScanner { myDevice, &myParser };
+    std::optional<RVCatalogueCheck> myCheck;
+    std::unique_ptr<RVDuplicates> myDuplicates;
+    QList<RVCatalogueProduct> myProducts; // that were parsed
+    qsizetype myNext = 0; // the first of them that was not handed out
+    bool myHasProducts = false;
+};
+
+bool RVCatalogueReaderPrivate::fill()
+{
+    bool goesOn = myOpenError.isEmpty();
+    while (isExhausted() && goesOn) {
+        goesOn = myScanner.scan();
+        myProducts = myParser.take();
+        myNext = 0;
+    }
+    myHasProducts = myHasProducts || !isExhausted();
+    return !isExhausted();
+}
+
+QList<RVCatalogueProduct> RVCatalogueReaderPrivate::read()
+{
+    if (!fill())
+        return {};
+    const QList<RVCatalogueProduct> result = myNext == 0 ? std::exchange(myProducts, {}) : myProducts.sliced(myNext);
+    myProducts.clear();
+    myNext = 0;
+    for (const RVCatalogueProduct &product : result)
+        findDuplicates(product);
+    return result;
+}
+
+RVCatalogueProduct RVCatalogueReaderPrivate::next()
+{
+    if (!fill())
+        return RVCatalogueProduct();
+    const RVCatalogueProduct product = std::move(myProducts[myNext++]);
+    findDuplicates(product);
+    check({ product });
+    return product;
+}
+
+// Types and article ids come twice in the order of the file, so this is done before the products go their ways.
+void RVCatalogueReaderPrivate::findDuplicates(const RVCatalogueProduct &product)
+{
+    if (myDuplicates)
+        product.d->findings = myDuplicates->findings(product);
+}
+
+void RVCatalogueReaderPrivate::check(const QList<RVCatalogueProduct> &products) const
+{
+    if (!myCheck)
+        return;
+    for (const RVCatalogueProduct &product : products) {
+        QList<RVCatalogueFinding> &findings = product.d->findings;
+        findings += myCheck->findings(product);
+        std::stable_sort(findings.begin(), findings.end(),
+                         [](const RVCatalogueFinding &a, const RVCatalogueFinding &b) {
+                             return a.range().begin < b.range().begin;
+                         });
+    }
+}
+
+QList<RVCatalogueFinding> RVCatalogueReaderPrivate::findings() const
+{
+    const RVCatalogueRule rule = RVCatalogueRule::find(u"products-missing");
+    const bool isMissing = myScanner.isAtEnd() && errorString().isEmpty() && !myHasProducts;
+    if (!isMissing || !myCheck || !myCheck->isEnabled(rule))
+        return {};
+    return { RVCatalogueFinding(rule, RVFileRange(), tr("there is no product in this file")) };
+}
+
+// An error stands behind the products that were parsed before it.
+QString RVCatalogueReaderPrivate::errorString() const
+{
+    if (!myOpenError.isEmpty())
+        return myOpenError;
+    return isExhausted() ? myScanner.errorString() : QString();
+}
+
+RVCatalogueReader::RVCatalogueReader(const QString &fileName) : d(std::make_unique<RVCatalogueReaderPrivate>(fileName))
+{ }
+
+RVCatalogueReader::RVCatalogueReader(QIODevice *device) : d(std::make_unique<RVCatalogueReaderPrivate>(device)) { }
+
+RVCatalogueReader::~RVCatalogueReader() = default;
+
+void RVCatalogueReader::setCheck(const RVCatalogueCheck &check)
+{
+    d->setCheck(check);
+}
+
+RVCatalogueProduct RVCatalogueReader::next()
+{
+    return d->next();
+}
+
+QList<RVCatalogueProduct> RVCatalogueReader::readAll()
+{
+    QList<RVCatalogueProduct> result;
+    while (d->fill()) {
+        const QList<RVCatalogueProduct> products = d->read();
+        d->check(products);
+        result += products;
+    }
+    return result;
+}
+
+RVCatalogueProduct RVCatalogueReader::find(const RVProductType &type)
+{
+    RVCatalogueProduct product = next();
+    while (!product.isNull() && product.type() != type)
+        product = next();
+    return product;
+}
+
+bool RVCatalogueReader::finish()
+{
+    while (!d->read().isEmpty()) { }
+    return !hasError();
+}
+
+QList<RVCatalogueFinding> RVCatalogueReader::findings() const
+{
+    return d->findings();
+}
+
+bool RVCatalogueReader::atEnd()
+{
+    return !d->fill();
+}
+
+bool RVCatalogueReader::hasError() const
+{
+    return !d->errorString().isEmpty();
+}
+
+QString RVCatalogueReader::errorString() const
+{
+    return d->errorString();
+}
+
+RVFilePosition RVCatalogueReader::errorPosition() const
+{
+    return hasError() ? d->errorPosition() : RVFilePosition();
+}
+
+qint64 RVCatalogueReader::bytesRead() const
+{
+    return d->bytesRead();
+}
+
+qint64 RVCatalogueReader::size() const
+{
+    return d->size();
+}
+
+void RVCatalogueReader::mapAny(const std::function<AnyResult(const QList<RVCatalogueProduct> &)> &work,
+                               const std::function<bool(const AnyResult &)> &take)
+{
+    QThreadPool pool;
+    pool.setMaxThreadCount(mostThreads());
+    const auto mostOrders = std::size_t(mostThreads()) * 2;
+    std::deque<std::shared_ptr<Order>> orders;
+    const auto takeFirst = [&] {
+        const std::shared_ptr<Order> first = orders.front();
+        orders.pop_front();
+        first->isDone.acquire();
+        return take(first->result);
+    };
+    bool goesOn = true;
+    while (goesOn && d->fill()) {
+        const auto order = std::make_shared<Order>();
+        order->products = d->read();
+        const auto run = [this, order, &work] {
+            d->check(order->products);
+            order->result = work(std::exchange(order->products, {}));
+            order->isDone.release();
+        };
+        orders.push_back(order);
+        // Of a small catalogue all is done before a thread would have begun.
+        if (orders.size() == 1 && !d->fill())
+            run();
+        else
+            pool.start(run);
+        if (orders.size() >= mostOrders)
+            goesOn = takeFirst();
+    }
+    while (goesOn && !orders.empty())
+        goesOn = takeFirst();
+    pool.clear();
+    pool.waitForDone();
+}

@@ -1,0 +1,148 @@
+#ifndef RVCATALOGUEREADER_H
+#define RVCATALOGUEREADER_H
+
+#include "RVCatalogueCheck.h"
+#include "RVCatalogueExport.h"
+#include "RVCatalogueProduct.h"
+#include "RVFilePosition.h"
+
+#include <QList>
+#include <QString>
+
+#include <cstddef>
+#include <functional>
+#include <iterator>
+#include <memory>
+#include <optional>
+#include <utility>
+
+class QIODevice;
+class RVCatalogueReaderPrivate;
+
+/**
+ * Reads a catalogue in one pass, product by product, so that memory does not grow with the file:
+ *
+ * @code
+ * RVCatalogueReader reader(u"products.xml"_s);
+ * for (const RVCatalogueProduct &product : reader)
+ *     qDebug() << product.type().toString() << product.pageCounts().maxPages();
+ * if (reader.hasError())
+ *     qWarning() << reader.errorPosition().line << reader.errorString();
+ * @endcode
+ *
+ * Elements named `product` count wherever they stand, and a `product` in a `product` belongs to the outer one. A file
+ * that cannot be opened, is not well-formed, ends too early, is not written in the encoding that it declares, declares
+ * entities, nests elements deeper than 256 levels, or has a product, text, comment or declaration larger than 1 MiB
+ * ends the reading with one error; the products before it stand.
+ *
+ * A reader belongs to one thread; the products that it hands out may go anywhere.
+ *
+ * @ingroup catalogues
+ */
+class RVCATALOGUE_EXPORT RVCatalogueReader
+{
+    Q_DISABLE_COPY_MOVE(RVCatalogueReader)
+
+public:
+    class Iterator;
+
+    /// Opens the file; one that cannot be opened is a catalogue with an error and without products.
+    explicit RVCatalogueReader(const QString &fileName);
+    /// @p device is open for reading, stays the caller's and outlives the reader. It is read from where it stands.
+    explicit RVCatalogueReader(QIODevice *device);
+    ~RVCatalogueReader();
+
+    /// From now on products have findings, and so has the file. Before the first product is read.
+    void setCheck(const RVCatalogueCheck &check);
+
+    /// The next product; a null one at the end and after an error.
+    RVCatalogueProduct next();
+    /// Iterates over the products that follow, once.
+    /// @{
+    Iterator begin();
+    std::nullptr_t end() noexcept { return nullptr; }
+    /// @}
+    /// All products that follow.
+    QList<RVCatalogueProduct> readAll();
+    /// The next product of that type; a null one where there is none. What stands behind it is not read.
+    RVCatalogueProduct find(const RVProductType &type);
+    /// Reads on to the end; false where the rest cannot be read. Findings of the products that are passed over are
+    /// lost.
+    bool finish();
+
+    /**
+     * Reads to the end on every core of the machine: @p work turns some products that follow one another into a result,
+     * and
+     * @p take gets the results in the order of the file, until it returns false.
+     *
+     * `Result work(const QList<RVCatalogueProduct> &)` is called on several threads at once and therefore changes
+     * nothing that they share; `bool take(Result)` is called on the caller's thread. No more products are on their way
+     * than fit into some hundred kilobytes for each core.
+     */
+    template<typename Work, typename Take>
+    void map(Work work, Take take);
+
+    /// What the check found of the file as a whole; complete once everything was read.
+    QList<RVCatalogueFinding> findings() const;
+
+    /// True when no product follows, also after an error.
+    bool atEnd();
+    bool hasError() const; ///< Not before the products that stand in front of it were read.
+    QString
+    errorString() const; ///< One line, without a full stop, in the language of the program; empty without an error.
+    RVFilePosition errorPosition() const;
+    qint64 bytesRead() const; ///< So far, to show how far it is.
+    qint64 size() const; ///< Of the file in bytes; 0 where nobody can tell, say of a pipe.
+
+private:
+    using AnyResult = std::shared_ptr<void>;
+
+    void mapAny(const std::function<AnyResult(const QList<RVCatalogueProduct> &)> &work,
+                const std::function<bool(const AnyResult &)> &take);
+
+    std::unique_ptr<RVCatalogueReaderPrivate> d;
+};
+
+/// What a range-based for loop needs: an input iterator, whose end is null.
+class RVCatalogueReader::Iterator
+{
+public:
+    using iterator_category = std::input_iterator_tag;
+    using value_type = RVCatalogueProduct;
+    using difference_type = std::ptrdiff_t;
+    using pointer = const RVCatalogueProduct *;
+    using reference = const RVCatalogueProduct &;
+
+    explicit Iterator(RVCatalogueReader *reader) : myReader(reader), myProduct(reader->next()) { }
+
+    reference operator*() const noexcept { return myProduct; }
+    pointer operator->() const noexcept { return &myProduct; }
+    Iterator &operator++()
+    {
+        myProduct = myReader->next();
+        return *this;
+    }
+    void operator++(int) { ++*this; }
+
+    friend bool operator==(const Iterator &a, std::nullptr_t) noexcept { return a.myProduct.isNull(); }
+    friend bool operator!=(const Iterator &a, std::nullptr_t) noexcept { return !a.myProduct.isNull(); }
+
+private:
+    RVCatalogueReader *myReader;
+    RVCatalogueProduct myProduct;
+};
+
+inline RVCatalogueReader::Iterator RVCatalogueReader::begin()
+{
+    return Iterator(this);
+}
+
+template<typename Work, typename Take>
+void RVCatalogueReader::map(Work work, Take take)
+{
+    using Result = decltype(work(QList<RVCatalogueProduct>()));
+    mapAny([&work](const QList<RVCatalogueProduct> &products) { return std::make_shared<Result>(work(products)); },
+           [&take](const AnyResult &result) { return bool(take(std::move(*static_cast<Result *>(result.get())))); });
+}
+
+#endif

@@ -1,0 +1,58 @@
+#ifndef RVCATALOGUERULE_H
+#define RVCATALOGUERULE_H
+
+#include "RVCatalogueExport.h"
+
+#include <QList>
+#include <QString>
+
+/// How bad a finding is: what is good to know, what is probably not meant, what goes wrong.
+/// @ingroup catalogues
+enum class RVCatalogueSeverity {
+    Note,
+    Warning,
+    Error,
+};
+
+struct RVCatalogueRuleRow;
+
+/**
+ * A rule that catalogues are checked by. Rules are fixed, so a copy costs nothing; the default rule is null, without a
+ * name.
+ *
+ * @ingroup catalogues
+ */
+class RVCATALOGUE_EXPORT RVCatalogueRule
+{
+public:
+    RVCatalogueRule() = default;
+
+    /// Every rule, grouped by subject.
+    static QList<RVCatalogueRule> all();
+    /// The rule of that name; null where there is none.
+    static RVCatalogueRule find(QStringView name);
+
+    bool isNull() const noexcept { return !myRow; }
+    QLatin1StringView name() const; ///< Such as "keyword-unknown"; it stays the same from version to version.
+    RVCatalogueSeverity severity() const; ///< Of its findings.
+    QString reason() const; ///< One sentence on why it matters, in the language of the program.
+    QByteArray example() const; ///< A catalogue in UTF-8 that breaks this rule and no other.
+
+    friend bool operator==(RVCatalogueRule a, RVCatalogueRule b) noexcept { return a.myRow == b.myRow; }
+    friend bool operator!=(RVCatalogueRule a, RVCatalogueRule b) noexcept { return !(a == b); }
+
+private:
+    friend class RVCatalogueFinding;
+
+    explicit RVCatalogueRule(const RVCatalogueRuleRow *row) : myRow(row) { }
+
+    const RVCatalogueRuleRow *myRow = nullptr;
+};
+
+Q_DECLARE_TYPEINFO(RVCatalogueRule, Q_RELOCATABLE_TYPE);
+
+/// "note", "warning" or "error".
+/// @relates RVCatalogueRule
+RVCATALOGUE_EXPORT QLatin1StringView rvSeverityName(RVCatalogueSeverity severity);
+
+#endif

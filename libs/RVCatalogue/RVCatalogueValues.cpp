@@ -1,0 +1,80 @@
+#include "RVCatalogueValues_p.h"
+
+#include <RVXMLParser.h>
+
+#include <QDomDocument>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Most numbers of a catalogue are of this kind, which needs no more than Qt's parser of bytes. A longer number may not
+/// fit its type.
+bool isPlainNumber(QByteArrayView text)
+{
+    constexpr qsizetype longest = 9;
+    return text.size() <= longest && std::all_of(text.begin(), text.end(), [](char letter) {
+               return (letter >= '0' && letter <= '9') || letter == '-' || letter == '.';
+           });
+}
+
+/// The answer of the reader that all others use; nothing where it is the default, whatever that is.
+template<typename Read>
+auto unlessDefault(const RVCatalogueElement &element, QLatin1StringView name, Read read)
+        -> std::optional<decltype(read(QDomElement(), QString(), true))>
+{
+    QDomDocument document;
+    QDomElement copy = document.createElement(u"element"_s);
+    document.appendChild(copy);
+    copy.setAttribute(name, element.attribute(name));
+    const auto value = read(copy, name, false);
+    if (value != read(copy, name, true))
+        return std::nullopt;
+    return value;
+}
+
+}
+
+std::optional<int> rvIntValue(const RVCatalogueElement &element, QLatin1StringView name)
+{
+    const QByteArrayView text = element.utf8(name);
+    if (text.isEmpty())
+        return std::nullopt;
+    bool isNumber = false;
+    const int number = isPlainNumber(text) ? text.toInt(&isNumber) : 0;
+    if (isNumber)
+        return number;
+    return unlessDefault(element, name, [](const QDomElement &copy, const QString &copiedName, int defaultValue) {
+        return RVXMLParser::intAttribute(copy, copiedName, defaultValue);
+    });
+}
+
+std::optional<double> rvDoubleValue(const RVCatalogueElement &element, QLatin1StringView name)
+{
+    const QByteArrayView text = element.utf8(name);
+    if (text.isEmpty())
+        return std::nullopt;
+    bool isNumber = false;
+    const double number = isPlainNumber(text) ? text.toDouble(&isNumber) : 0;
+    if (isNumber)
+        return number;
+    return unlessDefault(element, name, [](const QDomElement &copy, const QString &copiedName, qreal defaultValue) {
+        return RVXMLParser::doubleAttribute(copy, copiedName, defaultValue);
+    });
+}
+
+std::optional<bool> rvBoolValue(const RVCatalogueElement &element, QLatin1StringView name)
+{
+    const QByteArrayView text = element.utf8(name);
+    if (text == "true")
+        return true;
+    if (text == "false")
+        return false;
+    if (text.isEmpty())
+        return std::nullopt;
+    return unlessDefault(element, name, [](const QDomElement &copy, const QString &copiedName, bool defaultValue) {
+        return RVXMLParser::boolAttribute(copy, copiedName, defaultValue);
+    });
+}

@@ -1,0 +1,42 @@
+#include "RVFilePosition_p.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+/// How many columns a byte makes: continuation bytes are none, and the longest letters are two code units of UTF-16.
+int columns(char byte)
+{
+    const auto bits = uchar(byte);
+    if ((bits & 0xc0) == 0x80)
+        return 0;
+    return bits >= 0xf0 ? 2 : 1;
+}
+
+/// The first end of a line, behind which the next one begins; null where there is none.
+const char *lineEnd(const char *begin, const char *end, char next)
+{
+    const auto size = std::size_t(end - begin);
+    const auto *lineFeed = static_cast<const char *>(std::memchr(begin, '\n', size));
+    const auto *searchEnd = lineFeed ? lineFeed : end;
+    const auto *carriageReturn = static_cast<const char *>(std::memchr(begin, '\r', std::size_t(searchEnd - begin)));
+    if (!carriageReturn || carriageReturn + 1 == lineFeed)
+        return lineFeed;
+    return carriageReturn + 1 == end && next == '\n' ? nullptr : carriageReturn;
+}
+
+}
+
+RVFilePosition rvAdvanced(const RVFilePosition &position, QByteArrayView text, char next)
+{
+    RVFilePosition result = position;
+    const char *begin = text.begin();
+    while (const char *end = lineEnd(begin, text.end(), next)) {
+        ++result.line;
+        result.column = 1;
+        begin = end + 1;
+    }
+    std::for_each(begin, text.end(), [&result](char byte) { result.column += columns(byte); });
+    return result;
+}

@@ -1,0 +1,403 @@
+#include "RVXmlScanner_p.h"
+
+#include "RVFilePosition_p.h"
+
+#include <QIODevice>
+#include <QUtf8StringView>
+
+#include <libxml/parser.h>
+#include <libxml/xmlerror.h>
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int DEEPEST_LEVEL = 256;
+constexpr qint64 LARGEST_PIECE = qint64(1024) * 1024;
+/// The parser compares each attribute of a tag with all others, so a tag has to end while that takes no time.
+constexpr qint64 LARGEST_TAG = qint64(64) * 1024;
+/// The parser is given so much at once, and looks at a tag when it has come to its end.
+constexpr qsizetype BITE = qsizetype(16) * 1024;
+
+/// The text is in UTF-8, whatever its first line says, and references come as the letters that they stand for.
+constexpr int OPTIONS = XML_PARSE_NONET | XML_PARSE_IGNORE_ENC | XML_PARSE_NOENT;
+
+#if LIBXML_VERSION >= 21200
+using ParserError = const xmlError *;
+#else
+using ParserError = xmlError *;
+#endif
+
+/// The letter at the begin of a text in UTF-8; nothing where there is none.
+std::optional<char32_t> letterIn(QByteArrayView text)
+{
+    constexpr qsizetype longestLetter = 4;
+    for (qsizetype size = 1; size <= qMin(text.size(), longestLetter); ++size) {
+        if (QUtf8StringView(text.data(), size).isValidUtf8())
+            return QString::fromUtf8(text.first(size)).toUcs4().constFirst();
+    }
+    return std::nullopt;
+}
+
+/// A name as a message can show it.
+QString shown(QByteArrayView name)
+{
+    constexpr qsizetype longest = 60;
+    return name.size() <= longest ? QString::fromUtf8(name) : QString::fromUtf8(name.first(longest)) + u'…';
+}
+
+QString codePoint(char32_t letter)
+{
+    return "U+"_L1 + QString::number(uint(letter), 16).toUpper().rightJustified(4, u'0');
+}
+
+/// The name of a tag.
+QByteArrayView nameOf(QByteArrayView tag)
+{
+    const auto isBehind = [](char letter) {
+        return letter == ' ' || letter == '>' || letter == '/' || letter == '\n' || letter == '\t' || letter == '\r';
+    };
+    const auto *end = std::find_if(tag.begin() + 1, tag.end(), isBehind);
+    return tag.sliced(1).first(end - tag.begin() - 1);
+}
+
+/// The place of the last "<"; 0 where there is none.
+qsizetype lastTag(QByteArrayView text)
+{
+    const void *found = ::memrchr(text.data(), '<', std::size_t(text.size()));
+    return found ? static_cast<const char *>(found) - text.data() : 0;
+}
+
+}
+
+QByteArray RVXmlTag::attributeName(int index) const
+{
+    const unsigned char *const *attribute = attributes + index * 5;
+    const QByteArray localName(reinterpret_cast<const char *>(attribute[0]));
+    return attribute[1] ? QByteArray(reinterpret_cast<const char *>(attribute[1])) + ':' + localName : localName;
+}
+
+QByteArrayView RVXmlTag::attributeValue(int index) const
+{
+    const unsigned char *const *attribute = attributes + index * 5;
+    return { attribute[3], attribute[4] };
+}
+
+RVXmlHandler::~RVXmlHandler() = default;
+
+/// What the parser calls.
+struct RVXmlScanner::Events
+{
+    static RVXmlScanner *scanner(void *data) { return static_cast<RVXmlScanner *>(data); }
+    static void start(void *data, const xmlChar *, const xmlChar *, const xmlChar *, int, const xmlChar **,
+                      int attributes, int defaultAttributes, const xmlChar **values)
+    {
+        scanner(data)->startElement(values, attributes - defaultAttributes, attributes);
+    }
+    static void end(void *data, const xmlChar *, const xmlChar *, const xmlChar *) { scanner(data)->endElement(); }
+    static void comment(void *data, const xmlChar *) { scanner(data)->passOver(); }
+    static void instruction(void *data, const xmlChar *, const xmlChar *) { scanner(data)->passOver(); }
+    static void declare(void *data, const xmlChar *, int, const xmlChar *, const xmlChar *, xmlChar *)
+    {
+        scanner(data)->refuseEntity();
+    }
+    static void declareUnparsed(void *data, const xmlChar *, const xmlChar *, const xmlChar *, const xmlChar *)
+    {
+        scanner(data)->refuseEntity();
+    }
+    static void error(void *data, ParserError error) { scanner(data)->judge(*error); }
+
+    static xmlSAXHandler table()
+    {
+        xmlSAXHandler result {};
+        result.initialized = XML_SAX2_MAGIC;
+        result.startElementNs = start;
+        result.endElementNs = end;
+        result.comment = comment;
+        result.processingInstruction = instruction;
+        result.entityDecl = declare;
+        result.unparsedEntityDecl = declareUnparsed;
+        result.serror = error;
+        return result;
+    }
+};
+
+void RVXmlScanner::FreeParser::operator()(_xmlParserCtxt *parser) const
+{
+    xmlFreeDoc(parser->myDoc); // the parser makes one for a document type
+    xmlFreeParserCtxt(parser);
+}
+
+RVXmlScanner::RVXmlScanner(QIODevice *device, RVXmlHandler *handler) : mySource(device), myHandler(handler)
+{
+    xmlInitParser();
+    xmlSAXHandler events = Events::table();
+    myParser.reset(xmlCreatePushParserCtxt(&events, this, nullptr, 0, nullptr));
+    xmlCtxtUseOptions(myParser.get(), OPTIONS);
+}
+
+RVXmlScanner::~RVXmlScanner() = default;
+
+QString RVXmlScanner::openError(const QIODevice &file)
+{
+    return tr("cannot open the file: %1").arg(file.errorString());
+}
+
+bool RVXmlScanner::scan()
+{
+    if (myIsAtEnd)
+        return false;
+    const QByteArray text = mySource.read();
+    if (text.isEmpty()) {
+        end();
+        return false;
+    }
+    myWindow.remove(0, myEvent);
+    myWindowBegin += std::exchange(myEvent, 0);
+    myWindow += text;
+    for (qsizetype begin = 0; begin < text.size() && myError.isEmpty(); begin += BITE)
+        bite(QByteArrayView(text).sliced(begin, qMin(BITE, text.size() - begin)));
+    return !myIsAtEnd;
+}
+
+void RVXmlScanner::bite(QByteArrayView text)
+{
+    if (!myHasMarkup && !isXml(text))
+        return;
+    xmlParseChunk(myParser.get(), text.data(), int(text.size()), 0);
+    myFed += text.size();
+    if (!myError.isEmpty())
+        return;
+    checkPiece(myFed);
+    if (myFed - parsed() > LARGEST_TAG && textFrom(parsed()).startsWith('<') && textFrom(parsed()).size() > 1
+        && !std::strchr("!?", textFrom(parsed())[1]))
+        failAt(tr("a tag is larger than 64 KiB"), parsed());
+}
+
+// Nothing but blanks stands in front of the first "<". The parser would complain of whatever else it is.
+bool RVXmlScanner::isXml(QByteArrayView text)
+{
+    const auto *visible = std::find_if_not(text.begin(), text.end(), [](char letter) {
+        return letter == ' ' || letter == '\t' || letter == '\r' || letter == '\n';
+    });
+    myHasMarkup = visible != text.end();
+    if (myHasMarkup && *visible != '<')
+        failAt(tr("this is no XML"), myFed + (visible - text.begin()));
+    return myError.isEmpty();
+}
+
+void RVXmlScanner::end()
+{
+    if (mySource.bytesRead() == 0 && mySource.fault().isEmpty())
+        return fail(tr("the file is empty"), RVFilePosition());
+    if (!mySource.fault().isEmpty())
+        return failAt(mySource.fault(), myFed);
+    myIsEnding = true;
+    xmlParseChunk(myParser.get(), nullptr, 0, 1);
+    myIsAtEnd = true;
+}
+
+void RVXmlScanner::startElement(const unsigned char *const *attributes, int givenAttributes, int allAttributes)
+{
+    if (!myError.isEmpty())
+        return;
+    // No letter of a tag is "<" but its first.
+    const qint64 end = parsed();
+    moveTo(myWindowBegin + lastTag(textBefore(end)));
+    const QByteArrayView text = QByteArrayView(myWindow).sliced(myEvent);
+    const qsizetype size = end - myWindowBegin - myEvent;
+    const QByteArrayView tag = text.first(qMin(text.size(), size + (text.sliced(size).startsWith('/') ? 2 : 1)));
+    if (!myHandler->isInPiece())
+        beginPiece(myWindowBegin + myEvent);
+    myHasElements = true;
+    myOpenElements.push_back({ nameOf(tag).toByteArray(), myPosition.line });
+    if (myOpenElements.size() > DEEPEST_LEVEL)
+        return fail(tr("elements are nested deeper than %1 levels").arg(DEEPEST_LEVEL), myPosition);
+    myHandler->startElement({ tag, nameOf(tag), attributes, givenAttributes, allAttributes, myPosition });
+    passOver();
+}
+
+void RVXmlScanner::endElement()
+{
+    if (!myError.isEmpty() || myOpenElements.empty())
+        return;
+    myOpenElements.pop_back();
+    checkPiece(parsed());
+    if (!myError.isEmpty())
+        return;
+    myHandler->endElement();
+    passOver();
+}
+
+// Something that is no product has come to its end.
+void RVXmlScanner::passOver()
+{
+    if (!myError.isEmpty())
+        return;
+    checkPiece(parsed());
+    if (!myHandler->isInPiece())
+        beginPiece(parsed());
+}
+
+void RVXmlScanner::refuseEntity()
+{
+    const qsizetype begin = textBefore(parsed()).lastIndexOf("<!ENTITY");
+    failAt(tr("entity declarations are not supported"), myWindowBegin + begin);
+}
+
+void RVXmlScanner::refuseUnknownEntity(const QString &name, QByteArrayView before)
+{
+    const qsizetype reference = before.lastIndexOf('&');
+    const qsizetype parameter = before.lastIndexOf('%');
+    if (parameter > reference)
+        return failAt(tr("parameter entities are not supported"), myWindowBegin + parameter);
+    failAt(tr("the entity \"%1\" is not declared; write the letter itself").arg(name), myWindowBegin + reference);
+}
+
+/// So many bytes of the text the parser has behind it.
+qint64 RVXmlScanner::parsed() const
+{
+    return xmlByteConsumed(myParser.get());
+}
+
+QByteArrayView RVXmlScanner::textBefore(qint64 index) const
+{
+    return QByteArrayView(myWindow).first(index - myWindowBegin);
+}
+
+QByteArrayView RVXmlScanner::textFrom(qint64 index) const
+{
+    return QByteArrayView(myWindow).sliced(index - myWindowBegin);
+}
+
+RVFilePosition RVXmlScanner::position(qint64 index) const
+{
+    const qsizetype place = index - myWindowBegin;
+    const char next = place < myWindow.size() ? myWindow.at(place) : '\0';
+    return rvAdvanced(myPosition, QByteArrayView(myWindow).sliced(myEvent, place - myEvent), next);
+}
+
+void RVXmlScanner::moveTo(qint64 index)
+{
+    myPosition = position(index);
+    myEvent = index - myWindowBegin;
+}
+
+void RVXmlScanner::beginPiece(qint64 index)
+{
+    myPieceBegin = index;
+    myPiecePosition = myPosition;
+}
+
+void RVXmlScanner::checkPiece(qint64 end)
+{
+    if (end - myPieceBegin > LARGEST_PIECE && myError.isEmpty())
+        fail(tr("an element, text, comment or declaration is larger than 1 MiB"), myPiecePosition);
+}
+
+void RVXmlScanner::fail(const QString &error, const RVFilePosition &position)
+{
+    if (!myError.isEmpty())
+        return;
+    myError = error;
+    myErrorPosition = position;
+    myIsAtEnd = true;
+    xmlStopParser(myParser.get());
+}
+
+void RVXmlScanner::failAt(const QString &error, qint64 index)
+{
+    fail(error, position(qBound(myWindowBegin + myEvent, index, myWindowBegin + myWindow.size())));
+}
+
+// What the parser complains of at the end of the file is that it is the end.
+void RVXmlScanner::failEarly()
+{
+    if (myOpenElements.empty())
+        return failAt(tr("the file ends too early"), myFed);
+    const OpenElement &open = myOpenElements.back();
+    failAt(tr("the file ends too early: <%1>, which was opened in line %2, is not closed")
+                   .arg(shown(open.name), QString::number(open.line)),
+           myFed);
+}
+
+void RVXmlScanner::judge(const _xmlError &error)
+{
+    const bool isUnknownEntity = error.code == XML_ERR_UNDECLARED_ENTITY || error.code == XML_WAR_UNDECLARED_ENTITY;
+    if (!myError.isEmpty() || (error.level != XML_ERR_FATAL && !isUnknownEntity))
+        return;
+    const qint64 index = qBound(myWindowBegin + myEvent, parsed(), myWindowBegin + myWindow.size());
+    const QByteArrayView before = textBefore(index);
+    if (isUnknownEntity)
+        return refuseUnknownEntity(shown(QByteArrayView(error.str1)), before);
+    if (error.code == XML_ERR_TAG_NAME_MISMATCH && !myOpenElements.empty() && !before.isEmpty())
+        return failAt(wrongEnd(before), myWindowBegin + lastTag(before));
+    if (myIsEnding && (!myOpenElements.empty() || error.code == XML_ERR_DOCUMENT_EMPTY || !myHasElements))
+        return failEarly();
+    failAt(wrongLetter(textFrom(index)).value_or(parserError(error, before)), index);
+}
+
+QString RVXmlScanner::wrongEnd(QByteArrayView text) const
+{
+    const OpenElement &open = myOpenElements.back();
+    const QByteArrayView tag = text.sliced(qMin(lastTag(text) + 1, text.size() - 1));
+    return tr("</%1> closes <%2>, which was opened in line %3")
+            .arg(shown(nameOf(tag)), shown(open.name), QString::number(open.line));
+}
+
+/// Why a letter cannot stand in XML, where that is so.
+std::optional<QString> RVXmlScanner::wrongLetter(QByteArrayView text) const
+{
+    const std::optional<char32_t> letter = letterIn(text);
+    if (!letter)
+        return text.isEmpty() ? std::nullopt : std::optional(mySource.wrongEncodingText());
+    const bool isControl = *letter < 0x20 && !std::strchr("\t\r\n", int(*letter));
+    if (!isControl && *letter != 0 && *letter != 0xfffe && *letter != 0xffff)
+        return std::nullopt;
+    return tr("the character %1 is not allowed in XML").arg(codePoint(*letter));
+}
+
+QString RVXmlScanner::parserError(const _xmlError &error, QByteArrayView before) const
+{
+    const QString bareAmpersand = tr("\"&\" does not begin an entity here; the letter itself is written \"&amp;\"");
+    switch (error.code) {
+    case XML_ERR_ATTRIBUTE_REDEFINED:
+        return tr("the attribute \"%1\" is there twice").arg(shown(QByteArrayView(error.str1)));
+    case XML_ERR_ATTRIBUTE_NOT_STARTED:
+        return tr("the value of an attribute stands in quotes");
+    case XML_ERR_ATTRIBUTE_WITHOUT_VALUE:
+        return tr("the attribute \"%1\" has no value").arg(shown(QByteArrayView(error.str1)));
+    case XML_ERR_LT_IN_ATTRIBUTE:
+        return tr("\"<\" is written \"&lt;\" in a value");
+    case XML_ERR_NAME_REQUIRED:
+        return before.endsWith('<') ? tr("\"<\" does not begin a tag here; the letter itself is written \"&lt;\"")
+                                    : bareAmpersand;
+    case XML_ERR_ENTITYREF_SEMICOL_MISSING:
+        return bareAmpersand;
+    case XML_ERR_INVALID_CHAR:
+    case XML_ERR_INVALID_CHARREF:
+    case XML_ERR_INVALID_DEC_CHARREF:
+    case XML_ERR_INVALID_HEX_CHARREF:
+        return tr("this reference names no character that XML allows");
+    case XML_ERR_SPACE_REQUIRED:
+        return tr("a blank is missing here");
+    case XML_ERR_GT_REQUIRED:
+        return tr("\">\" is missing here");
+    case XML_ERR_DOCUMENT_END:
+        return tr("nothing but comments may follow the end of the root element");
+    case XML_ERR_DOCUMENT_EMPTY:
+        return tr("nothing but comments may stand in front of the root element");
+    case XML_ERR_HYPHEN_IN_COMMENT:
+        return tr("\"--\" cannot stand in a comment");
+    case XML_ERR_MISPLACED_CDATA_END:
+        return tr("\"]]>\" is written \"]]&gt;\" in a text");
+    case XML_ERR_RESERVED_XML_NAME:
+        return tr("the declaration \"<?xml\" must be the first of the file");
+    default:
+        return QString::fromUtf8(error.message).simplified();
+    }
+}

@@ -1,0 +1,244 @@
+#include "RVXmlSource_p.h"
+
+#include <QIODevice>
+
+#include <iconv.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 PIECE = 64 * 1024;
+/// A declaration is shorter than this.
+constexpr qint64 LONGEST_DECLARATION = 1024;
+
+/// An encoding that the first bytes give away: by a byte order mark, or by the letter "<".
+struct Beginning
+{
+    QByteArrayView bytes;
+    const char *encoding;
+    bool isMark;
+};
+
+// The longer ones first: the mark of UTF-32 begins with that of UTF-16.
+const Beginning BEGINNINGS[] = {
+    { QByteArrayView("\x00\x00\xfe\xff", 4), "UTF-32BE", true },
+    { QByteArrayView("\xff\xfe\x00\x00", 4), "UTF-32LE", true },
+    { QByteArrayView("\x00\x00\x00<", 4), "UTF-32BE", false },
+    { QByteArrayView("<\x00\x00\x00", 4), "UTF-32LE", false },
+    { QByteArrayView("\xef\xbb\xbf", 3), "UTF-8", true },
+    { QByteArrayView("\xfe\xff", 2), "UTF-16BE", true },
+    { QByteArrayView("\xff\xfe", 2), "UTF-16LE", true },
+    { QByteArrayView("\x00<", 2), "UTF-16BE", false },
+    { QByteArrayView("<\x00", 2), "UTF-16LE", false },
+};
+
+/// The name in the declaration; empty where the text has no declaration, or one without an encoding.
+QByteArray declaredEncoding(QByteArrayView text)
+{
+    const qsizetype end = text.indexOf("?>");
+    if (!text.startsWith("<?xml") || end < 0)
+        return QByteArray();
+    const QByteArray declaration = text.first(end).toByteArray();
+    const qsizetype keyword = declaration.indexOf("encoding");
+    const qsizetype equals = keyword < 0 ? -1 : declaration.indexOf('=', keyword);
+    if (equals < 0)
+        return QByteArray();
+    const QByteArray value = declaration.sliced(equals + 1).trimmed();
+    const qsizetype valueEnd = value.isEmpty() ? -1 : value.indexOf(value.front(), 1);
+    return valueEnd < 0 ? QByteArray() : value.sliced(1, valueEnd - 1);
+}
+
+bool isName(const QByteArray &encoding)
+{
+    return std::all_of(encoding.begin(), encoding.end(), [](char letter) {
+        return (letter >= 'A' && letter <= 'Z') || (letter >= 'a' && letter <= 'z') || (letter >= '0' && letter <= '9')
+                || std::strchr("._-:", letter);
+    });
+}
+
+bool isUtf8(const QByteArray &encoding)
+{
+    return encoding.compare("UTF-8", Qt::CaseInsensitive) == 0 || encoding.compare("UTF8", Qt::CaseInsensitive) == 0;
+}
+
+/// The name without the order of the bytes, which the first of them tell.
+QByteArray familyOf(const QByteArray &found)
+{
+    return isUtf8(found) ? found : found.chopped(2);
+}
+
+/// True where a text in the one encoding may call it by the other name.
+bool isSameFamily(const QByteArray &found, const QByteArray &declared)
+{
+    if (isUtf8(found))
+        return isUtf8(declared);
+    const QByteArray upper = declared.toUpper();
+    return upper == found || upper == familyOf(found)
+            || upper == (found.startsWith("UTF-16") ? "ISO-10646-UCS-2" : "ISO-10646-UCS-4");
+}
+
+}
+
+struct RVXmlSource::Converter
+{
+    Q_DISABLE_COPY_MOVE(Converter)
+
+    explicit Converter(const QByteArray &encoding) : handle(::iconv_open("UTF-8", encoding.constData())) { }
+    ~Converter()
+    {
+        if (isKnown())
+            ::iconv_close(handle);
+    }
+
+    bool isKnown() const { return handle != iconv_t(-1); } // NOLINT(performance-no-int-to-ptr): so is the error defined
+
+    /// Appends what can be converted; the bytes that are left over. False where they are wrong.
+    bool convert(QByteArray *bytes, QByteArray *text) const
+    {
+        char *from = bytes->data();
+        std::size_t left = std::size_t(bytes->size());
+        bool isRight = true;
+        while (left > 0 && isRight) {
+            QByteArray piece(qsizetype(left) * 2 + 16, Qt::Uninitialized);
+            char *to = piece.data();
+            std::size_t room = std::size_t(piece.size());
+            const bool isDone = ::iconv(handle, &from, &left, &to, &room) != std::size_t(-1);
+            text->append(piece.constData(), piece.size() - qsizetype(room));
+            if (!isDone && errno == EINVAL)
+                break;
+            isRight = isDone || errno == E2BIG;
+        }
+        *bytes = bytes->last(qsizetype(left));
+        return isRight;
+    }
+
+    iconv_t handle;
+};
+
+RVXmlSource::RVXmlSource(QIODevice *device) : myDevice(device) { }
+
+RVXmlSource::~RVXmlSource() = default;
+
+QByteArray RVXmlSource::read()
+{
+    if (!myFault.isEmpty())
+        return QByteArray();
+    const QByteArray bytes = myHasBegun ? readDevice(PIECE) : readBegin();
+    if (!myConverter)
+        return bytes;
+    const QByteArray text = converted(myRest + bytes);
+    // A piece may be but a part of a letter.
+    return text.isEmpty() && !bytes.isEmpty() ? read() : text;
+}
+
+QString RVXmlSource::wrongEncodingText() const
+{
+    switch (myOrigin) {
+    case Origin::Default:
+        return tr("this is not encoded in UTF-8, as files are that do not say otherwise in their first line");
+    case Origin::Declaration:
+        return tr("this is not encoded in %1, which the first line of the file declares")
+                .arg(QString::fromLatin1(myEncoding));
+    case Origin::FirstBytes:
+        break;
+    }
+    return tr("this is not encoded in %1, in which the file begins").arg(QString::fromLatin1(familyOf(myEncoding)));
+}
+
+QByteArray RVXmlSource::readDevice(qint64 size)
+{
+    QByteArray bytes(size, Qt::Uninitialized);
+    const qint64 read = myDevice->read(bytes.data(), size);
+    // A device that has come to its end may say so in this way too.
+    if (read < 0 && !myDevice->atEnd())
+        myFault = tr("cannot read on: %1").arg(myDevice->errorString());
+    bytes.truncate(qMax(read, qint64(0)));
+    myBytesRead += bytes.size();
+    return bytes;
+}
+
+QByteArray RVXmlSource::readBegin()
+{
+    myHasBegun = true;
+    QByteArray bytes;
+    QByteArray piece;
+    do {
+        piece = readDevice(PIECE);
+        bytes += piece;
+    } while (!piece.isEmpty() && bytes.size() < LONGEST_DECLARATION);
+    const QString deviceFault = std::exchange(myFault, QString());
+    decideOnEncoding(&bytes);
+    if (!myFault.isEmpty())
+        return QByteArray();
+    myFault = deviceFault; // behind what was read
+    return bytes;
+}
+
+void RVXmlSource::decideOnEncoding(QByteArray *bytes)
+{
+    const auto *found = std::find_if(std::begin(BEGINNINGS), std::end(BEGINNINGS),
+                                     [&](const Beginning &each) { return bytes->startsWith(each.bytes); });
+    if (found == std::end(BEGINNINGS))
+        return beginAsDeclared(*bytes);
+    if (found->isMark)
+        bytes->remove(0, found->bytes.size());
+    beginAs(found->encoding, *bytes);
+}
+
+// The letters of the declaration are those of ASCII, so it can be read before its encoding is known.
+void RVXmlSource::beginAsDeclared(const QByteArray &bytes)
+{
+    const QByteArray declared = declaredEncoding(bytes.first(qMin(bytes.size(), LONGEST_DECLARATION)));
+    myOrigin = declared.isEmpty() ? Origin::Default : Origin::Declaration;
+    myEncoding = declared.isEmpty() ? QByteArray("UTF-8") : declared;
+    if (isUtf8(myEncoding))
+        return;
+    myConverter = std::make_unique<Converter>(isName(myEncoding) ? myEncoding : QByteArray("no name"));
+    if (!myConverter->isKnown())
+        myFault = tr("the encoding \"%1\", which the first line of the file declares, is not known; UTF-8 always is")
+                          .arg(QString::fromUtf8(myEncoding));
+    else if (!decoded(bytes).startsWith("<?xml"))
+        myFault = tr("the first line of the file declares %1, but is not encoded in it")
+                          .arg(QString::fromLatin1(myEncoding));
+}
+
+// The declaration may say so too, but nothing else.
+void RVXmlSource::beginAs(const QByteArray &encoding, const QByteArray &bytes)
+{
+    myEncoding = encoding;
+    if (!isUtf8(encoding))
+        myConverter = std::make_unique<Converter>(encoding);
+    const QByteArray declared = declaredEncoding(decoded(bytes));
+    myOrigin = Origin::FirstBytes;
+    if (!declared.isEmpty() && !isSameFamily(encoding, declared))
+        myFault = tr("the file begins like one in %1, but its first line declares %2; save it in %2, or declare %1")
+                          .arg(QString::fromLatin1(familyOf(encoding)), QString::fromUtf8(declared));
+}
+
+/// The begin of the file.
+QByteArray RVXmlSource::decoded(const QByteArray &bytes) const
+{
+    QByteArray begin = bytes.first(qMin(bytes.size(), LONGEST_DECLARATION));
+    if (!myConverter)
+        return begin;
+    QByteArray text;
+    myConverter->convert(&begin, &text);
+    return text;
+}
+
+QByteArray RVXmlSource::converted(const QByteArray &bytes)
+{
+    QByteArray text;
+    const bool isAtEnd = bytes.size() == myRest.size();
+    myRest = bytes;
+    const bool isRight = myConverter->convert(&myRest, &text);
+    if (!isRight || (isAtEnd && !myRest.isEmpty()))
+        myFault = wrongEncodingText();
+    return text;
+}
