@@ -42,7 +42,7 @@ public:
     friend bool operator!=(RVCatalogueRule a, RVCatalogueRule b) noexcept { return !(a == b); }
 
 private:
-    friend class RVCatalogueFinding;
+    friend struct RVCatalogueRuleRow;
 
     explicit RVCatalogueRule(const RVCatalogueRuleRow *row) : myRow(row) { }
 

@@ -1,0 +1,331 @@
+#ifndef RVCATALOGUERULETABLE_P_H
+#define RVCATALOGUERULETABLE_P_H
+
+#include "RVCatalogueRule.h"
+
+#include <QLatin1StringView>
+#include <QtGlobal>
+
+#include <cstddef>
+#include <iterator>
+
+/// The rules, in the order of the table below.
+enum class RVCatalogueRuleId {
+    ProductsMissing,
+    TypeMissing,
+    TypeDuplicate,
+    ArticleIdMissing,
+    ArticleIdInvalid,
+    ArticleIdDuplicate,
+    ShippingGroupInvalid,
+    ElementIgnored,
+    NumberInvalid,
+    BooleanInvalid,
+    UnitUnknown,
+    KeywordUnknown,
+    KeywordLegacy,
+    PageCountsReversed,
+    PageCountsInvalid,
+    PageStepMissesHighest,
+    SpineMissing,
+    SpineNegative,
+    SpineFontTooSmall,
+    OptionIncomplete,
+    OptionDuplicate,
+    OptionDefaultTwice,
+    OptionDefaultMissing,
+    OptionColorInvalid,
+    OptionCompositeMismatch,
+    BarcodeInvalid,
+    BarcodePageImpossible,
+    BarcodeOutsidePage,
+    BarcodeOverlap,
+    PriceClassUnknown,
+};
+constexpr std::size_t RV_CATALOGUE_RULE_COUNT = std::size_t(RVCatalogueRuleId::PriceClassUnknown) + 1;
+
+/// All that is said of a rule.
+struct RVCatalogueRuleRow
+{
+    static RVCatalogueRule rule(RVCatalogueRuleId id);
+    /// The row of a rule; null for a null one.
+    static const RVCatalogueRuleRow *of(RVCatalogueRule rule) { return rule.myRow; }
+
+    RVCatalogueRuleId id;
+    QLatin1StringView name;
+    RVCatalogueSeverity severity;
+    const char *reason; // a source text of RVFindingText
+    const char *example;
+};
+
+// clang-format off
+inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
+    { RVCatalogueRuleId::ProductsMissing, QLatin1StringView("products-missing"), RVCatalogueSeverity::Error,
+      QT_TRANSLATE_NOOP("RVFindingText", "A file without a product is no catalogue: nothing of it can be ordered."),
+      R"(<products>
+  <family name="Photo books"/>
+</products>
+)" },
+    { RVCatalogueRuleId::TypeMissing, QLatin1StringView("type-missing"), RVCatalogueSeverity::Error,
+      QT_TRANSLATE_NOOP("RVFindingText", "Projects find their product by its type, so one without a type cannot be ordered."),
+      R"(<products>
+  <product article_id="1001"/>
+</products>
+)" },
+    { RVCatalogueRuleId::TypeDuplicate, QLatin1StringView("type-duplicate"), RVCatalogueSeverity::Error,
+      QT_TRANSLATE_NOOP("RVFindingText", "Of two products of one type the application only ever finds the first, and the codes of a photo book family are one type."),
+      R"(<products>
+  <product type="DUN9" article_id="1001"/>
+  <product type="DUN9_30" article_id="1002"/>
+</products>
+)" },
+    { RVCatalogueRuleId::ArticleIdMissing, QLatin1StringView("article-id-missing"), RVCatalogueSeverity::Error,
+      QT_TRANSLATE_NOOP("RVFindingText", "Shop and production know an article by its id."),
+      R"(<products>
+  <product type="DUN9"/>
+</products>
+)" },
+    { RVCatalogueRuleId::ArticleIdInvalid, QLatin1StringView("article-id-invalid"), RVCatalogueSeverity::Error,
+      QT_TRANSLATE_NOOP("RVFindingText", "An article id is a whole number above 0; anything else is read as no id."),
+      R"(<products>
+  <product type="DUN9" article_id="10-01"/>
+</products>
+)" },
+    { RVCatalogueRuleId::ArticleIdDuplicate, QLatin1StringView("article-id-duplicate"), RVCatalogueSeverity::Error,
+      QT_TRANSLATE_NOOP("RVFindingText", "Two products with one article id are the same article to shop and production."),
+      R"(<products>
+  <product type="DUN5" article_id="1001"/>
+  <product type="DUN9" article_id="1001"/>
+</products>
+)" },
+    { RVCatalogueRuleId::ShippingGroupInvalid, QLatin1StringView("shipping-group-invalid"), RVCatalogueSeverity::Error,
+      QT_TRANSLATE_NOOP("RVFindingText", "A shipping group that is no whole number, or -1, is none, so the product is shipped with nothing else."),
+      R"(<products>
+  <product type="DUN9" article_id="1001" shipping_group="books"/>
+</products>
+)" },
+    { RVCatalogueRuleId::ElementIgnored, QLatin1StringView("element-ignored"), RVCatalogueSeverity::Error,
+      QT_TRANSLATE_NOOP("RVFindingText", "Only the first element of each kind in a product is read, so what the others say is lost."),
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <forms>
+      <form key="alcolor" value="black"/>
+    </forms>
+    <forms>
+      <form key="coverphoto" value="yes"/>
+    </forms>
+  </product>
+</products>
+)" },
+    { RVCatalogueRuleId::NumberInvalid, QLatin1StringView("number-invalid"), RVCatalogueSeverity::Error,
+      QT_TRANSLATE_NOOP("RVFindingText", "What cannot be read as a number silently becomes the default."),
+      R"(<products>
+  <product type="DUN9" article_id="1001" pages="26 pages"/>
+</products>
+)" },
+    { RVCatalogueRuleId::BooleanInvalid, QLatin1StringView("boolean-invalid"), RVCatalogueSeverity::Error,
+      QT_TRANSLATE_NOOP("RVFindingText", "What is none of true, false, 1, 0, yes, no, on and off silently becomes the default."),
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <forms>
+      <form key="alcolor" value="black" not_accountable="maybe"/>
+    </forms>
+  </product>
+</products>
+)" },
+    { RVCatalogueRuleId::UnitUnknown, QLatin1StringView("unit-unknown"), RVCatalogueSeverity::Error,
+      QT_TRANSLATE_NOOP("RVFindingText", "Lengths in an unknown unit are read as millimetres."),
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <composition units="metres">
+      <spine base_width="0.008"/>
+    </composition>
+  </product>
+</products>
+)" },
+    { RVCatalogueRuleId::KeywordUnknown, QLatin1StringView("keyword-unknown"), RVCatalogueSeverity::Error,
+      QT_TRANSLATE_NOOP("RVFindingText", "A keyword that nobody knows silently becomes the default of its attribute."),
+      R"(<products>
+  <product type="DUN9" article_id="1001" cover_type="hardcovr"/>
+</products>
+)" },
+    { RVCatalogueRuleId::KeywordLegacy, QLatin1StringView("keyword-legacy"), RVCatalogueSeverity::Note,
+      QT_TRANSLATE_NOOP("RVFindingText", "An alias is still read, but a program that writes the value uses its main keyword."),
+      R"(<products>
+  <product type="DUN9" article_id="1001" cover_type="hard"/>
+</products>
+)" },
+    { RVCatalogueRuleId::PageCountsReversed, QLatin1StringView("page-counts-reversed"), RVCatalogueSeverity::Error,
+      QT_TRANSLATE_NOOP("RVFindingText", "With a lowest page count above the highest no count can be chosen."),
+      R"(<products>
+  <product type="DUN9" article_id="1001" pages="154" max_pages="26" page_step="4"/>
+</products>
+)" },
+    { RVCatalogueRuleId::PageCountsInvalid, QLatin1StringView("page-counts-invalid"), RVCatalogueSeverity::Error,
+      QT_TRANSLATE_NOOP("RVFindingText", "Without valid page counts the product cannot be ordered."),
+      R"(<products>
+  <product type="DUN9" article_id="1001" pages="26" max_pages="154"/>
+</products>
+)" },
+    { RVCatalogueRuleId::PageStepMissesHighest, QLatin1StringView("page-step-misses-highest"), RVCatalogueSeverity::Warning,
+      QT_TRANSLATE_NOOP("RVFindingText", "The highest page count can never be reached when the steps do not meet it."),
+      R"(<products>
+  <product type="DUN9" article_id="1001" pages="26" max_pages="154" page_step="6"/>
+</products>
+)" },
+    { RVCatalogueRuleId::SpineMissing, QLatin1StringView("spine-missing"), RVCatalogueSeverity::Error,
+      QT_TRANSLATE_NOOP("RVFindingText", "A glued or lay-flat book has a spine, and without its widths the cover is made too narrow."),
+      R"(<products>
+  <product type="DUN9" article_id="1001" page_binding="glue"/>
+</products>
+)" },
+    { RVCatalogueRuleId::SpineNegative, QLatin1StringView("spine-negative"), RVCatalogueSeverity::Error,
+      QT_TRANSLATE_NOOP("RVFindingText", "A spine that has a negative width, or grows backwards, comes out too narrow."),
+      R"(<products>
+  <product type="DUN9" article_id="1001" page_binding="glue">
+    <composition units="mm">
+      <spine base_width="-8"/>
+    </composition>
+  </product>
+</products>
+)" },
+    { RVCatalogueRuleId::SpineFontTooSmall, QLatin1StringView("spine-font-too-small"), RVCatalogueSeverity::Warning,
+      QT_TRANSLATE_NOOP("RVFindingText", "Where the spine shrinks until the smallest font no longer fits, its text is cut off."),
+      R"(<products>
+  <product type="DUN9" article_id="1001" page_binding="glue" pages="26" max_pages="154" page_step="4">
+    <composition units="mm">
+      <spine packages_per_block="2" base_width="8" block_width="-0.5" additional_width="0.5"/>
+    </composition>
+  </product>
+</products>
+)" },
+    { RVCatalogueRuleId::OptionIncomplete, QLatin1StringView("option-incomplete"), RVCatalogueSeverity::Error,
+      QT_TRANSLATE_NOOP("RVFindingText", "An option without key or value is dropped, so the customer is never offered it."),
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <forms>
+      <form key="alcolor"/>
+    </forms>
+  </product>
+</products>
+)" },
+    { RVCatalogueRuleId::OptionDuplicate, QLatin1StringView("option-duplicate"), RVCatalogueSeverity::Error,
+      QT_TRANSLATE_NOOP("RVFindingText", "The customer is offered the same choice twice, and only the first has a price."),
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <forms>
+      <form key="alcolor" value="black" preselected="true"/>
+      <form key="alcolor" value="black"/>
+    </forms>
+  </product>
+</products>
+)" },
+    { RVCatalogueRuleId::OptionDefaultTwice, QLatin1StringView("option-default-twice"), RVCatalogueSeverity::Error,
+      QT_TRANSLATE_NOOP("RVFindingText", "Of several defaults of one key the last one silently wins."),
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <forms>
+      <form key="alcolor" value="black" preselected="true"/>
+      <form key="alcolor" value="red" preselected="true"/>
+    </forms>
+  </product>
+</products>
+)" },
+    { RVCatalogueRuleId::OptionDefaultMissing, QLatin1StringView("option-default-missing"), RVCatalogueSeverity::Warning,
+      QT_TRANSLATE_NOOP("RVFindingText", "Without a default an order comes without the option, or with whichever stands first."),
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <forms>
+      <form key="alcolor" value="black"/>
+      <form key="alcolor" value="red"/>
+    </forms>
+  </product>
+</products>
+)" },
+    { RVCatalogueRuleId::OptionColorInvalid, QLatin1StringView("option-color-invalid"), RVCatalogueSeverity::Warning,
+      QT_TRANSLATE_NOOP("RVFindingText", "The editor shows no swatch for a colour that it cannot read."),
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <forms>
+      <form key="alcolor" value="black" color="#1a1a1"/>
+    </forms>
+  </product>
+</products>
+)" },
+    { RVCatalogueRuleId::OptionCompositeMismatch, QLatin1StringView("option-composite-mismatch"), RVCatalogueSeverity::Error,
+      QT_TRANSLATE_NOOP("RVFindingText", "Keys that are chosen together need one value each, or production gets none of them."),
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <forms>
+      <form key="alcolor;coverphoto" value="black"/>
+    </forms>
+  </product>
+</products>
+)" },
+    { RVCatalogueRuleId::BarcodeInvalid, QLatin1StringView("barcode-invalid"), RVCatalogueSeverity::Error,
+      QT_TRANSLATE_NOOP("RVFindingText", "A barcode without extent or image is dropped, and production cannot tell the product."),
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <barcodes units="mm">
+      <barcode position_x="12" position_y="290" width="0" height="10"/>
+    </barcodes>
+  </product>
+</products>
+)" },
+    { RVCatalogueRuleId::BarcodePageImpossible, QLatin1StringView("barcode-page-impossible"), RVCatalogueSeverity::Error,
+      QT_TRANSLATE_NOOP("RVFindingText", "A barcode on a page that the product cannot have is never printed."),
+      R"(<products>
+  <product type="DUN9" article_id="1001" pages="26">
+    <barcodes units="mm">
+      <barcode position_x="12" position_y="290" width="38" height="10" pageNr="27"/>
+    </barcodes>
+  </product>
+</products>
+)" },
+    { RVCatalogueRuleId::BarcodeOutsidePage, QLatin1StringView("barcode-outside-page"), RVCatalogueSeverity::Error,
+      QT_TRANSLATE_NOOP("RVFindingText", "A barcode that leaves its page is cut off and cannot be read."),
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <barcodes units="mm">
+      <barcode position_x="-12" position_y="290" width="38" height="10"/>
+    </barcodes>
+  </product>
+</products>
+)" },
+    { RVCatalogueRuleId::BarcodeOverlap, QLatin1StringView("barcode-overlap"), RVCatalogueSeverity::Error,
+      QT_TRANSLATE_NOOP("RVFindingText", "Barcodes that overlap cannot be read."),
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <barcodes units="mm">
+      <barcode position_x="12" position_y="290" width="38" height="10"/>
+      <barcode position_x="40" position_y="290" width="38" height="10"/>
+    </barcodes>
+  </product>
+</products>
+)" },
+    { RVCatalogueRuleId::PriceClassUnknown, QLatin1StringView("price-class-unknown"), RVCatalogueSeverity::Warning,
+      QT_TRANSLATE_NOOP("RVFindingText", "An add-on whose price class belongs to no known group is not counted where add-ons are billed."),
+      R"(<products>
+  <product type="DUN9" article_id="1001" page_price_class="RODA"/>
+</products>
+)" },
+};
+// clang-format on
+
+constexpr bool rvCatalogueRulesAreInOrder()
+{
+    for (std::size_t i = 0; i < std::size(RV_CATALOGUE_RULES); ++i) {
+        if (std::size_t(RV_CATALOGUE_RULES[i].id) != i)
+            return false;
+    }
+    return true;
+}
+static_assert(std::size(RV_CATALOGUE_RULES) == RV_CATALOGUE_RULE_COUNT, "every rule has one row");
+static_assert(rvCatalogueRulesAreInOrder(), "rows stand in the order of the enumeration");
+
+inline RVCatalogueRule RVCatalogueRuleRow::rule(RVCatalogueRuleId id)
+{
+    return RVCatalogueRule(&RV_CATALOGUE_RULES[std::size_t(id)]);
+}
+
+#endif

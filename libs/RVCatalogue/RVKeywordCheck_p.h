@@ -1,0 +1,19 @@
+#ifndef RVKEYWORDCHECK_P_H
+#define RVKEYWORDCHECK_P_H
+
+class RVCatalogueProduct;
+class RVFindingReport;
+
+/// Keyword lists of a product.
+class RVKeywordCheck
+{
+public:
+    explicit RVKeywordCheck(RVFindingReport *report) : myReport(report) { }
+
+    void check(const RVCatalogueProduct &product);
+
+private:
+    RVFindingReport *myReport;
+};
+
+#endif

@@ -1,0 +1,57 @@
+#include "RVNearestText.h"
+
+#include <algorithm>
+#include <array>
+#include <numeric>
+#include <utility>
+
+namespace {
+
+constexpr qsizetype LONGEST = 64;
+
+/// The distances between the first letters of one text, which are as many as the row has in front of it, and the first
+/// letters of another one.
+using Row = std::array<int, LONGEST + 1>;
+
+bool isSwapped(QStringView a, qsizetype i, QStringView b, qsizetype j)
+{
+    return i > 1 && j > 1 && a[i - 1] == b[j - 2] && a[i - 2] == b[j - 1];
+}
+
+int distanceBetween(QStringView a, QStringView b)
+{
+    Row beforeLast = {};
+    Row last = {};
+    Row row = {};
+    std::iota(row.begin(), row.end(), 0);
+    for (qsizetype i = 1; i <= a.size(); ++i) {
+        beforeLast = std::exchange(last, row);
+        row[0] = int(i);
+        for (qsizetype j = 1; j <= b.size(); ++j) {
+            const auto at = std::size_t(j);
+            row[at] = std::min({ last[at] + 1, row[at - 1] + 1, last[at - 1] + (a[i - 1] == b[j - 1] ? 0 : 1) });
+            if (isSwapped(a, i, b, j))
+                row[at] = std::min(row[at], beforeLast[at - 2] + 1);
+        }
+    }
+    return row[std::size_t(b.size())];
+}
+
+}
+
+RVNearestText::RVNearestText(const QString &wanted, int limit)
+    : myWanted(wanted.left(LONGEST).toCaseFolded().left(LONGEST)),
+      myDistance(limit)
+{ }
+
+void RVNearestText::offer(const QString &text)
+{
+    const QString folded = text.toCaseFolded();
+    if (text.isEmpty() || folded.size() > LONGEST || qAbs(folded.size() - myWanted.size()) >= myDistance)
+        return;
+    const int found = distanceBetween(myWanted, folded);
+    if (found >= myDistance)
+        return;
+    myText = text;
+    myDistance = found;
+}

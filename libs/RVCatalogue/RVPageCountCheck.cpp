@@ -1,0 +1,53 @@
+#include "RVPageCountCheck_p.h"
+
+#include "RVCatalogueProduct.h"
+#include "RVFindingReport_p.h"
+#include "RVFindingText_p.h"
+#include "RVValueCheck_p.h"
+
+using namespace Qt::StringLiterals;
+
+RVCheckedPageCounts RVPageCountCheck::check(const RVCatalogueProduct &product)
+{
+    const RVCatalogueElement element = product.element();
+    bool isReadable = rvCheckedBool(element, "photo_box"_L1, false, myReport).has_value();
+    for (const QLatin1StringView name : { "pages"_L1, "max_pages"_L1, "page_step"_L1 })
+        isReadable = rvCheckedInt(element, name, 0, myReport).has_value() && isReadable;
+    const std::optional<int> pieces = rvCheckedInt(element, "pieces"_L1, 1, myReport);
+    const RVPageCountOrganization counts = product.pageCounts();
+    return { counts, isReadable && pieces && checkValidity(element, counts, *pieces) };
+}
+
+bool RVPageCountCheck::checkValidity(const RVCatalogueElement &product, const RVPageCountOrganization &counts,
+                                     int pieces)
+{
+    const QString lowest = QString::number(counts.minPages());
+    const QString highest = QString::number(counts.maxPages());
+    if (pieces < 1)
+        return addInvalid(product, "pieces"_L1, RVFindingText::tr("there are %1 pieces").arg(pieces));
+    if (counts.minPages() > counts.maxPages()) {
+        myReport->add(RVCatalogueRuleId::PageCountsReversed, product, "max_pages"_L1,
+                      RVFindingText::tr("the lowest page count %1 is above the highest, %2").arg(lowest, highest));
+        return false;
+    }
+    if (counts.minPages() < counts.maxPages() && counts.pageIncrement() == 0)
+        return addInvalid(
+                product, "page_step"_L1,
+                RVFindingText::tr("there is no step (page_step) that leads from %1 to %2 pages").arg(lowest, highest));
+    if (!counts.isValid() || counts.minPages() < 0 || counts.pageIncrement() < 0)
+        return addInvalid(product, counts.pageIncrement() < 0 ? "page_step"_L1 : "pages"_L1,
+                          RVFindingText::tr("there are no valid page counts (%1)").arg(counts.dump()));
+    if (!counts.isConsistent())
+        myReport->add(RVCatalogueRuleId::PageStepMissesHighest, product, "page_step"_L1,
+                      RVFindingText::tr("steps of %1 from %2 pages end at %3 and never meet %4")
+                              .arg(QString::number(counts.pageIncrement()), lowest,
+                                   QString::number(counts.pageCounts().last()), highest));
+    return true;
+}
+
+/// False, as the page counts are invalid.
+bool RVPageCountCheck::addInvalid(const RVCatalogueElement &product, QLatin1StringView attribute, const QString &text)
+{
+    myReport->add(RVCatalogueRuleId::PageCountsInvalid, product, attribute, text);
+    return false;
+}

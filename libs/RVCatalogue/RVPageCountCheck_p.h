@@ -1,0 +1,33 @@
+#ifndef RVPAGECOUNTCHECK_P_H
+#define RVPAGECOUNTCHECK_P_H
+
+#include "RVCatalogueElement.h"
+
+#include <RVPageCountOrganization.h>
+
+class RVCatalogueProduct;
+class RVFindingReport;
+
+/// The page counts of a product, and whether anything else can be judged by them.
+struct RVCheckedPageCounts
+{
+    RVPageCountOrganization counts;
+    bool areValid = false;
+};
+
+/// Page counts of a product.
+class RVPageCountCheck
+{
+public:
+    explicit RVPageCountCheck(RVFindingReport *report) : myReport(report) { }
+
+    RVCheckedPageCounts check(const RVCatalogueProduct &product);
+
+private:
+    bool checkValidity(const RVCatalogueElement &product, const RVPageCountOrganization &counts, int pieces);
+    bool addInvalid(const RVCatalogueElement &product, QLatin1StringView attribute, const QString &text);
+
+    RVFindingReport *myReport;
+};
+
+#endif

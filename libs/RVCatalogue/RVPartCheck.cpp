@@ -1,0 +1,32 @@
+#include "RVPartCheck_p.h"
+
+#include "RVCatalogueProduct.h"
+#include "RVFindingReport_p.h"
+#include "RVFindingText_p.h"
+
+using namespace Qt::StringLiterals;
+
+void RVPartCheck::check(const RVCatalogueProduct &product)
+{
+    const RVCatalogueElement element = product.element();
+    checkInnerProducts(element);
+    for (const QLatin1StringView name : { "barcodes"_L1, "composition"_L1, "forms"_L1 })
+        checkOthers(element.firstChildElement(name), name);
+    checkOthers(element.firstChildElement("composition"_L1).firstChildElement("spine"_L1), "spine"_L1);
+}
+
+void RVPartCheck::checkInnerProducts(const RVCatalogueElement &product)
+{
+    constexpr auto name = "product"_L1;
+    for (auto inner = product.firstChildElement(name); !inner.isNull(); inner = inner.nextSiblingElement(name))
+        myReport->add(RVCatalogueRuleId::ElementIgnored, inner,
+                      RVFindingText::tr("a product inside a product is not read"));
+}
+
+/// Finds those of that name that follow the first.
+void RVPartCheck::checkOthers(const RVCatalogueElement &first, QLatin1StringView name)
+{
+    for (auto other = first.nextSiblingElement(name); !other.isNull(); other = other.nextSiblingElement(name))
+        myReport->add(RVCatalogueRuleId::ElementIgnored, other,
+                      RVFindingText::tr("only the first %1 is read, the one in line %2").arg(name, rvLineOf(first)));
+}

@@ -1,0 +1,24 @@
+#ifndef RVPARTCHECK_P_H
+#define RVPARTCHECK_P_H
+
+#include "RVCatalogueElement.h"
+
+class RVCatalogueProduct;
+class RVFindingReport;
+
+/// Elements of a product that are not read, because only the first of their kind is.
+class RVPartCheck
+{
+public:
+    explicit RVPartCheck(RVFindingReport *report) : myReport(report) { }
+
+    void check(const RVCatalogueProduct &product);
+
+private:
+    void checkInnerProducts(const RVCatalogueElement &product);
+    void checkOthers(const RVCatalogueElement &first, QLatin1StringView name);
+
+    RVFindingReport *myReport;
+};
+
+#endif

@@ -1,0 +1,131 @@
+#include "RVSpineCheck_p.h"
+
+#include "RVCatalogueProduct.h"
+#include "RVFindingReport_p.h"
+#include "RVFindingText_p.h"
+#include "RVPageCountCheck_p.h"
+#include "RVValueCheck_p.h"
+
+#include <RVFontCreator.h>
+#include <RVFontSizeManager.h>
+
+#include <QFont>
+#include <QFontMetrics>
+#include <QGuiApplication>
+#include <QStringList>
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qreal USABLE_PART_OF_SPINE = 0.85;
+
+unsigned pageCount(int pages)
+{
+    return unsigned(qMax(0, pages));
+}
+
+/// True when the spine is too narrow for the smallest font, by the measure of RVSpineConfig::spineMaxFontHeigth().
+bool isTooNarrow(const RVSpineConfig &spine, int pages)
+{
+    const QList<int> sizes = RVFontSizeManager::instance()->defaultFontSizes();
+    const bool canMeasureFonts = qobject_cast<QGuiApplication *>(QCoreApplication::instance()) != nullptr;
+    if (sizes.isEmpty() || !canMeasureFonts)
+        return false;
+    const RVFontCreator *fonts = RVFontCreator::instance();
+    const QFontMetrics smallest(fonts->createFont(fonts->defaultFontFamily(), sizes.first()));
+    const RVDistance width = spine.spineWidth(pageCount(pages)) - spine.additionalSpineWidth() * 2.0;
+    return smallest.lineSpacing() > std::round(width.value() * USABLE_PART_OF_SPINE);
+}
+
+}
+
+struct RVSpineCheck::Spine
+{
+    RVCatalogueElement element;
+    RVSpineConfig config;
+    bool isBound = false; // by a binding that needs a spine
+    bool isUnitKnown = true;
+    bool isReadable = true;
+    bool hasWidth = false;
+    QStringList negative; // the names of the attributes
+};
+
+void RVSpineCheck::check(const RVCatalogueProduct &product)
+{
+    const RVCatalogueElement composition = product.element().firstChildElement("composition"_L1);
+    const RVPageBinding binding = product.pageBinding();
+    Spine spine;
+    spine.element = composition.firstChildElement("spine"_L1);
+    spine.isBound = binding.matches(GLUE | LAYFLAT);
+    spine.isUnitKnown = rvCheckUnit(composition, myReport);
+    if (!spine.element.isNull()) {
+        spine.config = product.spine();
+        readWidths(&spine);
+        checkWidths(spine);
+    } else if (spine.isBound) {
+        myReport->add(RVCatalogueRuleId::SpineMissing, composition.isNull() ? product.element() : composition,
+                      RVFindingText::tr("the product is bound (%1), but has no spine in a composition")
+                              .arg(binding.encodeCSV()));
+    }
+}
+
+void RVSpineCheck::readWidths(Spine *spine)
+{
+    for (const QLatin1StringView name : { "base_width"_L1, "block_width"_L1, "additional_width"_L1 }) {
+        const std::optional<double> width = rvCheckedDouble(spine->element, name, 0, myReport);
+        spine->isReadable = spine->isReadable && width;
+        spine->hasWidth = spine->hasWidth || width.value_or(0) != 0;
+        if (width.value_or(0) < 0)
+            spine->negative += name;
+    }
+    constexpr auto packages = "packages_per_block"_L1;
+    const std::optional<int> count = rvCheckedInt(spine->element, packages, 0, myReport);
+    spine->isReadable = spine->isReadable && count;
+    if (count.value_or(0) < 0)
+        spine->negative += packages;
+}
+
+void RVSpineCheck::checkWidths(const Spine &spine)
+{
+    if (spine.isReadable && !isFinite(spine))
+        return myReport->add(RVCatalogueRuleId::NumberInvalid, spine.element,
+                             RVFindingText::tr("the widths of the spine are too large for a number"));
+    if (spine.isReadable && spine.isBound && !spine.hasWidth)
+        return myReport->add(RVCatalogueRuleId::SpineMissing, spine.element,
+                             RVFindingText::tr("the product is bound, but its spine has no width"));
+    if (!spine.negative.isEmpty())
+        addNegative(spine);
+}
+
+void RVSpineCheck::addNegative(const Spine &spine)
+{
+    const QByteArray name = spine.negative.first().toLatin1();
+    const QLatin1StringView attribute(name);
+    if (shrinksTooFar(spine))
+        return myReport->add(
+                RVCatalogueRuleId::SpineFontTooSmall, spine.element, attribute,
+                RVFindingText::tr("the spine shrinks, so that at %1 pages it is too narrow for the smallest font")
+                        .arg(myPageCounts.counts.maxPages()));
+    const QString text = spine.negative.size() == 1 ? RVFindingText::tr("%1 is below 0")
+                                                    : RVFindingText::tr("%1 are below 0");
+    myReport->add(RVCatalogueRuleId::SpineNegative, spine.element, attribute, text.arg(spine.negative.join(", "_L1)));
+}
+
+bool RVSpineCheck::isFinite(const Spine &spine) const
+{
+    return qIsFinite(spine.config.spineWidth(pageCount(myPageCounts.counts.minPages())).value())
+            && qIsFinite(spine.config.spineWidth(pageCount(myPageCounts.counts.maxPages())).value());
+}
+
+/// True only where nothing else is wrong with the spine.
+bool RVSpineCheck::shrinksTooFar(const Spine &spine) const
+{
+    const bool onlyGrowthIsNegative = !spine.negative.contains("base_width"_L1)
+            && !spine.negative.contains("additional_width"_L1);
+    return spine.isReadable && spine.isUnitKnown && onlyGrowthIsNegative && myPageCounts.areValid
+            && !isTooNarrow(spine.config, myPageCounts.counts.minPages())
+            && isTooNarrow(spine.config, myPageCounts.counts.maxPages());
+}
