@@ -34,7 +34,7 @@ void RVKeywordCheck::check(const RVCatalogueProduct &product)
 {
     const RVCatalogueElement element = product.element();
     for (const RVKeywordVocabulary &vocabulary : RVKeywordVocabulary::ofProducts()) {
-        const QLatin1StringView name = vocabulary.attribute();
+        const QLatin1StringView name = vocabulary.attributeName();
         if (vocabulary.hasAll(element.utf8(name)) || !element.hasAttribute(name))
             continue;
         for (const RVKeywordFault &fault : vocabulary.faults(element.attribute(name)))

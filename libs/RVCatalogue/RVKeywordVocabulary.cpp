@@ -1,6 +1,5 @@
 #include "RVKeywordVocabulary_p.h"
 
-#include "RVMainKeywords_p.h"
 #include "RVNearestText.h"
 
 #include <algorithm>
@@ -17,6 +16,24 @@ QString spelledLike(const QString &piece, const QString &keyword)
     return piece == piece.toLower() ? keyword.toLower() : keyword;
 }
 
+bool isNumber(const QString &keyword)
+{
+    return std::all_of(keyword.begin(), keyword.end(), [](QChar letter) { return letter.isDigit(); });
+}
+
+/// The keywords of an attribute in lower case, each with the one that is written for its value. Where that is a bare
+/// number an alias tells more, and is as good.
+QHash<QString, QString> mainKeywords(RVCatalogueAttribute attribute)
+{
+    QHash<QString, QString> result;
+    for (const RVCatalogueAttributeValue &value : attribute.values()) {
+        result.insert(value.keyword.toLower(), value.keyword);
+        for (const QString &alias : value.aliases)
+            result.insert(alias, isNumber(value.keyword) ? alias : value.keyword);
+    }
+    return result;
+}
+
 bool isAlias(const QString &keyword, const QString &mainKeyword)
 {
     return keyword != mainKeyword.toLower();
@@ -28,16 +45,16 @@ const std::vector<RVKeywordVocabulary> &RVKeywordVocabulary::ofProducts()
 {
     static const std::vector<RVKeywordVocabulary> theVocabularies = [] {
         std::vector<RVKeywordVocabulary> result;
-        for (const QLatin1StringView attribute : rvProductKeywordAttributes())
+        for (const RVCatalogueAttribute attribute : RVCatalogueAttribute::ofProducts())
             result.emplace_back(attribute);
         return result;
     }();
     return theVocabularies;
 }
 
-RVKeywordVocabulary::RVKeywordVocabulary(QLatin1StringView attribute)
+RVKeywordVocabulary::RVKeywordVocabulary(RVCatalogueAttribute attribute)
     : myAttribute(attribute),
-      myMainKeywords(rvMainKeywords(attribute)),
+      myMainKeywords(mainKeywords(attribute)),
       myGuesses(myMainKeywords.keys())
 {
     std::sort(myGuesses.begin(), myGuesses.end());

@@ -1,6 +1,8 @@
 #ifndef RVKEYWORDVOCABULARY_P_H
 #define RVKEYWORDVOCABULARY_P_H
 
+#include "RVCatalogueAttribute.h"
+
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QHash>
@@ -25,12 +27,12 @@ struct RVKeywordFault
 class RVKeywordVocabulary
 {
 public:
-    /// Those of the keyword attributes of a product: "article_class", "cover_type" and so on.
+    /// One for each attribute of products.
     static const std::vector<RVKeywordVocabulary> &ofProducts();
 
-    explicit RVKeywordVocabulary(QLatin1StringView attribute);
+    explicit RVKeywordVocabulary(RVCatalogueAttribute attribute);
 
-    QLatin1StringView attribute() const { return myAttribute; }
+    QLatin1StringView attributeName() const { return myAttribute.name(); }
 
     /// True where each piece of a list in UTF-8 is certainly a keyword without a fault. Of some lists with letters
     /// beyond ASCII only faults() tells.
@@ -44,7 +46,7 @@ private:
     QString nearestTo(const QString &piece) const;
     RVKeywordFault unknownKeyword(const QString &piece) const;
 
-    QLatin1StringView myAttribute;
+    RVCatalogueAttribute myAttribute;
     QHash<QString, QString> myMainKeywords; // of all keywords, which are in lower case
     QList<QByteArray> myFaultless; // sorted
     QStringList myGuesses; // all keywords, main ones first, both by the alphabet

@@ -1,0 +1,941 @@
+#include "../apps/SampleProduct.h"
+
+#include <RVCatalogueAttribute.h>
+#include <RVCatalogueCheck.h>
+#include <RVCatalogueReader.h>
+
+#include <RVXMLParser.h>
+
+#include <QBuffer>
+#include <QDomDocument>
+#include <QFile>
+#include <QRandomGenerator>
+#include <QRegularExpression>
+#include <QSet>
+#include <QTest>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString describe(const RVCatalogueFinding &finding)
+{
+    return u"%1 %2 %3: %4"_s.arg(QString::number(finding.range().begin.line), rvSeverityName(finding.severity()),
+                                 finding.rule().name(), finding.text());
+}
+
+struct Checked
+{
+    QList<RVCatalogueFinding> findings;
+    qint64 products = 0;
+    bool hasError = false;
+
+    QStringList texts() const
+    {
+        QStringList result;
+        for (const RVCatalogueFinding &finding : findings)
+            result += describe(finding);
+        return result;
+    }
+    QStringList rules() const
+    {
+        QStringList result;
+        for (const RVCatalogueFinding &finding : findings)
+            result += finding.rule().name();
+        return result;
+    }
+};
+
+RVCatalogueCheck without(const QStringList &rules)
+{
+    RVCatalogueCheck check;
+    for (const QString &rule : rules)
+        check.disable(RVCatalogueRule::find(rule));
+    return check;
+}
+
+Checked check(QByteArray file, const QStringList &disabledRules = {})
+{
+    QBuffer buffer(&file);
+    buffer.open(QIODevice::ReadOnly);
+    RVCatalogueReader reader(&buffer);
+    reader.setCheck(without(disabledRules));
+    Checked result;
+    for (const RVCatalogueProduct &product : reader) {
+        result.findings += product.findings();
+        ++result.products;
+    }
+    result.findings += reader.findings();
+    result.hasError = reader.hasError();
+    return result;
+}
+
+/// The text from one place to the other, in a file of ASCII. Of a start tag only its name and its last letter.
+QString textAt(const QByteArray &file, const RVFileRange &range)
+{
+    const QList<QByteArray> lines = file.split('\n');
+    const auto offset = [&lines](const RVFilePosition &position) {
+        qsizetype result = qsizetype(position.column) - 1;
+        for (qsizetype i = 0; i + 1 < qsizetype(position.line); ++i)
+            result += lines.at(i).size() + 1;
+        return result;
+    };
+    const qsizetype begin = offset(range.begin);
+    const QByteArray text = file.mid(begin, offset(range.end) - begin);
+    if (!text.startsWith('<'))
+        return QString::fromLatin1(text);
+    const auto nameEnd = std::find_if(text.begin(), text.end(),
+                                      [](char letter) { return QByteArrayView(" />").contains(letter); });
+    return QString::fromLatin1(text.first(nameEnd - text.begin()) + text.right(1));
+}
+
+/// The clean catalogue with one change.
+QByteArray changed(const QByteArray &from, const QByteArray &to)
+{
+    const QByteArray clean = CLEAN_CATALOGUE;
+    return clean.count(from) == 1 ? QByteArray(clean).replace(from, to) : QByteArray();
+}
+
+QByteArray withSecondProduct(const QByteArray &product)
+{
+    return changed("<product type='FOT1' article_id='2' article_class='foto' foto_paper_type='matt'/>", product);
+}
+
+/// A product of its own with these options, the first of them in line 2.
+QByteArray withOptions(const QByteArray &options)
+{
+    return "<products><product type='A' article_id='1'><forms>\n" + options + "</forms></product></products>";
+}
+
+QByteArray utf16(const QByteArray &text)
+{
+    const QString decoded = QString::fromUtf8(text);
+    return "\xff\xfe" + QByteArray(reinterpret_cast<const char *>(decoded.utf16()), decoded.size() * 2);
+}
+
+QByteArray escaped(const QString &text)
+{
+    return text.toHtmlEscaped().replace(u'\t', "&#9;"_L1).toUtf8();
+}
+
+/// What is found of one list of keywords.
+QStringList keywordFindings(RVCatalogueAttribute attribute, const QString &list)
+{
+    const QByteArray name = QByteArray(attribute.name().data(), attribute.name().size());
+    const Checked checked = check("<products><product type='A' article_id='1' " + name + "=\"" + escaped(list)
+                                  + "\"/></products>");
+    QStringList result;
+    for (const RVCatalogueFinding &finding : checked.findings) {
+        if (finding.rule().name().startsWith("keyword-"_L1))
+            result += finding.text();
+    }
+    return result;
+}
+
+/// A mistake, and what is found of it: the piece of the file, and the finding with its line.
+struct Mistake
+{
+    const char *situation;
+    QByteArray file;
+    QString place;
+    QString finding;
+};
+
+QList<Mistake> mistakes()
+{
+    return {
+        { "no product", QByteArray("<products>\n<Product/></products>"), u""_s,
+          u"1 error products-missing: there is no product in this file"_s },
+        { "type missing", changed("type='DUN9' ", ""), u"<product>"_s,
+          u"2 error type-missing: the product has no type"_s },
+        { "type empty", changed("type='DUN9' ", "type=' ' "), u"type=' '"_s,
+          u"2 error type-missing: the product has no type"_s },
+        { "type twice", changed("type='FOT1'", "type='DUN9'"), u"type='DUN9'"_s,
+          u"17 error type-duplicate: the type \"DUN9\" is already that of the product in line 2"_s },
+        { "type twice in one family", changed("type='FOT1'", "type='DUN9_30'"), u"type='DUN9_30'"_s,
+          u"17 error type-duplicate: the type \"DUN9_30\", that is \"DUN9\", is already that of the product in line 2"_s },
+        { "article id missing", changed(" article_id='1'", ""), u"<product>"_s,
+          u"2 error article-id-missing: the product has no article id"_s },
+        { "article id empty", changed("article_id='1'", "article_id=''"), u"article_id=''"_s,
+          u"2 error article-id-missing: the product has no article id"_s },
+        { "article id 0", changed("article_id='1'", "article_id='0'"), u"article_id='0'"_s,
+          u"2 error article-id-invalid: the article id \"0\" is no whole number above 0"_s },
+        { "article id -1", changed("article_id='1'", "article_id='-1'"), u"article_id='-1'"_s,
+          u"2 error article-id-invalid: the article id \"-1\" is no whole number above 0"_s },
+        { "article id 12a", changed("article_id='1'", "article_id='12a'"), u"article_id='12a'"_s,
+          u"2 error article-id-invalid: the article id \"12a\" is no whole number above 0"_s },
+        { "article id 1.5", changed("article_id='1'", "article_id='1.5'"), u"article_id='1.5'"_s,
+          u"2 error article-id-invalid: the article id \"1.5\" is no whole number above 0"_s },
+        { "article id 2147483648", changed("article_id='1'", "article_id='2147483648'"), u"article_id='2147483648'"_s,
+          u"2 error article-id-invalid: the article id \"2147483648\" is no whole number above 0"_s },
+        { "article id twice", changed("article_id='2'", "article_id='+1'"), u"article_id='+1'"_s,
+          u"17 error article-id-duplicate: the article id 1 is already that of the product in line 2"_s },
+        { "shipping group -1", changed("shipping_group='2'", "shipping_group='-1'"), u"shipping_group='-1'"_s,
+          u"2 error shipping-group-invalid: the shipping group \"-1\" is none"_s },
+        { "shipping group two", changed("shipping_group='2'", "shipping_group='two'"), u"shipping_group='two'"_s,
+          u"2 error shipping-group-invalid: the shipping group \"two\" is none"_s },
+        { "shipping group empty", changed("shipping_group='2'", "shipping_group=''"), u"shipping_group=''"_s,
+          u"2 error shipping-group-invalid: the shipping group \"\" is none"_s },
+        { "unknown keyword", changed("cover_type='hardcover'", "cover_type='hardcovr'"), u"cover_type='hardcovr'"_s,
+          u"2 error keyword-unknown: \"hardcovr\" is no keyword of cover_type; did you mean \"hardcover\"?"_s },
+        { "unknown keyword in capitals", changed("cover_type='hardcover'", "cover_type='HARDCOVRE'"),
+          u"cover_type='HARDCOVRE'"_s,
+          u"2 error keyword-unknown: \"HARDCOVRE\" is no keyword of cover_type; did you mean \"HARDCOVER\"?"_s },
+        { "unknown keyword that is like none", changed("orientation='portrait'", "orientation='xyz'"),
+          u"orientation='xyz'"_s, u"2 error keyword-unknown: \"xyz\" is no keyword of orientation"_s },
+        { "unknown keyword in a list", changed("orientation='portrait'", "orientation='portrait, sqare'"),
+          u"orientation='portrait, sqare'"_s,
+          u"2 error keyword-unknown: \"sqare\" is no keyword of orientation; did you mean \"square\"?"_s },
+        { "empty keyword", changed("paper_type='fotopaper'", "paper_type=''"), u"paper_type=''"_s,
+          u"2 error keyword-unknown: there is an empty keyword in paper_type"_s },
+        { "unknown binding", changed("page_binding='glue'", "page_binding='gluu'"), u"page_binding='gluu'"_s,
+          u"2 error keyword-unknown: \"gluu\" is no keyword of page_binding; did you mean \"glue\"?"_s },
+        { "unknown article class", changed("article_class='book'", "article_class='buch'"), u"article_class='buch'"_s,
+          u"2 error keyword-unknown: \"buch\" is no keyword of article_class"_s },
+        { "unknown size", changed("space_magnitude='600cm2'", "space_magnitude='600cm'"), u"space_magnitude='600cm'"_s,
+          u"2 error keyword-unknown: \"600cm\" is no keyword of space_magnitude; did you mean \"600cm2\"?"_s },
+        { "unknown photo paper", changed("foto_paper_type='matt'", "foto_paper_type='mat'"), u"foto_paper_type='mat'"_s,
+          u"17 error keyword-unknown: \"mat\" is no keyword of foto_paper_type; did you mean \"matt\"?"_s },
+        { "alias", changed("cover_type='hardcover'", "cover_type='hard'"), u"cover_type='hard'"_s,
+          u"2 note keyword-legacy: \"hard\" is an alias in cover_type; the main keyword is \"hardcover\""_s },
+        { "alias of the binding keeps the spine", changed("page_binding='glue'", "page_binding='Glued'"),
+          u"page_binding='Glued'"_s,
+          u"2 note keyword-legacy: \"Glued\" is an alias in page_binding; the main keyword is \"glue\""_s },
+        { "page counts reversed", changed("max_pages='154'", "max_pages='18'"), u"max_pages='18'"_s,
+          u"2 error page-counts-reversed: the lowest page count 26 is above the highest, 18"_s },
+        { "no pages", changed("foto_paper_type='matt'", "pages='0'"), u"pages='0'"_s,
+          u"17 error page-counts-invalid: there are no valid page counts (min: 0; max: 0; increment: 0)"_s },
+        { "no step", changed(" page_step='4'", ""), u"<product>"_s,
+          u"2 error page-counts-invalid: there is no step (page_step) that leads from 26 to 154 pages"_s },
+        { "negative step", changed("page_step='4'", "page_step='-4'"), u"page_step='-4'"_s,
+          u"2 error page-counts-invalid: there are no valid page counts (min: 26; max: 154; increment: -4)"_s },
+        { "negative step of a fixed count", changed("foto_paper_type='matt'", "page_step='-4'"), u"page_step='-4'"_s,
+          u"17 error page-counts-invalid: there are no valid page counts (min: 1; max: 1; increment: -4)"_s },
+        { "negative pages", changed("foto_paper_type='matt'", "pages='-4'"), u"pages='-4'"_s,
+          u"17 error page-counts-invalid: there are no valid page counts (min: -4; max: -4; increment: 0)"_s },
+        { "no pieces", changed("pieces='1'", "pieces='0'"), u"pieces='0'"_s,
+          u"2 error page-counts-invalid: there are 0 pieces"_s },
+        { "step misses the highest count", changed("page_step='4'", "page_step='6'"), u"page_step='6'"_s,
+          u"2 warning page-step-misses-highest: steps of 6 from 26 pages end at 152 and never meet 154"_s },
+        { "pages are no number", changed("pages='26'", "pages='many'"), u"pages='many'"_s,
+          u"2 error number-invalid: pages is \"many\", which is no whole number"_s },
+        { "pages are no whole number", changed("pages='26'", "pages='26.5'"), u"pages='26.5'"_s,
+          u"2 error number-invalid: pages is \"26.5\", which is no whole number"_s },
+        { "photo box is no boolean", changed("pages='26'", "pages='26' photo_box='ja'"), u"photo_box='ja'"_s,
+          u"2 error boolean-invalid: photo_box is \"ja\", which is neither true nor false"_s },
+        { "no composition",
+          changed("<composition units='cm'>\n<spine packages_per_block='2' base_width='0.8' block_width='0.1' "
+                  "additional_width='0.05'/>\n</composition>\n",
+                  ""),
+          u"<product>"_s, u"2 error spine-missing: the product is bound (glue), but has no spine in a composition"_s },
+        { "no spine",
+          changed("<spine packages_per_block='2' base_width='0.8' block_width='0.1' additional_width='0.05'/>\n", ""),
+          u"<composition>"_s,
+          u"7 error spine-missing: the product is bound (glue), but has no spine in a composition"_s },
+        { "spine without width",
+          changed(" packages_per_block='2' base_width='0.8' block_width='0.1' additional_width='0.05'", ""),
+          u"<spine>"_s, u"8 error spine-missing: the product is bound, but its spine has no width"_s },
+        { "unknown unit of the spine", changed("units='cm'", "units='CM'"), u"units='CM'"_s,
+          u"7 error unit-unknown: there is no unit \"CM\"; there are mm, cm, inch, in, pt, point and 0.1mm"_s },
+        { "negative base width", changed("base_width='0.8'", "base_width='-0.8'"), u"base_width='-0.8'"_s,
+          u"8 error spine-negative: base_width is below 0"_s },
+        { "negative additional width", changed("additional_width='0.05'", "additional_width='-0.05'"),
+          u"additional_width='-0.05'"_s, u"8 error spine-negative: additional_width is below 0"_s },
+        { "shrinks a little", changed("block_width='0.1'", "block_width='-0.001'"), u"block_width='-0.001'"_s,
+          u"8 error spine-negative: block_width is below 0"_s },
+        { "packages below 0", changed("packages_per_block='2'", "packages_per_block='-100'"),
+          u"packages_per_block='-100'"_s, u"8 error spine-negative: packages_per_block is below 0"_s },
+        { "shrinks too far", changed("block_width='0.1'", "block_width='-0.05'"), u"block_width='-0.05'"_s,
+          u"8 warning spine-font-too-small: the spine shrinks, so that at 154 pages it is too narrow for the smallest font"_s },
+        { "grows backwards", changed("packages_per_block='2'", "packages_per_block='-1'"), u"packages_per_block='-1'"_s,
+          u"8 warning spine-font-too-small: the spine shrinks, so that at 154 pages it is too narrow for the smallest font"_s },
+        { "width is no number", changed("base_width='0.8'", "base_width='0,8'"), u"base_width='0,8'"_s,
+          u"8 error number-invalid: base_width is \"0,8\", which is no number"_s },
+        { "width is infinite", changed("base_width='0.8'", "base_width='inf'"), u"base_width='inf'"_s,
+          u"8 error number-invalid: base_width is \"inf\", which is no number"_s },
+        { "width is too large", changed("base_width='0.8'", "base_width='1e308'"), u"<spine>"_s,
+          u"8 error number-invalid: the widths of the spine are too large for a number"_s },
+        { "width becomes too large", changed("block_width='0.1'", "block_width='1e306'"), u"<spine>"_s,
+          u"8 error number-invalid: the widths of the spine are too large for a number"_s },
+        { "packages are no number", changed("packages_per_block='2'", "packages_per_block='2x'"),
+          u"packages_per_block='2x'"_s,
+          u"8 error number-invalid: packages_per_block is \"2x\", which is no whole number"_s },
+        { "option without key", changed("key='alcolor' value='red'", "value='red'"), u"<form>"_s,
+          u"12 error option-incomplete: the option has no key"_s },
+        { "default option without key", changed("key='alcolor' value='black'", "key='' value='black'"), u"key=''"_s,
+          u"11 error option-incomplete: the option has no key"_s },
+        { "option without value", changed("value='red'", "value=''"), u"value=''"_s,
+          u"12 error option-incomplete: the option has no value"_s },
+        { "default option without value", changed(" value='black'", ""), u"<form>"_s,
+          u"11 error option-incomplete: the option has no value"_s },
+        { "option with nothing", changed("<forms>\n", "<forms><form/>\n"), u"<form>"_s,
+          u"10 error option-incomplete: the option has no key and no value"_s },
+        { "option twice", changed("value='red'", "value='black'"), u"value='black'"_s,
+          u"12 error option-duplicate: the option \"black\" of \"alcolor\" is already there in line 11"_s },
+        { "default option twice", changed("value='red'", "value='black' preselected='true'"), u"value='black'"_s,
+          u"12 error option-duplicate: the option \"black\" of \"alcolor\" is already there in line 11"_s },
+        { "two defaults", changed("value='red'", "value='red' preselected='true'"), u"preselected='true'"_s,
+          u"12 error option-default-twice: \"red\" is preselected for \"alcolor\", but \"black\" in line 11 is so already"_s },
+        { "three defaults",
+          changed("value='red' color='red' price_class='LEZ2'/>",
+                  "value='red' preselected='true'/>\n<form key='alcolor' value='blue' preselected='true'/>"),
+          u"preselected='true'"_s,
+          u"12 error option-default-twice: \"red\" is preselected for \"alcolor\", but \"black\" in line 11 is so already"_s },
+        { "no default of one key", changed(" preselected='true'", ""), u"<form>"_s,
+          u"11 warning option-default-missing: no option of \"alcolor\" is preselected, so an order comes without any"_s },
+        { "no default of the only key",
+          withSecondProduct("<product type='A' article_id='2'><forms>\n<form key='a' value='b'/>\n<form key='a' "
+                            "value='c'/></forms></product>"),
+          u"<form>"_s,
+          u"18 warning option-default-missing: no option of \"a\" is preselected, so the first is taken"_s },
+        { "default with a mistake in its keys", changed("key='a;b' value='x;y'", "key='ab' value='x;y'"),
+          u"value='x;y'"_s,
+          u"13 error option-composite-mismatch: the keys \"ab\" and the values \"x;y\" are not equally many"_s },
+        { "option with a mistake in its keys", changed("key='a;b' value='v;w'", "key='ab' value='v;w'"),
+          u"value='v;w'"_s,
+          u"14 error option-composite-mismatch: the keys \"ab\" and the values \"v;w\" are not equally many"_s },
+        { "default with a mistake in its values", changed("value='x;y'", "value='xy'"), u"value='xy'"_s,
+          u"13 error option-composite-mismatch: the keys \"a;b\" and the values \"xy\" are not equally many"_s },
+        { "option without value beside a single one",
+          withSecondProduct("<product type='A' article_id='2'><forms>\n<form key='a' value='b'/>\n<form key='a'/>"
+                            "</forms></product>"),
+          u"<form>"_s, u"19 error option-incomplete: the option has no value"_s },
+        { "options of another key without value", changed("<forms>\n", "<forms>\n<form key='c'/>\n"), u"<form>"_s,
+          u"11 error option-incomplete: the option has no value"_s },
+        { "barcodes twice", changed("</forms>", "</forms>\n<barcodes><barcode width='-1'/></barcodes>"),
+          u"<barcodes>"_s, u"16 error element-ignored: only the first barcodes is read, the one in line 3"_s },
+        { "composition twice", changed("</forms>", "</forms>\n<composition><spine base_width='x'/></composition>"),
+          u"<composition>"_s, u"16 error element-ignored: only the first composition is read, the one in line 7"_s },
+        { "forms twice", changed("</forms>", "</forms>\n<forms><form/></forms>"), u"<forms>"_s,
+          u"16 error element-ignored: only the first forms is read, the one in line 10"_s },
+        { "two spines", changed("</composition>", "<spine/></composition>"), u"<spine>"_s,
+          u"9 error element-ignored: only the first spine is read, the one in line 8"_s },
+        { "product in a product", changed("<forms>", "<product/><forms>"), u"<product>"_s,
+          u"10 error element-ignored: a product inside a product is not read"_s },
+        { "unreadable colour", changed("color='red'", "color='weinrot'"), u"color='weinrot'"_s,
+          u"12 warning option-color-invalid: \"weinrot\" is no colour"_s },
+        { "colour with too few digits", changed("color='#1a1a1a'", "color='#1a1a1'"), u"color='#1a1a1'"_s,
+          u"11 warning option-color-invalid: \"#1a1a1\" is no colour"_s },
+        { "more keys than values", changed("value='v;w'", "value='v'"), u"value='v'"_s,
+          u"14 error option-composite-mismatch: the keys \"a;b\" and the values \"v\" are not equally many"_s },
+        { "more values than keys", changed("value='red'", "value='red;blue'"), u"value='red;blue'"_s,
+          u"12 error option-composite-mismatch: the keys \"alcolor\" and the values \"red;blue\" are not equally many"_s },
+        { "preselected is no boolean", changed("preselected='true'", "preselected='x'"), u"preselected='x'"_s,
+          u"11 error boolean-invalid: preselected is \"x\", which is neither true nor false"_s },
+        { "not_accountable is no boolean", changed("not_accountable='true'", "not_accountable=''"),
+          u"not_accountable=''"_s,
+          u"13 error boolean-invalid: not_accountable is \"\", which is neither true nor false"_s },
+        { "barcode without width", changed("width='38' height='10' pageNr='2'/>", "width='0' height='10' pageNr='2'/>"),
+          u"width='0'"_s, u"4 error barcode-invalid: the barcode has no width or no height"_s },
+        { "barcode with negative height", changed("height='10' pageNr='2'/>", "height='-10' pageNr='2'/>"),
+          u"height='-10'"_s, u"4 error barcode-invalid: the barcode has no width or no height"_s },
+        { "barcode without image", changed("image='a.png'", "image=''"), u"image=''"_s,
+          u"5 error barcode-invalid: the barcode has no image"_s },
+        { "barcode behind the last page", changed("pageNr='2'/>", "pageNr='155'/>"), u"pageNr='155'"_s,
+          u"4 error barcode-page-impossible: there is no page 155; the product has at most 154"_s },
+        { "barcode on a negative page", changed("pageNr='2'/>", "pageNr='-1'/>"), u"pageNr='-1'"_s,
+          u"4 error barcode-page-impossible: there is no page -1"_s },
+        { "barcode left of the page", changed("position_x='12'", "position_x='-0.1'"), u"position_x='-0.1'"_s,
+          u"4 error barcode-outside-page: the barcode begins left of the page"_s },
+        { "barcode above the page", changed("position_x='12' position_y='290.5'", "position_x='12' position_y='9'"),
+          u"position_y='9'"_s, u"4 error barcode-outside-page: the barcode begins above the page"_s },
+        { "barcode right of the page", changed("position_x='62'", "position_x='600'"), u"position_x='600'"_s,
+          u"5 error barcode-outside-page: the barcode ends 638 mm from the left and 290.5 mm from the top, where there is no page"_s },
+        { "barcode below the page", changed("position_x='62' position_y='290.5'", "position_x='62' position_y='2905'"),
+          u"position_y='2905'"_s,
+          u"5 error barcode-outside-page: the barcode ends 100 mm from the left and 2905 mm from the top, where there is no page"_s },
+        { "barcode right of an upright page",
+          changed("position_x='62' position_y='290.5'", "position_x='250' position_y='100'"), u"position_x='250'"_s,
+          u"5 error barcode-outside-page: the barcode ends 288 mm from the left and 100 mm from the top, where there is no page"_s },
+        { "barcode below a wide page",
+          changed("orientation='portrait'", "orientation='landscape'")
+                  .replace("position_x='12' position_y='290.5'", "position_y='200'")
+                  .replace("position_y='290.5'", "position_y='277'"),
+          u"position_y='277'"_s,
+          u"5 error barcode-outside-page: the barcode ends 100 mm from the left and 277 mm from the top, where there is no page"_s },
+        { "barcode outside of a square page",
+          changed("orientation='portrait'", "orientation='square'")
+                  .replace("position_y='290.5'", "position_y='200'")
+                  .replace("position_x='62'", "position_x='270'"),
+          u"position_x='270'"_s,
+          u"5 error barcode-outside-page: the barcode ends 308 mm from the left and 200 mm from the top, where there is no page"_s },
+        { "barcode on a page that would be a ribbon",
+          changed("orientation='portrait' ", "")
+                  .replace("position_x='62' position_y='290.5'", "position_x='900' position_y='20'"),
+          u"position_x='900'"_s,
+          u"5 error barcode-outside-page: the barcode ends 938 mm from the left and 20 mm from the top, where there is no page"_s },
+        { "barcode far from a page of any size",
+          changed("space_magnitude='600cm2' ", "").replace("position_x='62'", "position_x='9999'"),
+          u"position_x='9999'"_s,
+          u"5 error barcode-outside-page: the barcode ends 10037 mm from the left and 290.5 mm from the top, where there is no page"_s },
+        { "barcode half outside over another", changed("position_x='62'", "position_x='-2'"), u"position_x='-2'"_s,
+          u"5 error barcode-outside-page: the barcode begins left of the page"_s },
+        { "lengths in an unknown unit",
+          changed("<barcodes units='mm'>", "<barcodes units='0.1 mm'>").replace("290.5", "2905"), u"units='0.1 mm'"_s,
+          u"3 error unit-unknown: there is no unit \"0.1 mm\"; there are mm, cm, inch, in, pt, point and 0.1mm"_s },
+        { "barcodes overlap", changed("position_x='62'", "position_x='49.9'"), u"<barcode>"_s,
+          u"5 error barcode-overlap: the barcode overlaps the one in line 4"_s },
+        { "barcode position is no number", changed("position_x='62'", "position_x='12mm'"), u"position_x='12mm'"_s,
+          u"5 error number-invalid: position_x is \"12mm\", which is no number"_s },
+        { "barcode page is no number", changed("pageNr='2'/>", "pageNr='x'/>"), u"pageNr='x'"_s,
+          u"4 error number-invalid: pageNr is \"x\", which is no whole number"_s },
+        { "unknown unit of barcodes", changed("<barcodes units='mm'>", "<barcodes units='metre'>"), u"units='metre'"_s,
+          u"3 error unit-unknown: there is no unit \"metre\"; there are mm, cm, inch, in, pt, point and 0.1mm"_s },
+        { "price class of an option", changed("price_class='LEZ2'", "price_class='LEZ7'"), u"price_class='LEZ7'"_s,
+          u"12 warning price-class-unknown: the price class \"LEZ7\" belongs to no known group"_s },
+        { "price class in small letters", changed("price_class='LEZ2'", "price_class='lez2'"), u"price_class='lez2'"_s,
+          u"12 warning price-class-unknown: the price class \"lez2\" belongs to no known group"_s },
+        { "price class of pages", changed("page_price_class='RODA6x9'", "page_price_class='RODA'"),
+          u"page_price_class='RODA'"_s,
+          u"2 warning price-class-unknown: the price class \"RODA\" belongs to no known group"_s },
+        { "both widths below 0", changed("base_width='0.8' block_width='0.1'", "block_width='-0.1' base_width='-0.8'"),
+          u"base_width='-0.8'"_s, u"8 error spine-negative: base_width, block_width are below 0"_s },
+        { "blank type", changed("type='DUN9' ", "type='&#160;' "), u"type='&#160;'"_s,
+          u"2 error type-missing: the product has no type"_s },
+        { "step of nothing", changed("page_step='4'", "page_step='0'"), u"page_step='0'"_s,
+          u"2 error page-counts-invalid: there is no step (page_step) that leads from 26 to 154 pages"_s },
+        { "option with an empty value", changed("<forms>\n", "<forms><form key='' value=''/>\n"), u"key=''"_s,
+          u"10 error option-incomplete: the option has no key and no value"_s },
+        { "unit with a blank", changed("<barcodes units='mm'>", "<barcodes units='mm '>"), u"units='mm '"_s,
+          u"3 error unit-unknown: there is no unit \"mm \"; there are mm, cm, inch, in, pt, point and 0.1mm"_s },
+    };
+}
+
+}
+
+class tst_RVCatalogueCheck : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void clean_data();
+    void clean();
+    void broken_data();
+    void broken();
+    void everyRuleHasAMistake();
+    void examples_data();
+    void examples();
+    void documentation();
+    void options_data();
+    void options();
+    void severalInOneProduct();
+    void disabledRules();
+    void copies();
+    void nullProduct();
+    void sampleIsClean();
+    void encodings_data();
+    void encodings();
+    void findingsBeforeAnError();
+    void longTexts();
+    void manyProducts();
+    void duplicatesFarApart();
+    void everyKeyword();
+    void unknownAsDecoded();
+    void guesses_data();
+    void guesses();
+    void numbersAsTheLibraryReadsThem();
+};
+
+void tst_RVCatalogueCheck::clean_data()
+{
+    QTest::addColumn<QByteArray>("file");
+
+    QTest::newRow("as it is") << QByteArray(CLEAN_CATALOGUE);
+    QTest::newRow("only what a product must have") << withSecondProduct("<product type='A' article_id='2'/>");
+    QTest::newRow("fixed page count of several pieces")
+            << withSecondProduct("<product type='A' article_id='2' pages='4' pieces='10'/>");
+    QTest::newRow("step of a fixed page count")
+            << withSecondProduct("<product type='A' article_id='2' pages='4' page_step='2'/>");
+    QTest::newRow("photo box") << withSecondProduct("<product type='A' article_id='2' pages='10' photo_box='TRUE'/>");
+    QTest::newRow("photo box in tens") << withSecondProduct(
+            "<product type='A' article_id='2' pages='10' max_pages='60' page_step='10' photo_box='1'/>");
+    QTest::newRow("letter case and blanks of keywords")
+            << changed("cover_type='hardcover'", "cover_type=' HardCover '");
+    QTest::newRow("keyword list") << changed("orientation='portrait'", "orientation='portrait, square'");
+    QTest::newRow("keyword of a combination") << changed("orientation='portrait'", "orientation='all'");
+    QTest::newRow("code of a photo paper") << changed("foto_paper_type='matt'", "foto_paper_type='2'");
+    QTest::newRow("stapled book without spine")
+            << withSecondProduct("<product type='A' article_id='2' article_class='book' page_binding='stapled'/>");
+    QTest::newRow("calendar without spine") << withSecondProduct(
+            "<product type='A' article_id='2' article_class='calendar' page_binding='spiral' pages='13'/>");
+    QTest::newRow("spine that does not grow")
+            << changed("packages_per_block='2' base_width='0.8' block_width='0.1'", "base_width='0.8'");
+    QTest::newRow("thin spine") << changed("base_width='0.8' block_width='0.1'", "base_width='0.01'");
+    for (const char *unit : { "mm", "cm", "inch", "in", "pt", "point", "0.1mm" })
+        QTest::addRow("unit %s", unit) << changed("units='cm'", QByteArray("units='") + unit + '\'');
+    QTest::newRow("no unit") << changed(" units='cm'", "");
+    QTest::newRow("one option without a default")
+            << withSecondProduct("<product type='A' article_id='2'><forms><form key='a' value='b'/></forms></product>");
+    QTest::newRow("options of two keys with the same value")
+            << changed("value='red'", "value='red' name='a'/>\n<form key='c' value='red' preselected='on'");
+    QTest::newRow("colour without text") << changed("color='red'", "color=''");
+    QTest::newRow("colour with transparency") << changed("color='red'", "color='#80ff0000'");
+    QTest::newRow("free price class") << changed("price_class='LEZ2'", "price_class='0815'");
+    QTest::newRow("empty price class") << changed("price_class='LEZ2'", "price_class=''");
+    QTest::newRow("shipping group 0") << changed("shipping_group='2'", "shipping_group='0'");
+    QTest::newRow("plus and blanks around numbers") << changed("pages='26'", "pages=' +26 '");
+    QTest::newRow("numbers with an exponent") << changed("position_y='290.5' width='38' height='10' pageNr='2'/>",
+                                                         "position_y='2.905e2' width='38' height='1e1' pageNr='2'/>");
+    QTest::newRow("barcodes side by side") << changed("position_x='62'", "position_x='50'");
+    QTest::newRow("barcodes of one place on two pages")
+            << changed("position_x='62' position_y='290.5' width='38' height='10' pageNr='2'",
+                       "position_x='12' position_y='290.5' "
+                       "width='38' height='10' pageNr='3'");
+    QTest::newRow("barcode at the edge") << changed("position_x='12' position_y='290.5'",
+                                                    "position_x='0' position_y='10'");
+    QTest::newRow("barcode on the last page") << changed("pageNr='2'/>", "pageNr='154'/>");
+    QTest::newRow("barcode on no page") << changed(" pageNr='2'/>", "/>");
+    QTest::newRow("barcode far away on a page of any size")
+            << changed("space_magnitude='600cm2' ", "").replace("position_x='62'", "position_x='900'");
+    QTest::newRow("barcode far away on the largest page")
+            << changed("space_magnitude='600cm2' ", "space_magnitude='2400cm2' ")
+                       .replace("position_x='62'", "position_x='900'");
+    QTest::newRow("other elements and attributes") << changed(
+            "<forms>", "text<description foo='bar'>a &amp; b</description><x:y xmlns:x='z'/><forms foo='bar'>");
+    QTest::newRow("barcode at the corner of a page of its usual area") << withSecondProduct(
+            "<product type='A' article_id='2' space_magnitude='220cm2' orientation='square'><barcodes>"
+            "<barcode position_x='112' position_y='150' width='38' height='10'/></barcodes></product>");
+    QTest::newRow("barcode at the corner of a wide page") << withSecondProduct(
+            "<product type='A' article_id='2' space_magnitude='600cm2' orientation='landscape'><barcodes>"
+            "<barcode position_x='259' position_y='210' width='38' height='10'/></barcodes></product>");
+    QTest::newRow("barcode at the corner of a panorama") << withSecondProduct(
+            "<product type='A' article_id='2' space_magnitude='1200cm2' orientation='landscape_slim'><barcodes>"
+            "<barcode position_x='862' position_y='130' width='38' height='10'/></barcodes></product>");
+    QTest::newRow("shipping group below 0") << changed("shipping_group='2'", "shipping_group='-2'");
+    QTest::newRow("parts of no product") << changed("<products>", "<products><forms/><forms/><spine/><spine/>");
+    QTest::newRow("parts of something else") << changed("<forms>", "<x><forms/><product/></x><x><forms/></x><forms>");
+    QTest::newRow("family around products")
+            << changed("<products>", "<products><family name='x'>").replace("</products>", "</family></products>");
+    QTest::newRow("other root") << changed("<products>", "<p>").replace("</products>", "</p>");
+    QTest::newRow("document type") << "<?xml version='1.0'?><!DOCTYPE products>" + QByteArray(CLEAN_CATALOGUE);
+}
+
+void tst_RVCatalogueCheck::clean()
+{
+    QFETCH(QByteArray, file);
+    QVERIFY(!file.isEmpty());
+    const Checked checked = check(file);
+    QCOMPARE(checked.texts(), QStringList());
+    QVERIFY(!checked.hasError);
+    QCOMPARE(checked.products, qint64(2));
+}
+
+void tst_RVCatalogueCheck::broken_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QString>("place");
+    QTest::addColumn<QString>("finding");
+
+    for (const Mistake &mistake : mistakes())
+        QTest::newRow(mistake.situation) << mistake.file << mistake.place << mistake.finding;
+}
+
+void tst_RVCatalogueCheck::broken()
+{
+    QFETCH(QByteArray, file);
+    QFETCH(QString, finding);
+    QVERIFY(!file.isEmpty());
+    const Checked checked = check(file);
+    QCOMPARE(checked.texts(), QStringList { finding });
+    QTEST(textAt(file, checked.findings.first().range()), "place");
+    QVERIFY(!checked.hasError);
+    const int line = finding.section(u' ', 0, 0).toInt();
+    QCOMPARE(checked.findings.first().product(), qint64(line == 1 ? -1 : line < 17 ? 0 : 1));
+}
+
+void tst_RVCatalogueCheck::everyRuleHasAMistake()
+{
+    QSet<QString> broken;
+    for (const Mistake &mistake : mistakes())
+        broken.insert(mistake.finding.section(u' ', 2, 2).chopped(1));
+    QSet<QString> rules;
+    for (const RVCatalogueRule rule : RVCatalogueRule::all())
+        rules.insert(rule.name());
+    QCOMPARE(broken, rules);
+}
+
+void tst_RVCatalogueCheck::examples_data()
+{
+    QTest::addColumn<QString>("rule");
+
+    for (const RVCatalogueRule rule : RVCatalogueRule::all())
+        QTest::newRow(rule.name().data()) << rule.name().toString();
+}
+
+void tst_RVCatalogueCheck::examples()
+{
+    QFETCH(QString, rule);
+    const QByteArray example = RVCatalogueRule::find(rule).example();
+    const Checked checked = check(example);
+    QVERIFY(!checked.hasError);
+    QCOMPARE(checked.rules(), QStringList { rule });
+    QVERIFY(example.startsWith("<products>\n"));
+    QVERIFY(example.endsWith("\n</products>\n"));
+}
+
+// The rules in the table of the page, in its order.
+void tst_RVCatalogueCheck::documentation()
+{
+    static const QRegularExpression row(u"^\\| `([a-z]+(?:-[a-z]+)+)` \\| "_s, QRegularExpression::MultilineOption);
+    QFile page(u"" DOCS "/catalogue-format.md"_s);
+    QVERIFY(page.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(page.readAll());
+    QStringList documented;
+    for (const QRegularExpressionMatch &match : row.globalMatch(text))
+        documented += match.captured(1);
+    QStringList rules;
+    for (const RVCatalogueRule rule : RVCatalogueRule::all())
+        rules += rule.name();
+    QCOMPARE(documented, rules);
+}
+
+void tst_RVCatalogueCheck::options_data()
+{
+    QTest::addColumn<QByteArray>("options");
+    QTest::addColumn<QStringList>("findings");
+
+    QTest::newRow("the same three times, others between")
+            << QByteArray("<form key='b' value='x' preselected='1'/>\n"
+                          "<form key='a' value='y' preselected='1'/>\n"
+                          "<form key='b' value='x'/>\n"
+                          "<form key='b' value='w'/>\n"
+                          "<form key='b' value='x'/>\n")
+            << QStringList { u"4 error option-duplicate: the option \"x\" of \"b\" is already there in line 2"_s,
+                             u"6 error option-duplicate: the option \"x\" of \"b\" is already there in line 2"_s };
+    QTest::newRow("default repeats an option, and another default follows")
+            << QByteArray("<form key='a' value='x'/>\n"
+                          "<form key='a' value='x' preselected='1'/>\n"
+                          "<form key='a' value='b' preselected='1'/>\n")
+            << QStringList {
+                   u"3 error option-duplicate: the option \"x\" of \"a\" is already there in line 2"_s,
+                   u"4 error option-default-twice: \"b\" is preselected for \"a\", but \"x\" in line 3 is so already"_s
+               };
+    QTest::newRow("two defaults of each of two keys")
+            << QByteArray("<form key='b' value='2' preselected='1'/>\n"
+                          "<form key='a' value='2' preselected='1'/>\n"
+                          "<form key='b' value='1' preselected='1'/>\n"
+                          "<form key='a' value='1' preselected='1'/>\n")
+            << QStringList {
+                   u"4 error option-default-twice: \"1\" is preselected for \"b\", but \"2\" in line 2 is so already"_s,
+                   u"5 error option-default-twice: \"1\" is preselected for \"a\", but \"2\" in line 3 is so already"_s
+               };
+    QTest::newRow("no default of two keys")
+            << QByteArray("<form key='b' value='2'/>\n"
+                          "<form key='a' value='2'/>\n"
+                          "<form key='a' value='1'/>\n"
+                          "<form key='b' value='1'/>\n")
+            << QStringList {
+                   u"2 warning option-default-missing: no option of \"b\" is preselected, so the first is taken"_s,
+                   u"3 warning option-default-missing: no option of \"a\" is preselected, so the first is taken"_s
+               };
+    QTest::newRow("nobody knows what is preselected")
+            << QByteArray("<form key='a' value='1' preselected='maybe'/>\n"
+                          "<form key='b' value='1' preselected='1'/>\n")
+            << QStringList { u"2 error boolean-invalid: preselected is \"maybe\", which is neither true nor false"_s };
+    QTest::newRow("one key more than the letters of another")
+            << QByteArray("<form key='a' value='bc' preselected='1'/>\n"
+                          "<form key='ab' value='c' preselected='1'/>\n")
+            << QStringList();
+    QTest::newRow("many in one product")
+            << QByteArray("<form key='a' value='b' preselected='1'/>").repeated(100) + "\n<form key='a' value='b'/>"
+            << QStringList(99, u"2 error option-duplicate: the option \"b\" of \"a\" is already there in line 2"_s)
+                    + QStringList {
+                          u"3 error option-duplicate: the option \"b\" of \"a\" is already there in line 2"_s
+                      };
+}
+
+void tst_RVCatalogueCheck::options()
+{
+    QFETCH(QByteArray, options);
+    QTEST(check(withOptions(options)).texts(), "findings");
+}
+
+// One mistake is one finding, and two are two, in the order of their places.
+void tst_RVCatalogueCheck::severalInOneProduct()
+{
+    const QString missing =
+            u"13 warning option-default-missing: no option of \"a;b\" is preselected, so an order comes "
+            "without any"_s;
+    const Checked incomplete = check(changed(" preselected='yes'", "").replace("value='black'", "value=''"));
+    QCOMPARE(incomplete.texts(), QStringList({ u"11 error option-incomplete: the option has no value"_s, missing }));
+    const Checked mismatch = check(changed("value='v;w'", "value='vw'").replace(" preselected='true'", ""));
+    QCOMPARE(mismatch.texts(),
+             QStringList({ u"11 warning option-default-missing: no option of \"alcolor\" is preselected, so an order "
+                           "comes without any"_s,
+                           u"14 error option-composite-mismatch: the keys \"a;b\" and the values \"vw\" are not "
+                           "equally many"_s }));
+    const Checked line = check(
+            "<products><product page_step='x' article_id='0' cover_type='hard, foo' type=''/></products>");
+    QCOMPARE(
+            line.texts(),
+            QStringList(
+                    { u"1 error number-invalid: page_step is \"x\", which is no whole number"_s,
+                      u"1 error article-id-invalid: the article id \"0\" is no whole number above 0"_s,
+                      u"1 note keyword-legacy: \"hard\" is an alias in cover_type; the main keyword is \"hardcover\""_s,
+                      u"1 error keyword-unknown: \"foo\" is no keyword of cover_type"_s,
+                      u"1 error type-missing: the product has no type"_s }));
+}
+
+void tst_RVCatalogueCheck::disabledRules()
+{
+    const QByteArray file = changed("cover_type='hardcover'", "cover_type='hard, foo'");
+    QCOMPARE(check(file).findings.size(), 2);
+    QCOMPARE(check(file, { u"keyword-legacy"_s }).texts(),
+             QStringList { u"2 error keyword-unknown: \"foo\" is no keyword of cover_type"_s });
+    QCOMPARE(check(file, { u"keyword-legacy"_s, u"keyword-unknown"_s }).texts(), QStringList());
+    QCOMPARE(check("<p/>", { u"products-missing"_s }).texts(), QStringList());
+    QCOMPARE(check(changed("type='FOT1' article_id='2'", "type='DUN9' article_id='1'"),
+                   { u"type-duplicate"_s, u"article-id-duplicate"_s })
+                     .texts(),
+             QStringList());
+    QCOMPARE(check(file, { u"no-such-rule"_s }).findings.size(), 2);
+}
+
+void tst_RVCatalogueCheck::copies()
+{
+    const RVCatalogueRule rule = RVCatalogueRule::find(u"spine-missing");
+    RVCatalogueCheck check;
+    QVERIFY(check.isEnabled(rule));
+    QVERIFY(!check.isEnabled(RVCatalogueRule()));
+    RVCatalogueCheck copy = check;
+    copy.disable(rule);
+    QVERIFY(!copy.isEnabled(rule));
+    QVERIFY(check.isEnabled(rule));
+    check = std::move(copy);
+    QVERIFY(!check.isEnabled(rule));
+    copy = check;
+    copy.disable(RVCatalogueRule());
+    QVERIFY(!copy.isEnabled(rule));
+    QVERIFY(copy.isEnabled(RVCatalogueRule::find(u"spine-negative")));
+}
+
+void tst_RVCatalogueCheck::nullProduct()
+{
+    QVERIFY(RVCatalogueCheck().findings(RVCatalogueProduct()).isEmpty());
+}
+
+void tst_RVCatalogueCheck::sampleIsClean()
+{
+    QFile sample(u"" SAMPLES "/products.xml"_s);
+    QVERIFY(sample.open(QIODevice::ReadOnly));
+    const Checked checked = check(sample.readAll());
+    QCOMPARE(checked.texts(), QStringList());
+    QVERIFY(!checked.hasError);
+    QCOMPARE(checked.products, qint64(49));
+}
+
+void tst_RVCatalogueCheck::encodings_data()
+{
+    QTest::addColumn<QByteArray>("file");
+
+    const QByteArray text =
+            "<products>\n<product type='Ä' article_id='1'/>\n<p>ü<product type='Ä' article_id='2'/></p>\n"
+            "</products>\n";
+    const QByteArray latin1 = QString::fromUtf8(text).toLatin1();
+    QTest::newRow("UTF-8") << text;
+    QTest::newRow("byte order mark") << "\xef\xbb\xbf" + text;
+    QTest::newRow("UTF-16") << utf16(text);
+    QTest::newRow("Latin-1") << "<?xml version='1.0' encoding='ISO-8859-1'?>" + latin1;
+    QTest::newRow("CRLF") << QByteArray(text).replace("\n", "\r\n");
+    QTest::newRow("CR") << QByteArray(text).replace("\n", "\r");
+}
+
+void tst_RVCatalogueCheck::encodings()
+{
+    QFETCH(QByteArray, file);
+    const Checked checked = check(file);
+    QCOMPARE(checked.texts(),
+             QStringList { u"3 error type-duplicate: the type \"Ä\" is already that of the product in line 2"_s });
+    const RVFileRange range = checked.findings.first().range();
+    QCOMPARE(range.begin.column, qint64(14));
+    QCOMPARE(range.end.line, qint64(3));
+    QCOMPARE(range.end.column, qint64(22));
+    QVERIFY(!checked.hasError);
+}
+
+void tst_RVCatalogueCheck::findingsBeforeAnError()
+{
+    const Checked checked = check("<p>\n<product type='A'/>\n<product type='A' article_id='1'/></q>");
+    QVERIFY(checked.hasError);
+    QCOMPARE(checked.texts(),
+             QStringList({ u"2 error article-id-missing: the product has no article id"_s,
+                           u"3 error type-duplicate: the type \"A\" is already that of the product in line 2"_s }));
+    QCOMPARE(check("<p>").texts(), QStringList());
+}
+
+// A finding stays one line of moderate length whatever the catalogue says.
+void tst_RVCatalogueCheck::longTexts()
+{
+    const QByteArray file = changed("cover_type='hardcover'", "cover_type='a&#10;" + QByteArray(60000, 'x') + '\'');
+    QCOMPARE(
+            check(file).texts(),
+            QStringList { u"2 error keyword-unknown: \"a %1…\" is no keyword of cover_type"_s.arg(QString(78, u'x')) });
+    const QByteArray many = changed("cover_type='hardcover'",
+                                    "cover_type='" + QByteArray("x,").repeated(30000) + '\'');
+    QCOMPARE(check(many).findings.size(), 100);
+}
+
+void tst_RVCatalogueCheck::manyProducts()
+{
+    constexpr int count = 30000;
+    QByteArray file = "<products>\n";
+    QStringList expected;
+    for (int i = 1; i <= count; ++i) {
+        const QByteArray number = QByteArray::number(i);
+        file += "<product type='T" + number + "' article_id='" + number + (i % 7 ? "'/>\n" : "' pages='x'/>\n");
+        if (i % 7 == 0)
+            expected += u"%1 error number-invalid: pages is \"x\", which is no whole number"_s.arg(i + 1);
+    }
+    file += "</products>";
+    const Checked checked = check(file);
+    QCOMPARE(checked.texts(), expected);
+    QCOMPARE(checked.products, qint64(count));
+    for (qsizetype i = 0; i < checked.findings.size(); ++i)
+        QCOMPARE(checked.findings.at(i).product(), qint64((i + 1) * 7 - 1));
+}
+
+void tst_RVCatalogueCheck::duplicatesFarApart()
+{
+    QByteArray file = "<products>\n<product type='T' article_id='1000000'/>\n";
+    for (int i = 1; i <= 20000; ++i)
+        file += "<product type='T" + QByteArray::number(i) + "' article_id='" + QByteArray::number(i) + "'/>\n";
+    file += "<product type='T' article_id='1000000'/>\n<product type='t' article_id='1000001'/>\n</products>";
+    QCOMPARE(
+            check(file).texts(),
+            (QStringList {
+                    u"20003 error type-duplicate: the type \"T\" is already that of the product in line 2"_s,
+                    u"20003 error article-id-duplicate: the article id 1000000 is already that of the product in line 2"_s }));
+}
+
+void tst_RVCatalogueCheck::everyKeyword()
+{
+    for (const RVCatalogueAttribute attribute : RVCatalogueAttribute::ofProducts()) {
+        for (const RVCatalogueAttributeValue &value : attribute.values()) {
+            QVERIFY2(keywordFindings(attribute, value.keyword).isEmpty(), qPrintable(value.keyword));
+            const QString spelled = u' ' + value.keyword.toUpper() + u'\t';
+            QVERIFY2(keywordFindings(attribute, spelled).isEmpty(), qPrintable(value.keyword));
+            bool isNumber = false;
+            value.keyword.toInt(&isNumber);
+            for (const QString &alias : value.aliases) {
+                const QString text = u"\"%1\" is an alias in %2; the main keyword is \"%3\""_s;
+                QCOMPARE(keywordFindings(attribute, alias),
+                         isNumber ? QStringList()
+                                  : QStringList { text.arg(alias, attribute.name(), value.keyword.toLower()) });
+            }
+        }
+    }
+}
+
+// What the check calls unknown is what the attribute does not decode.
+void tst_RVCatalogueCheck::unknownAsDecoded()
+{
+    QRandomGenerator random(20261121);
+    for (const RVCatalogueAttribute attribute : RVCatalogueAttribute::ofProducts()) {
+        QStringList pieces = { u""_s, u" "_s, u"nonsense"_s, u"\u0130"_s, u"İndigo"_s, u"\u00a0glue"_s, u"\u00a0a4"_s };
+        for (const RVCatalogueAttributeValue &value : attribute.values())
+            pieces += value.aliases + QStringList { value.keyword, value.keyword + u'x', value.keyword.mid(1) };
+        for (int i = 0; i < 300; ++i) {
+            QStringList list;
+            for (int count = random.bounded(1, 5); count > 0; --count)
+                list += pieces.at(random.bounded(int(pieces.size())));
+            const QString text = list.join(u',');
+            QStringList unknown;
+            for (const QString &finding : keywordFindings(attribute, text)) {
+                if (finding.startsWith("there is an empty"_L1))
+                    unknown += QString();
+                else if (finding.contains("\" is no keyword of "_L1))
+                    unknown += finding.section(u'"', 1, 1);
+            }
+            QCOMPARE(unknown, attribute.decode(text).unknownPieces);
+        }
+    }
+}
+
+void tst_RVCatalogueCheck::guesses_data()
+{
+    QTest::addColumn<QString>("attribute");
+    QTest::addColumn<QString>("piece");
+    QTest::addColumn<QString>("finding");
+
+    QTest::newRow("letter missing") << u"cover_type"_s << u"softcver"_s
+                                    << u"\"softcver\" is no keyword of cover_type; did you mean \"softcover\"?"_s;
+    QTest::newRow("letters swapped") << u"orientation"_s << u"lanscdape"_s
+                                     << u"\"lanscdape\" is no keyword of orientation; did you mean \"landscape\"?"_s;
+    QTest::newRow("written in capitals") << u"cover_type"_s << u"SOFTCVER"_s
+                                         << u"\"SOFTCVER\" is no keyword of cover_type; did you mean \"SOFTCOVER\"?"_s;
+    QTest::newRow("near an alias")
+            << u"article_class"_s << u"fotobok"_s
+            << u"\"fotobok\" is no keyword of article_class; did you mean \"fotobook\", that is \"book\"?"_s;
+    QTest::newRow("near a foreign alias")
+            << u"article_class"_s << u"postr"_s
+            << u"\"postr\" is no keyword of article_class; did you mean \"poster\", that is \"deko\"?"_s;
+    QTest::newRow("near a size")
+            << u"space_magnitude"_s << u"A33"_s
+            << u"\"A33\" is no keyword of space_magnitude; did you mean \"a3\", that is \"1200cm2\"?"_s;
+    QTest::newRow("other separator")
+            << u"paper_type"_s << u"indigo_glossy"_s
+            << u"\"indigo_glossy\" is no keyword of paper_type; did you mean \"indigo-glossy\"?"_s;
+    QTest::newRow("like nothing") << u"cover_type"_s << u"zzzzzzzz"_s << u"\"zzzzzzzz\" is no keyword of cover_type"_s;
+    QTest::newRow("empty") << u"cover_type"_s << QString() << u"there is an empty keyword in cover_type"_s;
+    QTest::newRow("too long")
+            << u"cover_type"_s << QString(50, u'h')
+            << u"\"hhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhh\" is no keyword of cover_type"_s;
+}
+
+void tst_RVCatalogueCheck::guesses()
+{
+    QFETCH(QString, attribute);
+    QFETCH(QString, piece);
+    QFETCH(QString, finding);
+    QCOMPARE(keywordFindings(RVCatalogueAttribute::find(attribute), piece), QStringList { finding });
+}
+
+// A value is called unreadable exactly when the library's reader falls back to its default.
+void tst_RVCatalogueCheck::numbersAsTheLibraryReadsThem()
+{
+    QStringList texts = { u"true"_s,       u"TRUE"_s,  u"false"_s, u"False"_s, u"yes"_s,    u"no"_s,
+                          u"on"_s,         u"oFF"_s,   u"maybe"_s, u""_s,      u" true"_s,  u"1"_s,
+                          u"0"_s,          u"-1"_s,    u"+7"_s,    u" 8 "_s,   u"1e3"_s,    u"2147483647"_s,
+                          u"2147483648"_s, u"0x10"_s,  u"1,000"_s, u"٣"_s,     u"nan"_s,    u"inf"_s,
+                          u"-inf"_s,       u"1e400"_s, u".5"_s,    u"5."_s,    u"\u00a05"_s };
+    QRandomGenerator random(20261121);
+    for (int i = 0; i < 5000; ++i) {
+        static const QString letters = u"0123456789+-.,eE xtrufalsn\t"_s;
+        QString text;
+        for (int length = random.bounded(7); length > 0; --length)
+            text += letters.at(random.bounded(int(letters.size())));
+        texts += text;
+    }
+    QByteArray file = "<p>";
+    for (const QString &text : std::as_const(texts)) {
+        const QByteArray value = "='" + escaped(text) + '\'';
+        file += "<product pages" + value + "><barcodes><barcode position_x" + value
+                + "/></barcodes><forms><form key='a' value='b' not_accountable" + value + "/></forms></product>";
+    }
+    file += "</p>";
+    QStringList found;
+    for (const RVCatalogueFinding &finding : check(file).findings) {
+        if (finding.text().contains("\", which is "_L1))
+            found += QString::number(finding.product()) + u' ' + finding.text().section(u' ', 0, 0);
+    }
+    QStringList expected;
+    for (qsizetype i = 0; i < texts.size(); ++i) {
+        QDomDocument document;
+        QDomElement copy = document.createElement(u"p"_s);
+        copy.setAttribute(u"a"_s, texts.at(i));
+        const QString name = u"a"_s;
+        const QString number = QString::number(i);
+        if (RVXMLParser::intAttribute(copy, name, 1) != RVXMLParser::intAttribute(copy, name, 2))
+            expected += number + " pages"_L1;
+        if (RVXMLParser::doubleAttribute(copy, name, 1) != RVXMLParser::doubleAttribute(copy, name, 2))
+            expected += number + " position_x"_L1;
+        if (RVXMLParser::boolAttribute(copy, name, false) != RVXMLParser::boolAttribute(copy, name, true))
+            expected += number + " not_accountable"_L1;
+    }
+    QCOMPARE(found, expected);
+}
+
+QTEST_MAIN(tst_RVCatalogueCheck)
+#include "tst_RVCatalogueCheck.moc"
