@@ -772,8 +772,7 @@ void tst_RVCatalogueCheck::longTexts()
     QCOMPARE(
             check(file).texts(),
             QStringList { u"2 error keyword-unknown: \"a %1…\" is no keyword of cover_type"_s.arg(QString(78, u'x')) });
-    const QByteArray many = changed("cover_type='hardcover'",
-                                    "cover_type='" + QByteArray("x,").repeated(30000) + '\'');
+    const QByteArray many = changed("cover_type='hardcover'", "cover_type='" + QByteArray("x,").repeated(30000) + '\'');
     QCOMPARE(check(many).findings.size(), 100);
 }
 

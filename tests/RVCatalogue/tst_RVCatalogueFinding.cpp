@@ -1,0 +1,71 @@
+#include <RVCatalogueFinding.h>
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class tst_RVCatalogueFinding : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void values();
+    void ofTheFile();
+    void nullFinding();
+    void copiesAndMoves();
+};
+
+namespace {
+
+constexpr RVFileRange RANGE = { { 7, 5 }, { 7, 26 } };
+
+RVCatalogueFinding keywordFinding()
+{
+    return RVCatalogueFinding(RVCatalogueRule::find(u"keyword-legacy"), RANGE, u"\"hard\" is an alias"_s, 3);
+}
+
+}
+
+void tst_RVCatalogueFinding::values()
+{
+    const RVCatalogueFinding finding = keywordFinding();
+    QVERIFY(!finding.isNull());
+    QVERIFY(finding.rule() == RVCatalogueRule::find(u"keyword-legacy"));
+    QCOMPARE(finding.severity(), RVCatalogueSeverity::Note);
+    QVERIFY(finding.range() == RANGE);
+    QCOMPARE(finding.text(), u"\"hard\" is an alias"_s);
+    QCOMPARE(finding.product(), qint64(3));
+}
+
+void tst_RVCatalogueFinding::ofTheFile()
+{
+    const RVCatalogueFinding finding(RVCatalogueRule::find(u"products-missing"), RVFileRange(), u"nothing"_s);
+    QCOMPARE(finding.product(), qint64(-1));
+    QCOMPARE(finding.severity(), RVCatalogueSeverity::Error);
+    QCOMPARE(finding.range().begin.line, qint64(1));
+}
+
+void tst_RVCatalogueFinding::nullFinding()
+{
+    const RVCatalogueFinding finding;
+    QVERIFY(finding.isNull());
+    QVERIFY(finding.rule().isNull());
+    QCOMPARE(finding.severity(), RVCatalogueSeverity::Note);
+    QVERIFY(finding.range() == RVFileRange());
+    QVERIFY(finding.text().isNull());
+    QCOMPARE(finding.product(), qint64(-1));
+}
+
+void tst_RVCatalogueFinding::copiesAndMoves()
+{
+    RVCatalogueFinding finding = keywordFinding();
+    const RVCatalogueFinding copy = finding;
+    const RVCatalogueFinding moved = std::move(finding);
+    QCOMPARE(copy.text(), u"\"hard\" is an alias"_s);
+    QCOMPARE(moved.text(), u"\"hard\" is an alias"_s);
+    finding = copy;
+    QCOMPARE(finding.product(), qint64(3));
+}
+
+QTEST_GUILESS_MAIN(tst_RVCatalogueFinding)
+#include "tst_RVCatalogueFinding.moc"

@@ -1,0 +1,95 @@
+#include <RVCatalogueRule.h>
+
+#include <QRegularExpression>
+#include <QSet>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class tst_RVCatalogueRule : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void all();
+    void texts();
+    void find();
+    void severities_data();
+    void severities();
+    void nullRule();
+    void severityNames();
+};
+
+void tst_RVCatalogueRule::all()
+{
+    QSet<QString> names;
+    for (const RVCatalogueRule rule : RVCatalogueRule::all())
+        names.insert(rule.name());
+    QCOMPARE(names.size(), qsizetype(30));
+    QCOMPARE(RVCatalogueRule::all().size(), qsizetype(30));
+    QCOMPARE(RVCatalogueRule::all().first().name(), "products-missing"_L1);
+    QCOMPARE(RVCatalogueRule::all().last().name(), "price-class-unknown"_L1);
+}
+
+void tst_RVCatalogueRule::texts()
+{
+    static const QRegularExpression kebabCase(u"^[a-z]+(-[a-z]+)+$"_s);
+    for (const RVCatalogueRule rule : RVCatalogueRule::all()) {
+        QVERIFY2(kebabCase.match(rule.name()).hasMatch(), rule.name().data());
+        QVERIFY2(rule.reason().endsWith(u'.'), rule.name().data());
+        QVERIFY2(!rule.reason().contains(". "_L1), rule.name().data());
+        QVERIFY2(!rule.example().isEmpty(), rule.name().data());
+    }
+    const RVCatalogueRule rule = RVCatalogueRule::find(u"article-id-missing");
+    QCOMPARE(rule.reason(), u"Shop and production know an article by its id."_s);
+    QCOMPARE(rule.example(), QByteArray("<products>\n  <product type=\"DUN9\"/>\n</products>\n"));
+}
+
+void tst_RVCatalogueRule::find()
+{
+    for (const RVCatalogueRule rule : RVCatalogueRule::all()) {
+        QVERIFY(RVCatalogueRule::find(rule.name().toString()) == rule);
+        QVERIFY(!rule.isNull());
+    }
+    QVERIFY(RVCatalogueRule::find(u"spine-missing") != RVCatalogueRule::find(u"spine-negative"));
+    for (const QString &name : { u"no-such-rule"_s, u""_s, u"Spine-Missing"_s, u"spine"_s })
+        QVERIFY2(RVCatalogueRule::find(name).isNull(), qPrintable(name));
+}
+
+void tst_RVCatalogueRule::severities_data()
+{
+    QTest::addColumn<QString>("rule");
+    QTest::addColumn<RVCatalogueSeverity>("severity");
+
+    QTest::newRow("good to know") << u"keyword-legacy"_s << RVCatalogueSeverity::Note;
+    QTest::newRow("probably not meant") << u"option-default-missing"_s << RVCatalogueSeverity::Warning;
+    QTest::newRow("goes wrong") << u"type-missing"_s << RVCatalogueSeverity::Error;
+}
+
+void tst_RVCatalogueRule::severities()
+{
+    QFETCH(QString, rule);
+    QTEST(RVCatalogueRule::find(rule).severity(), "severity");
+}
+
+void tst_RVCatalogueRule::nullRule()
+{
+    const RVCatalogueRule rule;
+    QVERIFY(rule.isNull());
+    QVERIFY(rule == RVCatalogueRule());
+    QVERIFY(rule != RVCatalogueRule::find(u"type-missing"));
+    QVERIFY(rule.name().isEmpty());
+    QCOMPARE(rule.severity(), RVCatalogueSeverity::Note);
+    QVERIFY(rule.reason().isEmpty());
+    QVERIFY(rule.example().isEmpty());
+}
+
+void tst_RVCatalogueRule::severityNames()
+{
+    QCOMPARE(rvSeverityName(RVCatalogueSeverity::Note), "note"_L1);
+    QCOMPARE(rvSeverityName(RVCatalogueSeverity::Warning), "warning"_L1);
+    QCOMPARE(rvSeverityName(RVCatalogueSeverity::Error), "error"_L1);
+}
+
+QTEST_GUILESS_MAIN(tst_RVCatalogueRule)
+#include "tst_RVCatalogueRule.moc"
