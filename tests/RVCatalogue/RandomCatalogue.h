@@ -1,6 +1,8 @@
 #ifndef RANDOMCATALOGUE_H
 #define RANDOMCATALOGUE_H
 
+#include <RVCatalogueAttribute.h>
+
 #include <QList>
 #include <QRandomGenerator>
 #include <QString>
@@ -16,9 +18,12 @@ public:
     QString product()
     {
         static const QStringList texts = { u"type"_s, u"name"_s, u"price_class"_s, u"page_price_class"_s, u"foo"_s };
-        static const QStringList keywordLists = { u"article_class"_s,  u"cover_type"_s,  u"page_binding"_s,
-                                                  u"paper_type"_s,     u"orientation"_s, u"space_magnitude"_s,
-                                                  u"foto_paper_type"_s };
+        static const QStringList keywordLists = [] {
+            QStringList names;
+            for (const RVCatalogueAttribute &attribute : RVCatalogueAttribute::ofProducts())
+                names += attribute.name();
+            return names;
+        }();
         static const QStringList numbers = { u"article_id"_s, u"shipping_group"_s, u"pages"_s,
                                              u"max_pages"_s,  u"page_step"_s,      u"pieces"_s };
         QString result = u"<product"_s + attributes(texts, TEXTS) + attributes(keywordLists, KEYWORDS)
