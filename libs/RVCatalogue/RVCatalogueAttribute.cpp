@@ -121,9 +121,9 @@ RVCatalogueAttributeDecoding decode(const QString &text)
 template<typename T>
 T valueOf(const RVCatalogueProduct &product)
 {
-    constexpr auto function = std::get<RVCatalogueAttributeRow<T>>(RV_CATALOGUE_ATTRIBUTES).value;
-    if constexpr (function != nullptr)
-        return (product.*function)();
+    constexpr auto row = std::get<RVCatalogueAttributeRow<T>>(RV_CATALOGUE_ATTRIBUTES);
+    if constexpr (row.isOfProducts)
+        return (product.*row.value)();
     else
         return T();
 }
@@ -151,7 +151,7 @@ template<typename Row>
 constexpr RVCatalogueAttributeFunctions functionsOf(const Row &row)
 {
     using T = typename Row::Class;
-    return { row.name, row.label, row.value != nullptr, values<T>, decode<T>, isIn<T>, value<T>, decodeProduct<T> };
+    return { row.name, row.label, row.isOfProducts, values<T>, decode<T>, isIn<T>, value<T>, decodeProduct<T> };
 }
 
 constexpr auto FUNCTIONS = std::apply([](const auto &...rows) { return std::array { functionsOf(rows)... }; },

@@ -23,10 +23,20 @@ template<typename T>
 struct RVCatalogueAttributeRow
 {
     using Class = T;
+    using Value = T (RVCatalogueProduct::*)() const;
+
+    constexpr RVCatalogueAttributeRow(QLatin1StringView name_, const char *label_) : name(name_), label(label_) { }
+    constexpr RVCatalogueAttributeRow(QLatin1StringView name_, const char *label_, Value value_)
+        : name(name_),
+          label(label_),
+          isOfProducts(true),
+          value(value_)
+    { }
 
     QLatin1StringView name;
-    const char *label;
-    T (RVCatalogueProduct::*value)() const = nullptr;
+    const char *label; ///< In English; RVCatalogueAttribute::label() translates it.
+    bool isOfProducts = false;
+    Value value = nullptr;
 };
 
 /**

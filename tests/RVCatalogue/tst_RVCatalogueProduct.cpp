@@ -100,7 +100,7 @@ T keywords(const QDomElement &product, QLatin1StringView name)
 void compareKeywords(const RVCatalogueProduct &product, const QDomElement &element)
 {
     const auto compare = [&](const auto &row) {
-        if (row.value)
+        if (row.isOfProducts)
             QVERIFY2((product.*row.value)() == keywords<typename std::decay_t<decltype(row)>::Class>(element, row.name),
                      row.name.data());
     };
