@@ -17,8 +17,9 @@ int columns(char byte)
 /// The first end of a line, behind which the next one begins; null where there is none.
 const char *lineEnd(const char *begin, const char *end, char next)
 {
-    const auto size = std::size_t(end - begin);
-    const auto *lineFeed = static_cast<const char *>(std::memchr(begin, '\n', size));
+    if (begin == end)
+        return nullptr;
+    const auto *lineFeed = static_cast<const char *>(std::memchr(begin, '\n', std::size_t(end - begin)));
     const auto *searchEnd = lineFeed ? lineFeed : end;
     const auto *carriageReturn = static_cast<const char *>(std::memchr(begin, '\r', std::size_t(searchEnd - begin)));
     if (!carriageReturn || carriageReturn + 1 == lineFeed)
