@@ -95,6 +95,8 @@ void RVBarcodeCheck::check(const RVCatalogueProduct &product)
 {
     constexpr auto name = "barcode"_L1;
     const RVCatalogueElement barcodes = product.element().firstChildElement("barcodes"_L1);
+    if (barcodes.isNull())
+        return;
     const RVDistanceUnit unit(barcodes.attribute("units"_L1));
     const bool isUnitKnown = rvCheckUnit(barcodes, myReport);
     const PageSize pageSize(product);
@@ -158,16 +160,22 @@ void RVBarcodeCheck::checkArea(const Barcode &barcode, const PageSize &pageSize)
 bool RVBarcodeCheck::checkEdges(const Barcode &barcode, const PageSize &pageSize)
 {
     const QRect &area = barcode.area;
-    if (area.left() >= 0 && area.top() >= 0 && !pageSize.isBelow(area))
+    if (area.left() < 0)
+        return addOutside(barcode, "position_x"_L1, RVFindingText::tr("the barcode begins left of the page"));
+    if (area.top() < 0)
+        return addOutside(barcode, "position_y"_L1, RVFindingText::tr("the barcode begins above the page"));
+    if (!pageSize.isBelow(area))
         return true;
-    const QString text = area.left() < 0 ? RVFindingText::tr("the barcode begins left of the page")
-            : area.top() < 0             ? RVFindingText::tr("the barcode begins above the page")
-                             : RVFindingText::tr("the barcode ends %1 mm from the left and %2 mm from the top, where "
-                                                 "there is no page")
-                                       .arg(millimetres(area.right() + 1.0), millimetres(area.bottom() + 1.0));
-    const bool isWrongInX = area.left() < 0 || (area.top() >= 0 && area.right() > area.bottom());
-    myReport->add(RVCatalogueRuleId::BarcodeOutsidePage, barcode.element,
-                  isWrongInX ? "position_x"_L1 : "position_y"_L1, text);
+    const QString text = RVFindingText::tr(
+            "the barcode ends %1 mm from the left and %2 mm from the top, where there is no page");
+    return addOutside(barcode, area.right() > area.bottom() ? "position_x"_L1 : "position_y"_L1,
+                      text.arg(millimetres(area.right() + 1.0), millimetres(area.bottom() + 1.0)));
+}
+
+/// False, as the barcode leaves the page.
+bool RVBarcodeCheck::addOutside(const Barcode &barcode, QLatin1StringView attribute, const QString &text)
+{
+    myReport->add(RVCatalogueRuleId::BarcodeOutsidePage, barcode.element, attribute, text);
     return false;
 }
 

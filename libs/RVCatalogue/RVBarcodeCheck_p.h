@@ -14,7 +14,7 @@ class RVCatalogueProduct;
 class RVFindingReport;
 struct RVCheckedPageCounts;
 
-/// Barcodes of a product, their unit, and where they are on its pages.
+/// Barcodes of a product, their unit, and where they are on its pages. A check is for one product.
 class RVBarcodeCheck
 {
 public:
@@ -39,6 +39,7 @@ private:
     void checkPage(const Barcode &barcode);
     void checkArea(const Barcode &barcode, const PageSize &pageSize);
     bool checkEdges(const Barcode &barcode, const PageSize &pageSize);
+    bool addOutside(const Barcode &barcode, QLatin1StringView attribute, const QString &text);
     void checkOverlap(const Barcode &barcode);
 
     RVFindingReport *myReport;

@@ -26,6 +26,14 @@ bool isMismatch(const RVCatalogueElement &form, QByteArrayView key, QByteArrayVi
                        .isEmpty();
 }
 
+QString incompleteText(const RVCheckedOption &option)
+{
+    if (!option.key.isEmpty())
+        return RVFindingText::tr("the option has no value");
+    return option.value.isEmpty() ? RVFindingText::tr("the option has no key and no value")
+                                  : RVFindingText::tr("the option has no key");
+}
+
 RVOptionsByKey byKey(const RVCheckedOptions &options)
 {
     RVOptionsByKey result;
@@ -76,10 +84,7 @@ void RVOptionCheck::checkKeyAndValue(const RVCheckedOption &option)
 {
     if (!option.isComplete())
         return myReport->add(RVCatalogueRuleId::OptionIncomplete, option.form,
-                             option.key.isEmpty() ? "key"_L1 : "value"_L1,
-                             !option.key.isEmpty()            ? RVFindingText::tr("the option has no value")
-                                     : option.value.isEmpty() ? RVFindingText::tr("the option has no key and no value")
-                                                              : RVFindingText::tr("the option has no key"));
+                             option.key.isEmpty() ? "key"_L1 : "value"_L1, incompleteText(option));
     if (option.hasMismatch)
         myReport->add(
                 RVCatalogueRuleId::OptionCompositeMismatch, option.form, "value"_L1,
@@ -105,12 +110,13 @@ void RVOptionCheck::checkDuplicates(const RVOptionsByKey &options)
     for (const RVCheckedOption *option : options) {
         const bool isDuplicate = first && option->isComplete() && option->key == first->key
                 && option->value == first->value;
-        if (isDuplicate)
-            myReport->add(RVCatalogueRuleId::OptionDuplicate, option->form, "value"_L1,
-                          RVFindingText::tr("the option %1 of %2 is already there in line %3")
-                                  .arg(rvQuoted(option->form.attribute("value"_L1)),
-                                       rvQuoted(option->form.attribute("key"_L1)), rvLineOf(first->form)));
-        else
+        if (!isDuplicate) {
             first = option;
+            continue;
+        }
+        myReport->add(RVCatalogueRuleId::OptionDuplicate, option->form, "value"_L1,
+                      RVFindingText::tr("the option %1 of %2 is already there in line %3")
+                              .arg(rvQuoted(option->form.attribute("value"_L1)),
+                                   rvQuoted(option->form.attribute("key"_L1)), rvLineOf(first->form)));
     }
 }
