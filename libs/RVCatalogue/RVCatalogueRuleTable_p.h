@@ -41,8 +41,9 @@ enum class RVCatalogueRuleId {
     BarcodeOutsidePage,
     BarcodeOverlap,
     PriceClassUnknown,
+    Count, // stays the last
 };
-constexpr std::size_t RV_CATALOGUE_RULE_COUNT = std::size_t(RVCatalogueRuleId::PriceClassUnknown) + 1;
+constexpr auto RV_CATALOGUE_RULE_COUNT = std::size_t(RVCatalogueRuleId::Count);
 
 /// All that is said of a rule.
 struct RVCatalogueRuleRow

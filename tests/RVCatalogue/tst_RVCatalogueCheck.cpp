@@ -390,6 +390,13 @@ QList<Mistake> mistakes()
         { "price class of pages", changed("page_price_class='RODA6x9'", "page_price_class='RODA'"),
           u"page_price_class='RODA'"_s,
           u"2 warning price-class-unknown: the price class \"RODA\" belongs to no known group"_s },
+        { "too narrow from the start",
+          changed("base_width='0.8' block_width='0.1'", "base_width='0.01' block_width='-0.05'"),
+          u"block_width='-0.05'"_s, u"8 error spine-negative: block_width is below 0"_s },
+        { "width is too large beside an unreadable number",
+          changed("packages_per_block='2' base_width='0.8'", "packages_per_block='two' base_width='1e308'"),
+          u"packages_per_block='two'"_s,
+          u"8 error number-invalid: packages_per_block is \"two\", which is no whole number"_s },
         { "both widths below 0", changed("base_width='0.8' block_width='0.1'", "block_width='-0.1' base_width='-0.8'"),
           u"base_width='-0.8'"_s, u"8 error spine-negative: base_width, block_width are below 0"_s },
         { "blank type", changed("type='DUN9' ", "type='&#160;' "), u"type='&#160;'"_s,
@@ -421,6 +428,9 @@ private Q_SLOTS:
     void options_data();
     void options();
     void severalInOneProduct();
+    void shrinkingSpines_data();
+    void shrinkingSpines();
+    void withoutAReader();
     void disabledRules();
     void copies();
     void nullProduct();
@@ -431,6 +441,7 @@ private Q_SLOTS:
     void longTexts();
     void manyProducts();
     void duplicatesFarApart();
+    void missingIdsAreNoDuplicates();
     void everyKeyword();
     void unknownAsDecoded();
     void guesses_data();
@@ -612,6 +623,13 @@ void tst_RVCatalogueCheck::options_data()
                    u"3 error option-duplicate: the option \"x\" of \"a\" is already there in line 2"_s,
                    u"4 error option-default-twice: \"b\" is preselected for \"a\", but \"x\" in line 3 is so already"_s
                };
+    QTest::newRow("three defaults, not by the alphabet")
+            << QByteArray("<form key='a' value='z' preselected='1'/>\n"
+                          "<form key='a' value='x' preselected='1'/>\n"
+                          "<form key='a' value='y' preselected='1'/>\n")
+            << QStringList {
+                   u"3 error option-default-twice: \"x\" is preselected for \"a\", but \"z\" in line 2 is so already"_s
+               };
     QTest::newRow("two defaults of each of two keys")
             << QByteArray("<form key='b' value='2' preselected='1'/>\n"
                           "<form key='a' value='2' preselected='1'/>\n"
@@ -678,6 +696,38 @@ void tst_RVCatalogueCheck::severalInOneProduct()
                       u"1 error type-missing: the product has no type"_s }));
 }
 
+void tst_RVCatalogueCheck::shrinkingSpines_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QStringList>("findings");
+
+    const QString negative = u"8 error spine-negative: block_width is below 0"_s;
+    QTest::newRow("in an unknown unit")
+            << changed("units='cm'", "units='MM'")
+                       .replace("base_width='0.8' block_width='0.1'", "base_width='8' block_width='-0.5'")
+            << QStringList {
+                   u"7 error unit-unknown: there is no unit \"MM\"; there are mm, cm, inch, in, pt, point and 0.1mm"_s,
+                   negative
+               };
+    QTest::newRow("with an unreadable width")
+            << changed("block_width='0.1' additional_width='0.05'", "block_width='-0.05' additional_width='x'")
+            << QStringList { negative, u"8 error number-invalid: additional_width is \"x\", which is no number"_s };
+    QTest::newRow("with another negative width")
+            << changed("block_width='0.1' additional_width='0.05'", "block_width='-0.05' additional_width='-0.05'")
+            << QStringList { u"8 error spine-negative: block_width, additional_width are below 0"_s };
+    QTest::newRow("with unreadable page counts")
+            << changed("block_width='0.1'", "block_width='-0.05'").replace(" pages='26'", " pages='many'")
+            << QStringList { u"2 error number-invalid: pages is \"many\", which is no whole number"_s, negative };
+}
+
+// Only where nothing else is wrong the font is measured.
+void tst_RVCatalogueCheck::shrinkingSpines()
+{
+    QFETCH(QByteArray, file);
+    QVERIFY(!file.isEmpty());
+    QTEST(check(file).texts(), "findings");
+}
+
 void tst_RVCatalogueCheck::disabledRules()
 {
     const QByteArray file = changed("cover_type='hardcover'", "cover_type='hard, foo'");
@@ -709,6 +759,20 @@ void tst_RVCatalogueCheck::copies()
     copy.disable(RVCatalogueRule());
     QVERIFY(!copy.isEnabled(rule));
     QVERIFY(copy.isEnabled(RVCatalogueRule::find(u"spine-negative")));
+}
+
+// The check itself puts what it finds in the order of the file.
+void tst_RVCatalogueCheck::withoutAReader()
+{
+    QByteArray file = "<p><product page_step='x' article_id='0' cover_type='foo' type=''/></p>";
+    QBuffer buffer(&file);
+    QVERIFY(buffer.open(QIODevice::ReadOnly));
+    const RVCatalogueProduct product = RVCatalogueReader(&buffer).next();
+    QVERIFY(product.findings().isEmpty());
+    Checked checked;
+    checked.findings = RVCatalogueCheck().findings(product);
+    QCOMPARE(checked.rules(),
+             QStringList({ u"number-invalid"_s, u"article-id-invalid"_s, u"keyword-unknown"_s, u"type-missing"_s }));
 }
 
 void tst_RVCatalogueCheck::nullProduct()
@@ -806,6 +870,17 @@ void tst_RVCatalogueCheck::duplicatesFarApart()
             (QStringList {
                     u"20003 error type-duplicate: the type \"T\" is already that of the product in line 2"_s,
                     u"20003 error article-id-duplicate: the article id 1000000 is already that of the product in line 2"_s }));
+}
+
+// Of two products that have none, the second has no other type or article than the first.
+void tst_RVCatalogueCheck::missingIdsAreNoDuplicates()
+{
+    const QByteArray product = "<product type=' ' article_id='0'/>\n";
+    QCOMPARE(check("<products>\n" + product + product + "</products>").texts(),
+             QStringList({ u"2 error type-missing: the product has no type"_s,
+                           u"2 error article-id-invalid: the article id \"0\" is no whole number above 0"_s,
+                           u"3 error type-missing: the product has no type"_s,
+                           u"3 error article-id-invalid: the article id \"0\" is no whole number above 0"_s }));
 }
 
 void tst_RVCatalogueCheck::everyKeyword()
