@@ -77,3 +77,19 @@ function(rv_install_library name)
         COMPONENT ${development}
     )
 endfunction()
+
+# rv_install_pkg_config(RVName)
+# The pkg-config file RVName.pc, made of RVName.pc.in. The installed tree can be moved: the file finds its prefix from its
+# own place.
+function(rv_install_pkg_config name)
+    if(NOT RV_INSTALL)
+        return()
+    endif()
+    file(RELATIVE_PATH RV_PC_PREFIX /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+    string(REGEX REPLACE "/$" "" RV_PC_PREFIX ${RV_PC_PREFIX})
+    configure_file(${name}.pc.in ${name}.pc @ONLY)
+    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc
+        DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
+        COMPONENT ${name}Development
+    )
+endfunction()

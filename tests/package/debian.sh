@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # debian.sh CMAKE SOURCES WORK OPTIONS...: makes the Debian packages, unpacks them into a scratch root and builds the
-# consumer against that, once by find_package and once by pkg-config alone.
+# examples against that, once by find_package and once by pkg-config alone.
 set -euo pipefail
 cmake=$1 sources=$2 work=$3
 shift 3
@@ -44,6 +44,10 @@ holds librvproductbase0 \
 holds librvproductbase-dev \
     "$lib"/lib'RV(Core|XML|ProductBase)\.so' "$lib"/cmake/'RV(TemplateClasses|Core|XML|ProductBase)/RV.*\.cmake' \
     "$lib"/pkgconfig/RVProductBase.pc 'include/RV(TemplateClasses|Core|XML|ProductBase)/RV[A-Za-z]+\.h'
+holds librvcatalogue0 "$lib"/lib'RVCatalogue\.so\.0(\.[0-9]+\.[0-9]+)?' 'share/RVCatalogue/translations/rvcatalogue_de\.qm'
+holds librvcatalogue-dev \
+    "$lib"/lib'RVCatalogue\.so' "$lib"/cmake/'RVCatalogue/RVCatalogue.*\.cmake' "$lib"/pkgconfig/RVCatalogue.pc \
+    'include/RVCatalogue/RV[A-Za-z]+\.h'
 holds rvcatalog \
     bin/rvcatalog share/man/man1/rvcatalog.1.gz share/doc/rvcatalog/catalogue-format.md share/rvcatalog/catalogue.xsd \
     'share/doc/rvcatalog/examples/(products|project)\.xml'
@@ -52,7 +56,7 @@ holds rvbrowser \
     bin/rvbrowser share/man/man1/rvbrowser.1.gz share/applications/rvbrowser.desktop \
     share/icons/hicolor/scalable/apps/rvbrowser.svg
 
-for package in librvproductbase0 librvproductbase-dev rvcatalog rvbrowser; do
+for package in librvproductbase0 librvproductbase-dev librvcatalogue0 librvcatalogue-dev rvcatalog rvbrowser; do
     [[ $(field "$package" Version) == "$version" ]] || fail "$package has version $(field "$package" Version)"
     dpkg-deb --extract "$work"/packages/"$package"_*.deb "$root"
 done
@@ -61,22 +65,36 @@ depends librvproductbase0 'libqt6gui6 '
 depends librvproductbase0 'libqt6xml6 '
 depends librvproductbase-dev "librvproductbase0 \(= $version\)"
 depends librvproductbase-dev 'qt6-base-dev '
+depends librvcatalogue0 "librvproductbase0 \(= $version\)"
+depends librvcatalogue0 'libxml2 '
+depends librvcatalogue0 'libqt6core6 '
+depends librvcatalogue-dev "librvcatalogue0 \(= $version\)"
+depends librvcatalogue-dev "librvproductbase-dev \(= $version\)"
 depends rvcatalog "librvproductbase0 \(= $version\)"
+depends rvcatalog "librvcatalogue0 \(= $version\)"
 depends rvcatalog 'libqt6core6 '
 depends rvcatalog 'libqt6svg6 '
 depends rvbrowser "librvproductbase0 \(= $version\)"
+depends rvbrowser "librvcatalogue0 \(= $version\)"
 depends rvbrowser 'libqt6widgets6 '
 depends rvbrowser 'libqt6svg6'
-dpkg-deb --control "$work"/packages/librvproductbase0_*.deb "$work/control"
-grep -q ldconfig "$work"/control/postinst || fail "the linker is not told of the new libraries"
-for library in libRVCore libRVXML libRVProductBase; do
-    grep -qxF "$library 0 librvproductbase0 (>= $release)" "$work"/control/shlibs ||
-        fail "packages built against $library cannot find out what they depend on"
-done
+# provides PACKAGE LIBRARIES...: the linker and other packages are told of the shared libraries.
+provides() {
+    local package=$1 control=$work/control/$1 library
+    mkdir -p "$control"
+    dpkg-deb --control "$work"/packages/"$package"_*.deb "$control"
+    grep -q ldconfig "$control"/postinst || fail "the linker is not told of the new libraries of $package"
+    for library in "${@:2}"; do
+        grep -qxF "$library 0 $package (>= $release)" "$control"/shlibs ||
+            fail "packages built against $library cannot find out what they depend on"
+    done
+}
+provides librvproductbase0 libRVCore libRVXML libRVProductBase
+provides librvcatalogue0 libRVCatalogue
 
 libdir=$(dirname "$root"/usr/lib/*/libRVProductBase.so)
 export LD_LIBRARY_PATH=$libdir
-if readelf -d "$root/usr/bin/rvcatalog" "$root/usr/bin/rvbrowser" "$libdir/libRVProductBase.so" | grep -E 'RPATH|RUNPATH'; then
+if readelf -d "$root/usr/bin/rvcatalog" "$root/usr/bin/rvbrowser" "$libdir"/libRV*.so | grep -E 'RPATH|RUNPATH'; then
     fail "a packaged file searches for libraries where the system does not"
 fi
 "$root/usr/bin/rvcatalog" show "$root/usr/share/doc/rvcatalog/examples/products.xml" | grep '^DUN9 '
@@ -96,9 +114,16 @@ for command in $("$root/usr/bin/rvcatalog" 2>&1 | sed -n 's/^  \([a-z]\+\) .*/\1
     done
 done
 
-"$cmake" -S "$sources/examples/consumer" -B "$work/consumer" "$@" -DCMAKE_PREFIX_PATH="$root/usr"
-"$cmake" --build "$work/consumer"
-ldd "$work/consumer/consumer" | grep -F "libRVProductBase.so.0 => $libdir/"
-"$work/consumer/consumer"
-bash "$(dirname "${BASH_SOURCE[0]}")/pkgconfig.sh" \
-    "${CXX:-c++}" "${CXXFLAGS:-}" "$libdir" "$sources/examples/consumer/main.cpp" "$work/pkgconfig_consumer"
+# builds EXAMPLE MODULE ARGUMENTS...: the example finds the library of that name in the packages, and runs.
+builds() {
+    local example=$1 module=$2
+    "$cmake" -S "$sources/examples/$example" -B "$work/$example" "${options[@]}" -DCMAKE_PREFIX_PATH="$root/usr"
+    "$cmake" --build "$work/$example"
+    ldd "$work/$example/$example" | grep -F "lib$module.so.0 => $libdir/"
+    "$work/$example/$example" "${@:3}"
+    bash "$(dirname "${BASH_SOURCE[0]}")/pkgconfig.sh" "${CXX:-c++}" "${CXXFLAGS:-}" "$libdir" "$module" \
+        "$sources/examples/$example/main.cpp" "$work/pkgconfig_$example" "${@:3}"
+}
+options=("$@")
+builds consumer RVProductBase
+builds reader RVCatalogue "$sources/examples/catalogue/products.xml"

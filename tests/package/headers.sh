@@ -5,7 +5,7 @@ set -euo pipefail
 sources=$1 includes=$2 standard=$3
 shift 3
 
-headers=$(cd "$includes" && ls RVTemplateClasses/*.h RVCore/*.h RVXML/*.h RVProductBase/*.h)
+headers=$(cd "$includes" && ls RVTemplateClasses/*.h RVCore/*.h RVXML/*.h RVProductBase/*.h RVCatalogue/*.h)
 diff <(cd "$sources" && ls -- */*.h | grep -v '_p\.h$' | sort) <(sort <<<"$headers")
 
 compile() {
@@ -20,4 +20,5 @@ xargs -d '\n' -P "$(nproc)" -I '{}' bash -c 'compile "$@"' compile '{}' "$@" \
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Werror \
     -DQT_NO_KEYWORDS -DQT_NO_CAST_FROM_ASCII -DQT_NO_CAST_TO_ASCII \
     -I"$includes" -I"$includes"/RVTemplateClasses -I"$includes"/RVCore -I"$includes"/RVXML -I"$includes"/RVProductBase \
+    -I"$includes"/RVCatalogue \
     <<<"$headers"

@@ -1,10 +1,12 @@
 #!/usr/bin/env bash
-# pkgconfig.sh COMPILER FLAGS LIBDIR SOURCE PROGRAM: builds the program with nothing but pkg-config, and runs it.
+# pkgconfig.sh COMPILER FLAGS LIBDIR MODULE SOURCE PROGRAM ARGUMENTS...: builds the program with nothing but pkg-config, and
+# runs it.
 set -euo pipefail
-compiler=$1 flags=$2 libdir=$3 source=$4 program=$5
+compiler=$1 flags=$2 libdir=$3 module=$4 source=$5 program=$6
+shift 6
 
 export PKG_CONFIG_PATH=$libdir/pkgconfig
 # The words of both are options, quoted as for a shell.
-eval "options=($flags $("${PKG_CONFIG:-pkg-config}" --cflags --libs RVProductBase))"
+eval "options=($flags $("${PKG_CONFIG:-pkg-config}" --cflags --libs "$module"))"
 "$compiler" -std=c++17 -fPIC "$source" "${options[@]}" -o "$program"
-LD_LIBRARY_PATH=$libdir "$program"
+LD_LIBRARY_PATH=$libdir "$program" "$@"

@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
-# system_platform.sh CMAKE SOURCES BUILD LIBDIR OPTIONS...: the library builds on a platform layer installed in LIBDIR,
-# which has nothing but that, and is linked with it. Every source includes what it uses, as nothing is precompiled here.
+# system_platform.sh CMAKE SOURCES BUILD LIBDIR OPTIONS...: the libraries build on a platform layer installed in LIBDIR,
+# which has nothing but that, and are linked with it. Every source includes what it uses, as nothing is precompiled here.
 set -euo pipefail
 cmake=$1 sources=$2 build=$3 libdir=$(realpath "$4")
 shift 4
 
 rm -rf "$build"
 "$cmake" -S "$sources" -B "$build" -DBUILD_TESTING=OFF -DRV_PLATFORM=system -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON "$@"
-"$cmake" --build "$build" --target RVProductBase
+"$cmake" --build "$build" --target RVProductBase RVCatalogue
 
 if compgen -G "$libdir/libRVProductBase*"; then
     echo "the platform layer brought the library along"
@@ -19,7 +19,10 @@ if [[ $built ]]; then
     exit 1
 fi
 
-library=$(find "$build" -name libRVProductBase.so)
+for name in RVProductBase RVCatalogue; do
+    [[ -f $build/libs/$name/lib$name.so ]]
+done
+library=$build/libs/RVProductBase/libRVProductBase.so
 for platform in libRVCore.so.0 libRVXML.so.0; do
     readelf -d "$library" | grep -F "NEEDED" | grep -F "[$platform]"
     found=$(ldd "$library" | sed -n "s/^[[:space:]]*$platform => \(.*\) (0x[0-9a-f]*)$/\1/p")

@@ -27,7 +27,9 @@ targets() {
 }
 
 # Without RVTemplateClasses, which is nothing but headers.
-libraries=(RVCore RVProductBase RVXML libRVCore.so libRVProductBase.so libRVXML.so rv_precompiled)
+libraries=(
+    RVCatalogue RVCore RVProductBase RVXML libRVCatalogue.so libRVCore.so libRVProductBase.so libRVXML.so rv_precompiled
+)
 rm -rf "$build"
 configure "" "$@"
 cache >"$build.cache"
