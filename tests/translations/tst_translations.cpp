@@ -1,9 +1,16 @@
+#include <RVCatalogue/RVCatalogueAttribute.h>
+#include <RVCatalogue/RVCatalogueCheck.h>
+#include <RVCatalogue/RVCatalogueFinding.h>
+#include <RVCatalogue/RVCatalogueProduct.h>
+#include <RVCatalogue/RVCatalogueReader.h>
+#include <RVCatalogue/RVCatalogueRule.h>
 #include <RVProductBase/RVArticleClass.h>
 #include <RVProductBase/RVDlpType.h>
 #include <RVProductBase/RVOrientation.h>
 #include <RVProductBase/RVPageCountOrganizationListModel.h>
 #include <RVProductBase/RVPaperType.h>
 
+#include <QBuffer>
 #include <QTest>
 #include <QTranslator>
 
@@ -17,6 +24,7 @@ private Q_SLOTS:
     void english();
     void germanPluralForms_data();
     void germanPluralForms();
+    void germanCatalogues();
 };
 
 namespace {
@@ -79,6 +87,30 @@ void tst_translations::germanPluralForms()
     QCOMPARE(RVArticleClass(ARTICLE_CLASS_PICTURE_BOX).morePagesText(1), u"1 Foto"_s);
     QCOMPARE(RVArticleClass(ARTICLE_CLASS_PICTURE_BOX).morePagesText(3), u"3 Fotos"_s);
     QCoreApplication::removeTranslator(&translator);
+}
+
+// What the library says of a catalogue is English without the translator.
+void tst_translations::germanCatalogues()
+{
+    QTranslator translator;
+    QVERIFY(translator.load(u"" QM_FOLDER "/rvcatalogue_de.qm"_s));
+    QCoreApplication::installTranslator(&translator);
+    QByteArray text = "<products><product article_id='7'/>";
+    QBuffer file(&text);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    RVCatalogueReader reader(&file);
+    reader.setCheck(RVCatalogueCheck());
+    const QList<RVCatalogueFinding> findings = reader.next().findings();
+    QVERIFY(reader.atEnd());
+    QCOMPARE(findings.size(), 1);
+    QCOMPARE(findings.first().text(), u"das Produkt hat keinen Typ"_s);
+    QCOMPARE(findings.first().rule().reason(),
+             u"Projekte finden ihr Produkt über den Typ; eines ohne Typ lässt sich nicht bestellen."_s);
+    QCOMPARE(reader.errorString(),
+             u"die Datei endet zu früh: <products>, in Zeile 1 geöffnet, ist nicht geschlossen"_s);
+    QCOMPARE(RVCatalogueAttribute::find("cover_type").label(), u"Einband"_s);
+    QCoreApplication::removeTranslator(&translator);
+    QCOMPARE(RVCatalogueAttribute::find("cover_type").label(), u"Cover"_s);
 }
 
 QTEST_GUILESS_MAIN(tst_translations)
