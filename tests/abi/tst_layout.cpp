@@ -1,6 +1,17 @@
 // Applications and plug-ins were compiled against these sizes and these places of virtual operations.
 #include "VirtualSlot.h"
 
+#include <RVCatalogue/RVCatalogueAttribute.h>
+#include <RVCatalogue/RVCatalogueCheck.h>
+#include <RVCatalogue/RVCatalogueElement.h>
+#include <RVCatalogue/RVCatalogueFinding.h>
+#include <RVCatalogue/RVCatalogueProduct.h>
+#include <RVCatalogue/RVCatalogueProject.h>
+#include <RVCatalogue/RVCatalogueReader.h>
+#include <RVCatalogue/RVCatalogueRule.h>
+#include <RVCatalogue/RVFilePosition.h>
+#include <RVCatalogue/RVFileRange.h>
+#include <RVCatalogue/RVNearestText.h>
 #include <RVCore/RVAngle.h>
 #include <RVCore/RVDirectoryConfig.h>
 #include <RVCore/RVDirectoryName.h>
@@ -169,6 +180,20 @@ void tst_layout::sizes_data()
     row<RVSpaceMagnitude>("RVSpaceMagnitude", 16, 8);
     row<RVSpineConfig>("RVSpineConfig", 8, 8);
     row<RVSpineConfigImpl>("RVSpineConfigImpl", 80, 8);
+    row<RVCatalogueAttribute>("RVCatalogueAttribute", 8, 8);
+    row<RVCatalogueAttributeDecoding>("RVCatalogueAttributeDecoding", 128, 8);
+    row<RVCatalogueAttributeValue>("RVCatalogueAttributeValue", 80, 8);
+    row<RVCatalogueCheck>("RVCatalogueCheck", 8, 8);
+    row<RVCatalogueElement>("RVCatalogueElement", 16, 8);
+    row<RVCatalogueFinding>("RVCatalogueFinding", 8, 8);
+    row<RVCatalogueProduct>("RVCatalogueProduct", 8, 8);
+    row<RVCatalogueProject>("RVCatalogueProject", 48, 8);
+    row<RVCatalogueReader>("RVCatalogueReader", 8, 8);
+    row<RVCatalogueReader::Iterator>("RVCatalogueReader::Iterator", 16, 8);
+    row<RVCatalogueRule>("RVCatalogueRule", 8, 8);
+    row<RVFilePosition>("RVFilePosition", 16, 8);
+    row<RVFileRange>("RVFileRange", 32, 8);
+    row<RVNearestText>("RVNearestText", 56, 8);
     row<RVXMLBuilder>("RVXMLBuilder", 1, 1);
     row<RVXMLParser>("RVXMLParser", 1, 1);
 }
@@ -188,6 +213,10 @@ void tst_layout::members()
     using Table = RVEnumToStringTable<RVCoverTypeEnum>;
     QCOMPARE(offset(&Table::defaultKeyword), 16);
     QCOMPARE(offset(&Table::defaultValue), 40);
+    QCOMPARE(offset(&RVFilePosition::line), 0);
+    QCOMPARE(offset(&RVFilePosition::column), 8);
+    QCOMPARE(offset(&RVFileRange::begin), 0);
+    QCOMPARE(offset(&RVFileRange::end), 16);
 }
 
 void tst_layout::rangeSlots()
