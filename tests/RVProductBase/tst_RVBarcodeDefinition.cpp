@@ -1,6 +1,7 @@
 #include "MessageLog.h"
 
 #include <RVCore/RVDirectoryConfig.h>
+#include <RVCore/RVDistance.h>
 #include <RVProductBase/RVBarcodeDefinition.h>
 
 #include <QDir>
@@ -46,6 +47,8 @@ private Q_SLOTS:
     void construction();
     void reads_data();
     void reads();
+    void createsFromLengths_data();
+    void createsFromLengths();
     void reportsUnknownUnits();
     void validity_data();
     void validity();
@@ -118,6 +121,36 @@ void tst_RVBarcodeDefinition::reads()
     QTEST(edges(definition.rect()), "rect");
     QTEST(definition.pageNr(), "pageNr");
     QTEST(definition.imageName(), "imageName");
+}
+
+void tst_RVBarcodeDefinition::createsFromLengths_data()
+{
+    QTest::addColumn<QList<qreal>>("lengths"); // left, lower edge, width, height
+    QTest::addColumn<int>("unit");
+    QTest::addColumn<QList<int>>("rect");
+    const auto row = [](const char *name, const QList<qreal> &lengths, int unit, const QList<int> &rect) {
+        QTest::newRow(name) << lengths << unit << rect;
+    };
+    row("millimetres", { 5.05, 20, 12.36, 10 }, 2, { 50, 100, 172, 199 });
+    row("inches", { 1, 1, 1, 1 }, 4, { 254, 0, 507, 253 });
+    row("the lower edge before truncation", { -1.9, 10.9, 1.9, 0.5 }, 1, { -1, 10, -1, 9 });
+    row("above the page", { 1, 5, 1, 10 }, 1, { 1, -5, 1, 4 });
+    row("nothing", { 0, 0, 0, 0 }, 2, { 0, 0, -1, -1 });
+    row("no numbers", { qQNaN(), qQNaN(), qQNaN(), qQNaN() }, 2, { 0, 0, -1, -1 });
+    row("huge", { 1e300, -1e300, 1e300, 1e300 }, 2, { largest, smallest, largest, -2 });
+}
+
+void tst_RVBarcodeDefinition::createsFromLengths()
+{
+    QFETCH(QList<qreal>, lengths);
+    QFETCH(int, unit);
+    const RVDistanceUnit distanceUnit(unit);
+    const auto definition = RVBarcodeDefinition::createFromLengths(
+            RVDistance(lengths.at(0), distanceUnit), RVDistance(lengths.at(1), distanceUnit),
+            RVDistance(lengths.at(2), distanceUnit), RVDistance(lengths.at(3), distanceUnit), -3, u"code.png"_s);
+    QTEST(edges(definition.rect()), "rect");
+    QCOMPARE(definition.pageNr(), -3);
+    QCOMPARE(definition.imageName(), u"code.png"_s);
 }
 
 void tst_RVBarcodeDefinition::reportsUnknownUnits()

@@ -2,6 +2,7 @@
 
 #include <RVCore/RVSpotColor.h>
 #include <RVProductBase/RVArticleVariants.h>
+#include <RVProductBase/RVConfiguredArticleVariantImpl.h>
 #include <RVProductBase/RVConfiguredArticleVariantList.h>
 
 #include <QDebug>
@@ -46,6 +47,8 @@ private Q_SLOTS:
     void createsFromXml();
     void createsFromEmptyXml_data();
     void createsFromEmptyXml();
+    void createsFromFields();
+    void fieldsStayTheCallers();
     void readsOneAttribute_data();
     void readsOneAttribute();
     void readsFlags_data();
@@ -213,6 +216,41 @@ void tst_RVConfiguredArticleVariant::createsFromEmptyXml()
         QVERIFY(text.isEmpty());
         QVERIFY(!text.isNull());
     }
+}
+
+void tst_RVConfiguredArticleVariant::createsFromFields()
+{
+    const RVConfiguredArticleVariantImpl fields(u"alcolor"_s, u"Farbe"_s, u"red"_s, u"Rot"_s, u"Roter Einband"_s,
+                                                u"red_cover"_s, u"red.png"_s, QColor(0x11, 0x22, 0x33), false, true);
+    const RVConfiguredArticleVariant created(fields);
+    QVERIFY(created.isValid());
+    QCOMPARE(created.key(), u"alcolor"_s);
+    QCOMPARE(created.keyName(), u"Farbe"_s);
+    QCOMPARE(created.value(), u"red"_s);
+    QCOMPARE(created.visibleName(), u"Rot"_s);
+    QCOMPARE(created.editorName(), u"Roter Einband"_s);
+    QCOMPARE(created.preview(), u"red.png"_s);
+    QCOMPARE(created.color(), QColor(0x11, 0x22, 0x33));
+    QVERIFY(!created.isDefault());
+    QVERIFY(created.isNotAccountable());
+}
+
+void tst_RVConfiguredArticleVariant::fieldsStayTheCallers()
+{
+    RVConfiguredArticleVariantImpl fields;
+    fields.key = u"alcolor"_s;
+    fields.value = u"red"_s;
+    fields.preview = u"red.png"_s;
+    {
+        RVConfiguredArticleVariant created(fields);
+        created.merge(element(u"preview='p'"_s));
+        fields.value = u"black"_s;
+        QCOMPARE(created.toString(), u"alcolor:red"_s);
+        QCOMPARE(created.preview(), u"p"_s);
+    }
+    QCOMPARE(fields.value, u"black"_s);
+    QCOMPARE(fields.preview, u"red.png"_s);
+    QVERIFY((!std::is_convertible_v<RVConfiguredArticleVariantImpl, RVConfiguredArticleVariant>));
 }
 
 void tst_RVConfiguredArticleVariant::readsOneAttribute_data()
