@@ -5,7 +5,9 @@
 s/^extern template.*//
 s/^(class .*: public RV\w+)<\w+>/\1/
 s/(, public RV\w+)<\w+>$/\1/
-# What the compiler writes, and what RVEnumWrapper describes for all attributes, needs no words.
+# What copies and moves shared data as everybody expects, what the compiler writes, and what RVEnumWrapper describes for all attributes, needs no words.
 s/^ *RV\w+\((const )?RV\w+ &&?\)( noexcept)? = default;$//
 s/^ *RV\w+ &operator=\((const )?RV\w+ &&?\)( noexcept)? = default;$//
+s/^ *RVCatalogue\w+\((const )?RVCatalogue\w+ &&?other\)( noexcept)?;$//
+s/^ *RVCatalogue\w+ &operator=\((const )?RVCatalogue\w+ &&?other\)( noexcept)?;$//
 s/^ *void fillTable\(.*\) const override;$//

@@ -15,7 +15,7 @@ struct RVCatalogueAttributeFunctions;
 /// @ingroup catalogues
 struct RVCatalogueAttributeValue
 {
-    qint64 value = 0;
+    qint64 value = 0; ///< Its number.
     QString keyword; ///< The one that is written.
     QStringList aliases; ///< Others that are read, sorted, in lower case.
     QString displayName; ///< Empty where it has none.
@@ -25,7 +25,7 @@ struct RVCatalogueAttributeValue
 /// @ingroup catalogues
 struct RVCatalogueAttributeDecoding
 {
-    qint64 value = 0;
+    qint64 value = 0; ///< All bits together.
     QString keyword; ///< Of the value as a whole; empty where it has none.
     QStringList keywords; ///< One for each bit.
     QString text; ///< The value as a list of keywords is written.
@@ -52,7 +52,7 @@ public:
     /// The attribute of that name, such as "cover_type"; null where there is none.
     static RVCatalogueAttribute find(QAnyStringView name);
 
-    bool isNull() const noexcept { return !myFunctions; }
+    bool isNull() const noexcept { return !myFunctions; } ///< True for the default one.
     QLatin1StringView name() const; ///< In the products XML.
     QString label() const; ///< For people, in the language of the program: "Cover".
     QList<RVCatalogueAttributeValue> values() const; ///< Those that have a keyword, by their numbers.
@@ -66,11 +66,14 @@ public:
     /// The product's value, with no unknown pieces; an empty one where it does not tell.
     RVCatalogueAttributeDecoding decode(const RVCatalogueProduct &product) const;
 
+    /// By identity; null ones are equal.
+    /// @{
     friend bool operator==(RVCatalogueAttribute a, RVCatalogueAttribute b) noexcept
     {
         return a.myFunctions == b.myFunctions;
     }
     friend bool operator!=(RVCatalogueAttribute a, RVCatalogueAttribute b) noexcept { return !(a == b); }
+    /// @}
 
 private:
     explicit RVCatalogueAttribute(const RVCatalogueAttributeFunctions *functions) : myFunctions(functions) { }

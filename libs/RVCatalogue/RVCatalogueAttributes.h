@@ -22,9 +22,11 @@
 template<typename T>
 struct RVCatalogueAttributeRow
 {
-    using Class = T;
-    using Value = T (RVCatalogueProduct::*)() const;
+    using Class = T; ///< The class of the attribute.
+    using Value = T (RVCatalogueProduct::*)() const; ///< What a product tells it by.
 
+    /// The members in their order; without a value the attribute is none of products.
+    /// @{
     constexpr RVCatalogueAttributeRow(QLatin1StringView name_, const char *label_) : name(name_), label(label_) { }
     constexpr RVCatalogueAttributeRow(QLatin1StringView name_, const char *label_, Value value_)
         : name(name_),
@@ -32,11 +34,12 @@ struct RVCatalogueAttributeRow
           isOfProducts(true),
           value(value_)
     { }
+    /// @}
 
-    QLatin1StringView name;
+    QLatin1StringView name; ///< In the products XML.
     const char *label; ///< In English; RVCatalogueAttribute::label() translates it.
-    bool isOfProducts = false;
-    Value value = nullptr;
+    bool isOfProducts = false; ///< True where product elements may have it.
+    Value value = nullptr; ///< Null where it is no attribute of products.
 };
 
 /**

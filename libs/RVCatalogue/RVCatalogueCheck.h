@@ -32,7 +32,7 @@ public:
 
     /// From now on the rule finds nothing.
     void disable(RVCatalogueRule rule);
-    bool isEnabled(RVCatalogueRule rule) const;
+    bool isEnabled(RVCatalogueRule rule) const; ///< True unless the rule was disabled.
 
     /// What is wrong with one product, by the rules that concern it alone; in the order of the file. Any thread.
     QList<RVCatalogueFinding> findings(const RVCatalogueProduct &product) const;

@@ -28,10 +28,10 @@ class RVCATALOGUE_EXPORT RVCatalogueElement
 public:
     RVCatalogueElement() = default;
 
-    bool isNull() const noexcept { return !d; }
-    QString name() const;
+    bool isNull() const noexcept { return !d; } ///< True for the default element, and where there was none to return.
+    QString name() const; ///< With its prefix; empty for a null element.
 
-    bool hasAttribute(QLatin1StringView name) const noexcept;
+    bool hasAttribute(QLatin1StringView name) const noexcept; ///< Also where its value is empty.
     /// The value as XML reads it, entities resolved; null where the attribute is missing, empty where its text is.
     QString attribute(QLatin1StringView name) const;
     /// The same in UTF-8 and without a copy; its size is 0 in both cases.

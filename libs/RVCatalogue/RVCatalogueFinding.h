@@ -28,9 +28,9 @@ public:
     RVCatalogueFinding &operator=(RVCatalogueFinding &&other) noexcept;
     ~RVCatalogueFinding();
 
-    bool isNull() const noexcept { return !d; }
-    RVCatalogueRule rule() const;
-    RVCatalogueSeverity severity() const;
+    bool isNull() const noexcept { return !d; } ///< True for the default one.
+    RVCatalogueRule rule() const; ///< The one that is broken.
+    RVCatalogueSeverity severity() const; ///< That of the rule.
     RVFileRange
     range() const; ///< The attribute that is wrong; the start tag of the element where it is not one attribute.
     QString text() const; ///< One line, without a full stop, in the language of the program.

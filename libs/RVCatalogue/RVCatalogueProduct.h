@@ -49,7 +49,7 @@ public:
     RVCatalogueProduct &operator=(RVCatalogueProduct &&other) noexcept;
     ~RVCatalogueProduct();
 
-    bool isNull() const noexcept { return !d; }
+    bool isNull() const noexcept { return !d; } ///< True for the default one.
 
     RVProductType type() const; ///< "type"; a photo book code is reduced to its family.
     QString name() const; ///< "name", for people.

@@ -42,8 +42,10 @@ public:
     QString variants() const; ///< "variants", for RVArticleVariants::createFromKTX().
     RVCatalogueElement element() const; ///< The root element without what is in it, for the places of its attributes.
 
+    /// True where the file could not be read to its end.
     bool hasError() const { return !myError.isEmpty(); }
     QString errorString() const { return myError; } ///< One line, without a full stop; empty without an error.
+    /// The place where the reader noticed it; the begin of the file without an error.
     RVFilePosition errorPosition() const { return myErrorPosition; }
 
 private:

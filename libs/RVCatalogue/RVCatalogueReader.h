@@ -90,7 +90,7 @@ public:
     bool hasError() const; ///< Not before the products that stand in front of it were read.
     QString
     errorString() const; ///< One line, without a full stop, in the language of the program; empty without an error.
-    RVFilePosition errorPosition() const;
+    RVFilePosition errorPosition() const; ///< The begin of the file without an error.
     qint64 bytesRead() const; ///< So far, to show how far it is.
     qint64 size() const; ///< Of the file in bytes; 0 where nobody can tell, say of a pipe.
 
@@ -107,25 +107,38 @@ private:
 class RVCatalogueReader::Iterator
 {
 public:
+    /// For the standard library.
+    /// @{
     using iterator_category = std::input_iterator_tag;
     using value_type = RVCatalogueProduct;
     using difference_type = std::ptrdiff_t;
     using pointer = const RVCatalogueProduct *;
     using reference = const RVCatalogueProduct &;
+    /// @}
 
+    /// Reads the next product of the reader, which outlives the iterator.
     explicit Iterator(RVCatalogueReader *reader) : myReader(reader), myProduct(reader->next()) { }
 
+    /// The product; a null one at the end.
+    /// @{
     reference operator*() const noexcept { return myProduct; }
     pointer operator->() const noexcept { return &myProduct; }
+    /// @}
+    /// Reads the next product.
+    /// @{
     Iterator &operator++()
     {
         myProduct = myReader->next();
         return *this;
     }
     void operator++(int) { ++*this; }
+    /// @}
 
+    /// An iterator is equal to null when no product follows.
+    /// @{
     friend bool operator==(const Iterator &a, std::nullptr_t) noexcept { return a.myProduct.isNull(); }
     friend bool operator!=(const Iterator &a, std::nullptr_t) noexcept { return !a.myProduct.isNull(); }
+    /// @}
 
 private:
     RVCatalogueReader *myReader;

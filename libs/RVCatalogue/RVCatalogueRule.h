@@ -32,14 +32,17 @@ public:
     /// The rule of that name; null where there is none.
     static RVCatalogueRule find(QStringView name);
 
-    bool isNull() const noexcept { return !myRow; }
+    bool isNull() const noexcept { return !myRow; } ///< True for the default one.
     QLatin1StringView name() const; ///< Such as "keyword-unknown"; it stays the same from version to version.
     RVCatalogueSeverity severity() const; ///< Of its findings.
     QString reason() const; ///< One sentence on why it matters, in the language of the program.
     QByteArray example() const; ///< A catalogue in UTF-8 that breaks this rule and no other.
 
+    /// By identity; null ones are equal.
+    /// @{
     friend bool operator==(RVCatalogueRule a, RVCatalogueRule b) noexcept { return a.myRow == b.myRow; }
     friend bool operator!=(RVCatalogueRule a, RVCatalogueRule b) noexcept { return !(a == b); }
+    /// @}
 
 private:
     friend struct RVCatalogueRuleRow;

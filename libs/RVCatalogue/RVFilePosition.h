@@ -11,14 +11,17 @@
  */
 struct RVFilePosition
 {
-    qint64 line = 1;
-    qint64 column = 1;
+    qint64 line = 1; ///< From 1.
+    qint64 column = 1; ///< From 1.
 
+    /// By line and column.
+    /// @{
     friend constexpr bool operator==(const RVFilePosition &a, const RVFilePosition &b) noexcept
     {
         return a.line == b.line && a.column == b.column;
     }
     friend constexpr bool operator!=(const RVFilePosition &a, const RVFilePosition &b) noexcept { return !(a == b); }
+    /// @}
     /// By the order in the file.
     friend constexpr bool operator<(const RVFilePosition &a, const RVFilePosition &b) noexcept
     {

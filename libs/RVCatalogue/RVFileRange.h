@@ -11,14 +11,17 @@
  */
 struct RVFileRange
 {
-    RVFilePosition begin;
-    RVFilePosition end;
+    RVFilePosition begin; ///< The place of the first letter.
+    RVFilePosition end; ///< The place behind the last letter.
 
+    /// By both places.
+    /// @{
     friend constexpr bool operator==(const RVFileRange &a, const RVFileRange &b) noexcept
     {
         return a.begin == b.begin && a.end == b.end;
     }
     friend constexpr bool operator!=(const RVFileRange &a, const RVFileRange &b) noexcept { return !(a == b); }
+    /// @}
 };
 
 Q_DECLARE_TYPEINFO(RVFileRange, Q_PRIMITIVE_TYPE);

@@ -22,7 +22,7 @@ public:
     /// What needs @p limit changes or more is passed over.
     explicit RVNearestText(const QString &wanted, int limit = std::numeric_limits<int>::max());
 
-    void offer(const QString &text);
+    void offer(const QString &text); ///< One of the texts that could be meant.
 
     /// As it was offered; null while nothing was near enough.
     QString text() const { return myText; }
