@@ -1,0 +1,162 @@
+#include <RVCatalogue/RVCatalogueCheck.h>
+#include <RVCatalogue/RVCatalogueElement.h>
+#include <RVCatalogue/RVCatalogueFinding.h>
+#include <RVCatalogue/RVCatalogueProduct.h>
+#include <RVCatalogue/RVCatalogueReader.h>
+#include <RVCatalogue/RVCatalogueRule.h>
+
+#include <QBuffer>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class tst_guide_catalogue : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void threeLines();
+    void oneProduct();
+    void element();
+    void all();
+    void everyCore();
+    void check();
+    void rules();
+    void error();
+};
+
+void tst_guide_catalogue::threeLines()
+{
+    QTest::ignoreMessage(QtDebugMsg, "\"DUN9\" 154");
+    QTest::ignoreMessage(QtDebugMsg, "\"TOS3\" 39");
+    //! [threelines]
+    RVCatalogueReader reader(u"products.xml"_s);
+    for (const RVCatalogueProduct &product : reader)
+        qDebug() << product.type().toString() << product.pageCounts().maxPages();
+    //! [threelines]
+    QVERIFY(!reader.hasError());
+}
+
+void tst_guide_catalogue::oneProduct()
+{
+    //! [find]
+    RVCatalogueReader reader(u"products.xml"_s);
+    const RVCatalogueProduct book = reader.find(RVProductType(u"DUN9_40"_s));
+
+    QCOMPARE(book.name(), u"Fotobuch Groß Hardcover"_s);
+    QCOMPARE(book.articleId().id(), 1001);
+    QCOMPARE(book.coverType().value(), HARDCOVER);
+    QCOMPARE(book.spine().spineWidth(34).value(DISTANCE_UNIT_MILLIMETRE), 10.0);
+    QCOMPARE(book.options().size(), 6);
+    QCOMPARE(book.optionPriceClass(u"alcolor"_s, u"red"_s).toString(), u"LEZ2"_s);
+    QCOMPARE(book.families(), QStringList(u"Fotobücher"_s));
+
+    QVERIFY(reader.find(RVProductType(u"KAL2"_s)).isNull());
+    //! [find]
+}
+
+void tst_guide_catalogue::element()
+{
+    RVCatalogueReader reader(u"products.xml"_s);
+    //! [element]
+    const RVCatalogueProduct book = reader.next();
+    const RVCatalogueElement spine = book.element().firstChildElement("composition"_L1).firstChildElement("spine"_L1);
+
+    QCOMPARE(spine.attribute("base_width"_L1), u"8"_s);
+    QCOMPARE(spine.attributeRange("base_width"_L1).begin.line, 13);
+    QVERIFY(!spine.hasAttribute("comment"_L1));
+    //! [element]
+}
+
+void tst_guide_catalogue::all()
+{
+    //! [all]
+    RVCatalogueReader reader(u"products.xml"_s);
+    const QList<RVCatalogueProduct> products = reader.readAll();
+
+    QVERIFY(!reader.hasError());
+    QCOMPARE(products.size(), 2);
+    QCOMPARE(products.last().name(), u"Fotobox mit Abzügen"_s);
+    //! [all]
+}
+
+void tst_guide_catalogue::everyCore()
+{
+    //! [map]
+    QStringList names;
+    RVCatalogueReader reader(u"products.xml"_s);
+    reader.map(
+            [](const QList<RVCatalogueProduct> &products) {
+                QStringList result;
+                for (const RVCatalogueProduct &product : products)
+                    result += product.name().toUpper();
+                return result;
+            },
+            [&names](const QStringList &result) {
+                names += result;
+                return true;
+            });
+
+    QCOMPARE(names, (QStringList { u"FOTOBUCH GROSS HARDCOVER"_s, u"FOTOBOX MIT ABZÜGEN"_s }));
+    //! [map]
+}
+
+void tst_guide_catalogue::check()
+{
+    //! [check]
+    QByteArray text = "<products>\n"
+                      "  <product type='KAL2' article_id='1020' cover_type='hardcovr'/>\n"
+                      "</products>\n";
+    QBuffer file(&text);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+
+    RVCatalogueReader reader(&file);
+    reader.setCheck(RVCatalogueCheck());
+    const RVCatalogueProduct product = reader.next();
+    const RVCatalogueFinding finding = product.findings().constFirst();
+
+    QCOMPARE(finding.rule().name(), "keyword-unknown"_L1);
+    QCOMPARE(finding.severity(), RVCatalogueSeverity::Error);
+    QCOMPARE(finding.text(), u"\"hardcovr\" is no keyword of cover_type; did you mean \"hardcover\"?"_s);
+    QCOMPARE(finding.range().begin, RVFilePosition({ 2, 42 })); // the "c" of cover_type
+    QCOMPARE(finding.range().end, RVFilePosition({ 2, 63 })); // behind the quote
+    //! [check]
+    QCOMPARE(product.findings().size(), 1);
+}
+
+void tst_guide_catalogue::rules()
+{
+    QByteArray text = "<products/>";
+    QBuffer file(&text);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    //! [rules]
+    RVCatalogueCheck check;
+    check.disable(RVCatalogueRule::find(u"keyword-legacy"));
+
+    RVCatalogueReader reader(&file);
+    reader.setCheck(check);
+    QVERIFY(reader.finish());
+    QCOMPARE(reader.findings().constFirst().rule().name(), "products-missing"_L1);
+    //! [rules]
+    QVERIFY(!check.isEnabled(RVCatalogueRule::find(u"keyword-legacy")));
+}
+
+void tst_guide_catalogue::error()
+{
+    //! [error]
+    QByteArray text = "<products>\n"
+                      "  <product type='KAL2'/>\n"
+                      "</product>\n";
+    QBuffer file(&text);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+
+    RVCatalogueReader reader(&file);
+    QCOMPARE(reader.readAll().size(), 1);
+    QVERIFY(reader.hasError());
+    QCOMPARE(reader.errorString(), u"</product> closes <products>, which was opened in line 1"_s);
+    QCOMPARE(reader.errorPosition(), RVFilePosition({ 3, 1 }));
+    //! [error]
+}
+
+QTEST_MAIN(tst_guide_catalogue)
+#include "tst_guide_catalogue.moc"
