@@ -11,7 +11,7 @@ AttributePanel::AttributePanel(QWidget *parent) : QGroupBox(tr("Attributes"), pa
     myLayout->setVerticalSpacing(3);
 }
 
-void AttributePanel::setProduct(const CatalogueProduct &product, const AttributeWords &words)
+void AttributePanel::setProduct(const RVCatalogueProduct &product, const AttributeWords &words)
 {
     const QList<ProductFacts::Fact> facts = ProductFacts(product, words).facts();
     for (qsizetype i = 0; i < facts.size(); ++i) {

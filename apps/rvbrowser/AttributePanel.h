@@ -7,7 +7,7 @@
 class AttributeWords;
 class QFormLayout;
 class QLabel;
-struct CatalogueProduct;
+class RVCatalogueProduct;
 
 /// What a product is, in words that can be selected and copied.
 class AttributePanel : public QGroupBox
@@ -17,7 +17,7 @@ class AttributePanel : public QGroupBox
 public:
     explicit AttributePanel(QWidget *parent = nullptr);
 
-    void setProduct(const CatalogueProduct &product, const AttributeWords &words);
+    void setProduct(const RVCatalogueProduct &product, const AttributeWords &words);
 
 private:
     QFormLayout *myLayout;

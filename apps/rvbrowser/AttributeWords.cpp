@@ -1,5 +1,7 @@
 #include "AttributeWords.h"
 
+#include <RVCatalogueAttributes.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -21,33 +23,34 @@ constexpr struct
 
 AttributeWords::AttributeWords()
 {
-    for (const CatalogueAttribute &attribute : catalogueAttributes()) {
-        QHash<QString, AttributeValue> &values = myValues[attribute.name];
-        for (const AttributeValue &value : attribute.values())
+    for (const RVCatalogueAttribute &attribute : RVCatalogueAttribute::ofProducts()) {
+        QHash<QString, RVCatalogueAttributeValue> &values = myValues[attribute.name()];
+        for (const RVCatalogueAttributeValue &value : attribute.values())
             values.insert(value.keyword, value);
     }
-    QHash<QString, AttributeValue> &orientations = myValues[u"orientation"_s];
+    QHash<QString, RVCatalogueAttributeValue> &orientations = myValues[rvCatalogueAttributeName<RVOrientation>()];
     for (const auto &orientation : ORIENTATIONS)
         orientations[orientation.keyword].displayName = tr(orientation.name);
 }
 
-QString AttributeWords::text(const QString &attribute, const QStringList &keywords) const
+QString AttributeWords::text(RVCatalogueAttribute attribute, const RVCatalogueProduct &product) const
 {
-    const QHash<QString, AttributeValue> values = myValues.value(attribute);
+    const QHash<QString, RVCatalogueAttributeValue> values = myValues.value(attribute.name());
     QStringList result;
-    for (const QString &keyword : keywords) {
+    for (const QString &keyword : attribute.decode(product).keywords) {
         const QString name = values.value(keyword).displayName;
         result += name.isEmpty() || name == keyword ? keyword : u"%1 (%2)"_s.arg(name, keyword);
     }
     return result.join(", "_L1);
 }
 
-QStringList AttributeWords::searchTexts(const QString &attribute, const QStringList &keywords) const
+QStringList AttributeWords::searchTexts(RVCatalogueAttribute attribute, const RVCatalogueProduct &product) const
 {
-    const QHash<QString, AttributeValue> values = myValues.value(attribute);
+    const QHash<QString, RVCatalogueAttributeValue> values = myValues.value(attribute.name());
+    const QStringList keywords = attribute.decode(product).keywords;
     QStringList result = keywords;
     for (const QString &keyword : keywords) {
-        const AttributeValue value = values.value(keyword);
+        const RVCatalogueAttributeValue value = values.value(keyword);
         result += value.aliases;
         result += value.displayName;
     }

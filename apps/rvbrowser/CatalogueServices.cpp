@@ -17,7 +17,7 @@ public:
     {
         const CataloguePointer catalogue = myServices->catalogue();
         const int index = catalogue ? catalogue->indexOf(type) : -1;
-        return index < 0 ? RVPageCountOrganization() : catalogue->product(index).pageCounts;
+        return index < 0 ? RVPageCountOrganization() : catalogue->product(index).pageCounts();
     }
 
 private:
@@ -59,7 +59,7 @@ bool CatalogueServices::Checker::isValid(const RVProductType &type) const
 {
     const CataloguePointer catalogue = myServices->catalogue();
     const int index = catalogue && type.isValid() ? catalogue->indexOf(type) : -1;
-    return index >= 0 && !catalogue->at(index).articleId.isEmpty() && pageCounts(type).isValid();
+    return index >= 0 && catalogue->at(index).articleId.isValid() && pageCounts(type).isValid();
 }
 
 RVProductCheckerType CatalogueServices::Checker::checkerTypes() const
@@ -71,5 +71,5 @@ bool CatalogueServices::Checker::isValidBoxStyle(const RVProductType &type, cons
 {
     const CataloguePointer catalogue = myServices->catalogue();
     const int index = catalogue ? catalogue->indexOf(type) : -1;
-    return index >= 0 && catalogue->product(index).options.contains(variants);
+    return index >= 0 && catalogue->product(index).options().contains(variants);
 }

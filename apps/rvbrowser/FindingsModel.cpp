@@ -11,32 +11,27 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString severityText(FindingSeverity severity)
+QString severityText(RVCatalogueSeverity severity)
 {
     switch (severity) {
-    case FindingSeverity::Note:
+    case RVCatalogueSeverity::Note:
         return FindingsModel::tr("Note");
-    case FindingSeverity::Warning:
+    case RVCatalogueSeverity::Warning:
         return FindingsModel::tr("Warning");
-    case FindingSeverity::Error:
+    case RVCatalogueSeverity::Error:
         break;
     }
     return FindingsModel::tr("Error");
 }
 
-QString reason(const CatalogueFinding &finding)
-{
-    return catalogueRules().at(indexOfRule(finding.rule.toString())).translatedReason();
-}
-
-QIcon severityIcon(FindingSeverity severity)
+QIcon severityIcon(RVCatalogueSeverity severity)
 {
     switch (severity) {
-    case FindingSeverity::Note:
+    case RVCatalogueSeverity::Note:
         return QApplication::style()->standardIcon(QStyle::SP_MessageBoxInformation);
-    case FindingSeverity::Warning:
+    case RVCatalogueSeverity::Warning:
         return QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
-    case FindingSeverity::Error:
+    case RVCatalogueSeverity::Error:
         break;
     }
     return QApplication::style()->standardIcon(QStyle::SP_MessageBoxCritical);
@@ -53,17 +48,16 @@ void FindingsModel::setCatalogue(const CataloguePointer &catalogue)
 
 int FindingsModel::product(int row) const
 {
-    const qint64 product = myCatalogue->findings().at(row).product;
-    return product < myCatalogue->size() ? int(product) : -1;
+    return int(myCatalogue->findings().at(row).product());
 }
 
-int FindingsModel::count(FindingSeverity severity) const
+int FindingsModel::count(RVCatalogueSeverity severity) const
 {
     if (!myCatalogue)
         return 0;
-    const QList<CatalogueFinding> &findings = myCatalogue->findings();
+    const QList<RVCatalogueFinding> &findings = myCatalogue->findings();
     return int(std::count_if(findings.begin(), findings.end(),
-                             [severity](const CatalogueFinding &finding) { return finding.severity == severity; }));
+                             [severity](const RVCatalogueFinding &finding) { return finding.severity() == severity; }));
 }
 
 int FindingsModel::rowCount(const QModelIndex &parent) const
@@ -80,14 +74,14 @@ QVariant FindingsModel::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid())
         return QVariant();
-    const CatalogueFinding &finding = myCatalogue->findings().at(index.row());
+    const RVCatalogueFinding &finding = myCatalogue->findings().at(index.row());
     switch (role) {
     case Qt::DisplayRole:
         return text(finding, index.column());
     case Qt::ToolTipRole:
-        return index.column() == RuleColumn ? reason(finding) : plainToolTip(finding.text);
+        return index.column() == RuleColumn ? finding.rule().reason() : plainToolTip(finding.text());
     case Qt::DecorationRole:
-        return index.column() == SeverityColumn ? QVariant(severityIcon(finding.severity)) : QVariant();
+        return index.column() == SeverityColumn ? QVariant(severityIcon(finding.severity())) : QVariant();
     default:
         return QVariant();
     }
@@ -101,21 +95,19 @@ QVariant FindingsModel::headerData(int section, Qt::Orientation orientation, int
     return titles.value(section);
 }
 
-QString FindingsModel::text(const CatalogueFinding &finding, int column) const
+QString FindingsModel::text(const RVCatalogueFinding &finding, int column) const
 {
     switch (column) {
     case SeverityColumn:
-        return severityText(finding.severity);
+        return severityText(finding.severity());
     case ProductColumn:
-        return finding.product >= 0 && finding.product < myCatalogue->size()
-                ? myCatalogue->at(int(finding.product)).type.orderTxtName()
-                : QString();
+        return finding.product() >= 0 ? myCatalogue->at(int(finding.product())).type.orderTxtName() : QString();
     case TextColumn:
-        return finding.text;
+        return finding.text();
     case PlaceColumn:
-        return u"%1:%2"_s.arg(finding.position.line).arg(finding.position.column);
+        return u"%1:%2"_s.arg(finding.range().begin.line).arg(finding.range().begin.column);
     case RuleColumn:
-        return finding.rule.toString();
+        return finding.rule().name().toString();
     default:
         return QString();
     }

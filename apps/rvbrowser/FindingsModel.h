@@ -18,7 +18,7 @@ public:
     /// The number of the product that the finding is about; -1 for none.
     int product(int row) const;
     /// How many findings are as severe as that.
-    int count(FindingSeverity severity) const;
+    int count(RVCatalogueSeverity severity) const;
 
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     int columnCount(const QModelIndex &parent = QModelIndex()) const override;
@@ -28,7 +28,7 @@ public:
 private:
     enum Column { SeverityColumn, ProductColumn, TextColumn, PlaceColumn, RuleColumn, COLUMN_COUNT };
 
-    QString text(const CatalogueFinding &finding, int column) const;
+    QString text(const RVCatalogueFinding &finding, int column) const;
 
     CataloguePointer myCatalogue;
 };

@@ -58,9 +58,9 @@ void FindingsPanel::setCatalogue(const CataloguePointer &catalogue)
 
 QString FindingsPanel::summary() const
 {
-    return u"%1, %2, %3"_s.arg(tr("%n error(s)", nullptr, myModel.count(FindingSeverity::Error)),
-                               tr("%n warning(s)", nullptr, myModel.count(FindingSeverity::Warning)),
-                               tr("%n note(s)", nullptr, myModel.count(FindingSeverity::Note)));
+    return u"%1, %2, %3"_s.arg(tr("%n error(s)", nullptr, myModel.count(RVCatalogueSeverity::Error)),
+                               tr("%n warning(s)", nullptr, myModel.count(RVCatalogueSeverity::Warning)),
+                               tr("%n note(s)", nullptr, myModel.count(RVCatalogueSeverity::Note)));
 }
 
 QSize FindingsPanel::sizeHint() const

@@ -1,7 +1,7 @@
 #ifndef LOADERROR_H
 #define LOADERROR_H
 
-#include <CatalogueReader.h>
+#include <RVFilePosition.h>
 
 #include <QString>
 
@@ -11,7 +11,7 @@
 struct LoadError
 {
     QString fileName;
-    std::optional<FilePosition> position; ///< none where it is the file as a whole
+    std::optional<RVFilePosition> position; ///< none where it is the file as a whole
     QString text;
 };
 

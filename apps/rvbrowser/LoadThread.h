@@ -8,7 +8,7 @@
 
 class ObservedFile;
 
-/// Reads one catalogue: first the products, then the findings. Ask for an interruption to give it up.
+/// Reads one catalogue. Ask for an interruption to give it up.
 class LoadThread : public QThread
 {
     Q_OBJECT
@@ -28,10 +28,8 @@ protected:
     void run() override;
 
 private:
-    bool readProducts(LoadedCatalogue *catalogue);
-    bool readFindings(LoadedCatalogue *catalogue);
-    bool report(int percent);
     bool open(ObservedFile *file);
+    bool report(int percent);
 
     QString myFileName;
     CataloguePointer myCatalogue;

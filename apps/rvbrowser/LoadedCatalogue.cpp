@@ -2,46 +2,86 @@
 
 #include "ProductFacts.h"
 
-#include <QTextStream>
+#include <RVCatalogueReader.h>
 
-namespace {
+#include <numeric>
+#include <utility>
 
-/// The elements of a catalogue resemble one another, so little effort is enough.
-constexpr int PACKING_EFFORT = 1;
-
-QByteArray packed(const QDomElement &element)
+/// Products that follow one another, and all that is kept of them but their places among the others.
+struct LoadedCatalogue::Batch
 {
-    QByteArray text;
-    QTextStream stream(&text);
-    element.save(stream, 0);
-    stream.flush();
-    return qCompress(text, PACKING_EFFORT);
+    QList<Entry> entries;
+    QStringList groups; // one an entry
+    ProductPack pack;
+    QList<RVCatalogueFinding> findings;
+};
+
+void LoadedCatalogue::read(RVCatalogueReader *reader)
+{
+    reader->map([this](const QList<RVCatalogueProduct> &products) { return batch(products); },
+                [this](Batch batch) {
+                    append(std::move(batch));
+                    return true;
+                });
+    myFindings += reader->findings();
+    myTexts.clear();
 }
 
+QString LoadedCatalogue::searchText(int index) const
+{
+    const Entry &entry = myEntries.at(index);
+    QStringList texts { entry.type.toString(), entry.name };
+    if (entry.articleId.isValid())
+        texts += entry.articleId.toString();
+    return texts.join(u'\n').toLower() + u'\n' + entry.words;
 }
 
-void LoadedCatalogue::append(const QDomElement &product, const FilePosition &position)
+RVCatalogueProduct LoadedCatalogue::product(int index) const
 {
-    const CatalogueProduct values(product);
-    if (!myIndexes.contains(values.type))
-        myIndexes.insert(values.type, size());
-    Entry entry;
-    entry.type = values.type;
-    entry.name = values.name;
-    if (values.articleId.isValid())
-        entry.articleId = values.articleId.toString();
-    entry.group = groupIndex(ProductFacts::group(values.articleClass));
-    entry.searchText = ProductFacts(values, myWords).searchText();
-    entry.position = position;
-    entry.element = packed(product);
-    myEntries += entry;
+    const Entry &entry = myEntries.at(index);
+    return myPacks.at(entry.pack).product(entry.indexInPack);
 }
 
-CatalogueProduct LoadedCatalogue::product(int index) const
+qsizetype LoadedCatalogue::packedBytes() const
 {
-    QDomDocument document;
-    document.setContent(qUncompress(myEntries.at(index).element));
-    return CatalogueProduct(document.documentElement());
+    return std::accumulate(myPacks.begin(), myPacks.end(), qsizetype(0),
+                           [](qsizetype sum, const ProductPack &pack) { return sum + pack.byteCount(); });
+}
+
+LoadedCatalogue::Batch LoadedCatalogue::batch(const QList<RVCatalogueProduct> &products) const
+{
+    Batch result;
+    result.pack = ProductPack(products);
+    for (const RVCatalogueProduct &product : products) {
+        Entry entry;
+        entry.type = product.type();
+        entry.name = product.name();
+        entry.articleId = product.articleId();
+        entry.words = ProductFacts(product, myWords).searchText();
+        entry.position = product.range().begin;
+        entry.indexInPack = int(result.entries.size());
+        result.entries += entry;
+        result.groups += ProductFacts::group(product.articleClass());
+        result.findings += product.findings();
+    }
+    return result;
+}
+
+void LoadedCatalogue::append(Batch batch)
+{
+    for (qsizetype i = 0; i < batch.entries.size(); ++i) {
+        Entry &entry = batch.entries[i];
+        entry.group = groupIndex(batch.groups.at(i));
+        entry.name = shared(entry.name);
+        entry.words = shared(entry.words);
+        entry.pack = int(myPacks.size());
+        if (!myIndexes.contains(entry.type))
+            myIndexes.insert(entry.type, size());
+        myEntries += std::move(entry);
+    }
+    myPacks += std::move(batch.pack);
+    for (const RVCatalogueFinding &finding : std::as_const(batch.findings))
+        myFindings += RVCatalogueFinding(finding.rule(), finding.range(), shared(finding.text()), finding.product());
 }
 
 int LoadedCatalogue::groupIndex(const QString &name)

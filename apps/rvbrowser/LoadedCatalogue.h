@@ -2,21 +2,24 @@
 #define LOADEDCATALOGUE_H
 
 #include "AttributeWords.h"
+#include "ProductPack.h"
 
-#include <CatalogueFinding.h>
-#include <CatalogueProduct.h>
-#include <CatalogueReader.h>
+#include <RVCatalogueFinding.h>
+#include <RVCatalogueProduct.h>
 
-#include <QByteArray>
 #include <QHash>
 #include <QList>
+#include <QSet>
 #include <QString>
 
 #include <memory>
 
+class RVCatalogueReader;
+
 /**
  * A catalogue as it was read. Of each product it keeps what the list shows and what a search looks at; all else stays
- * packed until somebody looks at the product. So a catalogue of 20,000 products needs some 20 MB.
+ * packed until somebody looks at the product, and equal texts are kept but once. So 20,000 products of 2 KB, with two
+ * findings each, need some 15 MB.
  *
  * It does not change once it is loaded, so any thread may read it.
  */
@@ -27,40 +30,51 @@ public:
     {
         RVProductType type;
         QString name;
-        QString articleId; // empty where it has none
+        RVArticleId articleId;
+        QString words; // what a search may name besides these three
+        RVFilePosition position;
         int group = 0; // index into groups()
-        QString searchText; // lower case
-        FilePosition position;
-        QByteArray element; // packed
+        int pack = 0;
+        int indexInPack = 0;
     };
 
     explicit LoadedCatalogue(const QString &fileName) : myFileName(fileName) { }
 
-    /// Adds the next product of the file.
-    void append(const QDomElement &product, const FilePosition &position);
-    void setFindings(const QList<CatalogueFinding> &findings) { myFindings = findings; }
+    /// Adds the products that follow and what the reader finds wrong, all in one pass and on every core.
+    void read(RVCatalogueReader *reader);
 
     QString fileName() const { return myFileName; }
     int size() const { return int(myEntries.size()); }
     const Entry &at(int index) const { return myEntries.at(index); }
-    /// The whole product, made from its element in every call.
-    CatalogueProduct product(int index) const;
+    /// Everything that a search for the product may name, in lower case.
+    QString searchText(int index) const;
+    /// The whole product, read again in every call; its number, place and findings are to be asked for here.
+    RVCatalogueProduct product(int index) const;
     /// The first product of the type, which is the one that is sold; -1 where there is none.
     int indexOf(const RVProductType &type) const { return myIndexes.value(type, -1); }
     /// The kinds of article that there are, in the order of the file.
     const QStringList &groups() const { return myGroups; }
-    const QList<CatalogueFinding> &findings() const { return myFindings; }
+    const QList<RVCatalogueFinding> &findings() const { return myFindings; }
     const AttributeWords &words() const { return myWords; }
+    /// The memory that all the products need which are packed.
+    qsizetype packedBytes() const;
 
 private:
+    struct Batch;
+
+    Batch batch(const QList<RVCatalogueProduct> &products) const;
+    void append(Batch batch);
     int groupIndex(const QString &name);
+    QString shared(const QString &text) { return *myTexts.insert(text); }
 
     QString myFileName;
     AttributeWords myWords;
     QList<Entry> myEntries;
+    QList<ProductPack> myPacks;
     QStringList myGroups;
     QHash<RVProductType, int> myIndexes;
-    QList<CatalogueFinding> myFindings;
+    QList<RVCatalogueFinding> myFindings;
+    QSet<QString> myTexts; // while it is read, so that equal texts need memory but once
 };
 
 using CataloguePointer = std::shared_ptr<const LoadedCatalogue>;

@@ -2,7 +2,7 @@
 
 #include "PlainToolTip.h"
 
-#include <CatalogueProduct.h>
+#include <RVCatalogueProduct.h>
 
 #include <QComboBox>
 #include <QFormLayout>
@@ -17,7 +17,8 @@ namespace {
 
 constexpr int SHORTEST_LIST = 10; // characters
 
-QString noteText(const CatalogueProduct &product, const RVConfiguredArticleVariant &option, const QString &defaultValue)
+QString noteText(const RVCatalogueProduct &product, const RVConfiguredArticleVariant &option,
+                 const QString &defaultValue)
 {
     QStringList texts;
     if (option.value() == defaultValue)
@@ -42,14 +43,15 @@ OptionsPanel::OptionsPanel(QWidget *parent)
     myLayout->addRow(myNoOptions);
 }
 
-void OptionsPanel::setProduct(const CatalogueProduct &product)
+void OptionsPanel::setProduct(const RVCatalogueProduct &product)
 {
     myLines.clear();
     while (myLayout->rowCount() > 1)
         myLayout->removeRow(1);
-    const RVArticleVariants defaults = product.options.defaultVariants();
-    for (const QString &key : product.options.keys())
-        addLine(product, key, defaults.value(key));
+    const RVConfiguredArticleVariantList options = product.options();
+    const RVArticleVariants defaults = options.defaultVariants();
+    for (const QString &key : options.keys())
+        addLine(product, options.filter(key), defaults.value(key));
     myLayout->setRowVisible(myNoOptions, myLines.isEmpty());
     Q_EMIT variantsChanged();
 }
@@ -74,9 +76,10 @@ void OptionsPanel::setVariants(const RVArticleVariants &variants)
     }
 }
 
-void OptionsPanel::addLine(const CatalogueProduct &product, const QString &key, const QString &defaultValue)
+void OptionsPanel::addLine(const RVCatalogueProduct &product, const RVConfiguredArticleVariantList &options,
+                           const QString &defaultValue)
 {
-    const RVConfiguredArticleVariantList options = product.options.filter(key);
+    const QString key = options.constFirst().key();
     auto *values = new QComboBox;
     auto *model = new OptionValueModel(options, values);
     auto *note = new QLabel;

@@ -11,7 +11,7 @@
 class QComboBox;
 class QFormLayout;
 class QLabel;
-struct CatalogueProduct;
+class RVCatalogueProduct;
 
 /// The options of a product, one line a key, with the defaults chosen at first.
 class OptionsPanel : public QGroupBox
@@ -21,7 +21,7 @@ class OptionsPanel : public QGroupBox
 public:
     explicit OptionsPanel(QWidget *parent = nullptr);
 
-    void setProduct(const CatalogueProduct &product);
+    void setProduct(const RVCatalogueProduct &product);
     /// What is chosen.
     RVArticleVariants variants() const;
     /// Chooses those of the options that the product has.
@@ -39,7 +39,9 @@ private:
         QLabel *note;
     };
 
-    void addLine(const CatalogueProduct &product, const QString &key, const QString &defaultValue);
+    /// @p options are those of one key.
+    void addLine(const RVCatalogueProduct &product, const RVConfiguredArticleVariantList &options,
+                 const QString &defaultValue);
 
     QFormLayout *myLayout;
     QLabel *myNoOptions;

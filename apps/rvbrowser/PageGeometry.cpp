@@ -1,6 +1,6 @@
 #include "PageGeometry.h"
 
-#include <CatalogueProduct.h>
+#include <RVCatalogueProduct.h>
 
 #include <RVBleedMargin.h>
 
@@ -18,22 +18,23 @@ const RVBleedMargin &usualBleed()
 
 constexpr double TENTHS_PER_CENTIMETRE = 100;
 
-QSize usableSizeOf(const CatalogueProduct &product)
+QSize usableSizeOf(const RVCatalogueProduct &product)
 {
-    const int area = product.spaceMagnitude.normativeSize();
-    const bool hasOrientation = product.orientation.encodeBits().size() == 1;
+    const int area = product.spaceMagnitude().normativeSize();
+    const RVOrientation orientation = product.orientation();
+    const bool hasOrientation = orientation.encodeBits().size() == 1;
     if (area == 0 || !hasOrientation)
         return QSize();
-    const double ratio = product.orientation.defaultWidthHeightRatio();
+    const double ratio = orientation.defaultWidthHeightRatio();
     const double height = std::sqrt(area / ratio);
     return QSizeF(height * ratio * TENTHS_PER_CENTIMETRE, height * TENTHS_PER_CENTIMETRE).toSize();
 }
 
 }
 
-PageGeometry::PageGeometry(const CatalogueProduct &product)
+PageGeometry::PageGeometry(const RVCatalogueProduct &product)
     : mySpec(usableSizeOf(product), RVMargins(usualBleed().vertical(), usualBleed().horizontal())),
-      myBarcodes(product.barcodes)
+      myBarcodes(product.barcodes())
 { }
 
 QRectF PageGeometry::barcodeRect(const RVBarcodeDefinition &barcode) const

@@ -7,7 +7,7 @@
 #include <QList>
 #include <QRect>
 
-struct CatalogueProduct;
+class RVCatalogueProduct;
 
 /// The page of a product in tenths of a millimetre, as far as a catalogue tells: it has the area of the size class and
 /// the usual proportions of the orientation. Around it goes the usual bleed.
@@ -16,7 +16,7 @@ class PageGeometry
 public:
     PageGeometry() = default; ///< No page.
     /// No page for a product without exactly one size class and one orientation.
-    explicit PageGeometry(const CatalogueProduct &product);
+    explicit PageGeometry(const RVCatalogueProduct &product);
 
     bool isValid() const { return mySpec.usableSize().isValid(); }
     QSize usableSize() const { return mySpec.usableSize(); }

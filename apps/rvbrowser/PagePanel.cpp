@@ -36,7 +36,7 @@ PagePanel::PagePanel(QWidget *parent)
             [this] { myDrawing->setPageNumber(myPages->currentData().toInt()); });
 }
 
-void PagePanel::setProduct(const CatalogueProduct &product)
+void PagePanel::setProduct(const RVCatalogueProduct &product)
 {
     const PageGeometry geometry(product);
     myDrawing->setPage(geometry);

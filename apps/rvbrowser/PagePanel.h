@@ -7,7 +7,7 @@ class PageDrawing;
 class PageGeometry;
 class QComboBox;
 class QLabel;
-struct CatalogueProduct;
+class RVCatalogueProduct;
 
 /// The page of a product, and which of its pages is shown.
 class PagePanel : public QGroupBox
@@ -17,7 +17,7 @@ class PagePanel : public QGroupBox
 public:
     explicit PagePanel(QWidget *parent = nullptr);
 
-    void setProduct(const CatalogueProduct &product);
+    void setProduct(const RVCatalogueProduct &product);
     /// False for a product whose page is not known.
     bool isDrawn() const;
 

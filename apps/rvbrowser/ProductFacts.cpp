@@ -2,7 +2,7 @@
 
 #include "AttributeWords.h"
 
-#include <CatalogueProduct.h>
+#include <RVCatalogueAttributes.h>
 
 #include <QLocale>
 
@@ -15,10 +15,13 @@ QString millimetres(int tenths)
     return QLocale().toString(RVDistance(tenths).value(DISTANCE_UNIT_MILLIMETRE), 'f', 1);
 }
 
-template<typename T>
-QStringList keywords(const T &attribute)
+/// The attributes that are shown and searched one by one; the article class is shown as the kind of article.
+QList<RVCatalogueAttribute> attributes()
 {
-    return attribute.isNull() ? QStringList() : attribute.encodeBits();
+    QList<RVCatalogueAttribute> result = RVCatalogueAttribute::ofProducts();
+    result.removeIf(
+            [](const RVCatalogueAttribute &each) { return each.name() == rvCatalogueAttributeName<RVArticleClass>(); });
+    return result;
 }
 
 }
@@ -27,26 +30,25 @@ QList<ProductFacts::Fact> ProductFacts::facts() const
 {
     QList<Fact> result {
         { tr("Kind of article"), kind() },
-        { tr("Article id"), myProduct.articleId.isValid() ? myProduct.articleId.toString() : QString() },
+        { tr("Article id"), articleId() },
     };
-    for (const Attribute &attribute : attributes())
-        result += { attribute.label, myWords.text(attribute.name, attribute.keywords) };
-    result += { tr("Shipping group"),
-                myProduct.shippingGroup.isValid() ? myProduct.shippingGroup.toString() : QString() };
-    result += { tr("Price class"), myProduct.priceClass.toString() };
-    result += { tr("Price class of a package"), myProduct.pagePriceClass.toString() };
+    for (const RVCatalogueAttribute &attribute : attributes())
+        result += { attribute.label(), myWords.text(attribute, myProduct) };
+    result += { tr("Shipping group"), shippingGroup() };
+    result += { tr("Price class"), myProduct.priceClass().toString() };
+    result += { tr("Price class of a package"), myProduct.pagePriceClass().toString() };
     result += { tr("Barcodes"), barcodes() };
     return result;
 }
 
 QString ProductFacts::searchText() const
 {
-    QStringList texts { myProduct.type.toString(), myProduct.name, group(myProduct.articleClass) };
-    if (myProduct.articleId.isValid())
-        texts += myProduct.articleId.toString();
-    for (const Attribute &attribute : attributes())
-        texts += myWords.searchTexts(attribute.name, attribute.keywords);
-    texts += keywords(myProduct.articleClass);
+    const RVArticleClass articleClass = myProduct.articleClass();
+    QStringList texts { group(articleClass) };
+    for (const RVCatalogueAttribute &attribute : attributes())
+        texts += myWords.searchTexts(attribute, myProduct);
+    if (!articleClass.isNull())
+        texts += articleClass.encodeBits();
     texts.removeAll(QString());
     texts.removeDuplicates();
     return texts.join(u'\n').toLower();
@@ -61,28 +63,29 @@ QString ProductFacts::group(const RVArticleClass &articleClass)
     return articleClass.matches(ARTICLE_CLASS_FEE) ? tr("Fees") : tr("Add-ons");
 }
 
-QList<ProductFacts::Attribute> ProductFacts::attributes() const
+QString ProductFacts::articleId() const
 {
-    return {
-        { u"cover_type"_s, tr("Cover"), keywords(myProduct.coverType) },
-        { u"page_binding"_s, tr("Binding"), keywords(myProduct.pageBinding) },
-        { u"paper_type"_s, tr("Paper"), keywords(myProduct.paperType) },
-        { u"foto_paper_type"_s, tr("Photo paper"), keywords(myProduct.fotoPaperType) },
-        { u"orientation"_s, tr("Orientation"), keywords(myProduct.orientation) },
-        { u"space_magnitude"_s, tr("Size class"), keywords(myProduct.spaceMagnitude) },
-    };
+    const RVArticleId id = myProduct.articleId();
+    return id.isValid() ? id.toString() : QString();
+}
+
+QString ProductFacts::shippingGroup() const
+{
+    const RVShippingGroupId group = myProduct.shippingGroup();
+    return group.isValid() ? group.toString() : QString();
 }
 
 QString ProductFacts::kind() const
 {
-    const QString name = group(myProduct.articleClass);
-    return myProduct.articleClass.isNull() ? name : u"%1 (%2)"_s.arg(name, myProduct.articleClass.encodeCSV());
+    const RVArticleClass articleClass = myProduct.articleClass();
+    const QString name = group(articleClass);
+    return articleClass.isNull() ? name : u"%1 (%2)"_s.arg(name, articleClass.encodeCSV());
 }
 
 QString ProductFacts::barcodes() const
 {
     QStringList result;
-    for (const RVBarcodeDefinition &barcode : myProduct.barcodes) {
+    for (const RVBarcodeDefinition &barcode : myProduct.barcodes()) {
         const QRect rect = barcode.rect();
         result += tr("%1 × %2 mm on page %3")
                           .arg(millimetres(rect.width()), millimetres(rect.height()),

@@ -1,14 +1,13 @@
 #ifndef PRODUCTFACTS_H
 #define PRODUCTFACTS_H
 
+#include <RVCatalogueProduct.h>
+
 #include <QCoreApplication>
 #include <QList>
 #include <QString>
-#include <QStringList>
 
 class AttributeWords;
-class RVArticleClass;
-struct CatalogueProduct;
 
 /// What there is to read about a product, apart from what can be chosen.
 class ProductFacts
@@ -22,28 +21,25 @@ public:
         QString text; ///< empty where the product does not say
     };
 
-    ProductFacts(const CatalogueProduct &product, const AttributeWords &words) : myProduct(product), myWords(words) { }
+    ProductFacts(const RVCatalogueProduct &product, const AttributeWords &words)
+        : myProduct(product),
+          myWords(words) { }
 
     /// Always the same facts in the same order.
     QList<Fact> facts() const;
-    /// Everything that a search for the product may name, in lower case.
+    /// What a search for the product may name besides its type, its name and its article id, in lower case. Many
+    /// products share it.
     QString searchText() const;
     /// What kind of article it is, in the words of the shop.
     static QString group(const RVArticleClass &articleClass);
 
 private:
-    struct Attribute
-    {
-        QString name; // in the catalogue
-        QString label;
-        QStringList keywords;
-    };
-
-    QList<Attribute> attributes() const;
+    QString articleId() const;
+    QString shippingGroup() const;
     QString kind() const;
     QString barcodes() const;
 
-    const CatalogueProduct &myProduct;
+    RVCatalogueProduct myProduct;
     const AttributeWords &myWords;
 };
 

@@ -105,7 +105,7 @@ QVariant ProductTreeModel::productData(int product, int column, int role) const
     case Qt::ToolTipRole:
         return plainToolTip(entry.name);
     case SearchRole:
-        return entry.searchText;
+        return myCatalogue->searchText(product);
     case ProductRole:
         return product;
     default:

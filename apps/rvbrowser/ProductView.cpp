@@ -61,12 +61,13 @@ ProductView::ProductView(QWidget *parent)
 
 void ProductView::setProduct(const CataloguePointer &catalogue, int product)
 {
-    const CatalogueProduct values = catalogue->product(product);
-    const bool isSold = catalogue->indexOf(values.type) == product;
-    myOffered = values.options;
+    const RVCatalogueProduct values = catalogue->product(product);
+    const RVProductType type = values.type();
+    const bool isSold = catalogue->indexOf(type) == product;
+    myOffered = values.options();
     showHeader(*catalogue, product);
     myAttributes->setProduct(values, catalogue->words());
-    mySpine->setProduct(values, isSold ? CatalogueServices::pageCounts(values.type) : values.pageCounts);
+    mySpine->setProduct(values, isSold ? CatalogueServices::pageCounts(type) : values.pageCounts());
     myPage->setProduct(values);
     myOptions->setProduct(values);
     myDrawings->setStretchFactor(mySpine, mySpine->isDrawn() ? 1 : 0);

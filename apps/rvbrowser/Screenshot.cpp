@@ -36,7 +36,7 @@ Screenshot::Screenshot(MainWindow *window, const QString &fileName, const RVProd
 
 void Screenshot::failToLoad(const LoadError &error)
 {
-    const FilePosition position = error.position.value_or(FilePosition());
+    const RVFilePosition position = error.position.value_or(RVFilePosition());
     fail(2, u"%1:%2:%3: %4"_s.arg(error.fileName).arg(position.line).arg(position.column).arg(error.text));
 }
 

@@ -4,7 +4,7 @@
 #include "SpineCurve.h"
 #include "SpineDrawing.h"
 
-#include <CatalogueProduct.h>
+#include <RVCatalogueProduct.h>
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -58,11 +58,11 @@ SpinePanel::SpinePanel(QWidget *parent)
     connect(myChooser, &PageCountChooser::rowChanged, this, &SpinePanel::showRow);
 }
 
-void SpinePanel::setProduct(const CatalogueProduct &product, const RVPageCountOrganization &pageCounts)
+void SpinePanel::setProduct(const RVCatalogueProduct &product, const RVPageCountOrganization &pageCounts)
 {
-    myTable = product.hasSpine() ? SpineTable(product.spine, pageCounts) : SpineTable();
-    mySideWidth = product.spine.additionalSpineWidth().value(DISTANCE_UNIT_MILLIMETRE);
-    myDrawing->setTitle(product.type.toString());
+    myTable = product.hasSpine() ? SpineTable(product.spine(), pageCounts) : SpineTable();
+    mySideWidth = product.spine().additionalSpineWidth().value(DISTANCE_UNIT_MILLIMETRE);
+    myDrawing->setTitle(product.type().toString());
     const bool hasSpine = myTable.rowCount() > 0;
     myDrawing->setVisible(hasSpine);
     myCurve->setVisible(hasSpine);
@@ -71,7 +71,8 @@ void SpinePanel::setProduct(const CatalogueProduct &product, const RVPageCountOr
         myWidest = qMax(myTable.row(0).width, myTable.row(myTable.rowCount() - 1).width);
     myCurve->setTable(myTable);
     myRange->setText(rangeText(pageCounts));
-    myChooser->setPageCounts(pageCounts, product.articleClass.matches(ARTICLE_CLASS_PICTURE_BOX | ARTICLE_CLASS_PHOTO));
+    myChooser->setPageCounts(pageCounts,
+                             product.articleClass().matches(ARTICLE_CLASS_PICTURE_BOX | ARTICLE_CLASS_PHOTO));
 }
 
 bool SpinePanel::isDrawn() const

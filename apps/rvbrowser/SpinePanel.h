@@ -9,7 +9,7 @@ class PageCountChooser;
 class QLabel;
 class SpineCurve;
 class SpineDrawing;
-struct CatalogueProduct;
+class RVCatalogueProduct;
 
 /// The page counts of a product, and what its spine becomes at the chosen one.
 class SpinePanel : public QGroupBox
@@ -20,7 +20,7 @@ public:
     explicit SpinePanel(QWidget *parent = nullptr);
 
     /// The page counts may be others than the product says itself.
-    void setProduct(const CatalogueProduct &product, const RVPageCountOrganization &pageCounts);
+    void setProduct(const RVCatalogueProduct &product, const RVPageCountOrganization &pageCounts);
     /// False for a product without a spine.
     bool isDrawn() const;
     /// What is chosen.
