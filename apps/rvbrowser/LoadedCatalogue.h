@@ -19,7 +19,7 @@ class RVCatalogueReader;
 /**
  * A catalogue as it was read. Of each product it keeps what the list shows and what a search looks at; all else stays
  * packed until somebody looks at the product, and equal texts are kept but once. So 20,000 products of 2 KB, with two
- * findings each, need some 15 MB.
+ * findings each, need some 14 MB.
  *
  * It does not change once it is loaded, so any thread may read it.
  */
@@ -76,6 +76,8 @@ private:
     QList<RVCatalogueFinding> myFindings;
     QSet<QString> myTexts; // while it is read, so that equal texts need memory but once
 };
+
+Q_DECLARE_TYPEINFO(LoadedCatalogue::Entry, Q_RELOCATABLE_TYPE);
 
 using CataloguePointer = std::shared_ptr<const LoadedCatalogue>;
 

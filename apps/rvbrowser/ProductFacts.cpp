@@ -19,8 +19,7 @@ QString millimetres(int tenths)
 QList<RVCatalogueAttribute> attributes()
 {
     QList<RVCatalogueAttribute> result = RVCatalogueAttribute::ofProducts();
-    result.removeIf(
-            [](const RVCatalogueAttribute &each) { return each.name() == rvCatalogueAttributeName<RVArticleClass>(); });
+    result.removeOne(RVCatalogueAttribute::find(rvCatalogueAttributeName<RVArticleClass>()));
     return result;
 }
 

@@ -26,4 +26,6 @@ private:
     QList<int> myEnds; // of each product in them
 };
 
+Q_DECLARE_TYPEINFO(ProductPack, Q_RELOCATABLE_TYPE);
+
 #endif

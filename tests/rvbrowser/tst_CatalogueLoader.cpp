@@ -7,7 +7,9 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/inotify.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <memory>
 
@@ -36,11 +38,13 @@ private Q_SLOTS:
     void cleanup();
 
     void loads();
+    void opensTheFileOnce();
     void reportsItsProgress();
     void failsWhereTheFileIsBroken();
     void failsWithoutAFile();
     void failsWithAPipe();
     void cancels();
+    void cancelsWhereNoProductIs();
     void cancelsNothing();
     void givesUpForAnother();
     void giveUpsAreSilent();
@@ -82,11 +86,29 @@ void tst_CatalogueLoader::loads()
         for (int i = 0; i < loaded->size(); ++i) {
             QCOMPARE(loaded->at(i).type, RVProductType(u"T"_s + QString::number(i)));
             QCOMPARE(loaded->at(i).position.line, i + 2);
-            QCOMPARE(loaded->product(i).articleId.toString(), QString::number(i + 1));
+            QCOMPARE(loaded->product(i).articleId().toString(), QString::number(i + 1));
         }
         QCOMPARE(loaded->findings().size(), 300); // no cover is of the type "hardcovers"
         loaded.reset();
     }
+}
+
+// So what the products say and what the findings say is the same, though the file may change.
+void tst_CatalogueLoader::opensTheFileOnce()
+{
+    const QString fileName = write(manyProducts(300).replace("hardcover", "hardcovers"));
+    const int watch = inotify_init1(IN_NONBLOCK);
+    QVERIFY(watch >= 0);
+    QVERIFY(inotify_add_watch(watch, QFile::encodeName(fileName).constData(), IN_OPEN) >= 0);
+    CatalogueLoader loader;
+    QSignalSpy loaded(&loader, &CatalogueLoader::loaded);
+    loader.start(fileName);
+    QVERIFY(loaded.wait(TIMEOUT));
+    inotify_event events[10];
+    const auto size = ::read(watch, events, sizeof events);
+    ::close(watch);
+    QCOMPARE(size, ssize_t(sizeof(inotify_event)));
+    QCOMPARE(loaded.at(0).at(0).value<CataloguePointer>()->findings().size(), 300);
 }
 
 void tst_CatalogueLoader::reportsItsProgress()
@@ -116,7 +138,7 @@ void tst_CatalogueLoader::failsWhereTheFileIsBroken()
     QCOMPARE(error.fileName, fileName);
     QVERIFY(error.position);
     QCOMPARE(error.position->line, 21);
-    QCOMPARE(error.text, u"the file ends too early"_s);
+    QCOMPARE(error.text, u"the file ends too early: <products>, which was opened in line 1, is not closed"_s);
 }
 
 void tst_CatalogueLoader::failsWithoutAFile()
@@ -158,6 +180,20 @@ void tst_CatalogueLoader::cancels()
     QVERIFY(cancelled.wait(TIMEOUT));
     QVERIFY(!loader.isLoading());
     QCOMPARE(loaded.size(), 0);
+}
+
+void tst_CatalogueLoader::cancelsWhereNoProductIs()
+{
+    const QByteArray content = "<products>" + QByteArray("<group name='g'/>\n").repeated(2000000) + "</products>";
+    CatalogueLoader loader;
+    QSignalSpy progressed(&loader, &CatalogueLoader::progressed);
+    QSignalSpy failed(&loader, &CatalogueLoader::failed);
+    QSignalSpy cancelled(&loader, &CatalogueLoader::cancelled);
+    loader.start(write(content));
+    QVERIFY(progressed.wait(TIMEOUT));
+    loader.cancel();
+    QVERIFY(cancelled.wait(TIMEOUT));
+    QCOMPARE(failed.size(), 0);
 }
 
 void tst_CatalogueLoader::cancelsNothing()
