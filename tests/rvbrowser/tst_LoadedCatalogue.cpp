@@ -49,7 +49,7 @@ QByteArray largeProducts(int count)
     QByteArray forms;
     for (int i = 0; i < 18; ++i)
         forms += "<form key='alcolor' key_name='Umschlagfarbe' value='color" + QByteArray::number(i)
-                + "' value_name='Farbe' color='#1a1a1a' preview='black.png'/>\n";
+                + "' value_name='Farbe' color='#1a1a1a' preselected='" + (i == 0 ? "true" : "false") + "'/>\n";
     QByteArray content = "<products>\n";
     for (int i = 0; i < count; ++i)
         content += "<product type='T" + QByteArray::number(i) + "' article_id='" + QByteArray::number(i + 1)
