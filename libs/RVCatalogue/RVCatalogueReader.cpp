@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QRunnable>
 #include <QSemaphore>
 #include <QThread>
 #include <QThreadPool>
@@ -24,11 +25,43 @@ int mostThreads()
 }
 
 /// Products that a thread works on, and what becomes of them.
-struct Order
+class Order
 {
-    QList<RVCatalogueProduct> products;
-    std::shared_ptr<void> result;
-    QSemaphore isDone;
+public:
+    using Work = std::function<std::shared_ptr<void>(const QList<RVCatalogueProduct> &)>;
+
+    /// @p work outlives the order.
+    Order(const QList<RVCatalogueProduct> &products, const Work &work) : myProducts(products), myWork(work) { }
+
+    void run()
+    {
+        myResult = myWork(std::exchange(myProducts, {}));
+        myIsDone.release();
+    }
+    /// Waits for it.
+    std::shared_ptr<void> result()
+    {
+        myIsDone.acquire();
+        return std::move(myResult);
+    }
+
+private:
+    QList<RVCatalogueProduct> myProducts;
+    const Work &myWork;
+    std::shared_ptr<void> myResult;
+    QSemaphore myIsDone;
+};
+
+/// Keeps the order until the thread has left it, which is later than its result is there.
+class OrderTask : public QRunnable
+{
+public:
+    explicit OrderTask(const std::shared_ptr<Order> &order) : myOrder(order) { }
+
+    void run() override { myOrder->run(); }
+
+private:
+    std::shared_ptr<Order> myOrder;
 };
 
 }
@@ -234,36 +267,30 @@ qint64 RVCatalogueReader::size() const
 void RVCatalogueReader::mapAny(const std::function<AnyResult(const QList<RVCatalogueProduct> &)> &work,
                                const std::function<bool(const AnyResult &)> &take)
 {
-    QThreadPool pool;
-    pool.setMaxThreadCount(mostThreads());
-    const auto mostOrders = std::size_t(mostThreads()) * 2;
+    const Order::Work checkedWork = [this, &work](const QList<RVCatalogueProduct> &products) {
+        d->check(products);
+        return work(products);
+    };
     std::deque<std::shared_ptr<Order>> orders;
+    QThreadPool pool; // waits for its threads at the end
+    pool.setMaxThreadCount(mostThreads());
     const auto takeFirst = [&] {
-        const std::shared_ptr<Order> first = orders.front();
+        const AnyResult result = orders.front()->result();
         orders.pop_front();
-        first->isDone.acquire();
-        return take(first->result);
+        return take(result);
     };
     bool goesOn = true;
     while (goesOn && d->fill()) {
-        const auto order = std::make_shared<Order>();
-        order->products = d->read();
-        const auto run = [this, order, &work] {
-            d->check(order->products);
-            order->result = work(std::exchange(order->products, {}));
-            order->isDone.release();
-        };
-        orders.push_back(order);
+        orders.push_back(std::make_shared<Order>(d->read(), checkedWork));
         // Of a small catalogue all is done before a thread would have begun.
         if (orders.size() == 1 && !d->fill())
-            run();
+            orders.front()->run();
         else
-            pool.start(run);
-        if (orders.size() >= mostOrders)
+            pool.start(new OrderTask(orders.back()));
+        if (orders.size() >= std::size_t(mostThreads()) * 2)
             goesOn = takeFirst();
     }
     while (goesOn && !orders.empty())
         goesOn = takeFirst();
     pool.clear();
-    pool.waitForDone();
 }
