@@ -181,7 +181,7 @@ bool RVBarcodeCheck::addOutside(const Barcode &barcode, QLatin1StringView attrib
 
 void RVBarcodeCheck::checkOverlap(const Barcode &barcode)
 {
-    const auto other = std::find_if(myPlaced.begin(), myPlaced.end(), [&](const Barcode &each) {
+    const Barcode *other = std::find_if(myPlaced.begin(), myPlaced.end(), [&](const Barcode &each) {
         return each.page == barcode.page && overlap(each.area, barcode.area);
     });
     if (other != myPlaced.end())

@@ -53,59 +53,59 @@ struct RVCatalogueRuleRow
     static const RVCatalogueRuleRow *of(RVCatalogueRule rule) { return rule.myRow; }
 
     RVCatalogueRuleId id;
-    QLatin1StringView name;
     RVCatalogueSeverity severity;
+    QLatin1StringView name;
     const char *reason; // a source text of RVFindingText
     const char *example;
 };
 
 // clang-format off
 inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
-    { RVCatalogueRuleId::ProductsMissing, QLatin1StringView("products-missing"), RVCatalogueSeverity::Error,
+    { RVCatalogueRuleId::ProductsMissing, RVCatalogueSeverity::Error, QLatin1StringView("products-missing"),
       QT_TRANSLATE_NOOP("RVFindingText", "A file without a product is no catalogue: nothing of it can be ordered."),
       R"(<products>
   <family name="Photo books"/>
 </products>
 )" },
-    { RVCatalogueRuleId::TypeMissing, QLatin1StringView("type-missing"), RVCatalogueSeverity::Error,
+    { RVCatalogueRuleId::TypeMissing, RVCatalogueSeverity::Error, QLatin1StringView("type-missing"),
       QT_TRANSLATE_NOOP("RVFindingText", "Projects find their product by its type, so one without a type cannot be ordered."),
       R"(<products>
   <product article_id="1001"/>
 </products>
 )" },
-    { RVCatalogueRuleId::TypeDuplicate, QLatin1StringView("type-duplicate"), RVCatalogueSeverity::Error,
+    { RVCatalogueRuleId::TypeDuplicate, RVCatalogueSeverity::Error, QLatin1StringView("type-duplicate"),
       QT_TRANSLATE_NOOP("RVFindingText", "Of two products of one type the application only ever finds the first, and the codes of a photo book family are one type."),
       R"(<products>
   <product type="DUN9" article_id="1001"/>
   <product type="DUN9_30" article_id="1002"/>
 </products>
 )" },
-    { RVCatalogueRuleId::ArticleIdMissing, QLatin1StringView("article-id-missing"), RVCatalogueSeverity::Error,
+    { RVCatalogueRuleId::ArticleIdMissing, RVCatalogueSeverity::Error, QLatin1StringView("article-id-missing"),
       QT_TRANSLATE_NOOP("RVFindingText", "Shop and production know an article by its id."),
       R"(<products>
   <product type="DUN9"/>
 </products>
 )" },
-    { RVCatalogueRuleId::ArticleIdInvalid, QLatin1StringView("article-id-invalid"), RVCatalogueSeverity::Error,
+    { RVCatalogueRuleId::ArticleIdInvalid, RVCatalogueSeverity::Error, QLatin1StringView("article-id-invalid"),
       QT_TRANSLATE_NOOP("RVFindingText", "An article id is a whole number above 0; anything else is read as no id."),
       R"(<products>
   <product type="DUN9" article_id="10-01"/>
 </products>
 )" },
-    { RVCatalogueRuleId::ArticleIdDuplicate, QLatin1StringView("article-id-duplicate"), RVCatalogueSeverity::Error,
+    { RVCatalogueRuleId::ArticleIdDuplicate, RVCatalogueSeverity::Error, QLatin1StringView("article-id-duplicate"),
       QT_TRANSLATE_NOOP("RVFindingText", "Two products with one article id are the same article to shop and production."),
       R"(<products>
   <product type="DUN5" article_id="1001"/>
   <product type="DUN9" article_id="1001"/>
 </products>
 )" },
-    { RVCatalogueRuleId::ShippingGroupInvalid, QLatin1StringView("shipping-group-invalid"), RVCatalogueSeverity::Error,
+    { RVCatalogueRuleId::ShippingGroupInvalid, RVCatalogueSeverity::Error, QLatin1StringView("shipping-group-invalid"),
       QT_TRANSLATE_NOOP("RVFindingText", "A shipping group that is no whole number, or -1, is none, so the product is shipped with nothing else."),
       R"(<products>
   <product type="DUN9" article_id="1001" shipping_group="books"/>
 </products>
 )" },
-    { RVCatalogueRuleId::ElementIgnored, QLatin1StringView("element-ignored"), RVCatalogueSeverity::Error,
+    { RVCatalogueRuleId::ElementIgnored, RVCatalogueSeverity::Error, QLatin1StringView("element-ignored"),
       QT_TRANSLATE_NOOP("RVFindingText", "Only the first element of each kind in a product is read, so what the others say is lost."),
       R"(<products>
   <product type="DUN9" article_id="1001">
@@ -118,13 +118,13 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
   </product>
 </products>
 )" },
-    { RVCatalogueRuleId::NumberInvalid, QLatin1StringView("number-invalid"), RVCatalogueSeverity::Error,
+    { RVCatalogueRuleId::NumberInvalid, RVCatalogueSeverity::Error, QLatin1StringView("number-invalid"),
       QT_TRANSLATE_NOOP("RVFindingText", "What cannot be read as a number silently becomes the default."),
       R"(<products>
   <product type="DUN9" article_id="1001" pages="26 pages"/>
 </products>
 )" },
-    { RVCatalogueRuleId::BooleanInvalid, QLatin1StringView("boolean-invalid"), RVCatalogueSeverity::Error,
+    { RVCatalogueRuleId::BooleanInvalid, RVCatalogueSeverity::Error, QLatin1StringView("boolean-invalid"),
       QT_TRANSLATE_NOOP("RVFindingText", "What is none of true, false, 1, 0, yes, no, on and off silently becomes the default."),
       R"(<products>
   <product type="DUN9" article_id="1001">
@@ -134,7 +134,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
   </product>
 </products>
 )" },
-    { RVCatalogueRuleId::UnitUnknown, QLatin1StringView("unit-unknown"), RVCatalogueSeverity::Error,
+    { RVCatalogueRuleId::UnitUnknown, RVCatalogueSeverity::Error, QLatin1StringView("unit-unknown"),
       QT_TRANSLATE_NOOP("RVFindingText", "Lengths in an unknown unit are read as millimetres."),
       R"(<products>
   <product type="DUN9" article_id="1001">
@@ -144,43 +144,43 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
   </product>
 </products>
 )" },
-    { RVCatalogueRuleId::KeywordUnknown, QLatin1StringView("keyword-unknown"), RVCatalogueSeverity::Error,
+    { RVCatalogueRuleId::KeywordUnknown, RVCatalogueSeverity::Error, QLatin1StringView("keyword-unknown"),
       QT_TRANSLATE_NOOP("RVFindingText", "A keyword that nobody knows silently becomes the default of its attribute."),
       R"(<products>
   <product type="DUN9" article_id="1001" cover_type="hardcovr"/>
 </products>
 )" },
-    { RVCatalogueRuleId::KeywordLegacy, QLatin1StringView("keyword-legacy"), RVCatalogueSeverity::Note,
+    { RVCatalogueRuleId::KeywordLegacy, RVCatalogueSeverity::Note, QLatin1StringView("keyword-legacy"),
       QT_TRANSLATE_NOOP("RVFindingText", "An alias is still read, but a program that writes the value uses its main keyword."),
       R"(<products>
   <product type="DUN9" article_id="1001" cover_type="hard"/>
 </products>
 )" },
-    { RVCatalogueRuleId::PageCountsReversed, QLatin1StringView("page-counts-reversed"), RVCatalogueSeverity::Error,
+    { RVCatalogueRuleId::PageCountsReversed, RVCatalogueSeverity::Error, QLatin1StringView("page-counts-reversed"),
       QT_TRANSLATE_NOOP("RVFindingText", "With a lowest page count above the highest no count can be chosen."),
       R"(<products>
   <product type="DUN9" article_id="1001" pages="154" max_pages="26" page_step="4"/>
 </products>
 )" },
-    { RVCatalogueRuleId::PageCountsInvalid, QLatin1StringView("page-counts-invalid"), RVCatalogueSeverity::Error,
+    { RVCatalogueRuleId::PageCountsInvalid, RVCatalogueSeverity::Error, QLatin1StringView("page-counts-invalid"),
       QT_TRANSLATE_NOOP("RVFindingText", "Without valid page counts the product cannot be ordered."),
       R"(<products>
   <product type="DUN9" article_id="1001" pages="26" max_pages="154"/>
 </products>
 )" },
-    { RVCatalogueRuleId::PageStepMissesHighest, QLatin1StringView("page-step-misses-highest"), RVCatalogueSeverity::Warning,
+    { RVCatalogueRuleId::PageStepMissesHighest, RVCatalogueSeverity::Warning, QLatin1StringView("page-step-misses-highest"),
       QT_TRANSLATE_NOOP("RVFindingText", "The highest page count can never be reached when the steps do not meet it."),
       R"(<products>
   <product type="DUN9" article_id="1001" pages="26" max_pages="154" page_step="6"/>
 </products>
 )" },
-    { RVCatalogueRuleId::SpineMissing, QLatin1StringView("spine-missing"), RVCatalogueSeverity::Error,
+    { RVCatalogueRuleId::SpineMissing, RVCatalogueSeverity::Error, QLatin1StringView("spine-missing"),
       QT_TRANSLATE_NOOP("RVFindingText", "A glued or lay-flat book has a spine, and without its widths the cover is made too narrow."),
       R"(<products>
   <product type="DUN9" article_id="1001" page_binding="glue"/>
 </products>
 )" },
-    { RVCatalogueRuleId::SpineNegative, QLatin1StringView("spine-negative"), RVCatalogueSeverity::Error,
+    { RVCatalogueRuleId::SpineNegative, RVCatalogueSeverity::Error, QLatin1StringView("spine-negative"),
       QT_TRANSLATE_NOOP("RVFindingText", "A spine that has a negative width, or grows backwards, comes out too narrow."),
       R"(<products>
   <product type="DUN9" article_id="1001" page_binding="glue">
@@ -190,7 +190,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
   </product>
 </products>
 )" },
-    { RVCatalogueRuleId::SpineFontTooSmall, QLatin1StringView("spine-font-too-small"), RVCatalogueSeverity::Warning,
+    { RVCatalogueRuleId::SpineFontTooSmall, RVCatalogueSeverity::Warning, QLatin1StringView("spine-font-too-small"),
       QT_TRANSLATE_NOOP("RVFindingText", "Where the spine shrinks until the smallest font no longer fits, its text is cut off."),
       R"(<products>
   <product type="DUN9" article_id="1001" page_binding="glue" pages="26" max_pages="154" page_step="4">
@@ -200,7 +200,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
   </product>
 </products>
 )" },
-    { RVCatalogueRuleId::OptionIncomplete, QLatin1StringView("option-incomplete"), RVCatalogueSeverity::Error,
+    { RVCatalogueRuleId::OptionIncomplete, RVCatalogueSeverity::Error, QLatin1StringView("option-incomplete"),
       QT_TRANSLATE_NOOP("RVFindingText", "An option without key or value is dropped, so the customer is never offered it."),
       R"(<products>
   <product type="DUN9" article_id="1001">
@@ -210,7 +210,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
   </product>
 </products>
 )" },
-    { RVCatalogueRuleId::OptionDuplicate, QLatin1StringView("option-duplicate"), RVCatalogueSeverity::Error,
+    { RVCatalogueRuleId::OptionDuplicate, RVCatalogueSeverity::Error, QLatin1StringView("option-duplicate"),
       QT_TRANSLATE_NOOP("RVFindingText", "The customer is offered the same choice twice, and only the first has a price."),
       R"(<products>
   <product type="DUN9" article_id="1001">
@@ -221,7 +221,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
   </product>
 </products>
 )" },
-    { RVCatalogueRuleId::OptionDefaultTwice, QLatin1StringView("option-default-twice"), RVCatalogueSeverity::Error,
+    { RVCatalogueRuleId::OptionDefaultTwice, RVCatalogueSeverity::Error, QLatin1StringView("option-default-twice"),
       QT_TRANSLATE_NOOP("RVFindingText", "Of several defaults of one key the last one silently wins."),
       R"(<products>
   <product type="DUN9" article_id="1001">
@@ -232,7 +232,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
   </product>
 </products>
 )" },
-    { RVCatalogueRuleId::OptionDefaultMissing, QLatin1StringView("option-default-missing"), RVCatalogueSeverity::Warning,
+    { RVCatalogueRuleId::OptionDefaultMissing, RVCatalogueSeverity::Warning, QLatin1StringView("option-default-missing"),
       QT_TRANSLATE_NOOP("RVFindingText", "Without a default an order comes without the option, or with whichever stands first."),
       R"(<products>
   <product type="DUN9" article_id="1001">
@@ -243,7 +243,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
   </product>
 </products>
 )" },
-    { RVCatalogueRuleId::OptionColorInvalid, QLatin1StringView("option-color-invalid"), RVCatalogueSeverity::Warning,
+    { RVCatalogueRuleId::OptionColorInvalid, RVCatalogueSeverity::Warning, QLatin1StringView("option-color-invalid"),
       QT_TRANSLATE_NOOP("RVFindingText", "The editor shows no swatch for a colour that it cannot read."),
       R"(<products>
   <product type="DUN9" article_id="1001">
@@ -253,7 +253,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
   </product>
 </products>
 )" },
-    { RVCatalogueRuleId::OptionCompositeMismatch, QLatin1StringView("option-composite-mismatch"), RVCatalogueSeverity::Error,
+    { RVCatalogueRuleId::OptionCompositeMismatch, RVCatalogueSeverity::Error, QLatin1StringView("option-composite-mismatch"),
       QT_TRANSLATE_NOOP("RVFindingText", "Keys that are chosen together need one value each, or production gets none of them."),
       R"(<products>
   <product type="DUN9" article_id="1001">
@@ -263,7 +263,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
   </product>
 </products>
 )" },
-    { RVCatalogueRuleId::BarcodeInvalid, QLatin1StringView("barcode-invalid"), RVCatalogueSeverity::Error,
+    { RVCatalogueRuleId::BarcodeInvalid, RVCatalogueSeverity::Error, QLatin1StringView("barcode-invalid"),
       QT_TRANSLATE_NOOP("RVFindingText", "A barcode without extent or image is dropped, and production cannot tell the product."),
       R"(<products>
   <product type="DUN9" article_id="1001">
@@ -273,7 +273,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
   </product>
 </products>
 )" },
-    { RVCatalogueRuleId::BarcodePageImpossible, QLatin1StringView("barcode-page-impossible"), RVCatalogueSeverity::Error,
+    { RVCatalogueRuleId::BarcodePageImpossible, RVCatalogueSeverity::Error, QLatin1StringView("barcode-page-impossible"),
       QT_TRANSLATE_NOOP("RVFindingText", "A barcode on a page that the product cannot have is never printed."),
       R"(<products>
   <product type="DUN9" article_id="1001" pages="26">
@@ -283,7 +283,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
   </product>
 </products>
 )" },
-    { RVCatalogueRuleId::BarcodeOutsidePage, QLatin1StringView("barcode-outside-page"), RVCatalogueSeverity::Error,
+    { RVCatalogueRuleId::BarcodeOutsidePage, RVCatalogueSeverity::Error, QLatin1StringView("barcode-outside-page"),
       QT_TRANSLATE_NOOP("RVFindingText", "A barcode that leaves its page is cut off and cannot be read."),
       R"(<products>
   <product type="DUN9" article_id="1001">
@@ -293,7 +293,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
   </product>
 </products>
 )" },
-    { RVCatalogueRuleId::BarcodeOverlap, QLatin1StringView("barcode-overlap"), RVCatalogueSeverity::Error,
+    { RVCatalogueRuleId::BarcodeOverlap, RVCatalogueSeverity::Error, QLatin1StringView("barcode-overlap"),
       QT_TRANSLATE_NOOP("RVFindingText", "Barcodes that overlap cannot be read."),
       R"(<products>
   <product type="DUN9" article_id="1001">
@@ -304,7 +304,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
   </product>
 </products>
 )" },
-    { RVCatalogueRuleId::PriceClassUnknown, QLatin1StringView("price-class-unknown"), RVCatalogueSeverity::Warning,
+    { RVCatalogueRuleId::PriceClassUnknown, RVCatalogueSeverity::Warning, QLatin1StringView("price-class-unknown"),
       QT_TRANSLATE_NOOP("RVFindingText", "An add-on whose price class belongs to no known group is not counted where add-ons are billed."),
       R"(<products>
   <product type="DUN9" article_id="1001" page_price_class="RODA"/>

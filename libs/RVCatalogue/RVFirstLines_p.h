@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <limits>
 #include <vector>
 
 /**
@@ -46,7 +47,7 @@ public:
     }
 
 private:
-    static constexpr std::size_t WORDS = sizeof(KEY) / sizeof(quint32);
+    static constexpr std::size_t WORDS = std::numeric_limits<KEY>::digits / 32;
     static constexpr int BUCKET_BITS = 12;
     static constexpr std::size_t BUCKETS = std::size_t(1) << BUCKET_BITS;
 

@@ -20,12 +20,11 @@ bool isSwapped(QStringView a, qsizetype i, QStringView b, qsizetype j)
 
 int distanceBetween(QStringView a, QStringView b)
 {
-    Row beforeLast = {};
     Row last = {};
     Row row = {};
     std::iota(row.begin(), row.end(), 0);
     for (qsizetype i = 1; i <= a.size(); ++i) {
-        beforeLast = std::exchange(last, row);
+        const Row beforeLast = std::exchange(last, row);
         row[0] = int(i);
         for (qsizetype j = 1; j <= b.size(); ++j) {
             const auto at = std::size_t(j);

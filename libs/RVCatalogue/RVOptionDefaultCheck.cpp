@@ -54,7 +54,7 @@ template<typename Visitor>
 void visitCounting(Iterator begin, Iterator end, Visitor visit)
 {
     const RVCheckedOption *previous = nullptr;
-    for (auto it = begin; it != end; ++it) {
+    for (Iterator it = begin; it != end; ++it) {
         if (!counts(**it))
             continue;
         visit(*it, previous && previous->value == (*it)->value);
@@ -93,9 +93,9 @@ void RVOptionDefaultCheck::check(const RVCheckedOptions &options, const RVOption
     const bool canTell = isCertain(options);
     const bool hasDefaults = hasPreselected(byKey);
     const QVarLengthArray<qsizetype, 4> meantForOthers = mismatches(options);
-    for (auto begin = byKey.begin(); begin != byKey.end();) {
-        const auto end = std::find_if(begin, byKey.end(),
-                                      [begin](const RVCheckedOption *option) { return option->key != (*begin)->key; });
+    for (Iterator begin = byKey.begin(); begin != byKey.end();) {
+        Iterator end = std::find_if(begin, byKey.end(),
+                                    [begin](const RVCheckedOption *option) { return option->key != (*begin)->key; });
         const Key key(begin, end);
         begin = end;
         if (key.preselectedToo)
