@@ -73,6 +73,11 @@ QStringList RVCatalogueElement::attributeNames() const
     return result;
 }
 
+RVFilePosition RVCatalogueElement::position() const
+{
+    return d ? d->rows.elements[myIndex].position : RVFilePosition();
+}
+
 RVFileRange RVCatalogueElement::range() const
 {
     if (!d)

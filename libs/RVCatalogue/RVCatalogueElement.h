@@ -39,8 +39,8 @@ public:
     /// In the order of the file.
     QStringList attributeNames() const;
 
-    /// The start tag, from "<" to ">".
-    RVFileRange range() const;
+    RVFilePosition position() const; ///< Of the "<" of the start tag.
+    RVFileRange range() const; ///< The start tag, from "<" to ">".
     /// The attribute from the first letter of its name to the quote behind its value; the start tag where it is
     /// missing.
     RVFileRange attributeRange(QLatin1StringView name) const;

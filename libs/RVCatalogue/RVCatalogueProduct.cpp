@@ -53,6 +53,23 @@ RVConfiguredArticleVariant option(const RVCatalogueElement &form)
             rvBoolValue(form, "not_accountable"_L1).value_or(false)));
 }
 
+RVPageCountOrganization usualCounts(const RVCatalogueElement &product)
+{
+    const int pages = rvIntValue(product, "pages"_L1).value_or(1);
+    const RVIntRange range(pages, rvIntValue(product, "max_pages"_L1).value_or(pages));
+    return RVPageCountOrganization(range.stretched(rvIntValue(product, "pieces"_L1).value_or(1)),
+                                   rvIntValue(product, "page_step"_L1).value_or(0));
+}
+
+RVPageCountOrganization pictureBoxCounts(const RVCatalogueElement &product)
+{
+    constexpr int usualExtraPages = 29;
+    const int pages = rvIntValue(product, "pages"_L1).value_or(1);
+    const RVIntRange usual = RVIntRange(pages, pages).shifted(usualExtraPages);
+    return RVPageCountOrganization(RVIntRange(pages, rvIntValue(product, "max_pages"_L1).value_or(usual.max)),
+                                   rvIntValue(product, "page_step"_L1).value_or(1));
+}
+
 RVCatalogueElement firstForm(const RVCatalogueElement &product)
 {
     return product.firstChildElement("forms"_L1).firstChildElement("form"_L1);
@@ -128,22 +145,17 @@ RVShippingGroupId RVCatalogueProduct::shippingGroup() const
 RVPageCountOrganization RVCatalogueProduct::pageCounts() const
 {
     const RVCatalogueElement product = element();
-    const int pages = rvIntValue(product, "pages"_L1).value_or(1);
     const bool isBox = rvBoolValue(product, "photo_box"_L1).value_or(false);
-    const int usualHighest = isBox ? RVIntRange(pages, pages).shifted(29).max : pages;
-    const RVIntRange range(pages, rvIntValue(product, "max_pages"_L1).value_or(usualHighest));
-    const int step = rvIntValue(product, "page_step"_L1).value_or(isBox ? 1 : 0);
-    if (isBox)
-        return RVPageCountOrganization(range, step);
-    return RVPageCountOrganization(range.stretched(rvIntValue(product, "pieces"_L1).value_or(1)), step);
+    return isBox ? pictureBoxCounts(product) : usualCounts(product);
 }
 
+// The page counts of a box do not count here, as a box has no spine.
 RVSpineConfig RVCatalogueProduct::spine() const
 {
     const RVCatalogueElement composition = element().firstChildElement("composition"_L1);
     const RVCatalogueElement spine = composition.firstChildElement("spine"_L1);
     const RVDistanceUnit spineUnit = unit(composition);
-    return RVSpineConfig(pageCounts(), rvIntValue(spine, "packages_per_block"_L1).value_or(0),
+    return RVSpineConfig(usualCounts(element()), rvIntValue(spine, "packages_per_block"_L1).value_or(0),
                          length(spine, "base_width"_L1, 0, spineUnit), length(spine, "block_width"_L1, 0, spineUnit),
                          length(spine, "additional_width"_L1, 0, spineUnit));
 }

@@ -23,7 +23,7 @@ QString typeText(const QString &type, const QString &family, quint32 line)
 QList<RVCatalogueFinding> RVDuplicates::findings(const RVCatalogueProduct &product)
 {
     RVFindingReport report(myCheck, product.number());
-    const auto line = quint32(product.element().range().begin.line);
+    const auto line = quint32(product.element().position().line);
     checkType(product, line, &report);
     checkArticleId(product, line, &report);
     return report.sorted();

@@ -30,5 +30,5 @@ QList<RVCatalogueFinding> RVFindingReport::sorted() const
 
 QString rvLineOf(const RVCatalogueElement &element)
 {
-    return QString::number(element.range().begin.line);
+    return QString::number(element.position().line);
 }

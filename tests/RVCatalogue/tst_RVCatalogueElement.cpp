@@ -90,6 +90,7 @@ void tst_RVCatalogueElement::nullElement()
     QVERIFY(none.firstChildElement().isNull());
     QVERIFY(none.nextSiblingElement().isNull());
     QVERIFY(none.range() == RVFileRange());
+    QVERIFY(none.position() == RVFilePosition());
     QVERIFY(none.attributeRange("a"_L1) == RVFileRange());
     QVERIFY(productOf("<p/>").element().isNull());
 }
@@ -147,6 +148,7 @@ void tst_RVCatalogueElement::placesOfElements()
             "<p>\n <product>\r\n  <forms>x<form/><form\n a='1\n2'/><!-- \n --><form/>\n"
             "<![CDATA[y]]><form a='&lt;&#228;\xc3\xa4'/><form></form></forms></product></p>");
     QCOMPARE(text(product.element().range()), u"2:2-2:11"_s);
+    QVERIFY(product.element().position() == product.element().range().begin);
     const RVCatalogueElement forms = product.element().firstChildElement();
     QStringList places = { text(forms.range()) };
     for (RVCatalogueElement form = forms.firstChildElement(); !form.isNull(); form = form.nextSiblingElement())

@@ -228,9 +228,7 @@ void tst_RVCatalogueProduct::asTheReadersGive()
         QCOMPARE(product.pageCounts().dump(), pageCounts(element).dump());
         QCOMPARE(product.priceClass().toString(), element.attribute(u"price_class"_s));
         QCOMPARE(product.pagePriceClass().toString(), element.attribute(u"page_price_class"_s));
-        // The reader of spines does not know of boxes.
-        if (!RVXMLParser::boolAttribute(element, u"photo_box"_s, false))
-            QVERIFY(product.spine() == RVSpineConfig::createFromProductsXML(element));
+        QVERIFY(product.spine() == RVSpineConfig::createFromProductsXML(element));
     });
 }
 
