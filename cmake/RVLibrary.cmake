@@ -5,10 +5,14 @@ if(RV_INSTALL)
     include(GNUInstallDirs)
 endif()
 
-# rv_add_shared_library(RVName SOURCES... HEADERS...)
-# Makes the shared library libRVName.so with the export macro of RVNameExport.h; the target is RV::Name.
+# rv_add_shared_library(RVName SOURCES... HEADERS... LOCAL_SYMBOLS map)
+# Makes the shared library libRVName.so with the export macro of RVNameExport.h; the target is RV::Name. The map tells the
+# linker what is nobody's interface.
 function(rv_add_shared_library name)
-    cmake_parse_arguments(arg "" "" "SOURCES;HEADERS" ${ARGN})
+    cmake_parse_arguments(arg "" "LOCAL_SYMBOLS" "SOURCES;HEADERS" ${ARGN})
+    if(NOT arg_LOCAL_SYMBOLS)
+        set(arg_LOCAL_SYMBOLS ${PROJECT_SOURCE_DIR}/cmake/local_symbols.map)
+    endif()
     string(REGEX REPLACE "^RV" "" short_name ${name})
     string(TOUPPER ${name}_LIBRARY build_macro)
 
@@ -22,8 +26,8 @@ function(rv_add_shared_library name)
     target_compile_definitions(${name} PRIVATE ${build_macro})
     target_compile_features(${name} PUBLIC cxx_std_17)
     if(UNIX AND NOT APPLE)
-        target_link_options(${name} PRIVATE LINKER:--version-script=${PROJECT_SOURCE_DIR}/cmake/local_symbols.map)
-        set_property(TARGET ${name} APPEND PROPERTY LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/local_symbols.map)
+        target_link_options(${name} PRIVATE LINKER:--version-script=${arg_LOCAL_SYMBOLS})
+        set_property(TARGET ${name} APPEND PROPERTY LINK_DEPENDS ${arg_LOCAL_SYMBOLS})
     endif()
     rv_add_headers(${name} PUBLIC ${arg_HEADERS})
 endfunction()
