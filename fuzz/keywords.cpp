@@ -2,20 +2,19 @@
 #include "Input.h"
 #include "Properties.h"
 
-#include <CatalogueAttribute.h>
 #include <RVAngle.h>
 #include <RVArticleClass.h>
 #include <RVArticleClassList.h>
+#include <RVCatalogueAttribute.h>
+#include <RVCatalogueAttributes.h>
 #include <RVCoverType.h>
 #include <RVDlpType.h>
 #include <RVFotoPaperType.h>
-#include <RVMaterialType.h>
 #include <RVOrientation.h>
 #include <RVPageAlignment.h>
 #include <RVPageBinding.h>
 #include <RVPageType.h>
 #include <RVPaperType.h>
-#include <RVProductArrangement.h>
 #include <RVShippingGroupId.h>
 #include <RVSpaceMagnitude.h>
 #include <RVSpotColor.h>
@@ -25,6 +24,8 @@
 #include <QVariant>
 
 #include <algorithm>
+#include <array>
+#include <tuple>
 #include <type_traits>
 
 using namespace Qt::StringLiterals;
@@ -303,21 +304,19 @@ void checkAttribute(Input &input)
     checkSetOperations(T(text), bits);
 }
 
-void checkCatalogueAttribute(const CatalogueAttribute &attribute, const QString &text)
+void checkDecoding(const RVCatalogueAttribute &attribute, const QString &text)
 {
-    const AttributeDecoding decoding = attribute.decode(text);
+    const RVCatalogueAttributeDecoding decoding = attribute.decode(text);
     CHECK(decoding.unknownPieces.size() <= text.count(u',') + 1);
     for (const QString &piece : decoding.unknownPieces)
         CHECK_EQUAL(attribute.decode(piece).unknownPieces, QStringList { piece });
 }
 
-constexpr void (*ATTRIBUTES[])(Input &) = {
-    checkAttribute<RVArticleClass>,   checkAttribute<RVCoverType>,          checkAttribute<RVPageBinding>,
-    checkAttribute<RVPaperType>,      checkAttribute<RVFotoPaperType>,      checkAttribute<RVOrientation>,
-    checkAttribute<RVSpaceMagnitude>, checkAttribute<RVPageType>,           checkAttribute<RVPageAlignment>,
-    checkAttribute<RVMaterialType>,   checkAttribute<RVProductArrangement>, checkAttribute<RVDlpType>,
-    checkAttribute<RVSpotColor>,
-};
+constexpr auto CHECKS = std::apply(
+        [](const auto &...rows) {
+            return std::array { checkAttribute<typename std::decay_t<decltype(rows)>::Class>... };
+        },
+        RV_CATALOGUE_ATTRIBUTES);
 
 }
 
@@ -325,10 +324,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
 {
     if (size == 0)
         return 0;
-    const std::size_t choice = data[0] % std::size(ATTRIBUTES);
+    const std::size_t choice = data[0] % CHECKS.size();
     Input input(data + 1, size - 1);
-    ATTRIBUTES[choice](input);
+    CHECKS[choice](input);
     Input again(data + 1, size - 1);
-    checkCatalogueAttribute(catalogueAttributes().at(qsizetype(choice)), again.text());
+    checkDecoding(RVCatalogueAttribute::all().at(qsizetype(choice)), again.text());
     return 0;
 }

@@ -1,25 +1,17 @@
 // Eight threads at a common starting line, each time at something that no thread has used before.
+#include <RVCatalogue/RVCatalogueAttributes.h>
 #include <RVCore/RVDirectoryConfig.h>
 #include <RVCore/RVFontCreator.h>
 #include <RVCore/RVFontSizeManager.h>
-#include <RVCore/RVSpotColor.h>
-#include <RVProductBase/RVArticleClass.h>
 #include <RVProductBase/RVArticleVariants.h>
 #include <RVProductBase/RVConfiguredArticleVariant.h>
 #include <RVProductBase/RVCoverType.h>
-#include <RVProductBase/RVDlpType.h>
-#include <RVProductBase/RVFotoPaperType.h>
 #include <RVProductBase/RVMargins.h>
-#include <RVProductBase/RVMaterialType.h>
-#include <RVProductBase/RVOrientation.h>
-#include <RVProductBase/RVPageAlignment.h>
 #include <RVProductBase/RVPageBinding.h>
 #include <RVProductBase/RVPageOrganizationCalculator.h>
 #include <RVProductBase/RVPageOrganizationManager.h>
-#include <RVProductBase/RVPageType.h>
 #include <RVProductBase/RVPaperType.h>
 #include <RVProductBase/RVPriceClassSet.h>
-#include <RVProductBase/RVProductArrangement.h>
 #include <RVProductBase/RVProductCheckerRegistry.h>
 #include <RVProductBase/RVSpaceMagnitude.h>
 #include <RVProductBase/RVSpineConfig.h>
@@ -27,11 +19,14 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
 #include <atomic>
 #include <functional>
 #include <memory>
 #include <thread>
+#include <tuple>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -71,6 +66,23 @@ bool allGet(Function function, const Expected &expected)
         }
     }
     return true;
+}
+
+/// What a thread sees of the keyword table of an attribute.
+template<typename Attribute>
+auto tableOf()
+{
+    const Attribute attribute;
+    return std::pair { attribute.enumToStringTable(), attribute.allKnownKeywords() };
+}
+
+template<typename Attribute>
+bool allGetTheTable()
+{
+    const auto seen = atOnce(tableOf<Attribute>);
+    const auto table = tableOf<Attribute>();
+    return !table.second.isEmpty()
+            && std::all_of(seen.begin(), seen.end(), [&](const auto &each) { return each == table; });
 }
 
 struct TextCase
@@ -130,9 +142,10 @@ class tst_concurrency : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void keywordTables_data();
+    void keywordTables();
     void texts_data();
     void texts();
-    void keywordTables();
     void priceClassSets_data();
     void priceClassSets();
     void designPriceClasses();
@@ -145,24 +158,30 @@ private Q_SLOTS:
     void sharedValues();
 };
 
-// The first rows use a keyword table each, the others a table of names, of previews, of separators.
+// No thread has used a table before, so the rows come first.
+void tst_concurrency::keywordTables_data()
+{
+    using Check = bool (*)();
+    QTest::addColumn<Check>("allGetTheTable");
+    const auto add = [](const auto &row) {
+        using Attribute = typename std::decay_t<decltype(row)>::Class;
+        QTest::newRow(row.name.data()) << Check(allGetTheTable<Attribute>);
+    };
+    std::apply([&](const auto &...rows) { (add(rows), ...); }, RV_CATALOGUE_ATTRIBUTES);
+}
+
+void tst_concurrency::keywordTables()
+{
+    using Check = bool (*)();
+    QFETCH(const Check, allGetTheTable);
+    QVERIFY(allGetTheTable());
+}
+
+// Each row uses a table of names, of previews or of separators.
 void tst_concurrency::texts_data()
 {
     QTest::addColumn<TextCase>("tested");
     const TextCase cases[] = {
-        { "article class", u"deko"_s, [] { return RVArticleClass(u"POSTER"_s).encode(); } },
-        { "cover type", u"HARDCOVER"_s, [] { return RVCoverType(u"hard"_s).encode(); } },
-        { "downloadable content", u"clipart, mask"_s, [] { return RVDlpType(u"mask,clipart"_s).encodeCSV(); } },
-        { "photo paper", u"2"_s, [] { return RVFotoPaperType(u"matt"_s).encode(); } },
-        { "material", u"notebook"_s, [] { return RVMaterialType(u"notebook"_s).encode(); } },
-        { "orientation", u"landscape"_s, [] { return RVOrientation(u"landscape_large"_s).encode(); } },
-        { "page alignment", u"left"_s, [] { return RVPageAlignment(u"coverpage"_s).encode(); } },
-        { "page binding", u"layflat"_s, [] { return RVPageBinding(u"lay_flat"_s).encode(); } },
-        { "page type", u"PanoramaPages"_s, [] { return RVPageType(u"panoramapages"_s).encode(); } },
-        { "paper", u"indigo"_s, [] { return RVPaperType(u"no such paper"_s).encode(); } },
-        { "arrangement", u"gift"_s, [] { return RVProductArrangement(u"gift"_s).encode(); } },
-        { "size class", u"600cm2"_s, [] { return RVSpaceMagnitude(u"a4"_s).encode(); } },
-        { "spot colour", u"silver_ink"_s, [] { return RVSpotColor(u"silver_ink"_s).encode(); } },
         { "names of covers", u"Leder"_s, [] { return RVCoverType(LEATHER).humanReadableName(); } },
         { "tool tips of covers", u"Individuell gestaltbarer flexibler Einband mit Rückstichbindung."_s,
           [] { return RVCoverType(BOOKLET).toolTip(); } },
@@ -183,13 +202,6 @@ void tst_concurrency::texts()
 {
     QFETCH(TextCase, tested);
     QVERIFY(allGet(tested.ask, tested.expected));
-}
-
-void tst_concurrency::keywordTables()
-{
-    const auto *table = RVCoverType().enumToStringTable();
-    QVERIFY(allGet([] { return RVCoverType().enumToStringTable(); }, table));
-    QVERIFY(allGet([] { return RVCoverType().allKnownKeywords().size(); }, 39));
 }
 
 void tst_concurrency::priceClassSets_data()

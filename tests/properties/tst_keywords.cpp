@@ -1,23 +1,14 @@
 // The quick look-ups of keyword tables give what the rules of the tables say, letter by letter and whatever the text.
 #include "RandomText.h"
 
-#include <RVCore/RVSpotColor.h>
-#include <RVProductBase/RVArticleClass.h>
-#include <RVProductBase/RVCoverType.h>
-#include <RVProductBase/RVDlpType.h>
-#include <RVProductBase/RVFotoPaperType.h>
-#include <RVProductBase/RVMaterialType.h>
-#include <RVProductBase/RVOrientation.h>
-#include <RVProductBase/RVPageAlignment.h>
-#include <RVProductBase/RVPageBinding.h>
-#include <RVProductBase/RVPageType.h>
-#include <RVProductBase/RVPaperType.h>
-#include <RVProductBase/RVProductArrangement.h>
-#include <RVProductBase/RVSpaceMagnitude.h>
+#include <RVCatalogue/RVCatalogueAttributes.h>
 #include <RVTemplateClasses/RVEnumToStringTable.h>
 
 #include <QHash>
 #include <QTest>
+
+#include <tuple>
+#include <type_traits>
 
 using namespace Qt::StringLiterals;
 
@@ -277,19 +268,11 @@ void tst_keywords::attributes_data()
 {
     using Comparison = void (*)();
     QTest::addColumn<Comparison>("compare");
-    QTest::newRow("RVArticleClass") << Comparison(compareAttribute<RVArticleClass>);
-    QTest::newRow("RVCoverType") << Comparison(compareAttribute<RVCoverType>);
-    QTest::newRow("RVDlpType") << Comparison(compareAttribute<RVDlpType>);
-    QTest::newRow("RVFotoPaperType") << Comparison(compareAttribute<RVFotoPaperType>);
-    QTest::newRow("RVMaterialType") << Comparison(compareAttribute<RVMaterialType>);
-    QTest::newRow("RVOrientation") << Comparison(compareAttribute<RVOrientation>);
-    QTest::newRow("RVPageAlignment") << Comparison(compareAttribute<RVPageAlignment>);
-    QTest::newRow("RVPageBinding") << Comparison(compareAttribute<RVPageBinding>);
-    QTest::newRow("RVPageType") << Comparison(compareAttribute<RVPageType>);
-    QTest::newRow("RVPaperType") << Comparison(compareAttribute<RVPaperType>);
-    QTest::newRow("RVProductArrangement") << Comparison(compareAttribute<RVProductArrangement>);
-    QTest::newRow("RVSpaceMagnitude") << Comparison(compareAttribute<RVSpaceMagnitude>);
-    QTest::newRow("RVSpotColor") << Comparison(compareAttribute<RVSpotColor>);
+    const auto add = [](const auto &row) {
+        using Attribute = typename std::decay_t<decltype(row)>::Class;
+        QTest::newRow(row.name.data()) << Comparison(compareAttribute<Attribute>);
+    };
+    std::apply([&](const auto &...rows) { (add(rows), ...); }, RV_CATALOGUE_ATTRIBUTES);
 }
 
 void tst_keywords::attributes()
