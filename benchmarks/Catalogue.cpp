@@ -27,12 +27,14 @@ QString formXml(int product, int form)
                         form % 5 == 0 ? u"true"_s : u"false"_s);
 }
 
-QString barcodeXml(int product, int page)
+QString barcodeXml(int product, int page, const QString &unit)
 {
-    return uR"(        <barcode position_x="%1" position_y="%2.5" width="%3" height="10" pageNr="%4" image="code%5.png"/>)"
-           "\n"_s.arg(10 + product % 30)
-                   .arg(200 + product % 90)
-                   .arg(30 + product % 11)
+    const int millimetres = unit == "cm"_L1 ? 10 : 1;
+    return uR"(        <barcode position_x="%1" position_y="%2.5" width="%3" height="%4" pageNr="%5" image="code%6.png"/>)"
+           "\n"_s.arg((10 + product % 30) / millimetres)
+                   .arg((100 + product % 90) / millimetres)
+                   .arg((30 + product % 11) / millimetres)
+                   .arg(10 / millimetres)
                    .arg(page)
                    .arg(product % 4);
 }
@@ -45,14 +47,15 @@ QByteArray productXml(int number, int forms)
     const int step = 2 + number % 3 * 2;
     QString result =
             uR"(    <product type="DUN%1_30" article_id="%2" name="Fotobuch Groß %1" article_class="book" cover_type="HARDCOVER" page_binding="glue" paper_type="%3" orientation="%4" space_magnitude="600cm2" shipping_group="2" price_class="PXB%1" pieces="1" pages="%5" max_pages="%6" page_step="%7">)"
-            "\n"_s.arg(number % 90 + 1)
+            "\n"_s.arg(number + 1)
                     .arg(1000 + number)
                     .arg(pick(PAPERS, number), pick(ORIENTATIONS, number))
                     .arg(lowest)
                     .arg(lowest + step * (20 + number % 13))
                     .arg(step);
-    result += u"      <barcodes units=\"%1\">\n"_s.arg(pick(UNITS, number / 2));
-    result += barcodeXml(number, 1) + barcodeXml(number + 5, 2) + u"      </barcodes>\n"_s;
+    const QString unit = pick(UNITS, number / 2);
+    result += u"      <barcodes units=\"%1\">\n"_s.arg(unit);
+    result += barcodeXml(number, 1, unit) + barcodeXml(number + 5, 2, unit) + u"      </barcodes>\n"_s;
     result +=
             uR"(      <composition units="%1"><spine packages_per_block="%2" base_width="%3.5" block_width="0.%4" additional_width="0.25"/></composition>)"
             "\n"_s.arg(pick(UNITS, number))

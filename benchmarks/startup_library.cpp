@@ -1,6 +1,7 @@
 // Loads the library and uses every table once: keywords, names, groups of price classes, patterns, the services.
 #include <RVArticleClass.h>
 #include <RVArticleVariants.h>
+#include <RVCatalogueAttributes.h>
 #include <RVConfiguredArticleVariant.h>
 #include <RVCoverType.h>
 #include <RVDirectoryConfig.h>
@@ -8,30 +9,32 @@
 #include <RVFontCreator.h>
 #include <RVFontSizeManager.h>
 #include <RVFotoPaperType.h>
-#include <RVMaterialType.h>
 #include <RVOrientation.h>
 #include <RVPageAlignment.h>
 #include <RVPageBinding.h>
 #include <RVPageOrganizationManager.h>
-#include <RVPageType.h>
 #include <RVPaperType.h>
 #include <RVPriceClassSet.h>
-#include <RVProductArrangement.h>
 #include <RVProductCheckerRegistry.h>
 #include <RVProductType.h>
 #include <RVSpaceMagnitude.h>
-#include <RVSpotColor.h>
 
 #include <QCoreApplication>
+
+#include <tuple>
+#include <type_traits>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-template<typename... Attributes>
 void useKeywords()
 {
-    (..., static_cast<void>(Attributes(u"none"_s).encode()));
+    const auto use = [](const auto &row) {
+        using Attribute = typename std::decay_t<decltype(row)>::Class;
+        static_cast<void>(Attribute(u"none"_s).encode());
+    };
+    std::apply([&](const auto &...rows) { (use(rows), ...); }, RV_CATALOGUE_ATTRIBUTES);
 }
 
 void useNames()
@@ -86,8 +89,7 @@ void useServices()
 int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
-    useKeywords<RVArticleClass, RVCoverType, RVDlpType, RVFotoPaperType, RVMaterialType, RVOrientation, RVPageAlignment,
-                RVPageBinding, RVPageType, RVPaperType, RVProductArrangement, RVSpaceMagnitude, RVSpotColor>();
+    useKeywords();
     useNames();
     usePriceClasses();
     RVArticleVariants::createFromKTX(u"alcolor:red"_s);
