@@ -14,12 +14,12 @@ import statistics
 import subprocess
 import sys
 
-PROGRAMS = ["keywords", "bits", "variants", "producttype", "services", "xml", "priceclasses", "threads", "complexity",
-            "catalogue"]
+PROGRAMS = ["keywords", "bits", "variants", "producttype", "services", "xml", "priceclasses", "reader", "threads",
+            "complexity", "catalogue", "memory"]
 SEEDS = {"seed 0": "0", "own seed": None}
 # How often a program runs with each seed, how many repetitions that is, and for how many seconds each.
 USUAL_ROUNDS = (3, 5, 0.05)
-ROUNDS = {"complexity": (1, 3, 0.02), "catalogue": (1, 3, 1), "threads": (3, 3, 0.1)}
+ROUNDS = {"complexity": (1, 3, 0.02), "catalogue": (1, 5, 1), "memory": (1, 1, 1), "threads": (3, 3, 0.1)}
 
 # name, operation and peer, benchmark of ours, of the peer, highest ratio, most allocations (None: any number)
 TIMES = [
@@ -50,10 +50,22 @@ TIMES = [
      0.3, None),
     ("price-class-set", "a named price class set; QSet from literals", "price_class_set/ours",
      "price_class_set/literals", 0.04, None),
+    ("reader", "RVCatalogueReader, 1,000 products; libxml2 alone", "reader/ours", "reader/libxml2", 2.0, None),
     ("catalogue-time", "rvcatalog show --json, 20,000 products; QDomDocument", "catalogue/ours", "catalogue/dom", 0.4,
      None),
 ]
+# name, operation and peer, benchmark of ours, of the peer, highest ratio of the processor time of both processes
+PROCESSES = [
+    ("catalogue-check", "rvcatalog check, processor; xmllint --schema", "check/ours", "check/xmllint", 0.8),
+    ("catalogue-show", "rvcatalog show --json, processor; xmllint", "catalogue/ours", "catalogue/xmllint", 3.0),
+    ("catalogue-typed", "every value of 20,000 products; readers of a QDomDocument", "typed/ours", "typed/readers", 0.25),
+    ("parse-qt", "a bare pass, libxml2; QXmlStreamReader", "parse/libxml2", "parse/qt", 0.5),
+    ("parse-expat", "a bare pass, libxml2; expat", "parse/libxml2", "parse/expat", 1.0),
+]
 MOST_MEMORY = 0.05  # peak of the catalogue program, against the peer's
+MOST_MEGABYTES = {"show": 40, "check": 56}  # of the catalogue program with a million products; 16 bytes each to check them
+MOST_PRODUCT_ALLOCATIONS = 4  # of the reader for one product, beside those of the parser
+PRODUCTS_READ = 1000  # by bench_reader
 LEAST_THROUGHPUT = 1.9  # of two threads, against one
 MOST_INSTRUCTIONS = 3.0  # millions, of loading the library and using every table
 
@@ -142,7 +154,10 @@ def medians_of(entries):
 
     first = entries[0]
     if "peak_megabytes" in first:  # a whole process, in milliseconds
-        return {"ns": median("real_time") * 1e6, "peak": median("peak_megabytes")}
+        result = {"ns": median("real_time") * 1e6, "peak": median("peak_megabytes")}
+        if "processor_milliseconds" in first:
+            result["processor_ns"] = median("processor_milliseconds") * 1e6
+        return result
     if "items_per_second" not in first:
         return {"ns": median("cpu_time")}
     result = {"ns": 1e9 / median("items_per_second"),
@@ -163,14 +178,33 @@ def time_rows(medians, name, operation, ours, peer, goal, most_allocations):
         yield Row(name + "-allocations", "… its allocations", allocations, most_allocations)
 
 
+def process_rows(medians):
+    for name, operation, ours, peer, goal in PROCESSES:
+        figures = [[medians[seed][side]["processor_ns"] for seed in SEEDS] for side in (ours, peer)]
+        yield Row(name, operation, [ns / figures[1][0] for ns in figures[0]], goal, *figures)
+    for command, goal in MOST_MEGABYTES.items():
+        yield Row(f"million-{command}", f"rvcatalog {command}, 1,000,000 products, peak memory in MB",
+                  [medians[seed][f"million/{command}"]["peak"] for seed in SEEDS], goal)
+
+
+def reader_row(medians):
+    ours, peer = ([medians[seed]["reader/" + side]["allocations"] / PRODUCTS_READ for seed in SEEDS]
+                  for side in ("ours", "libxml2"))
+    return Row("reader-allocations", "… its allocations for one product, without those of libxml2",
+               [a - b for a, b in zip(ours, peer)], MOST_PRODUCT_ALLOCATIONS, ours, peer)
+
+
 def make_rows(results):
     medians = {seed: result["medians"] for seed, result in results.items()}
     for row in TIMES:
         yield from time_rows(medians, *row)
+        if row[0] == "reader":
+            yield reader_row(medians)
     peaks = [[medians[seed]["catalogue/" + side]["peak"] for seed in SEEDS]
              for side in ("ours", "dom")]
     yield Row("catalogue-memory", "… its peak memory in MB", [peak / peaks[1][0] for peak in peaks[0]], MOST_MEMORY,
               *peaks)
+    yield from process_rows(medians)
     for name in ("decode", "encode", "normalise"):
         # The best repetition of each: whatever else runs takes a core away from two threads, but not from one.
         one, two = ([medians[seed][f"{name}/real_time/threads:{count}"]["best_ns"] for seed in SEEDS]

@@ -1,7 +1,8 @@
-// "rvcatalog show --json" as a whole process, against a program that loads the catalogue into one QDomDocument:
-// wall-clock time and peak memory.
+// One catalogue of 20,000 products, read by whole processes: "rvcatalog" and programs on the library beside xmllint,
+// beside QDomDocument and beside what bare passes of parsers cost.
 #include "Catalogue.h"
 #include "Comparison.h"
+#include "Process.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -11,19 +12,8 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
-#include <array>
-#include <chrono>
 #include <cmath>
-#include <iostream>
 #include <string>
-#include <tuple>
-
-#include <fcntl.h>
-#include <spawn.h>
-#include <sys/resource.h>
-#include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -32,52 +22,15 @@ namespace {
 constexpr int PRODUCTS = 20000;
 constexpr int FORMS = 6;
 
-using Command = std::array<std::string, 4>;
-
-[[noreturn]] void fail(const std::string &what)
-{
-    std::cerr << "bench_catalogue: " << what << '\n';
-    std::exit(EXIT_FAILURE);
-}
-
-struct Usage
-{
-    double seconds = 0;
-    double peakMegabytes = 0;
-};
-
-/// Runs a program whose output goes to a file. The peak of a process is never below that of the one that started it, so
-/// this one stays small.
-Usage run(Command command, const char *output = "/dev/null")
-{
-    std::array<char *, std::tuple_size_v<Command> + 1> arguments {};
-    std::transform(command.begin(), std::find(command.begin(), command.end(), ""), arguments.begin(),
-                   [](std::string &argument) { return argument.data(); });
-    posix_spawn_file_actions_t actions;
-    posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, output, O_WRONLY | O_CREAT | O_TRUNC, S_IRUSR | S_IWUSR);
-    const auto start = std::chrono::steady_clock::now();
-    pid_t child = 0;
-    int status = 0;
-    rusage usage {};
-    if (posix_spawn(&child, arguments[0], &actions, nullptr, arguments.data(), environ) != 0
-        || wait4(child, &status, 0, &usage) != child || status != 0)
-        fail(command[0] + " failed");
-    const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - start;
-    posix_spawn_file_actions_destroy(&actions);
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-union-access): that is how glibc declares it
-    return { elapsed.count(), double(usage.ru_maxrss) / 1024 };
-}
-
 /// What a program wrote, product by product.
 class Output
 {
 public:
     Output(const Command &command, const QString &fileName) : myFile(fileName)
     {
-        run(command, QFile::encodeName(fileName).constData());
+        runProcess(command, fileName);
         if (!myFile.open(QIODevice::ReadOnly))
-            fail("cannot read what " + command[0] + " wrote");
+            fail("cannot read what " + command.front() + " wrote");
     }
 
     /// The next product, empty at the end; what stands around the products is passed over.
@@ -96,6 +49,22 @@ public:
 private:
     QFile myFile;
 };
+
+/// Programs that print the same have read the same.
+void requireSameOutput(const QTemporaryDir &folder, const QList<Command> &commands)
+{
+    QByteArray expected;
+    for (const Command &command : commands) {
+        QFile file(folder.filePath(u"output"_s));
+        runProcess(command, file.fileName());
+        file.open(QIODevice::ReadOnly);
+        const QByteArray output = file.readAll();
+        if (output.isEmpty() || (!expected.isEmpty() && output != expected))
+            fail(command.front() + " printed \"" + output.toStdString() + "\" instead of \"" + expected.toStdString()
+                 + '"');
+        expected = output;
+    }
+}
 
 /// True when everything that the other program has read stands in ours, which knows more. Lengths may differ by
 /// rounding.
@@ -134,11 +103,12 @@ void add(const char *name, const Command &command)
 {
     benchmark::RegisterBenchmark(name,
                                  [command](benchmark::State &state) {
-                                     Usage usage;
+                                     ProcessUsage usage;
                                      for (auto _ : state) {
-                                         usage = run(command);
+                                         usage = runProcess(command);
                                          state.SetIterationTime(usage.seconds);
                                      }
+                                     state.counters["processor_milliseconds"] = usage.processorSeconds * 1000;
                                      state.counters["peak_megabytes"] = usage.peakMegabytes;
                                  })
             ->Iterations(1)
@@ -158,16 +128,52 @@ std::string writeCatalogue(const QTemporaryDir &folder)
     return file.fileName().toStdString();
 }
 
+void addShow(const QTemporaryDir &folder, const std::string &file)
+{
+    const Command ours { RVCATALOG, "show", "--json", file };
+    Output oursOutput(ours, folder.filePath(u"ours.json"_s));
+    Output theirsOutput({ CATALOGUE_DOM, file, "--json" }, folder.filePath(u"dom.json"_s));
+    requireSameProducts(oursOutput, theirsOutput);
+    add("catalogue/ours", ours);
+    add("catalogue/dom", { CATALOGUE_DOM, file });
+    add("catalogue/xmllint", { XMLLINT, "--stream", "--noout", file });
+}
+
+/// Neither finds anything.
+void addCheck(const std::string &file)
+{
+    add("check/ours", { RVCATALOG, "check", file });
+    add("check/xmllint", { XMLLINT, "--stream", "--noout", "--schema", SCHEMA, file });
+}
+
+void addTyped(const QTemporaryDir &folder, const std::string &file)
+{
+    const Command ours { CATALOGUE_TYPED, file };
+    const Command readers { CATALOGUE_READERS, file };
+    requireSameOutput(folder, { ours, readers });
+    add("typed/ours", ours);
+    add("typed/readers", readers);
+}
+
+void addParsers(const QTemporaryDir &folder, const std::string &file)
+{
+    const Command qt { CATALOGUE_PARSE, "qt", file };
+    const Command libxml2 { CATALOGUE_PARSE, "libxml2", file };
+    const Command expat { CATALOGUE_PARSE, "expat", file };
+    requireSameOutput(folder, { qt, libxml2, expat });
+    add("parse/qt", qt);
+    add("parse/libxml2", libxml2);
+    add("parse/expat", expat);
+}
+
 }
 
 void addBenchmarks()
 {
     static const QTemporaryDir folder;
     const std::string file = writeCatalogue(folder);
-    const Command ours { RVCATALOG, "show", "--json", file };
-    Output oursOutput(ours, folder.filePath(u"ours.json"_s));
-    Output theirsOutput({ CATALOGUE_DOM, file, "--json", "" }, folder.filePath(u"dom.json"_s));
-    requireSameProducts(oursOutput, theirsOutput);
-    add("catalogue/ours", ours);
-    add("catalogue/dom", { CATALOGUE_DOM, file, "", "" });
+    addShow(folder, file);
+    addCheck(file);
+    addTyped(folder, file);
+    addParsers(folder, file);
 }

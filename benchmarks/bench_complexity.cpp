@@ -2,16 +2,14 @@
 #include "Catalogue.h"
 #include "Comparison.h"
 
-#include <CatalogueProduct.h>
-#include <CatalogueReader.h>
 #include <RVArticleVariants.h>
 #include <RVBarcodeDefinitionList.h>
+#include <RVCatalogueReader.h>
 #include <RVConfiguredArticleVariantList.h>
 #include <RVPaperType.h>
 #include <RVProductTypeList.h>
 
 #include <QBuffer>
-#include <QDomElement>
 #include <QStringList>
 
 using namespace Qt::StringLiterals;
@@ -54,10 +52,10 @@ int readCatalogue(QByteArray catalogue)
 {
     QBuffer buffer(&catalogue);
     buffer.open(QIODevice::ReadOnly);
-    CatalogueReader reader(&buffer, u"product"_s);
+    RVCatalogueReader reader(&buffer);
     int options = 0;
-    for (QDomElement element = reader.next(); !element.isNull(); element = reader.next())
-        options += int(CatalogueProduct(element).options.size());
+    for (const RVCatalogueProduct &product : reader)
+        options += int(product.options().size());
     return options;
 }
 
