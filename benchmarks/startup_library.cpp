@@ -22,19 +22,16 @@
 #include <QCoreApplication>
 
 #include <tuple>
-#include <type_traits>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-void useKeywords()
+/// Takes nothing of the list but its classes, so the library of catalogues is not loaded.
+template<typename... Attributes>
+void useKeywords(const std::tuple<RVCatalogueAttributeRow<Attributes>...> *)
 {
-    const auto use = [](const auto &row) {
-        using Attribute = typename std::decay_t<decltype(row)>::Class;
-        static_cast<void>(Attribute(u"none"_s).encode());
-    };
-    std::apply([&](const auto &...rows) { (use(rows), ...); }, RV_CATALOGUE_ATTRIBUTES);
+    (static_cast<void>(Attributes(u"none"_s).encode()), ...);
 }
 
 void useNames()
@@ -89,7 +86,7 @@ void useServices()
 int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
-    useKeywords();
+    useKeywords(static_cast<decltype(&RV_CATALOGUE_ATTRIBUTES)>(nullptr));
     useNames();
     usePriceClasses();
     RVArticleVariants::createFromKTX(u"alcolor:red"_s);
