@@ -19,7 +19,6 @@ class tst_RVCatalogueAttributes : public QObject
 
 private Q_SLOTS:
     void everyClassOfTheLibraries();
-    void everyNameIsItsOwn();
     void schema();
     void format();
     void sample_data();
@@ -108,19 +107,13 @@ void tst_RVCatalogueAttributes::everyClassOfTheLibraries()
     QStringList expected = QStringLiteral(ATTRIBUTE_CLASSES).split(u',') + QStringList { u"RVSpotColor"_s };
     found.sort();
     expected.sort();
-    QCOMPARE(found, expected);
-}
-
-void tst_RVCatalogueAttributes::everyNameIsItsOwn()
-{
-    QStringList found = names(RVCatalogueAttribute::all());
-    QCOMPARE(found.removeDuplicates(), 0);
+    QCOMPARE(found.join(u' '), expected.join(u' '));
 }
 
 // An editor completes the keywords of every attribute.
 void tst_RVCatalogueAttributes::schema()
 {
-    QCOMPARE(keywordAttributesOfSchema(), names(RVCatalogueAttribute::ofProducts()));
+    QCOMPARE(keywordAttributesOfSchema().join(u' '), names(RVCatalogueAttribute::ofProducts()).join(u' '));
 }
 
 void tst_RVCatalogueAttributes::format()
@@ -129,7 +122,7 @@ void tst_RVCatalogueAttributes::format()
     QStringList expected = names(RVCatalogueAttribute::ofProducts());
     for (qsizetype i = 0; i < expected.size(); ++i)
         expected[i] += u' ' + classes.at(i);
-    QCOMPARE(keywordAttributesOfFormat(), expected);
+    QCOMPARE(keywordAttributesOfFormat().join(u'\n'), expected.join(u'\n'));
 }
 
 void tst_RVCatalogueAttributes::sample_data()
@@ -150,7 +143,7 @@ void tst_RVCatalogueAttributes::sample()
     QVERIFY2(!reader.hasError(), qPrintable(reader.errorString()));
     texts.removeAll(QString());
     QVERIFY(!texts.isEmpty());
-    QCOMPARE(attribute.decode(texts.join(u',')).unknownPieces, QStringList());
+    QCOMPARE(attribute.decode(texts.join(u',')).unknownPieces.join(u','), QString());
 }
 
 QTEST_GUILESS_MAIN(tst_RVCatalogueAttributes)
