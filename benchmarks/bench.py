@@ -171,7 +171,7 @@ def time_rows(medians, name, operation, ours, peer, goal, most_allocations):
     ours_ns = [medians[seed][ours]["ns"] for seed in SEEDS]
     peer_ns = [medians[seed][peer]["ns"] for seed in SEEDS]
     allocations = [medians[seed][ours].get("allocations") for seed in SEEDS]
-    text = "" if None in allocations else f"{max(allocations):.3g}"
+    text = "" if None in allocations else f"{max(allocations):.3g}" if max(allocations) < 1000 else f"{max(allocations):,.0f}"
     # Against the peer at its best, which is seed 0.
     yield Row(name, operation, [ns / peer_ns[0] for ns in ours_ns], goal, ours_ns, peer_ns, allocations=text)
     if most_allocations is not None:
