@@ -214,7 +214,8 @@ void RVXmlScanner::startElement(const unsigned char *const *attributes, int give
     if (!myHandler->isInPiece())
         beginPiece(myWindowBegin + myEvent);
     myHasElements = true;
-    myOpenElements.push_back({ nameOf(tag).toByteArray(), myPosition.line });
+    myOpenElements.push_back({ myOpenNames.size(), myPosition.line });
+    myOpenNames.append(nameOf(tag));
     if (myOpenElements.size() > DEEPEST_LEVEL)
         return fail(tr("elements are nested deeper than %1 levels").arg(DEEPEST_LEVEL), myPosition);
     myHandler->startElement({ tag, nameOf(tag), attributes, givenAttributes, allAttributes, myPosition });
@@ -225,6 +226,7 @@ void RVXmlScanner::endElement()
 {
     if (!myError.isEmpty() || myOpenElements.empty())
         return;
+    myOpenNames.truncate(myOpenElements.back().nameBegin);
     myOpenElements.pop_back();
     checkPiece(parsed());
     if (!myError.isEmpty())
@@ -321,7 +323,7 @@ void RVXmlScanner::failEarly()
         return failAt(tr("the file ends too early"), myFed);
     const OpenElement &open = myOpenElements.back();
     failAt(tr("the file ends too early: <%1>, which was opened in line %2, is not closed")
-                   .arg(shown(open.name), QString::number(open.line)),
+                   .arg(shown(innermostName()), QString::number(open.line)),
            myFed);
 }
 
@@ -341,12 +343,17 @@ void RVXmlScanner::judge(const _xmlError &error)
     failAt(wrongLetter(textFrom(index)).value_or(parserError(error, before)), index);
 }
 
+QByteArrayView RVXmlScanner::innermostName() const
+{
+    return QByteArrayView(myOpenNames).sliced(myOpenElements.back().nameBegin);
+}
+
 QString RVXmlScanner::wrongEnd(QByteArrayView text) const
 {
     const OpenElement &open = myOpenElements.back();
     const QByteArrayView tag = text.sliced(qMin(lastTag(text) + 1, text.size() - 1));
     return tr("</%1> closes <%2>, which was opened in line %3")
-            .arg(shown(nameOf(tag)), shown(open.name), QString::number(open.line));
+            .arg(shown(nameOf(tag)), shown(innermostName()), QString::number(open.line));
 }
 
 /// Why a letter cannot stand in XML, where that is so.

@@ -78,7 +78,7 @@ private:
     struct Events;
     struct OpenElement
     {
-        QByteArray name;
+        qsizetype nameBegin; // in myOpenNames, up to its end
         qint64 line;
     };
     struct FreeParser
@@ -106,6 +106,7 @@ private:
     void failAt(const QString &error, qint64 index);
     void failEarly();
     QString parserError(const _xmlError &error, QByteArrayView before) const;
+    QByteArrayView innermostName() const;
     QString wrongEnd(QByteArrayView text) const;
     std::optional<QString> wrongLetter(QByteArrayView text) const;
 
@@ -119,6 +120,7 @@ private:
     qint64 myPieceBegin = 0;
     RVFilePosition myPiecePosition;
     std::vector<OpenElement> myOpenElements;
+    QByteArray myOpenNames; // of all of them, one behind the other
     QString myError;
     RVFilePosition myErrorPosition;
     qint64 myFed = 0; // so much of the text was given to the parser
