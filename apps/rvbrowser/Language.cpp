@@ -26,5 +26,6 @@ void Language::speak(const QLocale &locale)
     QLocale::setDefault(isSpoken(locale.language()) ? locale : QLocale(QLocale::English));
     load(&myQt, u"qtbase"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
     load(&myLibrary, u"rvproductbase"_s, u":/translations"_s);
+    load(&myCatalogue, u"rvcatalogue"_s, u":/translations"_s);
     load(&myProgram, u"rvbrowser"_s, u":/translations"_s);
 }

@@ -4,8 +4,8 @@
 #include <QLocale>
 #include <QTranslator>
 
-/// The language of the program, English or German, as long as this object lives. Texts of the program are English in
-/// its sources, display names of the library are German.
+/// The language of the program, English or German, as long as this object lives. Texts of the program and of catalogues
+/// are English in their sources, display names of products are German.
 class Language
 {
 public:
@@ -14,6 +14,7 @@ public:
 
 private:
     QTranslator myProgram;
+    QTranslator myCatalogue;
     QTranslator myLibrary;
     QTranslator myQt;
 };

@@ -661,6 +661,12 @@ void tst_rvbrowser::speaksGerman()
         load(CATALOGUE);
         QCOMPARE(text(u"count"_s), u"3 Produkte"_s);
         QVERIFY2(text(u"spineText"_s).startsWith(u"Rücken 9,00 mm"_s), qPrintable(text(u"spineText"_s)));
+        QStringList texts;
+        for (const QLabel *label : myWindow->findChildren<QLabel *>())
+            texts += label->text();
+        for (const QString &wanted : { u"Artikelart"_s, u"Einband"_s, u"Bindung"_s, u"Papier"_s, u"Fotopapier"_s,
+                                       u"Ausrichtung"_s, u"Größenklasse"_s, u"Hochformat (portrait)"_s })
+            QVERIFY2(texts.contains(wanted), qPrintable(wanted));
         const QAbstractItemModel *findings = find<QTableView>(u"findings"_s)->model();
         int row = 0;
         while (row < findings->rowCount() && findings->index(row, 4).data().toString() != "keyword-legacy"_L1)
