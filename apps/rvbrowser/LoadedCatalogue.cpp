@@ -72,6 +72,7 @@ void LoadedCatalogue::append(Batch batch)
     for (qsizetype i = 0; i < batch.entries.size(); ++i) {
         Entry &entry = batch.entries[i];
         entry.group = groupIndex(batch.groups.at(i));
+        entry.type = shared(entry.type.toString());
         entry.name = shared(entry.name);
         entry.words = shared(entry.words);
         entry.pack = int(myPacks.size());
