@@ -70,6 +70,31 @@ RVPageCountOrganization pictureBoxCounts(const RVCatalogueElement &product)
                                    rvIntValue(product, "page_step"_L1).value_or(1));
 }
 
+/// A value that the document type gives, as it is written between quotes.
+QByteArray quotedValue(QByteArrayView value)
+{
+    QString text = QString::fromUtf8(value).toHtmlEscaped();
+    text.replace(u'\t', "&#9;"_L1).replace(u'\n', "&#10;"_L1).replace(u'\r', "&#13;"_L1);
+    return '"' + text.toUtf8() + '"';
+}
+
+/// Appends a start tag, with the attributes that only the document type gives to it.
+void appendTag(QByteArray *xml, const RVCatalogueRows &rows, const RVCatalogueRows::Element &element)
+{
+    const QByteArrayView tag = rows.view(element.tag);
+    const qsizetype bracket = tag.endsWith("/>") ? 2 : 1;
+    xml->append(tag.chopped(bracket));
+    for (quint32 i = element.attributesBegin; i < element.attributesEnd; ++i) {
+        const RVCatalogueRows::Attribute &attribute = rows.attributes[i];
+        if (attribute.name.begin >= element.tag.begin + element.tag.size)
+            xml->append(' ')
+                    .append(rows.view(attribute.name))
+                    .append('=')
+                    .append(quotedValue(rows.view(attribute.value)));
+    }
+    xml->append(tag.last(bracket));
+}
+
 RVCatalogueElement firstForm(const RVCatalogueElement &product)
 {
     return product.firstChildElement("forms"_L1).firstChildElement("form"_L1);
@@ -250,9 +275,8 @@ QByteArray RVCatalogueProduct::toXml() const
     };
     for (std::size_t i = 0; i < rows.elements.size(); ++i) {
         closeUpTo(i);
-        const QByteArrayView tag = rows.view(rows.elements[i].tag);
-        result.append(tag);
-        if (!tag.endsWith("/>"))
+        appendTag(&result, rows, rows.elements[i]);
+        if (!result.endsWith("/>"))
             open.push_back(&rows.elements[i]);
     }
     closeUpTo(rows.elements.size());

@@ -275,6 +275,13 @@ void tst_RVCatalogueProduct::toXml()
             "<p><product/><product a='1' ><b>text<c  d=\"&lt;\"/><!-- no --><c></c></b><b /></product>\n</p>");
     QCOMPARE(products.at(0).toXml(), QByteArray("<product/>"));
     QCOMPARE(products.at(1).toXml(), QByteArray("<product a='1' ><b><c  d=\"&lt;\"/><c></c></b><b /></product>"));
+
+    const QList<RVCatalogueProduct> completed = productsOf(
+            "<!DOCTYPE p [<!ATTLIST product name CDATA '&#34;n&#10;&lt;'><!ATTLIST form key CDATA 'k'>]>"
+            "<p><product type='A'><form/><form key='l'></form></product></p>");
+    QCOMPARE(completed.at(0).toXml(),
+             QByteArray("<product type='A' name=\"&quot;n&#10;&lt;\"><form key=\"k\"/>"
+                        "<form key='l'></form></product>"));
 }
 
 void tst_RVCatalogueProduct::families()

@@ -62,6 +62,11 @@ void tst_ProductPack::keepsProducts_data()
             "<?xml version='1.0' encoding='ISO-8859-1'?>\n<p><product name='\xfc'>"
             "<forms><form key='k' value='\xe9'/></forms></product></p>")
                                       << u"ü"_s << u"é"_s;
+    QTest::newRow("attribute of the document type")
+            << QByteArray("<!DOCTYPE p [<!ATTLIST product name CDATA '&#34;n&#10;&lt;'>"
+                          "<!ATTLIST form value CDATA 'v&amp;'>]>"
+                          "<p><product type='A'><forms><form key='k'/></forms></product></p>")
+            << u"\"n\n<"_s << u"v&"_s;
 }
 
 void tst_ProductPack::keepsProducts()
