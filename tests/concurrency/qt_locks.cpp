@@ -20,7 +20,7 @@
 extern "C" Q_DECL_EXPORT const char *__tsan_default_suppressions()
 {
     return "race:^QWaitCondition::\n"
-           "race_top:libQt6Core.so\n"
+           "race_top:memmove\n"
            "called_from_lib:libQt6Test.so\n";
 }
 
