@@ -24,15 +24,21 @@ struct RVCatalogueAttributeRow
 {
     using Class = T; ///< The class of the attribute.
     using Value = T (RVCatalogueProduct::*)() const; ///< What a product tells it by.
+    using DisplayName = QString (T::*)() const; ///< What people read for a value.
 
     /// The members in their order; without a value the attribute is none of products.
     /// @{
     constexpr RVCatalogueAttributeRow(QLatin1StringView name_, const char *label_) : name(name_), label(label_) { }
-    constexpr RVCatalogueAttributeRow(QLatin1StringView name_, const char *label_, Value value_)
+    constexpr RVCatalogueAttributeRow(QLatin1StringView name_, const char *label_, Value value_,
+                                      const char *shortLabel_, DisplayName displayName_ = nullptr,
+                                      bool hasBareKeywords_ = false)
         : name(name_),
           label(label_),
           isOfProducts(true),
-          value(value_)
+          value(value_),
+          shortLabel(shortLabel_),
+          displayName(displayName_),
+          hasBareKeywords(hasBareKeywords_)
     { }
     /// @}
 
@@ -40,6 +46,9 @@ struct RVCatalogueAttributeRow
     const char *label; ///< In English; RVCatalogueAttribute::label() translates it.
     bool isOfProducts = false; ///< True where product elements may have it.
     Value value = nullptr; ///< Null where it is no attribute of products.
+    const char *shortLabel = nullptr; ///< In English, for a line of many attributes.
+    DisplayName displayName = nullptr; ///< Null also where display names are but parts of words.
+    bool hasBareKeywords = false; ///< True where keywords are numbers, so that people need the display name.
 };
 
 /**
@@ -51,13 +60,13 @@ struct RVCatalogueAttributeRow
  */
 inline constexpr std::tuple RV_CATALOGUE_ATTRIBUTES {
     // clang-format off
-    RVCatalogueAttributeRow<RVArticleClass> { QLatin1StringView("article_class"), QT_TRANSLATE_NOOP("RVCatalogueAttribute", "Article class"), &RVCatalogueProduct::articleClass },
-    RVCatalogueAttributeRow<RVCoverType> { QLatin1StringView("cover_type"), QT_TRANSLATE_NOOP("RVCatalogueAttribute", "Cover"), &RVCatalogueProduct::coverType },
-    RVCatalogueAttributeRow<RVPageBinding> { QLatin1StringView("page_binding"), QT_TRANSLATE_NOOP("RVCatalogueAttribute", "Binding"), &RVCatalogueProduct::pageBinding },
-    RVCatalogueAttributeRow<RVPaperType> { QLatin1StringView("paper_type"), QT_TRANSLATE_NOOP("RVCatalogueAttribute", "Paper"), &RVCatalogueProduct::paperType },
-    RVCatalogueAttributeRow<RVFotoPaperType> { QLatin1StringView("foto_paper_type"), QT_TRANSLATE_NOOP("RVCatalogueAttribute", "Photo paper"), &RVCatalogueProduct::fotoPaperType },
-    RVCatalogueAttributeRow<RVOrientation> { QLatin1StringView("orientation"), QT_TRANSLATE_NOOP("RVCatalogueAttribute", "Orientation"), &RVCatalogueProduct::orientation },
-    RVCatalogueAttributeRow<RVSpaceMagnitude> { QLatin1StringView("space_magnitude"), QT_TRANSLATE_NOOP("RVCatalogueAttribute", "Size class"), &RVCatalogueProduct::spaceMagnitude },
+    RVCatalogueAttributeRow<RVArticleClass> { QLatin1StringView("article_class"), QT_TRANSLATE_NOOP("RVCatalogueAttribute", "Article class"), &RVCatalogueProduct::articleClass, "class", &RVArticleClass::toHumanReadable },
+    RVCatalogueAttributeRow<RVCoverType> { QLatin1StringView("cover_type"), QT_TRANSLATE_NOOP("RVCatalogueAttribute", "Cover"), &RVCatalogueProduct::coverType, "cover", &RVCoverType::humanReadableName },
+    RVCatalogueAttributeRow<RVPageBinding> { QLatin1StringView("page_binding"), QT_TRANSLATE_NOOP("RVCatalogueAttribute", "Binding"), &RVCatalogueProduct::pageBinding, "binding", &RVPageBinding::humanReadableName },
+    RVCatalogueAttributeRow<RVPaperType> { QLatin1StringView("paper_type"), QT_TRANSLATE_NOOP("RVCatalogueAttribute", "Paper"), &RVCatalogueProduct::paperType, "paper", &RVPaperType::humanReadableName },
+    RVCatalogueAttributeRow<RVFotoPaperType> { QLatin1StringView("foto_paper_type"), QT_TRANSLATE_NOOP("RVCatalogueAttribute", "Photo paper"), &RVCatalogueProduct::fotoPaperType, "photo paper", &RVFotoPaperType::humanReadableName, true },
+    RVCatalogueAttributeRow<RVOrientation> { QLatin1StringView("orientation"), QT_TRANSLATE_NOOP("RVCatalogueAttribute", "Orientation"), &RVCatalogueProduct::orientation, "orientation" },
+    RVCatalogueAttributeRow<RVSpaceMagnitude> { QLatin1StringView("space_magnitude"), QT_TRANSLATE_NOOP("RVCatalogueAttribute", "Size class"), &RVCatalogueProduct::spaceMagnitude, "size", &RVSpaceMagnitude::humanReadableName },
     RVCatalogueAttributeRow<RVPageType> { QLatin1StringView("page_type"), QT_TRANSLATE_NOOP("RVCatalogueAttribute", "Page type") },
     RVCatalogueAttributeRow<RVPageAlignment> { QLatin1StringView("page_alignment"), QT_TRANSLATE_NOOP("RVCatalogueAttribute", "Page alignment") },
     RVCatalogueAttributeRow<RVMaterialType> { QLatin1StringView("material_type"), QT_TRANSLATE_NOOP("RVCatalogueAttribute", "Material") },
