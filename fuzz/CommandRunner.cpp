@@ -4,32 +4,12 @@
 
 #include <Commands.h>
 
-#include <QCommandLineParser>
+#include <QRegularExpression>
 
 #include <sys/mman.h>
 #include <unistd.h>
 
 #include <cstdio>
-
-namespace {
-
-int theReports = 0;
-
-}
-
-// The two services of rvcatalog's main program. Nobody asks for help here or names too few files.
-
-void report(const QString &fileName, const FilePosition &position, const QString &text)
-{
-    ++theReports;
-    CHECK(!fileName.isEmpty() && !text.isEmpty());
-    CHECK(position.line >= 1 && position.column >= 1);
-}
-
-bool parseArguments(QCommandLineParser &parser, const QStringList &arguments, int, int, int *)
-{
-    return parser.parse(arguments);
-}
 
 MemoryFile::MemoryFile() : myDescriptor(::memfd_create("fuzz", MFD_CLOEXEC))
 {
@@ -47,18 +27,31 @@ void MemoryFile::write(const QByteArray &content)
     CHECK(::pwrite(myDescriptor, content.constData(), std::size_t(content.size()), 0) == content.size());
 }
 
+QByteArray MemoryFile::read() const
+{
+    QByteArray result(::lseek(myDescriptor, 0, SEEK_END), '\0');
+    CHECK(::pread(myDescriptor, result.data(), std::size_t(result.size()), 0) == result.size());
+    return result;
+}
+
 QString MemoryFile::name() const
 {
     return QStringLiteral("/proc/self/fd/%1").arg(myDescriptor);
 }
 
-int runCommand(int (*command)(const QStringList &), const QStringList &arguments)
+int runQuietly(const QStringList &arguments)
 {
-    static const bool isQuiet = std::freopen("/dev/null", "w", stdout) != nullptr;
-    CHECK(isQuiet);
-    theReports = 0;
-    const int exitCode = command(QStringList { QStringLiteral("rvcatalog") } + arguments);
+    static std::FILE *const nowhere = std::fopen("/dev/null", "w");
+    static MemoryFile messages;
+    static std::FILE *const toMessages = ::fdopen(::dup(messages.descriptor()), "a");
+    static const QRegularExpression report(QStringLiteral("\\A/proc/self/fd/\\d+:[1-9]\\d*:[1-9]\\d*: \\S"));
+    CHECK(nowhere && toMessages);
+    messages.write(QByteArray());
+    const int exitCode = runCommand(arguments, { stdin, nowhere, toMessages });
     CHECK(exitCode >= EXIT_FINE && exitCode <= EXIT_UNREADABLE);
-    CHECK_EQUAL(exitCode == EXIT_FINE, theReports == 0);
+    CHECK(std::fflush(toMessages) == 0);
+    const QString reports = QString::fromUtf8(messages.read());
+    CHECK_EQUAL(exitCode == EXIT_FINE, reports.isEmpty());
+    CHECK(reports.isEmpty() || report.match(reports).hasMatch());
     return exitCode;
 }

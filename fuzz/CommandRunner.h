@@ -16,14 +16,16 @@ public:
 
     /// Replaces the content.
     void write(const QByteArray &content);
+    QByteArray read() const;
     QString name() const;
+    int descriptor() const { return myDescriptor; }
 
 private:
     int myDescriptor;
 };
 
-/// Runs a sub-command of rvcatalog and returns its exit code. What it writes goes nowhere; it must report something
-/// exactly when it does not end well.
-int runCommand(int (*command)(const QStringList &), const QStringList &arguments);
+/// Runs rvcatalog with these arguments, the first of which is a command, and returns its exit code. What it writes goes
+/// nowhere; it must report something, with a place in a file, exactly when it does not end well.
+int runQuietly(const QStringList &arguments);
 
 #endif

@@ -3,11 +3,12 @@
 #include "Input.h"
 #include "Properties.h"
 
-#include <CatalogueProduct.h>
-#include <CatalogueReader.h>
 #include <Commands.h>
 
+#include <RVCatalogueReader.h>
+
 #include <QBuffer>
+#include <QDomDocument>
 
 using namespace Qt::StringLiterals;
 
@@ -18,13 +19,13 @@ QByteArray defaultProject(QByteArray catalogue)
 {
     QBuffer buffer(&catalogue);
     buffer.open(QIODevice::ReadOnly);
-    CatalogueReader reader(&buffer, u"product"_s);
-    const QDomElement element = reader.next();
-    if (!reader.finish() || element.isNull() || !CatalogueProduct(element).pageCounts.isValid())
+    RVCatalogueReader reader(&buffer);
+    const RVCatalogueProduct product = reader.next();
+    if (!reader.finish() || product.isNull() || !product.pageCounts().isValid())
         return QByteArray();
     QDomDocument document;
     QDomElement project = document.createElement(u"project"_s);
-    project.setAttribute(u"productname"_s, element.attribute(u"type"_s));
+    project.setAttribute(u"productname"_s, product.element().attribute("type"_L1));
     document.appendChild(project);
     return document.toByteArray();
 }
@@ -39,12 +40,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
     project.write(input.text().toUtf8());
     const QByteArray products = input.rest();
     catalogue.write(products);
-    runCommand(orderCommand, { catalogue.name(), project.name() });
+    runQuietly({ u"order"_s, catalogue.name(), project.name() });
 
     const QByteArray plain = defaultProject(products);
     if (!plain.isEmpty()) {
         project.write(plain);
-        CHECK_EQUAL(runCommand(orderCommand, { catalogue.name(), project.name() }), int(EXIT_FINE));
+        CHECK_EQUAL(runQuietly({ u"order"_s, catalogue.name(), project.name() }), int(EXIT_FINE));
     }
     return 0;
 }

@@ -1,29 +1,36 @@
-#include "Commands.h"
+#include "CatalogueFile.h"
 #include "FindingWriter.h"
+#include "SubCommands.h"
 
 #include <QCommandLineParser>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QTextStream>
 
 #include <unistd.h>
 
 #include <cstdio>
-#include <limits>
-#include <optional>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// How far the reading of a file has come, on the standard error output where that is a terminal, and not before the
+bool isTerminal(std::FILE *file)
+{
+    return ::isatty(::fileno(file)) == 1;
+}
+
+/// Shows how far the reading of a file has come, among the messages where they go to a terminal, and not before the
 /// user has waited a second.
 class ProgressBar
 {
     Q_DISABLE_COPY_MOVE(ProgressBar)
 
 public:
-    ProgressBar() : myHasTerminal(::isatty(STDERR_FILENO) == 1) { mySinceStart.start(); }
+    explicit ProgressBar(std::FILE *terminal) : myTerminal(terminal), myHasTerminal(isTerminal(terminal))
+    {
+        mySinceStart.start();
+    }
     ~ProgressBar() { hide(); }
 
     /// @p total is 0 where nobody knows how much there is.
@@ -40,7 +47,7 @@ public:
             text = u"[%1%2] %3 %"_s.arg(QString(filled, u'#'), QString(width - filled, u'.'),
                                         QString::number(qMin(done, total) * 100 / total));
         }
-        QTextStream(stderr) << "\r\033[K" << text << ' ' << fileName;
+        QTextStream(myTerminal) << "\r\033[K" << text << ' ' << fileName;
         myIsShown = true;
         mySinceShown.start();
     }
@@ -49,43 +56,60 @@ public:
     void hide()
     {
         if (myIsShown)
-            QTextStream(stderr) << "\r\033[K";
+            QTextStream(myTerminal) << "\r\033[K";
         myIsShown = false;
     }
 
 private:
+    std::FILE *myTerminal = nullptr;
     QElapsedTimer mySinceStart;
     QElapsedTimer mySinceShown;
-    bool myHasTerminal;
+    bool myHasTerminal = false;
     bool myIsShown = false;
 };
+
+/// What was found in products that follow one another.
+struct CheckedProducts
+{
+    qint64 count = 0;
+    QList<RVCatalogueFinding> findings;
+};
+
+CheckedProducts findingsOf(const QList<RVCatalogueProduct> &products)
+{
+    CheckedProducts result { products.size(), {} };
+    for (const RVCatalogueProduct &product : products)
+        result.findings += product.findings();
+    return result;
+}
 
 /// Checks files one after the other.
 class CheckRun
 {
 public:
-    CheckRun(FindingWriter *writer, const QSet<QString> &disabledRules) : myWriter(writer), myChecker(disabledRules) { }
+    CheckRun(FindingWriter *writer, const RVCatalogueCheck &check, const Console &console)
+        : myWriter(writer),
+          myCheck(check),
+          myConsole(console),
+          myProgressBar(console.messages)
+    { }
 
     void check(const QString &fileName)
     {
         ++mySummary.files;
-        QFile file(fileName);
-        const bool isOpen = fileName == "-"_L1 ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
-        if (!isOpen)
-            return reportUnreadable(fileName, FilePosition(), u"cannot open the file: "_s + file.errorString());
-        const qint64 size = file.isSequential() ? 0 : file.size();
-        myChecker.setProgress([&](qint64 bytesRead) {
-            myProgressBar.show(fileName, bytesRead, size);
+        CatalogueFile file(fileName, myConsole);
+        RVCatalogueReader &reader = file.reader();
+        reader.setCheck(myCheck);
+        const qint64 size = reader.size();
+        reader.map(findingsOf, [&](const CheckedProducts &checked) {
+            mySummary.products += checked.count;
+            write(fileName, checked.findings);
+            myProgressBar.show(fileName, reader.bytesRead(), size);
             return true;
         });
-        const CatalogueCheckResult result = myChecker.check(&file, [&](const CatalogueFinding &finding) {
-            myProgressBar.hide();
-            count(finding.severity);
-            myWriter->finding(fileName, finding);
-        });
-        mySummary.products += result.products;
-        if (!result.error.isEmpty())
-            reportUnreadable(fileName, result.errorPosition, result.error);
+        write(fileName, reader.findings());
+        if (reader.hasError())
+            reportUnreadable(file, fileName, { reader.errorPosition(), reader.errorString() });
     }
 
     int exitCode() const
@@ -99,57 +123,95 @@ public:
     {
         myProgressBar.hide();
         myWriter->end(mySummary, exitCode());
-        std::fflush(stdout);
         return exitCode();
     }
 
 private:
-    void reportUnreadable(const QString &fileName, const FilePosition &position, const QString &text)
+    void write(const QString &fileName, const QList<RVCatalogueFinding> &findings)
+    {
+        if (!findings.isEmpty())
+            myProgressBar.hide();
+        for (const RVCatalogueFinding &finding : findings) {
+            count(finding.severity());
+            myWriter->finding(fileName, finding);
+        }
+    }
+
+    void reportUnreadable(const CatalogueFile &file, const QString &fileName, const Problem &problem)
     {
         ++mySummary.unreadable;
         myProgressBar.hide();
-        std::fflush(stdout);
-        report(fileName, position, u"error: "_s + text);
-        myWriter->unreadable(fileName, position, text);
+        std::fflush(myConsole.output);
+        file.report({ problem.position, u"error: "_s + problem.text });
+        myWriter->unreadable(fileName, problem);
     }
 
-    void count(FindingSeverity severity)
+    void count(RVCatalogueSeverity severity)
     {
         switch (severity) {
-        case FindingSeverity::Note:
+        case RVCatalogueSeverity::Note:
             ++mySummary.notes;
             break;
-        case FindingSeverity::Warning:
+        case RVCatalogueSeverity::Warning:
             ++mySummary.warnings;
             break;
-        case FindingSeverity::Error:
+        case RVCatalogueSeverity::Error:
             ++mySummary.errors;
             break;
         }
     }
 
     FindingWriter *myWriter;
-    CatalogueChecker myChecker;
+    RVCatalogueCheck myCheck;
+    const Console &myConsole;
     CheckSummary mySummary;
     ProgressBar myProgressBar;
 };
 
-void writeRules()
+int writeRules(const Console &console)
 {
-    QTextStream out(stdout);
-    for (const CatalogueRule &rule : catalogueRules())
-        out << rule.name << " (" << severityName(rule.severity) << ")\n    " << rule.reason << '\n';
+    QTextStream out(console.output);
+    for (const RVCatalogueRule &rule : RVCatalogueRule::all())
+        out << rule.name() << " (" << rvSeverityName(rule.severity()) << ")\n    " << rule.reason() << '\n';
+    return EXIT_FINE;
 }
 
-int refuse(const QString &text)
+/// Why one of the rules cannot be disabled; empty when all are.
+QString disable(RVCatalogueCheck *check, const QStringList &rules)
 {
-    QTextStream(stderr) << "rvcatalog: " << text << "\nTry \"rvcatalog check --help\".\n";
-    return EXIT_UNREADABLE;
+    for (const QString &name : rules) {
+        const RVCatalogueRule rule = RVCatalogueRule::find(name);
+        if (rule.isNull())
+            return u"there is no rule \"%1\"; \"rvcatalog check --rules\" lists them"_s.arg(name);
+        check->disable(rule);
+    }
+    return QString();
+}
+
+/// Checks files as the options of the command say, or refuses the options.
+int checkFiles(const QStringList &fileNames, const QString &format, const QStringList &disabledRules,
+               const QString &command, const Console &console)
+{
+    const std::unique_ptr<FindingWriter> writer = FindingWriter::create(format, console);
+    if (!writer)
+        return refuseArguments(command, u"there is no format \"%1\"; there are: text, json, sarif"_s.arg(format),
+                               console);
+    RVCatalogueCheck check;
+    const QString unknownRule = disable(&check, disabledRules);
+    if (!unknownRule.isEmpty())
+        return refuseArguments(command, unknownRule, console);
+    if (fileNames.isEmpty())
+        return refuseArguments(command, u"expected at least 1 argument, got 0"_s, console);
+    CheckRun run(writer.get(), check, console);
+    writer->begin();
+    for (const QString &fileName : fileNames)
+        run.check(fileName);
+    return run.end();
 }
 
 }
 
-int checkCommand(const QStringList &arguments)
+int checkCommand(const QStringList &arguments, const Console &console)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
@@ -158,31 +220,15 @@ int checkCommand(const QStringList &arguments)
     const QCommandLineOption format(u"format"_s, u"Write text, json, or sarif (version 2.1.0)."_s, u"FORMAT"_s,
                                     u"text"_s);
     const QCommandLineOption rules(u"rules"_s, u"List the rules, and why they matter."_s);
-    const QCommandLineOption disable(u"disable"_s, u"Leave out a rule. May be given several times."_s, u"RULE"_s);
-    parser.addOptions({ format, rules, disable });
+    const QCommandLineOption disableOption(u"disable"_s, u"Leave out a rule. May be given several times."_s, u"RULE"_s);
+    parser.addOptions({ format, rules, disableOption });
     parser.addPositionalArgument(u"CATALOGUE"_s, u"The products XML; \"-\" is the standard input."_s,
                                  u"CATALOGUE.xml..."_s);
     int exitCode = EXIT_FINE;
-    if (!parseArguments(parser, arguments, 0, std::numeric_limits<int>::max(), &exitCode))
+    if (!parseArguments(parser, arguments, 0, ANY_NUMBER, console, &exitCode))
         return exitCode;
-    if (parser.isSet(rules)) {
-        writeRules();
-        return EXIT_FINE;
-    }
-    const std::unique_ptr<FindingWriter> writer = FindingWriter::create(parser.value(format));
-    if (!writer)
-        return refuse(u"there is no format \"%1\"; there are: text, json, sarif"_s.arg(parser.value(format)));
-    const QStringList disabled = parser.values(disable);
-    for (const QString &rule : disabled) {
-        if (indexOfRule(rule) < 0)
-            return refuse(u"there is no rule \"%1\"; \"rvcatalog check --rules\" lists them"_s.arg(rule));
-    }
-    if (parser.positionalArguments().isEmpty())
-        return refuse(u"expected at least 1 argument, got 0"_s);
-
-    CheckRun run(writer.get(), QSet<QString>(disabled.begin(), disabled.end()));
-    writer->begin();
-    for (const QString &fileName : parser.positionalArguments())
-        run.check(fileName);
-    return run.end();
+    if (parser.isSet(rules))
+        return writeRules(console);
+    return checkFiles(parser.positionalArguments(), parser.value(format), parser.values(disableOption),
+                      arguments.constFirst(), console);
 }

@@ -1,11 +1,9 @@
 #ifndef COMMANDS_H
 #define COMMANDS_H
 
-#include <CatalogueReader.h>
+#include "Console.h"
 
 #include <QStringList>
-
-class QCommandLineParser;
 
 enum ExitCode {
     EXIT_FINE = 0,
@@ -13,19 +11,8 @@ enum ExitCode {
     EXIT_UNREADABLE = 2,
 };
 
-/// Writes "file:line:column: text" to the standard error output.
-void report(const QString &fileName, const FilePosition &position, const QString &text);
-
-/// The sub-commands. The arguments begin with the program's name for messages; the result is the exit code.
-int showCommand(const QStringList &arguments);
-int orderCommand(const QStringList &arguments);
-int checkCommand(const QStringList &arguments);
-int keywordsCommand(const QStringList &arguments);
-int decodeCommand(const QStringList &arguments);
-int spineCommand(const QStringList &arguments);
-
-/// Parses the options and the least to most arguments of a sub-command. Returns false when the program is to end with
-/// @p exitCode: after the help text, or after a message about wrong usage.
-bool parseArguments(QCommandLineParser &parser, const QStringList &arguments, int least, int most, int *exitCode);
+/// Does what the arguments of rvcatalog say, which begin with a command: { "show", "products.xml" }. Returns the exit
+/// code. Needs a QGuiApplication, since fonts are measured; the file "-" is the input of the console.
+int runCommand(const QStringList &arguments, const Console &console = Console());
 
 #endif

@@ -1,9 +1,12 @@
 #include "FindingWriter.h"
 
+#include "JsonWriter.h"
+
 #include <QDir>
 #include <QUrl>
 
-#include <cstdio>
+#include <optional>
+#include <utility>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -13,8 +16,7 @@ namespace {
 struct Unreadable
 {
     QString fileName;
-    FilePosition position;
-    QString text;
+    Problem problem;
 };
 
 QString counted(qint64 number, QLatin1StringView one, QLatin1StringView many)
@@ -25,11 +27,14 @@ QString counted(qint64 number, QLatin1StringView one, QLatin1StringView many)
 class TextWriter : public FindingWriter
 {
 public:
-    void finding(const QString &fileName, const CatalogueFinding &finding) override
+    explicit TextWriter(const Console &console) : FindingWriter(console) { }
+
+    void finding(const QString &fileName, const RVCatalogueFinding &finding) override
     {
+        const RVFilePosition position = finding.range().begin;
         const QString line = u"%1:%2:%3: %4: %5 [%6]\n"_s.arg(
-                fileName, QString::number(finding.position.line), QString::number(finding.position.column),
-                severityName(finding.severity), finding.text, finding.rule);
+                fileName, QString::number(position.line), QString::number(position.column),
+                rvSeverityName(finding.severity()), finding.text(), finding.rule().name());
         write(line.toStdString());
     }
 
@@ -51,33 +56,35 @@ public:
 class JsonFindingWriter : public FindingWriter
 {
 public:
+    explicit JsonFindingWriter(const Console &console) : FindingWriter(console) { }
+
     void begin() override { write("{\"findings\":["); }
 
-    void finding(const QString &fileName, const CatalogueFinding &finding) override
+    void finding(const QString &fileName, const RVCatalogueFinding &finding) override
     {
         JsonWriter json;
         json.separator(myIsFirst ? "\n" : ",\n");
         myIsFirst = false;
         json.beginObject();
-        writePlace(&json, fileName, finding.position);
+        writePlace(&json, fileName, finding.range().begin, finding.range().end);
         json.key("product"_L1);
-        if (finding.product < 0)
+        if (finding.product() < 0)
             json.null();
         else
-            json.value(finding.product);
+            json.value(finding.product());
         json.key("rule"_L1);
-        json.value(finding.rule);
+        json.value(finding.rule().name());
         json.key("severity"_L1);
-        json.value(severityName(finding.severity));
+        json.value(rvSeverityName(finding.severity()));
         json.key("text"_L1);
-        json.value(finding.text);
+        json.value(finding.text());
         json.endObject();
         write(json.take());
     }
 
-    void unreadable(const QString &fileName, const FilePosition &position, const QString &text) override
+    void unreadable(const QString &fileName, const Problem &problem) override
     {
-        myUnreadable.push_back({ fileName, position, text });
+        myUnreadable.push_back({ fileName, problem });
     }
 
     void end(const CheckSummary &summary, int) override
@@ -99,9 +106,9 @@ public:
         json.beginArray();
         for (const Unreadable &file : myUnreadable) {
             json.beginObject();
-            writePlace(&json, file.fileName, file.position);
+            writePlace(&json, file.fileName, file.problem.position, std::nullopt);
             json.key("text"_L1);
-            json.value(file.text);
+            json.value(file.problem.text);
             json.endObject();
         }
         json.endArray();
@@ -110,14 +117,21 @@ public:
     }
 
 private:
-    static void writePlace(JsonWriter *json, const QString &fileName, const FilePosition &position)
+    static void writePlace(JsonWriter *json, const QString &fileName, const RVFilePosition &begin,
+                           const std::optional<RVFilePosition> &end)
     {
         json->key("column"_L1);
-        json->value(position.column);
+        json->value(begin.column);
+        if (end) {
+            json->key("end_column"_L1);
+            json->value(end->column);
+            json->key("end_line"_L1);
+            json->value(end->line);
+        }
         json->key("file"_L1);
         json->value(fileName);
         json->key("line"_L1);
-        json->value(position.line);
+        json->value(begin.line);
     }
 
     std::vector<Unreadable> myUnreadable;
@@ -128,6 +142,8 @@ private:
 class SarifWriter : public FindingWriter
 {
 public:
+    explicit SarifWriter(const Console &console) : FindingWriter(console) { }
+
     void begin() override
     {
         JsonWriter json;
@@ -151,27 +167,27 @@ public:
         write(json.take());
     }
 
-    void finding(const QString &fileName, const CatalogueFinding &finding) override
+    void finding(const QString &fileName, const RVCatalogueFinding &finding) override
     {
         JsonWriter json;
         json.separator(myIsFirst ? "\n" : ",\n");
         myIsFirst = false;
         json.beginObject();
         json.key("ruleId"_L1);
-        json.value(finding.rule);
+        json.value(finding.rule().name());
         json.key("ruleIndex"_L1);
-        json.value(indexOfRule(finding.rule.toString()));
+        json.value(qint64(myRules.indexOf(finding.rule())));
         json.key("level"_L1);
-        json.value(severityName(finding.severity));
-        writeMessage(&json, "message"_L1, finding.text);
-        writeLocations(&json, fileName, finding.position);
+        json.value(rvSeverityName(finding.severity()));
+        writeMessage(&json, "message"_L1, finding.text());
+        writeLocations(&json, fileName, finding.range().begin, finding.range().end);
         json.endObject();
         write(json.take());
     }
 
-    void unreadable(const QString &fileName, const FilePosition &position, const QString &text) override
+    void unreadable(const QString &fileName, const Problem &problem) override
     {
-        myUnreadable.push_back({ fileName, position, text });
+        myUnreadable.push_back({ fileName, problem });
     }
 
     void end(const CheckSummary &, int exitCode) override
@@ -191,8 +207,8 @@ public:
             json.beginObject();
             json.key("level"_L1);
             json.value("error"_L1);
-            writeMessage(&json, "message"_L1, file.text);
-            writeLocations(&json, file.fileName, file.position);
+            writeMessage(&json, "message"_L1, file.problem.text);
+            writeLocations(&json, file.fileName, file.problem.position, std::nullopt);
             json.endObject();
         }
         json.endArray();
@@ -212,7 +228,7 @@ private:
         json->endObject();
     }
 
-    static void writeDriver(JsonWriter *json)
+    void writeDriver(JsonWriter *json) const
     {
         json->beginObject();
         json->key("name"_L1);
@@ -221,24 +237,30 @@ private:
         json->value(QLatin1StringView(RVCATALOG_VERSION));
         json->key("rules"_L1);
         json->beginArray();
-        for (const CatalogueRule &rule : catalogueRules()) {
-            json->separator(&rule == &catalogueRules().first() ? "\n" : ",\n");
-            json->beginObject();
-            json->key("id"_L1);
-            json->value(rule.name);
-            writeMessage(json, "shortDescription"_L1, rule.translatedReason());
-            json->key("defaultConfiguration"_L1);
-            json->beginObject();
-            json->key("level"_L1);
-            json->value(severityName(rule.severity));
-            json->endObject();
-            json->endObject();
+        for (const RVCatalogueRule &rule : myRules) {
+            json->separator(rule == myRules.constFirst() ? "\n" : ",\n");
+            writeRule(json, rule);
         }
         json->endArray();
         json->endObject();
     }
 
-    static void writeLocations(JsonWriter *json, const QString &fileName, const FilePosition &position)
+    static void writeRule(JsonWriter *json, const RVCatalogueRule &rule)
+    {
+        json->beginObject();
+        json->key("id"_L1);
+        json->value(rule.name());
+        writeMessage(json, "shortDescription"_L1, rule.reason());
+        json->key("defaultConfiguration"_L1);
+        json->beginObject();
+        json->key("level"_L1);
+        json->value(rvSeverityName(rule.severity()));
+        json->endObject();
+        json->endObject();
+    }
+
+    static void writeLocations(JsonWriter *json, const QString &fileName, const RVFilePosition &begin,
+                               const std::optional<RVFilePosition> &end)
     {
         json->key("locations"_L1);
         json->beginArray();
@@ -251,15 +273,26 @@ private:
         json->value(uri(fileName));
         json->endObject();
         json->key("region"_L1);
-        json->beginObject();
-        json->key("startLine"_L1);
-        json->value(position.line);
-        json->key("startColumn"_L1);
-        json->value(position.column);
-        json->endObject();
+        writeRegion(json, begin, end);
         json->endObject();
         json->endObject();
         json->endArray();
+    }
+
+    static void writeRegion(JsonWriter *json, const RVFilePosition &begin, const std::optional<RVFilePosition> &end)
+    {
+        json->beginObject();
+        json->key("startLine"_L1);
+        json->value(begin.line);
+        json->key("startColumn"_L1);
+        json->value(begin.column);
+        if (end) {
+            json->key("endLine"_L1);
+            json->value(end->line);
+            json->key("endColumn"_L1);
+            json->value(end->column);
+        }
+        json->endObject();
     }
 
     /// A file that is named from where the program runs stays so; a colon in its first part would be a scheme.
@@ -271,26 +304,22 @@ private:
         return path.startsWith(u'/') ? u'.' + path : path;
     }
 
+    const QList<RVCatalogueRule> myRules = RVCatalogueRule::all();
     std::vector<Unreadable> myUnreadable;
     bool myIsFirst = true;
 };
 
 }
 
-std::unique_ptr<FindingWriter> FindingWriter::create(const QString &format)
+std::unique_ptr<FindingWriter> FindingWriter::create(const QString &format, const Console &console)
 {
     if (format == "text"_L1)
-        return std::make_unique<TextWriter>();
+        return std::make_unique<TextWriter>(console);
     if (format == "json"_L1)
-        return std::make_unique<JsonFindingWriter>();
+        return std::make_unique<JsonFindingWriter>(console);
     if (format == "sarif"_L1)
-        return std::make_unique<SarifWriter>();
+        return std::make_unique<SarifWriter>(console);
     return nullptr;
 }
 
 FindingWriter::~FindingWriter() = default;
-
-void FindingWriter::write(std::string_view text)
-{
-    std::fwrite(text.data(), 1, text.size(), stdout);
-}

@@ -1,8 +1,9 @@
 #ifndef FINDINGWRITER_H
 #define FINDINGWRITER_H
 
-#include <CatalogueChecker.h>
-#include <JsonWriter.h>
+#include "Console.h"
+
+#include <RVCatalogueFinding.h>
 
 #include <QString>
 
@@ -20,27 +21,30 @@ struct CheckSummary
     qint64 notes = 0;
 };
 
-/// Writes findings to the standard output, in one of several formats, as they come.
+/// Writes findings to the output of a console, in one of several formats, as they come.
 class FindingWriter
 {
     Q_DISABLE_COPY_MOVE(FindingWriter)
 
 public:
     /// "text", "json" or "sarif"; null for any other format.
-    static std::unique_ptr<FindingWriter> create(const QString &format);
+    static std::unique_ptr<FindingWriter> create(const QString &format, const Console &console);
     virtual ~FindingWriter();
 
     virtual void begin() { }
-    virtual void finding(const QString &fileName, const CatalogueFinding &finding) = 0;
+    virtual void finding(const QString &fileName, const RVCatalogueFinding &finding) = 0;
     /// A file could not be read to its end.
-    virtual void unreadable(const QString &, const FilePosition &, const QString &) { }
+    virtual void unreadable(const QString &, const Problem &) { }
     /// @p exitCode is that of the program.
     virtual void end(const CheckSummary &summary, int exitCode) = 0;
 
 protected:
-    FindingWriter() = default;
+    explicit FindingWriter(const Console &console) : myConsole(console) { }
 
-    static void write(std::string_view text);
+    void write(std::string_view text) const { myConsole.write(text); }
+
+private:
+    const Console &myConsole;
 };
 
 #endif

@@ -1,11 +1,9 @@
-#include "Commands.h"
+#include "SubCommands.h"
 
-#include <CatalogueAttribute.h>
+#include <RVCatalogueAttribute.h>
 
 #include <QCommandLineParser>
 #include <QTextStream>
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -19,22 +17,19 @@ QString hexadecimal(qint64 value)
 QString attributeNames()
 {
     QStringList names;
-    for (const CatalogueAttribute &attribute : catalogueAttributes())
-        names += attribute.name;
+    for (const RVCatalogueAttribute &attribute : RVCatalogueAttribute::all())
+        names += attribute.name();
     return names.join(", "_L1);
 }
 
 /// The attribute of that name; null, with a message, where there is none.
-const CatalogueAttribute *findAttribute(const QString &name)
+RVCatalogueAttribute findAttribute(const QString &name, const Console &console)
 {
-    const QList<CatalogueAttribute> &attributes = catalogueAttributes();
-    const auto found = std::find_if(attributes.begin(), attributes.end(),
-                                    [&name](const CatalogueAttribute &attribute) { return attribute.name == name; });
-    if (found != attributes.end())
-        return &*found;
-    QTextStream(stderr) << "rvcatalog: there is no attribute \"" << name << "\"; there are: " << attributeNames()
-                        << '\n';
-    return nullptr;
+    const RVCatalogueAttribute attribute = RVCatalogueAttribute::find(name);
+    if (attribute.isNull())
+        QTextStream(console.messages) << "rvcatalog: there is no attribute \"" << name
+                                      << "\"; there are: " << attributeNames() << '\n';
+    return attribute;
 }
 
 /// Writes rows in columns that are as wide as their widest text.
@@ -55,18 +50,29 @@ void writeTable(QTextStream &out, const QList<QStringList> &rows)
     }
 }
 
-void writeKeywords(QTextStream &out, const CatalogueAttribute &attribute)
+void writeKeywords(QTextStream &out, const RVCatalogueAttribute &attribute)
 {
     QList<QStringList> rows = { { u"VALUE"_s, u"KEYWORD"_s, u"ALIASES"_s, u"NAME"_s } };
-    for (const AttributeValue &value : attribute.values())
+    for (const RVCatalogueAttributeValue &value : attribute.values())
         rows += { hexadecimal(value.value), value.keyword, value.aliases.join(", "_L1), value.displayName };
-    out << attribute.name << '\n';
+    out << attribute.name() << '\n';
     writeTable(out, rows);
 }
 
+void writeDecoding(QTextStream &out, const RVCatalogueAttributeDecoding &decoding)
+{
+    out << "Value     " << hexadecimal(decoding.value) << '\n';
+    if (!decoding.keyword.isEmpty())
+        out << "Keyword   " << decoding.keyword << '\n';
+    if (!decoding.keywords.isEmpty())
+        out << "Bits      " << decoding.keywords.join(", "_L1) << '\n';
+    if (!decoding.displayName.isEmpty())
+        out << "Name      " << decoding.displayName << '\n';
 }
 
-int keywordsCommand(const QStringList &arguments)
+}
+
+int keywordsCommand(const QStringList &arguments, const Console &console)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
@@ -76,26 +82,24 @@ int keywordsCommand(const QStringList &arguments)
                     attributeNames()));
     parser.addPositionalArgument(u"ATTRIBUTE"_s, u"The attribute; all where it is missing."_s, u"[ATTRIBUTE]"_s);
     int exitCode = EXIT_FINE;
-    if (!parseArguments(parser, arguments, 0, 1, &exitCode))
+    if (!parseArguments(parser, arguments, 0, 1, console, &exitCode))
         return exitCode;
 
-    QTextStream out(stdout);
-    if (parser.positionalArguments().isEmpty()) {
-        for (const CatalogueAttribute &attribute : catalogueAttributes()) {
-            if (&attribute != &catalogueAttributes().first())
-                out << '\n';
-            writeKeywords(out, attribute);
-        }
-        return EXIT_FINE;
-    }
-    const CatalogueAttribute *attribute = findAttribute(parser.positionalArguments().constFirst());
-    if (!attribute)
+    QList<RVCatalogueAttribute> attributes = RVCatalogueAttribute::all();
+    if (!parser.positionalArguments().isEmpty())
+        attributes = { findAttribute(parser.positionalArguments().constFirst(), console) };
+    if (attributes.constFirst().isNull())
         return EXIT_UNREADABLE;
-    writeKeywords(out, *attribute);
+    QTextStream out(console.output);
+    for (const RVCatalogueAttribute &attribute : attributes) {
+        if (attribute != attributes.constFirst())
+            out << '\n';
+        writeKeywords(out, attribute);
+    }
     return EXIT_FINE;
 }
 
-int decodeCommand(const QStringList &arguments)
+int decodeCommand(const QStringList &arguments, const Console &console)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
@@ -106,27 +110,21 @@ int decodeCommand(const QStringList &arguments)
     parser.addPositionalArgument(u"ATTRIBUTE"_s, u"The attribute."_s);
     parser.addPositionalArgument(u"TEXT"_s, u"The keywords."_s);
     int exitCode = EXIT_FINE;
-    if (!parseArguments(parser, arguments, 2, 2, &exitCode))
+    if (!parseArguments(parser, arguments, 2, 2, console, &exitCode))
         return exitCode;
-    const CatalogueAttribute *attribute = findAttribute(parser.positionalArguments().at(0));
-    if (!attribute)
+    const RVCatalogueAttribute attribute = findAttribute(parser.positionalArguments().at(0), console);
+    if (attribute.isNull())
         return EXIT_UNREADABLE;
 
-    const AttributeDecoding decoding = attribute->decode(parser.positionalArguments().at(1));
-    QTextStream out(stdout);
-    out << "Value     " << hexadecimal(decoding.value) << '\n';
-    if (!decoding.keyword.isEmpty())
-        out << "Keyword   " << decoding.keyword << '\n';
-    if (!decoding.keywords.isEmpty())
-        out << "Bits      " << decoding.keywords.join(", "_L1) << '\n';
-    if (!decoding.displayName.isEmpty())
-        out << "Name      " << decoding.displayName << '\n';
+    const RVCatalogueAttributeDecoding decoding = attribute.decode(parser.positionalArguments().at(1));
+    QTextStream out(console.output);
+    writeDecoding(out, decoding);
     out.flush();
     for (const QString &piece : decoding.unknownPieces) {
-        QTextStream(stderr) << "rvcatalog: "
-                            << (piece.isEmpty() ? u"an empty piece is no keyword of "_s
-                                                : u"\"%1\" is no keyword of "_s.arg(piece))
-                            << attribute->name << "; it stands for the default value\n";
+        QTextStream(console.messages) << "rvcatalog: "
+                                      << (piece.isEmpty() ? u"an empty piece is no keyword of "_s
+                                                          : u"\"%1\" is no keyword of "_s.arg(piece))
+                                      << attribute.name() << "; it stands for the default value\n";
     }
     return decoding.unknownPieces.isEmpty() ? EXIT_FINE : EXIT_PROBLEMS;
 }

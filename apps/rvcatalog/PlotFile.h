@@ -12,6 +12,7 @@ public:
     /// The end of the name, .png or .svg in any letter case, says what it becomes.
     explicit PlotFile(const QString &fileName) : myFileName(fileName) { }
 
+    QString fileName() const { return myFileName; }
     /// True for a name with one of the two ends.
     bool isSupported() const { return isPng() || isSvg(); }
     /// Replaces the file. Returns why it could not be written; a null text when it was.

@@ -1,17 +1,20 @@
-#include "Commands.h"
+#include "CatalogueFile.h"
+#include "ProductJson.h"
+#include "ProductValues.h"
+#include "SubCommands.h"
 
-#include <BatchPipeline.h>
-#include <CatalogueProduct.h>
-#include <ProductJson.h>
+#include <RVCatalogueAttributes.h>
 
 #include <QCommandLineParser>
-#include <QFile>
 #include <QMap>
+#include <QMutex>
 #include <QTextStream>
 
-#include <cstdio>
+#include <memory>
 #include <string>
-#include <string_view>
+#include <tuple>
+#include <utility>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -27,16 +30,6 @@ QString millimetres(const RVDistance &distance)
     return QString::number(distance.value(MILLIMETRE), 'f', 1);
 }
 
-unsigned pages(int count)
-{
-    return unsigned(qMax(0, count));
-}
-
-int fontSize(const CatalogueProduct &product, int pageCount)
-{
-    return product.spine.spineMaxFontHeigth(pages(pageCount), QString());
-}
-
 QString between(const QString &lowest, const QString &highest)
 {
     return lowest == highest ? lowest : lowest + u'-' + highest;
@@ -48,28 +41,28 @@ QString pageCountsText(const RVPageCountOrganization &counts)
     return counts.numberOfPackages() > 1 ? range + " by "_L1 + QString::number(counts.pageIncrement()) : range;
 }
 
-QString spineText(const CatalogueProduct &product)
+QString spineText(const ProductValues &values)
 {
-    if (!product.hasSpine())
+    if (!values.hasSpine)
         return u"-"_s;
-    return between(millimetres(product.spine.spineWidth(pages(product.pageCounts.minPages()))),
-                   millimetres(product.spine.spineWidth(pages(product.pageCounts.maxPages()))));
+    return between(millimetres(values.spineWidth(values.pageCounts.minPages())),
+                   millimetres(values.spineWidth(values.pageCounts.maxPages())));
 }
 
-QString fontText(const CatalogueProduct &product)
+QString fontText(const ProductValues &values)
 {
-    if (!product.hasSpine())
+    if (!values.hasSpine)
         return u"-"_s;
-    return between(QString::number(fontSize(product, product.pageCounts.minPages())),
-                   QString::number(fontSize(product, product.pageCounts.maxPages())));
+    return between(QString::number(values.fontSize(values.pageCounts.minPages())),
+                   QString::number(values.fontSize(values.pageCounts.maxPages())));
 }
 
 /// The options of a product, one piece a key: "alcolor: black*, red".
-QStringList optionTexts(const CatalogueProduct &product)
+QStringList optionTexts(const RVConfiguredArticleVariantList &options)
 {
-    const RVArticleVariants defaults = product.options.defaultVariants();
+    const RVArticleVariants defaults = options.defaultVariants();
     QMap<QString, QStringList> valuesByKey;
-    for (const RVConfiguredArticleVariant &option : product.options)
+    for (const RVConfiguredArticleVariant &option : options)
         valuesByKey[option.key()] += option.value() + (defaults.value(option.key()) == option.value() ? "*"_L1 : ""_L1);
     QStringList result;
     for (auto it = valuesByKey.constBegin(); it != valuesByKey.constEnd(); ++it)
@@ -78,10 +71,15 @@ QStringList optionTexts(const CatalogueProduct &product)
 }
 
 template<typename T>
-void addAttribute(QStringList *texts, QLatin1StringView name, const T &attribute)
+void addAttribute(QStringList *texts, const RVCatalogueAttributeRow<T> &row, const RVCatalogueProduct &product)
 {
-    if (!attribute.isNull())
-        *texts += name + u' ' + attribute.encodeCSV();
+    if (!row.isOfProducts)
+        return;
+    const T attribute = (product.*row.value)();
+    if (attribute.isNull())
+        return;
+    const QString text = row.hasBareKeywords ? (attribute.*row.displayName)() : attribute.encodeCSV();
+    *texts += QLatin1StringView(row.shortLabel) + u' ' + text;
 }
 
 QString barcodeText(const RVBarcodeDefinition &barcode)
@@ -93,25 +91,20 @@ QString barcodeText(const RVBarcodeDefinition &barcode)
             QString::number(barcode.pageNr()));
 }
 
-/// What the product is, in keywords: "book, cover HARDCOVER, binding glue", and its barcodes.
-QStringList attributeTexts(const CatalogueProduct &product)
+/// What the product is, in keywords: "class book; cover HARDCOVER; binding glue", and its barcodes.
+QStringList attributeTexts(const RVCatalogueProduct &product)
 {
     QStringList attributes;
-    addAttribute(&attributes, "class"_L1, product.articleClass);
-    addAttribute(&attributes, "cover"_L1, product.coverType);
-    addAttribute(&attributes, "binding"_L1, product.pageBinding);
-    addAttribute(&attributes, "paper"_L1, product.paperType);
-    if (!product.fotoPaperType.isNull())
-        attributes += "photo paper "_L1 + product.fotoPaperType.humanReadableName();
-    addAttribute(&attributes, "orientation"_L1, product.orientation);
-    addAttribute(&attributes, "size"_L1, product.spaceMagnitude);
-    if (product.shippingGroup.isValid())
-        attributes += "shipping group "_L1 + product.shippingGroup.toString();
+    std::apply([&](const auto &...rows) { (addAttribute(&attributes, rows, product), ...); }, RV_CATALOGUE_ATTRIBUTES);
+    const RVShippingGroupId shippingGroup = product.shippingGroup();
+    if (shippingGroup.isValid())
+        attributes += "shipping group "_L1 + shippingGroup.toString();
 
     QStringList result;
     if (!attributes.isEmpty())
         result += attributes.join("; "_L1);
-    for (const RVBarcodeDefinition &barcode : product.barcodes)
+    const RVBarcodeDefinitionList barcodes = product.barcodes();
+    for (const RVBarcodeDefinition &barcode : barcodes)
         result += barcodeText(barcode);
     return result;
 }
@@ -145,50 +138,57 @@ void writeRow(QTextStream &out, const QStringList &columns, const QStringList &d
         out << QString(end, u' ') << line << '\n';
 }
 
-struct Problem
-{
-    FilePosition position;
-    QString text;
-};
-
-QList<Problem> problems(const CatalogueProduct &product, const FilePosition &position)
+QList<Problem> problems(const ProductValues &values)
 {
     QList<Problem> result;
-    if (product.type.isUnknown())
+    if (!values.type.isUnknown() && values.pageCounts.isValid())
+        return result;
+    const RVFilePosition position = values.product.range().begin;
+    if (values.type.isUnknown())
         result += { position, u"the product has no type"_s };
-    if (!product.pageCounts.isValid())
-        result += { position, u"the product has no valid page counts (%1)"_s.arg(product.pageCounts.dump()) };
+    if (!values.pageCounts.isValid())
+        result += { position, u"the product has no valid page counts (%1)"_s.arg(values.pageCounts.dump()) };
     return result;
 }
 
-/// What the products of a file come to.
-struct Summary
+/// Reports what is wrong with the products of a file.
+class Reporter
 {
-    QString fileName;
-    bool isEmpty = true;
-    bool hasProblems = false;
+public:
+    explicit Reporter(const CatalogueFile &file) : myFile(file) { }
 
     void add(const QList<Problem> &problems)
     {
-        isEmpty = false;
-        hasProblems = hasProblems || !problems.isEmpty();
+        myIsEmpty = false;
+        myHasProblems = myHasProblems || !problems.isEmpty();
         for (const Problem &problem : problems)
-            report(fileName, problem.position, problem.text);
+            myFile.report(problem);
     }
+    int end() const
+    {
+        if (myIsEmpty)
+            myFile.report({ RVFilePosition(), u"there is no product in this file"_s });
+        return myIsEmpty || myHasProblems ? EXIT_PROBLEMS : EXIT_FINE;
+    }
+
+private:
+    const CatalogueFile &myFile;
+    bool myIsEmpty = true;
+    bool myHasProblems = false;
 };
 
-void showTable(CatalogueReader &reader, Summary *summary)
+void showTable(RVCatalogueReader &reader, Reporter *reporter, const Console &console)
 {
-    QTextStream out(stdout);
+    QTextStream out(console.output);
     writeRow(out, { u"TYPE"_s, u"PAGES"_s, u"COUNTS"_s, u"SPINE mm"_s, u"FONT pt"_s },
              { u"ATTRIBUTES, OPTIONS (* is the default)"_s });
-    for (QDomElement element = reader.next(); !element.isNull(); element = reader.next()) {
-        const CatalogueProduct product(element);
+    for (const RVCatalogueProduct &product : reader) {
+        const ProductValues values(product);
         writeRow(out,
-                 { product.type.orderTxtName(), pageCountsText(product.pageCounts),
-                   QString::number(product.pageCounts.numberOfPackages()), spineText(product), fontText(product) },
-                 attributeTexts(product) + optionTexts(product));
-        summary->add(problems(product, reader.position()));
+                 { values.type.orderTxtName(), pageCountsText(values.pageCounts),
+                   QString::number(values.pageCounts.numberOfPackages()), spineText(values), fontText(values) },
+                 attributeTexts(product) + optionTexts(product.options()));
+        reporter->add(problems(values));
     }
 }
 
@@ -198,41 +198,64 @@ struct JsonLines
     QList<Problem> problems;
 };
 
-JsonLines jsonLines(const CatalogueBatch &batch)
+JsonLines jsonLines(const QList<RVCatalogueProduct> &products, ProductJson *json)
 {
-    ProductJson json;
     JsonLines result;
-    for (int i = 0; i < batch.size(); ++i) {
-        const CatalogueElement element = batch.at(i);
-        const CatalogueProduct product = CatalogueProduct::withoutOptions(element);
-        json.separator(batch.firstProduct() + i == 0 ? "\n" : ",\n");
-        json.write(product, element);
-        result.problems += problems(product, element.position());
+    for (const RVCatalogueProduct &product : products) {
+        const ProductValues values(product);
+        json->separator(product.number() == 0 ? "\n" : ",\n");
+        json->write(values);
+        result.problems += problems(values);
     }
-    result.text = json.take();
+    result.text = json->take();
     return result;
 }
 
-void write(std::string_view text)
+/// The writers of several threads, which keep what they know from one call to the next.
+class JsonWriters
 {
-    std::fwrite(text.data(), 1, text.size(), stdout);
-}
+public:
+    JsonLines lines(const QList<RVCatalogueProduct> &products)
+    {
+        std::unique_ptr<ProductJson> json = take();
+        JsonLines result = jsonLines(products, json.get());
+        const QMutexLocker locker(&myMutex);
+        myIdleWriters.push_back(std::move(json));
+        return result;
+    }
 
-void showJson(CatalogueReader &reader, Summary *summary)
+private:
+    std::unique_ptr<ProductJson> take()
+    {
+        const QMutexLocker locker(&myMutex);
+        if (myIdleWriters.empty())
+            return std::make_unique<ProductJson>();
+        std::unique_ptr<ProductJson> result = std::move(myIdleWriters.back());
+        myIdleWriters.pop_back();
+        return result;
+    }
+
+    QMutex myMutex;
+    std::vector<std::unique_ptr<ProductJson>> myIdleWriters;
+};
+
+void showJson(RVCatalogueReader &reader, Reporter *reporter, const Console &console)
 {
-    write("[");
-    forEachBatch(reader, jsonLines, [&](const JsonLines &lines) {
-        write(lines.text);
-        summary->add(lines.problems);
-        return true;
-    });
-    write("\n]\n");
-    std::fflush(stdout);
+    JsonWriters writers;
+    console.write("[");
+    reader.map([&](const QList<RVCatalogueProduct> &products) { return writers.lines(products); },
+               [&](const JsonLines &lines) {
+                   console.write(lines.text);
+                   reporter->add(lines.problems);
+                   return true;
+               });
+    console.write("\n]\n");
+    std::fflush(console.output);
 }
 
 }
 
-int showCommand(const QStringList &arguments)
+int showCommand(const QStringList &arguments, const Console &console)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
@@ -242,30 +265,19 @@ int showCommand(const QStringList &arguments)
             "paper, orientation, size class, shipping group and barcodes, and the options per key."_s);
     const QCommandLineOption json(u"json"_s, u"Write a JSON array, one product a line."_s);
     parser.addOption(json);
-    parser.addPositionalArgument(u"CATALOGUE"_s, u"The products XML."_s, u"CATALOGUE.xml"_s);
+    parser.addPositionalArgument(u"CATALOGUE"_s, u"The products XML; \"-\" is the standard input."_s,
+                                 u"CATALOGUE.xml"_s);
     int exitCode = EXIT_FINE;
-    if (!parseArguments(parser, arguments, 1, 1, &exitCode))
+    if (!parseArguments(parser, arguments, 1, 1, console, &exitCode))
         return exitCode;
 
-    const QString fileName = parser.positionalArguments().constFirst();
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly)) {
-        report(fileName, FilePosition(), u"cannot open the file: "_s + file.errorString());
+    CatalogueFile file(parser.positionalArguments().constFirst(), console);
+    if (file.reportError())
         return EXIT_UNREADABLE;
-    }
-    CatalogueReader reader(&file, u"product"_s);
-    Summary summary { fileName };
+    Reporter reporter(file);
     if (parser.isSet(json))
-        showJson(reader, &summary);
+        showJson(file.reader(), &reporter, console);
     else
-        showTable(reader, &summary);
-    if (reader.hasError()) {
-        report(fileName, reader.errorPosition(), reader.errorString());
-        return EXIT_UNREADABLE;
-    }
-    if (summary.isEmpty) {
-        report(fileName, FilePosition(), u"there is no product in this file"_s);
-        return EXIT_PROBLEMS;
-    }
-    return summary.hasProblems ? EXIT_PROBLEMS : EXIT_FINE;
+        showTable(file.reader(), &reporter, console);
+    return file.finish() ? reporter.end() : EXIT_UNREADABLE;
 }

@@ -1,12 +1,11 @@
-#include "Commands.h"
-#include "NearestText.h"
 #include "PlotFile.h"
+#include "ProductSearch.h"
+#include "ProductValues.h"
+#include "SubCommands.h"
 
-#include <CatalogueProduct.h>
 #include <SpinePlot.h>
 
 #include <QCommandLineParser>
-#include <QFile>
 #include <QTextStream>
 
 #include <optional>
@@ -15,54 +14,30 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Lookup
-{
-    std::optional<CatalogueProduct> product; // the first of the type
-    FilePosition position; // of the product
-    QString nearestType; // where there is none
-    bool isReadable = false;
-};
+constexpr int MOST_COUNTS = 100000;
 
-/// Reads the catalogue to its end, so that a broken one is noticed; reports what is wrong with the file.
-Lookup findProduct(const QString &fileName, const RVProductType &type)
+QString tooManyCounts(const ProductValues &values)
 {
-    Lookup lookup;
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly)) {
-        report(fileName, FilePosition(), u"cannot open the file: "_s + file.errorString());
-        return lookup;
-    }
-    CatalogueReader reader(&file, u"product"_s);
-    NearestText nearest(type.toString());
-    for (QDomElement element = reader.next(); !element.isNull(); element = reader.next()) {
-        const RVProductType found(element.attribute(u"type"_s));
-        if (!lookup.product && found == type) {
-            lookup.product = CatalogueProduct(element);
-            lookup.position = reader.position();
-        }
-        nearest.offer(found.toString());
-    }
-    lookup.nearestType = nearest.text();
-    lookup.isReadable = !reader.hasError();
-    if (!lookup.isReadable)
-        report(fileName, reader.errorPosition(), reader.errorString());
-    return lookup;
+    return u"%1 has %2 page counts, and no more than %3 can be listed; set a larger page_step or a smaller max_pages"_s
+            .arg(values.type.toString())
+            .arg(values.pageCounts.numberOfPackages())
+            .arg(MOST_COUNTS);
 }
 
-/// Why the product has no table of spine widths; empty where it has one.
-QString problem(const Lookup &lookup, const RVProductType &type)
+/// Why the product has no table of spine widths; nothing where it has one.
+std::optional<Problem> problem(const ProductValues &values)
 {
-    if (!lookup.product) {
-        const QString text = u"the catalogue has no product of type \"%1\""_s.arg(type.orderTxtName());
-        return lookup.nearestType.isEmpty() ? text : text + u"; did you mean \"%1\"?"_s.arg(lookup.nearestType);
-    }
-    if (!lookup.product->pageCounts.isValid() || lookup.product->pageCounts.minPages() < 0)
-        return u"%1 has no valid page counts (%2)"_s.arg(type.toString(), lookup.product->pageCounts.dump());
-    if (!lookup.product->hasSpine())
-        return u"%1 has no spine"_s.arg(type.toString());
-    if (SpineTable(lookup.product->spine, lookup.product->pageCounts).rowCount() == 0)
-        return u"the spine widths of %1 are too large for a number"_s.arg(type.toString());
-    return QString();
+    const RVFilePosition position = values.product.range().begin;
+    const QString type = values.type.toString();
+    if (!values.pageCounts.isValid() || values.pageCounts.minPages() < 0)
+        return Problem { position, u"%1 has no valid page counts (%2)"_s.arg(type, values.pageCounts.dump()) };
+    if (!values.hasSpine)
+        return Problem { position, u"%1 has no spine"_s.arg(type) };
+    if (values.pageCounts.numberOfPackages() > MOST_COUNTS)
+        return Problem { values.product.element().attributeRange("max_pages"_L1).begin, tooManyCounts(values) };
+    if (SpineTable(values.spine, values.pageCounts).rowCount() == 0)
+        return Problem { position, u"the spine widths of %1 are too large for a number"_s.arg(type) };
+    return std::nullopt;
 }
 
 /// A number that needs more room gets it, and still stands apart.
@@ -72,9 +47,9 @@ void writeCell(QTextStream &out, int width, const QString &text)
 }
 
 /// False where the output is gone, say because the reader of a pipe has enough.
-bool writeTable(const SpineTable &table)
+bool writeTable(const SpineTable &table, const Console &console)
 {
-    QTextStream out(stdout);
+    QTextStream out(console.output);
     out << "     PAGES   PACKAGES     BLOCKS  SPINE mm  FONT pt\n";
     for (int i = 0; i < table.rowCount(); ++i) {
         const SpineRow row = table.row(i);
@@ -91,15 +66,44 @@ bool writeTable(const SpineTable &table)
     return out.status() == QTextStream::Ok;
 }
 
-QString plotTitle(const CatalogueProduct &product)
+QString plotTitle(const ProductValues &values)
 {
-    const QString type = product.type.toString();
-    return product.name.isEmpty() ? type : u"%1 (%2)"_s.arg(product.name, type);
+    const QString type = values.type.toString();
+    const QString name = values.product.name();
+    return name.isEmpty() ? type : u"%1 (%2)"_s.arg(name, type);
+}
+
+/// False, with a message, where the plot could not be written.
+bool writePlot(const PlotFile &file, const SpineTable &table, const QString &title, const Console &console)
+{
+    SpinePlot plot(table);
+    plot.setTitle(title);
+    const QString failure = file.write(plot, title);
+    if (!failure.isNull())
+        console.report(file.fileName(), { RVFilePosition(), u"cannot write the plot: "_s + failure });
+    return failure.isNull();
+}
+
+int writeSpine(const QString &catalogueName, const QString &type, const QString &plotName, const Console &console)
+{
+    const std::optional<ProductSearch> search = findProduct(catalogueName, RVProductType(type), console);
+    if (!search)
+        return EXIT_UNREADABLE;
+    const ProductValues values(search->product);
+    const std::optional<Problem> found = search->product.isNull() ? Problem { RVFilePosition(), search->problem }
+                                                                  : problem(values);
+    if (found) {
+        console.report(catalogueName, *found);
+        return EXIT_PROBLEMS;
+    }
+    const SpineTable table(values.spine, values.pageCounts);
+    const bool isPlotted = plotName.isEmpty() || writePlot(PlotFile(plotName), table, plotTitle(values), console);
+    return isPlotted && writeTable(table, console) ? EXIT_FINE : EXIT_UNREADABLE;
 }
 
 }
 
-int spineCommand(const QStringList &arguments)
+int spineCommand(const QStringList &arguments, const Console &console)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
@@ -108,37 +112,17 @@ int spineCommand(const QStringList &arguments)
     const QCommandLineOption plotOption(u"plot"_s, u"Draw the width over the page count as well, as PNG or SVG."_s,
                                         u"FILE"_s);
     parser.addOption(plotOption);
-    parser.addPositionalArgument(u"CATALOGUE"_s, u"The products XML."_s, u"CATALOGUE.xml"_s);
+    parser.addPositionalArgument(u"CATALOGUE"_s, u"The products XML; \"-\" is the standard input."_s,
+                                 u"CATALOGUE.xml"_s);
     parser.addPositionalArgument(u"TYPE"_s, u"The product type, such as DUN9."_s);
     int exitCode = EXIT_FINE;
-    if (!parseArguments(parser, arguments, 2, 2, &exitCode))
+    if (!parseArguments(parser, arguments, 2, 2, console, &exitCode))
         return exitCode;
     const QString plotName = parser.value(plotOption);
-    const PlotFile plotFile(plotName);
-    if (parser.isSet(plotOption) && !plotFile.isSupported()) {
-        QTextStream(stderr) << "rvcatalog: the name of a plot ends in .png or .svg, but got \"" << plotName << "\"\n";
+    if (parser.isSet(plotOption) && !PlotFile(plotName).isSupported()) {
+        QTextStream(console.messages) << "rvcatalog: the name of a plot ends in .png or .svg, but got \"" << plotName
+                                      << "\"\n";
         return EXIT_UNREADABLE;
     }
-
-    const QString fileName = parser.positionalArguments().at(0);
-    const RVProductType type(parser.positionalArguments().at(1));
-    const Lookup lookup = findProduct(fileName, type);
-    if (!lookup.isReadable)
-        return EXIT_UNREADABLE;
-    const QString text = problem(lookup, type);
-    if (!text.isEmpty()) {
-        report(fileName, lookup.position, text);
-        return EXIT_PROBLEMS;
-    }
-    const SpineTable table(lookup.product->spine, lookup.product->pageCounts);
-    if (parser.isSet(plotOption)) {
-        SpinePlot plot(table);
-        plot.setTitle(plotTitle(*lookup.product));
-        const QString failure = plotFile.write(plot, plotTitle(*lookup.product));
-        if (!failure.isNull()) {
-            report(plotName, FilePosition(), u"cannot write the plot: "_s + failure);
-            return EXIT_UNREADABLE;
-        }
-    }
-    return writeTable(table) ? EXIT_FINE : EXIT_UNREADABLE;
+    return writeSpine(parser.positionalArguments().at(0), parser.positionalArguments().at(1), plotName, console);
 }

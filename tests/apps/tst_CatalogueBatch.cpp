@@ -4,12 +4,8 @@
 #include <BatchPipeline.h>
 #include <CatalogueOption.h>
 #include <CatalogueProduct.h>
-#include <ProductJson.h>
 
 #include <QBuffer>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -52,95 +48,6 @@ void forEachProduct(QByteArray file, Function function)
     QVERIFY(!batchReader.hasError());
 }
 
-QJsonObject spineJson(const CatalogueProduct &product, int pageCount)
-{
-    const unsigned pages = unsigned(qMax(0, pageCount));
-    return {
-        { u"pages"_s, pageCount },
-        { u"width_mm"_s, product.spine.spineWidth(pages).value(DISTANCE_UNIT_MILLIMETRE) },
-        { u"max_font_size"_s, product.spine.spineMaxFontHeigth(pages, QString()) },
-    };
-}
-
-template<typename T>
-QJsonValue attributeJson(const T &attribute, const QString &name = QString())
-{
-    if (attribute.isNull())
-        return QJsonValue();
-    QJsonObject result { { u"keywords"_s, QJsonArray::fromStringList(attribute.encodeBits()) } };
-    if (!name.isEmpty())
-        result.insert(u"name"_s, name);
-    return result;
-}
-
-QJsonArray optionsJson(const RVConfiguredArticleVariantList &options)
-{
-    const RVArticleVariants defaults = options.defaultVariants();
-    QJsonArray result;
-    for (const RVConfiguredArticleVariant &option : options) {
-        result += QJsonObject {
-            { u"key"_s, option.key() },
-            { u"key_name"_s, option.keyName() },
-            { u"value"_s, option.value() },
-            { u"value_name"_s, option.visibleName() },
-            { u"default"_s, defaults.value(option.key()) == option.value() },
-            { u"accountable"_s, !option.isNotAccountable() },
-        };
-    }
-    return result;
-}
-
-QJsonArray barcodesJson(const RVBarcodeDefinitionList &barcodes)
-{
-    const auto inMillimetres = [](int tenths) { return RVDistance(tenths).value(DISTANCE_UNIT_MILLIMETRE); };
-    QJsonArray result;
-    for (const RVBarcodeDefinition &barcode : barcodes) {
-        result += QJsonObject {
-            { u"page"_s, barcode.pageNr() },
-            { u"left_mm"_s, inMillimetres(barcode.rect().left()) },
-            { u"top_mm"_s, inMillimetres(barcode.rect().top()) },
-            { u"width_mm"_s, inMillimetres(barcode.rect().width()) },
-            { u"height_mm"_s, inMillimetres(barcode.rect().height()) },
-            { u"image"_s, barcode.imageName() },
-        };
-    }
-    return result;
-}
-
-/// Every value of a product, by Qt's JSON classes.
-QJsonObject toJson(const CatalogueProduct &product)
-{
-    const RVPageCountOrganization &counts = product.pageCounts;
-    return {
-        { u"type"_s, product.type.toString() },
-        { u"name"_s, product.name },
-        { u"article_id"_s, product.articleId.isValid() ? QJsonValue(product.articleId.id()) : QJsonValue() },
-        { u"article_class"_s, attributeJson(product.articleClass, product.articleClass.toHumanReadable()) },
-        { u"cover_type"_s, attributeJson(product.coverType, product.coverType.humanReadableName()) },
-        { u"page_binding"_s, attributeJson(product.pageBinding, product.pageBinding.humanReadableName()) },
-        { u"paper_type"_s, attributeJson(product.paperType, product.paperType.humanReadableName()) },
-        { u"foto_paper_type"_s, attributeJson(product.fotoPaperType, product.fotoPaperType.humanReadableName()) },
-        { u"orientation"_s, attributeJson(product.orientation) },
-        { u"space_magnitude"_s, attributeJson(product.spaceMagnitude, product.spaceMagnitude.humanReadableName()) },
-        { u"shipping_group"_s,
-          product.shippingGroup.isValid() ? QJsonValue(product.shippingGroup.id()) : QJsonValue() },
-        { u"barcodes"_s, barcodesJson(product.barcodes) },
-        { u"pages"_s,
-          QJsonObject {
-                  { u"lowest"_s, counts.minPages() },
-                  { u"highest"_s, counts.maxPages() },
-                  { u"step"_s, counts.pageIncrement() },
-                  { u"count"_s, counts.numberOfPackages() },
-                  { u"valid"_s, counts.isValid() },
-          } },
-        { u"spine"_s,
-          product.hasSpine() ? QJsonValue(QJsonArray { spineJson(product, counts.minPages()),
-                                                       spineJson(product, counts.maxPages()) })
-                             : QJsonValue(QJsonValue::Null) },
-        { u"options"_s, optionsJson(product.options) },
-    };
-}
-
 }
 
 class tst_CatalogueBatch : public QObject
@@ -156,7 +63,6 @@ private Q_SLOTS:
     void sameElementsAsDocuments();
     void sameProductsAsDocuments();
     void sameOptionsAsDocuments();
-    void jsonAsQtWritesIt();
     void pipelineKeepsOrder();
     void pipelineStops();
 };
@@ -300,16 +206,6 @@ void tst_CatalogueBatch::sameOptionsAsDocuments()
             QCOMPARE(option.isNotAccountable, other.isNotAccountable());
             QCOMPARE(options.isDefault(option), defaults.value(other.key()) == other.value());
         }
-    });
-}
-
-void tst_CatalogueBatch::jsonAsQtWritesIt()
-{
-    ProductJson json;
-    forEachProduct(randomProducts(4, 3000), [&](const CatalogueElement &element, const QDomElement &document) {
-        json.write(CatalogueProduct::withoutOptions(element), element);
-        QCOMPARE(QByteArray::fromStdString(json.take()),
-                 QJsonDocument(toJson(CatalogueProduct(document))).toJson(QJsonDocument::Compact));
     });
 }
 

@@ -1,6 +1,6 @@
-#include "SampleProduct.h"
+#include "apps/SampleProduct.h"
 
-#include <CatalogueFinding.h>
+#include <RVCatalogueRule.h>
 
 #include <QDir>
 #include <QJsonArray>
@@ -41,7 +41,8 @@ QStringList propertyNames(const QJsonObject &object)
     return object.keys();
 }
 
-/// Checks what the format requires of a location, and returns "uri:line:column".
+/// Checks what the format requires of a location, and returns "uri:line:column", with "-line:column" behind it where
+/// the end is told.
 QString location(const QJsonValue &value)
 {
     const QJsonArray locations = value.toArray();
@@ -51,13 +52,16 @@ QString location(const QJsonValue &value)
     const QJsonObject artifact = physical.value("artifactLocation"_L1).toObject();
     const QJsonObject region = physical.value("region"_L1).toObject();
     const QString uri = artifact.value("uri"_L1).toString();
+    const auto number = [&region](QLatin1StringView name) { return region.value(name).toInt(); };
+    static const QStringList beginNames = { u"startColumn"_s, u"startLine"_s };
+    static const QStringList allNames = QStringList { u"endColumn"_s, u"endLine"_s } + beginNames;
+    const bool hasEnd = propertyNames(region) == allNames;
     if (propertyNames(physical) != QStringList { u"artifactLocation"_s, u"region"_s }
-        || propertyNames(artifact) != QStringList { u"uri"_s }
-        || propertyNames(region) != QStringList { u"startColumn"_s, u"startLine"_s }
-        || !QUrl(uri, QUrl::StrictMode).isValid() || region.value("startLine"_L1).toInt() < 1
-        || region.value("startColumn"_L1).toInt() < 1)
+        || propertyNames(artifact) != QStringList { u"uri"_s } || (!hasEnd && propertyNames(region) != beginNames)
+        || !QUrl(uri, QUrl::StrictMode).isValid() || number("startLine"_L1) < 1 || number("startColumn"_L1) < 1)
         return u"no location"_s;
-    return uri + u":%1:%2"_s.arg(region.value("startLine"_L1).toInt()).arg(region.value("startColumn"_L1).toInt());
+    const QString begin = uri + u":%1:%2"_s.arg(number("startLine"_L1)).arg(number("startColumn"_L1));
+    return hasEnd ? begin + u"-%1:%2"_s.arg(number("endLine"_L1)).arg(number("endColumn"_L1)) : begin;
 }
 
 }
@@ -130,10 +134,10 @@ void tst_check::text()
     const Run run = check({ u"faults.xml"_s });
     QCOMPARE(run.messages, QString());
     QCOMPARE(run.output,
-             u"faults.xml:2:1: note: \"hard\" is an alias in cover_type; the main keyword is \"hardcover\" "
+             u"faults.xml:2:34: note: \"hard\" is an alias in cover_type; the main keyword is \"hardcover\" "
              "[keyword-legacy]\n"
-             "faults.xml:3:5: error: the article id \"0\" is no whole number above 0 [article-id-invalid]\n"
-             "faults.xml:4:1: warning: the price class \"\"x\"\" belongs to no known group [price-class-unknown]\n"_s
+             "faults.xml:3:23: error: the article id \"0\" is no whole number above 0 [article-id-invalid]\n"
+             "faults.xml:4:34: warning: the price class \"\"x\"\" belongs to no known group [price-class-unknown]\n"_s
                      + QLatin1StringView(SUMMARY_OF_FAULTS));
     QCOMPARE(run.exitCode, 1);
 }
@@ -171,8 +175,8 @@ void tst_check::severalFiles()
     const Run run = check({ u"faults.xml"_s, u"clean.xml"_s, u"./faults.xml"_s });
     const QStringList lines = run.output.split(u'\n');
     QCOMPARE(lines.size(), 8);
-    QVERIFY(lines.at(0).startsWith("faults.xml:2:1: "_L1));
-    QVERIFY(lines.at(3).startsWith("./faults.xml:2:1: "_L1));
+    QVERIFY(lines.at(0).startsWith("faults.xml:2:34: "_L1));
+    QVERIFY(lines.at(3).startsWith("./faults.xml:2:34: "_L1));
     QCOMPARE(lines.at(6), u"8 products in 3 files: 2 errors, 2 warnings, 2 notes"_s);
     QCOMPARE(run.exitCode, 1);
 }
@@ -181,7 +185,7 @@ void tst_check::standardInput()
 {
     const Run run = check({ u"-"_s }, FAULTS);
     QCOMPARE(run.output.count("\n-:"_L1), 2);
-    QVERIFY(run.output.startsWith("-:2:1: note: "_L1));
+    QVERIFY(run.output.startsWith("-:2:34: note: "_L1));
     QVERIFY(run.output.endsWith(QLatin1StringView(SUMMARY_OF_FAULTS)));
     QCOMPARE(run.exitCode, 1);
     QCOMPARE(check({ u"-"_s }).messages, u"-:1:1: error: the file is empty\n"_s);
@@ -195,8 +199,9 @@ void tst_check::unreadable()
     QCOMPARE(missing.exitCode, 2);
 
     const Run cut = check({ u"cut.xml"_s });
-    QCOMPARE(cut.messages, u"cut.xml:3:3: error: the file ends too early\n"_s);
-    QVERIFY(cut.output.startsWith("cut.xml:2:1: note: "_L1));
+    QCOMPARE(cut.messages,
+             u"cut.xml:3:4: error: the file ends too early: <p>, which was opened in line 1, is not closed\n"_s);
+    QVERIFY(cut.output.startsWith("cut.xml:2:34: note: "_L1));
     QVERIFY(cut.output.endsWith("\n1 product in 1 file: 0 errors, 0 warnings, 1 note, 1 unreadable file\n"_L1));
     QCOMPARE(cut.exitCode, 2);
 }
@@ -227,7 +232,9 @@ void tst_check::jsonFormat()
     const QJsonArray findings = document.value("findings"_L1).toArray();
     QCOMPARE(findings.size(), 3);
     const QJsonObject expected = {
-        { u"column"_s, 5 },
+        { u"column"_s, 23 },
+        { u"end_column"_s, 37 },
+        { u"end_line"_s, 3 },
         { u"file"_s, u"faults.xml"_s },
         { u"line"_s, 3 },
         { u"product"_s, 1 },
@@ -262,9 +269,11 @@ void tst_check::jsonOfUnreadable()
     const QJsonObject document = QJsonDocument::fromJson(run.output.toUtf8()).object();
     QCOMPARE(document.value("findings"_L1).toArray().size(), 1);
     const QJsonArray unreadable = document.value("unreadable"_L1).toArray();
-    const QJsonObject expected = {
-        { u"column"_s, 3 }, { u"file"_s, u"cut.xml"_s }, { u"line"_s, 3 }, { u"text"_s, u"the file ends too early"_s }
-    };
+    const QJsonObject expected = { { u"column"_s, 4 },
+                                   { u"file"_s, u"cut.xml"_s },
+                                   { u"line"_s, 3 },
+                                   { u"text"_s,
+                                     u"the file ends too early: <p>, which was opened in line 1, is not closed"_s } };
     QCOMPARE(unreadable.at(0).toObject(), expected);
     QCOMPARE(unreadable.at(1).toObject().value("file"_L1).toString(), u"missing.xml"_s);
 }
@@ -292,11 +301,11 @@ void tst_check::compareSarif(const QString &output, bool isSuccessful, int exitC
     QCOMPARE(driver.value("name"_L1).toString(), u"rvcatalog"_s);
     QVERIFY(driver.value("version"_L1).isString());
     const QJsonArray rules = driver.value("rules"_L1).toArray();
-    QCOMPARE(rules.size(), catalogueRules().size());
+    QCOMPARE(rules.size(), RVCatalogueRule::all().size());
     for (int i = 0; i < rules.size(); ++i) {
         const QJsonObject rule = rules.at(i).toObject();
         QCOMPARE(propertyNames(rule), (QStringList { u"defaultConfiguration"_s, u"id"_s, u"shortDescription"_s }));
-        QCOMPARE(rule.value("id"_L1).toString(), catalogueRules().at(i).name);
+        QCOMPARE(rule.value("id"_L1).toString(), RVCatalogueRule::all().at(i).name());
         QVERIFY(!rule.value("shortDescription"_L1).toObject().value("text"_L1).toString().isEmpty());
         QVERIFY(levels.contains(rule.value("defaultConfiguration"_L1).toObject().value("level"_L1).toString()));
     }
@@ -342,8 +351,8 @@ void tst_check::sarifFormat()
     QCOMPARE(run.messages, QString());
     QCOMPARE(run.exitCode, 1);
     compareSarif(run.output, true, 1,
-                 { u"faults.xml:2:1 note keyword-legacy"_s, u"faults.xml:3:5 error article-id-invalid"_s,
-                   u"faults.xml:4:1 warning price-class-unknown"_s },
+                 { u"faults.xml:2:34-2:51 note keyword-legacy"_s, u"faults.xml:3:23-3:37 error article-id-invalid"_s,
+                   u"faults.xml:4:34-4:56 warning price-class-unknown"_s },
                  {});
     const Run clean = check({ u"--format=sarif"_s, u"clean.xml"_s });
     QCOMPARE(clean.exitCode, 0);
@@ -354,8 +363,8 @@ void tst_check::sarifOfUnreadable()
 {
     const Run run = check({ u"--format=sarif"_s, u"cut.xml"_s, u"missing.xml"_s });
     QCOMPARE(run.exitCode, 2);
-    compareSarif(run.output, false, 2, { u"cut.xml:2:1 note keyword-legacy"_s },
-                 { u"cut.xml:3:3 the file ends too early"_s,
+    compareSarif(run.output, false, 2, { u"cut.xml:2:34-2:51 note keyword-legacy"_s },
+                 { u"cut.xml:3:4 the file ends too early: <p>, which was opened in line 1, is not closed"_s,
                    u"missing.xml:1:1 cannot open the file: No such file or directory"_s });
 }
 
@@ -364,13 +373,13 @@ void tst_check::sarifUris()
     const QString name = u"a b:ä#%.xml"_s;
     write(name, "<p/>");
     compareSarif(check({ u"--format=sarif"_s, name }).output, true, 1,
-                 { u"a%20b%3A%C3%A4%23%25.xml:1:1 error products-missing"_s }, {});
+                 { u"a%20b%3A%C3%A4%23%25.xml:1:1-1:1 error products-missing"_s }, {});
     QVERIFY(QDir().mkpath(myFolder.filePath(u"d"_s)));
     write(u"d/e.xml"_s, "<p/>");
     compareSarif(check({ u"--format=sarif"_s, u"d/e.xml"_s, myFolder.filePath(u"d/e.xml"_s) }).output, true, 1,
-                 { u"d/e.xml:1:1 error products-missing"_s,
+                 { u"d/e.xml:1:1-1:1 error products-missing"_s,
                    QUrl::fromLocalFile(myFolder.filePath(u"d/e.xml"_s)).toString(QUrl::FullyEncoded)
-                           + u":1:1 error products-missing"_s },
+                           + u":1:1-1:1 error products-missing"_s },
                  {});
 }
 
@@ -379,9 +388,8 @@ void tst_check::rules()
     const Run run = check({ u"--rules"_s });
     QCOMPARE(run.exitCode, 0);
     QString expected;
-    for (const CatalogueRule &rule : catalogueRules())
-        expected += rule.name + " ("_L1 + severityName(rule.severity) + ")\n    "_L1 + QLatin1StringView(rule.reason)
-                + u'\n';
+    for (const RVCatalogueRule &rule : RVCatalogueRule::all())
+        expected += rule.name() + " ("_L1 + rvSeverityName(rule.severity()) + ")\n    "_L1 + rule.reason() + u'\n';
     QCOMPARE(run.output, expected);
 }
 

@@ -84,6 +84,8 @@ private Q_SLOTS:
     void orderSample();
     void orderProblems_data();
     void orderProblems();
+    void orderSeveralProblems();
+    void orderOfWrongPageCounts();
     void orderUnreadable();
 
 private:
@@ -362,11 +364,12 @@ void tst_rvcatalog::showUnreadable_data()
     QTest::newRow("missing") << u"missing.xml"_s << QByteArray()
                              << u"missing.xml:1:1: cannot open the file: No such file or directory\n"_s;
     QTest::newRow("empty") << u"x.xml"_s << QByteArray("") << u"x.xml:1:1: the file is empty\n"_s;
-    QTest::newRow("no XML") << u"x.xml"_s << QByteArray("hello") << u"x.xml:1:1: Start tag expected.\n"_s;
-    QTest::newRow("cut off") << u"x.xml"_s << QByteArray(CATALOGUE).left(300)
-                             << u"x.xml:2:288: the file ends too early\n"_s;
+    QTest::newRow("no XML") << u"x.xml"_s << QByteArray("hello") << u"x.xml:1:1: this is no XML\n"_s;
+    QTest::newRow("cut off")
+            << u"x.xml"_s << QByteArray(CATALOGUE).left(300)
+            << u"x.xml:2:289: the file ends too early: <product>, which was opened in line 2, is not closed\n"_s;
     QTest::newRow("entities") << u"x.xml"_s << QByteArray("<!DOCTYPE p [<!ENTITY a 'b'>]><p/>")
-                              << u"x.xml:1:21: entity declarations are not supported\n"_s;
+                              << u"x.xml:1:14: entity declarations are not supported\n"_s;
 }
 
 void tst_rvcatalog::showUnreadable()
@@ -452,49 +455,81 @@ void tst_rvcatalog::orderSample()
 void tst_rvcatalog::orderProblems_data()
 {
     QTest::addColumn<QByteArray>("project");
-    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("message");
 
-    QTest::newRow("type") << QByteArray("productname='VIR99'") << u"the catalogue has no product of type \"VIR99\""_s;
+    QTest::newRow("type") << QByteArray("productname='VIR99'")
+                          << u"2:10: the catalogue has no product of type \"VIR99\"; did you mean \"VIR1\"?"_s;
     QTest::newRow("empty type") << QByteArray("productname=''")
-                                << u"the catalogue has no product of type \"UNKNOWN\""_s;
+                                << u"2:10: the catalogue has no product of type \"UNKNOWN\"; did you mean \"DUN9\"?"_s;
     QTest::newRow("option") << QByteArray("variants='foo:bar'")
-                            << u"DUN9 has no option \"foo\"; it has: a;b, alcolor"_s;
-    QTest::newRow("value") << QByteArray("variants='alcolor:pink'")
-                           << u"the option \"alcolor\" has no value \"pink\"; it has: black, red"_s;
-    QTest::newRow("malformed") << QByteArray("variants='alcolor=red'")
-                               << u"\"alcolor=red\" is no option; options are written key:value"_s;
+                            << u"2:10: DUN9 has no option \"foo\"; it has: a;b, alcolor"_s;
+    QTest::newRow("value") << QByteArray("pages='26' variants='alcolor:pink'")
+                           << u"2:21: the option \"alcolor\" has no value \"pink\"; it has: black, red"_s;
+    QTest::newRow("malformed") << QByteArray("\n  variants='alcolor=red'")
+                               << u"3:3: \"alcolor=red\" is no option; options are written key:value"_s;
     QTest::newRow("between counts") << QByteArray(
-            "pages='35'") << u"35 pages are impossible: DUN9 has 26 to 154 pages in steps of 4, the next is 38"_s;
-    QTest::newRow("too few") << QByteArray("pages='25'")
-                             << u"25 pages are impossible: DUN9 has 26 to 154 pages in steps of 4, the next is 26"_s;
-    QTest::newRow("too many") << QByteArray("pages='155'")
-                              << u"155 pages are impossible: DUN9 has 26 to 154 pages in steps of 4, the next is 154"_s;
+            "pages='35'") << u"2:10: 35 pages are impossible: DUN9 has 26 to 154 pages in steps of 4, the next is 38"_s;
+    QTest::newRow("too few") << QByteArray(
+            "pages='25'") << u"2:10: 25 pages are impossible: DUN9 has 26 to 154 pages in steps of 4, the next is 26"_s;
+    QTest::newRow("too many")
+            << QByteArray("pages='155'")
+            << u"2:10: 155 pages are impossible: DUN9 has 26 to 154 pages in steps of 4, the next is 154"_s;
     QTest::newRow("fixed count") << QByteArray("productname='VIR1' pages='14'")
-                                 << u"14 pages are impossible: VIR1 has always 13"_s;
-    QTest::newRow("no number") << QByteArray("pages='many'") << u"\"many\" is no page count"_s;
+                                 << u"2:29: 14 pages are impossible: VIR1 has always 13"_s;
+    QTest::newRow("no number") << QByteArray("pages='many'") << u"2:10: \"many\" is no page count"_s;
+    QTest::newRow("letter beyond 16 bits")
+            << QByteArray("a='\xF0\x9F\x93\x95' pages='many'") << u"2:17: \"many\" is no page count"_s;
 }
 
 void tst_rvcatalog::orderProblems()
 {
     QFETCH(QByteArray, project);
-    QFETCH(QString, text);
+    QFETCH(QString, message);
     write(u"p.xml"_s, "<?xml version='1.0'?>\n<project " + project + "\n/>");
     const Run run = rvcatalog({ u"order"_s, u"c.xml"_s, u"p.xml"_s }, myFolder.path());
-    QCOMPARE(run.messages, QString(u"p.xml:3:2: "_s + text + u'\n'));
+    QCOMPARE(run.messages, QString(u"p.xml:"_s + message + u'\n'));
     QCOMPARE(run.output, QString());
     QCOMPARE(run.exitCode, 1);
+}
+
+void tst_rvcatalog::orderSeveralProblems()
+{
+    write(u"p.xml"_s, "<project pages='1' variants='foo:bar,x'/>");
+    const Run run = rvcatalog({ u"order"_s, u"c.xml"_s, u"p.xml"_s }, myFolder.path());
+    QCOMPARE(run.messages,
+             u"p.xml:1:20: \"x\" is no option; options are written key:value\n"
+             "p.xml:1:20: DUN9 has no option \"foo\"; it has: a;b, alcolor\n"
+             "p.xml:1:10: 1 pages are impossible: DUN9 has 26 to 154 pages in steps of 4, the next is 26\n"_s);
+    QCOMPARE(run.exitCode, 1);
+}
+
+// The project is asked for another product, if it names one.
+void tst_rvcatalog::orderOfWrongPageCounts()
+{
+    write(u"bad.xml"_s, "<p><product type='DUN9' pages='20' max_pages='10' page_step='2'/></p>");
+    const QString text = u"the catalogue gives no valid page counts for DUN9 (min: 20; max: 10; increment: 2)\n"_s;
+    write(u"p.xml"_s, "<project productname='DUN9' pages='12'/>");
+    const Run named = rvcatalog({ u"order"_s, u"bad.xml"_s, u"p.xml"_s }, myFolder.path());
+    QCOMPARE(named.messages, u"p.xml:1:10: "_s + text);
+    QCOMPARE(named.exitCode, 1);
+    write(u"p.xml"_s, "<!-- the usual product -->\n <project/>");
+    const Run unnamed = rvcatalog({ u"order"_s, u"bad.xml"_s, u"p.xml"_s }, myFolder.path());
+    QCOMPARE(unnamed.messages, u"p.xml:2:2: "_s + text);
+    QCOMPARE(unnamed.exitCode, 1);
 }
 
 void tst_rvcatalog::orderUnreadable()
 {
     write(u"p.xml"_s, "<project>");
     const Run project = rvcatalog({ u"order"_s, u"c.xml"_s, u"p.xml"_s }, myFolder.path());
-    QCOMPARE(project.messages, u"p.xml:1:9: the file ends too early\n"_s);
+    QCOMPARE(project.messages,
+             u"p.xml:1:10: the file ends too early: <project>, which was opened in line 1, is not closed\n"_s);
     QCOMPARE(project.exitCode, 2);
     write(u"p.xml"_s, "<project/>");
     write(u"x.xml"_s, "<p><product type='DUN9'/>");
     const Run catalogue = rvcatalog({ u"order"_s, u"x.xml"_s, u"p.xml"_s }, myFolder.path());
-    QCOMPARE(catalogue.messages, u"x.xml:1:25: the file ends too early\n"_s);
+    QCOMPARE(catalogue.messages,
+             u"x.xml:1:26: the file ends too early: <p>, which was opened in line 1, is not closed\n"_s);
     QCOMPARE(catalogue.exitCode, 2);
 }
 

@@ -41,7 +41,7 @@ private Q_SLOTS:
     void problems();
     void largeNumbersStandApart();
     void broken();
-    void manyCountsAreStreamed();
+    void closedPipe();
     void png();
     void svg();
     void plotFailures_data();
@@ -143,6 +143,9 @@ void tst_rvcatalog_spine::problems_data()
             << u"NEGATIVE"_s << u"c.xml:8:1: NEGATIVE has no valid page counts (min: -8; max: 8; increment: 4)\n"_s;
     QTest::newRow("infinite widths") << u"WIDE"_s
                                      << u"c.xml:9:1: the spine widths of WIDE are too large for a number\n"_s;
+    QTest::newRow("two billion counts") << u"MANY"_s
+                                        << u"c.xml:6:32: MANY has 2147483647 page counts, and no more than 100000 can "
+                                           "be listed; set a larger page_step or a smaller max_pages\n"_s;
 }
 
 void tst_rvcatalog_spine::problems()
@@ -162,7 +165,7 @@ void tst_rvcatalog_spine::broken()
     QCOMPARE(myExitCode, 2);
     write(u"x.xml"_s, "<p><product type='DUN9' pages='1'/>");
     run({ u"x.xml"_s, u"DUN9"_s });
-    QCOMPARE(myMessages, u"x.xml:1:35: the file ends too early\n"_s);
+    QCOMPARE(myMessages, u"x.xml:1:36: the file ends too early: <p>, which was opened in line 1, is not closed\n"_s);
     QCOMPARE(myOutput, QString());
     QCOMPARE(myExitCode, 2);
     write(u"empty.xml"_s, "<p/>");
@@ -179,14 +182,18 @@ void tst_rvcatalog_spine::largeNumbersStandApart()
     QCOMPARE(cells.mid(0, 4), (QStringList { u"2147483647"_s, u"0"_s, u"0"_s, u"12345678901.00"_s }));
 }
 
-// Two billion rows begin to come at once, and a reader that has enough ends the program.
-void tst_rvcatalog_spine::manyCountsAreStreamed()
+// A reader that has enough ends the program.
+void tst_rvcatalog_spine::closedPipe()
 {
+    write(u"long.xml"_s,
+          "<p><product type='LONG' pages='1' max_pages='100000' page_step='1'>"
+          "<composition><spine packages_per_block='7' base_width='5' "
+          "block_width='0.001'/></composition></product></p>");
     QProcess program;
     QProcess head;
     program.setWorkingDirectory(myFolder.path());
     program.setStandardOutputProcess(&head);
-    program.start(QString::fromUtf8(RVCATALOG), { u"spine"_s, u"c.xml"_s, u"MANY"_s });
+    program.start(QString::fromUtf8(RVCATALOG), { u"spine"_s, u"long.xml"_s, u"LONG"_s });
     head.start(u"head"_s, { u"-n"_s, u"15"_s });
     QVERIFY(head.waitForFinished(20000));
     QVERIFY(program.waitForFinished(20000));

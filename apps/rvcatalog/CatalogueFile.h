@@ -1,0 +1,32 @@
+#ifndef CATALOGUEFILE_H
+#define CATALOGUEFILE_H
+
+#include "Console.h"
+
+#include <RVCatalogueReader.h>
+
+#include <memory>
+
+/// A catalogue that the command line names; "-" is the input of the console.
+class CatalogueFile
+{
+    Q_DISABLE_COPY_MOVE(CatalogueFile)
+
+public:
+    CatalogueFile(const QString &name, const Console &console);
+
+    RVCatalogueReader &reader() { return myReader; }
+    /// True, with a message, when the file could not be opened or read on.
+    bool reportError() const;
+    /// Reads on to the end. False, with a message, where that is impossible.
+    bool finish();
+    void report(const Problem &problem) const { myConsole.report(myName, problem); }
+
+private:
+    QString myName;
+    const Console &myConsole;
+    std::unique_ptr<QIODevice> myInput; // none for a file
+    RVCatalogueReader myReader;
+};
+
+#endif

@@ -1,0 +1,34 @@
+#ifndef CONSOLE_H
+#define CONSOLE_H
+
+#include <RVFilePosition.h>
+
+#include <QIODevice>
+#include <QString>
+
+#include <cstdio>
+#include <memory>
+#include <string_view>
+
+/// What is wrong at one place of a file.
+struct Problem
+{
+    RVFilePosition position;
+    QString text; ///< one line, without a full stop
+};
+
+/// Where a command reads and writes: by default the standard streams of the process.
+struct Console
+{
+    std::FILE *input = stdin;
+    std::FILE *output = stdout;
+    std::FILE *messages = stderr;
+
+    /// The input, open for reading.
+    std::unique_ptr<QIODevice> openInput() const;
+    void write(std::string_view text) const;
+    /// Writes "file:line:column: text" to the messages.
+    void report(const QString &fileName, const Problem &problem) const;
+};
+
+#endif

@@ -1,0 +1,50 @@
+#ifndef PRODUCTJSON_H
+#define PRODUCTJSON_H
+
+#include "JsonWriter.h"
+
+#include <QHash>
+#include <QString>
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+struct ProductValues;
+template<typename T>
+struct RVCatalogueAttributeRow;
+
+/**
+ * Describes products as JSON, one object each, with sorted keys.
+ *
+ * Names of attributes and font sizes repeat from product to product, so they are kept, up to some thousand of them. For
+ * one thread at a time.
+ */
+class ProductJson
+{
+public:
+    void write(const ProductValues &values);
+
+    void separator(std::string_view text) { myJson.separator(text); }
+    /// What was written since the last call.
+    std::string take() { return myJson.take(); }
+
+private:
+    struct Member;
+
+    static std::vector<Member> members();
+    template<typename T>
+    static void addAttribute(std::vector<Member> *members, const RVCatalogueAttributeRow<T> &row);
+    template<typename T>
+    void writeAttribute(const ProductValues &values);
+    void writeSpines(const ProductValues &values);
+    void writeSpine(const ProductValues &values, int pages);
+    int fontSize(const ProductValues &values, int pages);
+
+    JsonWriter myJson;
+    QHash<std::pair<QLatin1StringView, qint64>, std::string> myAttributes;
+    QHash<double, int> myFontSizes; // by the width without its sides
+};
+
+#endif

@@ -1,0 +1,31 @@
+#ifndef PRODUCTVALUES_H
+#define PRODUCTVALUES_H
+
+#include <RVCatalogueProduct.h>
+
+/// A product, and what is asked of it more than once, which takes longer than to keep it.
+struct ProductValues
+{
+    explicit ProductValues(const RVCatalogueProduct &product_)
+        : product(product_),
+          type(product.type()),
+          pageCounts(product.pageCounts()),
+          spine(product.spine()),
+          hasSpine(product.hasSpine())
+    { }
+
+    RVCatalogueProduct product;
+    RVProductType type;
+    RVPageCountOrganization pageCounts;
+    RVSpineConfig spine;
+    bool hasSpine;
+
+    /// A catalogue may give a negative count, which has the spine of none.
+    /// @{
+    RVDistance spineWidth(int pages) const { return spine.spineWidth(unsigned(qMax(0, pages))); }
+    /// The largest that fits, in points.
+    int fontSize(int pages) const { return spine.spineMaxFontHeigth(unsigned(qMax(0, pages)), QString()); }
+    /// @}
+};
+
+#endif

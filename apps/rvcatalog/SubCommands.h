@@ -1,0 +1,31 @@
+#ifndef SUBCOMMANDS_H
+#define SUBCOMMANDS_H
+
+#include "Commands.h"
+
+#include <limits>
+
+class QCommandLineParser;
+
+/// As the most arguments that a sub-command takes.
+constexpr int ANY_NUMBER = std::numeric_limits<int>::max();
+
+/// The sub-commands. The arguments begin with the program's name for messages; the result is the exit code.
+/// @{
+int showCommand(const QStringList &arguments, const Console &console);
+int orderCommand(const QStringList &arguments, const Console &console);
+int checkCommand(const QStringList &arguments, const Console &console);
+int keywordsCommand(const QStringList &arguments, const Console &console);
+int decodeCommand(const QStringList &arguments, const Console &console);
+int spineCommand(const QStringList &arguments, const Console &console);
+/// @}
+
+/// Parses the options and the least to most arguments of a sub-command. Returns false when the program is to end with
+/// @p exitCode: after the help text, or after a message about wrong usage.
+bool parseArguments(QCommandLineParser &parser, const QStringList &arguments, int least, int most,
+                    const Console &console, int *exitCode);
+/// Says why the arguments of a sub-command cannot be understood, and returns the exit code for that. @p command is its
+/// name as in the first argument.
+int refuseArguments(const QString &command, const QString &text, const Console &console);
+
+#endif
