@@ -1,4 +1,4 @@
-#include "../apps/SampleProduct.h"
+#include "SampleProduct.h"
 
 #include <RVCatalogueAttribute.h>
 #include <RVCatalogueCheck.h>

@@ -1,4 +1,4 @@
-#include "SampleProduct.h"
+#include "RVCatalogue/SampleProduct.h"
 
 #include <CatalogueChecker.h>
 

@@ -1,4 +1,4 @@
-#include "apps/SampleProduct.h"
+#include "RVCatalogue/SampleProduct.h"
 
 #include <RVCatalogueRule.h>
 
