@@ -19,8 +19,8 @@ constexpr RVDistanceUnit MILLIMETRE = DISTANCE_UNIT_MILLIMETRE;
 /// The project of a file, or of the input of the console; nothing, with a message, where it cannot be read.
 std::optional<RVCatalogueProject> readProject(const QString &fileName, const Console &console)
 {
-    const RVCatalogueProject project = fileName == "-"_L1 ? RVCatalogueProject::read(console.openInput().get())
-                                                          : RVCatalogueProject::read(fileName);
+    RVCatalogueProject project = fileName == "-"_L1 ? RVCatalogueProject::read(console.openInput().get())
+                                                    : RVCatalogueProject::read(fileName);
     if (!project.hasError())
         return project;
     console.report(fileName, { project.errorPosition(), project.errorString() });
