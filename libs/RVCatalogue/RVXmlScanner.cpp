@@ -3,6 +3,7 @@
 #include "RVFilePosition_p.h"
 
 #include <QIODevice>
+#include <QStringDecoder>
 #include <QUtf8StringView>
 
 #include <libxml/parser.h>
@@ -37,8 +38,11 @@ std::optional<char32_t> letterIn(QByteArrayView text)
 {
     constexpr qsizetype longestLetter = 4;
     for (qsizetype size = 1; size <= qMin(text.size(), longestLetter); ++size) {
-        if (QUtf8StringView(text.data(), size).isValidUtf8())
-            return QString::fromUtf8(text.first(size)).toUcs4().constFirst();
+        if (!QUtf8StringView(text.data(), size).isValidUtf8())
+            continue;
+        // A byte order mark is a letter here.
+        QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+        return QString(decoder(text.first(size))).toUcs4().value(0);
     }
     return std::nullopt;
 }

@@ -38,11 +38,19 @@ const Beginning BEGINNINGS[] = {
     { QByteArrayView("<\x00", 2), "UTF-16LE", false },
 };
 
+/// Other instructions may begin with the same letters.
+bool isDeclaration(QByteArrayView text)
+{
+    constexpr QByteArrayView begin("<?xml");
+    return text.startsWith(begin) && text.size() > begin.size() && std::strchr(" \t\r\n", text[begin.size()])
+            && text[begin.size()] != '\0';
+}
+
 /// The name in the declaration; empty where the text has no declaration, or one without an encoding.
 QByteArray declaredEncoding(QByteArrayView text)
 {
     const qsizetype end = text.indexOf("?>");
-    if (!text.startsWith("<?xml") || end < 0)
+    if (!isDeclaration(text) || end < 0)
         return QByteArray();
     const QByteArray declaration = text.first(end).toByteArray();
     const qsizetype keyword = declaration.indexOf("encoding");
@@ -203,7 +211,7 @@ void RVXmlSource::beginAsDeclared(const QByteArray &bytes)
     if (!myConverter->isKnown())
         myFault = tr("the encoding \"%1\", which the first line of the file declares, is not known; UTF-8 always is")
                           .arg(QString::fromUtf8(myEncoding));
-    else if (!decoded(bytes).startsWith("<?xml"))
+    else if (!isDeclaration(decoded(bytes)))
         myFault = tr("the first line of the file declares %1, but is not encoded in it")
                           .arg(QString::fromLatin1(myEncoding));
 }
