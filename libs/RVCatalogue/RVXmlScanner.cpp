@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -26,6 +27,35 @@ constexpr qsizetype BITE = qsizetype(16) * 1024;
 
 /// The text is in UTF-8, whatever its first line says, and references come as the letters that they stand for.
 constexpr int OPTIONS = XML_PARSE_NONET | XML_PARSE_IGNORE_ENC | XML_PARSE_NOENT;
+
+/// Errors of the parser in words for people; %1 is the name that the parser tells.
+struct ErrorText
+{
+    int code;
+    const char *text;
+};
+
+// clang-format off
+constexpr ErrorText ERROR_TEXTS[] = {
+    { XML_ERR_ATTRIBUTE_REDEFINED, QT_TRANSLATE_NOOP("RVCatalogueReader", "the attribute \"%1\" is there twice") },
+    { XML_ERR_ATTRIBUTE_NOT_STARTED, QT_TRANSLATE_NOOP("RVCatalogueReader", "the value of an attribute stands in quotes") },
+    { XML_ERR_ATTRIBUTE_WITHOUT_VALUE, QT_TRANSLATE_NOOP("RVCatalogueReader", "the attribute \"%1\" has no value") },
+    { XML_ERR_LT_IN_ATTRIBUTE, QT_TRANSLATE_NOOP("RVCatalogueReader", "\"<\" is written \"&lt;\" in a value") },
+    { XML_ERR_NAME_REQUIRED, QT_TRANSLATE_NOOP("RVCatalogueReader", "\"&\" does not begin an entity here; the letter itself is written \"&amp;\"") },
+    { XML_ERR_ENTITYREF_SEMICOL_MISSING, QT_TRANSLATE_NOOP("RVCatalogueReader", "\"&\" does not begin an entity here; the letter itself is written \"&amp;\"") },
+    { XML_ERR_INVALID_CHAR, QT_TRANSLATE_NOOP("RVCatalogueReader", "this reference names no character that XML allows") },
+    { XML_ERR_INVALID_CHARREF, QT_TRANSLATE_NOOP("RVCatalogueReader", "this reference names no character that XML allows") },
+    { XML_ERR_INVALID_DEC_CHARREF, QT_TRANSLATE_NOOP("RVCatalogueReader", "this reference names no character that XML allows") },
+    { XML_ERR_INVALID_HEX_CHARREF, QT_TRANSLATE_NOOP("RVCatalogueReader", "this reference names no character that XML allows") },
+    { XML_ERR_SPACE_REQUIRED, QT_TRANSLATE_NOOP("RVCatalogueReader", "a blank is missing here") },
+    { XML_ERR_GT_REQUIRED, QT_TRANSLATE_NOOP("RVCatalogueReader", "\">\" is missing here") },
+    { XML_ERR_DOCUMENT_END, QT_TRANSLATE_NOOP("RVCatalogueReader", "nothing but comments may follow the end of the root element") },
+    { XML_ERR_DOCUMENT_EMPTY, QT_TRANSLATE_NOOP("RVCatalogueReader", "nothing but comments may stand in front of the root element") },
+    { XML_ERR_HYPHEN_IN_COMMENT, QT_TRANSLATE_NOOP("RVCatalogueReader", "\"--\" cannot stand in a comment") },
+    { XML_ERR_MISPLACED_CDATA_END, QT_TRANSLATE_NOOP("RVCatalogueReader", "\"]]>\" is written \"]]&gt;\" in a text") },
+    { XML_ERR_RESERVED_XML_NAME, QT_TRANSLATE_NOOP("RVCatalogueReader", "the declaration \"<?xml\" must be the first of the file") },
+};
+// clang-format on
 
 #if LIBXML_VERSION >= 21200
 using ParserError = const xmlError *;
@@ -374,41 +404,12 @@ std::optional<QString> RVXmlScanner::wrongLetter(QByteArrayView text) const
 
 QString RVXmlScanner::parserError(const _xmlError &error, QByteArrayView before) const
 {
-    const QString bareAmpersand = tr("\"&\" does not begin an entity here; the letter itself is written \"&amp;\"");
-    switch (error.code) {
-    case XML_ERR_ATTRIBUTE_REDEFINED:
-        return tr("the attribute \"%1\" is there twice").arg(shown(QByteArrayView(error.str1)));
-    case XML_ERR_ATTRIBUTE_NOT_STARTED:
-        return tr("the value of an attribute stands in quotes");
-    case XML_ERR_ATTRIBUTE_WITHOUT_VALUE:
-        return tr("the attribute \"%1\" has no value").arg(shown(QByteArrayView(error.str1)));
-    case XML_ERR_LT_IN_ATTRIBUTE:
-        return tr("\"<\" is written \"&lt;\" in a value");
-    case XML_ERR_NAME_REQUIRED:
-        return before.endsWith('<') ? tr("\"<\" does not begin a tag here; the letter itself is written \"&lt;\"")
-                                    : bareAmpersand;
-    case XML_ERR_ENTITYREF_SEMICOL_MISSING:
-        return bareAmpersand;
-    case XML_ERR_INVALID_CHAR:
-    case XML_ERR_INVALID_CHARREF:
-    case XML_ERR_INVALID_DEC_CHARREF:
-    case XML_ERR_INVALID_HEX_CHARREF:
-        return tr("this reference names no character that XML allows");
-    case XML_ERR_SPACE_REQUIRED:
-        return tr("a blank is missing here");
-    case XML_ERR_GT_REQUIRED:
-        return tr("\">\" is missing here");
-    case XML_ERR_DOCUMENT_END:
-        return tr("nothing but comments may follow the end of the root element");
-    case XML_ERR_DOCUMENT_EMPTY:
-        return tr("nothing but comments may stand in front of the root element");
-    case XML_ERR_HYPHEN_IN_COMMENT:
-        return tr("\"--\" cannot stand in a comment");
-    case XML_ERR_MISPLACED_CDATA_END:
-        return tr("\"]]>\" is written \"]]&gt;\" in a text");
-    case XML_ERR_RESERVED_XML_NAME:
-        return tr("the declaration \"<?xml\" must be the first of the file");
-    default:
+    const auto *known = std::find_if(std::begin(ERROR_TEXTS), std::end(ERROR_TEXTS),
+                                     [&error](const ErrorText &each) { return each.code == error.code; });
+    if (known == std::end(ERROR_TEXTS))
         return QString::fromUtf8(error.message).simplified();
-    }
+    if (error.code == XML_ERR_NAME_REQUIRED && before.endsWith('<'))
+        return tr("\"<\" does not begin a tag here; the letter itself is written \"&lt;\"");
+    const QString text = tr(known->text);
+    return text.contains("%1"_L1) ? text.arg(shown(QByteArrayView(error.str1))) : text;
 }

@@ -127,11 +127,11 @@ namespace {
 class HandedTask : public QRunnable
 {
 public:
-    explicit HandedTask(QRunnable *task) : myTask(task) { __tsan_release(task); }
+    explicit HandedTask(QRunnable *task) : myTask(task) { }
 
     void run() override
     {
-        __tsan_acquire(myTask);
+        __tsan_acquire(this);
         const bool isOurs = myTask->autoDelete();
         myTask->run();
         if (isOurs)
@@ -148,5 +148,7 @@ void QThreadPool::start(QRunnable *runnable, int priority)
 {
     static const auto next = nextFunction<void (*)(QThreadPool *, QRunnable *, int)>(
             "_ZN11QThreadPool5startEP9QRunnablei");
-    next(this, new HandedTask(runnable), priority);
+    auto *task = new HandedTask(runnable);
+    __tsan_release(task);
+    next(this, task, priority);
 }
