@@ -1,3 +1,5 @@
+#include <RVCatalogue/RVCatalogueAttribute.h>
+#include <RVCatalogue/RVCatalogueAttributes.h>
 #include <RVCatalogue/RVCatalogueCheck.h>
 #include <RVCatalogue/RVCatalogueElement.h>
 #include <RVCatalogue/RVCatalogueFinding.h>
@@ -18,6 +20,8 @@ private Q_SLOTS:
     void threeLines();
     void oneProduct();
     void element();
+    void attributes();
+    void classes();
     void all();
     void everyCore();
     void check();
@@ -66,6 +70,38 @@ void tst_guide_catalogue::element()
     QCOMPARE(spine.attributeRange("base_width"_L1).begin.line, 13);
     QVERIFY(!spine.hasAttribute("comment"_L1));
     //! [element]
+}
+
+void tst_guide_catalogue::attributes()
+{
+    RVCatalogueReader reader(u"products.xml"_s);
+    //! [attributes]
+    const RVCatalogueProduct book = reader.next();
+    QStringList texts;
+    for (const RVCatalogueAttribute &attribute : RVCatalogueAttribute::ofProducts()) {
+        if (attribute.isIn(book))
+            texts += attribute.label() + u": "_s + attribute.decode(book).text;
+    }
+
+    QCOMPARE(texts.first(2), (QStringList { u"Article class: book"_s, u"Cover: HARDCOVER"_s }));
+    //! [attributes]
+}
+
+void tst_guide_catalogue::classes()
+{
+    //! [classes]
+    qsizetype keywords = 0;
+    std::apply(
+            [&keywords](const auto &...rows) {
+                // Each row knows the class of its attribute.
+                ((keywords += typename std::decay_t<decltype(rows)>::Class().allKnownEnumValues().size()), ...);
+            },
+            RV_CATALOGUE_ATTRIBUTES);
+    //! [classes]
+    qsizetype expected = 0;
+    for (const RVCatalogueAttribute &attribute : RVCatalogueAttribute::all())
+        expected += attribute.values().size();
+    QCOMPARE(keywords, expected);
 }
 
 void tst_guide_catalogue::all()
