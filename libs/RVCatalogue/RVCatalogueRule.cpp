@@ -18,11 +18,12 @@ QList<RVCatalogueRule> RVCatalogueRule::all()
     return theRules;
 }
 
-RVCatalogueRule RVCatalogueRule::find(QStringView name)
+RVCatalogueRule RVCatalogueRule::find(QAnyStringView name)
 {
     const auto *end = std::end(RV_CATALOGUE_RULES);
-    const auto *found = std::find_if(std::begin(RV_CATALOGUE_RULES), end,
-                                     [name](const RVCatalogueRuleRow &row) { return row.name == name; });
+    const auto *found = std::find_if(std::begin(RV_CATALOGUE_RULES), end, [name](const RVCatalogueRuleRow &row) {
+        return name == QAnyStringView(row.name);
+    });
     return found == end ? RVCatalogueRule() : RVCatalogueRule(found);
 }
 

@@ -3,6 +3,8 @@
 
 #include "RVCatalogueExport.h"
 
+#include <QAnyStringView>
+#include <QByteArray>
 #include <QList>
 #include <QString>
 
@@ -30,7 +32,7 @@ public:
     /// Every rule, grouped by subject.
     static QList<RVCatalogueRule> all();
     /// The rule of that name; null where there is none.
-    static RVCatalogueRule find(QStringView name);
+    static RVCatalogueRule find(QAnyStringView name);
 
     bool isNull() const noexcept { return !myRow; } ///< True for the default one.
     QLatin1StringView name() const; ///< Such as "keyword-unknown"; it stays the same from version to version.
