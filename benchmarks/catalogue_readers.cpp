@@ -1,7 +1,7 @@
 // usage: catalogue_readers CATALOGUE
 // Reads every value of every product out of one QDomDocument, with the readers and attribute classes of RVProductBase,
 // and prints their checksum.
-#include "ProductValues.h"
+#include "TypedProduct.h"
 
 #include <RVXMLParser.h>
 
@@ -64,7 +64,7 @@ QStringList families(const QDomElement &product)
     return result;
 }
 
-ProductValues valuesOf(const QDomElement &product, qint64 number)
+TypedProduct valuesOf(const QDomElement &product, qint64 number)
 {
     const RVArticleClass articleClass = keywords<RVArticleClass>(product, u"article_class"_s);
     const RVPageCountOrganization counts = pageCounts(product);

@@ -1,6 +1,6 @@
 // usage: catalogue_typed CATALOGUE
 // Reads every value of every product through the library of catalogues and prints their checksum.
-#include "ProductValues.h"
+#include "TypedProduct.h"
 
 #include <RVCatalogueReader.h>
 
@@ -14,7 +14,7 @@ RVPriceClass optionPriceClass(const RVCatalogueProduct &product, const RVConfigu
                              : product.optionPriceClass(options.constFirst().key(), options.constFirst().value());
 }
 
-ProductValues valuesOf(const RVCatalogueProduct &product)
+TypedProduct valuesOf(const RVCatalogueProduct &product)
 {
     const RVConfiguredArticleVariantList options = product.options();
     return {

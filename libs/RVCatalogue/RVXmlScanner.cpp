@@ -110,14 +110,14 @@ qsizetype lastTag(QByteArrayView text)
 
 QByteArray RVXmlTag::attributeName(int index) const
 {
-    const unsigned char *const *attribute = attributes + index * 5;
-    const QByteArray localName(reinterpret_cast<const char *>(attribute[0]));
-    return attribute[1] ? QByteArray(reinterpret_cast<const char *>(attribute[1])) + ':' + localName : localName;
+    const unsigned char *const *attribute = attributes + qptrdiff(index) * 5;
+    const QByteArray localName = QByteArrayView(attribute[0]).toByteArray();
+    return attribute[1] ? QByteArrayView(attribute[1]).toByteArray() + ':' + localName : localName;
 }
 
 QByteArrayView RVXmlTag::attributeValue(int index) const
 {
-    const unsigned char *const *attribute = attributes + index * 5;
+    const unsigned char *const *attribute = attributes + qptrdiff(index) * 5;
     return { attribute[3], attribute[4] };
 }
 
@@ -409,7 +409,7 @@ QString RVXmlScanner::parserError(const _xmlError &error, QByteArrayView before)
     if (known == std::end(ERROR_TEXTS))
         return QString::fromUtf8(error.message).simplified();
     if (error.code == XML_ERR_NAME_REQUIRED && before.endsWith('<'))
-        return tr("\"<\" does not begin a tag here; the letter itself is written \"&lt;\"");
+        return tr(R"("<" does not begin a tag here; the letter itself is written "&lt;")");
     const QString text = tr(known->text);
     return text.contains("%1"_L1) ? text.arg(shown(QByteArrayView(error.str1))) : text;
 }

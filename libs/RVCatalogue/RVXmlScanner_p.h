@@ -14,8 +14,10 @@
 #include <vector>
 
 class QIODevice;
+// NOLINTBEGIN(bugprone-reserved-identifier): the names are libxml2's
 struct _xmlError;
 struct _xmlParserCtxt;
+// NOLINTEND(bugprone-reserved-identifier)
 
 /// A start tag, valid as long as its handler runs.
 struct RVXmlTag

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 PIECE = 64 * 1024;
+constexpr qint64 PIECE = qint64(64) * 1024;
 /// A declaration is shorter than this.
 constexpr qint64 LONGEST_DECLARATION = 1024;
 
@@ -93,30 +93,32 @@ bool isSameFamily(const QByteArray &found, const QByteArray &declared)
 
 }
 
-struct RVXmlSource::Converter
+class RVXmlSource::Converter
 {
     Q_DISABLE_COPY_MOVE(Converter)
 
-    explicit Converter(const QByteArray &encoding) : handle(::iconv_open("UTF-8", encoding.constData())) { }
+public:
+    explicit Converter(const QByteArray &encoding) : myHandle(::iconv_open("UTF-8", encoding.constData())) { }
     ~Converter()
     {
         if (isKnown())
-            ::iconv_close(handle);
+            ::iconv_close(myHandle);
     }
 
-    bool isKnown() const { return handle != iconv_t(-1); } // NOLINT(performance-no-int-to-ptr): so is the error defined
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): so is the error defined
+    bool isKnown() const { return myHandle != iconv_t(-1); }
 
     /// Appends what can be converted; the bytes that are left over. False where they are wrong.
     bool convert(QByteArray *bytes, QByteArray *text) const
     {
         char *from = bytes->data();
-        std::size_t left = std::size_t(bytes->size());
+        auto left = std::size_t(bytes->size());
         bool isRight = true;
         while (left > 0 && isRight) {
             QByteArray piece(qsizetype(left) * 2 + 16, Qt::Uninitialized);
             char *to = piece.data();
-            std::size_t room = std::size_t(piece.size());
-            const bool isDone = ::iconv(handle, &from, &left, &to, &room) != std::size_t(-1);
+            auto room = std::size_t(piece.size());
+            const bool isDone = ::iconv(myHandle, &from, &left, &to, &room) != std::size_t(-1);
             text->append(piece.constData(), piece.size() - qsizetype(room));
             if (!isDone && errno == EINVAL)
                 break;
@@ -126,7 +128,8 @@ struct RVXmlSource::Converter
         return isRight;
     }
 
-    iconv_t handle;
+private:
+    iconv_t myHandle;
 };
 
 RVXmlSource::RVXmlSource(QIODevice *device) : myDevice(device) { }
@@ -135,14 +138,14 @@ RVXmlSource::~RVXmlSource() = default;
 
 QByteArray RVXmlSource::read()
 {
-    if (!myFault.isEmpty())
-        return QByteArray();
-    const QByteArray bytes = myHasBegun ? readDevice(PIECE) : readBegin();
-    if (!myConverter)
-        return bytes;
-    const QByteArray text = converted(myRest + bytes);
     // A piece may be but a part of a letter.
-    return text.isEmpty() && !bytes.isEmpty() ? read() : text;
+    while (myFault.isEmpty()) {
+        const QByteArray bytes = myHasBegun ? readDevice(PIECE) : readBegin();
+        QByteArray text = myConverter ? converted(myRest + bytes) : bytes;
+        if (!text.isEmpty() || bytes.isEmpty())
+            return text;
+    }
+    return QByteArray();
 }
 
 QString RVXmlSource::wrongEncodingText() const
@@ -174,12 +177,13 @@ QByteArray RVXmlSource::readDevice(qint64 size)
 QByteArray RVXmlSource::readBegin()
 {
     myHasBegun = true;
-    QByteArray bytes;
-    QByteArray piece;
-    do {
-        piece = readDevice(PIECE);
+    QByteArray bytes = readDevice(PIECE);
+    bool isAtEnd = bytes.isEmpty();
+    while (!isAtEnd && bytes.size() < LONGEST_DECLARATION) {
+        const QByteArray piece = readDevice(PIECE);
         bytes += piece;
-    } while (!piece.isEmpty() && bytes.size() < LONGEST_DECLARATION);
+        isAtEnd = piece.isEmpty();
+    }
     const QString deviceFault = std::exchange(myFault, QString());
     decideOnEncoding(&bytes);
     if (!myFault.isEmpty())

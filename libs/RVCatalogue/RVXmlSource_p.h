@@ -35,7 +35,7 @@ public:
     qint64 bytesRead() const { return myBytesRead; }
 
 private:
-    struct Converter;
+    class Converter;
     /// How the encoding is known.
     enum class Origin {
         Default,

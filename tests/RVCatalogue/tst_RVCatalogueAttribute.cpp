@@ -1,4 +1,4 @@
-#include "CatalogueFile.h"
+#include "CatalogueBuffer.h"
 
 #include <RVCatalogueAttribute.h>
 #include <RVCatalogueAttributes.h>
@@ -152,7 +152,7 @@ void tst_RVCatalogueAttribute::decodesAsItsClass()
 
 void tst_RVCatalogueAttribute::ofAProduct()
 {
-    CatalogueFile file("<p><product article_class='foto' cover_type='hardcover, nonsense' paper_type=''/></p>");
+    CatalogueBuffer file("<p><product article_class='foto' cover_type='hardcover, nonsense' paper_type=''/></p>");
     const RVCatalogueProduct product = RVCatalogueReader(&file).next();
     const auto attribute = [](QStringView name) { return RVCatalogueAttribute::find(name); };
     QVERIFY(attribute(u"cover_type").isIn(product));
@@ -174,8 +174,8 @@ void tst_RVCatalogueAttribute::everyAttributeOfAProduct()
     for (const RVCatalogueAttribute &attribute : RVCatalogueAttribute::ofProducts()) {
         const QList<RVCatalogueAttributeValue> values = attribute.values();
         for (const RVCatalogueAttributeValue &value : values) {
-            CatalogueFile file("<product " + QByteArray(attribute.name().data()) + "='" + value.keyword.toUtf8()
-                               + "'/>");
+            CatalogueBuffer file("<product " + QByteArray(attribute.name().data()) + "='" + value.keyword.toUtf8()
+                                 + "'/>");
             const RVCatalogueProduct product = RVCatalogueReader(&file).next();
             QCOMPARE(attribute.value(product), attribute.decode(value.keyword).value);
         }

@@ -890,8 +890,7 @@ void tst_RVCatalogueCheck::everyKeyword()
             QVERIFY2(keywordFindings(attribute, value.keyword).isEmpty(), qPrintable(value.keyword));
             const QString spelled = u' ' + value.keyword.toUpper() + u'\t';
             QVERIFY2(keywordFindings(attribute, spelled).isEmpty(), qPrintable(value.keyword));
-            bool isNumber = false;
-            value.keyword.toInt(&isNumber);
+            const bool isNumber = QString::number(value.keyword.toInt()) == value.keyword;
             for (const QString &alias : value.aliases) {
                 const QString text = u"\"%1\" is an alias in %2; the main keyword is \"%3\""_s;
                 QCOMPARE(keywordFindings(attribute, alias),

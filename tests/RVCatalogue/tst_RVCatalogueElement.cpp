@@ -1,4 +1,4 @@
-#include "CatalogueFile.h"
+#include "CatalogueBuffer.h"
 
 #include <RVCatalogueReader.h>
 
@@ -11,7 +11,7 @@ namespace {
 
 RVCatalogueProduct productOf(const QByteArray &content)
 {
-    CatalogueFile file(content);
+    CatalogueBuffer file(content);
     return RVCatalogueReader(&file).next();
 }
 

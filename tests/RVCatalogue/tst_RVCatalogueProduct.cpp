@@ -1,4 +1,4 @@
-#include "CatalogueFile.h"
+#include "CatalogueBuffer.h"
 #include "RandomCatalogue.h"
 
 #include <RVCatalogueAttributes.h>
@@ -14,7 +14,7 @@ namespace {
 
 QList<RVCatalogueProduct> productsOf(const QByteArray &content)
 {
-    CatalogueFile file(content);
+    CatalogueBuffer file(content);
     return RVCatalogueReader(&file).readAll();
 }
 

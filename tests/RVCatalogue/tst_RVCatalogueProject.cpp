@@ -1,4 +1,4 @@
-#include "CatalogueFile.h"
+#include "CatalogueBuffer.h"
 
 #include <RVCatalogueProject.h>
 
@@ -24,8 +24,8 @@ private Q_SLOTS:
 
 void tst_RVCatalogueProject::everything()
 {
-    CatalogueFile file("<!-- a -->\n<project productname='DUN9_48' pages='034'\n variants='alcolor:red,a;b:c;d'>"
-                       "<page productname='x'/></project>");
+    CatalogueBuffer file("<!-- a -->\n<project productname='DUN9_48' pages='034'\n variants='alcolor:red,a;b:c;d'>"
+                         "<page productname='x'/></project>");
     const RVCatalogueProject project = RVCatalogueProject::read(&file);
     QVERIFY(!project.hasError());
     QCOMPARE(project.errorString(), QString());
@@ -40,7 +40,7 @@ void tst_RVCatalogueProject::everything()
 
 void tst_RVCatalogueProject::nothing()
 {
-    CatalogueFile file("<x/>");
+    CatalogueBuffer file("<x/>");
     const RVCatalogueProject project = RVCatalogueProject::read(&file);
     QVERIFY(!project.hasError());
     QCOMPARE(project.type().toString(), u"DUN9"_s);
@@ -50,14 +50,14 @@ void tst_RVCatalogueProject::nothing()
 
 void tst_RVCatalogueProject::emptyType()
 {
-    CatalogueFile file("<x productname=''/>");
+    CatalogueBuffer file("<x productname=''/>");
     QVERIFY(RVCatalogueProject::read(&file).type().isUnknown());
 }
 
 // Only the start of the root element is kept, so what is in it may be of any size.
 void tst_RVCatalogueProject::largeContent()
 {
-    CatalogueFile file("<project pages='3'>" + QByteArray("<page a='b'/>\n").repeated(200000) + "</project>");
+    CatalogueBuffer file("<project pages='3'>" + QByteArray("<page a='b'/>\n").repeated(200000) + "</project>");
     const RVCatalogueProject project = RVCatalogueProject::read(&file);
     QVERIFY2(!project.hasError(), qPrintable(project.errorString()));
     QCOMPARE(project.pages(), u"3"_s);
@@ -82,7 +82,7 @@ void tst_RVCatalogueProject::errors_data()
 void tst_RVCatalogueProject::errors()
 {
     QFETCH(QByteArray, file);
-    CatalogueFile device(file);
+    CatalogueBuffer device(file);
     const RVCatalogueProject project = RVCatalogueProject::read(&device);
     QVERIFY(project.hasError());
     QTEST(project.errorString(), "error");

@@ -1,4 +1,4 @@
-#include "CatalogueFile.h"
+#include "CatalogueBuffer.h"
 
 #include <RVCatalogueReader.h>
 
@@ -15,17 +15,17 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// A device that fails after its content.
-class BrokenFile : public CatalogueFile
+class BrokenFile : public CatalogueBuffer
 {
 public:
-    using CatalogueFile::CatalogueFile;
+    using CatalogueBuffer::CatalogueBuffer;
 
     bool atEnd() const override { return false; }
 
 protected:
     qint64 readData(char *data, qint64 size) override
     {
-        const qint64 result = CatalogueFile::readData(data, size);
+        const qint64 result = CatalogueBuffer::readData(data, size);
         if (result > 0)
             return result;
         setErrorString(u"the disk is gone"_s);
@@ -71,7 +71,7 @@ QString errorOf(const RVCatalogueReader &reader)
 
 QString errorOf(const QByteArray &content)
 {
-    CatalogueFile file(content);
+    CatalogueBuffer file(content);
     RVCatalogueReader reader(&file);
     reader.finish();
     return errorOf(reader);
@@ -176,7 +176,7 @@ void tst_RVCatalogueReader::products_data()
 void tst_RVCatalogueReader::products()
 {
     QFETCH(QByteArray, file);
-    CatalogueFile device(file);
+    CatalogueBuffer device(file);
     RVCatalogueReader reader(&device);
     QTEST(typesOf(&reader), "types");
     QCOMPARE(errorOf(reader), QString());
@@ -223,7 +223,7 @@ void tst_RVCatalogueReader::placesOfProducts()
     QFETCH(QByteArray, file);
     QFETCH(QString, places);
     for (const bool isSlow : { false, true }) {
-        CatalogueFile quick(file);
+        CatalogueBuffer quick(file);
         OneByteFile slow(file);
         RVCatalogueReader reader(isSlow ? static_cast<QIODevice *>(&slow) : &quick);
         QStringList found;
@@ -436,7 +436,7 @@ void tst_RVCatalogueReader::manyAttributes()
 // The bound is on one product, not on the file.
 void tst_RVCatalogueReader::manyProducts()
 {
-    CatalogueFile file("<p>" + QByteArray("<product><forms><form/></forms></product>\n").repeated(60000) + "</p>");
+    CatalogueBuffer file("<p>" + QByteArray("<product><forms><form/></forms></product>\n").repeated(60000) + "</p>");
     QVERIFY(file.size() > 2 * 1024 * 1024);
     RVCatalogueReader reader(&file);
     qint64 count = 0;
@@ -448,7 +448,7 @@ void tst_RVCatalogueReader::manyProducts()
 
 void tst_RVCatalogueReader::productsBeforeAnError()
 {
-    CatalogueFile file("<p><product type='A'/><product type='B'/><product></p>");
+    CatalogueBuffer file("<p><product type='A'/><product type='B'/><product></p>");
     RVCatalogueReader reader(&file);
     QCOMPARE(typesOf(&reader), (QStringList { u"A"_s, u"B"_s }));
     QCOMPARE(errorOf(reader), u"1:51: </p> closes <product>, which was opened in line 1"_s);
@@ -457,7 +457,7 @@ void tst_RVCatalogueReader::productsBeforeAnError()
 
 void tst_RVCatalogueReader::errorWaitsForItsProducts()
 {
-    CatalogueFile file("<p><product type='A'/><product type='B'/></q>");
+    CatalogueBuffer file("<p><product type='A'/><product type='B'/></q>");
     RVCatalogueReader reader(&file);
     QCOMPARE(reader.next().type().toString(), u"A"_s);
     QVERIFY(!reader.hasError());
@@ -504,7 +504,7 @@ void tst_RVCatalogueReader::missingFile()
 
 void tst_RVCatalogueReader::openFileIsReadFromItsPlace()
 {
-    CatalogueFile file("no XML <p><product type='A'/></p>");
+    CatalogueBuffer file("no XML <p><product type='A'/></p>");
     file.seek(7);
     RVCatalogueReader reader(&file);
     QCOMPARE(typesOf(&reader), QStringList { u"A"_s });
@@ -512,7 +512,7 @@ void tst_RVCatalogueReader::openFileIsReadFromItsPlace()
 
 void tst_RVCatalogueReader::iteratesOnce()
 {
-    CatalogueFile file("<p><product type='A'/><product type='B'/><product type='C'/></p>");
+    CatalogueBuffer file("<p><product type='A'/><product type='B'/><product type='C'/></p>");
     RVCatalogueReader reader(&file);
     QCOMPARE(reader.next().type().toString(), u"A"_s);
     auto product = reader.begin();
@@ -527,7 +527,7 @@ void tst_RVCatalogueReader::iteratesOnce()
 
 void tst_RVCatalogueReader::readsAll()
 {
-    CatalogueFile file(numbered(3000));
+    CatalogueBuffer file(numbered(3000));
     RVCatalogueReader reader(&file);
     reader.next();
     const QList<RVCatalogueProduct> products = reader.readAll();
@@ -540,7 +540,7 @@ void tst_RVCatalogueReader::readsAll()
 
 void tst_RVCatalogueReader::finds()
 {
-    CatalogueFile file("<p><product type='A'/><product type='DUN9' name='B'/><product type='DUN9' name='C'/></p>");
+    CatalogueBuffer file("<p><product type='A'/><product type='DUN9' name='B'/><product type='DUN9' name='C'/></p>");
     RVCatalogueReader reader(&file);
     QCOMPARE(reader.find(u"DUN9_30"_s).name(), u"B"_s);
     QCOMPARE(reader.find(u"DUN9"_s).name(), u"C"_s);
@@ -550,7 +550,7 @@ void tst_RVCatalogueReader::finds()
 
 void tst_RVCatalogueReader::finishes()
 {
-    CatalogueFile file("<p><product type='A'/><product type='B'/></p>");
+    CatalogueBuffer file("<p><product type='A'/><product type='B'/></p>");
     RVCatalogueReader reader(&file);
     reader.next();
     QVERIFY(reader.finish());
@@ -561,7 +561,7 @@ void tst_RVCatalogueReader::finishes()
 void tst_RVCatalogueReader::tellsHowFarItIs()
 {
     const QByteArray content = numbered(20000);
-    CatalogueFile file(content);
+    CatalogueBuffer file(content);
     RVCatalogueReader reader(&file);
     QCOMPARE(reader.bytesRead(), qint64(0));
     QCOMPARE(reader.size(), qint64(content.size()));
@@ -585,7 +585,7 @@ void tst_RVCatalogueReader::mapsInOrder_data()
 void tst_RVCatalogueReader::mapsInOrder()
 {
     QFETCH(int, count);
-    CatalogueFile file(numbered(count));
+    CatalogueBuffer file(numbered(count));
     RVCatalogueReader reader(&file);
     QStringList types;
     reader.map(
@@ -608,7 +608,7 @@ void tst_RVCatalogueReader::mapsInOrder()
 
 void tst_RVCatalogueReader::mapUsesThreads()
 {
-    CatalogueFile file(numbered(50000));
+    CatalogueBuffer file(numbered(50000));
     RVCatalogueReader reader(&file);
     const QThread *caller = QThread::currentThread();
     std::atomic_int others = 0;
@@ -625,7 +625,7 @@ void tst_RVCatalogueReader::mapUsesThreads()
 
 void tst_RVCatalogueReader::mapStops()
 {
-    CatalogueFile file(numbered(100000));
+    CatalogueBuffer file(numbered(100000));
     RVCatalogueReader reader(&file);
     int taken = 0;
     reader.map([](const QList<RVCatalogueProduct> &products) { return products.size(); },
@@ -636,7 +636,7 @@ void tst_RVCatalogueReader::mapStops()
 
 void tst_RVCatalogueReader::mapGoesOnBehindNext()
 {
-    CatalogueFile file(numbered(10));
+    CatalogueBuffer file(numbered(10));
     RVCatalogueReader reader(&file);
     reader.next();
     reader.next();

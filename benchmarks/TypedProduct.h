@@ -1,5 +1,5 @@
-#ifndef PRODUCTVALUES_H
-#define PRODUCTVALUES_H
+#ifndef TYPEDPRODUCT_H
+#define TYPEDPRODUCT_H
 
 #include <RVArticleClass.h>
 #include <RVArticleId.h>
@@ -21,7 +21,7 @@
 #include <QStringList>
 
 /// Everything that a catalogue says of a product, as the classes of the library have it.
-struct ProductValues
+struct TypedProduct
 {
     RVProductType type;
     QString name;
@@ -51,7 +51,7 @@ struct ProductValues
 class ProductChecksum
 {
 public:
-    void add(const ProductValues &values);
+    void add(const TypedProduct &values);
     /// One line on the standard output.
     void print() const;
 

@@ -1,4 +1,4 @@
-#include "ProductValues.h"
+#include "TypedProduct.h"
 
 #include <QColor>
 #include <QHash>
@@ -6,7 +6,7 @@
 #include <cinttypes>
 #include <cstdio>
 
-void ProductChecksum::add(const ProductValues &values)
+void ProductChecksum::add(const TypedProduct &values)
 {
     ++myProducts;
     for (const QString &text : { values.type.toString(), values.name, values.priceClass.toString(),
