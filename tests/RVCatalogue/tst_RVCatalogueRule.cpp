@@ -1,5 +1,6 @@
 #include <RVCatalogueRule.h>
 
+#include <QList>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTest>
@@ -22,13 +23,14 @@ private Q_SLOTS:
 
 void tst_RVCatalogueRule::all()
 {
+    const QList<RVCatalogueRule> rules = RVCatalogueRule::all();
     QSet<QString> names;
-    for (const RVCatalogueRule rule : RVCatalogueRule::all())
+    for (const RVCatalogueRule rule : rules)
         names.insert(rule.name());
     QCOMPARE(names.size(), qsizetype(30));
-    QCOMPARE(RVCatalogueRule::all().size(), qsizetype(30));
-    QCOMPARE(RVCatalogueRule::all().first().name(), "products-missing"_L1);
-    QCOMPARE(RVCatalogueRule::all().last().name(), "price-class-unknown"_L1);
+    QCOMPARE(rules.size(), qsizetype(30));
+    QCOMPARE(rules.first().name(), "products-missing"_L1);
+    QCOMPARE(rules.last().name(), "price-class-unknown"_L1);
 }
 
 void tst_RVCatalogueRule::texts()

@@ -2,6 +2,7 @@
 
 #include <CatalogueLoader.h>
 
+#include <QByteArray>
 #include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -11,6 +12,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cstring>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -104,12 +106,15 @@ void tst_CatalogueLoader::opensTheFileOnce()
     QSignalSpy loaded(&loader, &CatalogueLoader::loaded);
     loader.start(fileName);
     QVERIFY(loaded.wait(TIMEOUT));
-    inotify_event events[10];
-    const auto size = ::read(watch, events, sizeof events);
+    QByteArray events(10 * sizeof(inotify_event), Qt::Uninitialized);
+    const auto size = ::read(watch, events.data(), std::size_t(events.size()));
     ::close(watch);
     int opened = 0;
-    for (int i = 0; i < int(size / ssize_t(sizeof(inotify_event))); ++i)
-        opened += (events[i].mask & IN_OPEN) != 0 ? 1 : 0;
+    for (qsizetype begin = 0; begin < size; begin += qsizetype(sizeof(inotify_event))) {
+        inotify_event event;
+        std::memcpy(&event, events.constData() + begin, sizeof event);
+        opened += (event.mask & IN_OPEN) != 0 ? 1 : 0;
+    }
     QCOMPARE(opened, 1);
     QCOMPARE(loaded.at(0).at(0).value<CataloguePointer>()->findings().size(), 300);
 }
