@@ -60,19 +60,19 @@ for package in librvproductbase0 librvproductbase-dev librvcatalogue0 librvcatal
     [[ $(field "$package" Version) == "$version" ]] || fail "$package has version $(field "$package" Version)"
     dpkg-deb --extract "$work"/packages/"$package"_*.deb "$root"
 done
-depends librvproductbase0 'libqt6core6 '
+depends librvproductbase0 'libqt6core6(t64)? '
 depends librvproductbase0 'libqt6gui6 '
 depends librvproductbase0 'libqt6xml6 '
 depends librvproductbase-dev "librvproductbase0 \(= $version\)"
 depends librvproductbase-dev 'qt6-base-dev '
 depends librvcatalogue0 "librvproductbase0 \(= $version\)"
 depends librvcatalogue0 'libxml2 '
-depends librvcatalogue0 'libqt6core6 '
+depends librvcatalogue0 'libqt6core6(t64)? '
 depends librvcatalogue-dev "librvcatalogue0 \(= $version\)"
 depends librvcatalogue-dev "librvproductbase-dev \(= $version\)"
 depends rvcatalog "librvproductbase0 \(= $version\)"
 depends rvcatalog "librvcatalogue0 \(= $version\)"
-depends rvcatalog 'libqt6core6 '
+depends rvcatalog 'libqt6core6(t64)? '
 depends rvcatalog 'libqt6svg6 '
 depends rvbrowser "librvproductbase0 \(= $version\)"
 depends rvbrowser "librvcatalogue0 \(= $version\)"
