@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QMutex>
 #include <QRunnable>
 #include <QSemaphore>
 #include <QThread>
@@ -52,16 +53,82 @@ private:
     QSemaphore myIsDone;
 };
 
-/// Keeps the order until the thread has left it, which is later than its result is there.
-class OrderTask : public QRunnable
+/// The orders that no thread has taken yet.
+class OrderQueue
 {
-public:
-    explicit OrderTask(const std::shared_ptr<Order> &order) : myOrder(order) { }
+    Q_DISABLE_COPY_MOVE(OrderQueue)
 
-    void run() override { myOrder->run(); }
+public:
+    OrderQueue() = default;
+
+    void add(const std::shared_ptr<Order> &order)
+    {
+        const QMutexLocker locker(&myMutex);
+        myOrders.push_back(order);
+        mySize.release();
+    }
+    /// Waits for one; null ends a thread.
+    std::shared_ptr<Order> take()
+    {
+        mySize.acquire();
+        const QMutexLocker locker(&myMutex);
+        const std::shared_ptr<Order> first = myOrders.front();
+        myOrders.pop_front();
+        return first;
+    }
+    /// Drops what waits and ends so many threads.
+    void end(int threads)
+    {
+        const QMutexLocker locker(&myMutex);
+        myOrders.insert(myOrders.begin(), std::size_t(threads), nullptr);
+        mySize.release(threads);
+    }
 
 private:
-    std::shared_ptr<Order> myOrder;
+    QMutex myMutex;
+    std::deque<std::shared_ptr<Order>> myOrders;
+    QSemaphore mySize;
+};
+
+/// Does one order after the other.
+class Worker : public QRunnable
+{
+public:
+    explicit Worker(OrderQueue *queue) : myQueue(queue) { }
+
+    void run() override
+    {
+        while (const std::shared_ptr<Order> order = myQueue->take())
+            order->run();
+    }
+
+private:
+    OrderQueue *myQueue;
+};
+
+/// The threads of one reading, as many as there is use for.
+class Workers
+{
+    Q_DISABLE_COPY_MOVE(Workers)
+
+public:
+    Workers() { myPool.setMaxThreadCount(mostThreads()); }
+    /// Waits for the orders that have begun; the others are dropped.
+    ~Workers() { myQueue.end(myThreads); }
+
+    void add(const std::shared_ptr<Order> &order)
+    {
+        myQueue.add(order);
+        if (myThreads == mostThreads())
+            return;
+        ++myThreads;
+        myPool.start(new Worker(&myQueue));
+    }
+
+private:
+    OrderQueue myQueue;
+    QThreadPool myPool; // goes first, and waits for its threads
+    int myThreads = 0;
 };
 
 }
@@ -272,8 +339,7 @@ void RVCatalogueReader::mapAny(const std::function<AnyResult(const QList<RVCatal
         return work(products);
     };
     std::deque<std::shared_ptr<Order>> orders;
-    QThreadPool pool; // waits for its threads at the end
-    pool.setMaxThreadCount(mostThreads());
+    Workers workers;
     const auto takeFirst = [&] {
         const AnyResult result = orders.front()->result();
         orders.pop_front();
@@ -286,11 +352,10 @@ void RVCatalogueReader::mapAny(const std::function<AnyResult(const QList<RVCatal
         if (orders.size() == 1 && !d->fill())
             orders.front()->run();
         else
-            pool.start(new OrderTask(orders.back()));
+            workers.add(orders.back());
         if (orders.size() >= std::size_t(mostThreads()) * 2)
             goesOn = takeFirst();
     }
     while (goesOn && !orders.empty())
         goesOn = takeFirst();
-    pool.clear();
 }

@@ -1,26 +1,22 @@
 // Tells ThreadSanitizer of the locks that Debian's Qt takes inside its own, uninstrumented library.
 //
-// QMutex reports itself from its header. QRecursiveMutex, QReadWriteLock, QSemaphore and the queue of QThreadPool do
-// their work in libQt6Core, so without this file everything that they guard looks like a race, and a lock that is
-// missing looks like all the others. A program that links this file calls Qt's own functions through the ones below.
-// Nothing has to be suppressed, and a lock that is taken out is found.
+// QMutex reports itself from its header. QRecursiveMutex, QReadWriteLock and QSemaphore do their work in libQt6Core, so
+// without this file everything that they guard looks like a race, and a lock that is missing looks like all the others.
+// A program that links this file calls Qt's own functions through the ones below. Nothing has to be suppressed, and a
+// lock that is taken out is found.
 #include "RecursiveLock.h"
 
 #include <QReadWriteLock>
-#include <QRunnable>
 #include <QSemaphore>
-#include <QThreadPool>
 
 #include <dlfcn.h>
 #include <sanitizer/tsan_interface.h>
 
 /// QtTest watches the time of each test from a thread of its own and waits for its end by a QWaitCondition, which is
-/// Qt's own lock between Qt's own threads. None of our code runs under either name. QThreadPool moves what waits in its
-/// queue, under a lock of its own, by a memmove() that Qt's library calls itself.
+/// Qt's own lock between Qt's own threads. None of our code runs under either name.
 extern "C" Q_DECL_EXPORT const char *__tsan_default_suppressions()
 {
     return "race:^QWaitCondition::\n"
-           "race_top:memmove\n"
            "called_from_lib:libQt6Test.so\n";
 }
 
@@ -119,36 +115,4 @@ void QSemaphore::acquire(int n)
     static const auto next = nextFunction<void (*)(QSemaphore *, int)>("_ZN10QSemaphore7acquireEi");
     next(this, n);
     __tsan_acquire(this);
-}
-
-namespace {
-
-/// A task that knows of everything that was done before it was handed to the pool.
-class HandedTask : public QRunnable
-{
-public:
-    explicit HandedTask(QRunnable *task) : myTask(task) { }
-
-    void run() override
-    {
-        __tsan_acquire(this);
-        const bool isOurs = myTask->autoDelete();
-        myTask->run();
-        if (isOurs)
-            delete myTask;
-    }
-
-private:
-    QRunnable *myTask;
-};
-
-}
-
-void QThreadPool::start(QRunnable *runnable, int priority)
-{
-    static const auto next = nextFunction<void (*)(QThreadPool *, QRunnable *, int)>(
-            "_ZN11QThreadPool5startEP9QRunnablei");
-    auto *task = new HandedTask(runnable);
-    __tsan_release(task);
-    next(this, task, priority);
 }
