@@ -212,7 +212,8 @@ RVCatalogueProduct RVCatalogueReaderPrivate::next()
         return RVCatalogueProduct();
     const RVCatalogueProduct product = std::move(myProducts[myNext++]);
     findDuplicates(product);
-    check({ product });
+    if (myCheck)
+        check({ product });
     return product;
 }
 
