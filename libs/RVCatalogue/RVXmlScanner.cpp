@@ -77,6 +77,13 @@ std::optional<char32_t> letterIn(QByteArrayView text)
     return std::nullopt;
 }
 
+/// True for a letter that no XML file may hold.
+bool isForbidden(std::optional<char32_t> letter)
+{
+    const bool isControl = letter && *letter < 0x20 && (*letter == 0 || !std::strchr("\t\r\n", int(*letter)));
+    return isControl || letter == char32_t(0xfffe) || letter == char32_t(0xffff);
+}
+
 /// A name as a message can show it.
 QString shown(QByteArrayView name)
 {
@@ -372,7 +379,8 @@ void RVXmlScanner::judge(const _xmlError &error)
         return refuseUnknownEntity(shown(QByteArrayView(error.str1)), before);
     if (error.code == XML_ERR_TAG_NAME_MISMATCH && !myOpenElements.empty() && !before.isEmpty())
         return failAt(wrongEnd(before), myWindowBegin + lastTag(before));
-    if (myIsEnding && (!myOpenElements.empty() || error.code == XML_ERR_DOCUMENT_EMPTY || !myHasElements))
+    const bool isUnfinished = !myOpenElements.empty() || error.code == XML_ERR_DOCUMENT_EMPTY || !myHasElements;
+    if (myIsEnding && isUnfinished && !isForbidden(letterIn(textFrom(index))))
         return failEarly();
     failAt(wrongLetter(textFrom(index)).value_or(parserError(error, before)), index);
 }
@@ -396,8 +404,7 @@ std::optional<QString> RVXmlScanner::wrongLetter(QByteArrayView text) const
     const std::optional<char32_t> letter = letterIn(text);
     if (!letter)
         return text.isEmpty() ? std::nullopt : std::optional(mySource.wrongEncodingText());
-    const bool isControl = *letter < 0x20 && !std::strchr("\t\r\n", int(*letter));
-    if (!isControl && *letter != 0 && *letter != 0xfffe && *letter != 0xffff)
+    if (!isForbidden(letter))
         return std::nullopt;
     return tr("the character %1 is not allowed in XML").arg(codePoint(*letter));
 }

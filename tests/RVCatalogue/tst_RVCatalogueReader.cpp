@@ -303,6 +303,8 @@ void tst_RVCatalogueReader::errors_data()
                                          << u"2:1: the character U+0000 is not allowed in XML"_s;
     QTest::newRow("zero byte in a value")
             << QByteArray("<p><a b='\0'/></p>", 18) << u"1:10: the character U+0000 is not allowed in XML"_s;
+    QTest::newRow("zero byte in a tag that is cut off")
+            << QByteArray("<p>\n<a\0\0\0", 9) << u"2:3: the character U+0000 is not allowed in XML"_s;
     QTest::newRow("no character of Unicode")
             << QByteArray("<p>\xef\xbf\xbf</p>") << u"1:4: the character U+FFFF is not allowed in XML"_s;
 
