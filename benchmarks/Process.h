@@ -13,7 +13,7 @@
 /// A program with its path, and its arguments.
 using Command = std::vector<std::string>;
 
-/// What a process used from its start to its end.
+/// The resources that a process used from its start to its end.
 struct ProcessUsage
 {
     double seconds = 0; ///< On the clock.

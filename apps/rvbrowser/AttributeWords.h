@@ -19,7 +19,7 @@ public:
     /// The display names with their keywords behind them, such as "Hardcover (HARDCOVER)"; keywords alone where they
     /// have no name. Empty where the product does not tell the attribute.
     QString text(RVCatalogueAttribute attribute, const RVCatalogueProduct &product) const;
-    /// What somebody may type who looks for the product: the keywords, their aliases, their names.
+    /// The words by which a search finds the product: keywords, their aliases and their display names.
     QStringList searchTexts(RVCatalogueAttribute attribute, const RVCatalogueProduct &product) const;
 
 private:

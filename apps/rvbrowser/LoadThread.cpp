@@ -27,7 +27,7 @@ void LoadThread::run()
 
 bool LoadThread::open(ObservedFile *file)
 {
-    // A pipe would wait for whoever writes into it, and can be read but once.
+    // A pipe would wait for whoever writes into it, and can be read only once.
     const QFileInfo info(myFileName);
     const bool isReadable = !info.exists() || info.isFile();
     if (isReadable && file->open(QIODevice::ReadOnly))

@@ -27,8 +27,8 @@ public:
 
     /// Always the same facts in the same order.
     QList<Fact> facts() const;
-    /// What a search for the product may name besides its type, its name and its article id, in lower case. Many
-    /// products share it.
+    /// The words, in lower case, by which a search finds the product besides its type, name and article id. Many
+    /// products have the same words.
     QString searchText() const;
     /// What kind of article it is, in the words of the shop.
     static QString group(const RVArticleClass &articleClass);

@@ -68,7 +68,7 @@ private:
     bool myIsShown = false;
 };
 
-/// What was found in products that follow one another.
+/// The findings in some consecutive products.
 struct CheckedProducts
 {
     qint64 count = 0;
@@ -176,7 +176,7 @@ int writeRules(const Console &console)
     return EXIT_FINE;
 }
 
-/// Why one of the rules cannot be disabled; empty when all are.
+/// The reason why one of the rules cannot be disabled; empty if all were disabled.
 QString disable(RVCatalogueCheck *check, const QStringList &rules)
 {
     for (const QString &name : rules) {

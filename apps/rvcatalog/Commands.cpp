@@ -33,7 +33,8 @@ QString usage()
               "Exit codes: 0 fine, 1 problems found, 2 cannot read or write.\n"_L1;
 }
 
-/// What a command returned, unless its output has not arrived, say because a disk is full: half a list looks whole.
+/// The exit code of the command, or that of an unreadable file if its output could not be written, for example because
+/// the disk is full. Otherwise a user could take half a list for the whole.
 int withOutput(int exitCode, const Console &console)
 {
     if (std::fflush(console.output) == 0 && std::ferror(console.output) == 0)

@@ -10,14 +10,14 @@
 #include <memory>
 #include <string_view>
 
-/// What is wrong at one place of a file.
+/// A problem at one place of a file.
 struct Problem
 {
     RVFilePosition position;
     QString text; ///< one line, without a full stop
 };
 
-/// Where a command reads and writes: by default the standard streams of the process.
+/// The streams that a command reads and writes; by default the standard streams of the process.
 struct Console
 {
     std::FILE *input = stdin;

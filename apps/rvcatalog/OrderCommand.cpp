@@ -67,7 +67,7 @@ QStringList optionProblems(const Order &order)
     return problems;
 }
 
-/// Why no such number of pages can be ordered; empty where it can.
+/// The reason why this number of pages cannot be ordered; empty if it can.
 QString pageCountProblem(const Order &order)
 {
     const RVPageCountOrganization &counts = order.values.pageCounts;

@@ -27,7 +27,7 @@ public:
     void write(const ProductValues &values);
 
     void separator(std::string_view text) { myJson.separator(text); }
-    /// What was written since the last call.
+    /// The text written since the last call.
     std::string take() { return myJson.take(); }
 
 private:

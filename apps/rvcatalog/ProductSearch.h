@@ -7,7 +7,7 @@
 
 #include <optional>
 
-/// What came of looking for a product.
+/// The result of a search for a product.
 struct ProductSearch
 {
     RVCatalogueProduct product; ///< the first of the type; null where there is none

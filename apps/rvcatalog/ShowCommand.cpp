@@ -91,7 +91,7 @@ QString barcodeText(const RVBarcodeDefinition &barcode)
             QString::number(barcode.pageNr()));
 }
 
-/// What the product is, in keywords: "class book; cover HARDCOVER; binding glue", and its barcodes.
+/// The product in keywords, such as "class book; cover HARDCOVER; binding glue", and its barcodes.
 QStringList attributeTexts(const RVCatalogueProduct &product)
 {
     QStringList attributes;

@@ -24,7 +24,7 @@ QString tooManyCounts(const ProductValues &values)
             .arg(MOST_COUNTS);
 }
 
-/// Why the product has no table of spine widths; nothing where it has one.
+/// The reason why the product has no table of spine widths; nothing if it has one.
 std::optional<Problem> problem(const ProductValues &values)
 {
     const RVFilePosition position = values.product.range().begin;

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <array>
 
-/// What differs from attribute to attribute.
+/// Everything that differs from attribute to attribute.
 struct RVCatalogueAttributeFunctions
 {
     QLatin1StringView name;

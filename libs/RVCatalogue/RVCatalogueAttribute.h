@@ -21,7 +21,7 @@ struct RVCatalogueAttributeValue
     QString displayName; ///< Empty where it has none.
 };
 
-/// What a list of keywords says.
+/// The meaning of a list of keywords.
 /// @ingroup catalogues
 struct RVCatalogueAttributeDecoding
 {

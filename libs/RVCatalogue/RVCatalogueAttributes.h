@@ -23,8 +23,8 @@ template<typename T>
 struct RVCatalogueAttributeRow
 {
     using Class = T; ///< The class of the attribute.
-    using Value = T (RVCatalogueProduct::*)() const; ///< What a product tells it by.
-    using DisplayName = QString (T::*)() const; ///< What people read for a value.
+    using Value = T (RVCatalogueProduct::*)() const; ///< The function of a product that returns it.
+    using DisplayName = QString (T::*)() const; ///< The function that returns the name of a value for people.
 
     /// The members in their order; without a value the attribute is none of products.
     /// @{

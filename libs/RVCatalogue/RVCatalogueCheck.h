@@ -34,7 +34,7 @@ public:
     void disable(RVCatalogueRule rule);
     bool isEnabled(RVCatalogueRule rule) const; ///< True unless the rule was disabled.
 
-    /// What is wrong with one product, by the rules that concern it alone; in the order of the file. Any thread.
+    /// Findings about one product, by the rules that concern it alone, in the order of the file. Any thread.
     QList<RVCatalogueFinding> findings(const RVCatalogueProduct &product) const;
 
 private:

@@ -21,7 +21,7 @@ T keywords(const RVCatalogueElement &product, const T &missing = T())
     return product.hasAttribute(name) ? T(product.attribute(name)) : missing;
 }
 
-/// What an element says in a unit of its own; millimetres where it does not say.
+/// The unit of the lengths in an element; millimetres where it names none.
 RVDistanceUnit unit(const RVCatalogueElement &element)
 {
     return RVDistanceUnit(element.attribute("units"_L1));

@@ -75,7 +75,7 @@ public:
     RVConfiguredArticleVariantList options() const;
     RVPriceClass priceClass() const; ///< "price_class"; what the product itself is billed by.
     RVPriceClass pagePriceClass() const; ///< "page_price_class"; what a package above the lowest count is billed by.
-    /// What the first option of that key and value is billed by; empty where it is not billed, or not there.
+    /// The billing code of the first option with that key and value; empty if it is not billed or not there.
     RVPriceClass optionPriceClass(const QString &key, const QString &value) const;
 
     /// The "name" of each element around the product that has one, from the outermost inwards.
@@ -83,7 +83,7 @@ public:
     qint64 number() const; ///< Products of a file count from 0; -1 for a null product.
     RVFileRange range() const; ///< The start tag.
     RVCatalogueElement element() const; ///< The product as it stands in the file.
-    /// What is wrong with the product, in the order of the file; nothing where the reader was given no check.
+    /// Findings about the product, in the order of the file; none if the reader was given no check.
     QList<RVCatalogueFinding> findings() const;
 
     /// The elements and attributes of the product in UTF-8, without comments and texts between tags, to be kept and

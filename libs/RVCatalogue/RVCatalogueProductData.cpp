@@ -12,7 +12,7 @@ class TagWalker
 public:
     explicit TagWalker(const RVXmlTag &tag) : myTag(tag.text), myAt(1 + tag.name.size()) { }
 
-    /// Where the next attribute stands in the tag; an empty name where there is none.
+    /// The place of the next attribute in the tag; its name is empty if there is none.
     RVCatalogueRows::Attribute next()
     {
         skipBlanks();

@@ -82,7 +82,7 @@ public:
     template<typename Work, typename Take>
     void map(Work work, Take take);
 
-    /// What the check found of the file as a whole; complete once everything was read.
+    /// Findings about the file as a whole; complete once everything was read.
     QList<RVCatalogueFinding> findings() const;
 
     /// True when no product follows, also after an error.
@@ -103,7 +103,7 @@ private:
     std::unique_ptr<RVCatalogueReaderPrivate> d;
 };
 
-/// What a range-based for loop needs: an input iterator, whose end is null.
+/// The input iterator for range-based for loops; its end is null.
 class RVCatalogueReader::Iterator
 {
 public:

@@ -8,7 +8,7 @@
 #include <QList>
 #include <QString>
 
-/// How bad a finding is: what is good to know, what is probably not meant, what goes wrong.
+/// The severity of a finding: a note is good to know, a warning is probably a mistake, an error certainly is.
 /// @ingroup catalogues
 enum class RVCatalogueSeverity {
     Note,

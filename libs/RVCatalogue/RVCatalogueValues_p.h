@@ -5,8 +5,8 @@
 
 #include <optional>
 
-/// What an attribute says by the rules of RVXMLParser; nothing where it is missing or cannot be read, for which the
-/// readers of products take their default.
+/// The value of an attribute by the rules of RVXMLParser; nothing if it is missing or cannot be read. Readers of
+/// products then take their default.
 /// @{
 std::optional<int> rvIntValue(const RVCatalogueElement &element, QLatin1StringView name);
 std::optional<double> rvDoubleValue(const RVCatalogueElement &element, QLatin1StringView name);

@@ -6,7 +6,7 @@
 #include <QByteArrayView>
 #include <QVarLengthArray>
 
-/// What several checks want to know of a form.
+/// The facts about a form that several checks share.
 struct RVCheckedOption
 {
     bool isComplete() const { return !key.isEmpty() && !value.isEmpty(); }

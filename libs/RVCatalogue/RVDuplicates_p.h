@@ -10,14 +10,14 @@
 class RVCatalogueProduct;
 class RVFindingReport;
 
-/// What may come only once in a file: types, after photo book codes are reduced to their family, and article ids. A
-/// type is known by its hash, which has 64 bits.
+/// Finds types and article ids that occur twice in a file. Photo book codes are reduced to their family first. A type
+/// is known by its hash, which has 64 bits.
 class RVDuplicates
 {
 public:
     explicit RVDuplicates(const RVCatalogueCheck &check) : myCheck(check) { }
 
-    /// What an earlier product has already. To be asked for each product once, in the order of the file.
+    /// Findings about ids that an earlier product has. Call it once for each product, in the order of the file.
     QList<RVCatalogueFinding> findings(const RVCatalogueProduct &product);
 
 private:

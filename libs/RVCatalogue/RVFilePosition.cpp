@@ -5,7 +5,8 @@
 
 namespace {
 
-/// How many columns a byte makes: continuation bytes are none, and the longest letters are two code units of UTF-16.
+/// The number of columns that a byte adds: a continuation byte adds none, and the first byte of a four-byte letter adds
+/// two, since that letter is two code units of UTF-16.
 int columns(char byte)
 {
     const auto bits = uchar(byte);

@@ -10,14 +10,14 @@
 
 class RVCatalogueCheck;
 
-/// Where all checks of one product report. What a check has disabled is dropped.
+/// Collects the findings of all checks of one product. Findings of disabled rules are dropped.
 class RVFindingReport
 {
 public:
     /// @p check outlives the report. @p product is the number of the product in the file.
     RVFindingReport(const RVCatalogueCheck &check, qint64 product) : myCheck(check), myProduct(product) { }
 
-    /// Where no single attribute is wrong: at the start tag.
+    /// Adds a finding at the start tag, for faults that are not in a single attribute.
     void add(RVCatalogueRuleId rule, const RVCatalogueElement &element, const QString &text);
     /// At the attribute; at the start tag where the attribute is missing.
     void add(RVCatalogueRuleId rule, const RVCatalogueElement &element, QLatin1StringView attribute,

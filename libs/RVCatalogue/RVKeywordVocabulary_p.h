@@ -12,7 +12,7 @@
 
 #include <vector>
 
-/// What is wrong with one piece of a keyword list.
+/// The fault of one piece of a keyword list.
 struct RVKeywordFault
 {
     QString piece; ///< as it was written, without blanks around it; may be empty

@@ -19,14 +19,14 @@
 class RVCATALOGUE_EXPORT RVNearestText
 {
 public:
-    /// What needs @p limit changes or more is passed over.
+    /// Texts that need @p limit changes or more are passed over.
     explicit RVNearestText(const QString &wanted, int limit = std::numeric_limits<int>::max());
 
     void offer(const QString &text); ///< One of the texts that could be meant.
 
     /// As it was offered; null while nothing was near enough.
     QString text() const { return myText; }
-    /// How many changes it needs; the limit while nothing was near enough.
+    /// The number of changes that it needs; the limit while nothing was near enough.
     int distance() const noexcept { return myDistance; }
 
 private:

@@ -130,7 +130,7 @@ QByteArrayView RVXmlTag::attributeValue(int index) const
 
 RVXmlHandler::~RVXmlHandler() = default;
 
-/// What the parser calls.
+/// The functions that the parser calls.
 struct RVXmlScanner::Events
 {
     static RVXmlScanner *scanner(void *data) { return static_cast<RVXmlScanner *>(data); }
@@ -357,7 +357,7 @@ void RVXmlScanner::failAt(const QString &error, qint64 index)
     fail(error, position(qBound(myWindowBegin + myEvent, index, myWindowBegin + myWindow.size())));
 }
 
-// What the parser complains of at the end of the file is that it is the end.
+// An error at the end of the file means that the file is cut off, whatever the parser calls it.
 void RVXmlScanner::failEarly()
 {
     if (myOpenElements.empty())
@@ -398,7 +398,7 @@ QString RVXmlScanner::wrongEnd(QByteArrayView text) const
             .arg(shown(nameOf(tag)), shown(innermostName()), QString::number(open.line));
 }
 
-/// Why a letter cannot stand in XML, where that is so.
+/// The message about a letter that XML does not allow; nothing for any other letter.
 std::optional<QString> RVXmlScanner::wrongLetter(QByteArrayView text) const
 {
     const std::optional<char32_t> letter = letterIn(text);

@@ -36,7 +36,7 @@ struct RVXmlTag
     /// @}
 };
 
-/// What becomes of the elements that RVXmlScanner finds.
+/// Receives the elements that RVXmlScanner finds.
 class RVXmlHandler
 {
     Q_DISABLE_COPY_MOVE(RVXmlHandler)
@@ -47,7 +47,7 @@ public:
 
     virtual void startElement(const RVXmlTag &tag) = 0;
     virtual void endElement() = 0;
-    /// True while what comes belongs to one piece of the file, which may have but 1 MiB.
+    /// True while the events belong to one piece of the file, which may have at most 1 MiB.
     virtual bool isInPiece() const = 0;
 };
 
@@ -65,7 +65,7 @@ public:
     RVXmlScanner(QIODevice *device, RVXmlHandler *handler);
     ~RVXmlScanner();
 
-    /// What is said of a file that could not be opened.
+    /// The message about a file that could not be opened.
     static QString openError(const QIODevice &file);
 
     /// Parses the next piece of the file; false when there was none, and after an error.

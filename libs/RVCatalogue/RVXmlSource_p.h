@@ -28,15 +28,15 @@ public:
 
     /// The next piece of the text without the byte order mark; empty at the end, and when there is a fault.
     QByteArray read();
-    /// Why the text ended before the file did; empty while it did not.
+    /// The reason why the text ended before the file did; empty while it did not.
     QString fault() const { return myFault; }
-    /// What a text says that is not written in its encoding.
+    /// The message about a text that is not written in its encoding.
     QString wrongEncodingText() const;
     qint64 bytesRead() const { return myBytesRead; }
 
 private:
     class Converter;
-    /// How the encoding is known.
+    /// The source from which the encoding is known.
     enum class Origin {
         Default,
         Declaration,

@@ -31,7 +31,7 @@ public:
     RVConfiguredArticleVariant(const QString &text);
     /// From the attributes of a "form" element.
     RVConfiguredArticleVariant(const QDomElement &element);
-    /// From its fields, for who reads them elsewhere.
+    /// From its fields, for code that reads them in another way.
     explicit RVConfiguredArticleVariant(const RVConfiguredArticleVariantImpl &fields);
     // Moves share the data as copies do, so that every object has some.
     RVConfiguredArticleVariant(const RVConfiguredArticleVariant &) = default;

@@ -168,7 +168,7 @@ void tst_RVCatalogueAttribute::ofAProduct()
     QCOMPARE(attribute(u"page_type").value(product), qint64(0));
 }
 
-// What a product tells is read from the attribute that has the name of the row.
+// A product reads its value from the attribute that has the name of the row.
 void tst_RVCatalogueAttribute::everyAttributeOfAProduct()
 {
     for (const RVCatalogueAttribute &attribute : RVCatalogueAttribute::ofProducts()) {

@@ -120,7 +120,7 @@ QByteArray escaped(const QString &text)
     return text.toHtmlEscaped().replace(u'\t', "&#9;"_L1).toUtf8();
 }
 
-/// What is found of one list of keywords.
+/// The findings about one list of keywords.
 QStringList keywordFindings(RVCatalogueAttribute attribute, const QString &list)
 {
     const QByteArray name = QByteArray(attribute.name().data(), attribute.name().size());
@@ -901,7 +901,7 @@ void tst_RVCatalogueCheck::everyKeyword()
     }
 }
 
-// What the check calls unknown is what the attribute does not decode.
+// Pieces that the check calls unknown are those that the attribute does not decode.
 void tst_RVCatalogueCheck::unknownAsDecoded()
 {
     QRandomGenerator random(20261121);

@@ -426,7 +426,7 @@ void tst_RVCatalogueReader::largeFaults()
     QTEST(errorOf(file), "error");
 }
 
-// Each attribute is compared with all others, so a tag with any number of them would take for ever.
+// Each attribute is compared with all others, so the time grows with the square of their number.
 void tst_RVCatalogueReader::manyAttributes()
 {
     QByteArray file = "<p>\n<product";

@@ -68,7 +68,7 @@ bool allGet(Function function, const Expected &expected)
     return true;
 }
 
-/// What a thread sees of the keyword table of an attribute.
+/// The keyword table of an attribute as a thread sees it.
 template<typename Attribute>
 auto tableOf()
 {

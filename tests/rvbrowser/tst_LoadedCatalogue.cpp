@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A stream, which can be read but once, and counts what is read of it.
+/// A stream, which can be read only once, and counts the bytes that are read.
 class CountedStream : public QIODevice
 {
 public:
@@ -76,7 +76,7 @@ qsizetype bytes(const QString &text)
 
 }
 
-/// What the window keeps of a catalogue.
+/// The catalogue as the window keeps it.
 class tst_LoadedCatalogue : public QObject
 {
     Q_OBJECT

@@ -108,7 +108,7 @@ void tst_ProductPack::keepsALargeProduct()
     QCOMPARE(pack.product(0).options().size(), 33000);
 }
 
-// What many products have in common is there but once.
+// Texts that many products have in common are stored once.
 void tst_ProductPack::needsLittle()
 {
     QByteArray content = "<p>";

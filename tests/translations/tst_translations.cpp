@@ -89,7 +89,7 @@ void tst_translations::germanPluralForms()
     QCoreApplication::removeTranslator(&translator);
 }
 
-// What the library says of a catalogue is English without the translator.
+// Messages about catalogues are English without the translator.
 void tst_translations::germanCatalogues()
 {
     QTranslator translator;
