@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// 1 of the unit where it is missing.
+/// The length that the attribute gives; 1 of the unit where it is missing.
 RVDistance readLength(const QDomElement &element, const QString &name, const RVDistanceUnit &unit)
 {
     return RVXMLParser::readDistance(element, name, 1.0, unit);
@@ -47,10 +47,13 @@ RVBarcodeDefinition::~RVBarcodeDefinition() = default;
 
 RVBarcodeDefinition RVBarcodeDefinition::createFromProductsXML(const QDomElement &element, const RVDistanceUnit &unit)
 {
-    return createFromLengths(readLength(element, u"position_x"_s, unit), readLength(element, u"position_y"_s, unit),
-                             readLength(element, u"width"_s, unit), readLength(element, u"height"_s, unit),
-                             RVXMLParser::intAttribute(element.attributes(), u"pageNr"_s, 0),
-                             RVXMLParser::attribute(element, u"image"_s, DEFAULT_IMAGE_NAME, true));
+    const RVDistance x = readLength(element, u"position_x"_s, unit);
+    const RVDistance y = readLength(element, u"position_y"_s, unit);
+    const RVDistance width = readLength(element, u"width"_s, unit);
+    const RVDistance height = readLength(element, u"height"_s, unit);
+    const QString imageName = RVXMLParser::attribute(element, u"image"_s, DEFAULT_IMAGE_NAME, true);
+    const int pageNr = RVXMLParser::intAttribute(element.attributes(), u"pageNr"_s, 0);
+    return createFromLengths(x, y, width, height, pageNr, imageName);
 }
 
 RVBarcodeDefinition RVBarcodeDefinition::createFromLengths(const RVDistance &x, const RVDistance &y,
