@@ -12,6 +12,8 @@
 #include "RVPriceClassCheck_p.h"
 #include "RVSpineCheck_p.h"
 
+#include <QHash>
+#include <QSet>
 #include <QSharedData>
 
 #include <bitset>
@@ -22,7 +24,27 @@ class RVCatalogueCheckData : public QSharedData
 {
 public:
     std::bitset<RV_CATALOGUE_RULE_COUNT> disabled;
+    QHash<RVCatalogueRuleId, RVCatalogueSeverity> severities; // that were set
+    QSet<QString> foreignNames;
+    QStringList priceClasses; // sorted
+    QHash<quint64, QSizeF> pageSizes; // by the hash of the type
 };
+
+namespace {
+
+RVCatalogueRuleId idOf(RVCatalogueRule rule)
+{
+    return RVCatalogueRuleRow::of(rule)->id;
+}
+
+RVCatalogueCheckData *writable(QSharedDataPointer<RVCatalogueCheckData> *data)
+{
+    if (!*data)
+        *data = new RVCatalogueCheckData;
+    return data->data();
+}
+
+}
 
 // Without data nothing is disabled.
 RVCatalogueCheck::RVCatalogueCheck() = default;
@@ -34,23 +56,67 @@ RVCatalogueCheck::~RVCatalogueCheck() = default;
 
 void RVCatalogueCheck::disable(RVCatalogueRule rule)
 {
-    if (rule.isNull())
-        return;
-    if (!d)
-        d = new RVCatalogueCheckData;
-    d->disabled.set(std::size_t(RVCatalogueRuleRow::of(rule)->id));
+    if (!rule.isNull())
+        writable(&d)->disabled.set(std::size_t(idOf(rule)));
 }
 
 bool RVCatalogueCheck::isEnabled(RVCatalogueRule rule) const
 {
-    return !rule.isNull() && !(d && d->disabled.test(std::size_t(RVCatalogueRuleRow::of(rule)->id)));
+    return !rule.isNull() && !(d && d->disabled.test(std::size_t(idOf(rule))));
+}
+
+void RVCatalogueCheck::setSeverity(RVCatalogueRule rule, RVCatalogueSeverity severity)
+{
+    if (rule.isNull())
+        return;
+    RVCatalogueCheckData *data = writable(&d);
+    data->disabled.reset(std::size_t(idOf(rule)));
+    data->severities.insert(idOf(rule), severity);
+}
+
+RVCatalogueSeverity RVCatalogueCheck::severity(RVCatalogueRule rule) const
+{
+    return d && !rule.isNull() ? d->severities.value(idOf(rule), rule.severity()) : rule.severity();
+}
+
+void RVCatalogueCheck::addForeignNames(const QStringList &names)
+{
+    writable(&d)->foreignNames.unite(QSet<QString>(names.begin(), names.end()));
+}
+
+bool RVCatalogueCheck::isForeign(const QString &name) const
+{
+    return d && d->foreignNames.contains(name);
+}
+
+void RVCatalogueCheck::addPriceClasses(const QStringList &codes)
+{
+    QStringList &all = writable(&d)->priceClasses;
+    all += codes;
+    all.sort();
+    all.removeDuplicates();
+}
+
+QStringList RVCatalogueCheck::priceClasses() const
+{
+    return d ? d->priceClasses : QStringList();
+}
+
+void RVCatalogueCheck::setPageSize(const RVProductType &type, const QSizeF &size)
+{
+    writable(&d)->pageSizes.insert(type.calcHashValue(), size);
+}
+
+QSizeF RVCatalogueCheck::pageSize(const RVProductType &type) const
+{
+    return d ? d->pageSizes.value(type.calcHashValue()) : QSizeF();
 }
 
 QList<RVCatalogueFinding> RVCatalogueCheck::findings(const RVCatalogueProduct &product) const
 {
     if (product.isNull())
         return {};
-    RVFindingReport report(*this, product.number());
+    RVFindingReport report(*this, product);
     RVIdCheck(&report).check(product);
     RVPartCheck(&report).check(product);
     RVKeywordCheck(&report).check(product);

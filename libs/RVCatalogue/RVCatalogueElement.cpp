@@ -99,6 +99,23 @@ RVFileRange RVCatalogueElement::attributeRange(QLatin1StringView name) const
              place(d->rows, element, attribute->end - element.tag.begin) };
 }
 
+std::optional<RVFileRange> RVCatalogueElement::valueRange(QLatin1StringView name, qsizetype from,
+                                                          qsizetype length) const
+{
+    const auto *attribute = d ? findAttribute(d->rows, d->rows.elements[myIndex], name) : nullptr;
+    if (!attribute)
+        return std::nullopt;
+    const RVCatalogueRows::Element &element = d->rows.elements[myIndex];
+    const bool isInTag = attribute->value.begin < element.tag.begin + element.tag.size;
+    const QString value = QString::fromUtf8(d->rows.view(attribute->value));
+    if (!isInTag || from < 0 || length < 0 || from > value.size() - length)
+        return std::nullopt;
+    const quint32 begin = attribute->value.begin - element.tag.begin;
+    const auto before = quint32(QStringView(value).first(from).toUtf8().size());
+    const auto piece = quint32(QStringView(value).sliced(from, length).toUtf8().size());
+    return RVFileRange { place(d->rows, element, begin + before), place(d->rows, element, begin + before + piece) };
+}
+
 RVCatalogueElement RVCatalogueElement::firstChildElement(QLatin1StringView name) const noexcept
 {
     if (!d)

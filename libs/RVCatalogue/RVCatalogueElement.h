@@ -8,6 +8,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 class RVCatalogueProductData;
 
 /**
@@ -44,6 +46,10 @@ public:
     /// The attribute from the first letter of its name to the quote behind its value; the start tag where it is
     /// missing.
     RVFileRange attributeRange(QLatin1StringView name) const;
+    /// A piece of a value, @p length UTF-16 code units from @p from on, which is read where it stands. Nothing where
+    /// the value has no such piece, where references or line ends make XML read something else than what stands in the
+    /// file, and where the attribute is not in the file.
+    std::optional<RVFileRange> valueRange(QLatin1StringView name, qsizetype from, qsizetype length) const;
 
     /// The first child, or the next sibling, of that name; of any name where it is empty. Texts and comments do not
     /// count.

@@ -7,15 +7,20 @@ class RVCatalogueFindingData : public QSharedData
 public:
     RVCatalogueFindingData(RVCatalogueRule rule_, const RVFileRange &range_, const QString &text_, qint64 product_)
         : rule(rule_),
+          severity(rule_.severity()),
           range(range_),
           text(text_),
           product(product_)
     { }
 
     RVCatalogueRule rule;
+    RVCatalogueSeverity severity;
     RVFileRange range;
     QString text;
     qint64 product;
+    QString productType;
+    QList<RVRelatedPlace> relatedPlaces;
+    QList<RVFileEdit> fix;
 };
 
 RVCatalogueFinding::RVCatalogueFinding() = default;
@@ -38,7 +43,7 @@ RVCatalogueRule RVCatalogueFinding::rule() const
 
 RVCatalogueSeverity RVCatalogueFinding::severity() const
 {
-    return rule().severity();
+    return d ? d->severity : RVCatalogueSeverity::Note;
 }
 
 RVFileRange RVCatalogueFinding::range() const
@@ -54,4 +59,43 @@ QString RVCatalogueFinding::text() const
 qint64 RVCatalogueFinding::product() const
 {
     return d ? d->product : -1;
+}
+
+QString RVCatalogueFinding::productType() const
+{
+    return d ? d->productType : QString();
+}
+
+QList<RVRelatedPlace> RVCatalogueFinding::relatedPlaces() const
+{
+    return d ? d->relatedPlaces : QList<RVRelatedPlace>();
+}
+
+QList<RVFileEdit> RVCatalogueFinding::fix() const
+{
+    return d ? d->fix : QList<RVFileEdit>();
+}
+
+void RVCatalogueFinding::setSeverity(RVCatalogueSeverity severity)
+{
+    if (d)
+        d->severity = severity;
+}
+
+void RVCatalogueFinding::setProductType(const QString &type)
+{
+    if (d)
+        d->productType = type;
+}
+
+void RVCatalogueFinding::setRelatedPlaces(const QList<RVRelatedPlace> &places)
+{
+    if (d)
+        d->relatedPlaces = places;
+}
+
+void RVCatalogueFinding::setFix(const QList<RVFileEdit> &edits)
+{
+    if (d)
+        d->fix = edits;
 }

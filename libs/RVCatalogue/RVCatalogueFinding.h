@@ -3,16 +3,19 @@
 
 #include "RVCatalogueExport.h"
 #include "RVCatalogueRule.h"
+#include "RVFileEdit.h"
 #include "RVFileRange.h"
+#include "RVRelatedPlace.h"
 
-#include <QExplicitlySharedDataPointer>
+#include <QList>
+#include <QSharedDataPointer>
 #include <QString>
 
 class RVCatalogueFindingData;
 
 /**
- * One place of a catalogue where something is to be mended, or could be written better. It never changes, so copies
- * share their data, also between threads. The default finding is null: it breaks no rule.
+ * One place of a catalogue where something is to be mended, or could be written better. Copies share their data until
+ * one of them is changed, also between threads. The default finding is null: it breaks no rule.
  *
  * @ingroup catalogues
  */
@@ -30,14 +33,27 @@ public:
 
     bool isNull() const noexcept { return !d; } ///< True for the default one.
     RVCatalogueRule rule() const; ///< The one that is broken.
-    RVCatalogueSeverity severity() const; ///< That of the rule.
+    RVCatalogueSeverity severity() const; ///< That of the rule, unless it was set.
     RVFileRange
     range() const; ///< The attribute that is wrong; the start tag of the element where it is not one attribute.
     QString text() const; ///< One line, without a full stop, in the language of the program.
     qint64 product() const; ///< Its number in the file from 0; -1 for the file as a whole.
+    QString productType() const; ///< As it stands in the file; empty where the product has none.
+    QList<RVRelatedPlace> relatedPlaces() const; ///< The other places that it is about; none for most.
+    /// The changes of the file that mend it, where there is one safe answer; none otherwise. All of them belong
+    /// together.
+    QList<RVFileEdit> fix() const;
+
+    /// None of these does anything to a null finding.
+    /// @{
+    void setSeverity(RVCatalogueSeverity severity);
+    void setProductType(const QString &type);
+    void setRelatedPlaces(const QList<RVRelatedPlace> &places);
+    void setFix(const QList<RVFileEdit> &edits);
+    /// @}
 
 private:
-    QExplicitlySharedDataPointer<const RVCatalogueFindingData> d;
+    QSharedDataPointer<RVCatalogueFindingData> d;
 };
 
 Q_DECLARE_TYPEINFO(RVCatalogueFinding, Q_RELOCATABLE_TYPE);

@@ -47,6 +47,11 @@ QByteArray RVCatalogueRule::example() const
     return myRow ? QByteArray(myRow->example) : QByteArray();
 }
 
+QByteArray RVCatalogueRule::mendedExample() const
+{
+    return myRow ? QByteArray(myRow->mended) : QByteArray();
+}
+
 QLatin1StringView rvSeverityName(RVCatalogueSeverity severity)
 {
     switch (severity) {

@@ -39,6 +39,7 @@ public:
     RVCatalogueSeverity severity() const; ///< Of its findings.
     QString reason() const; ///< One sentence on why it matters, in the language of the program.
     QByteArray example() const; ///< A catalogue in UTF-8 that breaks this rule and no other.
+    QByteArray mendedExample() const; ///< The same catalogue without its fault; it breaks no rule.
 
     /// By identity; null ones are equal.
     /// @{

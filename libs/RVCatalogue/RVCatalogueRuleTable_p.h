@@ -57,6 +57,7 @@ struct RVCatalogueRuleRow
     QLatin1StringView name;
     const char *reason; // a source text of RVFindingText
     const char *example;
+    const char *mended = ""; // the example without its fault
 };
 
 // clang-format off

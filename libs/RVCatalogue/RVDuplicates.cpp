@@ -22,7 +22,7 @@ QString typeText(const QString &type, const QString &family, quint32 line)
 
 QList<RVCatalogueFinding> RVDuplicates::findings(const RVCatalogueProduct &product)
 {
-    RVFindingReport report(myCheck, product.number());
+    RVFindingReport report(myCheck, product);
     const auto line = quint32(product.element().position().line);
     checkType(product, line, &report);
     checkArticleId(product, line, &report);

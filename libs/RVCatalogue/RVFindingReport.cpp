@@ -1,22 +1,48 @@
 #include "RVFindingReport_p.h"
 
 #include "RVCatalogueCheck.h"
+#include "RVCatalogueProduct.h"
 
 #include <algorithm>
+#include <optional>
 
-void RVFindingReport::add(RVCatalogueRuleId rule, const RVCatalogueElement &element, const QString &text)
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The text as it stands in a value between quotes.
+QString escaped(const QString &text)
 {
-    add(rule, element, QLatin1StringView(), text);
+    QString result = text.toHtmlEscaped();
+    return result.replace(u'\'', "&apos;"_L1);
+}
+
+}
+
+void RVFindingReport::add(RVCatalogueRuleId rule, const RVCatalogueElement &element, const QString &text,
+                          const RVFindingDetails &details)
+{
+    add(rule, element.range(), text, details);
 }
 
 void RVFindingReport::add(RVCatalogueRuleId rule, const RVCatalogueElement &element, QLatin1StringView attribute,
-                          const QString &text)
+                          const QString &text, const RVFindingDetails &details)
+{
+    add(rule, element.attributeRange(attribute), text, details);
+}
+
+void RVFindingReport::add(RVCatalogueRuleId rule, const RVFileRange &range, const QString &text,
+                          const RVFindingDetails &details)
 {
     const RVCatalogueRule broken = RVCatalogueRuleRow::rule(rule);
     if (!myCheck.isEnabled(broken))
         return;
-    const RVFileRange range = attribute.isEmpty() ? element.range() : element.attributeRange(attribute);
-    myFindings += RVCatalogueFinding(broken, range, text, myProduct);
+    RVCatalogueFinding finding(broken, range, text, myProduct.number());
+    finding.setSeverity(myCheck.severity(broken));
+    finding.setProductType(myProduct.element().attribute("type"_L1));
+    finding.setRelatedPlaces(details.places);
+    finding.setFix(details.fix);
+    myFindings += finding;
 }
 
 QList<RVCatalogueFinding> RVFindingReport::sorted() const
@@ -26,6 +52,30 @@ QList<RVCatalogueFinding> RVFindingReport::sorted() const
         return a.range().begin < b.range().begin;
     });
     return result;
+}
+
+RVRelatedPlace rvPlaceOf(const RVCatalogueElement &element, const QString &text)
+{
+    return { element.range(), text, QString() };
+}
+
+RVRelatedPlace rvPlaceOf(const RVCatalogueElement &element, QLatin1StringView attribute, const QString &text)
+{
+    return { element.attributeRange(attribute), text, QString() };
+}
+
+QList<RVFileEdit> rvReplaced(const RVCatalogueElement &element, QLatin1StringView attribute, qsizetype from,
+                             qsizetype length, const QString &text)
+{
+    const std::optional<RVFileRange> range = element.valueRange(attribute, from, length);
+    if (!range)
+        return {};
+    return { { *range, escaped(text) } };
+}
+
+QList<RVFileEdit> rvReplaced(const RVCatalogueElement &element, QLatin1StringView attribute, const QString &text)
+{
+    return rvReplaced(element, attribute, 0, element.attribute(attribute).size(), text);
 }
 
 QString rvLineOf(const RVCatalogueElement &element)

@@ -9,28 +9,58 @@
 #include <QString>
 
 class RVCatalogueCheck;
+class RVCatalogueProduct;
+
+/// Other places that a finding is about, and what mends it.
+struct RVFindingDetails
+{
+    QList<RVRelatedPlace> places = {};
+    QList<RVFileEdit> fix = {};
+};
 
 /// Collects the findings of all checks of one product. Findings of disabled rules are dropped.
 class RVFindingReport
 {
 public:
-    /// @p check outlives the report. @p product is the number of the product in the file.
-    RVFindingReport(const RVCatalogueCheck &check, qint64 product) : myCheck(check), myProduct(product) { }
+    /// Both outlive the report.
+    RVFindingReport(const RVCatalogueCheck &check, const RVCatalogueProduct &product)
+        : myCheck(check),
+          myProduct(product)
+    { }
+
+    const RVCatalogueCheck &check() const { return myCheck; }
+    const RVCatalogueProduct &product() const { return myProduct; }
 
     /// Adds a finding at the start tag, for faults that are not in a single attribute.
-    void add(RVCatalogueRuleId rule, const RVCatalogueElement &element, const QString &text);
+    void add(RVCatalogueRuleId rule, const RVCatalogueElement &element, const QString &text,
+             const RVFindingDetails &details = {});
     /// At the attribute; at the start tag where the attribute is missing.
     void add(RVCatalogueRuleId rule, const RVCatalogueElement &element, QLatin1StringView attribute,
-             const QString &text);
+             const QString &text, const RVFindingDetails &details = {});
+    /// At any place.
+    void add(RVCatalogueRuleId rule, const RVFileRange &range, const QString &text,
+             const RVFindingDetails &details = {});
 
     /// In the order of the file; those of one place as they were added.
     QList<RVCatalogueFinding> sorted() const;
 
 private:
     const RVCatalogueCheck &myCheck;
-    qint64 myProduct;
+    const RVCatalogueProduct &myProduct;
     QList<RVCatalogueFinding> myFindings;
 };
+
+/// The start tag of an element as the other place of a finding.
+RVRelatedPlace rvPlaceOf(const RVCatalogueElement &element, const QString &text);
+/// An attribute as the other place; the start tag where it is missing.
+RVRelatedPlace rvPlaceOf(const RVCatalogueElement &element, QLatin1StringView attribute, const QString &text);
+
+/// The edit that puts a text in the place of some letters of a value: escaped, and nothing where XML reads other
+/// letters than stand in the file, or where the attribute is not in the file.
+QList<RVFileEdit> rvReplaced(const RVCatalogueElement &element, QLatin1StringView attribute, qsizetype from,
+                             qsizetype length, const QString &text);
+/// The same for the whole value.
+QList<RVFileEdit> rvReplaced(const RVCatalogueElement &element, QLatin1StringView attribute, const QString &text);
 
 /// The number of the line where the element begins.
 QString rvLineOf(const RVCatalogueElement &element);

@@ -1,0 +1,31 @@
+#ifndef RVRELATEDPLACE_H
+#define RVRELATEDPLACE_H
+
+#include "RVFileRange.h"
+
+#include <QString>
+
+/**
+ * A second place that belongs to a finding, such as the first of two options that are the same.
+ *
+ * @ingroup catalogues
+ */
+struct RVRelatedPlace
+{
+    RVFileRange range; ///< The piece of the file that is meant.
+    QString text; ///< One line on what stands there, without a full stop, in the language of the program.
+    QString fileName; ///< Empty where it is the file of the finding.
+
+    /// By all three.
+    /// @{
+    friend bool operator==(const RVRelatedPlace &a, const RVRelatedPlace &b) noexcept
+    {
+        return a.range == b.range && a.text == b.text && a.fileName == b.fileName;
+    }
+    friend bool operator!=(const RVRelatedPlace &a, const RVRelatedPlace &b) noexcept { return !(a == b); }
+    /// @}
+};
+
+Q_DECLARE_TYPEINFO(RVRelatedPlace, Q_RELOCATABLE_TYPE);
+
+#endif
