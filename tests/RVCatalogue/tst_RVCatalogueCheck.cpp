@@ -1,3 +1,4 @@
+#include "CatalogueBuffer.h"
 #include "SampleProduct.h"
 
 #include <RVCatalogueAttribute.h>
@@ -89,6 +90,12 @@ QString textAt(const QByteArray &file, const RVFileRange &range)
     const auto nameEnd = std::find_if(text.begin(), text.end(),
                                       [](char letter) { return QByteArrayView(" />").contains(letter); });
     return QString::fromLatin1(text.first(nameEnd - text.begin()) + text.right(1));
+}
+
+RVCatalogueProduct firstProduct(const QByteArray &content)
+{
+    CatalogueBuffer file(content);
+    return RVCatalogueReader(&file).next();
 }
 
 /// The clean catalogue with one change.
@@ -432,6 +439,9 @@ private Q_SLOTS:
     void shrinkingSpines();
     void withoutAReader();
     void disabledRules();
+    void severities();
+    void productsOfFindings();
+    void ofThePrintHouse();
     void copies();
     void nullProduct();
     void sampleIsClean();
@@ -741,6 +751,53 @@ void tst_RVCatalogueCheck::disabledRules()
                      .texts(),
              QStringList());
     QCOMPARE(check(file, { u"no-such-rule"_s }).findings.size(), 2);
+}
+
+void tst_RVCatalogueCheck::severities()
+{
+    const RVCatalogueRule rule = RVCatalogueRule::find(u"keyword-unknown");
+    const RVCatalogueProduct product = firstProduct("<product type='A' article_id='1' cover_type='nothing'/>");
+    RVCatalogueCheck check;
+    QCOMPARE(check.severity(rule), RVCatalogueSeverity::Error);
+    check.disable(rule);
+    QVERIFY(check.findings(product).isEmpty());
+    check.setSeverity(rule, RVCatalogueSeverity::Note);
+    QVERIFY(check.isEnabled(rule));
+    QCOMPARE(check.severity(rule), RVCatalogueSeverity::Note);
+    QCOMPARE(check.findings(product).value(0).severity(), RVCatalogueSeverity::Note);
+    QCOMPARE(check.severity(RVCatalogueRule::find(u"type-missing")), RVCatalogueSeverity::Error);
+    check.setSeverity(RVCatalogueRule(), RVCatalogueSeverity::Error);
+    QCOMPARE(check.severity(RVCatalogueRule()), RVCatalogueSeverity::Note);
+}
+
+void tst_RVCatalogueCheck::productsOfFindings()
+{
+    const RVCatalogueCheck check;
+    const RVCatalogueProduct product = firstProduct("<product type='DUN9_30' pages='x'/>");
+    QCOMPARE(check.findings(product).size(), 2);
+    for (const RVCatalogueFinding &finding : check.findings(product))
+        QCOMPARE(finding.productType(), u"DUN9_30"_s);
+    QCOMPARE(check.findings(firstProduct("<product article_id='1'/>")).value(0).productType(), QString());
+}
+
+void tst_RVCatalogueCheck::ofThePrintHouse()
+{
+    RVCatalogueCheck check;
+    const RVCatalogueCheck before = check;
+    check.addForeignNames({ u"max_page"_s, u"from"_s });
+    check.addForeignNames({ u"sku"_s });
+    check.addPriceClasses({ u"B"_s, u"A"_s });
+    check.addPriceClasses({ u"C"_s, u"A"_s });
+    check.setPageSize(RVProductType(u"DUN9"_s), QSizeF(210, 297));
+    QVERIFY(check.isForeign(u"max_page"_s));
+    QVERIFY(check.isForeign(u"sku"_s));
+    QVERIFY(!check.isForeign(u"From"_s));
+    QCOMPARE(check.priceClasses(), (QStringList { u"A"_s, u"B"_s, u"C"_s }));
+    QCOMPARE(check.pageSize(RVProductType(u"DUN9_30"_s)), QSizeF(210, 297));
+    QVERIFY(!check.pageSize(RVProductType(u"DUN5"_s)).isValid());
+    QVERIFY(!before.isForeign(u"sku"_s));
+    QVERIFY(before.priceClasses().isEmpty());
+    QVERIFY(!before.pageSize(RVProductType(u"DUN9"_s)).isValid());
 }
 
 void tst_RVCatalogueCheck::copies()

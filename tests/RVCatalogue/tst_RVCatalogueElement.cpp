@@ -33,6 +33,8 @@ private Q_SLOTS:
     void longNames();
     void placesOfAttributes_data();
     void placesOfAttributes();
+    void piecesOfValues_data();
+    void piecesOfValues();
     void placesOfElements();
     void attributeOfTheDocumentType();
     void nameSpaces();
@@ -140,6 +142,45 @@ void tst_RVCatalogueElement::placesOfAttributes()
         QTEST(text(product.element().attributeRange("a"_L1)), "a");
         QTEST(text(product.element().attributeRange("b"_L1)), "b");
     }
+}
+
+void tst_RVCatalogueElement::piecesOfValues_data()
+{
+    QTest::addColumn<QString>("tag");
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("length");
+    QTest::addColumn<QString>("place");
+
+    QTest::newRow("whole value") << u"<product a='abc'/>"_s << 0 << 3 << u"1:13-1:16"_s;
+    QTest::newRow("inside") << u"<product a = \"abc\"/>"_s << 1 << 1 << u"1:16-1:17"_s;
+    QTest::newRow("before the first letter") << u"<product a='abc'/>"_s << 0 << 0 << u"1:13-1:13"_s;
+    QTest::newRow("behind the last letter") << u"<product a='abc'/>"_s << 3 << 0 << u"1:16-1:16"_s;
+    QTest::newRow("empty value") << u"<product a=''/>"_s << 0 << 0 << u"1:13-1:13"_s;
+    QTest::newRow("umlauts in front") << u"<product\n a='äöü'/>"_s << 2 << 1 << u"2:7-2:8"_s;
+    QTest::newRow("two code units") << u"<product a='\U0001F4D5b'/>"_s << 2 << 1 << u"1:15-1:16"_s;
+    QTest::newRow("too long") << u"<product a='abc'/>"_s << 1 << 3 << QString();
+    QTest::newRow("largest length") << u"<product a='abc'/>"_s << 1 << INT_MAX << QString();
+    QTest::newRow("negative") << u"<product a='abc'/>"_s << -1 << 1 << QString();
+    QTest::newRow("negative length") << u"<product a='abc'/>"_s << 1 << -1 << QString();
+    QTest::newRow("reference") << u"<product a='a&amp;c'/>"_s << 0 << 1 << QString();
+    QTest::newRow("line end") << u"<product a='a\nc'/>"_s << 0 << 1 << QString();
+    QTest::newRow("missing") << u"<product b='abc'/>"_s << 0 << 1 << QString();
+    QTest::newRow("of the document type")
+            << u"<!DOCTYPE product [<!ATTLIST product a CDATA 'abc'>]><product/>"_s << 0 << 1 << QString();
+}
+
+void tst_RVCatalogueElement::piecesOfValues()
+{
+    QFETCH(QString, tag);
+    QFETCH(int, from);
+    QFETCH(int, length);
+    for (const QByteArray &file : { tag.toUtf8(), QByteArray(QStringEncoder(QStringEncoder::Utf16LE)(tag)) }) {
+        const RVCatalogueProduct product = productOf(file);
+        QVERIFY(!product.isNull());
+        const std::optional<RVFileRange> range = product.element().valueRange("a"_L1, from, length);
+        QTEST(range ? text(*range) : QString(), "place");
+    }
+    QVERIFY(!RVCatalogueElement().valueRange("a"_L1, 0, 0));
 }
 
 void tst_RVCatalogueElement::placesOfElements()

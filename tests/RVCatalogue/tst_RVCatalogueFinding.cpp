@@ -11,6 +11,7 @@ class tst_RVCatalogueFinding : public QObject
 private Q_SLOTS:
     void values();
     void ofTheFile();
+    void whatIsSet();
     void nullFinding();
     void copiesAndMoves();
 };
@@ -45,14 +46,42 @@ void tst_RVCatalogueFinding::ofTheFile()
     QCOMPARE(finding.range().begin.line, qint64(1));
 }
 
+void tst_RVCatalogueFinding::whatIsSet()
+{
+    const QList<RVRelatedPlace> places = { { { { 3, 1 }, { 3, 9 } }, u"the first"_s, u"other.xml"_s } };
+    const QList<RVFileEdit> edits = { { { { 7, 17 }, { 7, 21 } }, u"hardcover"_s } };
+    RVCatalogueFinding finding = keywordFinding();
+    const RVCatalogueFinding before = finding;
+    QVERIFY(finding.productType().isEmpty());
+    QVERIFY(finding.relatedPlaces().isEmpty());
+    QVERIFY(finding.fix().isEmpty());
+    finding.setSeverity(RVCatalogueSeverity::Error);
+    finding.setProductType(u"DUN9"_s);
+    finding.setRelatedPlaces(places);
+    finding.setFix(edits);
+    QCOMPARE(finding.severity(), RVCatalogueSeverity::Error);
+    QCOMPARE(finding.productType(), u"DUN9"_s);
+    QVERIFY(finding.relatedPlaces() == places);
+    QVERIFY(finding.fix() == edits);
+    QCOMPARE(before.severity(), RVCatalogueSeverity::Note);
+    QVERIFY(before.fix().isEmpty());
+}
+
 void tst_RVCatalogueFinding::nullFinding()
 {
-    const RVCatalogueFinding finding;
+    RVCatalogueFinding finding;
+    finding.setSeverity(RVCatalogueSeverity::Error);
+    finding.setProductType(u"DUN9"_s);
+    finding.setRelatedPlaces({ {} });
+    finding.setFix({ {} });
     QVERIFY(finding.isNull());
     QVERIFY(finding.rule().isNull());
     QCOMPARE(finding.severity(), RVCatalogueSeverity::Note);
     QVERIFY(finding.range() == RVFileRange());
     QVERIFY(finding.text().isNull());
+    QVERIFY(finding.productType().isNull());
+    QVERIFY(finding.relatedPlaces().isEmpty());
+    QVERIFY(finding.fix().isEmpty());
     QCOMPARE(finding.product(), qint64(-1));
 }
 
