@@ -14,7 +14,7 @@ import statistics
 import subprocess
 import sys
 
-PROGRAMS = ["keywords", "bits", "variants", "producttype", "services", "xml", "priceclasses", "reader", "threads",
+PROGRAMS = ["keywords", "bits", "variants", "producttype", "services", "xml", "priceclasses", "reader", "search", "threads",
             "complexity", "catalogue", "memory"]
 SEEDS = {"seed 0": "0", "own seed": None}
 # How often a program runs with each seed, how many repetitions that is, and for how many seconds each.
@@ -51,6 +51,8 @@ TIMES = [
     ("price-class-set", "a named price class set; QSet from literals", "price_class_set/ours",
      "price_class_set/literals", 0.04, None),
     ("reader", "RVCatalogueReader, 1,000 products; libxml2 alone", "reader/ours", "reader/libxml2", 2.0, None),
+    ("search", "a key in the search line, 100,000 products; QSortFilterProxyModel", "search/ours", "search/proxy", 0.8,
+     None),
     ("catalogue-time", "rvcatalog show --json, 20,000 products; QDomDocument", "catalogue/ours", "catalogue/dom", 0.4,
      None),
 ]

@@ -387,6 +387,17 @@ Zeigt Kataloge von Druckprodukten.</translation>
             <numerusform>%n Produkte</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Nothing found: &amp;clear the search</source>
+        <translation>Nichts gefunden: Suche &amp;leeren</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n product(s)</source>
+        <translation>
+            <numerusform>%1 von %n Produkt</numerusform>
+            <numerusform>%1 von %n Produkten</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ProductTreeModel</name>

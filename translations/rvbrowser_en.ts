@@ -34,6 +34,13 @@
             <numerusform>%n products</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%1 of %n product(s)</source>
+        <translation>
+            <numerusform>%1 of %n product</numerusform>
+            <numerusform>%1 of %n products</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>SpinePanel</name>

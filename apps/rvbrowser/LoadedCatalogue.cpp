@@ -7,11 +7,25 @@
 #include <numeric>
 #include <utility>
 
+namespace {
+
+/// The texts of a product that hardly any other has.
+QString ownTexts(const LoadedCatalogue::Entry &entry)
+{
+    QStringList texts { entry.type.toString(), entry.name };
+    if (entry.articleId.isValid())
+        texts += entry.articleId.toString();
+    return texts.join(u'\n');
+}
+
+}
+
 /// Products that follow one another, and all that is kept of them but their places among the others.
 struct LoadedCatalogue::Batch
 {
     QList<Entry> entries;
-    QStringList groups; // one an entry
+    QStringList groups; // one for each entry
+    QStringList words; // by which a search finds it, besides its type, name and article id
     ProductPack pack;
     QList<RVCatalogueFinding> findings;
 };
@@ -25,15 +39,6 @@ void LoadedCatalogue::read(RVCatalogueReader *reader)
                 });
     myFindings += reader->findings();
     myTexts.clear();
-}
-
-QString LoadedCatalogue::searchText(int index) const
-{
-    const Entry &entry = myEntries.at(index);
-    QStringList texts { entry.type.toString(), entry.name };
-    if (entry.articleId.isValid())
-        texts += entry.articleId.toString();
-    return texts.join(u'\n').toLower() + u'\n' + entry.words;
 }
 
 RVCatalogueProduct LoadedCatalogue::product(int index) const
@@ -57,10 +62,10 @@ LoadedCatalogue::Batch LoadedCatalogue::batch(const QList<RVCatalogueProduct> &p
         entry.type = product.type();
         entry.name = product.name();
         entry.articleId = product.articleId();
-        entry.words = ProductFacts(product, myWords).searchText();
         entry.position = product.range().begin;
         entry.indexInPack = int(result.entries.size());
         result.entries += entry;
+        result.words += ProductFacts(product, myWords).searchText();
         result.groups += ProductFacts::group(product.articleClass());
         result.findings += product.findings();
     }
@@ -74,7 +79,7 @@ void LoadedCatalogue::append(Batch batch)
         entry.group = groupIndex(batch.groups.at(i));
         entry.type = shared(entry.type.toString());
         entry.name = shared(entry.name);
-        entry.words = shared(entry.words);
+        mySearchIndex.append(ownTexts(entry), batch.words.at(i));
         entry.pack = int(myPacks.size());
         if (!myIndexes.contains(entry.type))
             myIndexes.insert(entry.type, size());

@@ -3,6 +3,7 @@
 
 #include "AttributeWords.h"
 #include "ProductPack.h"
+#include "ProductSearchIndex.h"
 
 #include <RVCatalogueFinding.h>
 #include <RVCatalogueProduct.h>
@@ -31,7 +32,6 @@ public:
         RVProductType type;
         QString name;
         RVArticleId articleId;
-        QString words; // what a search may name besides these three
         RVFilePosition position;
         int group = 0; // index into groups()
         int pack = 0;
@@ -46,8 +46,8 @@ public:
     QString fileName() const { return myFileName; }
     int size() const { return int(myEntries.size()); }
     const Entry &at(int index) const { return myEntries.at(index); }
-    /// Everything that a search for the product may name, in lower case.
-    QString searchText(int index) const;
+    /// The texts by which products are found.
+    const ProductSearchIndex &searchIndex() const { return mySearchIndex; }
     /// The whole product, read again in every call; its number, place and findings are to be asked for here.
     RVCatalogueProduct product(int index) const;
     /// The first product of the type, which is the one that is sold; -1 where there is none.
@@ -71,6 +71,7 @@ private:
     AttributeWords myWords;
     QList<Entry> myEntries;
     QList<ProductPack> myPacks;
+    ProductSearchIndex mySearchIndex;
     QStringList myGroups;
     QHash<RVProductType, int> myIndexes;
     QList<RVCatalogueFinding> myFindings;

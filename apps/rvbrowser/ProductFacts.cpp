@@ -48,9 +48,25 @@ QString ProductFacts::searchText() const
         texts += myWords.searchTexts(attribute, myProduct);
     if (!articleClass.isNull())
         texts += articleClass.encodeBits();
+    texts += myProduct.priceClass().toString();
+    texts += myProduct.pagePriceClass().toString();
+    texts += optionTexts();
     texts.removeAll(QString());
     texts.removeDuplicates();
     return texts.join(u'\n').toLower();
+}
+
+QStringList ProductFacts::optionTexts() const
+{
+    constexpr auto name = "form"_L1;
+    QStringList result;
+    const RVCatalogueElement forms = myProduct.element().firstChildElement("forms"_L1);
+    for (auto form = forms.firstChildElement(name); !form.isNull(); form = form.nextSiblingElement(name)) {
+        for (const QLatin1StringView part :
+             { "key"_L1, "value"_L1, "key_name"_L1, "value_name"_L1, "editor_name"_L1, "price_class"_L1 })
+            result += form.attribute(part);
+    }
+    return result;
 }
 
 QString ProductFacts::group(const RVArticleClass &articleClass)

@@ -38,6 +38,7 @@ private:
     QString shippingGroup() const;
     QString kind() const;
     QString barcodes() const;
+    QStringList optionTexts() const;
 
     RVCatalogueProduct myProduct;
     const AttributeWords &myWords;

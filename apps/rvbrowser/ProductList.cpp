@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QScopedValueRollback>
 #include <QTreeView>
 #include <QVBoxLayout>
@@ -14,10 +15,9 @@ ProductList::ProductList(QWidget *parent)
     : QWidget(parent),
       mySearch(new QLineEdit),
       myView(new QTreeView),
+      myClear(new QPushButton(tr("Nothing found: &clear the search"))),
       myCount(new QLabel)
 {
-    myFilter.setSourceModel(&myModel);
-
     mySearch->setObjectName(u"search"_s);
     mySearch->setPlaceholderText(tr("Search type, article id, keyword, name"));
     mySearch->setAccessibleName(tr("Search products"));
@@ -28,7 +28,7 @@ ProductList::ProductList(QWidget *parent)
 
     myView->setObjectName(u"products"_s);
     myView->setAccessibleName(tr("Products"));
-    myView->setModel(&myFilter);
+    myView->setModel(&myModel);
     myView->setUniformRowHeights(true);
     myView->setAlternatingRowColors(true);
     myView->setAllColumnsShowFocus(true);
@@ -44,10 +44,16 @@ ProductList::ProductList(QWidget *parent)
                 Q_EMIT productChosen(myProduct);
             });
 
+    myClear->setObjectName(u"clearSearch"_s);
+    connect(myClear, &QPushButton::clicked, this, [this] {
+        mySearch->clear();
+        focusSearch();
+    });
     myCount->setObjectName(u"count"_s);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(mySearch);
     layout->addWidget(myView);
+    layout->addWidget(myClear);
     layout->addWidget(myCount);
     showCount();
 }
@@ -56,9 +62,7 @@ void ProductList::setCatalogue(const CataloguePointer &catalogue)
 {
     myProduct = -1;
     myModel.setCatalogue(catalogue);
-    for (int group = 0; group < myFilter.rowCount(); ++group)
-        myView->setFirstColumnSpanned(group, QModelIndex(), true);
-    myView->expandAll();
+    showGroups();
     myView->resizeColumnToContents(0);
     myView->setColumnWidth(0,
                            qBound(fontMetrics().averageCharWidth() * 14, myView->columnWidth(0),
@@ -68,21 +72,13 @@ void ProductList::setCatalogue(const CataloguePointer &catalogue)
 
 void ProductList::setCurrentProduct(int product)
 {
-    const QModelIndex index = myModel.indexOfProduct(product);
-    if (!index.isValid())
+    if (product < 0 || product >= myModel.productCount())
         return;
-    if (!myFilter.mapFromSource(index).isValid())
+    if (!myModel.indexOfProduct(product).isValid())
         mySearch->clear();
-    const QModelIndex shown = myFilter.mapFromSource(index);
+    const QModelIndex shown = myModel.indexOfProduct(product);
     myView->setCurrentIndex(shown);
     myView->scrollTo(shown);
-}
-
-int ProductList::firstProduct() const
-{
-    return myFilter.index(0, 0, myFilter.index(0, 0)).isValid()
-            ? myFilter.index(0, 0, myFilter.index(0, 0)).data(ProductTreeModel::ProductRole).toInt()
-            : -1;
 }
 
 void ProductList::focusSearch()
@@ -115,21 +111,29 @@ bool ProductList::eventFilter(QObject *watched, QEvent *event)
 void ProductList::search(const QString &text)
 {
     const QScopedValueRollback<bool> searching(myIsSearching, true);
-    myFilter.setSearch(text);
-    for (int group = 0; group < myFilter.rowCount(); ++group)
-        myView->setFirstColumnSpanned(group, QModelIndex(), true);
-    myView->expandAll();
-    // Qt would go on to a neighbour of the chosen product where that is hidden, but searching is not choosing.
-    const QModelIndex chosen = myFilter.mapFromSource(myModel.indexOfProduct(myProduct));
+    myModel.setSearch(text);
+    showGroups();
+    // A chosen product that is hidden stays the chosen one: searching is not choosing.
+    const QModelIndex chosen = myModel.indexOfProduct(myProduct);
     myView->setCurrentIndex(chosen);
     myView->scrollTo(chosen);
     showCount();
 }
 
+// Expands the groups one by one: to expand all would make the view remember every product as well.
+void ProductList::showGroups()
+{
+    for (int group = 0; group < myModel.rowCount(); ++group) {
+        myView->setFirstColumnSpanned(group, QModelIndex(), true);
+        myView->expand(myModel.index(group, 0));
+    }
+}
+
 void ProductList::showCount()
 {
-    int shown = 0;
-    for (int group = 0; group < myFilter.rowCount(); ++group)
-        shown += myFilter.rowCount(myFilter.index(group, 0));
-    myCount->setText(tr("%n product(s)", nullptr, shown));
+    const int all = myModel.productCount();
+    const int shown = myModel.shownProductCount();
+    myCount->setText(shown == all ? tr("%n product(s)", nullptr, all)
+                                  : tr("%1 of %n product(s)", nullptr, all).arg(shown));
+    myClear->setVisible(shown == 0 && all > 0);
 }

@@ -1,13 +1,13 @@
 #ifndef PRODUCTLIST_H
 #define PRODUCTLIST_H
 
-#include "ProductFilterModel.h"
 #include "ProductTreeModel.h"
 
 #include <QWidget>
 
 class QLabel;
 class QLineEdit;
+class QPushButton;
 class QTreeView;
 
 /// The products of a catalogue, with a line to search them.
@@ -23,7 +23,7 @@ public:
     /// Chooses a product by its number; a search that hides it is cleared.
     void setCurrentProduct(int product);
     /// The first product that is shown; -1 where there is none.
-    int firstProduct() const;
+    int firstProduct() const { return myModel.firstProduct(); }
     void focusSearch();
 
 Q_SIGNALS:
@@ -34,12 +34,13 @@ protected:
 
 private:
     void search(const QString &text);
+    void showGroups();
     void showCount();
 
     ProductTreeModel myModel;
-    ProductFilterModel myFilter;
     QLineEdit *mySearch;
     QTreeView *myView;
+    QPushButton *myClear; // shown where nothing is found
     QLabel *myCount;
     int myProduct = -1;
     bool myIsSearching = false;

@@ -18,21 +18,44 @@ void ProductTreeModel::setCatalogue(const CataloguePointer &catalogue)
 {
     beginResetModel();
     myCatalogue = catalogue;
-    myGroups = QList<QList<int>>(catalogue ? catalogue->groups().size() : 0);
-    myRows.clear();
-    for (int product = 0; catalogue && product < catalogue->size(); ++product) {
-        QList<int> &group = myGroups[catalogue->at(product).group];
-        myRows += int(group.size());
-        group += product;
-    }
+    fill();
     endResetModel();
+}
+
+void ProductTreeModel::setSearch(const QString &text)
+{
+    beginResetModel();
+    mySearch = text;
+    fill();
+    endResetModel();
+}
+
+// Groups come in the order of their first product that is shown.
+void ProductTreeModel::fill()
+{
+    const QList<int> shown = myCatalogue ? myCatalogue->searchIndex().find(mySearch) : QList<int>();
+    myShownProducts = int(shown.size());
+    myGroups.clear();
+    myRowsOfGroups.fill(-1, myCatalogue ? myCatalogue->groups().size() : 0);
+    myRows.fill(-1, productCount());
+    for (const int product : shown) {
+        const int number = myCatalogue->at(product).group;
+        if (myRowsOfGroups.at(number) < 0) {
+            myRowsOfGroups[number] = int(myGroups.size());
+            myGroups += Group { number, {} };
+        }
+        Group &group = myGroups[myRowsOfGroups.at(number)];
+        myRows[product] = int(group.products.size());
+        group.products += product;
+    }
 }
 
 QModelIndex ProductTreeModel::indexOfProduct(int product) const
 {
-    if (product < 0 || product >= myRows.size())
+    if (product < 0 || product >= myRows.size() || myRows.at(product) < 0)
         return QModelIndex();
-    return createIndex(myRows.at(product), 0, quintptr(myCatalogue->at(product).group) + 1);
+    const int group = myRowsOfGroups.at(myCatalogue->at(product).group);
+    return createIndex(myRows.at(product), 0, quintptr(group) + 1);
 }
 
 QModelIndex ProductTreeModel::index(int row, int column, const QModelIndex &parent) const
@@ -54,7 +77,7 @@ int ProductTreeModel::rowCount(const QModelIndex &parent) const
     if (!parent.isValid())
         return int(myGroups.size());
     const bool isGroup = parent.internalId() == GROUP_ID && parent.column() == 0;
-    return isGroup ? int(myGroups.at(parent.row()).size()) : 0;
+    return isGroup ? int(myGroups.at(parent.row()).products.size()) : 0;
 }
 
 int ProductTreeModel::columnCount(const QModelIndex &) const
@@ -67,8 +90,9 @@ QVariant ProductTreeModel::data(const QModelIndex &index, int role) const
     if (!index.isValid())
         return QVariant();
     if (index.internalId() == GROUP_ID)
-        return groupData(index.row(), index.column(), role);
-    return productData(myGroups.at(qsizetype(index.internalId()) - 1).at(index.row()), index.column(), role);
+        return groupData(myGroups.at(index.row()), index.column(), role);
+    const Group &group = myGroups.at(qsizetype(index.internalId()) - 1);
+    return productData(group.products.at(index.row()), index.column(), role);
 }
 
 QVariant ProductTreeModel::headerData(int section, Qt::Orientation orientation, int role) const
@@ -78,11 +102,11 @@ QVariant ProductTreeModel::headerData(int section, Qt::Orientation orientation, 
     return section == 0 ? tr("Type") : tr("Name");
 }
 
-QVariant ProductTreeModel::groupData(int group, int column, int role) const
+QVariant ProductTreeModel::groupData(const Group &group, int column, int role) const
 {
     switch (role) {
     case Qt::DisplayRole:
-        return column == 0 ? u"%1 (%2)"_s.arg(myCatalogue->groups().at(group)).arg(myGroups.at(group).size())
+        return column == 0 ? u"%1 (%2)"_s.arg(myCatalogue->groups().at(group.number)).arg(group.products.size())
                            : QString();
     case Qt::FontRole: {
         QFont font;
@@ -104,8 +128,6 @@ QVariant ProductTreeModel::productData(int product, int column, int role) const
         return column == 0 ? entry.type.orderTxtName() : entry.name;
     case Qt::ToolTipRole:
         return plainToolTip(entry.name);
-    case SearchRole:
-        return myCatalogue->searchText(product);
     case ProductRole:
         return product;
     default:

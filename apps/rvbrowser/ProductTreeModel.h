@@ -6,22 +6,27 @@
 #include <QAbstractItemModel>
 #include <QList>
 
-/// The products of a catalogue, in two columns (type and name), below their kinds of article.
+/// The products of a catalogue that a search finds, in two columns (type and name), below their kinds of article.
 class ProductTreeModel : public QAbstractItemModel
 {
     Q_OBJECT
 
 public:
     enum Role {
-        SearchRole = Qt::UserRole, ///< what a search looks at; products only
-        ProductRole, ///< the number of the product in the catalogue; -1 for a kind of article
+        ProductRole = Qt::UserRole, ///< the number of the product in the catalogue; -1 for a kind of article
     };
 
     using QAbstractItemModel::QAbstractItemModel;
 
     /// Null for no products.
     void setCatalogue(const CataloguePointer &catalogue);
-    /// The item of a product, by its number in the catalogue.
+    /// Shows the products in which each word is found; all of them where there is no word.
+    void setSearch(const QString &text);
+    int productCount() const { return myCatalogue ? myCatalogue->size() : 0; }
+    int shownProductCount() const { return myShownProducts; }
+    /// The first product that is shown; -1 where there is none.
+    int firstProduct() const { return myGroups.isEmpty() ? -1 : myGroups.constFirst().products.constFirst(); }
+    /// The item of a product, by its number in the catalogue; invalid where it is not shown.
     QModelIndex indexOfProduct(int product) const;
 
     QModelIndex index(int row, int column, const QModelIndex &parent = QModelIndex()) const override;
@@ -33,12 +38,22 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
 private:
-    QVariant groupData(int group, int column, int role) const;
+    struct Group
+    {
+        int number; // in the catalogue
+        QList<int> products;
+    };
+
+    void fill();
+    QVariant groupData(const Group &group, int column, int role) const;
     QVariant productData(int product, int column, int role) const;
 
     CataloguePointer myCatalogue;
-    QList<QList<int>> myGroups; // the products of each kind
-    QList<int> myRows; // of each product in its group
+    QString mySearch;
+    QList<Group> myGroups; // that have products
+    QList<int> myRowsOfGroups; // of each group of the catalogue
+    QList<int> myRows; // of each product in its group; -1 where it is not shown
+    int myShownProducts = 0;
 };
 
 #endif

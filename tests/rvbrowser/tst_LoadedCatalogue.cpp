@@ -86,7 +86,8 @@ private Q_SLOTS:
     void productsAndFindings();
     void findingsInTheOrderOfTheFile();
     void withoutProducts();
-    void searchText();
+    void search_data();
+    void search();
     void groups();
     void needsLittle();
 };
@@ -150,17 +151,33 @@ void tst_LoadedCatalogue::withoutProducts()
     QCOMPARE(catalogue->findings().constFirst().rule().name(), "products-missing"_L1);
 }
 
-void tst_LoadedCatalogue::searchText()
+void tst_LoadedCatalogue::search_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QList<int>>("products");
+
+    QTest::newRow("type") << u"dun9"_s << QList<int> { 0 };
+    QTest::newRow("article id") << u"17"_s << QList<int> { 0 };
+    QTest::newRow("missing article id") << u"0"_s << QList<int> { 0 }; // of 600cm2
+    QTest::newRow("name") << u"grosses buch"_s << QList<int> { 0 };
+    QTest::newRow("kind of article") << u"book"_s << QList<int> { 0 };
+    QTest::newRow("keywords") << u"hardcover softcover"_s << QList<int> { 0 };
+    QTest::newRow("size class and its alias") << u"600cm2 a4"_s << QList<int> { 0 };
+    QTest::newRow("option") << u"Weinrot"_s << QList<int> { 0 };
+    QTest::newRow("price class of an option") << u"coex"_s << QList<int> { 0 };
+    QTest::newRow("price class") << u"bk9"_s << QList<int> { 0 };
+    QTest::newRow("no kind of article") << u"without kind"_s << QList<int> { 1 };
+    QTest::newRow("all") << QString() << QList<int> { 0, 1 };
+}
+
+void tst_LoadedCatalogue::search()
 {
     CountedStream stream("<p><product type='DUN9' article_id='17' name='GROSSES Buch' article_class='book' "
-                         "cover_type='softcover,hardcover' space_magnitude='A4'/><product/></p>");
-    const auto catalogue = read(&stream);
-    QStringList texts = catalogue->searchText(0).split(u'\n');
-    for (const QString &wanted :
-         { u"dun9"_s, u"17"_s, u"grosses buch"_s, u"book"_s, u"hardcover"_s, u"softcover"_s, u"600cm2"_s, u"a4"_s })
-        QVERIFY2(texts.contains(wanted), qPrintable(wanted + " in "_L1 + texts.join(u' ')));
-    QVERIFY(!texts.contains(u"0"_s));
-    QCOMPARE(catalogue->searchText(1), u"\n\nwithout kind of article"_s);
+                         "cover_type='softcover,hardcover' space_magnitude='A4' price_class='BK9'><forms>"
+                         "<form key='c' value='r' value_name='Weinrot' price_class='COEX'/></forms></product>"
+                         "<product/></p>");
+    QFETCH(QString, text);
+    QTEST(read(&stream)->searchIndex().find(text), "products");
 }
 
 void tst_LoadedCatalogue::groups()
@@ -192,11 +209,11 @@ void tst_LoadedCatalogue::needsLittle()
     };
     for (int i = 0; i < count; ++i) {
         add(catalogue->at(i).name);
-        add(catalogue->at(i).words);
         kept += qsizetype(sizeof(LoadedCatalogue::Entry)) + bytes(catalogue->at(i).type.toString());
     }
     for (const RVCatalogueFinding &finding : catalogue->findings())
         add(finding.text());
+    kept += catalogue->searchIndex().byteCount();
     QVERIFY2(texts.size() < 60, qPrintable(QString::number(texts.size())));
     QVERIFY2(kept < count * 200, qPrintable(QString::number(kept / count)));
 }

@@ -99,10 +99,11 @@ void tst_ProductFacts::searchText_data()
     QTest::addColumn<QByteArray>("product");
     QTest::addColumn<QString>("text");
 
-    QTest::newRow("all") << QByteArray(FULL_PRODUCT)
-                         << u"ravo fotobuch hardcover softcover hard hardcover soft softcover glue glued "
-                            "klassische buchbindung indigo-glossy digital_printing_glossy glossy "
-                            "digitaldruck hochglanz 2 matt matt portrait square quadratic 600cm2 a4 a4 book"_s;
+    QTest::newRow("all")
+            << QByteArray(FULL_PRODUCT)
+            << u"ravo fotobuch hardcover softcover hard hardcover soft softcover glue glued "
+               "klassische buchbindung indigo-glossy digital_printing_glossy glossy "
+               "digitaldruck hochglanz 2 matt matt portrait square quadratic 600cm2 a4 a4 book pxb9 lez1"_s;
     QTest::newRow("none") << QByteArray("<product type='X' name='Y'/>") << u"without kind of article"_s;
     QTest::newRow("defaults of the kind of article")
             << QByteArray("<product article_class='foto'/>") << u"fotos & mehr 1 glossy glänzend foto"_s;

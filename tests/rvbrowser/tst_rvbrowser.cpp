@@ -69,6 +69,7 @@ private Q_SLOTS:
     void searches_data();
     void searches();
     void searchIsNoChoice();
+    void searchWithoutResult();
     void searchByKeys();
     void choosesByKeys();
     void attributesInWords();
@@ -211,7 +212,7 @@ void tst_rvbrowser::searches_data()
     QTest::newRow("keyword of the kind") << u"normal_calendar"_s << QStringList { u"VIR1"_s };
     QTest::newRow("another keyword for the same") << u"600cm2"_s << QStringList { u"DUN9"_s };
     QTest::newRow("display name of an attribute") << u"photo book"_s << QStringList { u"DUN9"_s, u"DUNS4"_s };
-    QTest::newRow("name, letter case") << u"GROSSES"_s << QStringList();
+    QTest::newRow("name, letter case") << u"GROSSES"_s << QStringList { u"DUN9"_s };
     QTest::newRow("name") << u"großes"_s << QStringList { u"DUN9"_s };
     QTest::newRow("two words in any order") << u"hardcover  dun"_s << QStringList { u"DUN9"_s };
     QTest::newRow("nothing") << u"dun 1002"_s << QStringList();
@@ -245,6 +246,23 @@ void tst_rvbrowser::searchIsNoChoice()
     }
     QTest::keyClick(products, Qt::Key_Down);
     QCOMPARE(text(u"title"_s), u"DUNS4 – Heft"_s);
+}
+
+void tst_rvbrowser::searchWithoutResult()
+{
+    load(CATALOGUE);
+    auto *clear = find<QPushButton>(u"clearSearch"_s);
+    QVERIFY(!clear->isVisible());
+    QTest::keyClicks(find<QLineEdit>(u"search"_s), u"calendar"_s);
+    QCOMPARE(text(u"count"_s), u"1 of 3 products"_s);
+    QVERIFY(!clear->isVisible());
+    QTest::keyClicks(find<QLineEdit>(u"search"_s), u"x"_s);
+    QCOMPARE(text(u"count"_s), u"0 of 3 products"_s);
+    QVERIFY(clear->isVisible());
+    QTest::mouseClick(clear, Qt::LeftButton);
+    QCOMPARE(shownTypes().size(), 3);
+    QVERIFY(!clear->isVisible());
+    QCOMPARE(QApplication::focusWidget(), find<QLineEdit>(u"search"_s));
 }
 
 void tst_rvbrowser::searchByKeys()

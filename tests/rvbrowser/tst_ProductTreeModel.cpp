@@ -1,0 +1,140 @@
+#include <LoadedCatalogue.h>
+#include <ProductTreeModel.h>
+
+#include <RVCatalogueReader.h>
+
+#include <QAbstractItemModelTester>
+#include <QBuffer>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+CataloguePointer read(QByteArray content)
+{
+    QBuffer buffer(&content);
+    buffer.open(QIODevice::ReadOnly);
+    RVCatalogueReader reader(&buffer);
+    auto result = std::make_shared<LoadedCatalogue>(QString());
+    result->read(&reader);
+    return result;
+}
+
+CataloguePointer mixed()
+{
+    return read("<p><product type='A' article_class='book' name='one'/><product type='B' article_class='fee'/>"
+                "<product type='C' article_class='book' name='two'/><product type='D' name='two'/></p>");
+}
+
+/// All that is shown: "group: type type; group: type".
+QString shown(const ProductTreeModel &model)
+{
+    QStringList groups;
+    for (int i = 0; i < model.rowCount(); ++i) {
+        const QModelIndex group = model.index(i, 0);
+        QStringList types;
+        for (int j = 0; j < model.rowCount(group); ++j)
+            types += model.index(j, 0, group).data().toString();
+        groups += group.data().toString() + ": "_L1 + types.join(u' ');
+    }
+    return groups.join("; "_L1);
+}
+
+}
+
+class tst_ProductTreeModel : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void search_data();
+    void search();
+    void indexes();
+    void nothing();
+    void isAModel();
+    void searchStays();
+};
+
+void tst_ProductTreeModel::search_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("groups");
+    QTest::addColumn<int>("first");
+
+    QTest::newRow("all") << QString() << u"Photo book (2): A C; Fees (1): B; Without kind of article (1): D"_s << 0;
+    QTest::newRow("in two groups") << u"two"_s << u"Photo book (1): C; Without kind of article (1): D"_s << 2;
+    QTest::newRow("one") << u"fee"_s << u"Fees (1): B"_s << 1;
+    QTest::newRow("none") << u"nothing"_s << QString() << -1;
+}
+
+void tst_ProductTreeModel::search()
+{
+    ProductTreeModel model;
+    model.setCatalogue(mixed());
+    QFETCH(QString, text);
+    QFETCH(QString, groups);
+    model.setSearch(text);
+    const QString german = groups.replace("Photo book"_L1, RVArticleClass(u"book"_s).toHumanReadable());
+    QCOMPARE(shown(model), german);
+    QTEST(model.firstProduct(), "first");
+    QCOMPARE(model.productCount(), 4);
+}
+
+void tst_ProductTreeModel::indexes()
+{
+    ProductTreeModel model;
+    model.setCatalogue(mixed());
+    for (const QString &text : { QString(), u"two"_s }) {
+        model.setSearch(text);
+        for (int product = 0; product < model.productCount(); ++product) {
+            const QModelIndex index = model.indexOfProduct(product);
+            const bool isShown = text.isEmpty() || product > 1;
+            QCOMPARE(index.isValid(), isShown);
+            if (isShown)
+                QCOMPARE(index.data(ProductTreeModel::ProductRole).toInt(), product);
+        }
+    }
+    QCOMPARE(model.shownProductCount(), 2);
+    QVERIFY(!model.indexOfProduct(-1).isValid());
+    QVERIFY(!model.indexOfProduct(4).isValid());
+}
+
+void tst_ProductTreeModel::nothing()
+{
+    ProductTreeModel model;
+    QCOMPARE(model.rowCount(), 0);
+    model.setSearch(u"no such product"_s);
+    QCOMPARE(model.firstProduct(), -1);
+    model.setCatalogue(mixed());
+    QCOMPARE(model.shownProductCount(), 0);
+    model.setCatalogue(nullptr);
+    QCOMPARE(model.productCount(), 0);
+    QCOMPARE(model.firstProduct(), -1);
+}
+
+void tst_ProductTreeModel::isAModel()
+{
+    ProductTreeModel model;
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
+    model.setCatalogue(mixed());
+    model.setSearch(u"two"_s);
+    model.setSearch(QString());
+    model.setCatalogue(nullptr);
+    QCOMPARE(resets.size(), 4);
+}
+
+// A catalogue that is read again is searched as the one before.
+void tst_ProductTreeModel::searchStays()
+{
+    ProductTreeModel model;
+    model.setSearch(u"one"_s);
+    model.setCatalogue(mixed());
+    QCOMPARE(model.shownProductCount(), 1);
+    QCOMPARE(model.firstProduct(), 0);
+}
+
+QTEST_MAIN(tst_ProductTreeModel)
+#include "tst_ProductTreeModel.moc"
