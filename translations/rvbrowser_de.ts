@@ -220,6 +220,14 @@ Zeigt Kataloge von Druckprodukten.</translation>
         <source>What was loaded before is still shown.</source>
         <translation>Gezeigt wird weiter, was zuvor geladen wurde.</translation>
     </message>
+    <message>
+        <source>The catalogue has no product of type &quot;%1&quot;.</source>
+        <translation>Der Katalog hat kein Produkt des Typs „%1“.</translation>
+    </message>
+    <message>
+        <source>%1 is gone. It is loaded again when it comes back.</source>
+        <translation>%1 ist nicht mehr da. Die Datei wird wieder geladen, sobald sie zurück ist.</translation>
+    </message>
 </context>
 <context>
     <name>MessageBanner</name>
@@ -446,10 +454,6 @@ Zeigt Kataloge von Druckprodukten.</translation>
 <context>
     <name>SpinePanel</name>
     <message>
-        <source>The page counts are not valid (%1).</source>
-        <translation>Die Seitenzahlen sind ungültig (%1).</translation>
-    </message>
-    <message>
         <source>always</source>
         <translation>immer</translation>
     </message>
@@ -469,23 +473,31 @@ Zeigt Kataloge von Druckprodukten.</translation>
         <source>This product has no spine.</source>
         <translation>Dieses Produkt hat keinen Rücken.</translation>
     </message>
-    <message numerus="yes">
-        <source>%n package(s)</source>
-        <translation>
-            <numerusform>%n Paket</numerusform>
-            <numerusform>%n Pakete</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n block(s)</source>
-        <translation>
-            <numerusform>%n Block</numerusform>
-            <numerusform>%n Blöcke</numerusform>
-        </translation>
+    <message>
+        <source>The page counts are not valid: from %1 to %2 in steps of %3.</source>
+        <translation>Die Seitenzahlen sind ungültig: von %1 bis %2 in Schritten von %3.</translation>
     </message>
     <message>
-        <source>Spine %1 mm · font up to %2 pt · %3, %4 more</source>
-        <translation>Rücken %1 mm · Schrift bis %2 pt · %3, %4 mehr</translation>
+        <source>Spine %1 mm</source>
+        <translation>Rücken %1 mm</translation>
+    </message>
+    <message>
+        <source>font up to %1 pt</source>
+        <translation>Schrift bis %1 pt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n package(s) more</source>
+        <translation>
+            <numerusform>%n Paket mehr</numerusform>
+            <numerusform>%n Pakete mehr</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n block(s) more</source>
+        <translation>
+            <numerusform>%n Block mehr</numerusform>
+            <numerusform>%n Blöcke mehr</numerusform>
+        </translation>
     </message>
 </context>
 <context>

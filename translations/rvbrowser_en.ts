@@ -45,17 +45,17 @@
 <context>
     <name>SpinePanel</name>
     <message numerus="yes">
-        <source>%n package(s)</source>
+        <source>%n package(s) more</source>
         <translation>
-            <numerusform>%n package</numerusform>
-            <numerusform>%n packages</numerusform>
+            <numerusform>%n package more</numerusform>
+            <numerusform>%n packages more</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n block(s)</source>
+        <source>%n block(s) more</source>
         <translation>
-            <numerusform>%n block</numerusform>
-            <numerusform>%n blocks</numerusform>
+            <numerusform>%n block more</numerusform>
+            <numerusform>%n blocks more</numerusform>
         </translation>
     </message>
 </context>

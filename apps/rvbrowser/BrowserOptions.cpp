@@ -15,6 +15,11 @@ std::optional<QSize> readSize(const QString &text)
     return QSize(match.captured(1).toInt(), match.captured(2).toInt());
 }
 
+bool isPicture(const QString &fileName)
+{
+    return fileName.endsWith(".png"_L1, Qt::CaseInsensitive);
+}
+
 }
 
 BrowserOptions::BrowserOptions(const QStringList &arguments)
@@ -37,6 +42,13 @@ BrowserOptions::BrowserOptions(const QStringList &arguments)
         myError = check();
 }
 
+bool BrowserOptions::isWithoutDisplay() const
+{
+    const bool hasDisplay = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY")
+            || qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+    return isHelp() || isVersion() || isScreenshot() || (!myError.isEmpty() && !hasDisplay);
+}
+
 QString BrowserOptions::check() const
 {
     if (myParser.isSet(u"size"_s) && !mySize)
@@ -47,6 +59,8 @@ QString BrowserOptions::check() const
         return u"there is no language \"%1\"; there are: de, en"_s.arg(language());
     if (myParser.positionalArguments().size() > 1)
         return u"expected at most 1 catalogue, got %1"_s.arg(myParser.positionalArguments().size());
+    if (isScreenshot() && !isPicture(screenshot()))
+        return u"a screenshot is a PNG; let the name \"%1\" end in .png"_s.arg(screenshot());
     if (isScreenshot() && catalogue().isEmpty() && !isHelp() && !isVersion())
         return u"a screenshot needs a catalogue"_s;
     return QString();

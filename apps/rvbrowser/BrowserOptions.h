@@ -17,8 +17,8 @@ public:
     QString error() const { return myError; }
     bool isHelp() const { return myParser.isSet(QStringLiteral("help")); }
     bool isVersion() const { return myParser.isSet(QStringLiteral("version")); }
-    /// True where the program does its work without a window on the screen.
-    bool isWithoutDisplay() const { return !myError.isEmpty() || isHelp() || isVersion() || isScreenshot(); }
+    /// True where the program does its work without a window on the screen, and where it has no screen to be wrong on.
+    bool isWithoutDisplay() const;
     QString helpText() const { return myParser.helpText(); }
 
     bool isScreenshot() const { return myParser.isSet(QStringLiteral("screenshot")); }

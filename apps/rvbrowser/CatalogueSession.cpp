@@ -9,6 +9,7 @@ CatalogueSession::CatalogueSession(QObject *parent) : QObject(parent)
     connect(&myLoader, &CatalogueLoader::failed, this, &CatalogueSession::fail);
     connect(&myLoader, &CatalogueLoader::cancelled, this, &CatalogueSession::giveUp);
     connect(&myWatcher, &CatalogueWatcher::changed, this, &CatalogueSession::noticeChange);
+    connect(&myWatcher, &CatalogueWatcher::vanished, this, [this] { Q_EMIT vanished(myWatcher.fileName()); });
 }
 
 void CatalogueSession::open(const QString &fileName)
@@ -39,6 +40,9 @@ void CatalogueSession::fail(const LoadError &error)
 {
     Q_EMIT ended();
     Q_EMIT failed(error);
+    // While nothing else is open, this is the file that somebody is mending.
+    if (!catalogue())
+        myWatcher.watch(myFileName, myStamp);
     catchUp();
 }
 
@@ -51,7 +55,7 @@ void CatalogueSession::giveUp()
 // What somebody is opening comes before what changes by itself.
 void CatalogueSession::noticeChange()
 {
-    if (isLoading() && myFileName != catalogue()->fileName())
+    if (isLoading() && catalogue() && myFileName != catalogue()->fileName())
         myHasMissedChange = true;
     else
         reload();

@@ -30,6 +30,8 @@ Q_SIGNALS:
     void ended();
     void catalogueChanged();
     void failed(const LoadError &error);
+    /// The open file is gone; it is read again when it comes back.
+    void vanished(const QString &fileName);
 
 private:
     void take(const CataloguePointer &catalogue);

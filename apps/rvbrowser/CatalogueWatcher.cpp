@@ -3,6 +3,7 @@
 #include <QFileInfo>
 
 #include <chrono>
+#include <utility>
 
 using namespace std::chrono_literals;
 
@@ -35,6 +36,7 @@ void CatalogueWatcher::watch(const QString &fileName, const FileStamp &known)
         myWatcher.removePaths(paths);
     myFileName = QFileInfo(fileName).absoluteFilePath();
     myKnown = known;
+    myIsGone = !known.exists;
     myWatcher.addPath(QFileInfo(myFileName).path());
     check();
 }
@@ -44,11 +46,14 @@ void CatalogueWatcher::watch(const QString &fileName, const FileStamp &known)
 void CatalogueWatcher::check()
 {
     const FileStamp now = FileStamp::of(myFileName);
-    if (!now.exists)
+    if (!now.exists) {
+        if (!std::exchange(myIsGone, true))
+            Q_EMIT vanished();
         return;
+    }
     if (!myWatcher.files().contains(myFileName))
         myWatcher.addPath(myFileName);
-    if (now == myKnown)
+    if (!std::exchange(myIsGone, false) && now == myKnown)
         return;
     myKnown = now;
     Q_EMIT changed();

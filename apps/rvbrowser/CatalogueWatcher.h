@@ -33,14 +33,18 @@ public:
     /// Watches this file instead of the one before. @p known is its state when it was read.
     void watch(const QString &fileName, const FileStamp &known);
 
+    QString fileName() const { return myFileName; } ///< Its absolute path; empty before one is watched.
+
 Q_SIGNALS:
     void changed();
+    void vanished(); ///< The file is gone; changed() follows where it comes back.
 
 private:
     void check();
 
     QString myFileName;
     FileStamp myKnown;
+    bool myIsGone = false;
     QFileSystemWatcher myWatcher;
     QTimer myTimer;
 };

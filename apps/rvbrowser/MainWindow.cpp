@@ -72,15 +72,28 @@ bool MainWindow::showType(const RVProductType &type)
     return product >= 0;
 }
 
+void MainWindow::beginWith(const RVProductType &type)
+{
+    const auto begin = [this, type] {
+        if (!showType(type))
+            myBanner->showMessage(tr("The catalogue has no product of type \"%1\".").arg(type.orderTxtName()));
+    };
+    connect(&mySession, &CatalogueSession::catalogueChanged, this, begin, Qt::SingleShotConnection);
+}
+
 void MainWindow::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (!draggedFile(event->mimeData()).isEmpty())
-        event->acceptProposedAction();
+    if (draggedFile(event->mimeData()).isEmpty())
+        return;
+    // The file stays where it is, whatever the source proposes.
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
 }
 
 void MainWindow::dropEvent(QDropEvent *event)
 {
-    event->acceptProposedAction();
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
     mySession.open(draggedFile(event->mimeData()));
 }
 
@@ -158,6 +171,7 @@ void MainWindow::connectSession()
     });
     connect(&mySession, &CatalogueSession::catalogueChanged, this, &MainWindow::showCatalogue);
     connect(&mySession, &CatalogueSession::failed, this, &MainWindow::showError);
+    connect(&mySession, &CatalogueSession::vanished, this, &MainWindow::showVanished);
     connect(myProgress, &LoadProgress::cancelRequested, &mySession, &CatalogueSession::cancel);
 }
 
@@ -215,6 +229,12 @@ void MainWindow::showError(const LoadError &error)
     if (mySession.catalogue())
         text += u'\n' + tr("What was loaded before is still shown.");
     myBanner->showMessage(text);
+}
+
+void MainWindow::showVanished(const QString &fileName)
+{
+    myBanner->showMessage(tr("%1 is gone. It is loaded again when it comes back.").arg(fileName) + u'\n'
+                          + tr("What was loaded before is still shown."));
 }
 
 void MainWindow::showProduct(int product)

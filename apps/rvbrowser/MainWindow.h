@@ -26,6 +26,8 @@ public:
     CatalogueSession *session() { return &mySession; }
     /// Shows the first product of the type; false where there is none.
     bool showType(const RVProductType &type);
+    /// Does so once a catalogue is loaded, and says so where there is none.
+    void beginWith(const RVProductType &type);
 
 protected:
     void dragEnterEvent(QDragEnterEvent *event) override;
@@ -42,6 +44,7 @@ private:
     void showFindings(const CataloguePointer &catalogue);
     void showProduct(int product);
     void showError(const LoadError &error);
+    void showVanished(const QString &fileName);
 
     CatalogueSession mySession;
     ProductList *myProducts;

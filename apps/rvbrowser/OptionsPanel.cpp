@@ -1,6 +1,7 @@
 #include "OptionsPanel.h"
 
 #include "PlainToolTip.h"
+#include "WheelGuard.h"
 
 #include <RVCatalogueProduct.h>
 
@@ -91,6 +92,7 @@ void OptionsPanel::addLine(const RVCatalogueProduct &product, const RVConfigured
     values->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     values->setMinimumContentsLength(SHORTEST_LIST);
     values->setModel(model);
+    new WheelGuard(values);
     values->setCurrentIndex(model->rowOf(defaultValue));
     const auto showNote = [=] {
         note->setText(noteText(product, model->option(values->currentIndex()), defaultValue));

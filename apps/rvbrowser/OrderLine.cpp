@@ -13,7 +13,7 @@ OrderLine::OrderLine(QWidget *parent) : QPlainTextEdit(parent)
 {
     setReadOnly(true);
     setTabChangesFocus(true);
-    setWordWrapMode(QTextOption::WrapAnywhere);
+    setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     document()->setDocumentMargin(2);

@@ -35,12 +35,20 @@ void OrderLinesPanel::setVariants(const RVArticleVariants &variants, const QStri
     myNames->setText(names.isEmpty() ? u"–"_s : names.join(u" · "_s));
     const QStringList texts { variants.toKTX(), variants.toXTCI().toKTX(), variants.toOrderTxt() };
     for (qsizetype i = 0; i < texts.size(); ++i)
-        myLines.at(i)->setText(texts.at(i));
+        showLine(i, texts.at(i));
+}
+
+void OrderLinesPanel::showLine(qsizetype line, const QString &text)
+{
+    myLines.at(line)->setText(text);
+    myButtons.at(line)->setEnabled(!text.isEmpty());
 }
 
 void OrderLinesPanel::copy(Line line) const
 {
-    QGuiApplication::clipboard()->setText(myLines.at(line)->toPlainText());
+    const QString text = myLines.at(line)->toPlainText();
+    if (!text.isEmpty())
+        QGuiApplication::clipboard()->setText(text);
 }
 
 void OrderLinesPanel::addLine(QGridLayout *layout, const QString &label, const QString &objectName)
@@ -52,6 +60,7 @@ void OrderLinesPanel::addLine(QGridLayout *layout, const QString &label, const Q
     name->setContentsMargins(0, line->frameWidth() + 2, 0, 0); // on a line with the text
     auto *button = new QPushButton(tr("Copy"));
     button->setObjectName("copy "_L1 + objectName);
+    button->setEnabled(false);
     button->setAccessibleName(tr("Copy: %1").arg(QString(label).remove(u'&')));
     const int row = layout->rowCount();
     layout->addWidget(name, row, 0, Qt::AlignTop);
@@ -59,5 +68,6 @@ void OrderLinesPanel::addLine(QGridLayout *layout, const QString &label, const Q
     layout->addWidget(button, row, 2, Qt::AlignTop);
     const Line which = Line(myLines.size());
     myLines += line;
+    myButtons += button;
     connect(button, &QPushButton::clicked, this, [this, which] { copy(which); });
 }

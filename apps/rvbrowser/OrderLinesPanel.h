@@ -8,6 +8,7 @@
 class OrderLine;
 class QGridLayout;
 class QLabel;
+class QPushButton;
 class RVArticleVariants;
 
 /// The chosen options as the customer reads them, and as they are written to project and order, ready to copy.
@@ -22,13 +23,16 @@ public:
 
     /// @p names is what the customer reads.
     void setVariants(const RVArticleVariants &variants, const QStringList &names);
+    /// Puts a line into the clipboard, which keeps what it has where the line is empty.
     void copy(Line line) const;
 
 private:
+    void showLine(qsizetype line, const QString &text);
     void addLine(QGridLayout *layout, const QString &label, const QString &objectName);
 
     QLabel *myNames;
     QList<OrderLine *> myLines;
+    QList<QPushButton *> myButtons;
 };
 
 #endif

@@ -1,5 +1,7 @@
 #include "PageCountChooser.h"
 
+#include "WheelGuard.h"
+
 #include <QComboBox>
 #include <QSignalBlocker>
 #include <QSpinBox>
@@ -33,6 +35,10 @@ PageCountChooser::PageCountChooser(QWidget *parent)
     myNumber->setKeyboardTracking(false);
     myLayout->addWidget(myList);
     myLayout->addWidget(myNumber);
+    new WheelGuard(myList);
+    new WheelGuard(myNumber);
+    // A label hands the focus only to what takes it.
+    setFocusPolicy(Qt::StrongFocus);
     setFocusProxy(myList);
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     connect(myList, &QComboBox::currentIndexChanged, this, &PageCountChooser::setRow);

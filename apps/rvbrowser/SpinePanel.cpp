@@ -18,7 +18,9 @@ namespace {
 QString rangeText(const RVPageCountOrganization &counts)
 {
     if (!counts.isValid())
-        return SpinePanel::tr("The page counts are not valid (%1).").arg(counts.dump());
+        return SpinePanel::tr("The page counts are not valid: from %1 to %2 in steps of %3.")
+                .arg(QString::number(counts.minPages()), QString::number(counts.maxPages()),
+                     QString::number(counts.pageIncrement()));
     if (counts.minPages() == counts.maxPages())
         return SpinePanel::tr("always");
     return SpinePanel::tr("%1 to %2 in steps of %3")
@@ -100,8 +102,11 @@ void SpinePanel::showRow(int row)
     }
     const SpineRow spine = myTable.row(row);
     myDrawing->setSpine(spine, mySideWidth, myWidest);
-    myText->setText(tr("Spine %1 mm · font up to %2 pt · %3, %4 more")
-                            .arg(QLocale().toString(spine.width, 'f', 2), QLocale().toString(spine.fontSize),
-                                 tr("%n package(s)", nullptr, spine.packages),
-                                 tr("%n block(s)", nullptr, spine.blocks)));
+    QStringList texts { tr("Spine %1 mm").arg(QLocale().toString(spine.width, 'f', 2)),
+                        tr("font up to %1 pt").arg(QLocale().toString(spine.fontSize)) };
+    if (spine.packages > 0)
+        texts += tr("%n package(s) more", nullptr, spine.packages);
+    if (spine.blocks > 0)
+        texts += tr("%n block(s) more", nullptr, spine.blocks);
+    myText->setText(texts.join(u" · "_s));
 }

@@ -31,9 +31,7 @@ int runWindow(const BrowserOptions &options)
     if (options.isScreenshot()) {
         new Screenshot(&window, options.screenshot(), RVProductType(options.product()));
     } else if (!options.product().isEmpty()) {
-        QObject::connect(
-                window.session(), &CatalogueSession::catalogueChanged, &window,
-                [&] { window.showType(RVProductType(options.product())); }, Qt::SingleShotConnection);
+        window.beginWith(RVProductType(options.product()));
     }
     window.show();
     if (!options.catalogue().isEmpty())
@@ -47,13 +45,14 @@ int main(int argc, char *argv[])
 {
     // Options come out in the order of a hash; with a fixed seed every run writes the same.
     QHashSeed::setDeterministicGlobalSeed();
-    const BrowserOptions options(arguments(argc, argv));
-    if (options.isWithoutDisplay()) {
+    if (BrowserOptions(arguments(argc, argv)).isWithoutDisplay()) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
         // Qt warns of a missing run-time directory and of windows that cannot be resized; neither matters here.
         QLoggingCategory::defaultCategory()->setEnabled(QtWarningMsg, false);
     }
     const QApplication application(argc, argv);
+    // Qt has taken its own options out of them, such as -style.
+    const BrowserOptions options(QApplication::arguments());
     QApplication::setApplicationName(u"rvbrowser"_s);
     QApplication::setApplicationVersion(QStringLiteral(RVBROWSER_VERSION));
     QApplication::setDesktopFileName(u"rvbrowser"_s);

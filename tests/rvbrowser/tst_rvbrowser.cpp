@@ -81,6 +81,7 @@ private Q_SLOTS:
     void optionsAndOrderLines();
     void copies_data();
     void copies();
+    void copiesNothing();
     void barcodePages();
     void productsOfOneType();
     void findings();
@@ -89,6 +90,12 @@ private Q_SLOTS:
     void reloadsWithF5();
     void opensABrokenFile();
     void mendsABrokenFile();
+    void mendsTheFirstFile();
+    void tellsOfADeletedFile();
+    void beginsWithAProduct_data();
+    void beginsWithAProduct();
+    void wheelNeedsFocus();
+    void buddies();
     void cancelsALoad();
     void opensAnotherWhileLoading();
     void changesWhileLoadingAnother();
@@ -320,7 +327,7 @@ void tst_rvbrowser::changesTheCount()
     QTest::keyClick(counts, Qt::Key_Down);
     QCOMPARE(counts->currentText(), u"34 pages"_s);
     QVERIFY(text(u"spineText"_s).startsWith(u"Spine 10.00 mm · font up to "_s));
-    QVERIFY(text(u"spineText"_s).endsWith(u" pt · 2 packages, 1 block more"_s));
+    QVERIFY(text(u"spineText"_s).endsWith(u" pt · 2 packages more · 1 block more"_s));
     QVERIFY(find<QWidget>(u"spineCurve"_s)->grab().toImage() != before);
     QCOMPARE(find<QWidget>(u"spineDrawing"_s)->accessibleDescription(), u"10.0 mm wide"_s);
     QTest::keyClick(counts, Qt::Key_End);
@@ -389,7 +396,7 @@ void tst_rvbrowser::showsMarkupAsItIs()
 void tst_rvbrowser::invalidCounts()
 {
     load("<p><product type='X' pages='20' max_pages='10' page_step='2'/></p>");
-    QCOMPARE(text(u"pageRange"_s), u"The page counts are not valid (min: 20; max: 10; increment: 2)."_s);
+    QCOMPARE(text(u"pageRange"_s), u"The page counts are not valid: from 20 to 10 in steps of 2."_s);
     QVERIFY(!find<QComboBox>(u"pageCounts"_s)->isEnabled());
     QVERIFY(text(u"note"_s).startsWith("This product cannot be offered"_L1));
 }
@@ -452,6 +459,17 @@ void tst_rvbrowser::copies()
     QApplication::clipboard()->clear();
     QTest::keyClick(myWindow.get(), key, Qt::ControlModifier | Qt::ShiftModifier);
     QCOMPARE(QApplication::clipboard()->text(), expected);
+}
+
+void tst_rvbrowser::copiesNothing()
+{
+    QApplication::clipboard()->setText(u"mine"_s);
+    for (const Qt::Key key : { Qt::Key_P, Qt::Key_T, Qt::Key_O })
+        QTest::keyClick(myWindow.get(), key, Qt::ControlModifier | Qt::ShiftModifier);
+    load("<p><product type='A' article_id='1'/></p>");
+    QTest::keyClick(myWindow.get(), Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(QApplication::clipboard()->text(), u"mine"_s);
+    QVERIFY(!find<QPushButton>(u"copy projectFile"_s)->isEnabled());
 }
 
 void tst_rvbrowser::barcodePages()
@@ -576,6 +594,96 @@ void tst_rvbrowser::mendsABrokenFile()
     QTRY_VERIFY_WITH_TIMEOUT(!banner->isVisible(), 20000);
 }
 
+// Before anything was loaded; the file is watched while somebody mends it.
+void tst_rvbrowser::mendsTheFirstFile()
+{
+    auto *banner = myWindow->findChild<MessageBanner *>();
+    for (const QByteArray &broken : { QByteArray(), QByteArray("<products>") }) {
+        myWindow->session()->open(path(u"c.xml"_s));
+        QTRY_VERIFY_WITH_TIMEOUT(banner->isVisible(), 20000);
+        banner->hide();
+        write(u"c.xml"_s, broken);
+        QTRY_VERIFY_WITH_TIMEOUT(banner->isVisible(), 20000);
+    }
+    write(u"c.xml"_s, CATALOGUE);
+    QTRY_COMPARE_WITH_TIMEOUT(shownTypes().size(), 3, 20000);
+    QVERIFY(!banner->isVisible());
+}
+
+void tst_rvbrowser::tellsOfADeletedFile()
+{
+    load(CATALOGUE);
+    auto *banner = myWindow->findChild<MessageBanner *>();
+    QVERIFY(QFile::remove(path(u"c.xml"_s)));
+    QTRY_VERIFY_WITH_TIMEOUT(banner->isVisible(), 20000);
+    QCOMPARE(banner->text(),
+             path(u"c.xml"_s)
+                     + " is gone. It is loaded again when it comes back.\n"
+                       "What was loaded before is still shown."_L1);
+    QCOMPARE(shownTypes().size(), 3);
+    write(u"c.xml"_s, CATALOGUE);
+    QTRY_VERIFY_WITH_TIMEOUT(!banner->isVisible(), 20000);
+}
+
+void tst_rvbrowser::beginsWithAProduct_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QString>("message");
+
+    QTest::newRow("there") << u"VIR1"_s << u"VIR1 – Wandkalender"_s << QString();
+    QTest::newRow("a code of its family") << u"DUN9_30"_s << u"DUN9 – Großes Buch"_s << QString();
+    QTest::newRow("not there") << u"NOPE"_s << u"DUN9 – Großes Buch"_s
+                               << u"The catalogue has no product of type \"NOPE\"."_s;
+}
+
+void tst_rvbrowser::beginsWithAProduct()
+{
+    QFETCH(QString, type);
+    myWindow->beginWith(RVProductType(type));
+    load(CATALOGUE);
+    QTEST(text(u"title"_s), "title");
+    QTEST(myWindow->findChild<MessageBanner *>()->text(), "message");
+}
+
+// A wheel over an option scrolls the product, as long as the option does not have the focus.
+void tst_rvbrowser::wheelNeedsFocus()
+{
+    load(CATALOGUE);
+    for (const QString &name : { u"option alcolor"_s, u"pageCounts"_s }) {
+        auto *values = find<QComboBox>(name);
+        const int before = values->currentIndex();
+        const auto turn = [values] {
+            const QPointF middle = values->rect().center();
+            QWheelEvent event(middle, values->mapToGlobal(middle), {}, { 0, -120 }, Qt::NoButton, Qt::NoModifier,
+                              Qt::NoScrollPhase, false);
+            QApplication::sendEvent(values, &event);
+        };
+        find<QTreeView>(u"products"_s)->setFocus();
+        turn();
+        QCOMPARE(values->currentIndex(), before);
+        QVERIFY(!values->hasFocus());
+        values->setFocus();
+        QTRY_VERIFY(values->hasFocus());
+        turn();
+        QCOMPARE(values->currentIndex(), before + 1);
+    }
+}
+
+void tst_rvbrowser::buddies()
+{
+    load(CATALOGUE);
+    int count = 0;
+    for (const QLabel *label : myWindow->findChildren<QLabel *>()) {
+        const QWidget *buddy = label->buddy();
+        if (!buddy || QKeySequence::mnemonic(label->text()).isEmpty())
+            continue;
+        ++count;
+        QVERIFY2(buddy->focusPolicy() & Qt::TabFocus, qPrintable(label->text()));
+    }
+    QCOMPARE(count, 5);
+}
+
 void tst_rvbrowser::cancelsALoad()
 {
     load(CATALOGUE);
@@ -634,11 +742,12 @@ void tst_rvbrowser::changesWhileLoadingAnother()
 void tst_rvbrowser::drop(const QMimeData &data)
 {
     const QPoint middle = myWindow->rect().center();
-    QDragEnterEvent enter(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QDragEnterEvent enter(middle, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
     enter.ignore();
     QApplication::sendEvent(myWindow.get(), &enter);
     if (!enter.isAccepted())
         return;
+    QCOMPARE(enter.dropAction(), Qt::CopyAction);
     QDropEvent event(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(myWindow.get(), &event);
 }
@@ -771,6 +880,8 @@ void tst_rvbrowser::screenshot_data()
                                  << QSize(1000, 640) << true;
     QTest::newRow("product, German") << QStringList { u"--product"_s, u"DUN9_30"_s, u"--language"_s, u"de"_s }
                                      << QSize(1280, 800) << false;
+    QTest::newRow("options of Qt") << QStringList { u"-style"_s, u"fusion"_s, u"--palette"_s, u"light"_s }
+                                   << QSize(1280, 800) << false;
 }
 
 // From outside, without a display.
@@ -817,6 +928,8 @@ void tst_rvbrowser::screenshotProblems_data()
     const auto wrong = [](const QString &text) { return "rvbrowser: "_L1 + text + "\nTry \"rvbrowser --help\".\n"_L1; };
     QTest::newRow("no catalogue") << QStringList { u"--screenshot"_s, u"o.png"_s } << 2
                                   << wrong(u"a screenshot needs a catalogue"_s);
+    QTest::newRow("other picture") << QStringList { u"--screenshot"_s, u"o.svg"_s, sample } << 2
+                                   << wrong(u"a screenshot is a PNG; let the name \"o.svg\" end in .png"_s);
     QTest::newRow("size") << QStringList { u"--size"_s, u"12"_s } << 2
                           << wrong(u"\"12\" is no size; write it as 1280x800"_s);
     QTest::newRow("palette") << QStringList { u"--palette"_s, u"pink"_s } << 2
