@@ -6,6 +6,7 @@
 #include "PagePanel.h"
 #include "SpinePanel.h"
 
+#include <QComboBox>
 #include <QFontInfo>
 #include <QLabel>
 #include <QVBoxLayout>
@@ -72,6 +73,7 @@ void ProductView::setProduct(const CataloguePointer &catalogue, int product)
     myOptions->setProduct(values);
     myDrawings->setStretchFactor(mySpine, mySpine->isDrawn() ? 1 : 0);
     myDrawings->setStretchFactor(myPage, myPage->isDrawn() ? 1 : 0);
+    arrangeTabOrder();
     arrangeColumns();
 }
 
@@ -97,6 +99,16 @@ void ProductView::arrangeColumns()
             + myDrawings->minimumSize().width() + edges.right();
     const bool isWide = needed <= viewport()->width();
     myColumns->setDirection(isWide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+}
+
+// Options are made for each product, and so they would come last.
+void ProductView::arrangeTabOrder()
+{
+    QWidget *previous = myTitle;
+    for (QComboBox *values : myOptions->findChildren<QComboBox *>()) {
+        setTabOrder(previous, values);
+        previous = values;
+    }
 }
 
 void ProductView::showHeader(const LoadedCatalogue &catalogue, int product)

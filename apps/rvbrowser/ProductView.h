@@ -34,6 +34,8 @@ protected:
 private:
     void showHeader(const LoadedCatalogue &catalogue, int product);
     void showOrderLines();
+    /// Options first, then what stands below and beside them.
+    void arrangeTabOrder();
     /// Two columns where both have room, else one below the other.
     void arrangeColumns();
 

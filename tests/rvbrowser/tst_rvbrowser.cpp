@@ -96,6 +96,7 @@ private Q_SLOTS:
     void beginsWithAProduct();
     void wheelNeedsFocus();
     void buddies();
+    void tabOrder();
     void cancelsALoad();
     void opensAnotherWhileLoading();
     void changesWhileLoadingAnother();
@@ -682,6 +683,24 @@ void tst_rvbrowser::buddies()
         QVERIFY2(buddy->focusPolicy() & Qt::TabFocus, qPrintable(label->text()));
     }
     QCOMPARE(count, 5);
+}
+
+// With the tabulator through the whole product, as its panels stand.
+void tst_rvbrowser::tabOrder()
+{
+    load(CATALOGUE);
+    QTRY_VERIFY(find<QComboBox>(u"option alcolor"_s)->isVisible());
+    QStringList names;
+    find<QScrollArea>(u"productView"_s)->setFocus();
+    for (int i = 0; i < 12; ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        names += QApplication::focusWidget()->objectName();
+    }
+    const QStringList expected { u"option alcolor"_s, u"option box;lining"_s, u"projectFile"_s, u"copy projectFile"_s };
+    const qsizetype first = names.indexOf(expected.constFirst());
+    QVERIFY2(first >= 0, qPrintable(names.join(u' ')));
+    QCOMPARE(names.mid(first, expected.size()), expected);
+    QVERIFY2(names.indexOf(u"pageCounts"_s) > first, qPrintable(names.join(u' ')));
 }
 
 void tst_rvbrowser::cancelsALoad()
