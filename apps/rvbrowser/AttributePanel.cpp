@@ -1,13 +1,14 @@
 #include "AttributePanel.h"
 
-#include "ProductFacts.h"
+#include "PaletteColors.h"
 
 #include <QFormLayout>
 #include <QLabel>
+#include <QPalette>
 
 AttributePanel::AttributePanel(QWidget *parent) : QGroupBox(tr("Attributes"), parent), myLayout(new QFormLayout(this))
 {
-    myLayout->setLabelAlignment(Qt::AlignLeft);
+    myLayout->setLabelAlignment(Qt::AlignLeft | Qt::AlignTop);
     myLayout->setVerticalSpacing(3);
 }
 
@@ -23,7 +24,18 @@ void AttributePanel::setProduct(const RVCatalogueProduct &product, const Attribu
             myLayout->addRow(facts.at(i).label, text);
             myTexts += text;
         }
-        myTexts.at(i)->setText(facts.at(i).text);
-        myLayout->setRowVisible(int(i), !facts.at(i).text.isEmpty());
+        show(facts.at(i), myTexts.at(i));
+        myLayout->setRowVisible(int(i), !facts.at(i).text.isEmpty() || !facts.at(i).fault.isEmpty());
     }
+}
+
+// The fault stands below the value, so that it is not the colour alone that tells.
+void AttributePanel::show(const ProductFacts::Fact &fact, QLabel *text) const
+{
+    const bool isFaulty = !fact.fault.isEmpty();
+    text->setText(isFaulty ? fact.text + u'\n' + fact.fault : fact.text);
+    QPalette colors = palette();
+    if (isFaulty)
+        colors.setColor(QPalette::WindowText, PaletteColors(palette()).fault());
+    text->setPalette(colors);
 }

@@ -1,6 +1,8 @@
 #ifndef ATTRIBUTEPANEL_H
 #define ATTRIBUTEPANEL_H
 
+#include "ProductFacts.h"
+
 #include <QGroupBox>
 #include <QList>
 
@@ -9,7 +11,7 @@ class QFormLayout;
 class QLabel;
 class RVCatalogueProduct;
 
-/// What a product is, in words that can be selected and copied.
+/// The attributes of a product in words that can be selected and copied; a faulty one as it stands in the file, in red.
 class AttributePanel : public QGroupBox
 {
     Q_OBJECT
@@ -20,8 +22,10 @@ public:
     void setProduct(const RVCatalogueProduct &product, const AttributeWords &words);
 
 private:
+    void show(const ProductFacts::Fact &fact, QLabel *text) const;
+
     QFormLayout *myLayout;
-    QList<QLabel *> myTexts; // one a fact
+    QList<QLabel *> myTexts; // one for each fact
 };
 
 #endif

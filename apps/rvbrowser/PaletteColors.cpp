@@ -18,10 +18,19 @@ QColor PaletteColors::shade(qreal strength) const
 QColor PaletteColors::accent() const
 {
     const QColor color = myPalette.color(QPalette::Highlight);
-    const bool isDark = myPalette.color(QPalette::Base).lightness() < MIDDLE_LIGHTNESS;
-    const int lightness = isDark ? qMax(MIDDLE_LIGHTNESS + 40, color.lightness())
-                                 : qMin(MIDDLE_LIGHTNESS - 20, color.lightness());
+    const int lightness = isDark() ? qMax(MIDDLE_LIGHTNESS + 40, color.lightness())
+                                   : qMin(MIDDLE_LIGHTNESS - 20, color.lightness());
     return QColor::fromHsl(color.hslHue(), color.hslSaturation(), lightness);
+}
+
+QColor PaletteColors::fault() const
+{
+    return isDark() ? QColor(0xff, 0x8a, 0x80) : QColor(0xb0, 0x1c, 0x1c);
+}
+
+bool PaletteColors::isDark() const
+{
+    return myPalette.color(QPalette::Base).lightness() < MIDDLE_LIGHTNESS;
 }
 
 QPalette PaletteColors::light()

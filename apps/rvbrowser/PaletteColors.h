@@ -15,11 +15,16 @@ public:
     /// For curves; readable on the background.
     QColor accent() const;
 
+    /// A red for what is wrong; readable on the background.
+    QColor fault() const;
+
     /// The palettes that the program brings for people who want another one than that of their desktop.
     static QPalette light();
     static QPalette dark();
 
 private:
+    bool isDark() const;
+
     QPalette myPalette;
 };
 

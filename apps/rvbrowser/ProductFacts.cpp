@@ -3,6 +3,7 @@
 #include "AttributeWords.h"
 
 #include <RVCatalogueAttributes.h>
+#include <RVCatalogueCheck.h>
 
 #include <QLocale>
 
@@ -28,16 +29,42 @@ QList<RVCatalogueAttribute> attributes()
 QList<ProductFacts::Fact> ProductFacts::facts() const
 {
     QList<Fact> result {
-        { tr("Kind of article"), kind() },
-        { tr("Article id"), articleId() },
+        { tr("Kind of article"), rvCatalogueAttributeName<RVArticleClass>(), kind() },
+        { tr("Article id"), "article_id"_L1, articleId() },
     };
     for (const RVCatalogueAttribute &attribute : attributes())
-        result += { attribute.label(), myWords.text(attribute, myProduct) };
-    result += { tr("Shipping group"), shippingGroup() };
-    result += { tr("Price class"), myProduct.priceClass().toString() };
-    result += { tr("Price class of a package"), myProduct.pagePriceClass().toString() };
-    result += { tr("Barcodes"), barcodes() };
+        result += Fact { attribute.label(), attribute.name(), myWords.text(attribute, myProduct) };
+    result += Fact { tr("Shipping group"), "shipping_group"_L1, shippingGroup() };
+    result += Fact { tr("Price class"), "price_class"_L1, myProduct.priceClass().toString() };
+    result += Fact { tr("Price class of a package"), "page_price_class"_L1, myProduct.pagePriceClass().toString() };
+    result += Fact { tr("Barcodes"), QLatin1StringView(), barcodes() };
+    addFaults(&result);
     return result;
+}
+
+void ProductFacts::addFaults(QList<Fact> *facts) const
+{
+    const QList<RVCatalogueFinding> findings = RVCatalogueCheck().findings(myProduct);
+    for (Fact &fact : *facts) {
+        fact.fault = faultOf(fact.attribute, findings);
+        if (!fact.fault.isEmpty())
+            fact.text = myProduct.element().attribute(fact.attribute);
+    }
+}
+
+// A note is no fault, and an attribute that is missing shows nothing.
+QString ProductFacts::faultOf(QLatin1StringView attribute, const QList<RVCatalogueFinding> &findings) const
+{
+    if (!myProduct.element().hasAttribute(attribute))
+        return QString();
+    const RVFileRange range = myProduct.element().attributeRange(attribute);
+    QStringList texts;
+    for (const RVCatalogueFinding &finding : findings) {
+        const bool isInside = !(finding.range().begin < range.begin) && !(range.end < finding.range().end);
+        if (isInside && finding.severity() != RVCatalogueSeverity::Note)
+            texts += finding.text();
+    }
+    return texts.join(u'\n');
 }
 
 QString ProductFacts::searchText() const

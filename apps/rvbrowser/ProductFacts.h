@@ -18,7 +18,9 @@ public:
     struct Fact
     {
         QString label;
-        QString text; ///< empty where the product does not say
+        QLatin1StringView attribute; ///< empty where it is not one attribute
+        QString text; ///< as it stands in the file where something is wrong with it; empty where there is nothing
+        QString fault = {}; ///< what is wrong with it, and what was probably meant; empty where nothing is
     };
 
     ProductFacts(const RVCatalogueProduct &product, const AttributeWords &words)
@@ -39,6 +41,8 @@ private:
     QString kind() const;
     QString barcodes() const;
     QStringList optionTexts() const;
+    void addFaults(QList<Fact> *facts) const;
+    QString faultOf(QLatin1StringView attribute, const QList<RVCatalogueFinding> &findings) const;
 
     RVCatalogueProduct myProduct;
     const AttributeWords &myWords;

@@ -62,15 +62,17 @@ SpinePanel::SpinePanel(QWidget *parent)
 
 void SpinePanel::setProduct(const RVCatalogueProduct &product, const RVPageCountOrganization &pageCounts)
 {
-    myTable = product.hasSpine() ? SpineTable(product.spine(), pageCounts) : SpineTable();
+    myTable = SpineTable(product.spine(), pageCounts);
+    myWidest = 0;
+    if (myTable.rowCount() > 0)
+        myWidest = qMax(myTable.row(0).width, myTable.row(myTable.rowCount() - 1).width);
+    if (myWidest <= 0)
+        myTable = SpineTable();
     mySideWidth = product.spine().additionalSpineWidth().value(DISTANCE_UNIT_MILLIMETRE);
     myDrawing->setTitle(product.type().toString());
     const bool hasSpine = myTable.rowCount() > 0;
     myDrawing->setVisible(hasSpine);
     myCurve->setVisible(hasSpine);
-    myWidest = 0;
-    if (hasSpine)
-        myWidest = qMax(myTable.row(0).width, myTable.row(myTable.rowCount() - 1).width);
     myCurve->setTable(myTable);
     myRange->setText(rangeText(pageCounts));
     myChooser->setPageCounts(pageCounts,

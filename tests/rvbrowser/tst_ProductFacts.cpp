@@ -5,6 +5,8 @@
 #include <QBuffer>
 #include <QTest>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -33,6 +35,8 @@ class tst_ProductFacts : public QObject
 private Q_SLOTS:
     void facts_data();
     void facts();
+    void faults_data();
+    void faults();
     void labels();
     void searchText_data();
     void searchText();
@@ -78,6 +82,43 @@ void tst_ProductFacts::facts()
             texts += fact.label + ": "_L1 + fact.text;
     }
     QTEST(texts, "texts");
+}
+
+void tst_ProductFacts::faults_data()
+{
+    QTest::addColumn<QByteArray>("product");
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("word");
+
+    QTest::newRow("unknown keyword") << QByteArray("<product cover_type='hardcovr'/>") << u"Cover"_s << u"hardcovr"_s
+                                     << u"\"hardcover\""_s;
+    QTest::newRow("unknown size class") << QByteArray("<product space_magnitude='A4x'/>") << u"Size class"_s << u"A4x"_s
+                                        << u"A4"_s;
+    QTest::newRow("one of two keywords") << QByteArray("<product orientation='portrait,squre'/>") << u"Orientation"_s
+                                         << u"portrait,squre"_s << u"square"_s;
+    QTest::newRow("article id") << QByteArray("<product article_id='10-01'/>") << u"Article id"_s << u"10-01"_s
+                                << u"article id"_s;
+    QTest::newRow("empty text") << QByteArray("<product cover_type=''/>") << u"Cover"_s << QString() << u"empty"_s;
+    QTest::newRow("alias") << QByteArray("<product cover_type='hard'/>") << u"Cover"_s << u"Hardcover (HARDCOVER)"_s
+                           << QString();
+    QTest::newRow("missing") << QByteArray("<product/>") << u"Article id"_s << QString() << QString();
+    QTest::newRow("fault of another attribute") << QByteArray("<product cover_type='hardcover' page_binding='x'/>")
+                                                << u"Cover"_s << u"Hardcover (HARDCOVER)"_s << QString();
+}
+
+void tst_ProductFacts::faults()
+{
+    QFETCH(QByteArray, product);
+    QFETCH(QString, label);
+    QFETCH(QString, word);
+    const AttributeWords words;
+    const QList<ProductFacts::Fact> facts = ProductFacts(read(product), words).facts();
+    const auto fact = std::find_if(facts.begin(), facts.end(), [&](const auto &each) { return each.label == label; });
+    QVERIFY(fact != facts.end());
+    QTEST(fact->text, "text");
+    QCOMPARE(fact->fault.isEmpty(), word.isEmpty());
+    QVERIFY2(fact->fault.contains(word), qPrintable(fact->fault));
 }
 
 // The panel makes its lines for the first product.

@@ -97,6 +97,7 @@ private Q_SLOTS:
     void wheelNeedsFocus();
     void buddies();
     void tabOrder();
+    void shrinkingSpine();
     void cancelsALoad();
     void opensAnotherWhileLoading();
     void changesWhileLoadingAnother();
@@ -701,6 +702,19 @@ void tst_rvbrowser::tabOrder()
     QVERIFY2(first >= 0, qPrintable(names.join(u' ')));
     QCOMPARE(names.mid(first, expected.size()), expected);
     QVERIFY2(names.indexOf(u"pageCounts"_s) > first, qPrintable(names.join(u' ')));
+}
+
+// A fault is to be seen, and not only that there is nothing.
+void tst_rvbrowser::shrinkingSpine()
+{
+    load(QByteArray(CATALOGUE).replace("block_width='1'", "block_width='-1'"));
+    QVERIFY(find<QWidget>(u"spineCurve"_s)->isVisible());
+    QVERIFY2(text(u"spineText"_s).startsWith("Spine 9.00 mm"_L1), qPrintable(text(u"spineText"_s)));
+    auto *counts = find<QComboBox>(u"pageCounts"_s);
+    counts->setCurrentIndex(counts->count() - 1);
+    QVERIFY2(text(u"spineText"_s).startsWith("Spine -7.00 mm"_L1), qPrintable(text(u"spineText"_s)));
+    load(QByteArray(CATALOGUE).replace("base_width='8' block_width='1'", "base_width='-8' block_width='-1'"));
+    QVERIFY(!find<QWidget>(u"spineCurve"_s)->isVisible());
 }
 
 void tst_rvbrowser::cancelsALoad()
