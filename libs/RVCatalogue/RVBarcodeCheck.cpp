@@ -61,6 +61,13 @@ QString millimetres(double tenths)
     return QString::number(tenths / 10, 'f', QLocale::FloatingPointShortest);
 }
 
+/// The attribute that says how many pages there may be; the start tag where that is the default.
+RVRelatedPlace placeOfHighest(const RVCatalogueElement &product)
+{
+    return rvPlaceOf(product, product.hasAttribute("max_pages"_L1) ? "max_pages"_L1 : "pages"_L1,
+                     RVFindingText::tr("the highest page count"));
+}
+
 bool overlap(const QRect &a, const QRect &b)
 {
     return a.left() <= b.right() && b.left() <= a.right() && a.top() <= b.bottom() && b.top() <= a.bottom();
@@ -108,7 +115,7 @@ void RVBarcodeCheck::check(const RVCatalogueProduct &product)
         checkPage(*barcode);
         if (element.utf8("image"_L1).isEmpty() && element.hasAttribute("image"_L1))
             myReport->add(RVCatalogueRuleId::BarcodeInvalid, element, "image"_L1,
-                          RVFindingText::tr("the barcode has no image"));
+                          RVFindingText::tr("the barcode has no image; name a file, or leave out the attribute"));
         else if (isUnitKnown)
             checkArea(*barcode, pageSize);
     }
@@ -136,11 +143,12 @@ void RVBarcodeCheck::checkPage(const Barcode &barcode)
     const int highest = myPageCounts.counts.maxPages();
     if (barcode.page < 0)
         myReport->add(RVCatalogueRuleId::BarcodePageImpossible, barcode.element, "pageNr"_L1,
-                      RVFindingText::tr("there is no page %1").arg(barcode.page));
+                      RVFindingText::tr("there is no page %1; write 0 or more").arg(barcode.page));
     else if (myPageCounts.areValid && barcode.page > highest)
         myReport->add(
                 RVCatalogueRuleId::BarcodePageImpossible, barcode.element, "pageNr"_L1,
-                RVFindingText::tr("there is no page %1; the product has at most %2").arg(barcode.page).arg(highest));
+                RVFindingText::tr("there is no page %1; the product has at most %2").arg(barcode.page).arg(highest),
+                { { placeOfHighest(myReport->product().element()) } });
 }
 
 void RVBarcodeCheck::checkArea(const Barcode &barcode, const PageSize &pageSize)
@@ -149,7 +157,7 @@ void RVBarcodeCheck::checkArea(const Barcode &barcode, const PageSize &pageSize)
     const bool hasWidth = area.left() <= area.right();
     if (!hasWidth || area.top() > area.bottom())
         return myReport->add(RVCatalogueRuleId::BarcodeInvalid, barcode.element, hasWidth ? "height"_L1 : "width"_L1,
-                             RVFindingText::tr("the barcode has no width or no height"));
+                             RVFindingText::tr("the barcode has no width or no height; write both above 0"));
     if (!checkEdges(barcode, pageSize))
         return;
     checkOverlap(barcode);
@@ -161,13 +169,16 @@ bool RVBarcodeCheck::checkEdges(const Barcode &barcode, const PageSize &pageSize
 {
     const QRect &area = barcode.area;
     if (area.left() < 0)
-        return addOutside(barcode, "position_x"_L1, RVFindingText::tr("the barcode begins left of the page"));
+        return addOutside(barcode, "position_x"_L1,
+                          RVFindingText::tr("the barcode begins left of the page; write a position_x of 0 or more"));
     if (area.top() < 0)
-        return addOutside(barcode, "position_y"_L1, RVFindingText::tr("the barcode begins above the page"));
+        return addOutside(
+                barcode, "position_y"_L1,
+                RVFindingText::tr("the barcode begins above the page; write a position_y of at least its height"));
     if (!pageSize.isBelow(area))
         return true;
-    const QString text = RVFindingText::tr(
-            "the barcode ends %1 mm from the left and %2 mm from the top, where there is no page");
+    const QString text = RVFindingText::tr("the barcode ends %1 mm from the left and %2 mm from the top, where there "
+                                           "is no page; move it, or make it smaller");
     return addOutside(barcode, area.right() > area.bottom() ? "position_x"_L1 : "position_y"_L1,
                       text.arg(millimetres(area.right() + 1.0), millimetres(area.bottom() + 1.0)));
 }
@@ -186,5 +197,7 @@ void RVBarcodeCheck::checkOverlap(const Barcode &barcode)
     });
     if (other != myPlaced.end())
         myReport->add(RVCatalogueRuleId::BarcodeOverlap, barcode.element,
-                      RVFindingText::tr("the barcode overlaps the one in line %1").arg(rvLineOf(other->element)));
+                      RVFindingText::tr("the barcode overlaps the one in line %1; move one of them")
+                              .arg(rvLineOf(other->element)),
+                      { { rvPlaceOf(other->element, RVFindingText::tr("the other barcode")) } });
 }

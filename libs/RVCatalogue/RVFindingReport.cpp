@@ -67,7 +67,7 @@ RVRelatedPlace rvPlaceOf(const RVCatalogueElement &element, QLatin1StringView at
 QList<RVFileEdit> rvReplaced(const RVCatalogueElement &element, QLatin1StringView attribute, qsizetype from,
                              qsizetype length, const QString &text)
 {
-    const std::optional<RVFileRange> range = element.valueRange(attribute, from, length);
+    const auto range = text.isNull() ? std::nullopt : element.valueRange(attribute, from, length);
     if (!range)
         return {};
     return { { *range, escaped(text) } };

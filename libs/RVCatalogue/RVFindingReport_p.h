@@ -56,7 +56,7 @@ RVRelatedPlace rvPlaceOf(const RVCatalogueElement &element, const QString &text)
 RVRelatedPlace rvPlaceOf(const RVCatalogueElement &element, QLatin1StringView attribute, const QString &text);
 
 /// The edit that puts a text in the place of some letters of a value: escaped, and nothing where XML reads other
-/// letters than stand in the file, or where the attribute is not in the file.
+/// letters than stand in the file, where the attribute is not in the file, or where the text is null.
 QList<RVFileEdit> rvReplaced(const RVCatalogueElement &element, QLatin1StringView attribute, qsizetype from,
                              qsizetype length, const QString &text);
 /// The same for the whole value.

@@ -2,6 +2,19 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// With a link such as "%1 or %2" between the last two.
+QString joined(QStringList texts, const QString &link)
+{
+    if (texts.isEmpty())
+        return QString();
+    const QString last = texts.takeLast();
+    return texts.isEmpty() ? last : link.arg(texts.join(", "_L1), last);
+}
+
+}
+
 QString rvQuoted(QStringView text)
 {
     constexpr qsizetype longest = 80;
@@ -13,4 +26,23 @@ QString rvQuoted(QStringView text)
             character = u' ';
     }
     return u'"' + shown + (text.size() > longest ? u"…\""_s : u"\""_s);
+}
+
+QString rvAllOf(const QStringList &texts)
+{
+    return joined(texts, RVFindingText::tr("%1 and %2"));
+}
+
+QString rvOneOf(const QStringList &texts)
+{
+    constexpr qsizetype most = 3;
+    QStringList quoted;
+    for (const QString &text : texts.first(qMin(most, texts.size())))
+        quoted += rvQuoted(text);
+    return joined(quoted, RVFindingText::tr("%1 or %2"));
+}
+
+QString rvAdvised(const QString &fault, const QString &advice)
+{
+    return advice.isEmpty() ? fault : RVFindingText::tr("%1; %2").arg(fault, advice);
 }

@@ -15,6 +15,7 @@ public:
     void check(const RVCatalogueProduct &product);
 
 private:
+    void addInvalidArticleId(const RVCatalogueElement &product);
     void checkType(const RVCatalogueElement &product);
     void checkShippingGroup(const RVCatalogueElement &product);
 

@@ -1,13 +1,17 @@
 #include "RVKeywordVocabulary_p.h"
 
-#include "RVNearestText.h"
+#include "RVForeignLetters_p.h"
+#include "RVNearestTexts_p.h"
+
+#include <QRegularExpression>
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-/// Nobody mistypes a longer word so that it could be guessed, and a list has no more pieces than this in earnest.
-constexpr qsizetype LONGEST_GUESS = 40;
+/// A list has no more pieces than this in earnest.
 constexpr qsizetype MOST_FAULTS = 100;
 
 /// In the letter case of a piece that is all lower case, else as it is.
@@ -32,6 +36,26 @@ QHash<QString, QString> mainKeywords(RVCatalogueAttribute attribute)
             result.insert(alias, isNumber(value.keyword) ? alias : value.keyword);
     }
     return result;
+}
+
+/// The one to write for a value.
+QString writtenKeyword(const RVCatalogueAttributeValue &value)
+{
+    return isNumber(value.keyword) && !value.aliases.isEmpty() ? value.aliases.first() : value.keyword;
+}
+
+/// Display names are words, or begins of words that end with a hyphen.
+QString foldedName(const QString &name)
+{
+    const QString word = name.trimmed();
+    return (word.endsWith(u'-') ? word.chopped(1) : word).normalized(QString::NormalizationForm_C).toCaseFolded();
+}
+
+/// In lower case, and without what separates words.
+QString squeezed(const QString &text)
+{
+    static const QRegularExpression theSeparators(u"[\\s_-]+"_s);
+    return text.toLower().remove(theSeparators);
 }
 
 bool isAlias(const QString &keyword, const QString &mainKeyword)
@@ -64,6 +88,13 @@ RVKeywordVocabulary::RVKeywordVocabulary(RVCatalogueAttribute attribute)
     std::transform(myGuesses.begin(), aliases, std::back_inserter(myFaultless),
                    [](const QString &keyword) { return keyword.toUtf8(); });
     std::sort(myFaultless.begin(), myFaultless.end());
+    for (const QString &keyword : std::as_const(myGuesses))
+        mySqueezed[squeezed(keyword)] += keyword;
+    for (const RVCatalogueAttributeValue &value : attribute.values()) {
+        myKeywords += writtenKeyword(value);
+        if (!value.displayName.isEmpty())
+            myKeywordsOfNames[foldedName(value.displayName)] += writtenKeyword(value);
+    }
 }
 
 bool RVKeywordVocabulary::hasAll(QByteArrayView list) const
@@ -91,39 +122,146 @@ bool RVKeywordVocabulary::has(QByteArrayView piece) const
 QList<RVKeywordFault> RVKeywordVocabulary::faults(const QString &list) const
 {
     QList<RVKeywordFault> result;
-    for (const QStringView part : QStringView(list).split(u',')) {
-        const QString piece = part.trimmed().toString();
-        const QString lower = piece.toLower();
-        const auto known = myMainKeywords.constFind(lower);
-        const bool isKnown = known != myMainKeywords.constEnd();
-        if (isKnown && !isAlias(lower, *known))
+    const QStringView whole(list);
+    for (const QStringView part : whole.split(u',')) {
+        const QStringView piece = part.trimmed();
+        std::optional<RVKeywordFault> fault = faultOf(piece.toString());
+        if (!fault)
             continue;
-        result += isKnown ? RVKeywordFault { piece, spelledLike(piece, *known), QString(), true }
-                          : unknownKeyword(piece);
+        fault->from = (piece.isEmpty() ? part : piece).data() - whole.data();
+        result += *fault;
         if (result.size() == MOST_FAULTS)
             break;
     }
     return result;
 }
 
-RVKeywordFault RVKeywordVocabulary::unknownKeyword(const QString &piece) const
+std::optional<RVKeywordFault> RVKeywordVocabulary::faultOf(const QString &piece) const
 {
-    const QString nearest = nearestTo(piece);
-    if (nearest.isNull())
-        return { piece, QString(), QString(), false };
-    const QString mainKeyword = myMainKeywords[nearest];
-    const QString meaning = spelledLike(piece, mainKeyword);
-    return isAlias(nearest, mainKeyword) ? RVKeywordFault { piece, nearest, meaning, false }
-                                         : RVKeywordFault { piece, meaning, QString(), false };
+    const QString lower = piece.toLower();
+    const auto known = myMainKeywords.constFind(lower);
+    if (known == myMainKeywords.constEnd())
+        return unknownKeyword(piece);
+    if (!isAlias(lower, *known))
+        return std::nullopt;
+    RVKeywordFault fault;
+    fault.kind = RVKeywordFault::Alias;
+    fault.piece = piece;
+    fault.betterKeywords += spelledLike(piece, *known);
+    fault.mended = fault.betterKeywords.first();
+    return fault;
 }
 
-/// None where half of the letters differ.
-QString RVKeywordVocabulary::nearestTo(const QString &piece) const
+RVKeywordFault RVKeywordVocabulary::unknownKeyword(const QString &piece) const
 {
-    if (piece.size() > LONGEST_GUESS)
-        return QString();
-    RVNearestText nearest(piece, int(piece.size() + 1) / 2);
+    RVKeywordFault fault;
+    fault.piece = piece;
+    if (piece.isEmpty()) {
+        fault.kind = RVKeywordFault::Empty;
+        return fault;
+    }
+    const RVForeignLetters letters(piece);
+    fault.letters = letters.text();
+    const QString plain = letters.isEmpty() ? piece : letters.plain().trimmed();
+    if (!explainSeparators(plain, &fault) && !explainSpelling(plain, &fault) && !explainName(plain, &fault))
+        explainMistake(plain, &fault);
+    return fault;
+}
+
+/// Keywords with the separators of other lists between them. Blanks and dashes also separate the words of a keyword, so
+/// "indigo glossy" may be one or two.
+bool RVKeywordVocabulary::explainSeparators(const QString &plain, RVKeywordFault *fault) const
+{
+    static const QRegularExpression theSeparators(u"\\s*[;|/]\\s*|\\s+"_s);
+    static const QRegularExpression theSign(u"[;|/]"_s);
+    static const QRegularExpression theSignWithBlank(u"[;|/]\\s"_s);
+    const QStringList pieces = plain.split(theSeparators, Qt::SkipEmptyParts);
+    const qsizetype known = countKeywords(pieces);
+    const bool areKeywords = known == pieces.size();
+    const bool hasSign = plain.contains(theSign);
+    if (pieces.size() < 2 || (hasSign ? known == 0 : !areKeywords || mySqueezed.contains(squeezed(plain))))
+        return false;
+    fault->kind = RVKeywordFault::Separated;
+    if (!areKeywords)
+        return true;
+    QStringList faultlessPieces;
+    for (const QString &piece : pieces)
+        faultlessPieces += faultless(piece, piece.toLower());
+    const QLatin1StringView comma = plain.contains(theSignWithBlank) ? ", "_L1 : ","_L1;
+    fault->mended = faultlessPieces.join(comma);
+    fault->betterKeywords += fault->mended;
+    return true;
+}
+
+qsizetype RVKeywordVocabulary::countKeywords(const QStringList &pieces) const
+{
+    return std::count_if(pieces.begin(), pieces.end(),
+                         [this](const QString &piece) { return myMainKeywords.contains(piece.toLower()); });
+}
+
+/// Keywords that differ in blanks, dashes and letters that look alike only.
+bool RVKeywordVocabulary::explainSpelling(const QString &plain, RVKeywordFault *fault) const
+{
+    const QStringList keywords = mySqueezed.value(squeezed(plain));
+    if (keywords.isEmpty())
+        return false;
+    guess(plain, keywords, fault);
+    // Two keywords side by side may also be meant as two.
+    const QStringList words = plain.split(u' ', Qt::SkipEmptyParts);
+    if (words.size() > 1 && countKeywords(words) == words.size())
+        fault->mended = QString();
+    return true;
+}
+
+bool RVKeywordVocabulary::explainName(const QString &plain, RVKeywordFault *fault) const
+{
+    const QStringList keywords = myKeywordsOfNames.value(foldedName(plain));
+    if (keywords.isEmpty() || keywords.size() > 3)
+        return false;
+    fault->kind = RVKeywordFault::Named;
+    for (const QString &keyword : keywords)
+        fault->betterKeywords += spelledLike(plain, keyword);
+    if (keywords.size() == 1)
+        fault->mended = fault->betterKeywords.first();
+    return true;
+}
+
+bool RVKeywordVocabulary::explainMistake(const QString &plain, RVKeywordFault *fault) const
+{
+    RVNearestTexts nearest(plain);
     for (const QString &keyword : myGuesses)
         nearest.offer(keyword);
-    return nearest.text();
+    if (nearest.texts().isEmpty())
+        return false;
+    // Of keywords that are further away than one letter the first is as good a guess as any other.
+    guess(plain, nearest.distance() > 1 ? nearest.texts().first(1) : nearest.texts(), fault);
+    if (nearest.distance() > 1 || !fault->letters.isEmpty())
+        fault->mended = QString();
+    return true;
+}
+
+/// Keywords of one value are one guess.
+void RVKeywordVocabulary::guess(const QString &plain, const QStringList &keywords, RVKeywordFault *fault) const
+{
+    fault->kind = RVKeywordFault::Mistyped;
+    QStringList values;
+    for (const QString &keyword : keywords) {
+        const QString value = myMainKeywords[keyword];
+        if (values.contains(value))
+            continue;
+        values += value;
+        fault->betterKeywords += isAlias(keyword, value) ? keyword : spelledLike(plain, value);
+    }
+    if (values.size() > 1)
+        return;
+    fault->mended = spelledLike(plain, values.first());
+    if (isAlias(keywords.first(), values.first()))
+        fault->meaning = fault->mended;
+}
+
+/// The main keyword of one that is in lower case, in the letter case of the piece where that is the main one.
+QString RVKeywordVocabulary::faultless(const QString &piece, const QString &keyword) const
+{
+    const QString mainKeyword = myMainKeywords[keyword];
+    return isAlias(keyword, mainKeyword) ? spelledLike(piece, mainKeyword) : piece;
 }

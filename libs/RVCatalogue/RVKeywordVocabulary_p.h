@@ -10,17 +10,30 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
 #include <vector>
 
 /// The fault of one piece of a keyword list.
 struct RVKeywordFault
 {
+    enum Kind {
+        Alias, ///< a keyword, but not the main one
+        Empty,
+        Separated, ///< several keywords, not separated by commas
+        Named, ///< the display name of a value
+        Mistyped, ///< like a keyword
+        Unknown, ///< like none
+    };
+
+    Kind kind = Unknown;
     QString piece; ///< as it was written, without blanks around it; may be empty
-    /// The main keyword of the same value; of an unknown piece the keyword that is most like it, empty where none is.
-    /// In lower case where the piece is.
-    QString betterKeyword;
-    QString meaning; ///< the main keyword of the better one, where that is an alias
-    bool isKnown = false; ///< an alias
+    qsizetype from = 0; ///< its place in the list
+    /// The main keyword of an alias; the pieces of a separated one with commas, where all are keywords; the keywords
+    /// that have the name, or are most like the piece. In lower case where the piece is.
+    QStringList betterKeywords;
+    QString meaning; ///< the main keyword of the only better one, where that is an alias
+    QString letters; ///< on a letter of the piece that looks like another one, or like none; empty where there is none
+    QString mended; ///< the text to put in the place of the piece; null where there is not one safe answer
 };
 
 /// The keywords of one attribute, to judge lists of them. It never changes, so any thread may ask.
@@ -33,6 +46,8 @@ public:
     explicit RVKeywordVocabulary(RVCatalogueAttribute attribute);
 
     QLatin1StringView attributeName() const { return myAttribute.name(); }
+    /// One keyword of every value, by their numbers; aliases for bare numbers.
+    const QStringList &keywords() const { return myKeywords; }
 
     /// True where each piece of a list in UTF-8 is certainly a keyword without a fault. Of some lists with letters
     /// beyond ASCII only faults() tells.
@@ -43,13 +58,23 @@ public:
 
 private:
     bool has(QByteArrayView piece) const;
-    QString nearestTo(const QString &piece) const;
+    std::optional<RVKeywordFault> faultOf(const QString &piece) const;
     RVKeywordFault unknownKeyword(const QString &piece) const;
+    qsizetype countKeywords(const QStringList &pieces) const;
+    bool explainSpelling(const QString &plain, RVKeywordFault *fault) const;
+    bool explainSeparators(const QString &plain, RVKeywordFault *fault) const;
+    bool explainName(const QString &plain, RVKeywordFault *fault) const;
+    bool explainMistake(const QString &plain, RVKeywordFault *fault) const;
+    void guess(const QString &plain, const QStringList &keywords, RVKeywordFault *fault) const;
+    QString faultless(const QString &piece, const QString &keyword) const;
 
     RVCatalogueAttribute myAttribute;
     QHash<QString, QString> myMainKeywords; // of all keywords, which are in lower case
     QList<QByteArray> myFaultless; // sorted
     QStringList myGuesses; // all keywords, main ones first, both by the alphabet
+    QStringList myKeywords;
+    QHash<QString, QStringList> myKeywordsOfNames; // of display names, which are folded
+    QHash<QString, QStringList> mySqueezed; // the keywords in lower case, of what they are without blanks and dashes
 };
 
 #endif

@@ -1,13 +1,12 @@
 #include "RVOptionCheck_p.h"
 
 #include "RVCatalogueProduct.h"
+#include "RVColorCheck_p.h"
 #include "RVFindingReport_p.h"
 #include "RVFindingText_p.h"
 #include "RVOptionDefaultCheck_p.h"
 #include "RVPriceClassCheck_p.h"
 #include "RVValueCheck_p.h"
-
-#include <QColor>
 
 #include <algorithm>
 #include <functional>
@@ -29,9 +28,10 @@ bool isMismatch(const RVCatalogueElement &form, QByteArrayView key, QByteArrayVi
 QString incompleteText(const RVCheckedOption &option)
 {
     if (!option.key.isEmpty())
-        return RVFindingText::tr("the option has no value");
-    return option.value.isEmpty() ? RVFindingText::tr("the option has no key and no value")
-                                  : RVFindingText::tr("the option has no key");
+        return RVFindingText::tr("the option has no value; write one, or take out the form");
+    return option.value.isEmpty()
+            ? RVFindingText::tr("the option has no key and no value; write both, or take out the form")
+            : RVFindingText::tr("the option has no key; write one, or take out the form");
 }
 
 RVOptionsByKey byKey(const RVCheckedOptions &options)
@@ -74,7 +74,7 @@ RVCheckedOption RVOptionCheck::checkForm(const RVCatalogueElement &form)
         form, key, value, hasMismatch, preselected.value_or(false), preselected.has_value()
     };
     checkKeyAndValue(option);
-    checkColor(form);
+    RVColorCheck(myReport).check(form);
     rvCheckedBool(form, "not_accountable"_L1, false, myReport);
     RVPriceClassCheck(myReport).check(form, "price_class"_L1);
     return option;
@@ -88,20 +88,9 @@ void RVOptionCheck::checkKeyAndValue(const RVCheckedOption &option)
     if (option.hasMismatch)
         myReport->add(
                 RVCatalogueRuleId::OptionCompositeMismatch, option.form, "value"_L1,
-                RVFindingText::tr("the keys %1 and the values %2 are not equally many")
-                        .arg(rvQuoted(option.form.attribute("key"_L1)), rvQuoted(option.form.attribute("value"_L1))));
-}
-
-void RVOptionCheck::checkColor(const RVCatalogueElement &form)
-{
-    constexpr auto name = "color"_L1;
-    const QByteArrayView bytes = form.utf8(name);
-    if (bytes.isEmpty() || QColor::fromString(QUtf8StringView(bytes)).isValid())
-        return;
-    const QString color = form.attribute(name);
-    if (!QColor::fromString(color).isValid())
-        myReport->add(RVCatalogueRuleId::OptionColorInvalid, form, name,
-                      RVFindingText::tr("%1 is no colour").arg(rvQuoted(color)));
+                RVFindingText::tr("the keys %1 and the values %2 are not equally many; write one value for each key")
+                        .arg(rvQuoted(option.form.attribute("key"_L1)), rvQuoted(option.form.attribute("value"_L1))),
+                { { rvPlaceOf(option.form, "key"_L1, RVFindingText::tr("the keys")) } });
 }
 
 void RVOptionCheck::checkDuplicates(const RVOptionsByKey &options)
@@ -115,8 +104,9 @@ void RVOptionCheck::checkDuplicates(const RVOptionsByKey &options)
             continue;
         }
         myReport->add(RVCatalogueRuleId::OptionDuplicate, option->form, "value"_L1,
-                      RVFindingText::tr("the option %1 of %2 is already there in line %3")
+                      RVFindingText::tr("the option %1 of %2 is already there in line %3; take out one")
                               .arg(rvQuoted(option->form.attribute("value"_L1)),
-                                   rvQuoted(option->form.attribute("key"_L1)), rvLineOf(first->form)));
+                                   rvQuoted(option->form.attribute("key"_L1)), rvLineOf(first->form)),
+                      { { rvPlaceOf(first->form, "value"_L1, RVFindingText::tr("the first of them")) } });
     }
 }

@@ -17,7 +17,6 @@ public:
 private:
     RVCheckedOption checkForm(const RVCatalogueElement &form);
     void checkKeyAndValue(const RVCheckedOption &option);
-    void checkColor(const RVCatalogueElement &form);
     void checkDuplicates(const RVOptionsByKey &options);
 
     RVFindingReport *myReport;

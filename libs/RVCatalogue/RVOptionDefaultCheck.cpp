@@ -112,16 +112,17 @@ void RVOptionDefaultCheck::addTwice(const Key &key)
 {
     const RVCatalogueElement form = key.preselectedToo->form;
     myReport->add(RVCatalogueRuleId::OptionDefaultTwice, form, "preselected"_L1,
-                  RVFindingText::tr("%1 is preselected for %2, but %3 in line %4 is so already")
+                  RVFindingText::tr("%1 is preselected for %2, but %3 in line %4 is so already; preselect one")
                           .arg(rvQuoted(form.attribute("value"_L1)), rvQuoted(form.attribute("key"_L1)),
-                               rvQuoted(key.preselected->form.attribute("value"_L1)), rvLineOf(key.preselected->form)));
+                               rvQuoted(key.preselected->form.attribute("value"_L1)), rvLineOf(key.preselected->form)),
+                  { { rvPlaceOf(key.preselected->form, "preselected"_L1, RVFindingText::tr("the first default")) } });
 }
 
 void RVOptionDefaultCheck::addMissing(const Key &key, bool hasDefaults)
 {
     const QString text = hasDefaults
-            ? RVFindingText::tr("no option of %1 is preselected, so an order comes without any")
-            : RVFindingText::tr("no option of %1 is preselected, so the first is taken");
+            ? RVFindingText::tr("no option of %1 is preselected, so an order comes without any; preselect one")
+            : RVFindingText::tr("no option of %1 is preselected, so the first is taken; preselect one");
     myReport->add(RVCatalogueRuleId::OptionDefaultMissing, key.first->form,
                   text.arg(rvQuoted(key.first->form.attribute("key"_L1))));
 }

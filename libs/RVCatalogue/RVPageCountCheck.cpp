@@ -5,7 +5,22 @@
 #include "RVFindingText_p.h"
 #include "RVValueCheck_p.h"
 
+#include <limits>
+
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Those next to a highest count that is none of them; the higher one only where there is such a number.
+QString nextCounts(const RVPageCountOrganization &counts)
+{
+    const qint64 below = counts.pageCounts().last();
+    const qint64 above = below + counts.pageIncrement();
+    return above > std::numeric_limits<int>::max() ? QString::number(below)
+                                                   : RVFindingText::tr("%1 and %2").arg(below).arg(above);
+}
+
+}
 
 RVCheckedPageCounts RVPageCountCheck::check(const RVCatalogueProduct &product)
 {
@@ -24,24 +39,34 @@ bool RVPageCountCheck::checkValidity(const RVCatalogueElement &product, const RV
     const QString lowest = QString::number(counts.minPages());
     const QString highest = QString::number(counts.maxPages());
     if (pieces < 1)
-        return addInvalid(product, "pieces"_L1, RVFindingText::tr("there are %1 pieces").arg(pieces));
+        return addInvalid(product, "pieces"_L1, RVFindingText::tr("there are %1 pieces; write 1 or more").arg(pieces));
     if (counts.minPages() > counts.maxPages()) {
-        myReport->add(RVCatalogueRuleId::PageCountsReversed, product, "max_pages"_L1,
-                      RVFindingText::tr("the lowest page count %1 is above the highest, %2").arg(lowest, highest));
+        myReport->add(
+                RVCatalogueRuleId::PageCountsReversed, product, "max_pages"_L1,
+                RVFindingText::tr("the lowest page count %1 is above the highest, %2; raise max_pages, or lower pages")
+                        .arg(lowest, highest),
+                { { rvPlaceOf(product, "pages"_L1, RVFindingText::tr("the lowest page count")) } });
         return false;
     }
     if (counts.minPages() < counts.maxPages() && counts.pageIncrement() == 0)
         return addInvalid(
                 product, "page_step"_L1,
-                RVFindingText::tr("there is no step (page_step) that leads from %1 to %2 pages").arg(lowest, highest));
-    if (!counts.isValid() || counts.minPages() < 0 || counts.pageIncrement() < 0)
-        return addInvalid(product, counts.pageIncrement() < 0 ? "page_step"_L1 : "pages"_L1,
-                          RVFindingText::tr("there are no valid page counts (%1)").arg(counts.dump()));
+                RVFindingText::tr(
+                        "there is no step (page_step) that leads from %1 to %2 pages; write how many pages one "
+                        "package has")
+                        .arg(lowest, highest));
+    if (counts.pageIncrement() < 0)
+        return addInvalid(product, "page_step"_L1,
+                          RVFindingText::tr("steps of %1 pages are below 0; write how many pages one package has")
+                                  .arg(counts.pageIncrement()));
+    if (!counts.isValid() || counts.minPages() < 0)
+        return addInvalid(product, "pages"_L1,
+                          RVFindingText::tr("the lowest page count is %1; write 1 or more").arg(lowest));
     if (!counts.isConsistent())
         myReport->add(RVCatalogueRuleId::PageStepMissesHighest, product, "page_step"_L1,
-                      RVFindingText::tr("steps of %1 from %2 pages end at %3 and never meet %4")
-                              .arg(QString::number(counts.pageIncrement()), lowest,
-                                   QString::number(counts.pageCounts().last()), highest));
+                      RVFindingText::tr("steps of %1 from %2 pages never meet %3; the next counts are %4")
+                              .arg(QString::number(counts.pageIncrement()), lowest, highest, nextCounts(counts)),
+                      { { rvPlaceOf(product, "max_pages"_L1, RVFindingText::tr("the highest page count")) } });
     return true;
 }
 

@@ -20,7 +20,8 @@ void RVPartCheck::checkInnerProducts(const RVCatalogueElement &product)
     constexpr auto name = "product"_L1;
     for (auto inner = product.firstChildElement(name); !inner.isNull(); inner = inner.nextSiblingElement(name))
         myReport->add(RVCatalogueRuleId::ElementIgnored, inner,
-                      RVFindingText::tr("a product inside a product is not read"));
+                      RVFindingText::tr("a product inside a product is not read; put it behind the outer one"),
+                      { { rvPlaceOf(product, RVFindingText::tr("the outer product")) } });
 }
 
 /// Finds those of that name that follow the first.
@@ -28,5 +29,7 @@ void RVPartCheck::checkOthers(const RVCatalogueElement &first, QLatin1StringView
 {
     for (auto other = first.nextSiblingElement(name); !other.isNull(); other = other.nextSiblingElement(name))
         myReport->add(RVCatalogueRuleId::ElementIgnored, other,
-                      RVFindingText::tr("only the first %1 is read, the one in line %2").arg(name, rvLineOf(first)));
+                      RVFindingText::tr("only the first %1 is read, the one in line %2; make them one")
+                              .arg(name, rvLineOf(first)),
+                      { { rvPlaceOf(first, RVFindingText::tr("the first of them")) } });
 }

@@ -3,6 +3,8 @@
 
 #include "RVCatalogueElement.h"
 
+#include <QStringList>
+
 class RVFindingReport;
 
 /// Price class of an add-on.
@@ -14,6 +16,8 @@ public:
     void check(const RVCatalogueElement &element, QLatin1StringView name);
 
 private:
+    void addUnknown(const RVCatalogueElement &element, QLatin1StringView name, const QStringList &ownCodes);
+
     RVFindingReport *myReport;
 };
 

@@ -67,8 +67,10 @@ void RVSpineCheck::check(const RVCatalogueProduct &product)
         checkWidths(spine);
     } else if (spine.isBound) {
         myReport->add(RVCatalogueRuleId::SpineMissing, composition.isNull() ? product.element() : composition,
-                      RVFindingText::tr("the product is bound (%1), but has no spine in a composition")
-                              .arg(binding.encodeCSV()));
+                      RVFindingText::tr(
+                              "the product is bound (%1), but has no spine in a composition; add one with its widths")
+                              .arg(binding.encodeCSV()),
+                      { { rvPlaceOf(product.element(), "page_binding"_L1, RVFindingText::tr("the binding")) } });
     }
 }
 
@@ -91,11 +93,12 @@ void RVSpineCheck::readWidths(Spine *spine)
 void RVSpineCheck::checkWidths(const Spine &spine)
 {
     if (spine.isReadable && !isFinite(spine))
-        return myReport->add(RVCatalogueRuleId::NumberInvalid, spine.element,
-                             RVFindingText::tr("the widths of the spine are too large for a number"));
+        return myReport->add(
+                RVCatalogueRuleId::NumberInvalid, spine.element,
+                RVFindingText::tr("the widths of the spine are too large for a number; write smaller ones"));
     if (spine.isReadable && spine.isBound && !spine.hasWidth)
         return myReport->add(RVCatalogueRuleId::SpineMissing, spine.element,
-                             RVFindingText::tr("the product is bound, but its spine has no width"));
+                             RVFindingText::tr("the product is bound, but its spine has no width; write a base_width"));
     if (!spine.negative.isEmpty())
         addNegative(spine);
 }
@@ -105,13 +108,17 @@ void RVSpineCheck::addNegative(const Spine &spine)
     const QByteArray name = spine.negative.first().toLatin1();
     const QLatin1StringView attribute(name);
     if (shrinksTooFar(spine))
-        return myReport->add(
-                RVCatalogueRuleId::SpineFontTooSmall, spine.element, attribute,
-                RVFindingText::tr("the spine shrinks, so that at %1 pages it is too narrow for the smallest font")
-                        .arg(myPageCounts.counts.maxPages()));
-    const QString text = spine.negative.size() == 1 ? RVFindingText::tr("%1 is below 0")
-                                                    : RVFindingText::tr("%1 are below 0");
-    myReport->add(RVCatalogueRuleId::SpineNegative, spine.element, attribute, text.arg(spine.negative.join(", "_L1)));
+        return myReport->add(RVCatalogueRuleId::SpineFontTooSmall, spine.element, attribute,
+                             RVFindingText::tr("the spine shrinks, so that at %1 pages it is too narrow for the "
+                                               "smallest font; write 0 or more")
+                                     .arg(myPageCounts.counts.maxPages()));
+    const QString text = spine.negative.size() == 1 ? RVFindingText::tr("%1 is below 0; write 0 or more")
+                                                    : RVFindingText::tr("%1 are below 0; write 0 or more");
+    RVFindingDetails details;
+    for (const QString &other : spine.negative.sliced(1))
+        details.places += rvPlaceOf(spine.element, QLatin1StringView(other.toLatin1()), RVFindingText::tr("below 0"));
+    myReport->add(RVCatalogueRuleId::SpineNegative, spine.element, attribute, text.arg(spine.negative.join(", "_L1)),
+                  details);
 }
 
 bool RVSpineCheck::isFinite(const Spine &spine) const

@@ -3,6 +3,10 @@
 #include "RVCatalogueValues_p.h"
 #include "RVFindingReport_p.h"
 #include "RVFindingText_p.h"
+#include "RVForeignLetters_p.h"
+#include "RVNearestTexts_p.h"
+#include "RVNumberFault_p.h"
+#include "RVUnitText_p.h"
 
 #include <algorithm>
 #include <iterator>
@@ -11,12 +15,62 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QByteArrayView UNITS[] = { "mm", "cm", "inch", "in", "pt", "point", "0.1mm" };
-
-void addUnreadable(RVCatalogueRuleId rule, const RVCatalogueElement &element, QLatin1StringView name,
-                   const QString &text, RVFindingReport *report)
+struct BooleanText
 {
-    report->add(rule, element, name, text.arg(name, rvQuoted(element.attribute(name))));
+    QLatin1StringView text;
+    bool value;
+};
+
+constexpr BooleanText BOOLEAN_TEXTS[] = {
+    { QLatin1StringView("true"), true }, { QLatin1StringView("false"), false }, { QLatin1StringView("yes"), true },
+    { QLatin1StringView("no"), false },  { QLatin1StringView("on"), true },     { QLatin1StringView("off"), false },
+    { QLatin1StringView("1"), true },    { QLatin1StringView("0"), false },
+};
+
+/// The boolean that a text means which is none: "true" for " true" and "ture"; null where it may mean both, or none.
+QString meantBoolean(const QString &text)
+{
+    const QString plain = RVForeignLetters(text).plain().trimmed();
+    RVNearestTexts nearest(plain, 2);
+    for (const BooleanText &row : BOOLEAN_TEXTS)
+        nearest.offer(row.text);
+    const auto *found = std::find_if(std::begin(BOOLEAN_TEXTS), std::end(BOOLEAN_TEXTS), [&](const auto &row) {
+        return plain.compare(row.text, Qt::CaseInsensitive) == 0;
+    });
+    if (found != std::end(BOOLEAN_TEXTS))
+        return plain;
+    return nearest.texts().size() == 1 ? nearest.texts().first() : QString();
+}
+
+QString allBooleans()
+{
+    QStringList texts;
+    for (const BooleanText &row : BOOLEAN_TEXTS)
+        texts += row.text;
+    return rvAllOf(texts);
+}
+
+QString reasonText(const RVNumberFault &fault, bool isWhole)
+{
+    switch (fault.reason()) {
+    case RVNumberFault::Reason::TooLarge:
+        return RVFindingText::tr("%1 is %2, which is too large");
+    case RVNumberFault::Reason::TooSmall:
+        return RVFindingText::tr("%1 is %2, which is too small");
+    default:
+        return isWhole ? RVFindingText::tr("%1 is %2, which is no whole number")
+                       : RVFindingText::tr("%1 is %2, which is no number");
+    }
+}
+
+void addNoNumber(const RVCatalogueElement &element, QLatin1StringView name, RVNumberFault::Type type,
+                 RVFindingReport *report)
+{
+    const QString text = element.attribute(name);
+    const RVNumberFault fault(text, type);
+    const QString reason = reasonText(fault, type == RVNumberFault::Type::Whole).arg(name, rvQuoted(text));
+    report->add(RVCatalogueRuleId::NumberInvalid, element, name, rvAdvised(reason, fault.advice()),
+                { {}, rvReplaced(element, name, fault.mended()) });
 }
 
 }
@@ -28,8 +82,7 @@ std::optional<int> rvCheckedInt(const RVCatalogueElement &element, QLatin1String
         return number;
     if (!element.hasAttribute(name))
         return missing;
-    addUnreadable(RVCatalogueRuleId::NumberInvalid, element, name,
-                  RVFindingText::tr("%1 is %2, which is no whole number"), report);
+    addNoNumber(element, name, RVNumberFault::Type::Whole, report);
     return std::nullopt;
 }
 
@@ -40,8 +93,7 @@ std::optional<double> rvCheckedDouble(const RVCatalogueElement &element, QLatin1
         return number;
     if (!element.hasAttribute(name))
         return missing;
-    addUnreadable(RVCatalogueRuleId::NumberInvalid, element, name, RVFindingText::tr("%1 is %2, which is no number"),
-                  report);
+    addNoNumber(element, name, RVNumberFault::Type::Length, report);
     return std::nullopt;
 }
 
@@ -52,20 +104,30 @@ std::optional<bool> rvCheckedBool(const RVCatalogueElement &element, QLatin1Stri
         return value;
     if (!element.hasAttribute(name))
         return missing;
-    addUnreadable(RVCatalogueRuleId::BooleanInvalid, element, name,
-                  RVFindingText::tr("%1 is %2, which is neither true nor false"), report);
+    const QString text = element.attribute(name);
+    const QString meant = meantBoolean(text);
+    const QString reason = RVFindingText::tr("%1 is %2, which is neither true nor false").arg(name, rvQuoted(text));
+    const QString advice = meant.isNull() ? RVFindingText::tr("there are %1").arg(allBooleans())
+                                          : RVFindingText::tr("did you mean %1?").arg(rvQuoted(meant));
+    report->add(RVCatalogueRuleId::BooleanInvalid, element, name,
+                rvAdvised(rvAdvised(reason, RVForeignLetters(text).text()), advice),
+                { {}, rvReplaced(element, name, meant) });
     return std::nullopt;
 }
 
 bool rvCheckUnit(const RVCatalogueElement &element, RVFindingReport *report)
 {
     constexpr auto name = "units"_L1;
-    const bool isKnown = std::find(std::begin(UNITS), std::end(UNITS), element.utf8(name)) != std::end(UNITS);
-    if (isKnown || !element.hasAttribute(name))
+    if (rvIsUnit(element.utf8(name)) || !element.hasAttribute(name))
         return true;
+    const QString text = element.attribute(name);
+    const QString meant = rvMeantUnit(text);
+    const QString reason = RVFindingText::tr("there is no unit %1").arg(rvQuoted(text));
+    const QString advice = meant.isNull() ? RVFindingText::tr("there are %1").arg(rvAllOf(rvUnits()))
+                                          : RVFindingText::tr("write %1").arg(rvQuoted(meant));
     report->add(RVCatalogueRuleId::UnitUnknown, element, name,
-                RVFindingText::tr("there is no unit %1; there are mm, cm, inch, in, pt, point and 0.1mm")
-                        .arg(rvQuoted(element.attribute(name))));
+                rvAdvised(rvAdvised(reason, RVForeignLetters(text).text()), advice),
+                { {}, rvReplaced(element, name, meant) });
     return false;
 }
 

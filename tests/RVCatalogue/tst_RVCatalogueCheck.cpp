@@ -156,51 +156,52 @@ QList<Mistake> mistakes()
         { "no product", QByteArray("<products>\n<Product/></products>"), u""_s,
           u"1 error products-missing: there is no product in this file"_s },
         { "type missing", changed("type='DUN9' ", ""), u"<product>"_s,
-          u"2 error type-missing: the product has no type"_s },
+          u"2 error type-missing: the product has no type; write the code that projects have for it"_s },
         { "type empty", changed("type='DUN9' ", "type=' ' "), u"type=' '"_s,
-          u"2 error type-missing: the product has no type"_s },
+          u"2 error type-missing: the product has no type; write the code that projects have for it"_s },
         { "type twice", changed("type='FOT1'", "type='DUN9'"), u"type='DUN9'"_s,
           u"17 error type-duplicate: the type \"DUN9\" is already that of the product in line 2"_s },
         { "type twice in one family", changed("type='FOT1'", "type='DUN9_30'"), u"type='DUN9_30'"_s,
           u"17 error type-duplicate: the type \"DUN9_30\", that is \"DUN9\", is already that of the product in line 2"_s },
         { "article id missing", changed(" article_id='1'", ""), u"<product>"_s,
-          u"2 error article-id-missing: the product has no article id"_s },
+          u"2 error article-id-missing: the product has no article id; write its number into article_id"_s },
         { "article id empty", changed("article_id='1'", "article_id=''"), u"article_id=''"_s,
-          u"2 error article-id-missing: the product has no article id"_s },
+          u"2 error article-id-missing: the product has no article id; write its number into article_id"_s },
         { "article id 0", changed("article_id='1'", "article_id='0'"), u"article_id='0'"_s,
-          u"2 error article-id-invalid: the article id \"0\" is no whole number above 0"_s },
+          u"2 error article-id-invalid: the article id \"0\" is no whole number above 0; write 1 or more"_s },
         { "article id -1", changed("article_id='1'", "article_id='-1'"), u"article_id='-1'"_s,
-          u"2 error article-id-invalid: the article id \"-1\" is no whole number above 0"_s },
+          u"2 error article-id-invalid: the article id \"-1\" is no whole number above 0; write 1 or more"_s },
         { "article id 12a", changed("article_id='1'", "article_id='12a'"), u"article_id='12a'"_s,
-          u"2 error article-id-invalid: the article id \"12a\" is no whole number above 0"_s },
+          u"2 error article-id-invalid: the article id \"12a\" is no whole number above 0; write nothing but digits"_s },
         { "article id 1.5", changed("article_id='1'", "article_id='1.5'"), u"article_id='1.5'"_s,
-          u"2 error article-id-invalid: the article id \"1.5\" is no whole number above 0"_s },
+          u"2 error article-id-invalid: the article id \"1.5\" is no whole number above 0; write nothing but digits"_s },
         { "article id 2147483648", changed("article_id='1'", "article_id='2147483648'"), u"article_id='2147483648'"_s,
-          u"2 error article-id-invalid: the article id \"2147483648\" is no whole number above 0"_s },
+          u"2 error article-id-invalid: the article id \"2147483648\" is too large; write at most 2147483647"_s },
         { "article id twice", changed("article_id='2'", "article_id='+1'"), u"article_id='+1'"_s,
           u"17 error article-id-duplicate: the article id 1 is already that of the product in line 2"_s },
         { "shipping group -1", changed("shipping_group='2'", "shipping_group='-1'"), u"shipping_group='-1'"_s,
-          u"2 error shipping-group-invalid: the shipping group \"-1\" is none"_s },
+          u"2 error shipping-group-invalid: the shipping group \"-1\" is none; leave out the attribute"_s },
         { "shipping group two", changed("shipping_group='2'", "shipping_group='two'"), u"shipping_group='two'"_s,
-          u"2 error shipping-group-invalid: the shipping group \"two\" is none"_s },
+          u"2 error shipping-group-invalid: the shipping group \"two\" is none; write nothing but digits"_s },
         { "shipping group empty", changed("shipping_group='2'", "shipping_group=''"), u"shipping_group=''"_s,
-          u"2 error shipping-group-invalid: the shipping group \"\" is none"_s },
+          u"2 error shipping-group-invalid: the shipping group \"\" is none; write a number, or leave out the attribute"_s },
         { "unknown keyword", changed("cover_type='hardcover'", "cover_type='hardcovr'"), u"cover_type='hardcovr'"_s,
           u"2 error keyword-unknown: \"hardcovr\" is no keyword of cover_type; did you mean \"hardcover\"?"_s },
         { "unknown keyword in capitals", changed("cover_type='hardcover'", "cover_type='HARDCOVRE'"),
           u"cover_type='HARDCOVRE'"_s,
           u"2 error keyword-unknown: \"HARDCOVRE\" is no keyword of cover_type; did you mean \"HARDCOVER\"?"_s },
         { "unknown keyword that is like none", changed("orientation='portrait'", "orientation='xyz'"),
-          u"orientation='xyz'"_s, u"2 error keyword-unknown: \"xyz\" is no keyword of orientation"_s },
+          u"orientation='xyz'"_s,
+          u"2 error keyword-unknown: \"xyz\" is no keyword of orientation; there are none, portrait, landscape, square, portrait_slim, landscape_slim and all"_s },
         { "unknown keyword in a list", changed("orientation='portrait'", "orientation='portrait, sqare'"),
           u"orientation='portrait, sqare'"_s,
           u"2 error keyword-unknown: \"sqare\" is no keyword of orientation; did you mean \"square\"?"_s },
         { "empty keyword", changed("paper_type='fotopaper'", "paper_type=''"), u"paper_type=''"_s,
-          u"2 error keyword-unknown: there is an empty keyword in paper_type"_s },
+          u"2 error keyword-unknown: there is an empty keyword in paper_type; write one, or leave out the attribute"_s },
         { "unknown binding", changed("page_binding='glue'", "page_binding='gluu'"), u"page_binding='gluu'"_s,
           u"2 error keyword-unknown: \"gluu\" is no keyword of page_binding; did you mean \"glue\"?"_s },
         { "unknown article class", changed("article_class='book'", "article_class='buch'"), u"article_class='buch'"_s,
-          u"2 error keyword-unknown: \"buch\" is no keyword of article_class"_s },
+          u"2 error keyword-unknown: \"buch\" is no keyword of article_class; \"rvcatalog keywords article_class\" lists them"_s },
         { "unknown size", changed("space_magnitude='600cm2'", "space_magnitude='600cm'"), u"space_magnitude='600cm'"_s,
           u"2 error keyword-unknown: \"600cm\" is no keyword of space_magnitude; did you mean \"600cm2\"?"_s },
         { "unknown photo paper", changed("foto_paper_type='matt'", "foto_paper_type='mat'"), u"foto_paper_type='mat'"_s,
@@ -211,209 +212,214 @@ QList<Mistake> mistakes()
           u"page_binding='Glued'"_s,
           u"2 note keyword-legacy: \"Glued\" is an alias in page_binding; the main keyword is \"glue\""_s },
         { "page counts reversed", changed("max_pages='154'", "max_pages='18'"), u"max_pages='18'"_s,
-          u"2 error page-counts-reversed: the lowest page count 26 is above the highest, 18"_s },
+          u"2 error page-counts-reversed: the lowest page count 26 is above the highest, 18; raise max_pages, or lower pages"_s },
         { "no pages", changed("foto_paper_type='matt'", "pages='0'"), u"pages='0'"_s,
-          u"17 error page-counts-invalid: there are no valid page counts (min: 0; max: 0; increment: 0)"_s },
+          u"17 error page-counts-invalid: the lowest page count is 0; write 1 or more"_s },
         { "no step", changed(" page_step='4'", ""), u"<product>"_s,
-          u"2 error page-counts-invalid: there is no step (page_step) that leads from 26 to 154 pages"_s },
+          u"2 error page-counts-invalid: there is no step (page_step) that leads from 26 to 154 pages; write how many pages one package has"_s },
         { "negative step", changed("page_step='4'", "page_step='-4'"), u"page_step='-4'"_s,
-          u"2 error page-counts-invalid: there are no valid page counts (min: 26; max: 154; increment: -4)"_s },
+          u"2 error page-counts-invalid: steps of -4 pages are below 0; write how many pages one package has"_s },
         { "negative step of a fixed count", changed("foto_paper_type='matt'", "page_step='-4'"), u"page_step='-4'"_s,
-          u"17 error page-counts-invalid: there are no valid page counts (min: 1; max: 1; increment: -4)"_s },
+          u"17 error page-counts-invalid: steps of -4 pages are below 0; write how many pages one package has"_s },
         { "negative pages", changed("foto_paper_type='matt'", "pages='-4'"), u"pages='-4'"_s,
-          u"17 error page-counts-invalid: there are no valid page counts (min: -4; max: -4; increment: 0)"_s },
+          u"17 error page-counts-invalid: the lowest page count is -4; write 1 or more"_s },
         { "no pieces", changed("pieces='1'", "pieces='0'"), u"pieces='0'"_s,
-          u"2 error page-counts-invalid: there are 0 pieces"_s },
+          u"2 error page-counts-invalid: there are 0 pieces; write 1 or more"_s },
         { "step misses the highest count", changed("page_step='4'", "page_step='6'"), u"page_step='6'"_s,
-          u"2 warning page-step-misses-highest: steps of 6 from 26 pages end at 152 and never meet 154"_s },
+          u"2 warning page-step-misses-highest: steps of 6 from 26 pages never meet 154; the next counts are 152 and 158"_s },
         { "pages are no number", changed("pages='26'", "pages='many'"), u"pages='many'"_s,
-          u"2 error number-invalid: pages is \"many\", which is no whole number"_s },
+          u"2 error number-invalid: pages is \"many\", which is no whole number; write nothing but digits"_s },
         { "pages are no whole number", changed("pages='26'", "pages='26.5'"), u"pages='26.5'"_s,
-          u"2 error number-invalid: pages is \"26.5\", which is no whole number"_s },
+          u"2 error number-invalid: pages is \"26.5\", which is no whole number; write nothing but digits"_s },
         { "photo box is no boolean", changed("pages='26'", "pages='26' photo_box='ja'"), u"photo_box='ja'"_s,
-          u"2 error boolean-invalid: photo_box is \"ja\", which is neither true nor false"_s },
+          u"2 error boolean-invalid: photo_box is \"ja\", which is neither true nor false; there are true, false, yes, no, on, off, 1 and 0"_s },
         { "no composition",
           changed("<composition units='cm'>\n<spine packages_per_block='2' base_width='0.8' block_width='0.1' "
                   "additional_width='0.05'/>\n</composition>\n",
                   ""),
-          u"<product>"_s, u"2 error spine-missing: the product is bound (glue), but has no spine in a composition"_s },
+          u"<product>"_s,
+          u"2 error spine-missing: the product is bound (glue), but has no spine in a composition; add one with its widths"_s },
         { "no spine",
           changed("<spine packages_per_block='2' base_width='0.8' block_width='0.1' additional_width='0.05'/>\n", ""),
           u"<composition>"_s,
-          u"7 error spine-missing: the product is bound (glue), but has no spine in a composition"_s },
+          u"7 error spine-missing: the product is bound (glue), but has no spine in a composition; add one with its widths"_s },
         { "spine without width",
           changed(" packages_per_block='2' base_width='0.8' block_width='0.1' additional_width='0.05'", ""),
-          u"<spine>"_s, u"8 error spine-missing: the product is bound, but its spine has no width"_s },
+          u"<spine>"_s,
+          u"8 error spine-missing: the product is bound, but its spine has no width; write a base_width"_s },
         { "unknown unit of the spine", changed("units='cm'", "units='CM'"), u"units='CM'"_s,
-          u"7 error unit-unknown: there is no unit \"CM\"; there are mm, cm, inch, in, pt, point and 0.1mm"_s },
+          u"7 error unit-unknown: there is no unit \"CM\"; write \"cm\""_s },
         { "negative base width", changed("base_width='0.8'", "base_width='-0.8'"), u"base_width='-0.8'"_s,
-          u"8 error spine-negative: base_width is below 0"_s },
+          u"8 error spine-negative: base_width is below 0; write 0 or more"_s },
         { "negative additional width", changed("additional_width='0.05'", "additional_width='-0.05'"),
-          u"additional_width='-0.05'"_s, u"8 error spine-negative: additional_width is below 0"_s },
+          u"additional_width='-0.05'"_s, u"8 error spine-negative: additional_width is below 0; write 0 or more"_s },
         { "shrinks a little", changed("block_width='0.1'", "block_width='-0.001'"), u"block_width='-0.001'"_s,
-          u"8 error spine-negative: block_width is below 0"_s },
+          u"8 error spine-negative: block_width is below 0; write 0 or more"_s },
         { "packages below 0", changed("packages_per_block='2'", "packages_per_block='-100'"),
-          u"packages_per_block='-100'"_s, u"8 error spine-negative: packages_per_block is below 0"_s },
+          u"packages_per_block='-100'"_s, u"8 error spine-negative: packages_per_block is below 0; write 0 or more"_s },
         { "shrinks too far", changed("block_width='0.1'", "block_width='-0.05'"), u"block_width='-0.05'"_s,
-          u"8 warning spine-font-too-small: the spine shrinks, so that at 154 pages it is too narrow for the smallest font"_s },
+          u"8 warning spine-font-too-small: the spine shrinks, so that at 154 pages it is too narrow for the smallest font; write 0 or more"_s },
         { "grows backwards", changed("packages_per_block='2'", "packages_per_block='-1'"), u"packages_per_block='-1'"_s,
-          u"8 warning spine-font-too-small: the spine shrinks, so that at 154 pages it is too narrow for the smallest font"_s },
+          u"8 warning spine-font-too-small: the spine shrinks, so that at 154 pages it is too narrow for the smallest font; write 0 or more"_s },
         { "width is no number", changed("base_width='0.8'", "base_width='0,8'"), u"base_width='0,8'"_s,
-          u"8 error number-invalid: base_width is \"0,8\", which is no number"_s },
+          u"8 error number-invalid: base_width is \"0,8\", which is no number; decimals have a point: write 0.8"_s },
         { "width is infinite", changed("base_width='0.8'", "base_width='inf'"), u"base_width='inf'"_s,
-          u"8 error number-invalid: base_width is \"inf\", which is no number"_s },
+          u"8 error number-invalid: base_width is \"inf\", which is no number; write digits, and a point before decimals"_s },
         { "width is too large", changed("base_width='0.8'", "base_width='1e308'"), u"<spine>"_s,
-          u"8 error number-invalid: the widths of the spine are too large for a number"_s },
+          u"8 error number-invalid: the widths of the spine are too large for a number; write smaller ones"_s },
         { "width becomes too large", changed("block_width='0.1'", "block_width='1e306'"), u"<spine>"_s,
-          u"8 error number-invalid: the widths of the spine are too large for a number"_s },
+          u"8 error number-invalid: the widths of the spine are too large for a number; write smaller ones"_s },
         { "packages are no number", changed("packages_per_block='2'", "packages_per_block='2x'"),
           u"packages_per_block='2x'"_s,
-          u"8 error number-invalid: packages_per_block is \"2x\", which is no whole number"_s },
+          u"8 error number-invalid: packages_per_block is \"2x\", which is no whole number; write nothing but digits"_s },
         { "option without key", changed("key='alcolor' value='red'", "value='red'"), u"<form>"_s,
-          u"12 error option-incomplete: the option has no key"_s },
+          u"12 error option-incomplete: the option has no key; write one, or take out the form"_s },
         { "default option without key", changed("key='alcolor' value='black'", "key='' value='black'"), u"key=''"_s,
-          u"11 error option-incomplete: the option has no key"_s },
+          u"11 error option-incomplete: the option has no key; write one, or take out the form"_s },
         { "option without value", changed("value='red'", "value=''"), u"value=''"_s,
-          u"12 error option-incomplete: the option has no value"_s },
+          u"12 error option-incomplete: the option has no value; write one, or take out the form"_s },
         { "default option without value", changed(" value='black'", ""), u"<form>"_s,
-          u"11 error option-incomplete: the option has no value"_s },
+          u"11 error option-incomplete: the option has no value; write one, or take out the form"_s },
         { "option with nothing", changed("<forms>\n", "<forms><form/>\n"), u"<form>"_s,
-          u"10 error option-incomplete: the option has no key and no value"_s },
+          u"10 error option-incomplete: the option has no key and no value; write both, or take out the form"_s },
         { "option twice", changed("value='red'", "value='black'"), u"value='black'"_s,
-          u"12 error option-duplicate: the option \"black\" of \"alcolor\" is already there in line 11"_s },
+          u"12 error option-duplicate: the option \"black\" of \"alcolor\" is already there in line 11; take out one"_s },
         { "default option twice", changed("value='red'", "value='black' preselected='true'"), u"value='black'"_s,
-          u"12 error option-duplicate: the option \"black\" of \"alcolor\" is already there in line 11"_s },
+          u"12 error option-duplicate: the option \"black\" of \"alcolor\" is already there in line 11; take out one"_s },
         { "two defaults", changed("value='red'", "value='red' preselected='true'"), u"preselected='true'"_s,
-          u"12 error option-default-twice: \"red\" is preselected for \"alcolor\", but \"black\" in line 11 is so already"_s },
+          u"12 error option-default-twice: \"red\" is preselected for \"alcolor\", but \"black\" in line 11 is so already; preselect one"_s },
         { "three defaults",
           changed("value='red' color='red' price_class='LEZ2'/>",
                   "value='red' preselected='true'/>\n<form key='alcolor' value='blue' preselected='true'/>"),
           u"preselected='true'"_s,
-          u"12 error option-default-twice: \"red\" is preselected for \"alcolor\", but \"black\" in line 11 is so already"_s },
+          u"12 error option-default-twice: \"red\" is preselected for \"alcolor\", but \"black\" in line 11 is so already; preselect one"_s },
         { "no default of one key", changed(" preselected='true'", ""), u"<form>"_s,
-          u"11 warning option-default-missing: no option of \"alcolor\" is preselected, so an order comes without any"_s },
+          u"11 warning option-default-missing: no option of \"alcolor\" is preselected, so an order comes without any; preselect one"_s },
         { "no default of the only key",
           withSecondProduct("<product type='A' article_id='2'><forms>\n<form key='a' value='b'/>\n<form key='a' "
                             "value='c'/></forms></product>"),
           u"<form>"_s,
-          u"18 warning option-default-missing: no option of \"a\" is preselected, so the first is taken"_s },
+          u"18 warning option-default-missing: no option of \"a\" is preselected, so the first is taken; preselect one"_s },
         { "default with a mistake in its keys", changed("key='a;b' value='x;y'", "key='ab' value='x;y'"),
           u"value='x;y'"_s,
-          u"13 error option-composite-mismatch: the keys \"ab\" and the values \"x;y\" are not equally many"_s },
+          u"13 error option-composite-mismatch: the keys \"ab\" and the values \"x;y\" are not equally many; write one value for each key"_s },
         { "option with a mistake in its keys", changed("key='a;b' value='v;w'", "key='ab' value='v;w'"),
           u"value='v;w'"_s,
-          u"14 error option-composite-mismatch: the keys \"ab\" and the values \"v;w\" are not equally many"_s },
+          u"14 error option-composite-mismatch: the keys \"ab\" and the values \"v;w\" are not equally many; write one value for each key"_s },
         { "default with a mistake in its values", changed("value='x;y'", "value='xy'"), u"value='xy'"_s,
-          u"13 error option-composite-mismatch: the keys \"a;b\" and the values \"xy\" are not equally many"_s },
+          u"13 error option-composite-mismatch: the keys \"a;b\" and the values \"xy\" are not equally many; write one value for each key"_s },
         { "option without value beside a single one",
           withSecondProduct("<product type='A' article_id='2'><forms>\n<form key='a' value='b'/>\n<form key='a'/>"
                             "</forms></product>"),
-          u"<form>"_s, u"19 error option-incomplete: the option has no value"_s },
+          u"<form>"_s, u"19 error option-incomplete: the option has no value; write one, or take out the form"_s },
         { "options of another key without value", changed("<forms>\n", "<forms>\n<form key='c'/>\n"), u"<form>"_s,
-          u"11 error option-incomplete: the option has no value"_s },
+          u"11 error option-incomplete: the option has no value; write one, or take out the form"_s },
         { "barcodes twice", changed("</forms>", "</forms>\n<barcodes><barcode width='-1'/></barcodes>"),
-          u"<barcodes>"_s, u"16 error element-ignored: only the first barcodes is read, the one in line 3"_s },
+          u"<barcodes>"_s,
+          u"16 error element-ignored: only the first barcodes is read, the one in line 3; make them one"_s },
         { "composition twice", changed("</forms>", "</forms>\n<composition><spine base_width='x'/></composition>"),
-          u"<composition>"_s, u"16 error element-ignored: only the first composition is read, the one in line 7"_s },
+          u"<composition>"_s,
+          u"16 error element-ignored: only the first composition is read, the one in line 7; make them one"_s },
         { "forms twice", changed("</forms>", "</forms>\n<forms><form/></forms>"), u"<forms>"_s,
-          u"16 error element-ignored: only the first forms is read, the one in line 10"_s },
+          u"16 error element-ignored: only the first forms is read, the one in line 10; make them one"_s },
         { "two spines", changed("</composition>", "<spine/></composition>"), u"<spine>"_s,
-          u"9 error element-ignored: only the first spine is read, the one in line 8"_s },
+          u"9 error element-ignored: only the first spine is read, the one in line 8; make them one"_s },
         { "product in a product", changed("<forms>", "<product/><forms>"), u"<product>"_s,
-          u"10 error element-ignored: a product inside a product is not read"_s },
+          u"10 error element-ignored: a product inside a product is not read; put it behind the outer one"_s },
         { "unreadable colour", changed("color='red'", "color='weinrot'"), u"color='weinrot'"_s,
-          u"12 warning option-color-invalid: \"weinrot\" is no colour"_s },
+          u"12 warning option-color-invalid: \"weinrot\" is no colour; write an English name, or \"#\" and 6 hexadecimal digits"_s },
         { "colour with too few digits", changed("color='#1a1a1a'", "color='#1a1a1'"), u"color='#1a1a1'"_s,
-          u"11 warning option-color-invalid: \"#1a1a1\" is no colour"_s },
+          u"11 warning option-color-invalid: \"#1a1a1\" is no colour; it has 5 instead of 6 digits"_s },
         { "more keys than values", changed("value='v;w'", "value='v'"), u"value='v'"_s,
-          u"14 error option-composite-mismatch: the keys \"a;b\" and the values \"v\" are not equally many"_s },
+          u"14 error option-composite-mismatch: the keys \"a;b\" and the values \"v\" are not equally many; write one value for each key"_s },
         { "more values than keys", changed("value='red'", "value='red;blue'"), u"value='red;blue'"_s,
-          u"12 error option-composite-mismatch: the keys \"alcolor\" and the values \"red;blue\" are not equally many"_s },
+          u"12 error option-composite-mismatch: the keys \"alcolor\" and the values \"red;blue\" are not equally many; write one value for each key"_s },
         { "preselected is no boolean", changed("preselected='true'", "preselected='x'"), u"preselected='x'"_s,
-          u"11 error boolean-invalid: preselected is \"x\", which is neither true nor false"_s },
+          u"11 error boolean-invalid: preselected is \"x\", which is neither true nor false; there are true, false, yes, no, on, off, 1 and 0"_s },
         { "not_accountable is no boolean", changed("not_accountable='true'", "not_accountable=''"),
           u"not_accountable=''"_s,
-          u"13 error boolean-invalid: not_accountable is \"\", which is neither true nor false"_s },
+          u"13 error boolean-invalid: not_accountable is \"\", which is neither true nor false; there are true, false, yes, no, on, off, 1 and 0"_s },
         { "barcode without width", changed("width='38' height='10' pageNr='2'/>", "width='0' height='10' pageNr='2'/>"),
-          u"width='0'"_s, u"4 error barcode-invalid: the barcode has no width or no height"_s },
+          u"width='0'"_s, u"4 error barcode-invalid: the barcode has no width or no height; write both above 0"_s },
         { "barcode with negative height", changed("height='10' pageNr='2'/>", "height='-10' pageNr='2'/>"),
-          u"height='-10'"_s, u"4 error barcode-invalid: the barcode has no width or no height"_s },
+          u"height='-10'"_s, u"4 error barcode-invalid: the barcode has no width or no height; write both above 0"_s },
         { "barcode without image", changed("image='a.png'", "image=''"), u"image=''"_s,
-          u"5 error barcode-invalid: the barcode has no image"_s },
+          u"5 error barcode-invalid: the barcode has no image; name a file, or leave out the attribute"_s },
         { "barcode behind the last page", changed("pageNr='2'/>", "pageNr='155'/>"), u"pageNr='155'"_s,
           u"4 error barcode-page-impossible: there is no page 155; the product has at most 154"_s },
         { "barcode on a negative page", changed("pageNr='2'/>", "pageNr='-1'/>"), u"pageNr='-1'"_s,
-          u"4 error barcode-page-impossible: there is no page -1"_s },
+          u"4 error barcode-page-impossible: there is no page -1; write 0 or more"_s },
         { "barcode left of the page", changed("position_x='12'", "position_x='-0.1'"), u"position_x='-0.1'"_s,
-          u"4 error barcode-outside-page: the barcode begins left of the page"_s },
+          u"4 error barcode-outside-page: the barcode begins left of the page; write a position_x of 0 or more"_s },
         { "barcode above the page", changed("position_x='12' position_y='290.5'", "position_x='12' position_y='9'"),
-          u"position_y='9'"_s, u"4 error barcode-outside-page: the barcode begins above the page"_s },
+          u"position_y='9'"_s,
+          u"4 error barcode-outside-page: the barcode begins above the page; write a position_y of at least its height"_s },
         { "barcode right of the page", changed("position_x='62'", "position_x='600'"), u"position_x='600'"_s,
-          u"5 error barcode-outside-page: the barcode ends 638 mm from the left and 290.5 mm from the top, where there is no page"_s },
+          u"5 error barcode-outside-page: the barcode ends 638 mm from the left and 290.5 mm from the top, where there is no page; move it, or make it smaller"_s },
         { "barcode below the page", changed("position_x='62' position_y='290.5'", "position_x='62' position_y='2905'"),
           u"position_y='2905'"_s,
-          u"5 error barcode-outside-page: the barcode ends 100 mm from the left and 2905 mm from the top, where there is no page"_s },
+          u"5 error barcode-outside-page: the barcode ends 100 mm from the left and 2905 mm from the top, where there is no page; move it, or make it smaller"_s },
         { "barcode right of an upright page",
           changed("position_x='62' position_y='290.5'", "position_x='250' position_y='100'"), u"position_x='250'"_s,
-          u"5 error barcode-outside-page: the barcode ends 288 mm from the left and 100 mm from the top, where there is no page"_s },
+          u"5 error barcode-outside-page: the barcode ends 288 mm from the left and 100 mm from the top, where there is no page; move it, or make it smaller"_s },
         { "barcode below a wide page",
           changed("orientation='portrait'", "orientation='landscape'")
                   .replace("position_x='12' position_y='290.5'", "position_y='200'")
                   .replace("position_y='290.5'", "position_y='277'"),
           u"position_y='277'"_s,
-          u"5 error barcode-outside-page: the barcode ends 100 mm from the left and 277 mm from the top, where there is no page"_s },
+          u"5 error barcode-outside-page: the barcode ends 100 mm from the left and 277 mm from the top, where there is no page; move it, or make it smaller"_s },
         { "barcode outside of a square page",
           changed("orientation='portrait'", "orientation='square'")
                   .replace("position_y='290.5'", "position_y='200'")
                   .replace("position_x='62'", "position_x='270'"),
           u"position_x='270'"_s,
-          u"5 error barcode-outside-page: the barcode ends 308 mm from the left and 200 mm from the top, where there is no page"_s },
+          u"5 error barcode-outside-page: the barcode ends 308 mm from the left and 200 mm from the top, where there is no page; move it, or make it smaller"_s },
         { "barcode on a page that would be a ribbon",
           changed("orientation='portrait' ", "")
                   .replace("position_x='62' position_y='290.5'", "position_x='900' position_y='20'"),
           u"position_x='900'"_s,
-          u"5 error barcode-outside-page: the barcode ends 938 mm from the left and 20 mm from the top, where there is no page"_s },
+          u"5 error barcode-outside-page: the barcode ends 938 mm from the left and 20 mm from the top, where there is no page; move it, or make it smaller"_s },
         { "barcode far from a page of any size",
           changed("space_magnitude='600cm2' ", "").replace("position_x='62'", "position_x='9999'"),
           u"position_x='9999'"_s,
-          u"5 error barcode-outside-page: the barcode ends 10037 mm from the left and 290.5 mm from the top, where there is no page"_s },
+          u"5 error barcode-outside-page: the barcode ends 10037 mm from the left and 290.5 mm from the top, where there is no page; move it, or make it smaller"_s },
         { "barcode half outside over another", changed("position_x='62'", "position_x='-2'"), u"position_x='-2'"_s,
-          u"5 error barcode-outside-page: the barcode begins left of the page"_s },
+          u"5 error barcode-outside-page: the barcode begins left of the page; write a position_x of 0 or more"_s },
         { "lengths in an unknown unit",
           changed("<barcodes units='mm'>", "<barcodes units='0.1 mm'>").replace("290.5", "2905"), u"units='0.1 mm'"_s,
-          u"3 error unit-unknown: there is no unit \"0.1 mm\"; there are mm, cm, inch, in, pt, point and 0.1mm"_s },
+          u"3 error unit-unknown: there is no unit \"0.1 mm\"; write \"0.1mm\""_s },
         { "barcodes overlap", changed("position_x='62'", "position_x='49.9'"), u"<barcode>"_s,
-          u"5 error barcode-overlap: the barcode overlaps the one in line 4"_s },
+          u"5 error barcode-overlap: the barcode overlaps the one in line 4; move one of them"_s },
         { "barcode position is no number", changed("position_x='62'", "position_x='12mm'"), u"position_x='12mm'"_s,
-          u"5 error number-invalid: position_x is \"12mm\", which is no number"_s },
+          u"5 error number-invalid: position_x is \"12mm\", which is no number; the unit belongs to \"units\": write 12"_s },
         { "barcode page is no number", changed("pageNr='2'/>", "pageNr='x'/>"), u"pageNr='x'"_s,
-          u"4 error number-invalid: pageNr is \"x\", which is no whole number"_s },
+          u"4 error number-invalid: pageNr is \"x\", which is no whole number; write nothing but digits"_s },
         { "unknown unit of barcodes", changed("<barcodes units='mm'>", "<barcodes units='metre'>"), u"units='metre'"_s,
           u"3 error unit-unknown: there is no unit \"metre\"; there are mm, cm, inch, in, pt, point and 0.1mm"_s },
         { "price class of an option", changed("price_class='LEZ2'", "price_class='LEZ7'"), u"price_class='LEZ7'"_s,
-          u"12 warning price-class-unknown: the price class \"LEZ7\" belongs to no known group"_s },
+          u"12 warning price-class-unknown: the price class \"LEZ7\" belongs to no known group; did you mean \"LEZ1\", \"LEZ2\" or \"LEZ3\"?"_s },
         { "price class in small letters", changed("price_class='LEZ2'", "price_class='lez2'"), u"price_class='lez2'"_s,
-          u"12 warning price-class-unknown: the price class \"lez2\" belongs to no known group"_s },
+          u"12 warning price-class-unknown: the price class \"lez2\" belongs to no known group; did you mean \"LEZ2\"?"_s },
         { "price class of pages", changed("page_price_class='RODA6x9'", "page_price_class='RODA'"),
           u"page_price_class='RODA'"_s,
-          u"2 warning price-class-unknown: the price class \"RODA\" belongs to no known group"_s },
+          u"2 warning price-class-unknown: the price class \"RODA\" belongs to no known group; did you mean \"RODA6x9\"?"_s },
         { "too narrow from the start",
           changed("base_width='0.8' block_width='0.1'", "base_width='0.01' block_width='-0.05'"),
-          u"block_width='-0.05'"_s, u"8 error spine-negative: block_width is below 0"_s },
+          u"block_width='-0.05'"_s, u"8 error spine-negative: block_width is below 0; write 0 or more"_s },
         { "width is too large beside an unreadable number",
           changed("packages_per_block='2' base_width='0.8'", "packages_per_block='two' base_width='1e308'"),
           u"packages_per_block='two'"_s,
-          u"8 error number-invalid: packages_per_block is \"two\", which is no whole number"_s },
+          u"8 error number-invalid: packages_per_block is \"two\", which is no whole number; write nothing but digits"_s },
         { "both widths below 0", changed("base_width='0.8' block_width='0.1'", "block_width='-0.1' base_width='-0.8'"),
-          u"base_width='-0.8'"_s, u"8 error spine-negative: base_width, block_width are below 0"_s },
+          u"base_width='-0.8'"_s, u"8 error spine-negative: base_width, block_width are below 0; write 0 or more"_s },
         { "blank type", changed("type='DUN9' ", "type='&#160;' "), u"type='&#160;'"_s,
-          u"2 error type-missing: the product has no type"_s },
+          u"2 error type-missing: the product has no type; write the code that projects have for it"_s },
         { "step of nothing", changed("page_step='4'", "page_step='0'"), u"page_step='0'"_s,
-          u"2 error page-counts-invalid: there is no step (page_step) that leads from 26 to 154 pages"_s },
+          u"2 error page-counts-invalid: there is no step (page_step) that leads from 26 to 154 pages; write how many pages one package has"_s },
         { "option with an empty value", changed("<forms>\n", "<forms><form key='' value=''/>\n"), u"key=''"_s,
-          u"10 error option-incomplete: the option has no key and no value"_s },
+          u"10 error option-incomplete: the option has no key and no value; write both, or take out the form"_s },
         { "unit with a blank", changed("<barcodes units='mm'>", "<barcodes units='mm '>"), u"units='mm '"_s,
-          u"3 error unit-unknown: there is no unit \"mm \"; there are mm, cm, inch, in, pt, point and 0.1mm"_s },
+          u"3 error unit-unknown: there is no unit \"mm \"; write \"mm\""_s },
     };
 }
 
@@ -623,22 +629,24 @@ void tst_RVCatalogueCheck::options_data()
                           "<form key='b' value='x'/>\n"
                           "<form key='b' value='w'/>\n"
                           "<form key='b' value='x'/>\n")
-            << QStringList { u"4 error option-duplicate: the option \"x\" of \"b\" is already there in line 2"_s,
-                             u"6 error option-duplicate: the option \"x\" of \"b\" is already there in line 2"_s };
+            << QStringList {
+                   u"4 error option-duplicate: the option \"x\" of \"b\" is already there in line 2; take out one"_s,
+                   u"6 error option-duplicate: the option \"x\" of \"b\" is already there in line 2; take out one"_s
+               };
     QTest::newRow("default repeats an option, and another default follows")
             << QByteArray("<form key='a' value='x'/>\n"
                           "<form key='a' value='x' preselected='1'/>\n"
                           "<form key='a' value='b' preselected='1'/>\n")
             << QStringList {
-                   u"3 error option-duplicate: the option \"x\" of \"a\" is already there in line 2"_s,
-                   u"4 error option-default-twice: \"b\" is preselected for \"a\", but \"x\" in line 3 is so already"_s
+                   u"3 error option-duplicate: the option \"x\" of \"a\" is already there in line 2; take out one"_s,
+                   u"4 error option-default-twice: \"b\" is preselected for \"a\", but \"x\" in line 3 is so already; preselect one"_s
                };
     QTest::newRow("three defaults, not by the alphabet")
             << QByteArray("<form key='a' value='z' preselected='1'/>\n"
                           "<form key='a' value='x' preselected='1'/>\n"
                           "<form key='a' value='y' preselected='1'/>\n")
             << QStringList {
-                   u"3 error option-default-twice: \"x\" is preselected for \"a\", but \"z\" in line 2 is so already"_s
+                   u"3 error option-default-twice: \"x\" is preselected for \"a\", but \"z\" in line 2 is so already; preselect one"_s
                };
     QTest::newRow("two defaults of each of two keys")
             << QByteArray("<form key='b' value='2' preselected='1'/>\n"
@@ -646,8 +654,8 @@ void tst_RVCatalogueCheck::options_data()
                           "<form key='b' value='1' preselected='1'/>\n"
                           "<form key='a' value='1' preselected='1'/>\n")
             << QStringList {
-                   u"4 error option-default-twice: \"1\" is preselected for \"b\", but \"2\" in line 2 is so already"_s,
-                   u"5 error option-default-twice: \"1\" is preselected for \"a\", but \"2\" in line 3 is so already"_s
+                   u"4 error option-default-twice: \"1\" is preselected for \"b\", but \"2\" in line 2 is so already; preselect one"_s,
+                   u"5 error option-default-twice: \"1\" is preselected for \"a\", but \"2\" in line 3 is so already; preselect one"_s
                };
     QTest::newRow("no default of two keys")
             << QByteArray("<form key='b' value='2'/>\n"
@@ -655,22 +663,26 @@ void tst_RVCatalogueCheck::options_data()
                           "<form key='a' value='1'/>\n"
                           "<form key='b' value='1'/>\n")
             << QStringList {
-                   u"2 warning option-default-missing: no option of \"b\" is preselected, so the first is taken"_s,
-                   u"3 warning option-default-missing: no option of \"a\" is preselected, so the first is taken"_s
+                   u"2 warning option-default-missing: no option of \"b\" is preselected, so the first is taken; preselect one"_s,
+                   u"3 warning option-default-missing: no option of \"a\" is preselected, so the first is taken; preselect one"_s
                };
     QTest::newRow("nobody knows what is preselected")
             << QByteArray("<form key='a' value='1' preselected='maybe'/>\n"
                           "<form key='b' value='1' preselected='1'/>\n")
-            << QStringList { u"2 error boolean-invalid: preselected is \"maybe\", which is neither true nor false"_s };
+            << QStringList {
+                   u"2 error boolean-invalid: preselected is \"maybe\", which is neither true nor false; there are true, false, yes, no, on, off, 1 and 0"_s
+               };
     QTest::newRow("one key more than the letters of another")
             << QByteArray("<form key='a' value='bc' preselected='1'/>\n"
                           "<form key='ab' value='c' preselected='1'/>\n")
             << QStringList();
     QTest::newRow("many in one product")
             << QByteArray("<form key='a' value='b' preselected='1'/>").repeated(100) + "\n<form key='a' value='b'/>"
-            << QStringList(99, u"2 error option-duplicate: the option \"b\" of \"a\" is already there in line 2"_s)
+            << QStringList(
+                       99,
+                       u"2 error option-duplicate: the option \"b\" of \"a\" is already there in line 2; take out one"_s)
                     + QStringList {
-                          u"3 error option-duplicate: the option \"b\" of \"a\" is already there in line 2"_s
+                          u"3 error option-duplicate: the option \"b\" of \"a\" is already there in line 2; take out one"_s
                       };
 }
 
@@ -685,25 +697,27 @@ void tst_RVCatalogueCheck::severalInOneProduct()
 {
     const QString missing =
             u"13 warning option-default-missing: no option of \"a;b\" is preselected, so an order comes "
-            "without any"_s;
+            "without any; preselect one"_s;
     const Checked incomplete = check(changed(" preselected='yes'", "").replace("value='black'", "value=''"));
-    QCOMPARE(incomplete.texts(), QStringList({ u"11 error option-incomplete: the option has no value"_s, missing }));
+    QCOMPARE(incomplete.texts(),
+             QStringList({ u"11 error option-incomplete: the option has no value; write one, or take out the form"_s,
+                           missing }));
     const Checked mismatch = check(changed("value='v;w'", "value='vw'").replace(" preselected='true'", ""));
     QCOMPARE(mismatch.texts(),
              QStringList({ u"11 warning option-default-missing: no option of \"alcolor\" is preselected, so an order "
-                           "comes without any"_s,
+                           "comes without any; preselect one"_s,
                            u"14 error option-composite-mismatch: the keys \"a;b\" and the values \"vw\" are not "
-                           "equally many"_s }));
+                           "equally many; write one value for each key"_s }));
     const Checked line = check(
             "<products><product page_step='x' article_id='0' cover_type='hard, foo' type=''/></products>");
     QCOMPARE(
             line.texts(),
             QStringList(
-                    { u"1 error number-invalid: page_step is \"x\", which is no whole number"_s,
-                      u"1 error article-id-invalid: the article id \"0\" is no whole number above 0"_s,
+                    { u"1 error number-invalid: page_step is \"x\", which is no whole number; write nothing but digits"_s,
+                      u"1 error article-id-invalid: the article id \"0\" is no whole number above 0; write 1 or more"_s,
                       u"1 note keyword-legacy: \"hard\" is an alias in cover_type; the main keyword is \"hardcover\""_s,
-                      u"1 error keyword-unknown: \"foo\" is no keyword of cover_type"_s,
-                      u"1 error type-missing: the product has no type"_s }));
+                      u"1 error keyword-unknown: \"foo\" is no keyword of cover_type; \"rvcatalog keywords cover_type\" lists them"_s,
+                      u"1 error type-missing: the product has no type; write the code that projects have for it"_s }));
 }
 
 void tst_RVCatalogueCheck::shrinkingSpines_data()
@@ -711,23 +725,26 @@ void tst_RVCatalogueCheck::shrinkingSpines_data()
     QTest::addColumn<QByteArray>("file");
     QTest::addColumn<QStringList>("findings");
 
-    const QString negative = u"8 error spine-negative: block_width is below 0"_s;
+    const QString negative = u"8 error spine-negative: block_width is below 0; write 0 or more"_s;
     QTest::newRow("in an unknown unit")
             << changed("units='cm'", "units='MM'")
                        .replace("base_width='0.8' block_width='0.1'", "base_width='8' block_width='-0.5'")
-            << QStringList {
-                   u"7 error unit-unknown: there is no unit \"MM\"; there are mm, cm, inch, in, pt, point and 0.1mm"_s,
-                   negative
-               };
+            << QStringList { u"7 error unit-unknown: there is no unit \"MM\"; write \"mm\""_s, negative };
     QTest::newRow("with an unreadable width")
             << changed("block_width='0.1' additional_width='0.05'", "block_width='-0.05' additional_width='x'")
-            << QStringList { negative, u"8 error number-invalid: additional_width is \"x\", which is no number"_s };
+            << QStringList {
+                   negative,
+                   u"8 error number-invalid: additional_width is \"x\", which is no number; write digits, and a point before decimals"_s
+               };
     QTest::newRow("with another negative width")
             << changed("block_width='0.1' additional_width='0.05'", "block_width='-0.05' additional_width='-0.05'")
-            << QStringList { u"8 error spine-negative: block_width, additional_width are below 0"_s };
+            << QStringList { u"8 error spine-negative: block_width, additional_width are below 0; write 0 or more"_s };
     QTest::newRow("with unreadable page counts")
             << changed("block_width='0.1'", "block_width='-0.05'").replace(" pages='26'", " pages='many'")
-            << QStringList { u"2 error number-invalid: pages is \"many\", which is no whole number"_s, negative };
+            << QStringList {
+                   u"2 error number-invalid: pages is \"many\", which is no whole number; write nothing but digits"_s,
+                   negative
+               };
 }
 
 // Only where nothing else is wrong the font is measured.
@@ -742,8 +759,10 @@ void tst_RVCatalogueCheck::disabledRules()
 {
     const QByteArray file = changed("cover_type='hardcover'", "cover_type='hard, foo'");
     QCOMPARE(check(file).findings.size(), 2);
-    QCOMPARE(check(file, { u"keyword-legacy"_s }).texts(),
-             QStringList { u"2 error keyword-unknown: \"foo\" is no keyword of cover_type"_s });
+    QCOMPARE(
+            check(file, { u"keyword-legacy"_s }).texts(),
+            QStringList {
+                    u"2 error keyword-unknown: \"foo\" is no keyword of cover_type; \"rvcatalog keywords cover_type\" lists them"_s });
     QCOMPARE(check(file, { u"keyword-legacy"_s, u"keyword-unknown"_s }).texts(), QStringList());
     QCOMPARE(check("<p/>", { u"products-missing"_s }).texts(), QStringList());
     QCOMPARE(check(changed("type='FOT1' article_id='2'", "type='DUN9' article_id='1'"),
@@ -881,8 +900,9 @@ void tst_RVCatalogueCheck::findingsBeforeAnError()
     const Checked checked = check("<p>\n<product type='A'/>\n<product type='A' article_id='1'/></q>");
     QVERIFY(checked.hasError);
     QCOMPARE(checked.texts(),
-             QStringList({ u"2 error article-id-missing: the product has no article id"_s,
-                           u"3 error type-duplicate: the type \"A\" is already that of the product in line 2"_s }));
+             QStringList(
+                     { u"2 error article-id-missing: the product has no article id; write its number into article_id"_s,
+                       u"3 error type-duplicate: the type \"A\" is already that of the product in line 2"_s }));
     QCOMPARE(check("<p>").texts(), QStringList());
 }
 
@@ -892,7 +912,9 @@ void tst_RVCatalogueCheck::longTexts()
     const QByteArray file = changed("cover_type='hardcover'", "cover_type='a&#10;" + QByteArray(60000, 'x') + '\'');
     QCOMPARE(
             check(file).texts(),
-            QStringList { u"2 error keyword-unknown: \"a %1…\" is no keyword of cover_type"_s.arg(QString(78, u'x')) });
+            QStringList {
+                    u"2 error keyword-unknown: \"a %1…\" is no keyword of cover_type; \"rvcatalog keywords cover_type\" lists them"_s
+                            .arg(QString(78, u'x')) });
     const QByteArray many = changed("cover_type='hardcover'", "cover_type='" + QByteArray("x,").repeated(30000) + '\'');
     QCOMPARE(check(many).findings.size(), 100);
 }
@@ -906,7 +928,8 @@ void tst_RVCatalogueCheck::manyProducts()
         const QByteArray number = QByteArray::number(i);
         file += "<product type='T" + number + "' article_id='" + number + (i % 7 ? "'/>\n" : "' pages='x'/>\n");
         if (i % 7 == 0)
-            expected += u"%1 error number-invalid: pages is \"x\", which is no whole number"_s.arg(i + 1);
+            expected += u"%1 error number-invalid: pages is \"x\", which is no whole number; write nothing but digits"_s
+                                .arg(i + 1);
     }
     file += "</products>";
     const Checked checked = check(file);
@@ -933,11 +956,13 @@ void tst_RVCatalogueCheck::duplicatesFarApart()
 void tst_RVCatalogueCheck::missingIdsAreNoDuplicates()
 {
     const QByteArray product = "<product type=' ' article_id='0'/>\n";
-    QCOMPARE(check("<products>\n" + product + product + "</products>").texts(),
-             QStringList({ u"2 error type-missing: the product has no type"_s,
-                           u"2 error article-id-invalid: the article id \"0\" is no whole number above 0"_s,
-                           u"3 error type-missing: the product has no type"_s,
-                           u"3 error article-id-invalid: the article id \"0\" is no whole number above 0"_s }));
+    QCOMPARE(
+            check("<products>\n" + product + product + "</products>").texts(),
+            QStringList(
+                    { u"2 error type-missing: the product has no type; write the code that projects have for it"_s,
+                      u"2 error article-id-invalid: the article id \"0\" is no whole number above 0; write 1 or more"_s,
+                      u"3 error type-missing: the product has no type; write the code that projects have for it"_s,
+                      u"3 error article-id-invalid: the article id \"0\" is no whole number above 0; write 1 or more"_s }));
 }
 
 void tst_RVCatalogueCheck::everyKeyword()
@@ -1007,11 +1032,14 @@ void tst_RVCatalogueCheck::guesses_data()
     QTest::newRow("other separator")
             << u"paper_type"_s << u"indigo_glossy"_s
             << u"\"indigo_glossy\" is no keyword of paper_type; did you mean \"indigo-glossy\"?"_s;
-    QTest::newRow("like nothing") << u"cover_type"_s << u"zzzzzzzz"_s << u"\"zzzzzzzz\" is no keyword of cover_type"_s;
-    QTest::newRow("empty") << u"cover_type"_s << QString() << u"there is an empty keyword in cover_type"_s;
+    QTest::newRow("like nothing")
+            << u"cover_type"_s << u"zzzzzzzz"_s
+            << u"\"zzzzzzzz\" is no keyword of cover_type; \"rvcatalog keywords cover_type\" lists them"_s;
+    QTest::newRow("empty") << u"cover_type"_s << QString()
+                           << u"there is an empty keyword in cover_type; write one, or leave out the attribute"_s;
     QTest::newRow("too long")
             << u"cover_type"_s << QString(50, u'h')
-            << u"\"hhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhh\" is no keyword of cover_type"_s;
+            << u"\"hhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhh\" is no keyword of cover_type; \"rvcatalog keywords cover_type\" lists them"_s;
 }
 
 void tst_RVCatalogueCheck::guesses()

@@ -136,8 +136,10 @@ void tst_check::text()
     QCOMPARE(run.output,
              u"faults.xml:2:34: note: \"hard\" is an alias in cover_type; the main keyword is \"hardcover\" "
              "[keyword-legacy]\n"
-             "faults.xml:3:23: error: the article id \"0\" is no whole number above 0 [article-id-invalid]\n"
-             "faults.xml:4:34: warning: the price class \"\"x\"\" belongs to no known group [price-class-unknown]\n"_s
+             "faults.xml:3:23: error: the article id \"0\" is no whole number above 0; write 1 or more "
+             "[article-id-invalid]\n"
+             "faults.xml:4:34: warning: the price class \"\"x\"\" belongs to no known group; write one of a "
+             "group, or one that begins with 0 for what is not billed [price-class-unknown]\n"_s
                      + QLatin1StringView(SUMMARY_OF_FAULTS));
     QCOMPARE(run.exitCode, 1);
 }
@@ -240,7 +242,7 @@ void tst_check::jsonFormat()
         { u"product"_s, 1 },
         { u"rule"_s, u"article-id-invalid"_s },
         { u"severity"_s, u"error"_s },
-        { u"text"_s, u"the article id \"0\" is no whole number above 0"_s },
+        { u"text"_s, u"the article id \"0\" is no whole number above 0; write 1 or more"_s },
     };
     QCOMPARE(findings.at(1).toObject(), expected);
     const QJsonObject summary = {

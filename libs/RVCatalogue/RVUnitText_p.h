@@ -1,0 +1,17 @@
+#ifndef RVUNITTEXT_P_H
+#define RVUNITTEXT_P_H
+
+#include <QByteArrayView>
+#include <QString>
+#include <QStringList>
+
+/// True for the texts that "units" may have.
+bool rvIsUnit(QByteArrayView text);
+
+/// All of them.
+QStringList rvUnits();
+
+/// The unit that a text means which is none: "mm" for "Millimeter" and "MM"; null where it may mean several or none.
+QString rvMeantUnit(const QString &text);
+
+#endif
