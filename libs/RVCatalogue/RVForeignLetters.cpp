@@ -98,7 +98,7 @@ QString RVForeignLetters::text() const
         return QString();
     const QString name = "U+"_L1 + QString::number(uint(myFirst), 16).toUpper().rightJustified(4, u'0');
     if (isBlank(myFirst))
-        return RVFindingText::tr("it has %1, which is another letter than a blank").arg(name);
+        return RVFindingText::tr("it has %1, which is no plain blank").arg(name);
     if (isInvisible(myFirst))
         return RVFindingText::tr("it has %1, which is invisible").arg(name);
     if (!myFirstPlain.isNull())

@@ -54,9 +54,12 @@ void RVIdCheck::checkShippingGroup(const RVCatalogueElement &product)
         return;
     const QString text = product.attribute(name);
     const RVNumberFault fault(text, RVNumberFault::Type::Whole);
+    const QString reason = fault.reason() == RVNumberFault::Reason::TooLarge
+            ? RVFindingText::tr("the shipping group %1 is too large")
+            : RVFindingText::tr("the shipping group %1 is none");
     const bool isMeantAsNone = group || fault.mended() == "-1"_L1;
     myReport->add(RVCatalogueRuleId::ShippingGroupInvalid, product, name,
-                  rvAdvised(RVFindingText::tr("the shipping group %1 is none").arg(rvQuoted(text)),
+                  rvAdvised(reason.arg(rvQuoted(text)),
                             isMeantAsNone ? RVFindingText::tr("leave out the attribute") : fault.advice()),
                   { {}, isMeantAsNone ? QList<RVFileEdit>() : rvReplaced(product, name, fault.mended()) });
 }

@@ -58,6 +58,13 @@ QString squeezed(const QString &text)
     return text.toLower().remove(theSeparators);
 }
 
+/// Those of other lists than of keywords.
+const QRegularExpression &otherSeparators()
+{
+    static const QRegularExpression theSeparators(u"[;|/+&]"_s);
+    return theSeparators;
+}
+
 bool isAlias(const QString &keyword, const QString &mainKeyword)
 {
     return keyword != mainKeyword.toLower();
@@ -163,8 +170,9 @@ RVKeywordFault RVKeywordVocabulary::unknownKeyword(const QString &piece) const
     const RVForeignLetters letters(piece);
     fault.letters = letters.text();
     const QString plain = letters.isEmpty() ? piece : letters.plain().trimmed();
-    if (!explainSeparators(plain, &fault) && !explainSpelling(plain, &fault) && !explainName(plain, &fault))
-        explainMistake(plain, &fault);
+    if (!explainSpelling(plain, &fault) && !explainName(plain, &fault) && !explainSeparators(plain, &fault)
+        && !explainMistake(plain, &fault) && plain.contains(otherSeparators()))
+        fault.kind = RVKeywordFault::Separated;
     return fault;
 }
 
@@ -172,14 +180,13 @@ RVKeywordFault RVKeywordVocabulary::unknownKeyword(const QString &piece) const
 /// "indigo glossy" may be one or two.
 bool RVKeywordVocabulary::explainSeparators(const QString &plain, RVKeywordFault *fault) const
 {
-    static const QRegularExpression theSeparators(u"\\s*[;|/]\\s*|\\s+"_s);
-    static const QRegularExpression theSign(u"[;|/]"_s);
-    static const QRegularExpression theSignWithBlank(u"[;|/]\\s"_s);
+    static const QRegularExpression theSeparators(u"\\s*[;|/+&]\\s*|\\s+"_s);
+    static const QRegularExpression theBlankBehind(u"[;|/+&]\\s"_s);
     const QStringList pieces = plain.split(theSeparators, Qt::SkipEmptyParts);
     const qsizetype known = countKeywords(pieces);
     const bool areKeywords = known == pieces.size();
-    const bool hasSign = plain.contains(theSign);
-    if (pieces.size() < 2 || (hasSign ? known == 0 : !areKeywords || mySqueezed.contains(squeezed(plain))))
+    const bool hasSign = plain.contains(otherSeparators());
+    if (pieces.size() < 2 || (hasSign ? known == 0 : !areKeywords))
         return false;
     fault->kind = RVKeywordFault::Separated;
     if (!areKeywords)
@@ -187,7 +194,7 @@ bool RVKeywordVocabulary::explainSeparators(const QString &plain, RVKeywordFault
     QStringList faultlessPieces;
     for (const QString &piece : pieces)
         faultlessPieces += faultless(piece, piece.toLower());
-    const QLatin1StringView comma = plain.contains(theSignWithBlank) ? ", "_L1 : ","_L1;
+    const QLatin1StringView comma = plain.contains(theBlankBehind) ? ", "_L1 : ","_L1;
     fault->mended = faultlessPieces.join(comma);
     fault->betterKeywords += fault->mended;
     return true;

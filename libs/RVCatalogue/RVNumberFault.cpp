@@ -44,8 +44,6 @@ RVNumberFault::RVNumberFault(const QString &text, Type type) : myType(type)
         return;
     if (isReadable(plain))
         mendAs(plain);
-    else
-        myMended = QString();
     myAdvice = rvAdvised(letters.text(), myAdvice);
 }
 
@@ -89,7 +87,7 @@ bool RVNumberFault::hasGroups(const QString &text)
 {
     static const QRegularExpression theGroups(u"^[+-]?[1-9]\\d{0,2}(?:([., '])\\d{3})(?:\\1\\d{3})*$"_s);
     static const QRegularExpression theGroupsWithDecimals(
-            u"^[+-]?[1-9]\\d{0,2}(?:(?:\\.\\d{3})+,\\d+|(?:,\\d{3})+\\.\\d+)$"_s);
+            u"^[+-]?[1-9]\\d{0,2}(?:(?:[. ']\\d{3})+,\\d+|(?:[, ']\\d{3})+\\.\\d+)$"_s);
     static const QRegularExpression theSeparators(u"[., ']"_s);
     const bool hasDecimals = isMatch(text, theGroupsWithDecimals);
     if (!hasDecimals && !isMatch(text, theGroups))
@@ -118,6 +116,8 @@ bool RVNumberFault::isOtherwiseWritten(const QString &text)
     QString compact = QString(text).remove(theBlanks).replace(u',', u'.');
     if (compact.endsWith(u'.'))
         compact.chop(1);
+    if (compact.startsWith(u'.'))
+        compact.prepend(u'0');
     const QString number = isReadable(compact) || myType == Type::Length ? compact : wholeNumber(compact);
     if (!isReadable(number))
         return false;

@@ -11,13 +11,19 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Those next to a highest count that is none of them; the higher one only where there is such a number.
-QString nextCounts(const RVPageCountOrganization &counts)
+/// The counts next to a highest one that is none of them; the higher one only where there is such a number.
+QString missText(const RVPageCountOrganization &counts)
 {
     const qint64 below = counts.pageCounts().last();
     const qint64 above = below + counts.pageIncrement();
-    return above > std::numeric_limits<int>::max() ? QString::number(below)
-                                                   : RVFindingText::tr("%1 and %2").arg(below).arg(above);
+    const QString text = RVFindingText::tr("steps of %1 from %2 pages never meet %3")
+                                 .arg(counts.pageIncrement())
+                                 .arg(counts.minPages())
+                                 .arg(counts.maxPages());
+    return rvAdvised(text,
+                     above > std::numeric_limits<int>::max()
+                             ? RVFindingText::tr("the next count is %1").arg(below)
+                             : RVFindingText::tr("the next counts are %1 and %2").arg(below).arg(above));
 }
 
 }
@@ -63,9 +69,7 @@ bool RVPageCountCheck::checkValidity(const RVCatalogueElement &product, const RV
         return addInvalid(product, "pages"_L1,
                           RVFindingText::tr("the lowest page count is %1; write 1 or more").arg(lowest));
     if (!counts.isConsistent())
-        myReport->add(RVCatalogueRuleId::PageStepMissesHighest, product, "page_step"_L1,
-                      RVFindingText::tr("steps of %1 from %2 pages never meet %3; the next counts are %4")
-                              .arg(QString::number(counts.pageIncrement()), lowest, highest, nextCounts(counts)),
+        myReport->add(RVCatalogueRuleId::PageStepMissesHighest, product, "page_step"_L1, missText(counts),
                       { { rvPlaceOf(product, "max_pages"_L1, RVFindingText::tr("the highest page count")) } });
     return true;
 }
