@@ -20,20 +20,24 @@ bool isSwapped(QStringView a, qsizetype i, QStringView b, qsizetype j)
 
 int distanceBetween(QStringView a, QStringView b)
 {
-    Row last = {};
-    Row row = {};
-    std::iota(row.begin(), row.end(), 0);
+    std::array<Row, 3> rows = {};
+    Row *beforeLast = &rows[0];
+    Row *last = &rows[1];
+    Row *row = &rows[2];
+    std::iota(row->begin(), row->begin() + b.size() + 1, 0);
     for (qsizetype i = 1; i <= a.size(); ++i) {
-        const Row beforeLast = std::exchange(last, row);
-        row[0] = int(i);
+        std::swap(beforeLast, last);
+        std::swap(last, row);
+        row->front() = int(i);
         for (qsizetype j = 1; j <= b.size(); ++j) {
             const auto at = std::size_t(j);
-            row[at] = std::min({ last[at] + 1, row[at - 1] + 1, last[at - 1] + (a[i - 1] == b[j - 1] ? 0 : 1) });
+            const int changed = (*last)[at - 1] + (a[i - 1] == b[j - 1] ? 0 : 1);
+            (*row)[at] = std::min({ (*last)[at] + 1, (*row)[at - 1] + 1, changed });
             if (isSwapped(a, i, b, j))
-                row[at] = std::min(row[at], beforeLast[at - 2] + 1);
+                (*row)[at] = std::min((*row)[at], (*beforeLast)[at - 2] + 1);
         }
     }
-    return row[std::size_t(b.size())];
+    return (*row)[std::size_t(b.size())];
 }
 
 }

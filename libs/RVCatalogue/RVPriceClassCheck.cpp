@@ -8,9 +8,8 @@
 
 #include <RVPriceClassSet.h>
 
-#include <QRegularExpression>
-
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -62,20 +61,27 @@ bool isQuicklyFoundIn(const QStringList &codes, QByteArrayView code)
                               [](QAnyStringView a, QAnyStringView b) { return QAnyStringView::compare(a, b) < 0; });
 }
 
-QStringList allCodes(const QStringList &ownCodes)
+const QStringList &knownTexts()
 {
-    QStringList result;
-    for (const QByteArray &known : knownCodes())
-        result += QString::fromUtf8(known);
-    return result + ownCodes;
+    static const QStringList theTexts = [] {
+        QStringList result;
+        for (const QByteArray &code : knownCodes())
+            result += QString::fromUtf8(code);
+        return result;
+    }();
+    return theTexts;
 }
 
-/// Those that begin with a text that is no code, but the begin of a code or two.
-QStringList continued(const QString &begin, const QStringList &codes)
+/// The codes that could be meant: the nearest ones, or where none is near, those that begin like that.
+QStringList meantCodes(const QString &text, const QStringList &codes, const RVNearestTexts &nearest)
 {
     constexpr qsizetype shortest = 3;
-    return begin.size() < shortest ? QStringList()
-                                   : codes.filter(QRegularExpression(u'^' + QRegularExpression::escape(begin)));
+    if (!nearest.texts().isEmpty() || text.size() < shortest)
+        return nearest.texts();
+    QStringList result;
+    std::copy_if(codes.begin(), codes.end(), std::back_inserter(result),
+                 [&text](const QString &code) { return code.startsWith(text); });
+    return result;
 }
 
 }
@@ -99,11 +105,11 @@ void RVPriceClassCheck::addUnknown(const RVCatalogueElement &element, QLatin1Str
     const QString code = element.attribute(name);
     const RVForeignLetters letters(code);
     const QString plain = letters.plain().trimmed();
-    const QStringList codes = allCodes(ownCodes);
+    const QStringList codes = knownTexts() + ownCodes;
     RVNearestTexts nearest(plain);
     for (const QString &each : codes)
         nearest.offer(each);
-    const QStringList meant = nearest.texts().isEmpty() ? continued(plain, codes) : nearest.texts();
+    const QStringList meant = meantCodes(plain, codes, nearest);
     const QString advice = meant.isEmpty()
             ? RVFindingText::tr("write one of a group, or one that begins with 0 for what is not billed")
             : RVFindingText::tr("did you mean %1?").arg(rvOneOf(meant));
