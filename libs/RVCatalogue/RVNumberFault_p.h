@@ -19,7 +19,7 @@ public:
         TooSmall, ///< below the least number
     };
 
-    /// @p text is certainly no number of that type.
+    /// @p text is no number of that type. Of one that is, there is nothing to say.
     RVNumberFault(const QString &text, Type type);
 
     Reason reason() const { return myReason; }

@@ -11,6 +11,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+QString reversedText()
+{
+    return RVFindingText::tr("the lowest page count %1 is above the highest, %2; raise max_pages, or lower pages");
+}
+
+QString noStepText()
+{
+    return RVFindingText::tr("there is no step (page_step) that leads from %1 to %2 pages; write how many pages one "
+                             "package has");
+}
+
 /// The counts next to a highest one that is none of them; the higher one only where there is such a number.
 QString missText(const RVPageCountOrganization &counts)
 {
@@ -47,20 +58,13 @@ bool RVPageCountCheck::checkValidity(const RVCatalogueElement &product, const RV
     if (pieces < 1)
         return addInvalid(product, "pieces"_L1, RVFindingText::tr("there are %1 pieces; write 1 or more").arg(pieces));
     if (counts.minPages() > counts.maxPages()) {
-        myReport->add(
-                RVCatalogueRuleId::PageCountsReversed, product, "max_pages"_L1,
-                RVFindingText::tr("the lowest page count %1 is above the highest, %2; raise max_pages, or lower pages")
-                        .arg(lowest, highest),
-                { { rvPlaceOf(product, "pages"_L1, RVFindingText::tr("the lowest page count")) } });
+        myReport->add(RVCatalogueRuleId::PageCountsReversed, product, "max_pages"_L1,
+                      reversedText().arg(lowest, highest),
+                      { { rvPlaceOf(product, "pages"_L1, RVFindingText::tr("the lowest page count")) } });
         return false;
     }
     if (counts.minPages() < counts.maxPages() && counts.pageIncrement() == 0)
-        return addInvalid(
-                product, "page_step"_L1,
-                RVFindingText::tr(
-                        "there is no step (page_step) that leads from %1 to %2 pages; write how many pages one "
-                        "package has")
-                        .arg(lowest, highest));
+        return addInvalid(product, "page_step"_L1, noStepText().arg(lowest, highest));
     if (counts.pageIncrement() < 0)
         return addInvalid(product, "page_step"_L1,
                           RVFindingText::tr("steps of %1 pages are below 0; write how many pages one package has")

@@ -1,5 +1,9 @@
 #include "FindingTools.h"
 
+#include <RVCatalogueAttribute.h>
+#include <RVNearestText.h>
+
+#include <QSet>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -17,6 +21,8 @@ private Q_SLOTS:
     void severalInOneList();
     void someOfOneList();
     void onlyItsOwnPiece();
+    void typingMistakes_data();
+    void typingMistakes();
     void ownPriceClass();
     void escaped();
 };
@@ -31,6 +37,41 @@ QByteArray with(const char *name, const QByteArray &value)
 QByteArray article(const QByteArray &id)
 {
     return articleWith("article_id='" + id + '\'');
+}
+
+/// The text with one letter left out, doubled, or swapped with the next one, at every place.
+QStringList mistyped(const QString &text)
+{
+    QStringList result;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        result += QString(text).remove(i, 1);
+        result += QString(text).insert(i, text.at(i));
+        if (i + 1 < text.size())
+            result += text.first(i) + text.at(i + 1) + text.at(i) + text.sliced(i + 2);
+    }
+    return result;
+}
+
+/// The values that have a keyword at most that many letters away from a text.
+QSet<qint64> valuesNear(const QList<RVCatalogueAttributeValue> &values, const QString &text, int distance)
+{
+    QSet<qint64> result;
+    for (const RVCatalogueAttributeValue &value : values) {
+        RVNearestText nearest(text, distance + 1);
+        nearest.offer(value.keyword);
+        for (const QString &alias : value.aliases)
+            nearest.offer(alias);
+        if (!nearest.text().isNull())
+            result.insert(value.value);
+    }
+    return result;
+}
+
+bool isName(const QList<RVCatalogueAttributeValue> &values, const QString &text)
+{
+    return std::any_of(values.begin(), values.end(), [&text](const RVCatalogueAttributeValue &value) {
+        return value.displayName.compare(text, Qt::CaseInsensitive) == 0;
+    });
 }
 
 QByteArray priceOf(const QByteArray &code)
@@ -201,6 +242,42 @@ void tst_RVFindingFix::onlyItsOwnPiece()
     QCOMPARE(pieceOf(file, findings.first().range()), u"cover_type=' leather, hard '"_s);
     QCOMPARE(pieceOf(file, findings.first().fix().first().range), u"hard"_s);
     QCOMPARE(findings.first().fix().first().text, u"hardcover"_s);
+}
+
+void tst_RVFindingFix::typingMistakes_data()
+{
+    QTest::addColumn<QString>("attribute");
+
+    for (const RVCatalogueAttribute attribute : RVCatalogueAttribute::ofProducts())
+        QTest::newRow(attribute.name().data()) << attribute.name().toString();
+}
+
+// A mistyped keyword of three letters or more is mended exactly where it can be no other one.
+void tst_RVFindingFix::typingMistakes()
+{
+    QFETCH(QString, attribute);
+    const QList<RVCatalogueAttributeValue> values = RVCatalogueAttribute::find(attribute).values();
+    RVCatalogueCheck check;
+    check.disable(RVCatalogueRule::find(u"spine-missing"));
+    int count = 0;
+    for (const RVCatalogueAttributeValue &value : values) {
+        // Of a number, an alias is as good and can be mistyped.
+        const QString keyword = (value.keyword.size() > 1 ? value.keyword : value.aliases.value(0)).toLower();
+        for (const QString &text : mistyped(keyword)) {
+            if (text.size() < 3 || text.contains(u' ') || isName(values, text)
+                || !valuesNear(values, text, 0).isEmpty())
+                continue;
+            const QByteArray file = with(attribute.toLatin1().constData(), text.toLatin1());
+            const QList<RVCatalogueFinding> findings = findingsOf(file, check);
+            QCOMPARE(findings.size(), 1);
+            const bool isCertain = valuesNear(values, text, 1).size() == 1;
+            QVERIFY2(findings.first().fix().isEmpty() != isCertain, qPrintable(text));
+            const QByteArray expected = with(attribute.toLatin1().constData(), keyword.toLatin1());
+            QCOMPARE(mended(file, findings), isCertain ? expected : file);
+            ++count;
+        }
+    }
+    QVERIFY(count > 0);
 }
 
 void tst_RVFindingFix::ownPriceClass()
