@@ -80,16 +80,23 @@ bool isOfOtherScript(char32_t letter)
 RVForeignLetters::RVForeignLetters(QStringView text)
 {
     for (const char32_t letter : text.toUcs4()) {
-        const bool isAscii = letter <= LAST_OF_ASCII;
-        const QString plain = isAscii ? QString() : isBlank(letter) ? u" "_s : plainOf(letter);
-        const bool isUnseen = !isAscii && isInvisible(letter);
-        if (!isUnseen)
-            myPlain += plain.isNull() ? QString::fromUcs4(&letter, 1) : plain;
-        if (isAscii || !isEmpty() || !(isUnseen || !plain.isNull() || isOfOtherScript(letter)))
-            continue;
-        myFirst = letter;
-        myFirstPlain = plain;
+        if (letter <= LAST_OF_ASCII)
+            myPlain += QChar(char16_t(letter));
+        else
+            append(letter);
     }
+}
+
+void RVForeignLetters::append(char32_t letter)
+{
+    const bool isUnseen = isInvisible(letter);
+    const QString plain = isBlank(letter) ? u" "_s : plainOf(letter);
+    if (!isUnseen)
+        myPlain += plain.isNull() ? QString::fromUcs4(&letter, 1) : plain;
+    if (!isEmpty() || (!isUnseen && plain.isNull() && !isOfOtherScript(letter)))
+        return;
+    myFirst = letter;
+    myFirstPlain = plain;
 }
 
 QString RVForeignLetters::text() const

@@ -19,6 +19,8 @@ public:
     QString text() const;
 
 private:
+    void append(char32_t letter);
+
     char32_t myFirst = 0;
     QString myFirstPlain; // null where it looks like nothing in ASCII
     QString myPlain;

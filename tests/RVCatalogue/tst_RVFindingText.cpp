@@ -197,6 +197,13 @@ void tst_RVFindingText::foreignLetters_data()
             << u"\"lay\u00A0flat\" is no keyword of page_binding; it has U+00A0, which is no plain blank; did you mean \"layflat\"?"_s;
     QTest::newRow("no-break space around a keyword, which is read")
             << u"page_binding"_s << u"\u00A0spiral"_s << QString();
+    QTest::newRow("visible sign beyond ASCII")
+            << u"page_binding"_s << u"glue\u20AC"_s
+            << u"\"glue\u20AC\" is no keyword of page_binding; did you mean \"glue\"?"_s;
+    QTest::newRow("only invisible letters")
+            << u"page_binding"_s << u"\u200B\u200D"_s
+            << u"\"  \" is no keyword of page_binding; it has U+200B, which is invisible; there are unknown, glue, "
+               "layflat, stapled and spiral"_s;
     QTest::newRow("dash")
             << u"cover_type"_s << u"wire\u2013o"_s
             << u"\"wire\u2013o\" is no keyword of cover_type; it has U+2013, which looks like \"-\"; did you mean \"wire-o\"?"_s;
@@ -588,6 +595,12 @@ void tst_RVFindingText::places_data()
             << QStringList { u"page-step-misses-highest"_s, u"max_pages='5' in line 2: the highest page count"_s };
     QTest::newRow("no spine") << productWith("page_binding='glue'")
                               << QStringList { u"spine-missing"_s, u"page_binding='glue' in line 2: the binding"_s };
+    QTest::newRow("spine that shrinks") << productWith(
+            "pages='26' max_pages='154' page_step='4'",
+            "<composition>\n<spine packages_per_block='2' base_width='8' block_width='-0.5'/>\n"
+            "</composition>\n")
+                                        << QStringList { u"spine-font-too-small"_s,
+                                                         u"max_pages='154' in line 2: the highest page count"_s };
     QTest::newRow("two negative widths") << productWith(
             "", "<composition>\n<spine base_width='-1' block_width='-2'/>\n</composition>\n")
                                          << QStringList { u"spine-negative"_s,
@@ -609,5 +622,5 @@ void tst_RVFindingText::places()
     QTEST(found, "places");
 }
 
-QTEST_GUILESS_MAIN(tst_RVFindingText)
+QTEST_MAIN(tst_RVFindingText)
 #include "tst_RVFindingText.moc"
