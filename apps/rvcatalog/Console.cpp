@@ -3,6 +3,8 @@
 #include <QFile>
 #include <QTextStream>
 
+#include <unistd.h>
+
 std::unique_ptr<QIODevice> Console::openInput() const
 {
     auto file = std::make_unique<QFile>();
@@ -19,4 +21,9 @@ void Console::report(const QString &fileName, const Problem &problem) const
 {
     QTextStream(messages) << fileName << ':' << problem.position.line << ':' << problem.position.column << ": "
                           << problem.text << '\n';
+}
+
+bool isTerminal(std::FILE *stream)
+{
+    return ::isatty(::fileno(stream)) == 1;
 }

@@ -31,4 +31,7 @@ struct Console
     void report(const QString &fileName, const Problem &problem) const;
 };
 
+/// True where the stream goes to a person at a terminal.
+bool isTerminal(std::FILE *stream);
+
 #endif

@@ -6,6 +6,7 @@
 #include <RVCatalogueFinding.h>
 
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <string_view>
@@ -19,6 +20,16 @@ struct CheckSummary
     qint64 errors = 0;
     qint64 warnings = 0;
     qint64 notes = 0;
+
+    /// Counts a finding.
+    void count(RVCatalogueSeverity severity);
+};
+
+/// A file that could not be read to its end, and why.
+struct UnreadableFile
+{
+    QString fileName;
+    Problem problem;
 };
 
 /// Writes findings to the output of a console, in one of several formats, as they come.
@@ -27,7 +38,9 @@ class FindingWriter
     Q_DISABLE_COPY_MOVE(FindingWriter)
 
 public:
-    /// "text", "json" or "sarif"; null for any other format.
+    /// The names of the formats.
+    static QStringList formats();
+    /// Null for a format that there is not.
     static std::unique_ptr<FindingWriter> create(const QString &format, const Console &console);
     virtual ~FindingWriter();
 

@@ -1,0 +1,24 @@
+#ifndef JSONFINDINGWRITER_H
+#define JSONFINDINGWRITER_H
+
+#include "FindingWriter.h"
+
+#include <vector>
+
+/// One object: the findings one a line, then the files that could not be read, then the sums.
+class JsonFindingWriter : public FindingWriter
+{
+public:
+    explicit JsonFindingWriter(const Console &console) : FindingWriter(console) { }
+
+    void begin() override;
+    void finding(const QString &fileName, const RVCatalogueFinding &finding) override;
+    void unreadable(const QString &fileName, const Problem &problem) override;
+    void end(const CheckSummary &summary, int exitCode) override;
+
+private:
+    std::vector<UnreadableFile> myUnreadable;
+    bool myIsFirst = true;
+};
+
+#endif
