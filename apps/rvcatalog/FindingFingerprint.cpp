@@ -1,0 +1,26 @@
+#include "FindingFingerprint.h"
+
+#include <RVCatalogueFinding.h>
+
+#include <QCryptographicHash>
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString withoutLines(QString text)
+{
+    static const QRegularExpression line(u"\\bline [0-9]+"_s);
+    return text.replace(line, u"line"_s);
+}
+
+}
+
+QByteArray findingFingerprint(const RVCatalogueFinding &finding)
+{
+    constexpr QChar separator = u'\0'; // no XML has it
+    const QString identity = finding.rule().name() + separator + finding.productType() + separator
+            + withoutLines(finding.text());
+    return QCryptographicHash::hash(identity.toUtf8(), QCryptographicHash::Sha256).toHex();
+}
