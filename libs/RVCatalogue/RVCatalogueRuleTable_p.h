@@ -67,11 +67,21 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
       R"(<products>
   <family name="Photo books"/>
 </products>
+)",
+      R"(<products>
+  <family name="Photo books">
+    <product type="DUN9" article_id="1001"/>
+  </family>
+</products>
 )" },
     { RVCatalogueRuleId::TypeMissing, RVCatalogueSeverity::Error, QLatin1StringView("type-missing"),
       QT_TRANSLATE_NOOP("RVFindingText", "Projects find their product by its type, so one without a type cannot be ordered."),
       R"(<products>
   <product article_id="1001"/>
+</products>
+)",
+      R"(<products>
+  <product type="DUN9" article_id="1001"/>
 </products>
 )" },
     { RVCatalogueRuleId::TypeDuplicate, RVCatalogueSeverity::Error, QLatin1StringView("type-duplicate"),
@@ -80,17 +90,30 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
   <product type="DUN9" article_id="1001"/>
   <product type="DUN9_30" article_id="1002"/>
 </products>
+)",
+      R"(<products>
+  <product type="DUN9" article_id="1001"/>
+  <product type="DUN5" article_id="1002"/>
+</products>
 )" },
     { RVCatalogueRuleId::ArticleIdMissing, RVCatalogueSeverity::Error, QLatin1StringView("article-id-missing"),
       QT_TRANSLATE_NOOP("RVFindingText", "Shop and production know an article by its id."),
       R"(<products>
   <product type="DUN9"/>
 </products>
+)",
+      R"(<products>
+  <product type="DUN9" article_id="1001"/>
+</products>
 )" },
     { RVCatalogueRuleId::ArticleIdInvalid, RVCatalogueSeverity::Error, QLatin1StringView("article-id-invalid"),
       QT_TRANSLATE_NOOP("RVFindingText", "An article id is a whole number above 0; anything else is read as no id."),
       R"(<products>
   <product type="DUN9" article_id="10-01"/>
+</products>
+)",
+      R"(<products>
+  <product type="DUN9" article_id="1001"/>
 </products>
 )" },
     { RVCatalogueRuleId::ArticleIdDuplicate, RVCatalogueSeverity::Error, QLatin1StringView("article-id-duplicate"),
@@ -99,11 +122,20 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
   <product type="DUN5" article_id="1001"/>
   <product type="DUN9" article_id="1001"/>
 </products>
+)",
+      R"(<products>
+  <product type="DUN5" article_id="1001"/>
+  <product type="DUN9" article_id="1002"/>
+</products>
 )" },
     { RVCatalogueRuleId::ShippingGroupInvalid, RVCatalogueSeverity::Error, QLatin1StringView("shipping-group-invalid"),
       QT_TRANSLATE_NOOP("RVFindingText", "A shipping group that is no whole number, or -1, is none, so the product is shipped with nothing else."),
       R"(<products>
   <product type="DUN9" article_id="1001" shipping_group="books"/>
+</products>
+)",
+      R"(<products>
+  <product type="DUN9" article_id="1001" shipping_group="2"/>
 </products>
 )" },
     { RVCatalogueRuleId::ElementIgnored, RVCatalogueSeverity::Error, QLatin1StringView("element-ignored"),
@@ -118,11 +150,24 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
     </forms>
   </product>
 </products>
+)",
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <forms>
+      <form key="alcolor" value="black"/>
+      <form key="coverphoto" value="yes"/>
+    </forms>
+  </product>
+</products>
 )" },
     { RVCatalogueRuleId::NumberInvalid, RVCatalogueSeverity::Error, QLatin1StringView("number-invalid"),
       QT_TRANSLATE_NOOP("RVFindingText", "What cannot be read as a number silently becomes the default."),
       R"(<products>
   <product type="DUN9" article_id="1001" pages="26 pages"/>
+</products>
+)",
+      R"(<products>
+  <product type="DUN9" article_id="1001" pages="26"/>
 </products>
 )" },
     { RVCatalogueRuleId::BooleanInvalid, RVCatalogueSeverity::Error, QLatin1StringView("boolean-invalid"),
@@ -131,6 +176,14 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
   <product type="DUN9" article_id="1001">
     <forms>
       <form key="alcolor" value="black" not_accountable="maybe"/>
+    </forms>
+  </product>
+</products>
+)",
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <forms>
+      <form key="alcolor" value="black" not_accountable="true"/>
     </forms>
   </product>
 </products>
@@ -144,11 +197,23 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
     </composition>
   </product>
 </products>
+)",
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <composition units="mm">
+      <spine base_width="8"/>
+    </composition>
+  </product>
+</products>
 )" },
     { RVCatalogueRuleId::KeywordUnknown, RVCatalogueSeverity::Error, QLatin1StringView("keyword-unknown"),
       QT_TRANSLATE_NOOP("RVFindingText", "A keyword that nobody knows silently becomes the default of its attribute."),
       R"(<products>
   <product type="DUN9" article_id="1001" cover_type="hardcovr"/>
+</products>
+)",
+      R"(<products>
+  <product type="DUN9" article_id="1001" cover_type="hardcover"/>
 </products>
 )" },
     { RVCatalogueRuleId::KeywordLegacy, RVCatalogueSeverity::Note, QLatin1StringView("keyword-legacy"),
@@ -156,11 +221,19 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
       R"(<products>
   <product type="DUN9" article_id="1001" cover_type="hard"/>
 </products>
+)",
+      R"(<products>
+  <product type="DUN9" article_id="1001" cover_type="hardcover"/>
+</products>
 )" },
     { RVCatalogueRuleId::PageCountsReversed, RVCatalogueSeverity::Error, QLatin1StringView("page-counts-reversed"),
       QT_TRANSLATE_NOOP("RVFindingText", "With a lowest page count above the highest no count can be chosen."),
       R"(<products>
   <product type="DUN9" article_id="1001" pages="154" max_pages="26" page_step="4"/>
+</products>
+)",
+      R"(<products>
+  <product type="DUN9" article_id="1001" pages="26" max_pages="154" page_step="4"/>
 </products>
 )" },
     { RVCatalogueRuleId::PageCountsInvalid, RVCatalogueSeverity::Error, QLatin1StringView("page-counts-invalid"),
@@ -168,17 +241,33 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
       R"(<products>
   <product type="DUN9" article_id="1001" pages="26" max_pages="154"/>
 </products>
+)",
+      R"(<products>
+  <product type="DUN9" article_id="1001" pages="26" max_pages="154" page_step="4"/>
+</products>
 )" },
     { RVCatalogueRuleId::PageStepMissesHighest, RVCatalogueSeverity::Warning, QLatin1StringView("page-step-misses-highest"),
       QT_TRANSLATE_NOOP("RVFindingText", "The highest page count can never be reached when the steps do not meet it."),
       R"(<products>
   <product type="DUN9" article_id="1001" pages="26" max_pages="154" page_step="6"/>
 </products>
+)",
+      R"(<products>
+  <product type="DUN9" article_id="1001" pages="26" max_pages="154" page_step="4"/>
+</products>
 )" },
     { RVCatalogueRuleId::SpineMissing, RVCatalogueSeverity::Error, QLatin1StringView("spine-missing"),
       QT_TRANSLATE_NOOP("RVFindingText", "A glued or lay-flat book has a spine, and without its widths the cover is made too narrow."),
       R"(<products>
   <product type="DUN9" article_id="1001" page_binding="glue"/>
+</products>
+)",
+      R"(<products>
+  <product type="DUN9" article_id="1001" page_binding="glue">
+    <composition units="mm">
+      <spine base_width="8"/>
+    </composition>
+  </product>
 </products>
 )" },
     { RVCatalogueRuleId::SpineNegative, RVCatalogueSeverity::Error, QLatin1StringView("spine-negative"),
@@ -187,6 +276,14 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
   <product type="DUN9" article_id="1001" page_binding="glue">
     <composition units="mm">
       <spine base_width="-8"/>
+    </composition>
+  </product>
+</products>
+)",
+      R"(<products>
+  <product type="DUN9" article_id="1001" page_binding="glue">
+    <composition units="mm">
+      <spine base_width="8"/>
     </composition>
   </product>
 </products>
@@ -200,6 +297,14 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
     </composition>
   </product>
 </products>
+)",
+      R"(<products>
+  <product type="DUN9" article_id="1001" page_binding="glue" pages="26" max_pages="154" page_step="4">
+    <composition units="mm">
+      <spine packages_per_block="2" base_width="8" block_width="0.5" additional_width="0.5"/>
+    </composition>
+  </product>
+</products>
 )" },
     { RVCatalogueRuleId::OptionIncomplete, RVCatalogueSeverity::Error, QLatin1StringView("option-incomplete"),
       QT_TRANSLATE_NOOP("RVFindingText", "An option without key or value is dropped, so the customer is never offered it."),
@@ -207,6 +312,14 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
   <product type="DUN9" article_id="1001">
     <forms>
       <form key="alcolor"/>
+    </forms>
+  </product>
+</products>
+)",
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <forms>
+      <form key="alcolor" value="black"/>
     </forms>
   </product>
 </products>
@@ -221,6 +334,15 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
     </forms>
   </product>
 </products>
+)",
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <forms>
+      <form key="alcolor" value="black" preselected="true"/>
+      <form key="alcolor" value="red"/>
+    </forms>
+  </product>
+</products>
 )" },
     { RVCatalogueRuleId::OptionDefaultTwice, RVCatalogueSeverity::Error, QLatin1StringView("option-default-twice"),
       QT_TRANSLATE_NOOP("RVFindingText", "Of several defaults of one key the last one silently wins."),
@@ -229,6 +351,15 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
     <forms>
       <form key="alcolor" value="black" preselected="true"/>
       <form key="alcolor" value="red" preselected="true"/>
+    </forms>
+  </product>
+</products>
+)",
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <forms>
+      <form key="alcolor" value="black" preselected="true"/>
+      <form key="alcolor" value="red"/>
     </forms>
   </product>
 </products>
@@ -243,6 +374,15 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
     </forms>
   </product>
 </products>
+)",
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <forms>
+      <form key="alcolor" value="black" preselected="true"/>
+      <form key="alcolor" value="red"/>
+    </forms>
+  </product>
+</products>
 )" },
     { RVCatalogueRuleId::OptionColorInvalid, RVCatalogueSeverity::Warning, QLatin1StringView("option-color-invalid"),
       QT_TRANSLATE_NOOP("RVFindingText", "The editor shows no swatch for a colour that it cannot read."),
@@ -250,6 +390,14 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
   <product type="DUN9" article_id="1001">
     <forms>
       <form key="alcolor" value="black" color="#1a1a1"/>
+    </forms>
+  </product>
+</products>
+)",
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <forms>
+      <form key="alcolor" value="black" color="#1a1a1a"/>
     </forms>
   </product>
 </products>
@@ -263,6 +411,14 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
     </forms>
   </product>
 </products>
+)",
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <forms>
+      <form key="alcolor;coverphoto" value="black;yes"/>
+    </forms>
+  </product>
+</products>
 )" },
     { RVCatalogueRuleId::BarcodeInvalid, RVCatalogueSeverity::Error, QLatin1StringView("barcode-invalid"),
       QT_TRANSLATE_NOOP("RVFindingText", "A barcode without extent or image is dropped, and production cannot tell the product."),
@@ -270,6 +426,14 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
   <product type="DUN9" article_id="1001">
     <barcodes units="mm">
       <barcode position_x="12" position_y="290" width="0" height="10"/>
+    </barcodes>
+  </product>
+</products>
+)",
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <barcodes units="mm">
+      <barcode position_x="12" position_y="290" width="38" height="10"/>
     </barcodes>
   </product>
 </products>
@@ -283,6 +447,14 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
     </barcodes>
   </product>
 </products>
+)",
+      R"(<products>
+  <product type="DUN9" article_id="1001" pages="26">
+    <barcodes units="mm">
+      <barcode position_x="12" position_y="290" width="38" height="10" pageNr="26"/>
+    </barcodes>
+  </product>
+</products>
 )" },
     { RVCatalogueRuleId::BarcodeOutsidePage, RVCatalogueSeverity::Error, QLatin1StringView("barcode-outside-page"),
       QT_TRANSLATE_NOOP("RVFindingText", "A barcode that leaves its page is cut off and cannot be read."),
@@ -290,6 +462,14 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
   <product type="DUN9" article_id="1001">
     <barcodes units="mm">
       <barcode position_x="-12" position_y="290" width="38" height="10"/>
+    </barcodes>
+  </product>
+</products>
+)",
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <barcodes units="mm">
+      <barcode position_x="12" position_y="290" width="38" height="10"/>
     </barcodes>
   </product>
 </products>
@@ -304,11 +484,24 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
     </barcodes>
   </product>
 </products>
+)",
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <barcodes units="mm">
+      <barcode position_x="12" position_y="290" width="38" height="10"/>
+      <barcode position_x="60" position_y="290" width="38" height="10"/>
+    </barcodes>
+  </product>
+</products>
 )" },
     { RVCatalogueRuleId::PriceClassUnknown, RVCatalogueSeverity::Warning, QLatin1StringView("price-class-unknown"),
       QT_TRANSLATE_NOOP("RVFindingText", "An add-on whose price class belongs to no known group is not counted where add-ons are billed."),
       R"(<products>
   <product type="DUN9" article_id="1001" page_price_class="RODA"/>
+</products>
+)",
+      R"(<products>
+  <product type="DUN9" article_id="1001" page_price_class="KEMI62"/>
 </products>
 )" },
 };

@@ -437,6 +437,8 @@ private Q_SLOTS:
     void everyRuleHasAMistake();
     void examples_data();
     void examples();
+    void mendedExamples_data();
+    void mendedExamples();
     void documentation();
     void options_data();
     void options();
@@ -600,6 +602,35 @@ void tst_RVCatalogueCheck::examples()
     QCOMPARE(checked.rules(), QStringList { rule });
     QVERIFY(example.startsWith("<products>\n"));
     QVERIFY(example.endsWith("\n</products>\n"));
+}
+
+void tst_RVCatalogueCheck::mendedExamples_data()
+{
+    examples_data();
+}
+
+// One piece of the example is another one, and nothing else.
+void tst_RVCatalogueCheck::mendedExamples()
+{
+    QFETCH(QString, rule);
+    constexpr qsizetype mostLines = 5;
+    const QByteArray mended = RVCatalogueRule::find(rule).mendedExample();
+    const Checked checked = check(mended);
+    QVERIFY(!checked.hasError);
+    QCOMPARE(checked.rules(), QStringList());
+
+    QList<QByteArray> before = RVCatalogueRule::find(rule).example().split('\n');
+    QList<QByteArray> after = mended.split('\n');
+    while (!before.isEmpty() && !after.isEmpty() && before.first() == after.first()) {
+        before.removeFirst();
+        after.removeFirst();
+    }
+    while (!before.isEmpty() && !after.isEmpty() && before.last() == after.last()) {
+        before.removeLast();
+        after.removeLast();
+    }
+    QVERIFY(!before.isEmpty() || !after.isEmpty());
+    QVERIFY2(qMax(before.size(), after.size()) <= mostLines, mended.constData());
 }
 
 // The rules in the table of the page, in its order.
