@@ -1,11 +1,9 @@
 #include "CatalogueFile.h"
 
-using namespace Qt::StringLiterals;
-
 CatalogueFile::CatalogueFile(const QString &name, const Console &console)
     : myName(name),
       myConsole(console),
-      myInput(name == "-"_L1 ? console.openInput() : nullptr),
+      myInput(console.openInput(name)),
       myReader(myInput ? RVCatalogueReader(myInput.get()) : RVCatalogueReader(name))
 { }
 

@@ -1,15 +1,46 @@
 #include "Console.h"
 
+#include "PipeInput.h"
+
 #include <QFile>
+#include <QFileInfo>
 #include <QTextStream>
 
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// True for pipes, sockets and terminals.
+bool isPipe(int descriptor)
+{
+    struct stat status = {};
+    return ::fstat(descriptor, &status) == 0 && !S_ISREG(status.st_mode) && !S_ISDIR(status.st_mode);
+}
+
+}
 
 std::unique_ptr<QIODevice> Console::openInput() const
 {
+    if (isPipe(::fileno(input)))
+        return std::make_unique<PipeInput>(::fileno(input), PipeInput::Borrowed);
     auto file = std::make_unique<QFile>();
     file->open(input, QIODevice::ReadOnly);
     return file;
+}
+
+std::unique_ptr<QIODevice> Console::openInput(const QString &fileName) const
+{
+    if (fileName == "-"_L1)
+        return openInput();
+    const QFileInfo info(fileName);
+    if (!info.exists() || info.isFile() || info.isDir())
+        return nullptr;
+    const int descriptor = ::open(QFile::encodeName(fileName).constData(), O_RDONLY | O_CLOEXEC);
+    return descriptor < 0 ? nullptr : std::make_unique<PipeInput>(descriptor, PipeInput::Owned);
 }
 
 void Console::write(std::string_view text) const

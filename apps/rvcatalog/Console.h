@@ -26,6 +26,8 @@ struct Console
 
     /// The input, open for reading.
     std::unique_ptr<QIODevice> openInput() const;
+    /// The input where the name is "-", or a pipe of that name, open for reading; null for files, which others open.
+    std::unique_ptr<QIODevice> openInput(const QString &fileName) const;
     void write(std::string_view text) const;
     /// Writes "file:line:column: text" to the messages.
     void report(const QString &fileName, const Problem &problem) const;

@@ -112,14 +112,14 @@ class Workers
     Q_DISABLE_COPY_MOVE(Workers)
 
 public:
-    Workers() { myPool.setMaxThreadCount(mostThreads()); }
+    explicit Workers(int most) : myMost(most) { myPool.setMaxThreadCount(most); }
     /// Waits for the orders that have begun; the others are dropped.
     ~Workers() { myQueue.end(myThreads); }
 
     void add(const std::shared_ptr<Order> &order)
     {
         myQueue.add(order);
-        if (myThreads == mostThreads())
+        if (myThreads == myMost)
             return;
         ++myThreads;
         myPool.start(new Worker(&myQueue));
@@ -128,6 +128,7 @@ public:
 private:
     OrderQueue myQueue;
     QThreadPool myPool; // goes first, and waits for its threads
+    const int myMost;
     int myThreads = 0;
 };
 
@@ -152,10 +153,16 @@ public:
         myDuplicates = std::make_unique<RVDuplicates>(check);
     }
 
-    /// True when a product follows.
-    bool fill();
+    void setThreadCount(int count) { myThreadCount = qMax(count, 1); }
+    int threadCount() const { return myThreadCount; }
+
+    /// True when a product follows. Asks @p beforeWaiting, if there is one, before it waits for more of a pipe, and
+    /// goes on where that says true.
+    bool fill(const std::function<bool()> &beforeWaiting = nullptr);
     /// The products that follow and were parsed together; none at the end.
     QList<RVCatalogueProduct> read();
+    /// True when no product follows; false where it would have to wait to find out.
+    bool isAtEnd();
     RVCatalogueProduct next();
     /// Gives the products their findings, which may be done on any thread.
     void check(const QList<RVCatalogueProduct> &products) const;
@@ -168,6 +175,7 @@ public:
 
 private:
     bool isExhausted() const { return myNext == myProducts.size(); }
+    bool wouldWait() const;
     void findDuplicates(const RVCatalogueProduct &product);
 
     QFile myFile;
@@ -177,15 +185,24 @@ private:
     RVXmlScanner myScanner { myDevice, &myParser };
     std::optional<RVCatalogueCheck> myCheck;
     std::unique_ptr<RVDuplicates> myDuplicates;
+    int myThreadCount = mostThreads();
     QList<RVCatalogueProduct> myProducts; // that were parsed
     qsizetype myNext = 0; // the first of them that was not handed out
     bool myHasProducts = false;
 };
 
-bool RVCatalogueReaderPrivate::fill()
+// A device that cannot tell counts as one that waits, which costs time and nothing else.
+bool RVCatalogueReaderPrivate::wouldWait() const
+{
+    return myDevice->isSequential() && myDevice->bytesAvailable() == 0 && !myDevice->waitForReadyRead(0);
+}
+
+bool RVCatalogueReaderPrivate::fill(const std::function<bool()> &beforeWaiting)
 {
     bool goesOn = myOpenError.isEmpty();
     while (isExhausted() && goesOn) {
+        if (beforeWaiting && wouldWait() && !beforeWaiting())
+            return false;
         goesOn = myScanner.scan();
         myProducts = myParser.take();
         myNext = 0;
@@ -204,6 +221,16 @@ QList<RVCatalogueProduct> RVCatalogueReaderPrivate::read()
     for (const RVCatalogueProduct &product : result)
         findDuplicates(product);
     return result;
+}
+
+bool RVCatalogueReaderPrivate::isAtEnd()
+{
+    bool waits = false;
+    const bool isFilled = fill([&waits] {
+        waits = true;
+        return false;
+    });
+    return !isFilled && !waits;
 }
 
 RVCatalogueProduct RVCatalogueReaderPrivate::next()
@@ -265,6 +292,11 @@ RVCatalogueReader::~RVCatalogueReader() = default;
 void RVCatalogueReader::setCheck(const RVCatalogueCheck &check)
 {
     d->setCheck(check);
+}
+
+void RVCatalogueReader::setThreadCount(int count)
+{
+    d->setThreadCount(count);
 }
 
 RVCatalogueProduct RVCatalogueReader::next()
@@ -340,23 +372,29 @@ void RVCatalogueReader::mapAny(const std::function<AnyResult(const QList<RVCatal
         return work(products);
     };
     std::deque<std::shared_ptr<Order>> orders;
-    Workers workers;
+    const int threads = d->threadCount();
+    Workers workers(threads);
     const auto takeFirst = [&] {
         const AnyResult result = orders.front()->result();
         orders.pop_front();
         return take(result);
     };
     bool goesOn = true;
-    while (goesOn && d->fill()) {
+    // Results that are there are not kept back while the input of a pipe is not.
+    const auto takeAll = [&] {
+        while (goesOn && !orders.empty())
+            goesOn = takeFirst();
+        return goesOn;
+    };
+    while (goesOn && d->fill(takeAll)) {
         orders.push_back(std::make_shared<Order>(d->read(), checkedWork));
         // Of a small catalogue all is done before a thread would have begun.
-        if (orders.size() == 1 && !d->fill())
+        if (orders.size() == 1 && d->isAtEnd())
             orders.front()->run();
         else
             workers.add(orders.back());
-        if (orders.size() >= std::size_t(mostThreads()) * 2)
+        if (orders.size() >= std::size_t(threads) * 2)
             goesOn = takeFirst();
     }
-    while (goesOn && !orders.empty())
-        goesOn = takeFirst();
+    takeAll();
 }

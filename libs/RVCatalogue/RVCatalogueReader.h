@@ -71,16 +71,20 @@ public:
     bool finish();
 
     /**
-     * Reads to the end on every core of the machine: @p work turns some products that follow one another into a result,
-     * and
+     * Reads to the end on as many threads as setThreadCount() says: @p work turns some products that follow one another
+     * into a result, and
      * @p take gets the results in the order of the file, until it returns false.
      *
      * `Result work(const QList<RVCatalogueProduct> &)` is called on several threads at once and therefore changes
      * nothing that they share; `bool take(Result)` is called on the caller's thread. No more products are on their way
-     * than fit into some hundred kilobytes for each core.
+     * than fit into some hundred kilobytes for each thread.
      */
     template<typename Work, typename Take>
     void map(Work work, Take take);
+
+    /// The most threads that map() works on besides the caller's, at least 1. By default one for each core of the
+    /// machine, but not more than 8, since more would wait for the reading one. Before map() is called.
+    void setThreadCount(int count);
 
     /// Findings about the file as a whole; complete once everything was read.
     QList<RVCatalogueFinding> findings() const;

@@ -38,6 +38,14 @@ const Beginning BEGINNINGS[] = {
     { QByteArrayView("<\x00", 2), "UTF-16LE", false },
 };
 
+/// True where a declaration would have come to its end, in any encoding, so that a pipe need not give more.
+bool hasWholeDeclaration(QByteArrayView bytes)
+{
+    constexpr qsizetype largestLetter = 4;
+    const qsizetype end = bytes.indexOf('>');
+    return end >= 0 && end + largestLetter <= bytes.size();
+}
+
 /// Other instructions may begin with the same letters.
 bool isDeclaration(QByteArrayView text)
 {
@@ -179,7 +187,7 @@ QByteArray RVXmlSource::readBegin()
     myHasBegun = true;
     QByteArray bytes = readDevice(PIECE);
     bool isAtEnd = bytes.isEmpty();
-    while (!isAtEnd && bytes.size() < LONGEST_DECLARATION) {
+    while (!isAtEnd && bytes.size() < LONGEST_DECLARATION && !hasWholeDeclaration(bytes)) {
         const QByteArray piece = readDevice(PIECE);
         bytes += piece;
         isAtEnd = piece.isEmpty();

@@ -2,12 +2,15 @@
 
 #include <RVCatalogueReader.h>
 
+#include <QMutex>
+#include <QSet>
 #include <QSignalSpy>
 #include <QStringEncoder>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
 
+#include <algorithm>
 #include <atomic>
 
 using namespace Qt::StringLiterals;
@@ -31,6 +34,35 @@ protected:
         setErrorString(u"the disk is gone"_s);
         return -1;
     }
+};
+
+/// A pipe that someone writes into from time to time: what there is to read was read already.
+class SlowPipe : public QIODevice
+{
+public:
+    /// @p events outlive the pipe and get a word for each piece that is read, and for the end.
+    SlowPipe(const QList<QByteArray> &pieces, QStringList *events) : myPieces(pieces), myEvents(events)
+    {
+        setOpenMode(QIODevice::ReadOnly | QIODevice::Unbuffered);
+    }
+
+    bool isSequential() const override { return true; }
+
+protected:
+    qint64 readData(char *data, qint64) override
+    {
+        *myEvents += myPieces.isEmpty() ? u"end"_s : u"piece"_s;
+        if (myPieces.isEmpty())
+            return 0;
+        const QByteArray piece = myPieces.takeFirst();
+        std::copy(piece.begin(), piece.end(), data);
+        return piece.size();
+    }
+    qint64 writeData(const char *, qint64) override { return -1; }
+
+private:
+    QList<QByteArray> myPieces;
+    QStringList *myEvents;
 };
 
 QByteArray utf16(const QString &text, QStringEncoder::Flag mark = QStringEncoder::Flag::WriteBom)
@@ -120,6 +152,9 @@ private Q_SLOTS:
     void mapsInOrder_data();
     void mapsInOrder();
     void mapUsesThreads();
+    void threadCount_data();
+    void threadCount();
+    void mapDoesNotWait();
     void mapStops();
     void mapGoesOnBehindNext();
 };
@@ -623,6 +658,52 @@ void tst_RVCatalogueReader::mapUsesThreads()
             [&](int) { return QThread::currentThread() == caller; });
     QVERIFY(others > 5);
     QVERIFY(reader.atEnd());
+}
+
+void tst_RVCatalogueReader::threadCount_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::addColumn<int>("threads");
+
+    QTest::newRow("one") << 1 << 1;
+    QTest::newRow("three") << 3 << 3;
+    QTest::newRow("too few") << 0 << 1;
+    QTest::newRow("negative") << -5 << 1;
+}
+
+void tst_RVCatalogueReader::threadCount()
+{
+    QFETCH(int, count);
+    CatalogueBuffer file(numbered(50000));
+    RVCatalogueReader reader(&file);
+    reader.setThreadCount(count);
+    QMutex mutex;
+    QSet<const QThread *> threads;
+    reader.map(
+            [&](const QList<RVCatalogueProduct> &) {
+                QThread::msleep(1); // so that one thread does not do it all
+                const QMutexLocker locker(&mutex);
+                threads.insert(QThread::currentThread());
+                return 0;
+            },
+            [](int) { return true; });
+    QTEST(int(threads.size()), "threads");
+}
+
+// Somebody who writes a catalogue into a pipe sees at once what is in its begin.
+void tst_RVCatalogueReader::mapDoesNotWait()
+{
+    QStringList events;
+    SlowPipe pipe({ "<p><product type='A'/>", "<product type='B'/><product type='C'/>", "<product", " type='D'/></p>" },
+                  &events);
+    RVCatalogueReader reader(&pipe);
+    reader.map([](const QList<RVCatalogueProduct> &products) { return products; },
+               [&events](const QList<RVCatalogueProduct> &products) {
+                   for (const RVCatalogueProduct &product : products)
+                       events += product.element().attribute("type"_L1);
+                   return true;
+               });
+    QCOMPARE(events.join(u' '), u"piece A piece B C piece piece D end"_s);
 }
 
 void tst_RVCatalogueReader::mapStops()

@@ -1,0 +1,93 @@
+#include "Interruption.h"
+
+#include <QMutex>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <cerrno>
+#include <csignal>
+
+namespace {
+
+constexpr int SIGNALS[] = { SIGINT, SIGTERM };
+constexpr std::size_t READ_END = 0;
+constexpr std::size_t WRITE_END = 1;
+
+/// All that the process has of it, since signals are the process's.
+struct State
+{
+    QBasicMutex mutex;
+    int users = 0;
+    struct sigaction before[std::size(SIGNALS)] = {};
+    std::atomic_int signal = 0;
+    std::atomic_int pipe[2] = { -1, -1 };
+};
+State theState;
+
+void remember(int signal)
+{
+    const int error = errno;
+    theState.signal = signal;
+    [[maybe_unused]] const auto written = ::write(theState.pipe[WRITE_END], "", 1);
+    errno = error;
+}
+
+void openPipe()
+{
+    int ends[2] = { -1, -1 };
+    if (::pipe2(ends, O_CLOEXEC | O_NONBLOCK) != 0)
+        return;
+    theState.pipe[READ_END] = ends[READ_END];
+    theState.pipe[WRITE_END] = ends[WRITE_END];
+}
+
+void takeSignals()
+{
+    struct sigaction action = {};
+    action.sa_handler = remember;
+    action.sa_flags = int(SA_RESETHAND) | SA_RESTART;
+    for (std::size_t i = 0; i < std::size(SIGNALS); ++i) {
+        ::sigaction(SIGNALS[i], nullptr, &theState.before[i]);
+        if (theState.before[i].sa_handler != SIG_IGN)
+            ::sigaction(SIGNALS[i], &action, nullptr);
+    }
+}
+
+void giveBack()
+{
+    for (std::size_t i = 0; i < std::size(SIGNALS); ++i)
+        ::sigaction(SIGNALS[i], &theState.before[i], nullptr);
+    for (std::atomic_int &end : theState.pipe)
+        ::close(end.exchange(-1));
+    theState.signal = 0;
+}
+
+}
+
+Interruption::Interruption()
+{
+    const QMutexLocker locker(&theState.mutex);
+    if (theState.users++ > 0)
+        return;
+    openPipe();
+    takeSignals();
+}
+
+Interruption::~Interruption()
+{
+    const QMutexLocker locker(&theState.mutex);
+    if (--theState.users == 0)
+        giveBack();
+}
+
+int Interruption::signal()
+{
+    return theState.signal;
+}
+
+int Interruption::descriptor()
+{
+    return theState.pipe[READ_END];
+}

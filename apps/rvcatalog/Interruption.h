@@ -1,0 +1,22 @@
+#ifndef INTERRUPTION_H
+#define INTERRUPTION_H
+
+#include <QtGlobal>
+
+/// While one exists, SIGINT and SIGTERM do not end the process but ask it to stop: what is written can be brought to a
+/// clean end. The second such signal ends it at once. A signal that the process ignores stays so. Any thread.
+class Interruption
+{
+    Q_DISABLE_COPY_MOVE(Interruption)
+
+public:
+    Interruption();
+    ~Interruption();
+
+    /// The signal that came; 0 while none did.
+    static int signal();
+    /// Can be read from once a signal came; -1 while there is no interruption.
+    static int descriptor();
+};
+
+#endif

@@ -1,0 +1,68 @@
+#include "PipeInput.h"
+
+#include "Interruption.h"
+
+#include <poll.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+namespace {
+
+constexpr int FOREVER = -1;
+
+/// True where there is something to read, or where there never will be again.
+bool hasInput(int descriptor, int milliseconds)
+{
+    pollfd inputs[] = { { descriptor, POLLIN, 0 }, { Interruption::descriptor(), POLLIN, 0 } };
+    int ready = 0;
+    do {
+        ready = ::poll(inputs, std::size(inputs), milliseconds);
+    } while (ready < 0 && errno == EINTR);
+    return ready != 0;
+}
+
+}
+
+PipeInput::PipeInput(int descriptor, Ownership ownership) : myDescriptor(descriptor), myOwnership(ownership)
+{
+    setOpenMode(QIODevice::ReadOnly | QIODevice::Unbuffered);
+}
+
+PipeInput::~PipeInput()
+{
+    if (myOwnership == Owned)
+        ::close(myDescriptor);
+}
+
+bool PipeInput::atEnd() const
+{
+    return myIsAtEnd && bytesAvailable() == 0;
+}
+
+bool PipeInput::waitForReadyRead(int milliseconds)
+{
+    return hasInput(myDescriptor, milliseconds);
+}
+
+qint64 PipeInput::readData(char *data, qint64 size)
+{
+    if (size == 0)
+        return 0;
+    hasInput(myDescriptor, FOREVER);
+    qint64 result = 0;
+    if (Interruption::signal() == 0) {
+        do {
+            result = ::read(myDescriptor, data, std::size_t(size));
+        } while (result < 0 && errno == EINTR);
+    }
+    if (result < 0)
+        setErrorString(qt_error_string(errno));
+    myIsAtEnd = result == 0;
+    return result;
+}
+
+qint64 PipeInput::writeData(const char *, qint64)
+{
+    return -1;
+}

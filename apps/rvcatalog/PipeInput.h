@@ -1,0 +1,34 @@
+#ifndef PIPEINPUT_H
+#define PIPEINPUT_H
+
+#include <QIODevice>
+
+/// What comes from a pipe or a terminal, as soon as it is there: a reading takes what there is and waits only where
+/// there is nothing. An interruption ends the waiting like the end of the input.
+class PipeInput : public QIODevice
+{
+    Q_DISABLE_COPY_MOVE(PipeInput)
+
+public:
+    enum Ownership { Borrowed, Owned };
+
+    /// An owned @p descriptor is closed at the end.
+    PipeInput(int descriptor, Ownership ownership);
+    ~PipeInput() override;
+
+    bool isSequential() const override { return true; }
+    bool atEnd() const override;
+    /// True where a reading would not wait.
+    bool waitForReadyRead(int milliseconds) override;
+
+protected:
+    qint64 readData(char *data, qint64 size) override;
+    qint64 writeData(const char *data, qint64 size) override;
+
+private:
+    int myDescriptor;
+    Ownership myOwnership;
+    bool myIsAtEnd = false;
+};
+
+#endif
