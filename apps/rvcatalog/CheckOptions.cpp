@@ -1,6 +1,7 @@
 #include "CheckOptions.h"
 
 #include "FindingWriter.h"
+#include "RuleSearch.h"
 
 #include <RVCatalogueRule.h>
 
@@ -30,7 +31,7 @@ QString disable(RVCatalogueCheck *check, const QStringList &rules)
     for (const QString &name : rules) {
         const RVCatalogueRule rule = RVCatalogueRule::find(name);
         if (rule.isNull())
-            return u"there is no rule \"%1\"; \"rvcatalog check --rules\" lists them"_s.arg(name);
+            return noRuleText(name);
         check->disable(rule);
     }
     return QString();

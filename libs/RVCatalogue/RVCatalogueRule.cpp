@@ -2,6 +2,7 @@
 
 #include "RVCatalogueRuleTable_p.h"
 #include "RVFindingText_p.h"
+#include "RVRuleExplanation_p.h"
 
 #include <algorithm>
 
@@ -50,6 +51,16 @@ QByteArray RVCatalogueRule::example() const
 QByteArray RVCatalogueRule::mendedExample() const
 {
     return myRow ? QByteArray(myRow->mended) : QByteArray();
+}
+
+QString RVCatalogueRule::explanation() const
+{
+    return RVRuleExplanation(*this).toPlainText();
+}
+
+QString RVCatalogueRule::explanationAsMarkdown() const
+{
+    return RVRuleExplanation(*this).toMarkdown();
 }
 
 QLatin1StringView rvSeverityName(RVCatalogueSeverity severity)

@@ -17,6 +17,8 @@ private Q_SLOTS:
     void find();
     void severities_data();
     void severities();
+    void explanation();
+    void explanationAsMarkdown();
     void nullRule();
     void severityNames();
 };
@@ -74,6 +76,78 @@ void tst_RVCatalogueRule::severities()
     QTEST(RVCatalogueRule::find(rule).severity(), "severity");
 }
 
+void tst_RVCatalogueRule::explanation()
+{
+    QCOMPARE(RVCatalogueRule::find(u"article-id-invalid").explanation(),
+             uR"(An article id is a whole number above 0; anything else is read as no id.
+
+Broken:
+
+    <products>
+      <product type="DUN9" article_id="10-01"/>
+    </products>
+
+Mended:
+
+    <products>
+      <product type="DUN9" article_id="1001"/>
+    </products>
+
+To silence it for an element and everything in it, write in front of that element:
+
+    <!-- rvcatalog: ignore article-id-invalid -->
+
+To leave it out once:
+
+    rvcatalog check --disable article-id-invalid CATALOGUE.xml
+
+To leave it out always, write in rvcatalog.toml:
+
+    [rules]
+    article-id-invalid = "off")"_s);
+}
+
+void tst_RVCatalogueRule::explanationAsMarkdown()
+{
+    QCOMPARE(RVCatalogueRule::find(u"article-id-invalid").explanationAsMarkdown(),
+             uR"(An article id is a whole number above 0; anything else is read as no id.
+
+Broken:
+
+```xml
+<products>
+  <product type="DUN9" article_id="10-01"/>
+</products>
+```
+
+Mended:
+
+```xml
+<products>
+  <product type="DUN9" article_id="1001"/>
+</products>
+```
+
+To silence it for an element and everything in it, write in front of that element:
+
+```xml
+<!-- rvcatalog: ignore article-id-invalid -->
+```
+
+To leave it out once:
+
+```sh
+rvcatalog check --disable article-id-invalid CATALOGUE.xml
+```
+
+To leave it out always, write in rvcatalog.toml:
+
+```toml
+[rules]
+article-id-invalid = "off"
+```)"_s);
+}
+
 void tst_RVCatalogueRule::nullRule()
 {
     const RVCatalogueRule rule;
@@ -84,6 +158,9 @@ void tst_RVCatalogueRule::nullRule()
     QCOMPARE(rule.severity(), RVCatalogueSeverity::Note);
     QVERIFY(rule.reason().isEmpty());
     QVERIFY(rule.example().isEmpty());
+    QVERIFY(rule.mendedExample().isEmpty());
+    QVERIFY(rule.explanation().isEmpty());
+    QVERIFY(rule.explanationAsMarkdown().isEmpty());
 }
 
 void tst_RVCatalogueRule::severityNames()

@@ -411,7 +411,7 @@ void tst_check::wrongUsage_data()
     const QString hint = u"\nTry \"rvcatalog check --help\".\n"_s;
     QTest::newRow("no file") << QStringList() << u"rvcatalog: expected at least 1 argument, got 0"_s + hint;
     QTest::newRow("unknown rule") << QStringList { u"--disable"_s, u"foo"_s, u"clean.xml"_s }
-                                  << u"rvcatalog: there is no rule \"foo\"; \"rvcatalog check --rules\" lists them"_s
+                                  << u"rvcatalog: there is no rule \"foo\"; \"rvcatalog explain\" lists them"_s
                     + hint;
     QTest::newRow("unknown format") << QStringList { u"--format"_s, u"xml"_s, u"clean.xml"_s }
                                     << u"rvcatalog: there is no format \"xml\"; there are: text, json, sarif"_s + hint;

@@ -1,0 +1,152 @@
+#include <RVCatalogueRule.h>
+
+#include <QFile>
+#include <QProcess>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Run
+{
+    int exitCode = -1;
+    QString output;
+    QString messages;
+};
+
+Run explain(const QStringList &arguments)
+{
+    QProcess process;
+    process.start(QStringLiteral(RVCATALOG), QStringList { u"explain"_s } + arguments);
+    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
+        return Run();
+    return { process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+             QString::fromUtf8(process.readAllStandardError()) };
+}
+
+}
+
+class tst_explain : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void list();
+    void text();
+    void severalRules();
+    void markdown();
+    void page();
+    void wrongUsage_data();
+    void wrongUsage();
+};
+
+void tst_explain::list()
+{
+    const Run run = explain({});
+    QCOMPARE(run.messages, QString());
+    QCOMPARE(run.exitCode, 0);
+    const QStringList lines = run.output.split(u'\n');
+    QCOMPARE(lines.size(), RVCatalogueRule::all().size() + 1);
+    for (int i = 0; i < RVCatalogueRule::all().size(); ++i) {
+        const RVCatalogueRule rule = RVCatalogueRule::all().at(i);
+        QCOMPARE(lines.at(i).simplified(), rule.name() + u' ' + rvSeverityName(rule.severity()) + u' ' + rule.reason());
+    }
+}
+
+void tst_explain::text()
+{
+    const Run run = explain({ u"type-missing"_s });
+    QCOMPARE(run.messages, QString());
+    QCOMPARE(run.output, uR"(type-missing (error)
+
+Projects find their product by its type, so one without a type cannot be ordered.
+
+Broken:
+
+    <products>
+      <product article_id="1001"/>
+    </products>
+
+Mended:
+
+    <products>
+      <product type="DUN9" article_id="1001"/>
+    </products>
+
+To silence it for an element and everything in it, write in front of that element:
+
+    <!-- rvcatalog: ignore type-missing -->
+
+To leave it out once:
+
+    rvcatalog check --disable type-missing CATALOGUE.xml
+
+To leave it out always, write in rvcatalog.toml:
+
+    [rules]
+    type-missing = "off"
+)"_s);
+    QCOMPARE(run.exitCode, 0);
+}
+
+void tst_explain::severalRules()
+{
+    const Run run = explain({ u"spine-missing"_s, u"keyword-legacy"_s });
+    QVERIFY(run.output.startsWith("spine-missing (error)\n\n"_L1));
+    QVERIFY(run.output.contains("\n\nkeyword-legacy (note)\n\n"_L1));
+    QCOMPARE(run.exitCode, 0);
+}
+
+void tst_explain::markdown()
+{
+    const Run run = explain({ u"--format"_s, u"markdown"_s, u"keyword-legacy"_s });
+    QVERIFY(run.output.startsWith("## keyword-legacy\n\nSeverity: note\n\nAn alias is still read"_L1));
+    QVERIFY(run.output.contains("\n```xml\n<products>\n"_L1));
+    QVERIFY(run.output.endsWith("\n```toml\n[rules]\nkeyword-legacy = \"off\"\n```\n"_L1));
+    QCOMPARE(run.output.count("\n```"_L1), 10);
+    QCOMPARE(run.exitCode, 0);
+}
+
+// The page is the output of "rvcatalog explain --format markdown".
+void tst_explain::page()
+{
+    QFile page(u"" DOCS "/rules.md"_s);
+    QVERIFY(page.open(QIODevice::ReadOnly));
+    const QString written = QString::fromUtf8(page.readAll());
+    QCOMPARE(written, explain({ u"--format=markdown"_s }).output);
+    QVERIFY(written.startsWith("# "_L1));
+    for (const RVCatalogueRule rule : RVCatalogueRule::all())
+        QVERIFY2(written.contains("\n## "_L1 + rule.name() + u'\n'), rule.name().data());
+}
+
+void tst_explain::wrongUsage_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("message");
+
+    const QString hint = u"\nTry \"rvcatalog explain --help\".\n"_s;
+    QTest::newRow("a slip") << QStringList { u"keyword-unkown"_s }
+                            << u"rvcatalog: there is no rule \"keyword-unkown\"; did you mean \"keyword-unknown\"?"_s
+                    + hint;
+    QTest::newRow("the second") << QStringList { u"type-missing"_s, u"type-dublicate"_s }
+                                << u"rvcatalog: there is no rule \"type-dublicate\"; did you mean \"type-duplicate\"?"_s
+                    + hint;
+    QTest::newRow("nothing like it") << QStringList { u"foo"_s }
+                                     << u"rvcatalog: there is no rule \"foo\"; \"rvcatalog explain\" lists them"_s
+                    + hint;
+    QTest::newRow("format") << QStringList { u"--format=html"_s }
+                            << u"rvcatalog: there is no format \"html\"; there are: text, markdown"_s + hint;
+}
+
+void tst_explain::wrongUsage()
+{
+    QFETCH(QStringList, arguments);
+    const Run run = explain(arguments);
+    QCOMPARE(run.output, QString());
+    QTEST(run.messages, "message");
+    QCOMPARE(run.exitCode, 2);
+}
+
+QTEST_GUILESS_MAIN(tst_explain)
+#include "tst_explain.moc"
