@@ -22,11 +22,9 @@ int writeRules(const Console &console)
 
 int checkFiles(const CheckOptions &options, const Console &console)
 {
-    const std::unique_ptr<FindingWriter> writer = FindingWriter::create(options.format, console);
+    const std::unique_ptr<FindingWriter> writer = FindingWriter::create(options, console);
     CheckRun run(writer.get(), options, console);
-    writer->begin();
-    for (const QString &fileName : options.fileNames)
-        run.check(fileName);
+    run.check(options.fileNames);
     return run.end();
 }
 
@@ -35,9 +33,10 @@ int checkFiles(const CheckOptions &options, const Console &console)
 int checkCommand(const QStringList &arguments, const Console &console)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-            u"Finds what would go wrong with catalogues in the ordering application: one finding a line, in the order\n"
-            "of the file, and a summary last. Ends with 1 when there are errors or warnings."_s);
+    parser.setApplicationDescription(u"Finds what would go wrong with catalogues in the ordering application: one\n"
+                                     "finding a line, in the order of the file, and a summary last. Ends with 1 when\n"
+                                     "there are errors or warnings, with 2 when a file cannot be read, and with 130\n"
+                                     "when it is interrupted."_s);
     CheckOptions::addTo(&parser);
     parser.addPositionalArgument(u"CATALOGUE"_s, u"The products XML; \"-\" is the standard input."_s,
                                  u"CATALOGUE.xml..."_s);

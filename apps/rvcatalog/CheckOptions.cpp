@@ -1,5 +1,6 @@
 #include "CheckOptions.h"
 
+#include "Appearance.h"
 #include "FindingWriter.h"
 #include "RuleSearch.h"
 
@@ -16,23 +17,51 @@ namespace {
 constexpr struct
 {
     QLatin1StringView name;
-    QLatin1StringView description;
     QLatin1StringView value; // empty where the option has none
+    QLatin1StringView description;
 } OPTIONS[] = {
-    { "format"_L1, "Write text, json, or sarif (version 2.1.0)."_L1, "FORMAT"_L1 },
-    { "rules"_L1, "List the rules, and why they matter."_L1, ""_L1 },
-    { "disable"_L1, "Leave out a rule. May be given several times."_L1, "RULE"_L1 },
+    { "format"_L1, "FORMAT"_L1, "Write text, json, sarif (version 2.1.0), github or junit."_L1 },
+    { "select"_L1, "RULES"_L1, "Check these rules alone. Commas separate them."_L1 },
+    { "disable"_L1, "RULES"_L1, "Leave out these rules. Commas separate them."_L1 },
+    { "max-findings"_L1, "NUMBER"_L1, "Write no more findings than that; count all."_L1 },
+    { "summary"_L1, ""_L1, "Write how many findings each rule has, not where."_L1 },
+    { "quiet"_L1, ""_L1, "Write nothing; the exit code tells."_L1 },
+    { "color"_L1, "WHEN"_L1, "Colours and lines of the file: auto (on a terminal), always or never."_L1 },
+    { "jobs"_L1, "NUMBER"_L1, "Check with so many threads; by default with up to 8."_L1 },
+    { "rules"_L1, ""_L1, "List the rules, and why they matter."_L1 },
 };
 // clang-format on
 
-/// The reason why one of the rules cannot be disabled; empty if all were disabled.
-QString disable(RVCatalogueCheck *check, const QStringList &rules)
+/// The reason why a value cannot be one of these; empty where it is.
+QString refuseChoice(QLatin1StringView option, const QString &value, const QStringList &choices)
 {
-    for (const QString &name : rules) {
-        const RVCatalogueRule rule = RVCatalogueRule::find(name);
-        if (rule.isNull())
-            return noRuleText(name);
-        check->disable(rule);
+    if (choices.contains(value))
+        return QString();
+    return u"there is no %1 \"%2\"; there are: %3"_s.arg(option, value, choices.join(", "_L1));
+}
+
+/// Reads a number from 1, if there is one. Returns the reason where it is none.
+template<typename Number>
+QString readNumber(const QCommandLineParser &parser, const QString &option, Number *number)
+{
+    if (!parser.isSet(option))
+        return QString();
+    bool isNumber = false;
+    const qint64 value = parser.value(option).toLongLong(&isNumber);
+    if (!isNumber || value < 1 || value > std::numeric_limits<Number>::max())
+        return u"--%1 takes a whole number from 1, not \"%2\""_s.arg(option, parser.value(option));
+    *number = Number(value);
+    return QString();
+}
+
+/// The rules that an option names. Returns the reason where one of them is not known.
+QString findRules(const QStringList &values, QList<RVCatalogueRule> *rules)
+{
+    const QStringList names = values.join(u',').split(u',', Qt::SkipEmptyParts);
+    for (const QString &name : names) {
+        *rules += RVCatalogueRule::find(name.trimmed());
+        if (rules->constLast().isNull())
+            return noRuleText(name.trimmed());
     }
     return QString();
 }
@@ -51,11 +80,44 @@ QString CheckOptions::read(const QCommandLineParser &parser)
     listsRules = parser.isSet(u"rules"_s);
     if (listsRules)
         return QString();
-    format = parser.isSet(u"format"_s) ? parser.value(u"format"_s) : u"text"_s;
-    if (!FindingWriter::formats().contains(format))
-        return u"there is no format \"%1\"; there are: %2"_s.arg(format, FindingWriter::formats().join(", "_L1));
-    const QString unknownRule = disable(&check, parser.values(u"disable"_s));
-    if (!unknownRule.isEmpty())
-        return unknownRule;
+    for (const auto &readPart : { &CheckOptions::readLooks, &CheckOptions::readNumbers, &CheckOptions::readRules }) {
+        const QString refusal = (this->*readPart)(parser);
+        if (!refusal.isEmpty())
+            return refusal;
+    }
     return fileNames.isEmpty() ? u"expected at least 1 argument, got 0"_s : QString();
+}
+
+QString CheckOptions::readLooks(const QCommandLineParser &parser)
+{
+    format = parser.isSet(u"format"_s) ? parser.value(u"format"_s) : u"text"_s;
+    color = parser.isSet(u"color"_s) ? parser.value(u"color"_s) : u"auto"_s;
+    isQuiet = parser.isSet(u"quiet"_s);
+    isSummary = parser.isSet(u"summary"_s);
+    if (isSummary && format != "text"_L1)
+        return u"--summary is for the format text; other formats have their own"_s;
+    const QString refusal = refuseChoice("format"_L1, format, FindingWriter::formats());
+    return refusal.isEmpty() ? refuseChoice("choice of colours"_L1, color, Appearance::choices()) : refusal;
+}
+
+QString CheckOptions::readNumbers(const QCommandLineParser &parser)
+{
+    const QString refusal = readNumber(parser, u"jobs"_s, &threads);
+    return refusal.isEmpty() ? readNumber(parser, u"max-findings"_s, &mostFindings) : refusal;
+}
+
+// Rules are left out last, so that nothing else brings them back.
+QString CheckOptions::readRules(const QCommandLineParser &parser)
+{
+    QList<RVCatalogueRule> selected;
+    QList<RVCatalogueRule> disabled;
+    QString refusal = findRules(parser.values(u"select"_s), &selected);
+    if (refusal.isEmpty())
+        refusal = findRules(parser.values(u"disable"_s), &disabled);
+    const QList<RVCatalogueRule> all = RVCatalogueRule::all();
+    for (const RVCatalogueRule rule : all) {
+        if (disabled.contains(rule) || (parser.isSet(u"select"_s) && !selected.contains(rule)))
+            check.disable(rule);
+    }
+    return refusal;
 }

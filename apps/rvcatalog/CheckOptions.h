@@ -6,20 +6,32 @@
 #include <QString>
 #include <QStringList>
 
+#include <limits>
+
 class QCommandLineParser;
 
 /// What the command line of "check" asks for.
 struct CheckOptions
 {
     QStringList fileNames;
-    QString format; ///< One that FindingWriter knows.
+    QString format; ///< One of FindingWriter.
+    QString color; ///< One of the choices of Appearance.
     RVCatalogueCheck check;
+    int threads = 0; ///< 0 leaves it to the reader.
+    qint64 mostFindings = std::numeric_limits<qint64>::max(); ///< That are written; all are counted.
+    bool isQuiet = false;
+    bool isSummary = false;
     bool listsRules = false; ///< Instead of checking anything.
 
     /// Tells a parser the options that there are.
     static void addTo(QCommandLineParser *parser);
     /// Takes what the parser has read. Returns the reason where it makes no sense; empty otherwise.
     QString read(const QCommandLineParser &parser);
+
+private:
+    QString readLooks(const QCommandLineParser &parser);
+    QString readNumbers(const QCommandLineParser &parser);
+    QString readRules(const QCommandLineParser &parser);
 };
 
 #endif

@@ -3,6 +3,7 @@
 #include "CatalogueFile.h"
 #include "CheckOptions.h"
 #include "Commands.h"
+#include "FindingWriter.h"
 
 using namespace Qt::StringLiterals;
 
@@ -32,47 +33,80 @@ CheckRun::CheckRun(FindingWriter *writer, const CheckOptions &options, const Con
       myProgressBar(console.messages)
 { }
 
-void CheckRun::check(const QString &fileName)
+void CheckRun::check(const QStringList &fileNames)
 {
-    ++mySummary.files;
-    CatalogueFile file(fileName, myConsole);
-    RVCatalogueReader &reader = file.reader();
-    reader.setCheck(myOptions.check);
-    const qint64 size = reader.size();
-    reader.map(findingsOf, [&](const CheckedProducts &checked) {
-        mySummary.products += checked.count;
-        write(fileName, checked.findings);
-        myProgressBar.show(fileName, reader.bytesRead(), size);
-        return true;
-    });
-    write(fileName, reader.findings());
-    if (reader.hasError())
-        reportUnreadable(file, fileName, { reader.errorPosition(), reader.errorString() });
+    myWriter->begin();
+    for (const QString &fileName : fileNames) {
+        if (!goesOn())
+            return;
+        ++mySummary.files;
+        myWriter->beginFile(fileName);
+        CatalogueFile file(fileName, myConsole);
+        read(&file, fileName);
+        myWriter->endFile(fileName);
+    }
 }
 
 int CheckRun::end()
 {
     myProgressBar.hide();
+    mySummary.signal = Interruption::signal();
     myWriter->end(mySummary, exitCode());
     return exitCode();
 }
 
+bool CheckRun::goesOn() const
+{
+    return Interruption::signal() == 0 && std::ferror(myConsole.output) == 0;
+}
+
+// Shells use the same for a program that a signal has ended.
 int CheckRun::exitCode() const
 {
+    constexpr int signalBase = 128;
+    if (mySummary.signal != 0)
+        return signalBase + mySummary.signal;
     if (mySummary.unreadable > 0)
         return EXIT_UNREADABLE;
     return mySummary.errors > 0 || mySummary.warnings > 0 ? EXIT_PROBLEMS : EXIT_FINE;
 }
 
+void CheckRun::read(CatalogueFile *file, const QString &fileName)
+{
+    RVCatalogueReader &reader = file->reader();
+    reader.setCheck(myOptions.check);
+    if (myOptions.threads > 0)
+        reader.setThreadCount(myOptions.threads);
+    const qint64 size = reader.size();
+    reader.map(findingsOf, [&](const CheckedProducts &checked) {
+        mySummary.products += checked.count;
+        write(fileName, checked.findings);
+        myProgressBar.show(fileName, reader.bytesRead(), size);
+        return goesOn();
+    });
+    if (!goesOn())
+        return;
+    write(fileName, reader.findings());
+    if (reader.hasError())
+        reportUnreadable(*file, fileName, { reader.errorPosition(), reader.errorString() });
+}
+
 // All findings pass here, so this is where some of them are left out.
 void CheckRun::write(const QString &fileName, const QList<RVCatalogueFinding> &findings)
 {
-    if (!findings.isEmpty())
-        myProgressBar.hide();
+    if (findings.isEmpty())
+        return;
+    myProgressBar.hide();
     for (const RVCatalogueFinding &finding : findings) {
-        mySummary.count(finding.severity());
-        myWriter->finding(fileName, finding);
+        mySummary.count(finding);
+        if (myWritten == myOptions.mostFindings) {
+            ++mySummary.omitted;
+        } else {
+            ++myWritten;
+            myWriter->finding(fileName, finding);
+        }
     }
+    std::fflush(myConsole.output);
 }
 
 void CheckRun::reportUnreadable(const CatalogueFile &file, const QString &fileName, const Problem &problem)

@@ -1,6 +1,10 @@
 #include "FindingWriter.h"
 
+#include "CheckOptions.h"
+#include "GithubWriter.h"
 #include "JsonFindingWriter.h"
+#include "JunitWriter.h"
+#include "RuleCountWriter.h"
 #include "SarifWriter.h"
 #include "TextWriter.h"
 
@@ -8,8 +12,25 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// Says nothing.
+class QuietWriter : public FindingWriter
+{
+public:
+    explicit QuietWriter(const Console &console) : FindingWriter(console) { }
+
+    void finding(const QString &, const RVCatalogueFinding &) override { }
+    void end(const CheckSummary &, int) override { }
+};
+
+std::unique_ptr<FindingWriter> makeText(const CheckOptions &options, const Console &console)
+{
+    if (options.isSummary)
+        return std::make_unique<RuleCountWriter>(console);
+    return std::make_unique<TextWriter>(console, Appearance::of(options.color, console.output));
+}
+
 template<typename Writer>
-std::unique_ptr<FindingWriter> make(const Console &console)
+std::unique_ptr<FindingWriter> make(const CheckOptions &, const Console &console)
 {
     return std::make_unique<Writer>(console);
 }
@@ -17,28 +38,13 @@ std::unique_ptr<FindingWriter> make(const Console &console)
 constexpr struct
 {
     QLatin1StringView name;
-    std::unique_ptr<FindingWriter> (*create)(const Console &console);
+    std::unique_ptr<FindingWriter> (*create)(const CheckOptions &options, const Console &console);
 } FORMATS[] = {
-    { "text"_L1, make<TextWriter> },
-    { "json"_L1, make<JsonFindingWriter> },
-    { "sarif"_L1, make<SarifWriter> },
+    { "text"_L1, makeText },           { "json"_L1, make<JsonFindingWriter> },
+    { "sarif"_L1, make<SarifWriter> }, { "github"_L1, make<GithubWriter> },
+    { "junit"_L1, make<JunitWriter> },
 };
 
-}
-
-void CheckSummary::count(RVCatalogueSeverity severity)
-{
-    switch (severity) {
-    case RVCatalogueSeverity::Note:
-        ++notes;
-        break;
-    case RVCatalogueSeverity::Warning:
-        ++warnings;
-        break;
-    case RVCatalogueSeverity::Error:
-        ++errors;
-        break;
-    }
 }
 
 QStringList FindingWriter::formats()
@@ -49,13 +55,13 @@ QStringList FindingWriter::formats()
     return result;
 }
 
-std::unique_ptr<FindingWriter> FindingWriter::create(const QString &format, const Console &console)
+std::unique_ptr<FindingWriter> FindingWriter::create(const CheckOptions &options, const Console &console)
 {
-    for (const auto &row : FORMATS) {
-        if (format == row.name)
-            return row.create(console);
+    for (const auto &format : FORMATS) {
+        if (!options.isQuiet && options.format == format.name)
+            return format.create(options, console);
     }
-    return nullptr;
+    return std::make_unique<QuietWriter>(console);
 }
 
 FindingWriter::~FindingWriter() = default;

@@ -1,6 +1,7 @@
 #ifndef FINDINGWRITER_H
 #define FINDINGWRITER_H
 
+#include "CheckSummary.h"
 #include "Console.h"
 
 #include <RVCatalogueFinding.h>
@@ -11,19 +12,7 @@
 #include <memory>
 #include <string_view>
 
-/// What a run of "check" comes to.
-struct CheckSummary
-{
-    qint64 files = 0;
-    qint64 unreadable = 0;
-    qint64 products = 0;
-    qint64 errors = 0;
-    qint64 warnings = 0;
-    qint64 notes = 0;
-
-    /// Counts a finding.
-    void count(RVCatalogueSeverity severity);
-};
+struct CheckOptions;
 
 /// A file that could not be read to its end, and why.
 struct UnreadableFile
@@ -40,14 +29,16 @@ class FindingWriter
 public:
     /// The names of the formats.
     static QStringList formats();
-    /// Null for a format that there is not.
-    static std::unique_ptr<FindingWriter> create(const QString &format, const Console &console);
+    /// The writer that the options ask for.
+    static std::unique_ptr<FindingWriter> create(const CheckOptions &options, const Console &console);
     virtual ~FindingWriter();
 
     virtual void begin() { }
+    virtual void beginFile(const QString &) { }
     virtual void finding(const QString &fileName, const RVCatalogueFinding &finding) = 0;
     /// A file could not be read to its end.
     virtual void unreadable(const QString &, const Problem &) { }
+    virtual void endFile(const QString &) { }
     /// @p exitCode is that of the program.
     virtual void end(const CheckSummary &summary, int exitCode) = 0;
 

@@ -1,9 +1,11 @@
 #include "JsonFindingWriter.h"
 
+#include "FindingLine.h"
 #include "JsonWriter.h"
 
+#include <QMap>
+
 #include <optional>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -26,6 +28,81 @@ void writePlace(JsonWriter *json, const QString &fileName, const RVFilePosition 
     json->value(begin.line);
 }
 
+void writePiece(JsonWriter *json, const QString &fileName, const RVFileRange &range, const QString &text)
+{
+    json->beginObject();
+    writePlace(json, fileName, range.begin, range.end);
+    json->key("text"_L1);
+    json->value(text);
+    json->endObject();
+}
+
+void writeFix(JsonWriter *json, const QString &fileName, const RVCatalogueFinding &finding)
+{
+    json->key("fix"_L1);
+    json->beginArray();
+    const QList<RVFileEdit> edits = finding.fix();
+    for (const RVFileEdit &edit : edits)
+        writePiece(json, fileName, edit.range, edit.text);
+    json->endArray();
+}
+
+void writeRelated(JsonWriter *json, const QString &fileName, const RVCatalogueFinding &finding)
+{
+    json->key("related"_L1);
+    json->beginArray();
+    const QList<RVRelatedPlace> places = finding.relatedPlaces();
+    for (const RVRelatedPlace &place : places)
+        writePiece(json, fileOf(place, fileName), place.range, place.text);
+    json->endArray();
+}
+
+/// The number and the type of the product, or null where the finding is about the file.
+void writeProduct(JsonWriter *json, const RVCatalogueFinding &finding)
+{
+    json->key("product"_L1);
+    if (finding.product() < 0)
+        json->null();
+    else
+        json->value(finding.product());
+    json->key("product_type"_L1);
+    if (finding.product() < 0)
+        json->null();
+    else
+        json->value(finding.productType());
+}
+
+void writeRules(JsonWriter *json, const QMap<QLatin1StringView, RuleCount> &rules)
+{
+    json->key("rules"_L1);
+    json->beginObject();
+    for (auto rule = rules.begin(); rule != rules.end(); ++rule) {
+        json->key(rule.key());
+        json->value(rule.value().count);
+    }
+    json->endObject();
+}
+
+void writeSummary(JsonWriter *json, const CheckSummary &summary)
+{
+    const auto writeCount = [json](QLatin1StringView name, qint64 count) {
+        json->key(name);
+        json->value(count);
+    };
+    json->key("summary"_L1);
+    json->beginObject();
+    writeCount("errors"_L1, summary.errors);
+    writeCount("files"_L1, summary.files);
+    json->key("interrupted"_L1);
+    json->value(summary.signal != 0);
+    writeCount("notes"_L1, summary.notes);
+    writeCount("omitted"_L1, summary.omitted);
+    writeCount("products"_L1, summary.products);
+    writeRules(json, summary.rules);
+    writeCount("warnings"_L1, summary.warnings);
+    json->endObject();
+}
+
 }
 
 void JsonFindingWriter::begin()
@@ -40,11 +117,9 @@ void JsonFindingWriter::finding(const QString &fileName, const RVCatalogueFindin
     myIsFirst = false;
     json.beginObject();
     writePlace(&json, fileName, finding.range().begin, finding.range().end);
-    json.key("product"_L1);
-    if (finding.product() < 0)
-        json.null();
-    else
-        json.value(finding.product());
+    writeFix(&json, fileName, finding);
+    writeProduct(&json, finding);
+    writeRelated(&json, fileName, finding);
     json.key("rule"_L1);
     json.value(finding.rule().name());
     json.key("severity"_L1);
@@ -64,17 +139,7 @@ void JsonFindingWriter::end(const CheckSummary &summary, int)
 {
     JsonWriter json;
     json.separator("\n],\n");
-    json.key("summary"_L1);
-    json.beginObject();
-    const std::pair<QLatin1StringView, qint64> sums[] = {
-        { "errors"_L1, summary.errors },     { "files"_L1, summary.files },       { "notes"_L1, summary.notes },
-        { "products"_L1, summary.products }, { "warnings"_L1, summary.warnings },
-    };
-    for (const auto &[name, sum] : sums) {
-        json.key(name);
-        json.value(sum);
-    }
-    json.endObject();
+    writeSummary(&json, summary);
     json.key("unreadable"_L1);
     json.beginArray();
     for (const UnreadableFile &file : myUnreadable) {

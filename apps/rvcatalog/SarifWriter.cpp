@@ -1,5 +1,7 @@
 #include "SarifWriter.h"
 
+#include "FindingFingerprint.h"
+#include "FindingLine.h"
 #include "JsonWriter.h"
 
 #include <QDir>
@@ -45,24 +47,121 @@ void writeRegion(JsonWriter *json, const RVFilePosition &begin, const std::optio
     json->endObject();
 }
 
+void writeArtifact(JsonWriter *json, const QString &fileName)
+{
+    json->key("artifactLocation"_L1);
+    json->beginObject();
+    json->key("uri"_L1);
+    json->value(uri(fileName));
+    json->endObject();
+}
+
+void writePhysicalLocation(JsonWriter *json, const QString &fileName, const RVFilePosition &begin,
+                           const std::optional<RVFilePosition> &end)
+{
+    json->key("physicalLocation"_L1);
+    json->beginObject();
+    writeArtifact(json, fileName);
+    json->key("region"_L1);
+    writeRegion(json, begin, end);
+    json->endObject();
+}
+
 void writeLocations(JsonWriter *json, const QString &fileName, const RVFilePosition &begin,
                     const std::optional<RVFilePosition> &end)
 {
     json->key("locations"_L1);
     json->beginArray();
     json->beginObject();
-    json->key("physicalLocation"_L1);
-    json->beginObject();
-    json->key("artifactLocation"_L1);
-    json->beginObject();
-    json->key("uri"_L1);
-    json->value(uri(fileName));
-    json->endObject();
-    json->key("region"_L1);
-    writeRegion(json, begin, end);
-    json->endObject();
+    writePhysicalLocation(json, fileName, begin, end);
     json->endObject();
     json->endArray();
+}
+
+void writeRelatedLocations(JsonWriter *json, const QString &fileName, const QList<RVRelatedPlace> &places)
+{
+    if (places.isEmpty())
+        return;
+    json->key("relatedLocations"_L1);
+    json->beginArray();
+    for (const RVRelatedPlace &place : places) {
+        json->beginObject();
+        writePhysicalLocation(json, fileOf(place, fileName), place.range.begin, place.range.end);
+        writeMessage(json, "message"_L1, place.text);
+        json->endObject();
+    }
+    json->endArray();
+}
+
+void writeReplacement(JsonWriter *json, const RVFileEdit &edit)
+{
+    json->beginObject();
+    json->key("deletedRegion"_L1);
+    writeRegion(json, edit.range.begin, edit.range.end);
+    writeMessage(json, "insertedContent"_L1, edit.text);
+    json->endObject();
+}
+
+void writeFixes(JsonWriter *json, const QString &fileName, const QList<RVFileEdit> &edits)
+{
+    if (edits.isEmpty())
+        return;
+    json->key("fixes"_L1);
+    json->beginArray();
+    json->beginObject();
+    json->key("artifactChanges"_L1);
+    json->beginArray();
+    json->beginObject();
+    writeArtifact(json, fileName);
+    json->key("replacements"_L1);
+    json->beginArray();
+    for (const RVFileEdit &edit : edits)
+        writeReplacement(json, edit);
+    json->endArray();
+    json->endObject();
+    json->endArray();
+    json->endObject();
+    json->endArray();
+}
+
+void writeFingerprint(JsonWriter *json, const RVCatalogueFinding &finding)
+{
+    json->key("partialFingerprints"_L1);
+    json->beginObject();
+    json->key("rvcatalogFinding/v1"_L1);
+    json->value(QLatin1StringView(findingFingerprint(finding)));
+    json->endObject();
+}
+
+void writeProperties(JsonWriter *json, const RVCatalogueFinding &finding)
+{
+    if (finding.product() < 0)
+        return;
+    json->key("properties"_L1);
+    json->beginObject();
+    json->key("productType"_L1);
+    json->value(finding.productType());
+    json->endObject();
+}
+
+QString helpUri(const RVCatalogueRule &rule)
+{
+    QUrl url = QUrl::fromLocalFile(QStringLiteral(RVCATALOG_DOC "/rules.md"));
+    url.setFragment(rule.name());
+    return url.toString(QUrl::FullyEncoded);
+}
+
+void writeHelp(JsonWriter *json, const RVCatalogueRule &rule)
+{
+    json->key("help"_L1);
+    json->beginObject();
+    json->key("text"_L1);
+    json->value(rule.explanation());
+    json->key("markdown"_L1);
+    json->value(rule.explanationAsMarkdown());
+    json->endObject();
+    json->key("helpUri"_L1);
+    json->value(helpUri(rule));
 }
 
 void writeRule(JsonWriter *json, const RVCatalogueRule &rule)
@@ -71,6 +170,8 @@ void writeRule(JsonWriter *json, const RVCatalogueRule &rule)
     json->key("id"_L1);
     json->value(rule.name());
     writeMessage(json, "shortDescription"_L1, rule.reason());
+    writeMessage(json, "fullDescription"_L1, rule.reason());
+    writeHelp(json, rule);
     json->key("defaultConfiguration"_L1);
     json->beginObject();
     json->key("level"_L1);
@@ -116,8 +217,12 @@ void SarifWriter::finding(const QString &fileName, const RVCatalogueFinding &fin
     json.value(qint64(myRules.indexOf(finding.rule())));
     json.key("level"_L1);
     json.value(rvSeverityName(finding.severity()));
-    writeMessage(&json, "message"_L1, finding.text());
+    writeMessage(&json, "message"_L1, typedText(finding));
     writeLocations(&json, fileName, finding.range().begin, finding.range().end);
+    writeRelatedLocations(&json, fileName, finding.relatedPlaces());
+    writeFingerprint(&json, finding);
+    writeFixes(&json, fileName, finding.fix());
+    writeProperties(&json, finding);
     json.endObject();
     write(json.take());
 }
@@ -127,7 +232,7 @@ void SarifWriter::unreadable(const QString &fileName, const Problem &problem)
     myUnreadable.push_back({ fileName, problem });
 }
 
-void SarifWriter::end(const CheckSummary &, int exitCode)
+void SarifWriter::end(const CheckSummary &summary, int exitCode)
 {
     JsonWriter json;
     json.separator("\n],\n");
@@ -135,24 +240,36 @@ void SarifWriter::end(const CheckSummary &, int exitCode)
     json.beginArray();
     json.beginObject();
     json.key("executionSuccessful"_L1);
-    json.value(myUnreadable.empty());
+    json.value(myUnreadable.empty() && summary.signal == 0);
     json.key("exitCode"_L1);
     json.value(exitCode);
     json.key("toolExecutionNotifications"_L1);
     json.beginArray();
-    for (const UnreadableFile &file : myUnreadable) {
-        json.beginObject();
-        json.key("level"_L1);
-        json.value("error"_L1);
-        writeMessage(&json, "message"_L1, file.problem.text);
-        writeLocations(&json, file.fileName, file.problem.position, std::nullopt);
-        json.endObject();
-    }
+    writeNotifications(&json, summary);
     json.endArray();
     json.endObject();
     json.endArray();
     json.separator("}]}\n");
     write(json.take());
+}
+
+void SarifWriter::writeNotifications(JsonWriter *json, const CheckSummary &summary) const
+{
+    for (const UnreadableFile &file : myUnreadable) {
+        json->beginObject();
+        json->key("level"_L1);
+        json->value("error"_L1);
+        writeMessage(json, "message"_L1, file.problem.text);
+        writeLocations(json, file.fileName, file.problem.position, std::nullopt);
+        json->endObject();
+    }
+    if (summary.signal == 0 && summary.omitted == 0)
+        return;
+    json->beginObject();
+    json->key("level"_L1);
+    json->value(summary.signal != 0 ? "error"_L1 : "note"_L1);
+    writeMessage(json, "message"_L1, summary.text());
+    json->endObject();
 }
 
 void SarifWriter::writeDriver(JsonWriter *json) const

@@ -24,6 +24,7 @@ public:
 
 private:
     void writeDriver(JsonWriter *json) const;
+    void writeNotifications(JsonWriter *json, const CheckSummary &summary) const;
 
     const QList<RVCatalogueRule> myRules = RVCatalogueRule::all();
     std::vector<UnreadableFile> myUnreadable;

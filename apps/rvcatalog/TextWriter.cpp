@@ -1,34 +1,70 @@
 #include "TextWriter.h"
 
+#include "Excerpt.h"
+#include "FindingLine.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
-QString counted(qint64 number, QLatin1StringView one, QLatin1StringView many)
+constexpr auto BOLD = "1"_L1;
+
+QLatin1StringView colorOf(QLatin1StringView severity)
 {
-    return QString::number(number) + u' ' + (number == 1 ? one : many);
+    if (severity == "error"_L1)
+        return "1;31"_L1;
+    return severity == "warning"_L1 ? "1;35"_L1 : "1;36"_L1;
 }
 
 }
+
+TextWriter::TextWriter(const Console &console, const Appearance &appearance)
+    : FindingWriter(console),
+      myAppearance(appearance)
+{ }
 
 void TextWriter::finding(const QString &fileName, const RVCatalogueFinding &finding)
 {
-    const RVFilePosition position = finding.range().begin;
-    const QString line = u"%1:%2:%3: %4: %5 [%6]\n"_s.arg(
-            fileName, QString::number(position.line), QString::number(position.column),
-            rvSeverityName(finding.severity()), finding.text(), finding.rule().name());
-    write(line.toStdString());
+    if (!myAppearance.hasColor && !myAppearance.hasExcerpts)
+        return write((findingLines(fileName, finding) + u'\n').toStdString());
+    const QLatin1StringView severity = rvSeverityName(finding.severity());
+    writeLine(placeText(fileName, finding.range().begin), severity,
+              u"%1 [%2]"_s.arg(typedText(finding), finding.rule().name()));
+    writeExcerpt(fileName, finding.range(), severity);
+    const QList<RVRelatedPlace> places = finding.relatedPlaces();
+    for (const RVRelatedPlace &place : places) {
+        const QString placeFile = fileOf(place, fileName);
+        writeLine(placeText(placeFile, place.range.begin), "note"_L1, place.text);
+        writeExcerpt(placeFile, place.range, "note"_L1);
+    }
 }
 
 void TextWriter::end(const CheckSummary &summary, int)
 {
-    const QString checked = counted(summary.products, "product"_L1, "products"_L1) + " in "_L1
-            + counted(summary.files, "file"_L1, "files"_L1);
-    const QString found = counted(summary.errors, "error"_L1, "errors"_L1) + ", "_L1
-            + counted(summary.warnings, "warning"_L1, "warnings"_L1) + ", "_L1
-            + counted(summary.notes, "note"_L1, "notes"_L1);
-    const QString unread = summary.unreadable == 0
-            ? QString()
-            : ", "_L1 + counted(summary.unreadable, "unreadable file"_L1, "unreadable files"_L1);
-    write((checked + ": "_L1 + found + unread + u'\n').toStdString());
+    write((summary.text() + u'\n').toStdString());
+}
+
+void TextWriter::writeLine(const QString &place, QLatin1StringView severity, const QString &text)
+{
+    write((colored(BOLD, place + u':') + u' ' + colored(colorOf(severity), severity + u':') + u' ' + text + u'\n')
+                  .toStdString());
+}
+
+void TextWriter::writeExcerpt(const QString &fileName, const RVFileRange &range, QLatin1StringView severity)
+{
+    if (!myAppearance.hasExcerpts)
+        return;
+    if (!myLines || fileName != myFileName)
+        myLines = std::make_unique<SourceLines>(fileName);
+    myFileName = fileName;
+    const QString line = myLines->line(range.begin.line);
+    if (line.isNull())
+        return;
+    const Excerpt excerpt = excerptOf(line, range);
+    write((excerpt.text + u'\n' + excerpt.indent + colored(colorOf(severity), excerpt.marks) + u'\n').toStdString());
+}
+
+QString TextWriter::colored(QLatin1StringView color, const QString &text) const
+{
+    return myAppearance.hasColor ? u"\033[%1m%2\033[0m"_s.arg(color, text) : text;
 }

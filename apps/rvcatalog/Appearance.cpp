@@ -1,0 +1,19 @@
+#include "Appearance.h"
+
+#include "Console.h"
+
+using namespace Qt::StringLiterals;
+
+QStringList Appearance::choices()
+{
+    return { u"auto"_s, u"always"_s, u"never"_s };
+}
+
+Appearance Appearance::of(const QString &choice, std::FILE *output)
+{
+    if (choice == "always"_L1)
+        return { true, true };
+    if (!isTerminal(output) || qEnvironmentVariable("TERM") == "dumb"_L1)
+        return {};
+    return { choice == "auto"_L1 && qEnvironmentVariableIsEmpty("NO_COLOR"), true };
+}

@@ -1,0 +1,99 @@
+#include "Excerpt.h"
+
+#include <QList>
+
+#include <algorithm>
+#include <cwchar>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int TERMINAL_WIDTH = 80;
+constexpr int TAB_WIDTH = 8;
+constexpr QChar ELLIPSIS = u'…';
+
+/// A letter as a terminal shows it.
+struct Cell
+{
+    QString text;
+    int column = 0; // on the terminal, from 0
+    int width = 1;
+    bool isMarked = false;
+
+    int end() const { return column + width; }
+};
+
+/// Letters that are not shown, or that turn the direction of others, get a sign in their place.
+Cell shown(char32_t letter, int column)
+{
+    if (letter == U'\t') {
+        const int width = TAB_WIDTH - column % TAB_WIDTH;
+        return { QString(width, u' '), column, width };
+    }
+    const int width = QChar::category(letter) == QChar::Other_Format ? -1 : ::wcwidth(wchar_t(letter));
+    if (width < 0)
+        return { QString(QChar::ReplacementCharacter), column, 1 };
+    return { QString::fromUcs4(&letter, 1), column, width };
+}
+
+QList<Cell> cellsOf(const QString &line, qint64 begin, qint64 end)
+{
+    QList<Cell> result;
+    int column = 0;
+    for (qsizetype i = 0; i < line.size(); ++i) {
+        const qint64 place = i + 1;
+        const bool isPair = line[i].isHighSurrogate() && i + 1 < line.size() && line[i + 1].isLowSurrogate();
+        const char32_t letter = isPair ? QChar::surrogateToUcs4(line[i], line[i + 1]) : char32_t(line[i].unicode());
+        Cell cell = shown(letter, column);
+        cell.isMarked = place >= begin && place < end;
+        column = cell.end();
+        result += cell;
+        i += isPair ? 1 : 0;
+    }
+    return result;
+}
+
+/// The cells that fit into so many columns, of which the first marked one is among them.
+QList<Cell> cut(const QList<Cell> &cells, int width)
+{
+    const int total = cells.isEmpty() ? 0 : cells.constLast().end();
+    if (total <= width)
+        return cells;
+    const auto first = std::find_if(cells.begin(), cells.end(), [](const Cell &cell) { return cell.isMarked; });
+    const int place = first == cells.end() ? total : first->column;
+    const int from = std::clamp(place - width / 3, 0, total - width);
+    const int to = from + width;
+    QList<Cell> result;
+    for (const Cell &cell : cells) {
+        if (cell.column >= (from > 0 ? from + 1 : 0) && cell.end() <= (to < total ? to - 1 : to))
+            result += cell;
+    }
+    if (from > 0)
+        result.prepend(Cell { QString(ELLIPSIS), from });
+    if (to < total)
+        result.append(Cell { QString(ELLIPSIS), to - 1 });
+    return result;
+}
+
+}
+
+Excerpt excerptOf(const QString &line, const RVFileRange &range)
+{
+    constexpr int numberWidth = 5;
+    const QString gutter = QString::number(range.begin.line).rightJustified(numberWidth) + " | "_L1;
+    // What ends in another line is marked to the end of this one.
+    const qint64 end = range.end.line == range.begin.line ? range.end.column : line.size() + 1;
+    const QList<Cell> cells = cellsOf(line, range.begin.column, qMax(end, range.begin.column + 1));
+    Excerpt result { gutter, QString(gutter.size() - 2, u' ') + "| "_L1, u"^"_s };
+    int marked = 0;
+    for (const Cell &cell : cut(cells, TERMINAL_WIDTH - int(gutter.size()))) {
+        result.text += cell.text;
+        if (cell.isMarked)
+            marked += cell.width;
+        else if (marked == 0)
+            result.indent += QString(cell.width, u' ');
+    }
+    result.marks += QString(qMax(marked - 1, 0), u'~');
+    return result;
+}

@@ -1,0 +1,96 @@
+#include "SourceLines.h"
+
+#include <QFileInfo>
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 PIECE = qint64(64) * 1024;
+constexpr qsizetype LONGEST_LINE = 1000000;
+
+QStringDecoder decoderFor(const QByteArray &begin)
+{
+    const auto known = QStringConverter::encodingForData(begin, u'<');
+    if (known && *known != QStringConverter::Utf8)
+        return QStringDecoder(*known);
+    static const QRegularExpression declaration(u"^<\\?xml\\s[^>]*\\bencoding\\s*=\\s*[\"']([^\"'>]+)"_s);
+    const QRegularExpressionMatch match = declaration.match(QString::fromLatin1(begin));
+    return match.hasMatch() ? QStringDecoder(match.captured(1).toLatin1().constData())
+                            : QStringDecoder(QStringConverter::Utf8);
+}
+
+}
+
+SourceLines::SourceLines(const QString &fileName) : myFile(fileName)
+{
+    if (QFileInfo(fileName).isFile())
+        myFile.open(QIODevice::ReadOnly);
+}
+
+QString SourceLines::line(qint64 number)
+{
+    if ((myNumber == 0 || number < myNumber) && !begin())
+        return QString();
+    while (myNumber < number) {
+        if (!readLine())
+            return QString();
+    }
+    return myLine;
+}
+
+bool SourceLines::begin()
+{
+    constexpr qint64 longestDeclaration = 1024;
+    myNumber = 0;
+    myBegin = 0;
+    myText.clear();
+    if (!myFile.isOpen() || !myFile.seek(0))
+        return false;
+    myDecoder = decoderFor(myFile.peek(longestDeclaration));
+    return myDecoder.isValid();
+}
+
+bool SourceLines::readLine()
+{
+    const qsizetype end = findEnd();
+    if (end < 0 || (end == myText.size() && end == myBegin))
+        return false;
+    myLine = myText.mid(myBegin, end - myBegin);
+    const bool hasTwoLetters = QStringView(myText).sliced(end).startsWith("\r\n"_L1);
+    myBegin = qMin(end + (hasTwoLetters ? 2 : 1), myText.size());
+    ++myNumber;
+    return true;
+}
+
+/// The end of the line that begins; negative where the line is too long.
+qsizetype SourceLines::findEnd()
+{
+    qsizetype end = myBegin;
+    while (true) {
+        while (end < myText.size() && myText[end] != u'\n' && myText[end] != u'\r')
+            ++end;
+        // Behind a carriage return may follow a line feed that belongs to it.
+        if (end + 1 < myText.size() || (end < myText.size() && myText[end] == u'\n'))
+            return end;
+        if (end - myBegin > LONGEST_LINE)
+            return -1;
+        end -= myBegin;
+        const bool isLonger = readPiece();
+        end += myBegin;
+        if (!isLonger)
+            return end;
+    }
+}
+
+/// Reads on, and drops the lines before. False at the end of the file.
+bool SourceLines::readPiece()
+{
+    myText.remove(0, myBegin);
+    myBegin = 0;
+    const QByteArray bytes = myFile.read(PIECE);
+    const QString piece = myDecoder(bytes);
+    myText += piece;
+    return !bytes.isEmpty();
+}
