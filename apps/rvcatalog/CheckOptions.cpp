@@ -54,10 +54,13 @@ QString readNumber(const QCommandLineParser &parser, const QString &option, Numb
     return QString();
 }
 
-/// The rules that an option names. Returns the reason where one of them is not known.
-QString findRules(const QStringList &values, QList<RVCatalogueRule> *rules)
+/// The rules that an option names. Returns the reason where one of them is not known, or where there is none.
+QString findRules(const QCommandLineParser &parser, const QString &option, QList<RVCatalogueRule> *rules)
 {
+    const QStringList values = parser.values(option);
     const QStringList names = values.join(u',').split(u',', Qt::SkipEmptyParts);
+    if (names.isEmpty() && !values.isEmpty())
+        return u"--%1 names no rule"_s.arg(option);
     for (const QString &name : names) {
         *rules += RVCatalogueRule::find(name.trimmed());
         if (rules->constLast().isNull())
@@ -111,9 +114,9 @@ QString CheckOptions::readRules(const QCommandLineParser &parser)
 {
     QList<RVCatalogueRule> selected;
     QList<RVCatalogueRule> disabled;
-    QString refusal = findRules(parser.values(u"select"_s), &selected);
+    QString refusal = findRules(parser, u"select"_s, &selected);
     if (refusal.isEmpty())
-        refusal = findRules(parser.values(u"disable"_s), &disabled);
+        refusal = findRules(parser, u"disable"_s, &disabled);
     const QList<RVCatalogueRule> all = RVCatalogueRule::all();
     for (const RVCatalogueRule rule : all) {
         if (disabled.contains(rule) || (parser.isSet(u"select"_s) && !selected.contains(rule)))

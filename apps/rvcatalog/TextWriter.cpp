@@ -30,12 +30,12 @@ void TextWriter::finding(const QString &fileName, const RVCatalogueFinding &find
     const QLatin1StringView severity = rvSeverityName(finding.severity());
     writeLine(placeText(fileName, finding.range().begin), severity,
               u"%1 [%2]"_s.arg(typedText(finding), finding.rule().name()));
-    writeExcerpt(fileName, finding.range(), severity);
+    writeExcerpt(&myFile, fileName, finding.range(), severity);
     const QList<RVRelatedPlace> places = finding.relatedPlaces();
     for (const RVRelatedPlace &place : places) {
         const QString placeFile = fileOf(place, fileName);
         writeLine(placeText(placeFile, place.range.begin), "note"_L1, place.text);
-        writeExcerpt(placeFile, place.range, "note"_L1);
+        writeExcerpt(&myRelatedFile, placeFile, place.range, "note"_L1);
     }
 }
 
@@ -50,14 +50,14 @@ void TextWriter::writeLine(const QString &place, QLatin1StringView severity, con
                   .toStdString());
 }
 
-void TextWriter::writeExcerpt(const QString &fileName, const RVFileRange &range, QLatin1StringView severity)
+void TextWriter::writeExcerpt(SourceFile *file, const QString &fileName, const RVFileRange &range,
+                              QLatin1StringView severity)
 {
     if (!myAppearance.hasExcerpts)
         return;
-    if (!myLines || fileName != myFileName)
-        myLines = std::make_unique<SourceLines>(fileName);
-    myFileName = fileName;
-    const QString line = myLines->line(range.begin.line);
+    if (!file->lines || fileName != file->name)
+        *file = { fileName, std::make_unique<SourceLines>(fileName) };
+    const QString line = file->lines->line(range.begin.line);
     if (line.isNull())
         return;
     const Excerpt excerpt = excerptOf(line, range);

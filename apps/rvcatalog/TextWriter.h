@@ -17,13 +17,19 @@ public:
     void end(const CheckSummary &summary, int exitCode) override;
 
 private:
+    struct SourceFile
+    {
+        QString name;
+        std::unique_ptr<SourceLines> lines;
+    };
+
     void writeLine(const QString &place, QLatin1StringView severity, const QString &text);
-    void writeExcerpt(const QString &fileName, const RVFileRange &range, QLatin1StringView severity);
+    void writeExcerpt(SourceFile *file, const QString &fileName, const RVFileRange &range, QLatin1StringView severity);
     QString colored(QLatin1StringView color, const QString &text) const;
 
     Appearance myAppearance;
-    QString myFileName; // of the lines
-    std::unique_ptr<SourceLines> myLines;
+    SourceFile myFile; // of the findings, which are in the order of the lines
+    SourceFile myRelatedFile; // the places of which are not
 };
 
 #endif

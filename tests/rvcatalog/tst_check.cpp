@@ -87,6 +87,16 @@ private Q_SLOTS:
     void sarifUris();
     void rules();
     void disable();
+    void disableSeveral();
+    void select_data();
+    void select();
+    void maxFindings_data();
+    void maxFindings();
+    void maxFindingsInJson();
+    void summary();
+    void quiet();
+    void jobs();
+    void helpFitsTerminals();
     void wrongUsage_data();
     void wrongUsage();
     void noProgressInAFile();
@@ -134,11 +144,11 @@ void tst_check::text()
     const Run run = check({ u"faults.xml"_s });
     QCOMPARE(run.messages, QString());
     QCOMPARE(run.output,
-             u"faults.xml:2:34: note: \"hard\" is an alias in cover_type; the main keyword is \"hardcover\" "
+             u"faults.xml:2:34: note: A: \"hard\" is an alias in cover_type; the main keyword is \"hardcover\" "
              "[keyword-legacy]\n"
-             "faults.xml:3:23: error: the article id \"0\" is no whole number above 0; write 1 or more "
+             "faults.xml:3:23: error: B: the article id \"0\" is no whole number above 0; write 1 or more "
              "[article-id-invalid]\n"
-             "faults.xml:4:34: warning: the price class \"\"x\"\" belongs to no known group; write one of a "
+             "faults.xml:4:34: warning: Ä: the price class \"\"x\"\" belongs to no known group; write one of a "
              "group, or one that begins with 0 for what is not billed [price-class-unknown]\n"_s
                      + QLatin1StringView(SUMMARY_OF_FAULTS));
     QCOMPARE(run.exitCode, 1);
@@ -211,7 +221,7 @@ void tst_check::unreadable()
 // A report that looks whole and is not would let a broken catalogue pass.
 void tst_check::fullDisk()
 {
-    for (const QString &format : { u"text"_s, u"json"_s, u"sarif"_s }) {
+    for (const QString &format : { u"text"_s, u"json"_s, u"sarif"_s, u"github"_s, u"junit"_s }) {
         QProcess process;
         process.setWorkingDirectory(myFolder.path());
         process.setStandardOutputFile(u"/dev/full"_s);
@@ -238,15 +248,22 @@ void tst_check::jsonFormat()
         { u"end_column"_s, 37 },
         { u"end_line"_s, 3 },
         { u"file"_s, u"faults.xml"_s },
+        { u"fix"_s, QJsonArray() },
         { u"line"_s, 3 },
         { u"product"_s, 1 },
+        { u"product_type"_s, u"B"_s },
+        { u"related"_s, QJsonArray() },
         { u"rule"_s, u"article-id-invalid"_s },
         { u"severity"_s, u"error"_s },
         { u"text"_s, u"the article id \"0\" is no whole number above 0; write 1 or more"_s },
     };
     QCOMPARE(findings.at(1).toObject(), expected);
+    const QJsonObject rules = { { u"article-id-invalid"_s, 1 },
+                                { u"keyword-legacy"_s, 1 },
+                                { u"price-class-unknown"_s, 1 } };
     const QJsonObject summary = {
-        { u"errors"_s, 1 }, { u"files"_s, 1 }, { u"notes"_s, 1 }, { u"products"_s, 3 }, { u"warnings"_s, 1 }
+        { u"errors"_s, 1 },  { u"files"_s, 1 },    { u"interrupted"_s, false }, { u"notes"_s, 1 },
+        { u"omitted"_s, 0 }, { u"products"_s, 3 }, { u"rules"_s, rules },       { u"warnings"_s, 1 },
     };
     QCOMPARE(document.value("summary"_L1).toObject(), summary);
     QCOMPARE(document.value("unreadable"_L1).toArray(), QJsonArray());
@@ -262,6 +279,7 @@ void tst_check::jsonFormat()
     const QJsonObject finding =
             QJsonDocument::fromJson(empty.output.toUtf8()).object().value("findings"_L1).toArray().at(0).toObject();
     QVERIFY(finding.value("product"_L1).isNull());
+    QVERIFY(finding.value("product_type"_L1).isNull());
 }
 
 void tst_check::jsonOfUnreadable()
@@ -306,7 +324,17 @@ void tst_check::compareSarif(const QString &output, bool isSuccessful, int exitC
     QCOMPARE(rules.size(), RVCatalogueRule::all().size());
     for (int i = 0; i < rules.size(); ++i) {
         const QJsonObject rule = rules.at(i).toObject();
-        QCOMPARE(propertyNames(rule), (QStringList { u"defaultConfiguration"_s, u"id"_s, u"shortDescription"_s }));
+        QCOMPARE(propertyNames(rule),
+                 (QStringList { u"defaultConfiguration"_s, u"fullDescription"_s, u"help"_s, u"helpUri"_s, u"id"_s,
+                                u"shortDescription"_s }));
+        const RVCatalogueRule described = RVCatalogueRule::all().at(i);
+        QCOMPARE(rule.value("fullDescription"_L1).toObject().value("text"_L1).toString(), described.reason());
+        QCOMPARE(rule.value("help"_L1).toObject().value("text"_L1).toString(), described.explanation());
+        QCOMPARE(rule.value("help"_L1).toObject().value("markdown"_L1).toString(), described.explanationAsMarkdown());
+        const QUrl help(rule.value("helpUri"_L1).toString(), QUrl::StrictMode);
+        QCOMPARE(help.scheme(), u"file"_s);
+        QVERIFY(help.path().endsWith("/doc/rvcatalog/rules.md"_L1));
+        QCOMPARE(help.fragment(), described.name());
         QCOMPARE(rule.value("id"_L1).toString(), RVCatalogueRule::all().at(i).name());
         QVERIFY(!rule.value("shortDescription"_L1).toObject().value("text"_L1).toString().isEmpty());
         QVERIFY(levels.contains(rule.value("defaultConfiguration"_L1).toObject().value("level"_L1).toString()));
@@ -316,8 +344,10 @@ void tst_check::compareSarif(const QString &output, bool isSuccessful, int exitC
     const QJsonArray found = run.value("results"_L1).toArray();
     for (const QJsonValue &value : found) {
         const QJsonObject result = value.toObject();
-        QCOMPARE(propertyNames(result),
-                 (QStringList { u"level"_s, u"locations"_s, u"message"_s, u"ruleId"_s, u"ruleIndex"_s }));
+        QStringList names { u"level"_s, u"locations"_s, u"message"_s, u"partialFingerprints"_s };
+        if (result.contains("properties"_L1))
+            names += u"properties"_s;
+        QCOMPARE(propertyNames(result), names + (QStringList { u"ruleId"_s, u"ruleIndex"_s }));
         const QString level = result.value("level"_L1).toString();
         QVERIFY(levels.contains(level));
         QVERIFY(!result.value("message"_L1).toObject().value("text"_L1).toString().isEmpty());
@@ -403,6 +433,121 @@ void tst_check::disable()
     QCOMPARE(run.exitCode, 0);
 }
 
+void tst_check::disableSeveral()
+{
+    const Run run = check({ u"--disable=article-id-invalid,keyword-legacy"_s, u"faults.xml"_s });
+    QCOMPARE(run.output.count(u'\n'), 2);
+    QVERIFY(run.output.contains("[price-class-unknown]"_L1));
+}
+
+void tst_check::select_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("summary");
+
+    QTest::newRow("one") << QStringList { u"--select=keyword-legacy"_s } << u"0 errors, 0 warnings, 1 note"_s;
+    QTest::newRow("two in one option") << QStringList { u"--select"_s, u"keyword-legacy,article-id-invalid"_s }
+                                       << u"1 error, 0 warnings, 1 note"_s;
+    QTest::newRow("two options") << QStringList { u"--select=keyword-legacy"_s, u"--select=price-class-unknown"_s }
+                                 << u"0 errors, 1 warning, 1 note"_s;
+    QTest::newRow("one that nothing breaks")
+            << QStringList { u"--select=type-missing"_s } << u"0 errors, 0 warnings, 0 notes"_s;
+    QTest::newRow("one that is left out as well")
+            << QStringList { u"--select=keyword-legacy"_s, u"--disable=keyword-legacy"_s }
+            << u"0 errors, 0 warnings, 0 notes"_s;
+}
+
+void tst_check::select()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, summary);
+    const Run run = check(arguments + QStringList { u"faults.xml"_s });
+    QVERIFY2(run.output.endsWith("3 products in 1 file: "_L1 + summary + u'\n'), qPrintable(run.output));
+}
+
+void tst_check::maxFindings_data()
+{
+    QTest::addColumn<QString>("most");
+    QTest::addColumn<int>("lines");
+    QTest::addColumn<QString>("end");
+
+    QTest::newRow("fewer") << u"1"_s << 2 << u", 2 of them not shown\n"_s;
+    QTest::newRow("as many as there are") << u"3"_s << 4 << u" 1 note\n"_s;
+    QTest::newRow("more") << u"4"_s << 4 << u" 1 note\n"_s;
+}
+
+void tst_check::maxFindings()
+{
+    QFETCH(QString, most);
+    QFETCH(QString, end);
+    const Run run = check({ u"--max-findings"_s, most, u"faults.xml"_s });
+    QTEST(int(run.output.count(u'\n')), "lines");
+    QVERIFY(run.output.startsWith("faults.xml:2:34: "_L1));
+    QVERIFY(run.output.contains("\n3 products in 1 file: 1 error, 1 warning, 1 note"_L1));
+    QVERIFY2(run.output.endsWith(end), qPrintable(run.output));
+    QCOMPARE(run.exitCode, 1);
+}
+
+void tst_check::maxFindingsInJson()
+{
+    const Run run = check({ u"--max-findings=2"_s, u"--format=json"_s, u"faults.xml"_s });
+    const QJsonObject document = QJsonDocument::fromJson(run.output.toUtf8()).object();
+    QCOMPARE(document.value("findings"_L1).toArray().size(), 2);
+    const QJsonObject sums = document.value("summary"_L1).toObject();
+    QCOMPARE(sums.value("omitted"_L1).toInt(), 1);
+    QCOMPARE(sums.value("warnings"_L1).toInt(), 1);
+}
+
+void tst_check::summary()
+{
+    const Run run = check({ u"--summary"_s, u"faults.xml"_s, u"faults.xml"_s, u"clean.xml"_s, u"cut.xml"_s });
+    QVERIFY(run.messages.startsWith("cut.xml:3:4: error: "_L1));
+    QVERIFY2(run.output.startsWith("       3  note     keyword-legacy\n"
+                                   "       2  error    article-id-invalid\n"
+                                   "       2  warning  price-class-unknown\n"_L1),
+             qPrintable(run.output));
+    QVERIFY(!run.output.contains("faults.xml"_L1));
+    QVERIFY(run.output.endsWith(" in 4 files: 2 errors, 2 warnings, 3 notes, 1 unreadable file\n"_L1));
+    QCOMPARE(run.exitCode, 2);
+}
+
+void tst_check::quiet()
+{
+    for (const QString &format : { u"text"_s, u"json"_s, u"sarif"_s, u"github"_s, u"junit"_s }) {
+        const Run run = check({ u"--quiet"_s, u"--format"_s, format, u"faults.xml"_s });
+        QCOMPARE(run.output, QString());
+        QCOMPARE(run.messages, QString());
+        QCOMPARE(run.exitCode, 1);
+        QCOMPARE(check({ u"--quiet"_s, u"--format"_s, format, u"clean.xml"_s }).exitCode, 0);
+    }
+    const Run run = check({ u"--quiet"_s, u"missing.xml"_s });
+    QCOMPARE(run.output, QString());
+    QCOMPARE(run.messages, u"missing.xml:1:1: error: cannot open the file: No such file or directory\n"_s);
+    QCOMPARE(run.exitCode, 2);
+}
+
+// However many threads there are, the findings are the same, and in the order of the file.
+void tst_check::jobs()
+{
+    QByteArray many = "<p>\n";
+    for (int i = 1; i <= 20000; ++i)
+        many += "<product type='T" + QByteArray::number(i) + "' article_id='x'/>\n";
+    write(u"many.xml"_s, many + "</p>\n");
+    const Run one = check({ u"--jobs"_s, u"1"_s, u"many.xml"_s });
+    QCOMPARE(one.output.count("[article-id-invalid]\n"_L1), 20000);
+    QVERIFY(one.output.startsWith("many.xml:2:20: error: T1: "_L1));
+    for (const QString &jobs : { u"2"_s, u"3"_s, u"20"_s })
+        QCOMPARE(check({ u"--jobs"_s, jobs, u"many.xml"_s }).output, one.output);
+}
+
+void tst_check::helpFitsTerminals()
+{
+    const QStringList lines = check({ u"--help"_s }).output.split(u'\n');
+    QVERIFY(lines.size() > 10);
+    for (const QString &line : lines)
+        QVERIFY2(line.size() <= 80, qPrintable(line));
+}
+
 void tst_check::wrongUsage_data()
 {
     QTest::addColumn<QStringList>("arguments");
@@ -411,10 +556,31 @@ void tst_check::wrongUsage_data()
     const QString hint = u"\nTry \"rvcatalog check --help\".\n"_s;
     QTest::newRow("no file") << QStringList() << u"rvcatalog: expected at least 1 argument, got 0"_s + hint;
     QTest::newRow("unknown rule") << QStringList { u"--disable"_s, u"foo"_s, u"clean.xml"_s }
-                                  << u"rvcatalog: there is no rule \"foo\"; \"rvcatalog explain\" lists them"_s
-                    + hint;
-    QTest::newRow("unknown format") << QStringList { u"--format"_s, u"xml"_s, u"clean.xml"_s }
-                                    << u"rvcatalog: there is no format \"xml\"; there are: text, json, sarif"_s + hint;
+                                  << u"rvcatalog: there is no rule \"foo\"; \"rvcatalog explain\" lists them"_s + hint;
+    QTest::newRow("unknown format") << QStringList {
+        u"--format"_s, u"xml"_s, u"clean.xml"_s
+    } << u"rvcatalog: there is no format \"xml\"; there are: text, json, sarif, github, junit"_s + hint;
+    QTest::newRow("a slip in a rule") << QStringList {
+        u"--disable"_s, u"type-mising"_s, u"clean.xml"_s
+    } << u"rvcatalog: there is no rule \"type-mising\"; did you mean \"type-missing\"?"_s + hint;
+    QTest::newRow("unknown rule behind a comma")
+            << QStringList { u"--select=type-missing,foo"_s, u"clean.xml"_s }
+            << u"rvcatalog: there is no rule \"foo\"; \"rvcatalog explain\" lists them"_s + hint;
+    QTest::newRow("no rule to select") << QStringList { u"--select="_s, u"clean.xml"_s }
+                                       << u"rvcatalog: --select names no rule"_s + hint;
+    QTest::newRow("no threads") << QStringList { u"--jobs=0"_s, u"clean.xml"_s }
+                                << u"rvcatalog: --jobs takes a whole number from 1, not \"0\""_s + hint;
+    QTest::newRow("more threads than a number can tell")
+            << QStringList { u"--jobs=3000000000"_s, u"clean.xml"_s }
+            << u"rvcatalog: --jobs takes a whole number from 1, not \"3000000000\""_s + hint;
+    QTest::newRow("no number") << QStringList { u"--max-findings"_s, u"few"_s, u"clean.xml"_s }
+                               << u"rvcatalog: --max-findings takes a whole number from 1, not \"few\""_s + hint;
+    QTest::newRow("unknown choice of colours")
+            << QStringList { u"--color=sometimes"_s, u"clean.xml"_s }
+            << u"rvcatalog: there is no choice of colours \"sometimes\"; there are: auto, always, never"_s + hint;
+    QTest::newRow("counts for programs") << QStringList {
+        u"--summary"_s, u"--format=json"_s, u"clean.xml"_s
+    } << u"rvcatalog: --summary is for the format text; other formats have their own"_s + hint;
     QTest::newRow("unknown option") << QStringList { u"--foo"_s } << u"rvcatalog: Unknown option 'foo'."_s + hint;
 }
 
