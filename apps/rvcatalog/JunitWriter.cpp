@@ -125,6 +125,6 @@ void JunitWriter::writeSuite(const QString &name)
     xml.writeTextElement(u"system-out"_s, legal(suite.notes.join(u'\n')));
     xml.writeTextElement(u"system-err"_s, QString());
     xml.writeEndElement();
-    write({ bytes.constData(), std::size_t(bytes.size()) });
-    write("\n");
+    // Formatting may begin with an empty line.
+    write(bytes.trimmed().append('\n').toStdString());
 }
