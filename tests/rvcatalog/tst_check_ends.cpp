@@ -1,0 +1,378 @@
+#include "rvcatalog/Terminal.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QXmlStreamReader>
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/ioctl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <csignal>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const char FIRST_PRODUCT[] = "<p>\n<product type='A' article_id='0'/>\n";
+const char FIRST_LINE[] = "pipe:2:19: error: A: the article id \"0\" is no whole number above 0 [article-id-invalid]\n";
+
+/// The program, which checks a pipe that somebody writes into.
+class PipedCheck
+{
+    Q_DISABLE_COPY_MOVE(PipedCheck)
+
+public:
+    PipedCheck(const QString &folder, const QStringList &arguments)
+    {
+        const QString pipe = folder + "/pipe"_L1;
+        ::mkfifo(pipe.toUtf8().constData(), 0600);
+        process.setWorkingDirectory(folder);
+        process.start(QStringLiteral(RVCATALOG), QStringList { u"check"_s } + arguments + QStringList { u"pipe"_s });
+        myPipe = ::open(pipe.toUtf8().constData(), O_WRONLY | O_CLOEXEC);
+    }
+    ~PipedCheck() { closePipe(); }
+
+    bool write(const QByteArray &text) const
+    {
+        return ::write(myPipe, text.constData(), std::size_t(text.size())) == text.size();
+    }
+    void closePipe()
+    {
+        if (myPipe >= 0)
+            ::close(myPipe);
+        myPipe = -1;
+    }
+    /// True when the program has taken all that was written.
+    bool isRead() const
+    {
+        int size = -1;
+        return ::ioctl(myPipe, FIONREAD, &size) == 0 && size == 0;
+    }
+    /// Waits for so much output; all of it so far.
+    QByteArray output(qsizetype size)
+    {
+        while (myOutput.size() < size && process.waitForReadyRead(20000))
+            myOutput += process.readAllStandardOutput();
+        return myOutput;
+    }
+    QByteArray allOutput()
+    {
+        process.waitForFinished(20000);
+        return myOutput += process.readAllStandardOutput();
+    }
+    void send(int signal) const { ::kill(pid_t(process.processId()), signal); }
+
+    QProcess process;
+
+private:
+    int myPipe = -1;
+    QByteArray myOutput;
+};
+
+/// True for a pipe that takes no more.
+bool isFull(int descriptor)
+{
+    pollfd pipe = { descriptor, POLLOUT, 0 };
+    return ::poll(&pipe, 1, 0) == 0;
+}
+
+/// A good document of the format, with so many findings in it.
+bool isWhole(const QString &format, const QByteArray &text, int findings)
+{
+    if (format == "junit"_L1) {
+        QXmlStreamReader xml(text);
+        int count = 0;
+        while (!xml.atEnd())
+            count += xml.readNext() == QXmlStreamReader::StartElement && xml.name() == "failure"_L1 ? 1 : 0;
+        return !xml.hasError() && count == findings;
+    }
+    const QJsonObject document = QJsonDocument::fromJson(text).object();
+    const QJsonObject run = document.value("runs"_L1).toArray().at(0).toObject();
+    const QJsonValue found = format == "json"_L1 ? document.value("findings"_L1) : run.value("results"_L1);
+    return found.isArray() && found.toArray().size() == findings;
+}
+
+}
+
+class tst_check_ends : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void findingsComeAtOnce_data();
+    void findingsComeAtOnce();
+    void interruptedInText();
+    void interrupted_data();
+    void interrupted();
+    void interruptedInALargeFile();
+    void secondSignal();
+    void ignoredSignal();
+    void otherFilesAreLeftOut();
+    void noProgressRemains();
+    void closedPipe_data();
+    void closedPipe();
+    void closedPipeThatIsIgnored();
+
+private:
+    void writeLargeFile();
+
+    QTemporaryDir myFolder;
+};
+
+void tst_check_ends::findingsComeAtOnce_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("begin");
+
+    QTest::newRow("text") << QStringList() << QByteArray(FIRST_LINE);
+    QTest::newRow("one thread") << QStringList { u"--jobs=1"_s } << QByteArray(FIRST_LINE);
+    QTest::newRow("github") << QStringList { u"--format=github"_s }
+                            << QByteArray("::error file=pipe,line=2,col=19,endLine=2,endColumn=33,"
+                                          "title=article-id-invalid::A: the article id");
+    QTest::newRow("json") << QStringList { u"--format=json"_s }
+                          << QByteArray("{\"findings\":[\n{\"column\":19,\"end_column\":33,");
+}
+
+// Long before the file ends.
+void tst_check_ends::findingsComeAtOnce()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QByteArray, begin);
+    PipedCheck check(myFolder.path(), arguments);
+    QVERIFY(check.write(FIRST_PRODUCT));
+    QCOMPARE(check.output(begin.size()).left(begin.size()), begin);
+    QCOMPARE(check.process.state(), QProcess::Running);
+    QVERIFY(check.write("<product type='B' article_id='2'/></p>"));
+    check.closePipe();
+    check.allOutput();
+    QCOMPARE(check.process.exitCode(), 1);
+}
+
+void tst_check_ends::interruptedInText()
+{
+    PipedCheck check(myFolder.path(), {});
+    QVERIFY(check.write(FIRST_PRODUCT));
+    QCOMPARE(check.output(10).left(10), QByteArray(FIRST_LINE).left(10));
+    check.send(SIGINT);
+    QCOMPARE(check.allOutput(),
+             QByteArray(FIRST_LINE) + "1 product in 1 file: 1 error, 0 warnings, 0 notes, interrupted\n");
+    QCOMPARE(check.process.readAllStandardError(), QByteArray());
+    QCOMPARE(check.process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(check.process.exitCode(), 130);
+}
+
+void tst_check_ends::interrupted_data()
+{
+    QTest::addColumn<QString>("format");
+    QTest::addColumn<int>("signal");
+    QTest::addColumn<int>("exitCode");
+
+    for (const QString &format : { u"json"_s, u"sarif"_s, u"junit"_s }) {
+        QTest::addRow("%s, SIGINT", qPrintable(format)) << format << SIGINT << 130;
+        QTest::addRow("%s, SIGTERM", qPrintable(format)) << format << SIGTERM << 143;
+    }
+}
+
+void tst_check_ends::interrupted()
+{
+    QFETCH(QString, format);
+    QFETCH(int, signal);
+    PipedCheck check(myFolder.path(), { u"--format"_s, format });
+    QVERIFY(check.write(FIRST_PRODUCT));
+    QTRY_VERIFY(check.isRead());
+    check.send(signal);
+    const QByteArray output = check.allOutput();
+    QVERIFY2(isWhole(format, output, 1), output.constData());
+    QVERIFY(output.contains("interrupted"));
+    QCOMPARE(check.process.exitStatus(), QProcess::NormalExit);
+    QTEST(check.process.exitCode(), "exitCode");
+}
+
+// A file is not waited for, so it takes another way.
+void tst_check_ends::interruptedInALargeFile()
+{
+    writeLargeFile();
+    for (const QString &format : { u"json"_s, u"sarif"_s, u"junit"_s }) {
+        QProcess process;
+        process.setWorkingDirectory(myFolder.path());
+        QStringList arguments { u"check"_s, u"--format"_s, format, u"clean.xml"_s };
+        // So many that it does not come to their end.
+        for (int i = 0; i < 200; ++i)
+            arguments += u"large.xml"_s;
+        process.start(QStringLiteral(RVCATALOG), arguments);
+        QVERIFY(process.waitForReadyRead(20000));
+        QTest::qWait(300);
+        ::kill(pid_t(process.processId()), SIGINT);
+        QVERIFY(process.waitForFinished(60000));
+        QCOMPARE(process.exitCode(), 130);
+        const QByteArray output = process.readAllStandardOutput();
+        QVERIFY(output.contains("interrupted"));
+        if (format == "junit"_L1) {
+            QXmlStreamReader xml(output);
+            while (!xml.atEnd())
+                xml.readNext();
+            QCOMPARE(xml.errorString(), QString());
+        } else {
+            QJsonParseError error;
+            QJsonDocument::fromJson(output, &error);
+            QCOMPARE(error.errorString(), u"no error occurred"_s);
+        }
+    }
+}
+
+void tst_check_ends::writeLargeFile()
+{
+    QFile file(myFolder.filePath(u"large.xml"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("<p>\n");
+    for (int i = 1; i <= 50000; ++i)
+        file.write("<product type='T" + QByteArray::number(i) + "' article_id='" + QByteArray::number(i)
+                   + (i % 1000 == 0 ? "x'/>\n" : "'/>\n"));
+    file.write("</p>\n");
+    QFile clean(myFolder.filePath(u"clean.xml"_s));
+    QVERIFY(clean.open(QIODevice::WriteOnly));
+    clean.write("<p><product type='A' article_id='1'/></p>");
+}
+
+// Who presses the keys twice means it. The pipe is full, so the first signal alone ends nothing.
+void tst_check_ends::secondSignal()
+{
+    QFile file(myFolder.filePath(u"faults.xml"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("<p>" + QByteArray("<product type='A' article_id='0'/>\n").repeated(10000) + "</p>");
+    file.close();
+    int ends[2] = { -1, -1 };
+    QCOMPARE(::pipe2(ends, O_CLOEXEC), 0);
+    QProcess process;
+    process.setWorkingDirectory(myFolder.path());
+    process.setChildProcessModifier([&ends] { ::dup2(ends[1], STDOUT_FILENO); });
+    process.start(QStringLiteral(RVCATALOG), { u"check"_s, u"faults.xml"_s });
+    QVERIFY(process.waitForStarted());
+    QTRY_VERIFY_WITH_TIMEOUT(isFull(ends[1]), 20000);
+    QTest::qWait(300); // until it waits to write on
+    ::kill(pid_t(process.processId()), SIGINT);
+    QVERIFY2(!process.waitForFinished(500), process.readAllStandardError());
+    ::kill(pid_t(process.processId()), SIGINT);
+    QVERIFY(process.waitForFinished(20000));
+    QCOMPARE(process.exitStatus(), QProcess::CrashExit);
+    QCOMPARE(process.exitCode(), SIGINT);
+    ::close(ends[0]);
+    ::close(ends[1]);
+}
+
+// As in the background of a shell.
+void tst_check_ends::ignoredSignal()
+{
+    int ends[2] = { -1, -1 };
+    QCOMPARE(::pipe2(ends, O_CLOEXEC), 0);
+    QProcess process;
+    process.setChildProcessModifier([&ends] {
+        ::signal(SIGINT, SIG_IGN);
+        ::dup2(ends[0], STDIN_FILENO);
+    });
+    process.start(QStringLiteral(RVCATALOG), { u"check"_s, u"-"_s });
+    const QByteArray begin(FIRST_PRODUCT);
+    QCOMPARE(::write(ends[1], begin.constData(), std::size_t(begin.size())), begin.size());
+    QVERIFY(process.waitForReadyRead(20000));
+    ::kill(pid_t(process.processId()), SIGINT);
+    QCOMPARE(::write(ends[1], "</p>", 4), 4);
+    ::close(ends[1]);
+    QVERIFY(process.waitForFinished(20000));
+    QVERIFY(process.readAllStandardOutput().endsWith("\n1 product in 1 file: 1 error, 0 warnings, 0 notes\n"));
+    QCOMPARE(process.exitCode(), 1);
+    ::close(ends[0]);
+}
+
+void tst_check_ends::otherFilesAreLeftOut()
+{
+    PipedCheck check(myFolder.path(), {});
+    check.process.kill();
+    check.process.waitForFinished();
+    check.closePipe();
+
+    const QString pipe = myFolder.filePath(u"pipe"_s);
+    QProcess process;
+    process.setWorkingDirectory(myFolder.path());
+    process.start(QStringLiteral(RVCATALOG), { u"check"_s, u"pipe"_s, u"missing.xml"_s });
+    const int descriptor = ::open(pipe.toUtf8().constData(), O_WRONLY | O_CLOEXEC);
+    QCOMPARE(::write(descriptor, FIRST_PRODUCT, sizeof FIRST_PRODUCT - 1), qint64(sizeof FIRST_PRODUCT - 1));
+    QVERIFY(process.waitForReadyRead(20000));
+    ::kill(pid_t(process.processId()), SIGTERM);
+    QVERIFY(process.waitForFinished(20000));
+    ::close(descriptor);
+    QCOMPARE(process.readAllStandardError(), QByteArray());
+    QCOMPARE(process.exitCode(), 143);
+}
+
+void tst_check_ends::noProgressRemains()
+{
+    Terminal terminal;
+    QVERIFY(terminal.descriptor() >= 0);
+    QProcess process;
+    process.setChildProcessModifier([&terminal] { ::dup2(terminal.descriptor(), STDERR_FILENO); });
+    process.start(QStringLiteral(RVCATALOG), { u"check"_s, u"-"_s });
+    process.write("<p>");
+    for (int i = 1; i <= 30; ++i) {
+        process.write("<product type='T" + QByteArray::number(i) + "' article_id='" + QByteArray::number(i) + "'/>\n");
+        QTest::qWait(60);
+    }
+    QTRY_VERIFY(terminal.shown().endsWith("-"));
+    ::kill(pid_t(process.processId()), SIGINT);
+    QVERIFY(process.waitForFinished(20000));
+    QCOMPARE(process.exitCode(), 130);
+    QTRY_VERIFY(terminal.shown().endsWith("-\r\033[K"));
+}
+
+void tst_check_ends::closedPipe_data()
+{
+    QTest::addColumn<QString>("format");
+
+    for (const QString &format : { u"text"_s, u"json"_s, u"sarif"_s, u"github"_s, u"junit"_s })
+        QTest::newRow(qPrintable(format)) << format;
+}
+
+// As "| head -1" does it: the program ends at once and without a word, as shells expect.
+void tst_check_ends::closedPipe()
+{
+    QFETCH(QString, format);
+    writeLargeFile();
+    QProcess process;
+    process.setWorkingDirectory(myFolder.path());
+    process.start(u"bash"_s,
+                  { u"-c"_s,
+                    u"\"$0\" check --format $1 large.xml{,,,,,,,,,} | head -c 1 >/dev/null; echo ${PIPESTATUS[0]}"_s,
+                    QStringLiteral(RVCATALOG), format });
+    QVERIFY(process.waitForFinished(60000));
+    QCOMPARE(process.readAllStandardOutput(), QByteArray("141\n"));
+    QCOMPARE(process.readAllStandardError(), QByteArray());
+}
+
+// Some parents ignore the signal, and so does the program; then it says why it ends.
+void tst_check_ends::closedPipeThatIsIgnored()
+{
+    PipedCheck check(myFolder.path(), {});
+    QVERIFY(check.write(FIRST_PRODUCT));
+    check.closePipe();
+    check.allOutput();
+
+    writeLargeFile();
+    QProcess process;
+    process.setWorkingDirectory(myFolder.path());
+    process.start(u"bash"_s,
+                  { u"-c"_s,
+                    u"trap '' PIPE; \"$0\" check large.xml missing.xml | head -c 1 >/dev/null; echo ${PIPESTATUS[0]}"_s,
+                    QStringLiteral(RVCATALOG) });
+    QVERIFY(process.waitForFinished(60000));
+    QCOMPARE(process.readAllStandardOutput(), QByteArray("2\n"));
+    QCOMPARE(process.readAllStandardError(), QByteArray("rvcatalog: cannot write to the standard output\n"));
+}
+
+QTEST_GUILESS_MAIN(tst_check_ends)
+#include "tst_check_ends.moc"

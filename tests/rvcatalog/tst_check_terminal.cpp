@@ -1,0 +1,172 @@
+#include "rvcatalog/Terminal.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const char FAULT[] = "<p>\n"
+                     "\t<product type='A' article_id='1' cover_type='hard'/>\n"
+                     "</p>\n";
+
+const char PLAIN[] = "f.xml:2:35: note: A: \"hard\" is an alias in cover_type; the main keyword is \"hardcover\" "
+                     "[keyword-legacy]\n";
+const char EXCERPT[] = "    2 |         <product type='A' article_id='1' cover_type='hard'/>\n"
+                       "      |                                          ^~~~~~~~~~~~~~~~~\n";
+const char COLORED[] =
+        "\033[1mf.xml:2:35:\033[0m \033[1;36mnote:\033[0m A: \"hard\" is an alias in cover_type; the main keyword is "
+        "\"hardcover\" [keyword-legacy]\n"
+        "    2 |         <product type='A' article_id='1' cover_type='hard'/>\n"
+        "      |                                          \033[1;36m^~~~~~~~~~~~~~~~~\033[0m\n";
+const char SUMMARY[] = "1 product in 1 file: 0 errors, 0 warnings, 1 note\n";
+
+using Environment = QList<std::pair<QString, QString>>;
+
+}
+
+class tst_check_terminal : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void terminal_data();
+    void terminal();
+    void pipe_data();
+    void pipe();
+    void standardInput();
+    void relatedPlaces();
+    void otherFormats();
+
+private:
+    void write(const QString &name, const QByteArray &content);
+    void begin(QProcess *process, const Environment &environment);
+    QByteArray shownBy(const QStringList &arguments, const Environment &environment = {},
+                       const QByteArray &input = QByteArray());
+
+    QTemporaryDir myFolder;
+};
+
+void tst_check_terminal::write(const QString &name, const QByteArray &content)
+{
+    QFile file(myFolder.filePath(name));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), content.size());
+}
+
+void tst_check_terminal::init()
+{
+    write(u"f.xml"_s, FAULT);
+}
+
+void tst_check_terminal::begin(QProcess *process, const Environment &environment)
+{
+    QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+    variables.remove(u"NO_COLOR"_s);
+    variables.insert(u"TERM"_s, u"xterm-256color"_s);
+    for (const auto &[name, value] : environment)
+        variables.insert(name, value);
+    process->setProcessEnvironment(variables);
+    process->setWorkingDirectory(myFolder.path());
+}
+
+QByteArray tst_check_terminal::shownBy(const QStringList &arguments, const Environment &environment,
+                                       const QByteArray &input)
+{
+    Terminal terminal;
+    QProcess process;
+    begin(&process, environment);
+    process.setChildProcessModifier([&terminal] { ::dup2(terminal.descriptor(), STDOUT_FILENO); });
+    process.start(QStringLiteral(RVCATALOG), QStringList { u"check"_s } + arguments);
+    process.write(input);
+    process.closeWriteChannel();
+    if (terminal.descriptor() < 0)
+        return "no terminal";
+    // A terminal holds only so much that its user has not seen.
+    while (process.state() != QProcess::NotRunning && !process.waitForFinished(10))
+        terminal.shown();
+    return terminal.shown().replace("\r\n", "\n");
+}
+
+void tst_check_terminal::terminal_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<Environment>("environment");
+    QTest::addColumn<QByteArray>("shown");
+
+    const QByteArray withColor = QByteArray(COLORED) + SUMMARY;
+    const QByteArray withExcerpt = QByteArray(PLAIN) + EXCERPT + SUMMARY;
+    const QByteArray plain = QByteArray(PLAIN) + SUMMARY;
+    QTest::newRow("by default") << QStringList() << Environment() << withColor;
+    QTest::newRow("auto") << QStringList { u"--color=auto"_s } << Environment() << withColor;
+    QTest::newRow("always") << QStringList { u"--color=always"_s } << Environment() << withColor;
+    QTest::newRow("never") << QStringList { u"--color=never"_s } << Environment() << withExcerpt;
+    QTest::newRow("NO_COLOR") << QStringList() << Environment { { u"NO_COLOR"_s, u"1"_s } } << withExcerpt;
+    QTest::newRow("NO_COLOR that is empty") << QStringList() << Environment { { u"NO_COLOR"_s, u""_s } } << withColor;
+    QTest::newRow("NO_COLOR, but always")
+            << QStringList { u"--color=always"_s } << Environment { { u"NO_COLOR"_s, u"1"_s } } << withColor;
+    QTest::newRow("dumb terminal") << QStringList() << Environment { { u"TERM"_s, u"dumb"_s } } << plain;
+    QTest::newRow("dumb terminal, but always")
+            << QStringList { u"--color=always"_s } << Environment { { u"TERM"_s, u"dumb"_s } } << withColor;
+}
+
+void tst_check_terminal::terminal()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(Environment, environment);
+    QTEST(shownBy(arguments + QStringList { u"f.xml"_s }, environment), "shown");
+}
+
+void tst_check_terminal::pipe_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("output");
+
+    QTest::newRow("by default") << QStringList() << QByteArray(PLAIN) + SUMMARY;
+    QTest::newRow("auto") << QStringList { u"--color=auto"_s } << QByteArray(PLAIN) + SUMMARY;
+    QTest::newRow("never") << QStringList { u"--color=never"_s } << QByteArray(PLAIN) + SUMMARY;
+    QTest::newRow("always") << QStringList { u"--color=always"_s } << QByteArray(COLORED) + SUMMARY;
+}
+
+void tst_check_terminal::pipe()
+{
+    QFETCH(QStringList, arguments);
+    QProcess process;
+    begin(&process, {});
+    process.start(QStringLiteral(RVCATALOG), QStringList { u"check"_s, u"f.xml"_s } + arguments);
+    QVERIFY(process.waitForFinished(60000));
+    QTEST(process.readAllStandardOutput(), "output");
+}
+
+// What came from a pipe cannot be read again.
+void tst_check_terminal::standardInput()
+{
+    const QByteArray shown = shownBy({ u"-"_s }, {}, FAULT);
+    QVERIFY2(shown.startsWith("\033[1m-:2:35:\033[0m \033[1;36mnote:\033[0m A: "), shown.constData());
+    QVERIFY2(shown.endsWith("[keyword-legacy]\n" + QByteArray(SUMMARY)), shown.constData());
+}
+
+void tst_check_terminal::relatedPlaces()
+{
+    write(u"two.xml"_s, "<p>\n<product type='A' article_id='1' name='x'/>\n<product type='A' article_id='1'/>\n</p>\n");
+    const QByteArray shown = shownBy({ u"two.xml"_s });
+    QCOMPARE(shown.count("    3 | <product type='A' article_id='1'/>\n"), 2);
+    QCOMPARE(shown.count("\n      |          \033[1;31m^~~~~~~~\033[0m\n"), 1);
+    QCOMPARE(shown.count("\n      |                   \033[1;31m^~~~~~~~~~~~~~\033[0m\n"), 1);
+}
+
+// Programs read them, wherever they go.
+void tst_check_terminal::otherFormats()
+{
+    for (const QString &format : { u"json"_s, u"sarif"_s, u"github"_s, u"junit"_s }) {
+        const QByteArray shown = shownBy({ u"--format"_s, format, u"--color=always"_s, u"f.xml"_s });
+        QVERIFY(shown.contains("keyword-legacy"));
+        QVERIFY2(!shown.contains('\033') && !shown.contains("^~"), shown.constData());
+    }
+}
+
+QTEST_GUILESS_MAIN(tst_check_terminal)
+#include "tst_check_terminal.moc"
