@@ -101,6 +101,7 @@ class tst_FindingWriter : public QObject
 private Q_SLOTS:
     void formats();
     void text();
+    void textWithExcerpts();
     void types_data();
     void types();
     void json();
@@ -141,6 +142,39 @@ void tst_FindingWriter::text()
                         "b c.xml:9:1: note: one in another file\n"
                         "a.xml:3:12: note: A: old [keyword-legacy]\n"
                         "0 products in 0 files: 1 error, 0 warnings, 1 note\n"));
+}
+
+void tst_FindingWriter::textWithExcerpts()
+{
+    const auto write = [this](const QString &name, const QByteArray &content) {
+        QFile file(myFolder.filePath(name));
+        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+    };
+    QVERIFY(write(u"a.xml"_s, "<p>\n  abc\n0123456789 abcdefghijklmn\n"));
+    QVERIFY(write(u"b c.xml"_s, QByteArray("\n").repeated(8) + "xyz\nxyz\n"));
+    const QString name = myFolder.filePath(u"a.xml"_s);
+    RVCatalogueFinding whole = wholeFinding();
+    QList<RVRelatedPlace> places = whole.relatedPlaces();
+    places[1].fileName = myFolder.filePath(places[1].fileName);
+    whole.setRelatedPlaces(places);
+    Report report(u"text"_s);
+    report.options.color = u"always"_s;
+    QCOMPARE(report.of(name, { whole, finding(u"option-default-missing", u"none"_s) })
+                     .replace(myFolder.path().toUtf8(), ""),
+             QByteArray("\033[1m/a.xml:3:12:\033[0m \033[1;31merror:\033[0m A&B: 50 % of \"x\", or: all "
+                        "[option-duplicate]\n"
+                        "    3 | 0123456789 abcdefghijklmn\n"
+                        "      |            \033[1;31m^~~~~~~~~~~~~\033[0m\n"
+                        "\033[1m/a.xml:2:5:\033[0m \033[1;36mnote:\033[0m the first one\n"
+                        "    2 |   abc\n"
+                        "      |     \033[1;36m^\033[0m\n"
+                        "\033[1m/b c.xml:9:1:\033[0m \033[1;36mnote:\033[0m one in another file\n"
+                        "    9 | xyz\n"
+                        "      | \033[1;36m^~~\033[0m\n"
+                        "\033[1m/a.xml:3:12:\033[0m \033[1;35mwarning:\033[0m A: none [option-default-missing]\n"
+                        "    3 | 0123456789 abcdefghijklmn\n"
+                        "      |            \033[1;35m^~~~~~~~~~~~~\033[0m\n"
+                        "0 products in 0 files: 1 error, 1 warning, 0 notes\n"));
 }
 
 // A type may be any text, and yet a finding is one line.

@@ -500,7 +500,9 @@ void tst_check::maxFindingsInJson()
 
 void tst_check::summary()
 {
-    const Run run = check({ u"--summary"_s, u"faults.xml"_s, u"faults.xml"_s, u"clean.xml"_s, u"cut.xml"_s });
+    write(u"copy.xml"_s, FAULTS);
+    const Run run = check({ u"--summary"_s, u"--select=keyword-legacy,article-id-invalid,price-class-unknown"_s,
+                            u"faults.xml"_s, u"copy.xml"_s, u"clean.xml"_s, u"cut.xml"_s });
     QVERIFY(run.messages.startsWith("cut.xml:3:4: error: "_L1));
     QVERIFY2(run.output.startsWith("       3  note     keyword-legacy\n"
                                    "       2  error    article-id-invalid\n"

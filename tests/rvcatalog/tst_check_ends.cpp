@@ -23,6 +23,9 @@ namespace {
 const char FIRST_PRODUCT[] = "<p>\n<product type='A' article_id='0'/>\n";
 const char FIRST_LINE[] = "pipe:2:19: error: A: the article id \"0\" is no whole number above 0 [article-id-invalid]\n";
 
+/// In a file that takes a while.
+constexpr int ALL_FINDINGS = 500;
+
 /// The program, which checks a pipe that somebody writes into.
 class PipedCheck
 {
@@ -111,6 +114,7 @@ private Q_SLOTS:
     void interruptedInText();
     void interrupted_data();
     void interrupted();
+    void interruptedInALargeFile_data();
     void interruptedInALargeFile();
     void secondSignal();
     void ignoredSignal();
@@ -195,36 +199,32 @@ void tst_check_ends::interrupted()
     QTEST(check.process.exitCode(), "exitCode");
 }
 
+void tst_check_ends::interruptedInALargeFile_data()
+{
+    QTest::addColumn<QString>("format");
+
+    for (const QString &format : { u"json"_s, u"sarif"_s, u"junit"_s })
+        QTest::newRow(qPrintable(format)) << format;
+}
+
 // A file is not waited for, so it takes another way.
 void tst_check_ends::interruptedInALargeFile()
 {
+    QFETCH(QString, format);
     writeLargeFile();
-    for (const QString &format : { u"json"_s, u"sarif"_s, u"junit"_s }) {
-        QProcess process;
-        process.setWorkingDirectory(myFolder.path());
-        QStringList arguments { u"check"_s, u"--format"_s, format, u"clean.xml"_s };
-        // So many that it does not come to their end.
-        for (int i = 0; i < 200; ++i)
-            arguments += u"large.xml"_s;
-        process.start(QStringLiteral(RVCATALOG), arguments);
-        QVERIFY(process.waitForReadyRead(20000));
-        QTest::qWait(300);
-        ::kill(pid_t(process.processId()), SIGINT);
-        QVERIFY(process.waitForFinished(60000));
-        QCOMPARE(process.exitCode(), 130);
-        const QByteArray output = process.readAllStandardOutput();
-        QVERIFY(output.contains("interrupted"));
-        if (format == "junit"_L1) {
-            QXmlStreamReader xml(output);
-            while (!xml.atEnd())
-                xml.readNext();
-            QCOMPARE(xml.errorString(), QString());
-        } else {
-            QJsonParseError error;
-            QJsonDocument::fromJson(output, &error);
-            QCOMPARE(error.errorString(), u"no error occurred"_s);
-        }
-    }
+    QProcess process;
+    process.setWorkingDirectory(myFolder.path());
+    process.start(QStringLiteral(RVCATALOG), { u"check"_s, u"--format"_s, format, u"large.xml"_s });
+    QVERIFY(process.waitForReadyRead(20000));
+    ::kill(pid_t(process.processId()), SIGINT);
+    QVERIFY(process.waitForFinished(60000));
+    QCOMPARE(process.exitCode(), 130);
+    const QByteArray output = process.readAllStandardOutput();
+    const char *const once = format == "junit"_L1 ? " above 0 [" : " above 0\"";
+    const int findings = int(output.count(once));
+    QVERIFY2(findings < ALL_FINDINGS, qPrintable(QString::number(findings)));
+    QVERIFY2(isWhole(format, output, findings), output.right(1000).constData());
+    QVERIFY(output.contains("interrupted"));
 }
 
 void tst_check_ends::writeLargeFile()
@@ -232,13 +232,10 @@ void tst_check_ends::writeLargeFile()
     QFile file(myFolder.filePath(u"large.xml"_s));
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write("<p>\n");
-    for (int i = 1; i <= 50000; ++i)
+    for (int i = 1; i <= ALL_FINDINGS * 1000; ++i)
         file.write("<product type='T" + QByteArray::number(i) + "' article_id='" + QByteArray::number(i)
                    + (i % 1000 == 0 ? "x'/>\n" : "'/>\n"));
     file.write("</p>\n");
-    QFile clean(myFolder.filePath(u"clean.xml"_s));
-    QVERIFY(clean.open(QIODevice::WriteOnly));
-    clean.write("<p><product type='A' article_id='1'/></p>");
 }
 
 // Who presses the keys twice means it. The pipe is full, so the first signal alone ends nothing.
@@ -292,12 +289,8 @@ void tst_check_ends::ignoredSignal()
 
 void tst_check_ends::otherFilesAreLeftOut()
 {
-    PipedCheck check(myFolder.path(), {});
-    check.process.kill();
-    check.process.waitForFinished();
-    check.closePipe();
-
     const QString pipe = myFolder.filePath(u"pipe"_s);
+    ::mkfifo(pipe.toUtf8().constData(), 0600);
     QProcess process;
     process.setWorkingDirectory(myFolder.path());
     process.start(QStringLiteral(RVCATALOG), { u"check"_s, u"pipe"_s, u"missing.xml"_s });
@@ -346,8 +339,7 @@ void tst_check_ends::closedPipe()
     QProcess process;
     process.setWorkingDirectory(myFolder.path());
     process.start(u"bash"_s,
-                  { u"-c"_s,
-                    u"\"$0\" check --format $1 large.xml{,,,,,,,,,} | head -c 1 >/dev/null; echo ${PIPESTATUS[0]}"_s,
+                  { u"-c"_s, u"\"$0\" check --format $1 large.xml | head -c 1 >/dev/null; echo ${PIPESTATUS[0]}"_s,
                     QStringLiteral(RVCATALOG), format });
     QVERIFY(process.waitForFinished(60000));
     QCOMPARE(process.readAllStandardOutput(), QByteArray("141\n"));
@@ -357,11 +349,6 @@ void tst_check_ends::closedPipe()
 // Some parents ignore the signal, and so does the program; then it says why it ends.
 void tst_check_ends::closedPipeThatIsIgnored()
 {
-    PipedCheck check(myFolder.path(), {});
-    QVERIFY(check.write(FIRST_PRODUCT));
-    check.closePipe();
-    check.allOutput();
-
     writeLargeFile();
     QProcess process;
     process.setWorkingDirectory(myFolder.path());

@@ -38,7 +38,7 @@ private Q_SLOTS:
     void pipe_data();
     void pipe();
     void standardInput();
-    void relatedPlaces();
+    void severalInOneLine();
     void otherFormats();
 
 private:
@@ -149,7 +149,7 @@ void tst_check_terminal::standardInput()
     QVERIFY2(shown.endsWith("[keyword-legacy]\n" + QByteArray(SUMMARY)), shown.constData());
 }
 
-void tst_check_terminal::relatedPlaces()
+void tst_check_terminal::severalInOneLine()
 {
     write(u"two.xml"_s, "<p>\n<product type='A' article_id='1' name='x'/>\n<product type='A' article_id='1'/>\n</p>\n");
     const QByteArray shown = shownBy({ u"two.xml"_s });
