@@ -39,7 +39,8 @@ std::unique_ptr<QIODevice> Console::openInput(const QString &fileName) const
     const QFileInfo info(fileName);
     if (!info.exists() || info.isFile() || info.isDir())
         return nullptr;
-    const int descriptor = ::open(QFile::encodeName(fileName).constData(), O_RDONLY | O_CLOEXEC);
+    // Otherwise it would wait here for someone who writes, and be deaf to interruptions.
+    const int descriptor = ::open(QFile::encodeName(fileName).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     return descriptor < 0 ? nullptr : std::make_unique<PipeInput>(descriptor, PipeInput::Owned);
 }
 

@@ -49,13 +49,11 @@ qint64 PipeInput::readData(char *data, qint64 size)
 {
     if (size == 0)
         return 0;
-    hasInput(myDescriptor, FOREVER);
     qint64 result = 0;
-    if (Interruption::signal() == 0) {
-        do {
-            result = ::read(myDescriptor, data, std::size_t(size));
-        } while (result < 0 && errno == EINTR);
-    }
+    do {
+        hasInput(myDescriptor, FOREVER);
+        result = Interruption::signal() == 0 ? ::read(myDescriptor, data, std::size_t(size)) : 0;
+    } while (result < 0 && (errno == EINTR || errno == EAGAIN));
     if (result < 0)
         setErrorString(qt_error_string(errno));
     myIsAtEnd = result == 0;

@@ -6,7 +6,9 @@
 #include <QLoggingCategory>
 #include <QTranslator>
 
+#include <fcntl.h>
 #include <langinfo.h>
+#include <unistd.h>
 
 #include <clocale>
 #include <cstring>
@@ -34,6 +36,14 @@ void useUtf8()
         qputenv("LC_ALL", "C.UTF-8");
 }
 
+// Where the program was started without an input, the first file that it opens would stand for it. This one cannot be
+// read.
+void keepInputApart()
+{
+    if (::fcntl(STDIN_FILENO, F_GETFD) < 0)
+        ::open("/dev/null", O_WRONLY);
+}
+
 // Display names are in the user's language where there is a translation, else in German, the language of the catalogue.
 void loadTranslation(QTranslator *translator, const QLocale &locale)
 {
@@ -46,6 +56,7 @@ void loadTranslation(QTranslator *translator, const QLocale &locale)
 
 int main(int argc, char *argv[])
 {
+    keepInputApart();
     const QLocale locale = userLocale();
     useUtf8();
     // Options come out in the order of a hash; with a fixed seed every run writes the same.

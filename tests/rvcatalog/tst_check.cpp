@@ -78,6 +78,7 @@ private Q_SLOTS:
     void warningsAlone();
     void severalFiles();
     void standardInput();
+    void noStandardInput();
     void unreadable();
     void fullDisk();
     void jsonFormat();
@@ -201,6 +202,16 @@ void tst_check::standardInput()
     QVERIFY(run.output.endsWith(QLatin1StringView(SUMMARY_OF_FAULTS)));
     QCOMPARE(run.exitCode, 1);
     QCOMPARE(check({ u"-"_s }).messages, u"-:1:1: error: the file is empty\n"_s);
+}
+
+void tst_check::noStandardInput()
+{
+    QProcess process;
+    process.setChildProcessModifier([] { ::close(STDIN_FILENO); });
+    process.start(QStringLiteral(RVCATALOG), { u"check"_s, u"-"_s });
+    QVERIFY(process.waitForFinished(20000));
+    QCOMPARE(process.readAllStandardError(), QByteArray("-:1:1: error: cannot read on: Bad file descriptor\n"));
+    QCOMPARE(process.exitCode(), 2);
 }
 
 void tst_check::unreadable()

@@ -114,6 +114,7 @@ private Q_SLOTS:
     void interruptedInText();
     void interrupted_data();
     void interrupted();
+    void interruptedBeforeAnybodyWrites();
     void interruptedInALargeFile_data();
     void interruptedInALargeFile();
     void secondSignal();
@@ -197,6 +198,21 @@ void tst_check_ends::interrupted()
     QVERIFY(output.contains("interrupted"));
     QCOMPARE(check.process.exitStatus(), QProcess::NormalExit);
     QTEST(check.process.exitCode(), "exitCode");
+}
+
+void tst_check_ends::interruptedBeforeAnybodyWrites()
+{
+    ::mkfifo(myFolder.filePath(u"pipe"_s).toUtf8().constData(), 0600);
+    QProcess process;
+    process.setWorkingDirectory(myFolder.path());
+    process.start(QStringLiteral(RVCATALOG), { u"check"_s, u"pipe"_s });
+    QVERIFY(!process.waitForFinished(500));
+    ::kill(pid_t(process.processId()), SIGINT);
+    QVERIFY(process.waitForFinished(20000));
+    QCOMPARE(process.exitCode(), 130);
+    QCOMPARE(process.readAllStandardOutput(),
+             QByteArray("0 products in 1 file: 0 errors, 0 warnings, 0 notes, interrupted\n"));
+    QCOMPARE(process.readAllStandardError(), QByteArray());
 }
 
 void tst_check_ends::interruptedInALargeFile_data()
