@@ -42,3 +42,27 @@ RVFilePosition rvAdvanced(const RVFilePosition &position, QByteArrayView text, c
     std::for_each(begin, text.end(), [&result](char byte) { result.column += columns(byte); });
     return result;
 }
+
+qsizetype rvAdvance(RVFilePosition *position, const RVFilePosition &target, QByteArrayView text, char next)
+{
+    const char *place = text.begin();
+    while (position->line < target.line) {
+        const char *end = lineEnd(place, text.end(), next);
+        if (!end) {
+            *position = rvAdvanced(*position, QByteArrayView(place, text.end()), next);
+            return text.size();
+        }
+        *position = { position->line + 1, 1 };
+        place = end + 1;
+    }
+    const auto isLineEnd = [&text, next](const char *letter) {
+        const char following = letter + 1 == text.end() ? next : letter[1];
+        return *letter == '\n' || (*letter == '\r' && following != '\n');
+    };
+    while (place != text.end() && position->column < target.column && !isLineEnd(place))
+        position->column += columns(*place++);
+    // The rest of the last letter.
+    while (place != text.end() && columns(*place) == 0)
+        ++place;
+    return place - text.begin();
+}

@@ -207,7 +207,8 @@ void RVXmlSource::decideOnEncoding(QByteArray *bytes)
     if (found == std::end(BEGINNINGS))
         return beginAsDeclared(*bytes);
     if (found->isMark)
-        bytes->remove(0, found->bytes.size());
+        myMarkSize = found->bytes.size();
+    bytes->remove(0, myMarkSize);
     beginAs(found->encoding, *bytes);
 }
 

@@ -33,6 +33,12 @@ public:
     /// The message about a text that is not written in its encoding.
     QString wrongEncodingText() const;
     qint64 bytesRead() const { return myBytesRead; }
+    /// Both are known once something was read.
+    /// @{
+    /// The encoding by a name that iconv knows; empty for UTF-8.
+    QByteArray encoding() const { return myConverter ? myEncoding : QByteArray(); }
+    qint64 markSize() const { return myMarkSize; } ///< Of the byte order mark in bytes; 0 where there is none.
+    /// @}
 
 private:
     class Converter;
@@ -58,6 +64,7 @@ private:
     QByteArray myRest; // a letter that has not come to its end
     QString myFault;
     qint64 myBytesRead = 0;
+    qint64 myMarkSize = 0;
     bool myHasBegun = false;
 };
 

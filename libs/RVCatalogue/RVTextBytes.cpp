@@ -1,0 +1,142 @@
+#include "RVTextBytes_p.h"
+
+#include <QIODevice>
+
+#include <iconv.h>
+
+#include <utility>
+
+namespace {
+
+constexpr qint64 PIECE = qint64(64) * 1024;
+/// Letters are converted one by one within so many bytes of UTF-8 in front of the end of a piece: no letter, and no two
+/// that are written as one, has more.
+constexpr qint64 MARGIN = 16;
+/// No letter has more bytes in any encoding, with what switches to its alphabet.
+constexpr qsizetype LONGEST_LETTER = 16;
+
+}
+
+class RVTextBytes::Converter
+{
+    Q_DISABLE_COPY_MOVE(Converter)
+
+public:
+    explicit Converter(const QByteArray &encoding) : myHandle(::iconv_open("UTF-8", encoding.constData())) { }
+    ~Converter()
+    {
+        if (isKnown())
+            ::iconv_close(myHandle);
+    }
+
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): so is the error defined
+    bool isKnown() const { return myHandle != iconv_t(-1); }
+
+    /// Converts from the begin of @p bytes on until the text has so many bytes.
+    RVTextPiece convert(QByteArrayView bytes, qint64 room) const
+    {
+        QByteArray text(room, Qt::Uninitialized);
+        char *from = const_cast<char *>(bytes.data()); // NOLINT(cppcoreguidelines-pro-type-const-cast): iconv reads
+        auto left = std::size_t(bytes.size());
+        char *to = text.data();
+        auto textLeft = std::size_t(room);
+        ::iconv(myHandle, &from, &left, &to, &textLeft);
+        text.truncate(room - qsizetype(textLeft));
+        return { bytes.first(bytes.size() - qsizetype(left)).toByteArray(), text };
+    }
+
+    /// The letter that iconv has kept so far.
+    QByteArray end() const
+    {
+        QByteArray text(MARGIN, Qt::Uninitialized);
+        char *to = text.data();
+        auto textLeft = std::size_t(MARGIN);
+        ::iconv(myHandle, nullptr, nullptr, &to, &textLeft);
+        text.truncate(MARGIN - qsizetype(textLeft));
+        return text;
+    }
+
+    /// True where a letter comes out only with the one behind it.
+    bool keeps(QByteArrayView letter) const
+    {
+        const RVTextPiece converted = convert(letter, MARGIN);
+        end();
+        return !converted.bytes.isEmpty() && converted.text.isEmpty();
+    }
+
+private:
+    iconv_t myHandle;
+};
+
+RVTextBytes::RVTextBytes(QIODevice *device, const QByteArray &encoding) : myDevice(device)
+{
+    if (encoding.isEmpty())
+        return;
+    myConverter = std::make_unique<Converter>(encoding);
+    myProbe = std::make_unique<Converter>(encoding);
+}
+
+RVTextBytes::~RVTextBytes() = default;
+
+RVTextPiece RVTextBytes::take(qint64 size)
+{
+    if (!myConverter) {
+        const QByteArray bytes = myDevice->read(qMin(size, PIECE));
+        return { bytes, bytes };
+    }
+    if (!myConverter->isKnown())
+        return RVTextPiece();
+    if (size <= MARGIN)
+        return takeExactly(size);
+    if (!myAhead.isEmpty())
+        return std::exchange(myAhead, RVTextPiece());
+    if (available() < LONGEST_LETTER)
+        fill();
+    const RVTextPiece piece = convert(available(), qMin(size - MARGIN, PIECE));
+    return piece.isEmpty() ? takeLetter() : piece;
+}
+
+// A letter that comes out late belongs behind the piece, and so does one that came out together with the last of it.
+RVTextPiece RVTextBytes::takeExactly(qint64 size)
+{
+    RVTextPiece taken;
+    RVTextPiece last = std::exchange(myAhead, RVTextPiece());
+    bool isAtEnd = false;
+    while (!isAtEnd && taken.text.size() + last.text.size() < size) {
+        taken += last;
+        last = takeLetter();
+        isAtEnd = last.isEmpty();
+    }
+    const qsizetype missing = size - taken.text.size();
+    if (last.text.size() < missing || (last.text.size() == missing && !myProbe->keeps(last.bytes)))
+        return taken += last;
+    myAhead = { last.bytes, last.text.sliced(missing) };
+    return taken += { QByteArray(), last.text.first(missing) };
+}
+
+// As few bytes as iconv takes.
+RVTextPiece RVTextBytes::takeLetter()
+{
+    for (qsizetype size = 1; size <= LONGEST_LETTER; ++size) {
+        if (available() < size && !fill())
+            return { QByteArray(), available() == 0 ? myConverter->end() : QByteArray() };
+        const RVTextPiece letter = convert(size, MARGIN);
+        if (!letter.isEmpty())
+            return letter;
+    }
+    return RVTextPiece();
+}
+
+RVTextPiece RVTextBytes::convert(qsizetype size, qint64 room)
+{
+    RVTextPiece piece = myConverter->convert(QByteArrayView(myBytes).sliced(myPlace, size), room);
+    myPlace += piece.bytes.size();
+    return piece;
+}
+
+bool RVTextBytes::fill()
+{
+    const QByteArray bytes = myDevice->read(PIECE);
+    myBytes = myBytes.sliced(std::exchange(myPlace, 0)) + bytes;
+    return !bytes.isEmpty();
+}

@@ -1,0 +1,33 @@
+#ifndef RVTEXTENCODER_P_H
+#define RVTEXTENCODER_P_H
+
+#include "RVTextBytes_p.h"
+
+#include <QString>
+
+/// A text as it is written into a file.
+struct RVEncodedText : RVTextPiece
+{
+    /// The first letter that the encoding cannot write, for which a reference is written; 0 where there is none.
+    char32_t reference = 0;
+};
+
+/// Writes texts of XML in the encoding of a file: what the encoding cannot write becomes a reference as "&#x20AC;".
+class RVTextEncoder
+{
+    Q_DISABLE_COPY_MOVE(RVTextEncoder)
+
+public:
+    /// @p encoding is a name that iconv knows, or empty for UTF-8.
+    explicit RVTextEncoder(const QByteArray &encoding);
+    ~RVTextEncoder();
+
+    RVEncodedText encode(const QString &text) const;
+
+private:
+    bool append(QByteArray *bytes, QByteArrayView letter) const;
+
+    void *myHandle = nullptr; // null for UTF-8
+};
+
+#endif
