@@ -136,6 +136,9 @@ public:
         return isRight;
     }
 
+    /// Forgets the alphabet that was switched to, and a letter that waits for the one behind it.
+    void reset() const { ::iconv(myHandle, nullptr, nullptr, nullptr, nullptr); }
+
 private:
     iconv_t myHandle;
 };
@@ -250,6 +253,7 @@ QByteArray RVXmlSource::decoded(const QByteArray &bytes) const
         return begin;
     QByteArray text;
     myConverter->convert(&begin, &text);
+    myConverter->reset();
     return text;
 }
 
