@@ -1,5 +1,7 @@
 #include "RVTextEncoder_p.h"
 
+#include <QList>
+
 #include <iconv.h>
 
 #include <array>
