@@ -1,6 +1,7 @@
 #include "CheckOptions.h"
 #include "CheckRun.h"
 #include "FindingWriter.h"
+#include "FixRun.h"
 #include "SubCommands.h"
 
 #include <RVCatalogueRule.h>
@@ -20,12 +21,16 @@ int writeRules(const Console &console)
     return EXIT_FINE;
 }
 
-int checkFiles(const CheckOptions &options, const Console &console)
+int checkFiles(const CheckOptions &options, Console console)
 {
+    FixRun fixes(options, &console);
+    if (options.showsFixes)
+        return fixes.diff();
+    const int mended = options.fixes ? fixes.mend() : EXIT_FINE;
     const std::unique_ptr<FindingWriter> writer = FindingWriter::create(options, console);
     CheckRun run(writer.get(), options, console);
     run.check(options.fileNames);
-    return run.end();
+    return qMax(mended, run.end());
 }
 
 }

@@ -22,6 +22,8 @@ struct CheckOptions
     bool isQuiet = false;
     bool isSummary = false;
     bool listsRules = false; ///< Instead of checking anything.
+    bool fixes = false; ///< Mends the files before they are checked.
+    bool showsFixes = false; ///< Instead of mending and checking them.
 
     /// Tells a parser the options that there are.
     static void addTo(QCommandLineParser *parser);

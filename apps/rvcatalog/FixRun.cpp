@@ -1,0 +1,186 @@
+#include "FixRun.h"
+
+#include "CheckOptions.h"
+#include "Commands.h"
+#include "UnifiedDiff.h"
+
+#include <RVCatalogueReader.h>
+#include <RVFileEditor.h>
+
+#include <QFile>
+#include <QTextStream>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 PIECE = qint64(64) * 1024;
+
+bool isInput(const QString &fileName)
+{
+    return fileName == "-"_L1;
+}
+
+QList<RVCatalogueFinding> findingsOf(const QList<RVCatalogueProduct> &products)
+{
+    QList<RVCatalogueFinding> result;
+    for (const RVCatalogueProduct &product : products)
+        result += product.findings();
+    return result;
+}
+
+}
+
+FixRun::FixRun(const CheckOptions &options, Console *console)
+    : myOptions(options),
+      myConsole(console),
+      myProgressBar(console->messages)
+{ }
+
+FixRun::~FixRun() = default;
+
+int FixRun::mend()
+{
+    bool isDone = true;
+    for (const QString &fileName : myOptions.fileNames)
+        isDone = (isInput(fileName) ? mendInput() : mendFile(fileName)) && isDone;
+    myProgressBar.hide();
+    return isDone ? EXIT_FINE : EXIT_UNREADABLE;
+}
+
+int FixRun::diff()
+{
+    bool isDone = true;
+    bool isChanged = false;
+    for (const QString &fileName : myOptions.fileNames)
+        isDone = diffFile(fileName, &isChanged) && isDone;
+    myProgressBar.hide();
+    if (!isDone)
+        return EXIT_UNREADABLE;
+    return isChanged ? EXIT_PROBLEMS : EXIT_FINE;
+}
+
+bool FixRun::mendFile(const QString &fileName)
+{
+    RVFileEditor editor(fileName);
+    qint64 findings = 0;
+    if (collect(fileName, fileName, &editor, &findings) || editor.count() == 0)
+        return true;
+    if (!editor.save())
+        return fail(fileName, { RVFilePosition(), editor.errorString() });
+    tellMended(fileName, editor, findings);
+    return true;
+}
+
+bool FixRun::mendInput()
+{
+    if (myInputCopy)
+        return true; // it was named twice
+    if (!copyInput())
+        return false;
+    RVFileEditor editor;
+    qint64 findings = 0;
+    const std::optional<Problem> problem = collect(myInputCopy->fileName(), u"-"_s, &editor, &findings);
+    const bool isDone = problem || writeMended(&editor, findings);
+    myInput.reset(std::fopen(QFile::encodeName(myInputCopy->fileName()).constData(), "rb"));
+    myConsole->input = myInput ? myInput.get() : myConsole->input;
+    myConsole->output = myConsole->messages;
+    return isDone;
+}
+
+/// Writes the copy of the input to the output with the edits, and makes that the copy.
+bool FixRun::writeMended(RVFileEditor *editor, qint64 findings)
+{
+    auto mended = std::make_unique<QTemporaryFile>();
+    if (!mended->open())
+        return fail(u"-"_s, { RVFilePosition(), u"cannot write: "_s + mended->errorString() });
+    if (!editor->apply(myInputCopy.get(), mended.get()))
+        return fail(u"-"_s, { RVFilePosition(), editor->errorString() });
+    myInputCopy = std::move(mended);
+    myInputCopy->seek(0);
+    for (QByteArray piece = myInputCopy->read(PIECE); !piece.isEmpty(); piece = myInputCopy->read(PIECE))
+        myConsole->write(std::string_view(piece.constData(), std::size_t(piece.size())));
+    std::fflush(myConsole->output);
+    if (editor->count() > 0)
+        tellMended(u"-"_s, *editor, findings);
+    return true;
+}
+
+bool FixRun::diffFile(const QString &fileName, bool *isChanged)
+{
+    if (isInput(fileName) && !myInputCopy && !copyInput())
+        return false;
+    const QString path = isInput(fileName) ? myInputCopy->fileName() : fileName;
+    RVFileEditor editor;
+    qint64 findings = 0;
+    if (const std::optional<Problem> problem = collect(path, fileName, &editor, &findings))
+        return fail(fileName, *problem);
+    if (editor.count() == 0)
+        return true;
+    QFile from(path);
+    QTemporaryFile to;
+    if (!from.open(QIODevice::ReadOnly) || !to.open())
+        return fail(fileName, { RVFilePosition(), u"cannot write: "_s + to.errorString() });
+    if (!editor.apply(&from, &to))
+        return fail(fileName, { RVFilePosition(), editor.errorString() });
+    *isChanged = true;
+    const QString error = UnifiedDiff(path, to.fileName(), fileName).write(*myConsole);
+    return error.isEmpty() || fail(fileName, { RVFilePosition(), error });
+}
+
+/// Adds what mends the findings in a file. Returns the problem where it cannot be read.
+std::optional<Problem> FixRun::collect(const QString &path, const QString &fileName, RVFileEditor *editor,
+                                       qint64 *findings)
+{
+    RVCatalogueReader reader(path);
+    reader.setCheck(myOptions.check);
+    const auto add = [&](const QList<RVCatalogueFinding> &found) {
+        *findings += found.size();
+        for (const RVCatalogueFinding &finding : found)
+            editor->add(finding.fix());
+        myProgressBar.show(fileName, reader.bytesRead(), reader.size());
+        return true;
+    };
+    reader.map(findingsOf, add);
+    add(reader.findings());
+    if (reader.hasError())
+        return Problem { reader.errorPosition(), reader.errorString() };
+    return std::nullopt;
+}
+
+bool FixRun::copyInput()
+{
+    myInputCopy = std::make_unique<QTemporaryFile>();
+    const std::unique_ptr<QIODevice> input = myConsole->openInput();
+    bool isWritten = myInputCopy->open();
+    while (isWritten) {
+        const QByteArray piece = input->read(PIECE);
+        if (piece.isEmpty())
+            break;
+        isWritten = myInputCopy->write(piece) == piece.size();
+    }
+    if (isWritten && myInputCopy->flush())
+        return true;
+    return fail(u"-"_s, { RVFilePosition(), u"cannot write: "_s + myInputCopy->errorString() });
+}
+
+bool FixRun::fail(const QString &fileName, const Problem &problem)
+{
+    myProgressBar.hide();
+    std::fflush(myConsole->output);
+    myConsole->report(fileName, { problem.position, u"error: "_s + problem.text });
+    return false;
+}
+
+void FixRun::tellMended(const QString &fileName, const RVFileEditor &editor, qint64 findings)
+{
+    myProgressBar.hide();
+    QTextStream out(myConsole->messages);
+    out << "mended " << editor.count() << " of " << findings << (findings == 1 ? " finding" : " findings") << " in "
+        << fileName;
+    if (editor.leftOut() > 0)
+        out << "; run it again to mend " << editor.leftOut() << " more";
+    out << '\n';
+}

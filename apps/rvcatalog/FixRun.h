@@ -1,0 +1,56 @@
+#ifndef FIXRUN_H
+#define FIXRUN_H
+
+#include "Console.h"
+#include "ProgressBar.h"
+
+#include <QString>
+#include <QTemporaryFile>
+
+#include <memory>
+#include <optional>
+
+class RVFileEditor;
+struct CheckOptions;
+
+/// Mends files before they are checked, or shows what that would change.
+class FixRun
+{
+    Q_DISABLE_COPY_MOVE(FixRun)
+
+public:
+    /// Both outlive the run.
+    FixRun(const CheckOptions &options, Console *console);
+    ~FixRun();
+
+    /// Mends the files, and tells how many findings that were. It says nothing of files that cannot be read, as the
+    /// check behind it does. The input goes mended to the output; from then on the console reads it from a copy, and
+    /// what is written to the output goes to the messages. Returns the exit code, unless the check has a worse one.
+    int mend();
+    /// Writes the changes as a unified diff, and returns the exit code of the program.
+    int diff();
+
+private:
+    struct CloseFile
+    {
+        void operator()(std::FILE *file) const { std::fclose(file); }
+    };
+
+    bool mendFile(const QString &fileName);
+    bool mendInput();
+    bool writeMended(RVFileEditor *editor, qint64 findings);
+    bool diffFile(const QString &fileName, bool *isChanged);
+    std::optional<Problem> collect(const QString &path, const QString &fileName, RVFileEditor *editor,
+                                   qint64 *findings);
+    bool copyInput();
+    bool fail(const QString &fileName, const Problem &problem);
+    void tellMended(const QString &fileName, const RVFileEditor &editor, qint64 findings);
+
+    const CheckOptions &myOptions;
+    Console *myConsole;
+    ProgressBar myProgressBar;
+    std::unique_ptr<QTemporaryFile> myInputCopy; // none before it is needed
+    std::unique_ptr<std::FILE, CloseFile> myInput; // the same, as the console reads it
+};
+
+#endif

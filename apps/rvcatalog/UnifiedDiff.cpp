@@ -1,0 +1,59 @@
+#include "UnifiedDiff.h"
+
+#include <QFileInfo>
+#include <QProcess>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The name such that "patch" and "git apply" read it: with a tabulator behind it where it has blanks, and in quotes
+/// where it has letters that would end the line or the name.
+QString labelOf(const QString &name)
+{
+    const auto isSpecial = [](QChar letter) { return letter < u' ' || letter == u'"' || letter == u'\\'; };
+    if (std::none_of(name.begin(), name.end(), isSpecial))
+        return name.contains(u' ') ? name + u'\t' : name;
+    QString quoted;
+    for (const QChar letter : name) {
+        constexpr int octal = 8;
+        constexpr int digits = 3;
+        quoted += isSpecial(letter) ? u'\\' + QString::number(letter.unicode(), octal).rightJustified(digits, u'0')
+                                    : QString(letter);
+    }
+    return u'"' + quoted + u'"';
+}
+
+void pass(const QByteArray &bytes, const Console &console)
+{
+    console.write(std::string_view(bytes.constData(), std::size_t(bytes.size())));
+}
+
+}
+
+UnifiedDiff::UnifiedDiff(const QString &oldPath, const QString &newPath, const QString &shownName)
+    : myOldPath(QFileInfo(oldPath).absoluteFilePath()),
+      myNewPath(QFileInfo(newPath).absoluteFilePath()),
+      myLabel(labelOf(shownName))
+{ }
+
+QString UnifiedDiff::write(const Console &console) const
+{
+    QProcess diff;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"LC_ALL"_s, u"C"_s); // "No newline at end of file" in any other language is no diff
+    diff.setProcessEnvironment(environment);
+    diff.start(u"diff"_s, { u"-a"_s, u"-u"_s, u"-L"_s, myLabel, u"-L"_s, myLabel, myOldPath, myNewPath });
+    diff.closeWriteChannel();
+    if (!diff.waitForStarted(-1))
+        return u"cannot run the program \"diff\": "_s + diff.errorString();
+    while (diff.waitForReadyRead(-1))
+        pass(diff.readAllStandardOutput(), console);
+    diff.waitForFinished(-1);
+    pass(diff.readAllStandardOutput(), console);
+    if (diff.exitStatus() == QProcess::NormalExit && diff.exitCode() <= 1)
+        return QString();
+    return u"the program \"diff\" failed: "_s + QString::fromLocal8Bit(diff.readAllStandardError()).simplified();
+}

@@ -1,0 +1,25 @@
+#ifndef UNIFIEDDIFF_H
+#define UNIFIEDDIFF_H
+
+#include "Console.h"
+
+#include <QString>
+
+/// The difference of two files in the unified format, as "diff" makes it and "patch" reads it. Lines are written byte
+/// by byte as they stand in the files, whatever their encoding is.
+class UnifiedDiff
+{
+public:
+    /// Both paths lead to files that can be read; the diff calls them by one name.
+    UnifiedDiff(const QString &oldPath, const QString &newPath, const QString &shownName);
+
+    /// Returns the reason where that is impossible; empty otherwise.
+    QString write(const Console &console) const;
+
+private:
+    QString myOldPath;
+    QString myNewPath;
+    QString myLabel;
+};
+
+#endif
