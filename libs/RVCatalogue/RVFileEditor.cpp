@@ -217,6 +217,7 @@ private:
     bool write(QIODevice *from, QIODevice *to);
     bool writePiece(RVTextBytes *bytes, qint64 size, QIODevice *to);
     bool writeBytes(const QByteArray &bytes, QIODevice *to);
+    bool writePending(QIODevice *to);
     bool readBack(QIODevice *to);
     bool replace(const QString &target, QTemporaryFile *file);
 
@@ -226,6 +227,7 @@ private:
     std::vector<RVEncodedText> myTexts; // of each edit
     QCryptographicHash myText { QCryptographicHash::Blake2b_256 }; // as it is to be read back
     qint64 myBytesRead = 0;
+    QByteArray myPending; // is not written yet
 };
 
 bool RVFileEditorPrivate::apply(QIODevice *from, QIODevice *to)
@@ -288,6 +290,7 @@ bool RVFileEditorPrivate::write(QIODevice *from, QIODevice *to)
     constexpr qint64 everything = std::numeric_limits<qint64>::max();
     from->seek(0);
     myText.reset();
+    myPending.clear();
     const QByteArray mark = from->read(myMarkSize);
     myBytesRead = mark.size();
     RVTextBytes bytes(from, myEncoding);
@@ -301,9 +304,9 @@ bool RVFileEditorPrivate::write(QIODevice *from, QIODevice *to)
         myText.addData(myTexts[i].text);
         place = end;
     }
-    if (isDone && writePiece(&bytes, everything, to) && myBytesRead != from->size())
-        return fail(tr("cannot read on: %1").arg(from->errorString()));
-    return error.isEmpty();
+    if (!isDone || !writePiece(&bytes, everything, to) || !writePending(to))
+        return false;
+    return myBytesRead == from->size() || fail(tr("cannot read on: %1").arg(from->errorString()));
 }
 
 /// Copies so much of the text; passes it over where there is nothing to write to.
@@ -326,7 +329,23 @@ bool RVFileEditorPrivate::writePiece(RVTextBytes *bytes, qint64 size, QIODevice 
 
 bool RVFileEditorPrivate::writeBytes(const QByteArray &bytes, QIODevice *to)
 {
-    return to->write(bytes) == bytes.size() || fail(tr("cannot write: %1").arg(to->errorString()));
+    constexpr qsizetype piece = qsizetype(64) * 1024;
+    myPending += bytes;
+    return myPending.size() < piece || writePending(to);
+}
+
+// Of a disk that becomes full some bytes are written first, and the reason is known only behind them.
+bool RVFileEditorPrivate::writePending(QIODevice *to)
+{
+    QByteArrayView rest = myPending;
+    while (!rest.isEmpty()) {
+        const qint64 written = to->write(rest.data(), rest.size());
+        if (written <= 0)
+            return fail(tr("cannot write: %1").arg(to->errorString()));
+        rest = rest.sliced(written);
+    }
+    myPending.resize(0);
+    return true;
 }
 
 bool RVFileEditorPrivate::readBack(QIODevice *to)
@@ -365,7 +384,8 @@ bool RVFileEditorPrivate::save()
     if (!target.isWritable())
         return fail(tr("the file is write-protected"));
     QTemporaryFile to(target.path() + "/.mended-XXXXXX"_L1);
-    if (!to.open())
+    // The editor has a buffer of its own, which loses no reason of an error.
+    if (!static_cast<QIODevice &>(to).open(QIODevice::ReadWrite | QIODevice::Unbuffered))
         return fail(tr("cannot write a new file beside the old one: %1").arg(to.errorString()));
     return apply(&from, &to) && replace(target.filePath(), &to);
 }

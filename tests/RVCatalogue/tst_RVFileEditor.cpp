@@ -1,4 +1,5 @@
 #include "CatalogueBuffer.h"
+#include "EncodedText.h"
 
 #include <RVFileEditor.h>
 
@@ -9,12 +10,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <iconv.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <optional>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -30,37 +29,6 @@ RVFileEdit edit(qint64 line, qint64 column, qint64 endLine, qint64 endColumn, co
 RVFileEdit edit(qint64 column, qint64 endColumn, const QString &text)
 {
     return edit(1, column, 1, endColumn, text);
-}
-
-/// The text in an encoding of iconv; nothing where the system does not have it.
-std::optional<QByteArray> encoded(const QString &text, const QByteArray &encoding)
-{
-    const iconv_t handle = ::iconv_open(encoding.constData(), "UTF-8");
-    if (handle == iconv_t(-1))
-        return std::nullopt;
-    QByteArray utf8 = text.toUtf8();
-    QByteArray result(utf8.size() * 8 + 16, '\0');
-    char *from = utf8.data();
-    auto left = std::size_t(utf8.size());
-    char *to = result.data();
-    auto room = std::size_t(result.size());
-    const bool isWritten = ::iconv(handle, &from, &left, &to, &room) == 0;
-    ::iconv(handle, nullptr, nullptr, &to, &room);
-    ::iconv_close(handle);
-    result.truncate(result.size() - qsizetype(room));
-    return isWritten ? result : QByteArray("(not all letters are in it)");
-}
-
-/// The place of a letter, counted in the simplest way.
-RVFilePosition place(const QString &text, qsizetype index)
-{
-    RVFilePosition result;
-    for (qsizetype i = 0; i < index; ++i) {
-        const bool isInLineEnd = text.at(i) == u'\r' && i + 1 < text.size() && text.at(i + 1) == u'\n';
-        const bool isLineEnd = (text.at(i) == u'\n' || text.at(i) == u'\r') && !isInLineEnd;
-        result = isLineEnd ? RVFilePosition { result.line + 1, 1 } : RVFilePosition { result.line, result.column + 1 };
-    }
-    return result;
 }
 
 /// An encoding, letters that it has, and how a file in it begins.
@@ -422,9 +390,9 @@ void tst_RVFileEditor::encodings()
             expected += kept + u'|';
             const QString old = textOf(letters, random.bounded(3), &random);
             const QString wanted = random.bounded(4) > 0 ? textOf(letters, random.bounded(4), &random) : QString();
-            const RVFilePosition begin = place(text, text.size());
+            const RVFilePosition begin = placeOf(text, text.size());
             text += old;
-            QVERIFY(editor.add({ { { begin, place(text, text.size()) }, wanted } }));
+            QVERIFY(editor.add({ { { begin, placeOf(text, text.size()) }, wanted } }));
             text += u'|';
             expected += wanted + u'|';
             if (count > 1000 && i == 3)

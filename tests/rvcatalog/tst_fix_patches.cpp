@@ -1,0 +1,125 @@
+#include "BrokenCatalogue.h"
+#include "RVCatalogue/EncodedText.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+class tst_fix_patches : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void patches_data();
+    void patches();
+
+private:
+    void write(const QString &name, const QByteArray &content) const;
+    QByteArray read(const QString &name) const;
+    QByteArray outputOf(const QStringList &arguments) const;
+    int exitCode(const QString &program, const QStringList &arguments, const QByteArray &input) const;
+
+    std::unique_ptr<QTemporaryDir> myFolder;
+};
+
+void tst_fix_patches::init()
+{
+    myFolder = std::make_unique<QTemporaryDir>();
+    QVERIFY(myFolder->isValid());
+}
+
+void tst_fix_patches::write(const QString &name, const QByteArray &content) const
+{
+    QFile file(myFolder->filePath(name));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), content.size());
+}
+
+QByteArray tst_fix_patches::read(const QString &name) const
+{
+    QFile file(myFolder->filePath(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(cannot be read)");
+}
+
+QByteArray tst_fix_patches::outputOf(const QStringList &arguments) const
+{
+    QProcess process;
+    process.setWorkingDirectory(myFolder->path());
+    process.start(QStringLiteral(RVCATALOG), QStringList { u"check"_s } + arguments);
+    return process.waitForFinished(60000) ? process.readAllStandardOutput() : QByteArray("(does not end)");
+}
+
+int tst_fix_patches::exitCode(const QString &program, const QStringList &arguments, const QByteArray &input) const
+{
+    QProcess process;
+    process.setWorkingDirectory(myFolder->path());
+    process.start(program, arguments);
+    process.write(input);
+    process.closeWriteChannel();
+    return process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+}
+
+void tst_fix_patches::patches_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("after");
+    const auto row = [](const char *situation, const QString &name, const QByteArray &before, const QByteArray &after) {
+        QTest::newRow(situation) << name << before << after;
+    };
+    const auto changed = [](const char *text, const QByteArray &from, const QByteArray &to) {
+        return QByteArray(text).replace(from, to);
+    };
+    const auto utf16 = [](const char *text) { return "\xff\xfe" + *encoded(QString::fromUtf8(text), "UTF-16LE"); };
+
+    row("line feeds", u"b.xml"_s, BROKEN_CATALOGUE, MENDED_CATALOGUE);
+    row("carriage returns and line feeds", u"b.xml"_s, changed(BROKEN_CATALOGUE, "\n", "\r\n"),
+        changed(MENDED_CATALOGUE, "\n", "\r\n"));
+    row("one line", u"b.xml"_s, changed(BROKEN_CATALOGUE, "\n", " "), changed(MENDED_CATALOGUE, "\n", " "));
+    row("carriage returns", u"b.xml"_s, changed(BROKEN_CATALOGUE, "\n", "\r"), changed(MENDED_CATALOGUE, "\n", "\r"));
+    row("last line without end", u"b.xml"_s, QByteArray(BROKEN_CATALOGUE).chopped(1),
+        QByteArray(MENDED_CATALOGUE).chopped(1));
+    row("byte order mark", u"b.xml"_s, QByteArray("\xef\xbb\xbf") + BROKEN_CATALOGUE,
+        QByteArray("\xef\xbb\xbf") + MENDED_CATALOGUE);
+    row("Latin-1", u"b.xml"_s,
+        "<?xml version='1.0' encoding='ISO-8859-1'?>\n" + changed(BROKEN_CATALOGUE, "8,5 ", "\xe4"),
+        "<?xml version='1.0' encoding='ISO-8859-1'?>\n" + changed(MENDED_CATALOGUE, "8,5 ", "\xe4"));
+    row("UTF-16", u"b.xml"_s, utf16(BROKEN_CATALOGUE), utf16(MENDED_CATALOGUE));
+    row("blank in the name", u"b c.xml"_s, BROKEN_CATALOGUE, MENDED_CATALOGUE);
+    row("letters in the name", u"Bücher.xml"_s, BROKEN_CATALOGUE, MENDED_CATALOGUE);
+    row("quote in the name", u"\"b\".xml"_s, BROKEN_CATALOGUE, MENDED_CATALOGUE);
+    row("backslash in the name", u"b\\c.xml"_s, BROKEN_CATALOGUE, MENDED_CATALOGUE);
+    row("line end in the name", u"b\nc.xml"_s, BROKEN_CATALOGUE, MENDED_CATALOGUE);
+    row("hyphen before the name", u"-b.xml"_s, BROKEN_CATALOGUE, MENDED_CATALOGUE);
+}
+
+// The programs that read differences make of the old file the same as --fix does.
+void tst_fix_patches::patches()
+{
+    QFETCH(QString, name);
+    QFETCH(QByteArray, before);
+    QFETCH(QByteArray, after);
+    write(name, before);
+    const QByteArray diff = outputOf({ u"--diff"_s, u"--"_s, name });
+    QVERIFY(diff.contains("\n@@ "));
+
+    QCOMPARE(exitCode(QStringLiteral(GIT), { u"apply"_s, u"-p0"_s }, diff), 0);
+    QCOMPARE(read(name), after);
+
+    write(name, before);
+    QCOMPARE(exitCode(QStringLiteral(PATCH), { u"--binary"_s, u"-p0"_s }, diff), 0);
+    QCOMPARE(read(name), after);
+
+    write(name, before);
+    outputOf({ u"--fix"_s, u"--"_s, name });
+    QCOMPARE(read(name), after);
+}
+
+QTEST_GUILESS_MAIN(tst_fix_patches)
+#include "tst_fix_patches.moc"
