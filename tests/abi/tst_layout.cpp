@@ -10,6 +10,8 @@
 #include <RVCatalogue/RVCatalogueProject.h>
 #include <RVCatalogue/RVCatalogueReader.h>
 #include <RVCatalogue/RVCatalogueRule.h>
+#include <RVCatalogue/RVFileEdit.h>
+#include <RVCatalogue/RVFileEditor.h>
 #include <RVCatalogue/RVFilePosition.h>
 #include <RVCatalogue/RVFileRange.h>
 #include <RVCatalogue/RVNearestText.h>
@@ -170,6 +172,8 @@ void tst_layout::sizes_data()
     row<RVCatalogueReader>("RVCatalogueReader", 8, 8);
     row<RVCatalogueReader::Iterator>("RVCatalogueReader::Iterator", 16, 8);
     row<RVCatalogueRule>("RVCatalogueRule", 8, 8);
+    row<RVFileEdit>("RVFileEdit", 56, 8);
+    row<RVFileEditor>("RVFileEditor", 8, 8);
     row<RVFilePosition>("RVFilePosition", 16, 8);
     row<RVFileRange>("RVFileRange", 32, 8);
     row<RVNearestText>("RVNearestText", 56, 8);

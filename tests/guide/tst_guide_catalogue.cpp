@@ -6,8 +6,11 @@
 #include <RVCatalogue/RVCatalogueProduct.h>
 #include <RVCatalogue/RVCatalogueReader.h>
 #include <RVCatalogue/RVCatalogueRule.h>
+#include <RVCatalogue/RVFileEditor.h>
 
 #include <QBuffer>
+#include <QFile>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -26,6 +29,8 @@ private Q_SLOTS:
     void everyCore();
     void check();
     void rules();
+    void mend();
+    void apply();
     void error();
 };
 
@@ -175,6 +180,40 @@ void tst_guide_catalogue::rules()
     QCOMPARE(reader.findings().constFirst().rule().name(), "products-missing"_L1);
     //! [rules]
     QVERIFY(!check.isEnabled(RVCatalogueRule::find(u"keyword-legacy")));
+}
+
+void tst_guide_catalogue::mend()
+{
+    const QTemporaryDir folder;
+    const QString fileName = folder.filePath(u"products.xml"_s);
+    QFile file(fileName);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    file.write("<product type='KAL2' article_id='1020' cover_type='hardcovr'/>");
+    file.close();
+    //! [mend]
+    RVFileEditor editor(fileName);
+    RVCatalogueReader reader(fileName);
+    reader.setCheck(RVCatalogueCheck());
+    for (const RVCatalogueProduct &product : reader) {
+        for (const RVCatalogueFinding &finding : product.findings())
+            editor.add(finding.fix());
+    }
+    QVERIFY2(editor.save(), qPrintable(editor.errorString()));
+    //! [mend]
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("<product type='KAL2' article_id='1020' cover_type='hardcover'/>"));
+}
+
+void tst_guide_catalogue::apply()
+{
+    //! [apply]
+    const RVFileRange comma { { 1, 25 }, { 1, 26 } };
+    RVFileEditor editor;
+    QVERIFY(editor.add({ { comma, u"."_s } }));
+
+    QCOMPARE(editor.apply("<spine base_width   = '8,5'/>"), QByteArray("<spine base_width   = '8.5'/>"));
+    QCOMPARE(editor.count(), 1);
+    //! [apply]
 }
 
 void tst_guide_catalogue::error()
