@@ -219,7 +219,7 @@ private:
     bool writeBytes(const QByteArray &bytes, QIODevice *to);
     bool writePending(QIODevice *to);
     bool readBack(QIODevice *to);
-    bool replace(const QString &target, QTemporaryFile *file);
+    bool replace(const QString &target, QFile *from, QTemporaryFile *to);
 
     QByteArray myEncoding; // as iconv knows it; empty for UTF-8
     qint64 myMarkSize = 0;
@@ -387,21 +387,21 @@ bool RVFileEditorPrivate::save()
     // The editor has a buffer of its own, which loses no reason of an error.
     if (!static_cast<QIODevice &>(to).open(QIODevice::ReadWrite | QIODevice::Unbuffered))
         return fail(tr("cannot write a new file beside the old one: %1").arg(to.errorString()));
-    return apply(&from, &to) && replace(target.filePath(), &to);
+    return apply(&from, &to) && replace(target.filePath(), &from, &to);
 }
 
 // The new file is complete on the disk before it gets the name of the old one.
-bool RVFileEditorPrivate::replace(const QString &target, QTemporaryFile *file)
+bool RVFileEditorPrivate::replace(const QString &target, QFile *from, QTemporaryFile *to)
 {
-    stamp.giveAccess(file->handle());
-    if (::fsync(file->handle()) != 0)
+    stamp.giveAccess(from->handle(), to->handle());
+    if (::fsync(to->handle()) != 0)
         return fail(tr("cannot write: %1").arg(qt_error_string(errno)));
     if (RVFileStamp(fileName) != stamp)
         return fail(tr("the file was changed meanwhile; check it again"));
-    const QByteArray newName = QFile::encodeName(file->fileName());
+    const QByteArray newName = QFile::encodeName(to->fileName());
     if (std::rename(newName.constData(), QFile::encodeName(target).constData()) != 0)
         return fail(tr("cannot write: %1").arg(qt_error_string(errno)));
-    file->setAutoRemove(false);
+    to->setAutoRemove(false);
     return true;
 }
 

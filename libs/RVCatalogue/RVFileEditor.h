@@ -56,8 +56,9 @@ public:
     qsizetype leftOut() const;
 
     /// Replaces the file at once: who opens it gets the old one or the new one, also when the program or the machine
-    /// goes down or the disk is full. Permissions stay, and where the program may set them owner and group. A symbolic
-    /// link stays one; of hard links only this name gets the new text. Without fixes nothing is written.
+    /// goes down or the disk is full. Permissions stay, and where the program may set them owner, group and extended
+    /// attributes. A symbolic link stays one; of hard links only this name gets the new text. Without fixes nothing is
+    /// written.
     ///
     /// False where the file is not an ordinary one, is write-protected or was changed, or cannot be written beside.
     bool save();

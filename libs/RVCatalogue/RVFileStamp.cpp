@@ -1,12 +1,35 @@
 #include "RVFileStamp_p.h"
 
+#include <QByteArray>
 #include <QFile>
+#include <QList>
 
+#include <sys/xattr.h>
 #include <unistd.h>
+
+#include <cstddef>
 
 namespace {
 
 constexpr mode_t PERMISSIONS = 07777;
+
+QByteArray extendedAttribute(int descriptor, const QByteArray &name)
+{
+    QByteArray value(qMax(ssize_t(0), ::fgetxattr(descriptor, name.constData(), nullptr, 0)), '\0');
+    const ssize_t size = ::fgetxattr(descriptor, name.constData(), value.data(), std::size_t(value.size()));
+    return size < 0 ? QByteArray() : value.first(size);
+}
+
+void copyExtendedAttributes(int from, int to)
+{
+    QByteArray names(qMax(ssize_t(0), ::flistxattr(from, nullptr, 0)), '\0');
+    names.truncate(qMax(ssize_t(0), ::flistxattr(from, names.data(), std::size_t(names.size()))));
+    for (const QByteArray &name : names.split('\0')) {
+        const QByteArray value = extendedAttribute(from, name);
+        if (!value.isEmpty())
+            ::fsetxattr(to, name.constData(), value.constData(), std::size_t(value.size()), 0);
+    }
+}
 
 }
 
@@ -29,11 +52,12 @@ bool RVFileStamp::isOrdinary() const
 
 // The owner goes first, since a new one takes some permissions away. Who may not give the file away may still give it
 // to another group of his.
-void RVFileStamp::giveAccess(int descriptor) const
+void RVFileStamp::giveAccess(int from, int to) const
 {
-    if (::fchown(descriptor, myState.st_uid, myState.st_gid) != 0) {
-        const bool hasGroup = ::fchown(descriptor, uid_t(-1), myState.st_gid) == 0;
+    if (::fchown(to, myState.st_uid, myState.st_gid) != 0) {
+        const bool hasGroup = ::fchown(to, uid_t(-1), myState.st_gid) == 0;
         Q_UNUSED(hasGroup)
     }
-    ::fchmod(descriptor, myState.st_mode & PERMISSIONS);
+    ::fchmod(to, myState.st_mode & PERMISSIONS);
+    copyExtendedAttributes(from, to);
 }

@@ -15,8 +15,9 @@ public:
     explicit RVFileStamp(int descriptor);
 
     bool isOrdinary() const; ///< False for folders, pipes and devices, and for no file.
-    /// Gives an open file the owner, the group and the permissions of this one, as far as the program may.
-    void giveAccess(int descriptor) const;
+    /// Gives the file @p to owner, group, permissions and extended attributes, which access control lists are, of this
+    /// one, which is open as @p from; as far as the program may and the file system can.
+    void giveAccess(int from, int to) const;
 
     friend bool operator==(const RVFileStamp &a, const RVFileStamp &b)
     {

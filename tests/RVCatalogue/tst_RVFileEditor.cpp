@@ -11,6 +11,7 @@
 #include <QTest>
 
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -158,6 +159,7 @@ private Q_SLOTS:
     void saveWithoutFixes();
     void savePermissions();
     void saveOwner();
+    void saveExtendedAttributes();
     void saveThroughLink();
     void saveOneOfHardLinks();
     void saveLongName();
@@ -558,6 +560,23 @@ void tst_RVFileEditor::saveOwner()
     QCOMPARE(::stat(QFile::encodeName(path).constData(), &state), 0);
     QCOMPARE(state.st_uid, owner);
     QCOMPARE(state.st_gid, group);
+}
+
+// Where the file system has none, the file has none before and behind.
+void tst_RVFileEditor::saveExtendedAttributes()
+{
+    const QByteArray path = QFile::encodeName(write(u"a.xml"_s, "<a b='1'/>"));
+    const auto attribute = [&path] {
+        QByteArray value(100, '\0');
+        const ssize_t size = ::getxattr(path.constData(), "user.proof", value.data(), std::size_t(value.size()));
+        return value.first(qMax(ssize_t(0), size));
+    };
+    ::setxattr(path.constData(), "user.proof", "read", 4, 0);
+    const QByteArray before = attribute();
+    RVFileEditor editor(QFile::decodeName(path));
+    QVERIFY(editor.add({ edit(7, 8, u"2"_s) }));
+    QVERIFY2(editor.save(), qPrintable(editor.errorString()));
+    QCOMPARE(attribute(), before);
 }
 
 void tst_RVFileEditor::saveThroughLink()
