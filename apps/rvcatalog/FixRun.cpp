@@ -10,6 +10,8 @@
 #include <QFile>
 #include <QTextStream>
 
+#include <unistd.h>
+
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -65,8 +67,9 @@ int FixRun::diff()
 bool FixRun::mendFile(const QString &fileName)
 {
     RVFileEditor editor(fileName);
+    RVCatalogueReader reader(fileName);
     qint64 findings = 0;
-    if (collect(fileName, fileName, &editor, &findings) || editor.count() == 0)
+    if (collect(&reader, fileName, &editor, &findings) || editor.count() == 0)
         return true;
     if (!editor.save())
         return fail(fileName, { RVFilePosition(), editor.errorString() });
@@ -81,10 +84,12 @@ bool FixRun::mendInput()
     if (!copyInput())
         return false;
     RVFileEditor editor;
+    RVCatalogueReader reader(myInputCopy.get());
     qint64 findings = 0;
-    const std::optional<Problem> problem = collect(myInputCopy->fileName(), u"-"_s, &editor, &findings);
+    const std::optional<Problem> problem = collect(&reader, u"-"_s, &editor, &findings);
     const bool isDone = problem || writeMended(&editor, findings);
-    myInput.reset(std::fopen(QFile::encodeName(myInputCopy->fileName()).constData(), "rb"));
+    myInputCopy->seek(0);
+    myInput.reset(::fdopen(::dup(myInputCopy->handle()), "rb"));
     myConsole->input = myInput ? myInput.get() : myConsole->input;
     myConsole->output = myConsole->messages;
     return isDone;
@@ -114,8 +119,9 @@ bool FixRun::diffFile(const QString &fileName, bool *isChanged)
         return false;
     const QString path = isInput(fileName) ? myInputCopy->fileName() : fileName;
     RVFileEditor editor;
+    RVCatalogueReader reader(path);
     qint64 findings = 0;
-    if (const std::optional<Problem> problem = collect(path, fileName, &editor, &findings))
+    if (const std::optional<Problem> problem = collect(&reader, fileName, &editor, &findings))
         return fail(fileName, *problem);
     if (editor.count() == 0)
         return true;
@@ -131,22 +137,22 @@ bool FixRun::diffFile(const QString &fileName, bool *isChanged)
 }
 
 /// Adds what mends the findings in a file. Returns the problem where it cannot be read.
-std::optional<Problem> FixRun::collect(const QString &path, const QString &fileName, RVFileEditor *editor,
+std::optional<Problem> FixRun::collect(RVCatalogueReader *reader, const QString &fileName, RVFileEditor *editor,
                                        qint64 *findings)
 {
-    RVCatalogueReader reader(path);
-    reader.setCheck(myOptions.check);
+    reader->setCheck(myOptions.check);
+    const qint64 size = reader->size();
     const auto add = [&](const QList<RVCatalogueFinding> &found) {
         *findings += found.size();
         for (const RVCatalogueFinding &finding : found)
             editor->add(finding.fix());
-        myProgressBar.show(fileName, reader.bytesRead(), reader.size());
+        myProgressBar.show(fileName, reader->bytesRead(), size);
         return true;
     };
-    reader.map(findingsOf, add);
-    add(reader.findings());
-    if (reader.hasError())
-        return Problem { reader.errorPosition(), reader.errorString() };
+    reader->map(findingsOf, add);
+    add(reader->findings());
+    if (reader->hasError())
+        return Problem { reader->errorPosition(), reader->errorString() };
     return std::nullopt;
 }
 
@@ -161,7 +167,7 @@ bool FixRun::copyInput()
             break;
         isWritten = myInputCopy->write(piece) == piece.size();
     }
-    if (isWritten && myInputCopy->flush())
+    if (isWritten && myInputCopy->flush() && myInputCopy->seek(0))
         return true;
     return fail(u"-"_s, { RVFilePosition(), u"cannot write: "_s + myInputCopy->errorString() });
 }

@@ -10,6 +10,7 @@
 #include <memory>
 #include <optional>
 
+class RVCatalogueReader;
 class RVFileEditor;
 struct CheckOptions;
 
@@ -40,7 +41,7 @@ private:
     bool mendInput();
     bool writeMended(RVFileEditor *editor, qint64 findings);
     bool diffFile(const QString &fileName, bool *isChanged);
-    std::optional<Problem> collect(const QString &path, const QString &fileName, RVFileEditor *editor,
+    std::optional<Problem> collect(RVCatalogueReader *reader, const QString &fileName, RVFileEditor *editor,
                                    qint64 *findings);
     bool copyInput();
     bool fail(const QString &fileName, const Problem &problem);
