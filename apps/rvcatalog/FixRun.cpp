@@ -12,6 +12,7 @@
 
 #include <unistd.h>
 
+#include <cerrno>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -88,11 +89,21 @@ bool FixRun::mendInput()
     qint64 findings = 0;
     const std::optional<Problem> problem = collect(&reader, u"-"_s, &editor, &findings);
     const bool isDone = problem || writeMended(&editor, findings);
-    myInputCopy->seek(0);
-    myInput.reset(::fdopen(::dup(myInputCopy->handle()), "rb"));
-    myConsole->input = myInput ? myInput.get() : myConsole->input;
     myConsole->output = myConsole->messages;
-    return isDone;
+    return readCopy() && isDone;
+}
+
+/// Gives the copy to the console as its input.
+bool FixRun::readCopy()
+{
+    myInputCopy->seek(0);
+    const int descriptor = ::dup(myInputCopy->handle());
+    if (descriptor >= 0)
+        myInput.reset(::fdopen(descriptor, "rb"));
+    if (!myInput)
+        return fail(u"-"_s, { RVFilePosition(), u"cannot read on: "_s + qt_error_string(errno) });
+    myConsole->input = myInput.get();
+    return true;
 }
 
 /// Writes the copy of the input to the output with the edits, and makes that the copy.

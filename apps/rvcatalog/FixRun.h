@@ -39,6 +39,7 @@ private:
 
     bool mendFile(const QString &fileName);
     bool mendInput();
+    bool readCopy();
     bool writeMended(RVFileEditor *editor, qint64 findings);
     bool diffFile(const QString &fileName, bool *isChanged);
     std::optional<Problem> collect(RVCatalogueReader *reader, const QString &fileName, RVFileEditor *editor,
