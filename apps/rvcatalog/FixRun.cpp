@@ -8,6 +8,7 @@
 #include <RVFileEditor.h>
 
 #include <QFile>
+#include <QFileInfo>
 #include <QTextStream>
 
 #include <unistd.h>
@@ -24,6 +25,13 @@ constexpr qint64 PIECE = qint64(64) * 1024;
 bool isInput(const QString &fileName)
 {
     return fileName == "-"_L1;
+}
+
+/// True for pipes and devices, which can be read only once and not be replaced.
+bool isSpecial(const QString &fileName)
+{
+    const QFileInfo file(fileName);
+    return file.exists() && !file.isFile() && !file.isDir();
 }
 
 QList<RVCatalogueFinding> findingsOf(const QList<RVCatalogueProduct> &products)
@@ -67,6 +75,8 @@ int FixRun::diff()
 
 bool FixRun::mendFile(const QString &fileName)
 {
+    if (isSpecial(fileName))
+        return fail(fileName, { RVFilePosition(), u"this is no ordinary file"_s });
     RVFileEditor editor(fileName);
     RVCatalogueReader reader(fileName);
     qint64 findings = 0;
@@ -128,6 +138,8 @@ bool FixRun::diffFile(const QString &fileName, bool *isChanged)
 {
     if (isInput(fileName) && !myInputCopy && !copyInput())
         return false;
+    if (!isInput(fileName) && isSpecial(fileName))
+        return fail(fileName, { RVFilePosition(), u"this is no ordinary file"_s });
     const QString path = isInput(fileName) ? myInputCopy->fileName() : fileName;
     RVFileEditor editor;
     RVCatalogueReader reader(path);

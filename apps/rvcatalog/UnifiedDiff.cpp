@@ -1,5 +1,6 @@
 #include "UnifiedDiff.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QProcess>
 
@@ -8,6 +9,14 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// The path from where the program runs, as far as it is below: other programs refuse the others.
+QString relative(const QString &name)
+{
+    const QDir folder = QDir::current();
+    const QString below = folder.relativeFilePath(QDir::cleanPath(folder.absoluteFilePath(name)));
+    return below.startsWith("../"_L1) ? QDir::cleanPath(name) : below;
+}
 
 /// The name such that "patch" and "git apply" read it: with a tabulator behind it where it has blanks, and in quotes
 /// where it has letters that would end the line or the name.
@@ -36,7 +45,7 @@ void pass(const QByteArray &bytes, const Console &console)
 UnifiedDiff::UnifiedDiff(const QString &oldPath, const QString &newPath, const QString &shownName)
     : myOldPath(QFileInfo(oldPath).absoluteFilePath()),
       myNewPath(QFileInfo(newPath).absoluteFilePath()),
-      myLabel(labelOf(shownName))
+      myLabel(labelOf(relative(shownName)))
 { }
 
 QString UnifiedDiff::write(const Console &console) const

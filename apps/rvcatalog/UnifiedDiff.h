@@ -10,7 +10,7 @@
 class UnifiedDiff
 {
 public:
-    /// Both paths lead to files that can be read; the diff calls them by one name.
+    /// Both paths lead to files that can be read; the diff calls them by one name, a path from where the program runs.
     UnifiedDiff(const QString &oldPath, const QString &newPath, const QString &shownName);
 
     /// Returns the reason where that is impossible; empty otherwise.

@@ -155,6 +155,8 @@ private Q_SLOTS:
     void unreadableInput();
     void unreadable_data();
     void unreadable();
+    void quiet();
+    void pipe();
     void symbolicLink();
     void fullOutput();
     void fullDisk();
@@ -164,6 +166,8 @@ private Q_SLOTS:
     void random_data();
     void random();
     void diff();
+    void diffNames_data();
+    void diffNames();
     void diffOfInput();
     void diffOfNothing();
     void diffOfSeveralFiles();
@@ -353,6 +357,32 @@ void tst_fix::unreadable()
     QCOMPARE(names(), QStringList { u"a.xml"_s });
 }
 
+void tst_fix::quiet()
+{
+    for (const QString &option : { u"--diff"_s, u"--fix"_s }) {
+        const Run run = check({ option, u"--quiet"_s, u"a.xml"_s });
+        QCOMPARE(run.output, QByteArray());
+        QCOMPARE(run.messages, QString());
+        QCOMPARE(run.exitCode, 1);
+    }
+    QCOMPARE(read(u"a.xml"_s), QByteArray(MENDED_CATALOGUE));
+    QCOMPARE(check({ u"--diff"_s, u"--quiet"_s, u"a.xml"_s }).exitCode, 0);
+}
+
+// It is left to the check, as it could not be read again.
+void tst_fix::pipe()
+{
+    const Run mended = check({ u"--fix"_s, u"/dev/stdin"_s }, BROKEN_CATALOGUE);
+    QCOMPARE(mended.messages, u"/dev/stdin:1:1: error: this is no ordinary file\n"_s);
+    QVERIFY(mended.output.endsWith("\n2 products in 1 file: 2 errors, 0 warnings, 1 note\n"));
+    QCOMPARE(mended.exitCode, 2);
+
+    const Run diff = check({ u"--diff"_s, u"/dev/stdin"_s }, BROKEN_CATALOGUE);
+    QCOMPARE(diff.messages, u"/dev/stdin:1:1: error: this is no ordinary file\n"_s);
+    QCOMPARE(diff.output, QByteArray());
+    QCOMPARE(diff.exitCode, 2);
+}
+
 void tst_fix::symbolicLink()
 {
     QVERIFY(QFile::link(u"a.xml"_s, myFolder->filePath(u"link.xml"_s)));
@@ -468,6 +498,32 @@ void tst_fix::diff()
         QCOMPARE(run.exitCode, 1);
         QCOMPARE(read(u"a.xml"_s), QByteArray(BROKEN_CATALOGUE));
     }
+}
+
+void tst_fix::diffNames_data()
+{
+    QTest::addColumn<QString>("argument");
+    QTest::addColumn<QString>("shownName");
+
+    QTest::newRow("in this folder") << u"./b.xml"_s << u"b.xml"_s;
+    QTest::newRow("by a way around") << u"d/..//b.xml"_s << u"b.xml"_s;
+    QTest::newRow("in another folder") << u"d/c.xml"_s << u"d/c.xml"_s;
+    QTest::newRow("from the root") << u"%1/d/c.xml"_s << u"d/c.xml"_s;
+    QTest::newRow("above") << u"../%2/d/../b.xml"_s << u"b.xml"_s;
+}
+
+// Other programs find the file by its name, from the same folder.
+void tst_fix::diffNames()
+{
+    QFETCH(QString, argument);
+    QFETCH(QString, shownName);
+    QVERIFY(QDir(myFolder->path()).mkdir(u"d"_s));
+    write(u"b.xml"_s, BROKEN_CATALOGUE);
+    write(u"d/c.xml"_s, BROKEN_CATALOGUE);
+    const QDir folder(QDir(myFolder->path()).canonicalPath());
+    argument.replace(u"%1"_s, folder.path()).replace(u"%2"_s, folder.dirName());
+    const QByteArray output = check({ u"--diff"_s, argument }).output;
+    QCOMPARE(output, QByteArray(DIFF).replace("a.xml", shownName.toUtf8()));
 }
 
 void tst_fix::diffOfInput()
