@@ -155,6 +155,8 @@ bool FixRun::diffFile(const QString &fileName, bool *isChanged)
     if (!editor.apply(&from, &to))
         return fail(fileName, { RVFilePosition(), editor.errorString() });
     *isChanged = true;
+    if (myOptions.isQuiet)
+        return true;
     const QString error = UnifiedDiff(path, to.fileName(), fileName).write(*myConsole);
     return error.isEmpty() || fail(fileName, { RVFilePosition(), error });
 }
@@ -164,6 +166,8 @@ std::optional<Problem> FixRun::collect(RVCatalogueReader *reader, const QString 
                                        qint64 *findings)
 {
     reader->setCheck(myOptions.check);
+    if (myOptions.threads > 0)
+        reader->setThreadCount(myOptions.threads);
     const qint64 size = reader->size();
     const auto add = [&](const QList<RVCatalogueFinding> &found) {
         *findings += found.size();
@@ -206,6 +210,8 @@ bool FixRun::fail(const QString &fileName, const Problem &problem)
 void FixRun::tellMended(const QString &fileName, const RVFileEditor &editor, qint64 findings)
 {
     myProgressBar.hide();
+    if (myOptions.isQuiet)
+        return;
     QTextStream out(myConsole->messages);
     out << "mended " << editor.count() << " of " << findings << (findings == 1 ? " finding" : " findings") << " in "
         << fileName;
