@@ -15,10 +15,9 @@ constexpr int FOREVER = -1;
 bool hasInput(int descriptor, int milliseconds)
 {
     pollfd inputs[] = { { descriptor, POLLIN, 0 }, { Interruption::descriptor(), POLLIN, 0 } };
-    int ready = 0;
-    do {
+    int ready = ::poll(inputs, std::size(inputs), milliseconds);
+    while (ready < 0 && errno == EINTR)
         ready = ::poll(inputs, std::size(inputs), milliseconds);
-    } while (ready < 0 && errno == EINTR);
     return ready != 0;
 }
 
@@ -49,15 +48,19 @@ qint64 PipeInput::readData(char *data, qint64 size)
 {
     if (size == 0)
         return 0;
-    qint64 result = 0;
-    do {
-        hasInput(myDescriptor, FOREVER);
-        result = Interruption::signal() == 0 ? ::read(myDescriptor, data, std::size_t(size)) : 0;
-    } while (result < 0 && (errno == EINTR || errno == EAGAIN));
+    qint64 result = readOnce(data, size);
+    while (result < 0 && (errno == EINTR || errno == EAGAIN))
+        result = readOnce(data, size);
     if (result < 0)
         setErrorString(qt_error_string(errno));
     myIsAtEnd = result == 0;
     return result;
+}
+
+qint64 PipeInput::readOnce(char *data, qint64 size) const
+{
+    hasInput(myDescriptor, FOREVER);
+    return Interruption::signal() == 0 ? ::read(myDescriptor, data, std::size_t(size)) : 0;
 }
 
 qint64 PipeInput::writeData(const char *, qint64)

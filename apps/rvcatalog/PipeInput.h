@@ -26,6 +26,8 @@ protected:
     qint64 writeData(const char *data, qint64 size) override;
 
 private:
+    qint64 readOnce(char *data, qint64 size) const;
+
     int myDescriptor;
     Ownership myOwnership;
     bool myIsAtEnd = false;

@@ -6,11 +6,12 @@
 #include <QLoggingCategory>
 #include <QTranslator>
 
-#include <fcntl.h>
 #include <langinfo.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <clocale>
+#include <cstdio>
 #include <cstring>
 
 using namespace Qt::StringLiterals;
@@ -40,8 +41,10 @@ void useUtf8()
 // read.
 void keepInputApart()
 {
-    if (::fcntl(STDIN_FILENO, F_GETFD) < 0)
-        ::open("/dev/null", O_WRONLY);
+    struct stat status = {};
+    if (::fstat(STDIN_FILENO, &status) == 0)
+        return;
+    [[maybe_unused]] auto *const apart = std::freopen("/dev/null", "w", stdin);
 }
 
 // Display names are in the user's language where there is a translation, else in German, the language of the catalogue.
