@@ -1,7 +1,9 @@
 #include "RVCatalogueReader.h"
 
+#include "RVCatalogueFileSet.h"
 #include "RVCatalogueParser_p.h"
 #include "RVDuplicates_p.h"
+#include "RVFindingReport_p.h"
 #include "RVXmlScanner_p.h"
 
 #include <QCoreApplication>
@@ -146,11 +148,8 @@ public:
     }
     explicit RVCatalogueReaderPrivate(QIODevice *device) : myDevice(device) { }
 
-    void setCheck(const RVCatalogueCheck &check)
-    {
-        myCheck = check;
-        myDuplicates = std::make_unique<RVDuplicates>(check);
-    }
+    /// Without @p files the file is checked alone.
+    void setCheck(const RVCatalogueCheck &check, RVCatalogueFileSet *files, const QString &fileName);
 
     /// True when a product follows.
     bool fill();
@@ -159,7 +158,7 @@ public:
     RVCatalogueProduct next();
     /// Gives the products their findings, which may be done on any thread.
     void check(const QList<RVCatalogueProduct> &products) const;
-    QList<RVCatalogueFinding> findings() const;
+    QList<RVCatalogueFinding> findings();
 
     QString errorString() const;
     RVFilePosition errorPosition() const { return myScanner.errorPosition(); }
@@ -168,7 +167,10 @@ public:
 
 private:
     bool isExhausted() const { return myNext == myProducts.size(); }
+    bool scan();
+    bool isMissing() const;
     void findDuplicates(const RVCatalogueProduct &product);
+    void check(const RVCatalogueProduct &product) const;
 
     QFile myFile;
     QIODevice *myDevice;
@@ -176,22 +178,40 @@ private:
     RVCatalogueParser myParser;
     RVXmlScanner myScanner { myDevice, &myParser };
     std::optional<RVCatalogueCheck> myCheck;
-    std::unique_ptr<RVDuplicates> myDuplicates;
+    std::unique_ptr<RVCatalogueFileSet> myOwnFiles; // none where the file is checked with others
+    RVDuplicates *myDuplicates = nullptr;
+    QString myFileName; // for findings in other files
+    bool myIsFileBegun = false; // of the duplicates
     QList<RVCatalogueProduct> myProducts; // that were parsed
     qsizetype myNext = 0; // the first of them that was not handed out
     bool myHasProducts = false;
 };
 
+void RVCatalogueReaderPrivate::setCheck(const RVCatalogueCheck &check, RVCatalogueFileSet *files,
+                                        const QString &fileName)
+{
+    myOwnFiles = files ? nullptr : std::make_unique<RVCatalogueFileSet>();
+    myDuplicates = (files ? files : myOwnFiles.get())->d.get();
+    myFileName = fileName.isNull() ? myFile.fileName() : fileName;
+    myCheck = check;
+}
+
 bool RVCatalogueReaderPrivate::fill()
 {
     bool goesOn = myOpenError.isEmpty();
-    while (isExhausted() && goesOn) {
-        goesOn = myScanner.scan();
-        myProducts = myParser.take();
-        myNext = 0;
-    }
+    while (isExhausted() && goesOn)
+        goesOn = scan();
     myHasProducts = myHasProducts || !isExhausted();
     return !isExhausted();
+}
+
+/// False when there is nothing more to parse.
+bool RVCatalogueReaderPrivate::scan()
+{
+    const bool goesOn = myScanner.scan();
+    myProducts = myParser.take();
+    myNext = 0;
+    return goesOn;
 }
 
 QList<RVCatalogueProduct> RVCatalogueReaderPrivate::read()
@@ -220,31 +240,44 @@ RVCatalogueProduct RVCatalogueReaderPrivate::next()
 // Types and article ids come twice in the order of the file, so this is done before the products go their ways.
 void RVCatalogueReaderPrivate::findDuplicates(const RVCatalogueProduct &product)
 {
-    if (myDuplicates)
-        product.d->findings = myDuplicates->findings(product);
+    if (!myCheck)
+        return;
+    if (!std::exchange(myIsFileBegun, true))
+        myDuplicates->beginFile(myFileName);
+    product.d->findings = myDuplicates->findings(*myCheck, product);
 }
 
 void RVCatalogueReaderPrivate::check(const QList<RVCatalogueProduct> &products) const
 {
     if (!myCheck)
         return;
-    for (const RVCatalogueProduct &product : products) {
-        QList<RVCatalogueFinding> &findings = product.d->findings;
-        findings += myCheck->findings(product);
-        std::stable_sort(findings.begin(), findings.end(),
-                         [](const RVCatalogueFinding &a, const RVCatalogueFinding &b) {
-                             return a.range().begin < b.range().begin;
-                         });
-    }
+    for (const RVCatalogueProduct &product : products)
+        check(product);
 }
 
-QList<RVCatalogueFinding> RVCatalogueReaderPrivate::findings() const
+void RVCatalogueReaderPrivate::check(const RVCatalogueProduct &product) const
 {
-    const RVCatalogueRule rule = RVCatalogueRule::find(u"products-missing");
-    const bool isMissing = myScanner.isAtEnd() && errorString().isEmpty() && !myHasProducts;
-    if (!isMissing || !myCheck || !myCheck->isEnabled(rule))
+    QList<RVCatalogueFinding> &findings = product.d->findings;
+    findings += myCheck->findings(product);
+    rvSort(&findings);
+}
+
+QList<RVCatalogueFinding> RVCatalogueReaderPrivate::findings()
+{
+    if (!myCheck)
         return {};
-    return { RVCatalogueFinding(rule, RVFileRange(), tr("there is no product in this file")) };
+    const RVCatalogueRule rule = RVCatalogueRuleRow::rule(RVCatalogueRuleId::ProductsMissing);
+    QList<RVCatalogueFinding> result;
+    if (isMissing() && myCheck->isEnabled(rule)) {
+        result += RVCatalogueFinding(rule, RVFileRange(), tr("there is no product in this file"));
+        result.last().setSeverity(myCheck->severity(rule));
+    }
+    return result;
+}
+
+bool RVCatalogueReaderPrivate::isMissing() const
+{
+    return myScanner.isAtEnd() && errorString().isEmpty() && !myHasProducts;
 }
 
 // An error stands behind the products that were parsed before it.
@@ -264,7 +297,12 @@ RVCatalogueReader::~RVCatalogueReader() = default;
 
 void RVCatalogueReader::setCheck(const RVCatalogueCheck &check)
 {
-    d->setCheck(check);
+    d->setCheck(check, nullptr, QString());
+}
+
+void RVCatalogueReader::setCheck(const RVCatalogueCheck &check, RVCatalogueFileSet *files, const QString &fileName)
+{
+    d->setCheck(check, files, fileName);
 }
 
 RVCatalogueProduct RVCatalogueReader::next()
