@@ -1,6 +1,9 @@
 #include "CatalogueFile.h"
+#include "DistinctFiles.h"
 #include "FindingWriter.h"
 #include "SubCommands.h"
+
+#include <RVCatalogueFileSet.h>
 
 #include <QCommandLineParser>
 #include <QElapsedTimer>
@@ -99,7 +102,7 @@ public:
         ++mySummary.files;
         CatalogueFile file(fileName, myConsole);
         RVCatalogueReader &reader = file.reader();
-        reader.setCheck(myCheck);
+        reader.setCheck(myCheck, &myFiles, fileName);
         const qint64 size = reader.size();
         reader.map(findingsOf, [&](const CheckedProducts &checked) {
             mySummary.products += checked.count;
@@ -163,6 +166,7 @@ private:
 
     FindingWriter *myWriter;
     RVCatalogueCheck myCheck;
+    RVCatalogueFileSet myFiles;
     const Console &myConsole;
     CheckSummary mySummary;
     ProgressBar myProgressBar;
@@ -204,7 +208,7 @@ int checkFiles(const QStringList &fileNames, const QString &format, const QStrin
         return refuseArguments(command, u"expected at least 1 argument, got 0"_s, console);
     CheckRun run(writer.get(), check, console);
     writer->begin();
-    for (const QString &fileName : fileNames)
+    for (const QString &fileName : distinctFiles(fileNames, console))
         run.check(fileName);
     return run.end();
 }
