@@ -4,6 +4,8 @@
 #include "RVCatalogueParser_p.h"
 #include "RVDuplicates_p.h"
 #include "RVFindingReport_p.h"
+#include "RVGroupSilence_p.h"
+#include "RVSilencer_p.h"
 #include "RVXmlScanner_p.h"
 
 #include <QCoreApplication>
@@ -168,6 +170,7 @@ public:
 private:
     bool isExhausted() const { return myNext == myProducts.size(); }
     bool scan();
+    void judgeGroups();
     bool isMissing() const;
     void findDuplicates(const RVCatalogueProduct &product);
     void check(const RVCatalogueProduct &product) const;
@@ -178,6 +181,7 @@ private:
     RVCatalogueParser myParser;
     RVXmlScanner myScanner { myDevice, &myParser };
     std::optional<RVCatalogueCheck> myCheck;
+    std::optional<RVGroupSilence> myGroupSilence;
     std::unique_ptr<RVCatalogueFileSet> myOwnFiles; // none where the file is checked with others
     RVDuplicates *myDuplicates = nullptr;
     QString myFileName; // for findings in other files
@@ -194,6 +198,7 @@ void RVCatalogueReaderPrivate::setCheck(const RVCatalogueCheck &check, RVCatalog
     myDuplicates = (files ? files : myOwnFiles.get())->d.get();
     myFileName = fileName.isNull() ? myFile.fileName() : fileName;
     myCheck = check;
+    myGroupSilence.emplace(check);
 }
 
 bool RVCatalogueReaderPrivate::fill()
@@ -209,9 +214,19 @@ bool RVCatalogueReaderPrivate::fill()
 bool RVCatalogueReaderPrivate::scan()
 {
     const bool goesOn = myScanner.scan();
+    if (!goesOn && myScanner.errorString().isEmpty())
+        myParser.end();
     myProducts = myParser.take();
     myNext = 0;
+    judgeGroups();
     return goesOn;
+}
+
+void RVCatalogueReaderPrivate::judgeGroups()
+{
+    const std::vector<RVSuppressionScope::Pointer> closed = myParser.takeClosedScopes();
+    if (myGroupSilence)
+        myGroupSilence->add(closed);
 }
 
 QList<RVCatalogueProduct> RVCatalogueReaderPrivate::read()
@@ -258,21 +273,24 @@ void RVCatalogueReaderPrivate::check(const QList<RVCatalogueProduct> &products) 
 void RVCatalogueReaderPrivate::check(const RVCatalogueProduct &product) const
 {
     QList<RVCatalogueFinding> &findings = product.d->findings;
-    findings += myCheck->findings(product);
+    findings += myCheck->allFindings(product);
     rvSort(&findings);
+    if (RVSilencer::isNeeded(product))
+        findings = RVSilencer(*myCheck, product).judged(findings);
 }
 
 QList<RVCatalogueFinding> RVCatalogueReaderPrivate::findings()
 {
     if (!myCheck)
         return {};
+    judgeGroups();
     const RVCatalogueRule rule = RVCatalogueRuleRow::rule(RVCatalogueRuleId::ProductsMissing);
     QList<RVCatalogueFinding> result;
-    if (isMissing() && myCheck->isEnabled(rule)) {
+    if (isMissing() && myCheck->isEnabled(rule) && !myParser.isMissingSilenced()) {
         result += RVCatalogueFinding(rule, RVFileRange(), tr("there is no product in this file"));
         result.last().setSeverity(myCheck->severity(rule));
     }
-    return result;
+    return result + myGroupSilence->findings();
 }
 
 bool RVCatalogueReaderPrivate::isMissing() const

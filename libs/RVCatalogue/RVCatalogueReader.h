@@ -88,7 +88,8 @@ public:
     template<typename Work, typename Take>
     void map(Work work, Take take);
 
-    /// Findings about the file as a whole; complete once everything was read.
+    /// Findings about the file as a whole and about comments in front of groups of products; complete once everything
+    /// was read. In the order of the file.
     QList<RVCatalogueFinding> findings() const;
 
     /// True when no product follows, also after an error.

@@ -128,6 +128,11 @@ void tst_RVCatalogueFileSet::files_data()
                      u"1:22-1:36 the article id 2 is already that of the product in line 1 of 2.xml <- 2.xml@1:22-1:36"_s
                              + ARTICLE_IS_THERE }
                };
+    QTest::newRow("silenced") << QList<QByteArray> {
+        one,
+        "<p><!-- rvcatalog: ignore type-duplicate --><product article_id='2' "
+        "type='DUN9'/></p>"
+    } << QList<QStringList> { {}, {} };
     QTest::newRow("products that were read before an error")
             << QList<QByteArray> { one + '<', "<p><product article_id='2' type='DUN9'/></p>" }
             << QList<QStringList> { {},

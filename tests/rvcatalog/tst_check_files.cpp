@@ -1,4 +1,4 @@
-// Several files that are checked together.
+// Several files that are checked together, and comments that silence rules in them.
 #include <Commands.h>
 
 #include <QDir>
@@ -80,6 +80,9 @@ private Q_SLOTS:
     void unreadableAmongFiles();
     void sameFile_data();
     void sameFile();
+    void silenced();
+    void unusedComment();
+    void disabledRuleIsNotUnused();
 
 private:
     void write(const QString &name, const QByteArray &content);
@@ -158,6 +161,36 @@ void tst_check_files::sameFile()
     QCOMPARE(run.findings, QStringList());
     QTEST(run.messages, "messages");
     QCOMPARE(run.exitCode, 0);
+}
+
+void tst_check_files::silenced()
+{
+    write(u"silent.xml"_s,
+          "<p>\n<!-- rvcatalog: ignore type-duplicate, keyword-legacy -->\n"
+          "<product type='DUN9' article_id='4' cover_type='hard'/>\n</p>\n");
+    const Run run = check({ u"a.xml"_s, u"silent.xml"_s });
+    QCOMPARE(run.findings, QStringList());
+    QCOMPARE(run.exitCode, 0);
+}
+
+void tst_check_files::unusedComment()
+{
+    write(u"unused.xml"_s,
+          "<p>\n<!-- rvcatalog: ignore type-duplicate -->\n<product type='X' article_id='4'/>\n"
+          "<!-- rvcatalog: ignore spine-font-too-small -->\n<g><product type='Y' article_id='5'/></g>\n</p>\n");
+    const Run run = check({ u"unused.xml"_s });
+    QCOMPARE(run.findings,
+             QStringList({ u"unused.xml:2:1 suppression-unused"_s, u"unused.xml:4:1 suppression-unused"_s }));
+    QCOMPARE(run.exitCode, 1);
+}
+
+void tst_check_files::disabledRuleIsNotUnused()
+{
+    write(u"unused.xml"_s,
+          "<p>\n<!-- rvcatalog: ignore type-duplicate -->\n<product type='X' article_id='4'/>\n</p>\n");
+    QCOMPARE(check({ u"unused.xml"_s, u"--disable=type-duplicate"_s }).exitCode, 0);
+    QCOMPARE(check({ u"unused.xml"_s, u"--disable=suppression-unused"_s }).exitCode, 0);
+    QCOMPARE(check({ u"unused.xml"_s, u"--disable=keyword-unknown"_s }).exitCode, 1);
 }
 
 QTEST_MAIN(tst_check_files)
