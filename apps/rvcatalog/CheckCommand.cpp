@@ -1,5 +1,6 @@
 #include "CheckOptions.h"
 #include "CheckRun.h"
+#include "DistinctFiles.h"
 #include "FindingWriter.h"
 #include "FixRun.h"
 #include "SubCommands.h"
@@ -21,8 +22,9 @@ int writeRules(const Console &console)
     return EXIT_FINE;
 }
 
-int checkFiles(const CheckOptions &options, Console console)
+int checkFiles(CheckOptions options, Console console)
 {
+    options.fileNames = distinctFiles(options.fileNames, console);
     FixRun fixes(options, &console);
     if (options.showsFixes)
         return fixes.diff();

@@ -74,7 +74,7 @@ int CheckRun::exitCode() const
 void CheckRun::read(CatalogueFile *file, const QString &fileName)
 {
     RVCatalogueReader &reader = file->reader();
-    reader.setCheck(myOptions.check);
+    reader.setCheck(myOptions.check, &myFiles, fileName);
     if (myOptions.threads > 0)
         reader.setThreadCount(myOptions.threads);
     const qint64 size = reader.size();

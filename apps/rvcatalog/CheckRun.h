@@ -5,6 +5,7 @@
 #include "Interruption.h"
 #include "ProgressBar.h"
 
+#include <RVCatalogueFileSet.h>
 #include <RVCatalogueFinding.h>
 
 #include <QList>
@@ -43,6 +44,7 @@ private:
     FindingWriter *myWriter;
     const CheckOptions &myOptions;
     const Console &myConsole;
+    RVCatalogueFileSet myFiles;
     CheckSummary mySummary;
     qint64 myWritten = 0;
     ProgressBar myProgressBar;

@@ -10,6 +10,7 @@
 #include "RVPageCountCheck_p.h"
 #include "RVPartCheck_p.h"
 #include "RVPriceClassCheck_p.h"
+#include "RVSilencer_p.h"
 #include "RVSpineCheck_p.h"
 
 #include <QHash>
@@ -116,6 +117,12 @@ QList<RVCatalogueFinding> RVCatalogueCheck::findings(const RVCatalogueProduct &p
 {
     if (product.isNull())
         return {};
+    const QList<RVCatalogueFinding> all = allFindings(product);
+    return RVSilencer::isNeeded(product) ? RVSilencer(*this, product).audible(all) : all;
+}
+
+QList<RVCatalogueFinding> RVCatalogueCheck::allFindings(const RVCatalogueProduct &product) const
+{
     RVFindingReport report(*this, product);
     RVIdCheck(&report).check(product);
     RVPartCheck(&report).check(product);

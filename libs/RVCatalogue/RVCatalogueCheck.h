@@ -58,10 +58,15 @@ public:
     QSizeF pageSize(const RVProductType &type) const;
     /// @}
 
-    /// Findings about one product, by the rules that concern it alone, in the order of the file. Any thread.
+    /// Findings about one product, by the rules that concern it alone, in the order of the file, without those that
+    /// comments silence. Any thread.
     QList<RVCatalogueFinding> findings(const RVCatalogueProduct &product) const;
 
 private:
+    friend class RVCatalogueReaderPrivate;
+
+    QList<RVCatalogueFinding> allFindings(const RVCatalogueProduct &product) const; // also those that are silenced
+
     QSharedDataPointer<RVCatalogueCheckData> d;
 };
 

@@ -32,6 +32,15 @@ RVFilePosition place(const RVCatalogueRows &rows, const RVCatalogueRows::Element
     return rvAdvanced(element.position, tag.first(offset), next);
 }
 
+/// A piece of a start tag, between two places so many bytes behind its begin.
+RVFileRange piece(const RVCatalogueRows &rows, const RVCatalogueRows::Element &element, quint32 begin, quint32 end)
+{
+    const QByteArrayView tag = rows.view(element.tag);
+    const RVFilePosition first = place(rows, element, begin);
+    const char next = qsizetype(end) < tag.size() ? tag[end] : '\0';
+    return { first, rvAdvanced(first, tag.first(end).sliced(begin), next) };
+}
+
 }
 
 RVCatalogueElement::RVCatalogueElement(const RVCatalogueProductData *data, quint32 index, quint32 siblingsEnd) noexcept
@@ -95,8 +104,7 @@ RVFileRange RVCatalogueElement::attributeRange(QLatin1StringView name) const
     // A document type may give an attribute to an element that does not have it in the file.
     if (!attribute || attribute->name.begin >= element.tag.begin + element.tag.size)
         return range();
-    return { place(d->rows, element, attribute->name.begin - element.tag.begin),
-             place(d->rows, element, attribute->end - element.tag.begin) };
+    return piece(d->rows, element, attribute->name.begin - element.tag.begin, attribute->end - element.tag.begin);
 }
 
 std::optional<RVFileRange> RVCatalogueElement::valueRange(QLatin1StringView name, qsizetype from,

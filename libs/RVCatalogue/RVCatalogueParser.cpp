@@ -15,6 +15,8 @@ void RVCatalogueParser::startElement(const RVXmlTag &tag)
         openGroup(tag);
         return;
     }
+    if (!myWaiting.empty())
+        attachToProduct(true);
     myOpenElements.push_back(quint32(myRows.elements.size()));
     myRows.append(tag);
 }
@@ -22,15 +24,35 @@ void RVCatalogueParser::startElement(const RVXmlTag &tag)
 void RVCatalogueParser::endElement()
 {
     if (myOpenElements.empty()) {
-        if (myGroups.back())
-            myFamilies.removeLast();
-        myGroups.pop_back();
+        closeGroup();
         return;
     }
+    if (!myWaiting.empty())
+        attachToProduct(false);
     myRows.elements[myOpenElements.back()].end = quint32(myRows.elements.size());
     myOpenElements.pop_back();
     if (myOpenElements.empty())
         finishProduct();
+}
+
+void RVCatalogueParser::comment(const RVXmlComment &comment)
+{
+    std::optional<RVSuppression> suppression = RVSuppression::read(comment.text, comment.range);
+    if (!suppression)
+        return;
+    suppression->parent = myOpenElements.empty() ? RVSuppression::OUTSIDE : myOpenElements.back();
+    myWaiting.push_back(*std::move(suppression));
+}
+
+// No element follows them in the same parent.
+void RVCatalogueParser::closeWaiting()
+{
+    if (myWaiting.empty())
+        return;
+    const RVSuppressionScope::Pointer scope(
+            new RVSuppressionScope(std::exchange(myWaiting, {}), myScope, myGroups.size()));
+    scope->judge({});
+    myClosedScopes.push_back(scope);
 }
 
 QList<RVCatalogueProduct> RVCatalogueParser::take()
@@ -38,8 +60,45 @@ QList<RVCatalogueProduct> RVCatalogueParser::take()
     return std::exchange(myProducts, {});
 }
 
+std::vector<RVSuppressionScope::Pointer> RVCatalogueParser::takeClosedScopes()
+{
+    return std::exchange(myClosedScopes, {});
+}
+
+void RVCatalogueParser::attachToProduct(bool hasElement)
+{
+    for (RVSuppression &suppression : myWaiting) {
+        suppression.hasElement = hasElement;
+        suppression.element = quint32(myRows.elements.size());
+        mySuppressions.push_back(std::move(suppression));
+    }
+    myWaiting.clear();
+}
+
+void RVCatalogueParser::openScope()
+{
+    for (RVSuppression &suppression : myWaiting)
+        suppression.hasElement = true;
+    myScope = new RVSuppressionScope(std::exchange(myWaiting, {}), myScope, myGroups.size());
+}
+
+// No product means a finding for the root element alone.
+void RVCatalogueParser::closeScope()
+{
+    RVCatalogueRuleSet broken;
+    if (myGroups.empty() && myNumber == 0) {
+        broken.set(std::size_t(RVCatalogueRuleId::ProductsMissing));
+        myIsMissingSilenced = myScope->silences(RVCatalogueRuleId::ProductsMissing);
+    }
+    myScope->judge(broken);
+    myClosedScopes.push_back(myScope);
+    myScope = myScope->outer();
+}
+
 void RVCatalogueParser::openGroup(const RVXmlTag &tag)
 {
+    if (!myWaiting.empty())
+        openScope();
     bool hasName = false;
     for (int i = 0; i < tag.allAttributes && !hasName; ++i) {
         hasName = tag.attributeName(i) == GROUP_NAME;
@@ -47,6 +106,16 @@ void RVCatalogueParser::openGroup(const RVXmlTag &tag)
             myFamilies += QString::fromUtf8(tag.attributeValue(i));
     }
     myGroups.push_back(hasName);
+}
+
+void RVCatalogueParser::closeGroup()
+{
+    closeWaiting();
+    if (myGroups.back())
+        myFamilies.removeLast();
+    myGroups.pop_back();
+    if (myScope && myScope->level() == myGroups.size())
+        closeScope();
 }
 
 // Copies, since they are exactly as large as the product, while the rows keep their room for the next one.
@@ -57,6 +126,10 @@ void RVCatalogueParser::finishProduct()
     data->rows.attributes = myRows.attributes;
     data->rows.text = QByteArray(myRows.text.constData(), myRows.text.size());
     data->families = myFamilies;
+    data->suppressions = std::exchange(mySuppressions, {});
+    data->scope = myScope;
+    if (myScope)
+        myScope->expect();
     data->number = myNumber++;
     myProducts += RVCatalogueProduct(data);
     myRows.elements.clear();

@@ -16,19 +16,36 @@ class RVCatalogueParser : public RVXmlHandler
 public:
     void startElement(const RVXmlTag &tag) override;
     void endElement() override;
+    void comment(const RVXmlComment &comment) override;
     bool isInPiece() const override { return !myOpenElements.empty(); }
+    /// The file has come to its end.
+    void end() { closeWaiting(); }
 
     /// The products that have come to their end since the last call.
     QList<RVCatalogueProduct> take();
+    /// The groups with comments in front of them that were closed since the last call, inner ones before outer ones.
+    std::vector<RVSuppressionScope::Pointer> takeClosedScopes();
+    /// True where a comment in front of the root element says that the file need not have products.
+    bool isMissingSilenced() const { return myIsMissingSilenced; }
 
 private:
     void openGroup(const RVXmlTag &tag);
+    void closeGroup();
     void finishProduct();
+    void attachToProduct(bool hasElement);
+    void openScope();
+    void closeScope();
+    void closeWaiting();
 
     RVCatalogueRows myRows; // of the product that has begun
     std::vector<quint32> myOpenElements; // of the product
     std::vector<bool> myGroups; // around the product; true for those with a name
     QStringList myFamilies;
+    std::vector<RVSuppression> myWaiting; // for the next element in the same parent
+    std::vector<RVSuppression> mySuppressions; // of the product that has begun
+    RVSuppressionScope::Pointer myScope; // the innermost
+    std::vector<RVSuppressionScope::Pointer> myClosedScopes;
+    bool myIsMissingSilenced = false;
     QList<RVCatalogueProduct> myProducts;
     qint64 myNumber = 0;
 };

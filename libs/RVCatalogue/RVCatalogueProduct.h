@@ -87,12 +87,14 @@ public:
     QList<RVCatalogueFinding> findings() const;
 
     /// The elements and attributes of the product in UTF-8, without comments and texts between tags, to be kept and
-    /// read again by an RVCatalogueReader; empty for a null product.
+    /// read again by an RVCatalogueReader; empty for a null product. So nothing silences findings of what is read
+    /// again.
     QByteArray toXml() const;
 
 private:
     friend class RVCatalogueParser;
     friend class RVCatalogueReaderPrivate;
+    friend class RVSilencer;
 
     explicit RVCatalogueProduct(RVCatalogueProductData *data);
 

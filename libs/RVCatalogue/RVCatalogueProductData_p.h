@@ -3,6 +3,7 @@
 
 #include "RVCatalogueFinding.h"
 #include "RVFilePosition.h"
+#include "RVSuppressionScope_p.h"
 
 #include <QByteArray>
 #include <QByteArrayView>
@@ -65,6 +66,8 @@ class RVCatalogueProductData : public QSharedData
 public:
     RVCatalogueRows rows;
     QStringList families;
+    std::vector<RVSuppression> suppressions; // in the product and in front of it, in the order of the file
+    RVSuppressionScope::Pointer scope; // of the groups around it; null where no comment stands in front of them
     QList<RVCatalogueFinding> findings;
     qint64 number = 0;
 };

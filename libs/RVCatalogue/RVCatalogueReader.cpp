@@ -1,7 +1,11 @@
 #include "RVCatalogueReader.h"
 
+#include "RVCatalogueFileSet.h"
 #include "RVCatalogueParser_p.h"
 #include "RVDuplicates_p.h"
+#include "RVFindingReport_p.h"
+#include "RVGroupSilence_p.h"
+#include "RVSilencer_p.h"
 #include "RVXmlScanner_p.h"
 
 #include <QCoreApplication>
@@ -147,11 +151,8 @@ public:
     }
     explicit RVCatalogueReaderPrivate(QIODevice *device) : myDevice(device) { }
 
-    void setCheck(const RVCatalogueCheck &check)
-    {
-        myCheck = check;
-        myDuplicates = std::make_unique<RVDuplicates>(check);
-    }
+    /// Without @p files the file is checked alone.
+    void setCheck(const RVCatalogueCheck &check, RVCatalogueFileSet *files, const QString &fileName);
 
     void setThreadCount(int count) { myThreadCount = qMax(count, 1); }
     int threadCount() const { return myThreadCount; }
@@ -166,7 +167,7 @@ public:
     RVCatalogueProduct next();
     /// Gives the products their findings, which may be done on any thread.
     void check(const QList<RVCatalogueProduct> &products) const;
-    QList<RVCatalogueFinding> findings() const;
+    QList<RVCatalogueFinding> findings();
 
     QString errorString() const;
     RVFilePosition errorPosition() const { return myScanner.errorPosition(); }
@@ -176,7 +177,11 @@ public:
 private:
     bool isExhausted() const { return myNext == myProducts.size(); }
     bool wouldWait() const;
+    bool scan();
+    void judgeGroups();
+    bool isMissing() const;
     void findDuplicates(const RVCatalogueProduct &product);
+    void check(const RVCatalogueProduct &product) const;
 
     QFile myFile;
     QIODevice *myDevice;
@@ -184,7 +189,11 @@ private:
     RVCatalogueParser myParser;
     RVXmlScanner myScanner { myDevice, &myParser };
     std::optional<RVCatalogueCheck> myCheck;
-    std::unique_ptr<RVDuplicates> myDuplicates;
+    std::optional<RVGroupSilence> myGroupSilence;
+    std::unique_ptr<RVCatalogueFileSet> myOwnFiles; // none where the file is checked with others
+    RVDuplicates *myDuplicates = nullptr;
+    QString myFileName; // for findings in other files
+    bool myIsFileBegun = false; // of the duplicates
     int myThreadCount = mostThreads();
     QList<RVCatalogueProduct> myProducts; // that were parsed
     qsizetype myNext = 0; // the first of them that was not handed out
@@ -197,18 +206,45 @@ bool RVCatalogueReaderPrivate::wouldWait() const
     return myDevice->isSequential() && myDevice->bytesAvailable() == 0 && !myDevice->waitForReadyRead(0);
 }
 
+void RVCatalogueReaderPrivate::setCheck(const RVCatalogueCheck &check, RVCatalogueFileSet *files,
+                                        const QString &fileName)
+{
+    myOwnFiles = files ? nullptr : std::make_unique<RVCatalogueFileSet>();
+    myDuplicates = (files ? files : myOwnFiles.get())->d.get();
+    myFileName = fileName.isNull() ? myFile.fileName() : fileName;
+    myCheck = check;
+    myGroupSilence.emplace(check);
+}
+
 bool RVCatalogueReaderPrivate::fill(const std::function<bool()> &beforeWaiting)
 {
     bool goesOn = myOpenError.isEmpty();
     while (isExhausted() && goesOn) {
         if (beforeWaiting && wouldWait() && !beforeWaiting())
             return false;
-        goesOn = myScanner.scan();
-        myProducts = myParser.take();
-        myNext = 0;
+        goesOn = scan();
     }
     myHasProducts = myHasProducts || !isExhausted();
     return !isExhausted();
+}
+
+/// False when there is nothing more to parse.
+bool RVCatalogueReaderPrivate::scan()
+{
+    const bool goesOn = myScanner.scan();
+    if (!goesOn && myScanner.errorString().isEmpty())
+        myParser.end();
+    myProducts = myParser.take();
+    myNext = 0;
+    judgeGroups();
+    return goesOn;
+}
+
+void RVCatalogueReaderPrivate::judgeGroups()
+{
+    const std::vector<RVSuppressionScope::Pointer> closed = myParser.takeClosedScopes();
+    if (myGroupSilence)
+        myGroupSilence->add(closed);
 }
 
 QList<RVCatalogueProduct> RVCatalogueReaderPrivate::read()
@@ -247,31 +283,47 @@ RVCatalogueProduct RVCatalogueReaderPrivate::next()
 // Types and article ids come twice in the order of the file, so this is done before the products go their ways.
 void RVCatalogueReaderPrivate::findDuplicates(const RVCatalogueProduct &product)
 {
-    if (myDuplicates)
-        product.d->findings = myDuplicates->findings(product);
+    if (!myCheck)
+        return;
+    if (!std::exchange(myIsFileBegun, true))
+        myDuplicates->beginFile(myFileName);
+    product.d->findings = myDuplicates->findings(*myCheck, product);
 }
 
 void RVCatalogueReaderPrivate::check(const QList<RVCatalogueProduct> &products) const
 {
     if (!myCheck)
         return;
-    for (const RVCatalogueProduct &product : products) {
-        QList<RVCatalogueFinding> &findings = product.d->findings;
-        findings += myCheck->findings(product);
-        std::stable_sort(findings.begin(), findings.end(),
-                         [](const RVCatalogueFinding &a, const RVCatalogueFinding &b) {
-                             return a.range().begin < b.range().begin;
-                         });
-    }
+    for (const RVCatalogueProduct &product : products)
+        check(product);
 }
 
-QList<RVCatalogueFinding> RVCatalogueReaderPrivate::findings() const
+void RVCatalogueReaderPrivate::check(const RVCatalogueProduct &product) const
 {
-    const RVCatalogueRule rule = RVCatalogueRule::find(u"products-missing");
-    const bool isMissing = myScanner.isAtEnd() && errorString().isEmpty() && !myHasProducts;
-    if (!isMissing || !myCheck || !myCheck->isEnabled(rule))
+    QList<RVCatalogueFinding> &findings = product.d->findings;
+    findings += myCheck->allFindings(product);
+    rvSort(&findings);
+    if (RVSilencer::isNeeded(product))
+        findings = RVSilencer(*myCheck, product).judged(findings);
+}
+
+QList<RVCatalogueFinding> RVCatalogueReaderPrivate::findings()
+{
+    if (!myCheck)
         return {};
-    return { RVCatalogueFinding(rule, RVFileRange(), tr("there is no product in this file")) };
+    judgeGroups();
+    const RVCatalogueRule rule = RVCatalogueRuleRow::rule(RVCatalogueRuleId::ProductsMissing);
+    QList<RVCatalogueFinding> result;
+    if (isMissing() && myCheck->isEnabled(rule) && !myParser.isMissingSilenced()) {
+        result += RVCatalogueFinding(rule, RVFileRange(), tr("there is no product in this file"));
+        result.last().setSeverity(myCheck->severity(rule));
+    }
+    return result + myGroupSilence->findings();
+}
+
+bool RVCatalogueReaderPrivate::isMissing() const
+{
+    return myScanner.isAtEnd() && errorString().isEmpty() && !myHasProducts;
 }
 
 // An error stands behind the products that were parsed before it.
@@ -291,7 +343,12 @@ RVCatalogueReader::~RVCatalogueReader() = default;
 
 void RVCatalogueReader::setCheck(const RVCatalogueCheck &check)
 {
-    d->setCheck(check);
+    d->setCheck(check, nullptr, QString());
+}
+
+void RVCatalogueReader::setCheck(const RVCatalogueCheck &check, RVCatalogueFileSet *files, const QString &fileName)
+{
+    d->setCheck(check, files, fileName);
 }
 
 void RVCatalogueReader::setThreadCount(int count)

@@ -17,6 +17,7 @@
 #include <utility>
 
 class QIODevice;
+class RVCatalogueFileSet;
 class RVCatalogueReaderPrivate;
 
 /**
@@ -53,7 +54,12 @@ public:
     ~RVCatalogueReader();
 
     /// From now on products have findings, and so has the file. Before the first product is read.
+    /// @{
     void setCheck(const RVCatalogueCheck &check);
+    /// Products of @p files, which outlive the reader, are found to be the same, too. @p fileName is what findings in
+    /// the files behind this one call it; by default the one that was opened.
+    void setCheck(const RVCatalogueCheck &check, RVCatalogueFileSet *files, const QString &fileName = QString());
+    /// @}
 
     /// The next product; a null one at the end and after an error.
     RVCatalogueProduct next();
@@ -86,7 +92,8 @@ public:
     /// machine, but not more than 8, since more would wait for the reading one. Before map() is called.
     void setThreadCount(int count);
 
-    /// Findings about the file as a whole; complete once everything was read.
+    /// Findings about the file as a whole and about comments in front of groups of products; complete once everything
+    /// was read. In the order of the file.
     QList<RVCatalogueFinding> findings() const;
 
     /// True when no product follows, also after an error.

@@ -41,6 +41,8 @@ enum class RVCatalogueRuleId {
     BarcodeOutsidePage,
     BarcodeOverlap,
     PriceClassUnknown,
+    SuppressionUnused,
+    SuppressionUnknown,
     Count, // stays the last
 };
 constexpr auto RV_CATALOGUE_RULE_COUNT = std::size_t(RVCatalogueRuleId::Count);
@@ -502,6 +504,29 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 )",
       R"(<products>
   <product type="DUN9" article_id="1001" page_price_class="KEMI62"/>
+</products>
+)" },
+    { RVCatalogueRuleId::SuppressionUnused, RVCatalogueSeverity::Warning, QLatin1StringView("suppression-unused"),
+      QT_TRANSLATE_NOOP("RVFindingText", "A comment that silences nothing today silences the next mistake instead."),
+      R"(<products>
+  <!-- rvcatalog: ignore keyword-unknown -->
+  <product type="DUN9" article_id="1001" cover_type="hardcover"/>
+</products>
+)",
+      R"(<products>
+  <product type="DUN9" article_id="1001" cover_type="hardcover"/>
+</products>
+)" },
+    { RVCatalogueRuleId::SuppressionUnknown, RVCatalogueSeverity::Warning, QLatin1StringView("suppression-unknown"),
+      QT_TRANSLATE_NOOP("RVFindingText", "A comment that is misspelt silences nothing."),
+      R"(<products>
+  <!-- rvcatalog: ignore price-class-unknown, price-class -->
+  <product type="DUN9" article_id="1001" page_price_class="RODA"/>
+</products>
+)",
+      R"(<products>
+  <!-- rvcatalog: ignore price-class-unknown -->
+  <product type="DUN9" article_id="1001" page_price_class="RODA"/>
 </products>
 )" },
 };

@@ -48,10 +48,15 @@ void RVFindingReport::add(RVCatalogueRuleId rule, const RVFileRange &range, cons
 QList<RVCatalogueFinding> RVFindingReport::sorted() const
 {
     QList<RVCatalogueFinding> result = myFindings;
-    std::stable_sort(result.begin(), result.end(), [](const RVCatalogueFinding &a, const RVCatalogueFinding &b) {
+    rvSort(&result);
+    return result;
+}
+
+void rvSort(QList<RVCatalogueFinding> *findings)
+{
+    std::stable_sort(findings->begin(), findings->end(), [](const RVCatalogueFinding &a, const RVCatalogueFinding &b) {
         return a.range().begin < b.range().begin;
     });
-    return result;
 }
 
 RVRelatedPlace rvPlaceOf(const RVCatalogueElement &element, const QString &text)

@@ -50,6 +50,9 @@ private:
     QList<RVCatalogueFinding> myFindings;
 };
 
+/// Puts findings in the order of the file.
+void rvSort(QList<RVCatalogueFinding> *findings);
+
 /// The start tag of an element as the other place of a finding.
 RVRelatedPlace rvPlaceOf(const RVCatalogueElement &element, const QString &text);
 /// An attribute as the other place; the start tag where it is missing.

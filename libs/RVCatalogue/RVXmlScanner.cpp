@@ -106,11 +106,27 @@ QByteArrayView nameOf(QByteArrayView tag)
     return tag.sliced(1).first(end - tag.begin() - 1);
 }
 
+/// The place of the last such letter; 0 where there is none.
+qsizetype lastPlace(char letter, QByteArrayView text)
+{
+    const void *found = ::memrchr(text.data(), letter, std::size_t(text.size()));
+    return found ? static_cast<const char *>(found) - text.data() : 0;
+}
+
 /// The place of the last "<"; 0 where there is none.
 qsizetype lastTag(QByteArrayView text)
 {
-    const void *found = ::memrchr(text.data(), '<', std::size_t(text.size()));
-    return found ? static_cast<const char *>(found) - text.data() : 0;
+    return lastPlace('<', text);
+}
+
+/// The place of the last "<!--", of which there is one; no comment has another one in it, as "--" is not allowed there.
+/// Commented-out elements have many a "<" and "-", but hardly an exclamation mark.
+qsizetype lastComment(QByteArrayView text)
+{
+    qsizetype mark = lastPlace('!', text);
+    while (mark > 1 && !(text[mark - 1] == '<' && text.sliced(mark + 1).startsWith("--")))
+        mark = lastPlace('!', text.first(mark));
+    return qMax(qsizetype(0), mark - 1);
 }
 
 }
@@ -130,6 +146,8 @@ QByteArrayView RVXmlTag::attributeValue(int index) const
 
 RVXmlHandler::~RVXmlHandler() = default;
 
+void RVXmlHandler::comment(const RVXmlComment &) { }
+
 /// The functions that the parser calls.
 struct RVXmlScanner::Events
 {
@@ -140,7 +158,7 @@ struct RVXmlScanner::Events
         scanner(data)->startElement(values, attributes - defaultAttributes, attributes);
     }
     static void end(void *data, const xmlChar *, const xmlChar *, const xmlChar *) { scanner(data)->endElement(); }
-    static void comment(void *data, const xmlChar *) { scanner(data)->passOver(); }
+    static void comment(void *data, const xmlChar *) { scanner(data)->comment(); }
     static void instruction(void *data, const xmlChar *, const xmlChar *) { scanner(data)->passOver(); }
     static void declare(void *data, const xmlChar *, int, const xmlChar *, const xmlChar *, xmlChar *)
     {
@@ -274,6 +292,19 @@ void RVXmlScanner::endElement()
         return;
     myHandler->endElement();
     passOver();
+}
+
+void RVXmlScanner::comment()
+{
+    constexpr qsizetype begin = 4; // "<!--"
+    constexpr qsizetype end = 3; // "-->"
+    passOver();
+    if (!myError.isEmpty())
+        return;
+    const qint64 behind = parsed();
+    moveTo(myWindowBegin + lastComment(textBefore(behind)));
+    const QByteArrayView comment = QByteArrayView(myWindow).sliced(myEvent, behind - myWindowBegin - myEvent);
+    myHandler->comment({ comment.sliced(begin).chopped(end), { myPosition, position(behind) } });
 }
 
 // Something that is no product has come to its end.

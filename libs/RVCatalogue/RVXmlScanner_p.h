@@ -2,6 +2,7 @@
 #define RVXMLSCANNER_P_H
 
 #include "RVFilePosition.h"
+#include "RVFileRange.h"
 #include "RVXmlSource_p.h"
 
 #include <QByteArray>
@@ -36,6 +37,13 @@ struct RVXmlTag
     /// @}
 };
 
+/// A comment, valid as long as its handler runs.
+struct RVXmlComment
+{
+    QByteArrayView text; ///< between `<!--` and `-->` as it stands in the file, in UTF-8
+    RVFileRange range; ///< from `<!--` to `-->`
+};
+
 /// Receives the elements that RVXmlScanner finds.
 class RVXmlHandler
 {
@@ -47,6 +55,8 @@ public:
 
     virtual void startElement(const RVXmlTag &tag) = 0;
     virtual void endElement() = 0;
+    /// Passed over by default.
+    virtual void comment(const RVXmlComment &comment);
     /// True while the events belong to one piece of the file, which may have at most 1 MiB.
     virtual bool isInPiece() const = 0;
 };
@@ -93,6 +103,7 @@ private:
     void end();
     void startElement(const unsigned char *const *attributes, int givenAttributes, int allAttributes);
     void endElement();
+    void comment();
     void passOver();
     void refuseEntity();
     void refuseUnknownEntity(const QString &name, QByteArrayView before);

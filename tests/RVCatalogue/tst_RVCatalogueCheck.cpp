@@ -403,6 +403,12 @@ QList<Mistake> mistakes()
         { "price class of pages", changed("page_price_class='RODA6x9'", "page_price_class='RODA'"),
           u"page_price_class='RODA'"_s,
           u"2 warning price-class-unknown: the price class \"RODA\" belongs to no known group; did you mean \"RODA6x9\"?"_s },
+        { "comment of no use", changed("<forms>\n", "<!-- rvcatalog: ignore option-incomplete --><forms>\n"),
+          u"<!-->"_s, u"10 warning suppression-unused: this comment silences no finding of option-incomplete"_s },
+        { "comment with an unknown rule", changed("<forms>\n", "<!-- rvcatalog: ignore option-incomplet --><forms>\n"),
+          u"<!-->"_s,
+          u"10 warning suppression-unknown: there is no rule \"option-incomplet\"; did you mean "
+          "\"option-incomplete\"?"_s },
         { "too narrow from the start",
           changed("base_width='0.8' block_width='0.1'", "base_width='0.01' block_width='-0.05'"),
           u"block_width='-0.05'"_s, u"8 error spine-negative: block_width is below 0; write 0 or more"_s },

@@ -29,10 +29,10 @@ void tst_RVCatalogueRule::all()
     QSet<QString> names;
     for (const RVCatalogueRule rule : rules)
         names.insert(rule.name());
-    QCOMPARE(names.size(), qsizetype(30));
-    QCOMPARE(rules.size(), qsizetype(30));
+    QCOMPARE(names.size(), qsizetype(32));
+    QCOMPARE(rules.size(), qsizetype(32));
     QCOMPARE(rules.first().name(), "products-missing"_L1);
-    QCOMPARE(rules.last().name(), "price-class-unknown"_L1);
+    QCOMPARE(rules.last().name(), "suppression-unknown"_L1);
 }
 
 void tst_RVCatalogueRule::texts()

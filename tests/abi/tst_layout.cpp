@@ -5,6 +5,7 @@
 #include <RVCatalogue/RVCatalogueAttributes.h>
 #include <RVCatalogue/RVCatalogueCheck.h>
 #include <RVCatalogue/RVCatalogueElement.h>
+#include <RVCatalogue/RVCatalogueFileSet.h>
 #include <RVCatalogue/RVCatalogueFinding.h>
 #include <RVCatalogue/RVCatalogueProduct.h>
 #include <RVCatalogue/RVCatalogueProject.h>
@@ -166,6 +167,7 @@ void tst_layout::sizes_data()
     row<RVCatalogueAttributeValue>("RVCatalogueAttributeValue", 80, 8);
     row<RVCatalogueCheck>("RVCatalogueCheck", 8, 8);
     row<RVCatalogueElement>("RVCatalogueElement", 16, 8);
+    row<RVCatalogueFileSet>("RVCatalogueFileSet", 8, 8);
     row<RVCatalogueFinding>("RVCatalogueFinding", 8, 8);
     row<RVCatalogueProduct>("RVCatalogueProduct", 8, 8);
     row<RVCatalogueProject>("RVCatalogueProject", 48, 8);

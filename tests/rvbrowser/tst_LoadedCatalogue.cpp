@@ -84,6 +84,7 @@ class tst_LoadedCatalogue : public QObject
 private Q_SLOTS:
     void readsOnce();
     void productsAndFindings();
+    void silencedFindings();
     void findingsInTheOrderOfTheFile();
     void withoutProducts();
     void search_data();
@@ -123,6 +124,28 @@ void tst_LoadedCatalogue::productsAndFindings()
                          .arg(finding.rule().name());
     QCOMPARE(found,
              (QStringList { u"0 2:69 keyword-unknown"_s, u"1 3:66 number-invalid"_s, u"2 4:10 type-duplicate"_s }));
+}
+
+// Packed products have no comments, so what these silence is settled while the file is read.
+void tst_LoadedCatalogue::silencedFindings()
+{
+    QByteArray content = CATALOGUE;
+    content.replace("<products>", "<!-- rvcatalog: ignore number-invalid, option-incomplete --><products>");
+    content.replace("<product type='A' article_id='1'",
+                    "<!-- rvcatalog: ignore keyword-unknown, spine-missing --><product type='A' article_id='1'");
+    CountedStream stream(content);
+    const auto catalogue = read(&stream);
+    QCOMPARE(catalogue->size(), 3);
+    QCOMPARE(catalogue->product(0).articleId(), RVArticleId(1));
+    QStringList found;
+    for (const RVCatalogueFinding &finding : catalogue->findings())
+        found += u"%1 %2:%3 %4"_s.arg(finding.product())
+                         .arg(finding.range().begin.line)
+                         .arg(finding.range().begin.column)
+                         .arg(finding.rule().name());
+    QCOMPARE(found,
+             (QStringList { u"0 2:1 suppression-unused"_s, u"2 4:10 type-duplicate"_s,
+                            u"-1 1:1 suppression-unused"_s }));
 }
 
 // Though products are checked on several threads, and in several pieces.

@@ -178,18 +178,26 @@ void tst_check::warningsAlone()
     QCOMPARE(run.exitCode, 1);
 }
 
-// What is in two files may be the same product.
 void tst_check::severalFiles()
 {
-    const Run clean = check({ u"clean.xml"_s, u"clean.xml"_s });
+    write(u"other.xml"_s, "<p><product type='X' article_id='7'/><product type='Y' article_id='8'/></p>");
+    const Run clean = check({ u"clean.xml"_s, u"other.xml"_s });
     QCOMPARE(clean.output, u"4 products in 2 files: 0 errors, 0 warnings, 0 notes\n"_s);
     QCOMPARE(clean.exitCode, 0);
 
-    const Run run = check({ u"faults.xml"_s, u"clean.xml"_s, u"./faults.xml"_s });
+    write(u"more.xml"_s,
+          QByteArray(FAULTS)
+                  .replace("'A'", "'X'")
+                  .replace("'B'", "'Y'")
+                  .replace("'Ä'", "'Ü'")
+                  .replace("'1'", "'7'")
+                  .replace("'3'", "'8'"));
+    write(u"clean.xml"_s, QByteArray(CLEAN_CATALOGUE).replace("article_id='1'", "article_id='9'"));
+    const Run run = check({ u"faults.xml"_s, u"clean.xml"_s, u"./more.xml"_s });
     const QStringList lines = run.output.split(u'\n');
     QCOMPARE(lines.size(), 8);
     QVERIFY(lines.at(0).startsWith("faults.xml:2:34: "_L1));
-    QVERIFY(lines.at(3).startsWith("./faults.xml:2:34: "_L1));
+    QVERIFY(lines.at(3).startsWith("./more.xml:2:34: "_L1));
     QCOMPARE(lines.at(6), u"8 products in 3 files: 2 errors, 2 warnings, 2 notes"_s);
     QCOMPARE(run.exitCode, 1);
 }
@@ -421,9 +429,10 @@ void tst_check::sarifUris()
                  { u"a%20b%3A%C3%A4%23%25.xml:1:1-1:1 error products-missing"_s }, {});
     QVERIFY(QDir().mkpath(myFolder.filePath(u"d"_s)));
     write(u"d/e.xml"_s, "<p/>");
-    compareSarif(check({ u"--format=sarif"_s, u"d/e.xml"_s, myFolder.filePath(u"d/e.xml"_s) }).output, true, 1,
+    write(u"d/f.xml"_s, "<p/>");
+    compareSarif(check({ u"--format=sarif"_s, u"d/e.xml"_s, myFolder.filePath(u"d/f.xml"_s) }).output, true, 1,
                  { u"d/e.xml:1:1-1:1 error products-missing"_s,
-                   QUrl::fromLocalFile(myFolder.filePath(u"d/e.xml"_s)).toString(QUrl::FullyEncoded)
+                   QUrl::fromLocalFile(myFolder.filePath(u"d/f.xml"_s)).toString(QUrl::FullyEncoded)
                            + u":1:1-1:1 error products-missing"_s },
                  {});
 }

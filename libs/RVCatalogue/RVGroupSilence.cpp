@@ -1,0 +1,45 @@
+#include "RVGroupSilence_p.h"
+
+#include "RVCatalogueProduct.h"
+#include "RVFindingReport_p.h"
+#include "RVSuppressionCheck_p.h"
+
+void RVGroupSilence::add(const std::vector<RVSuppressionScope::Pointer> &closed)
+{
+    myClosed.insert(myClosed.end(), closed.begin(), closed.end());
+    std::vector<RVSuppressionScope::Pointer> waiting;
+    for (RVSuppressionScope::Pointer &scope : myClosed) {
+        const bool isJudged = scope->isJudged();
+        if (isJudged)
+            judge(*scope);
+        // What waits for a product that nobody has any more, since it was passed over, waits forever.
+        else if (scope->ref.loadRelaxed() > 1)
+            waiting.push_back(scope);
+        scope.reset();
+    }
+    myClosed.swap(waiting);
+}
+
+QList<RVCatalogueFinding> RVGroupSilence::findings() const
+{
+    QList<RVCatalogueFinding> result = myFindings;
+    rvSort(&result);
+    return result;
+}
+
+void RVGroupSilence::judge(const RVSuppressionScope &scope)
+{
+    const RVCatalogueProduct none;
+    RVFindingReport report(myCheck, none);
+    for (const RVSuppression &comment : scope.comments())
+        RVSuppressionCheck(&report).check(comment, scope.broken());
+    RVCatalogueRuleSet broken;
+    for (const RVCatalogueFinding &finding : report.sorted()) {
+        const RVCatalogueRuleId rule = RVCatalogueRuleRow::of(finding.rule())->id;
+        broken.set(std::size_t(rule));
+        if (!scope.outer() || !scope.outer()->silences(rule))
+            myFindings += finding;
+    }
+    if (scope.outer())
+        scope.outer()->judge(broken);
+}

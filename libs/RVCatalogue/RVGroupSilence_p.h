@@ -1,0 +1,32 @@
+#ifndef RVGROUPSILENCE_P_H
+#define RVGROUPSILENCE_P_H
+
+#include "RVCatalogueCheck.h"
+#include "RVCatalogueFinding.h"
+#include "RVSuppressionScope_p.h"
+
+#include <QList>
+
+#include <vector>
+
+/// Finds the comments in front of groups that silence nothing, once all products of a group were checked. It keeps no
+/// group longer than that.
+class RVGroupSilence
+{
+public:
+    explicit RVGroupSilence(const RVCatalogueCheck &check) : myCheck(check) { }
+
+    /// Takes groups that were closed, inner ones before outer ones, and judges those that can be.
+    void add(const std::vector<RVSuppressionScope::Pointer> &closed);
+    /// About the groups that were judged, in the order of the file.
+    QList<RVCatalogueFinding> findings() const;
+
+private:
+    void judge(const RVSuppressionScope &scope);
+
+    RVCatalogueCheck myCheck;
+    std::vector<RVSuppressionScope::Pointer> myClosed; // and not judged so far
+    QList<RVCatalogueFinding> myFindings;
+};
+
+#endif
