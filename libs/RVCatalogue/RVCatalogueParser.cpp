@@ -13,8 +13,11 @@ void RVCatalogueParser::startElement(const RVXmlTag &tag)
 {
     if (myOpenElements.empty() && tag.name != PRODUCT) {
         openGroup(tag);
+        myStrayElements.startGroup(tag);
         return;
     }
+    if (myOpenElements.empty())
+        myStrayElements.startProduct();
     myOpenElements.push_back(quint32(myRows.elements.size()));
     myRows.append(tag);
 }
@@ -25,6 +28,7 @@ void RVCatalogueParser::endElement()
         if (myGroups.back())
             myFamilies.removeLast();
         myGroups.pop_back();
+        myStrayElements.endGroup();
         return;
     }
     myRows.elements[myOpenElements.back()].end = quint32(myRows.elements.size());

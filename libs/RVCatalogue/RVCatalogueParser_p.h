@@ -3,6 +3,7 @@
 
 #include "RVCatalogueProduct.h"
 #include "RVCatalogueProductData_p.h"
+#include "RVStrayElements_p.h"
 #include "RVXmlScanner_p.h"
 
 #include <QList>
@@ -21,6 +22,8 @@ public:
     /// The products that have come to their end since the last call.
     QList<RVCatalogueProduct> take();
 
+    const RVStrayElements &strayElements() const { return myStrayElements; }
+
 private:
     void openGroup(const RVXmlTag &tag);
     void finishProduct();
@@ -31,6 +34,7 @@ private:
     QStringList myFamilies;
     QList<RVCatalogueProduct> myProducts;
     qint64 myNumber = 0;
+    RVStrayElements myStrayElements;
 };
 
 #endif

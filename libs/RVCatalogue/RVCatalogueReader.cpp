@@ -240,11 +240,16 @@ void RVCatalogueReaderPrivate::check(const QList<RVCatalogueProduct> &products) 
 
 QList<RVCatalogueFinding> RVCatalogueReaderPrivate::findings() const
 {
+    if (!myCheck)
+        return {};
+    const QList<RVCatalogueFinding> strays = myParser.strayElements().findings(*myCheck);
     const RVCatalogueRule rule = RVCatalogueRule::find(u"products-missing");
     const bool isMissing = myScanner.isAtEnd() && errorString().isEmpty() && !myHasProducts;
-    if (!isMissing || !myCheck || !myCheck->isEnabled(rule))
-        return {};
-    return { RVCatalogueFinding(rule, RVFileRange(), tr("there is no product in this file")) };
+    if (!isMissing || !myCheck->isEnabled(rule) || RVStrayElements::haveProduct(strays))
+        return strays;
+    RVCatalogueFinding missing(rule, RVFileRange(), tr("there is no product in this file"));
+    missing.setSeverity(myCheck->severity(rule));
+    return QList<RVCatalogueFinding> { missing } + strays;
 }
 
 // An error stands behind the products that were parsed before it.

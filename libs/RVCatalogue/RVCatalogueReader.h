@@ -82,7 +82,8 @@ public:
     template<typename Work, typename Take>
     void map(Work work, Take take);
 
-    /// Findings about the file as a whole; complete once everything was read.
+    /// Findings about the file as a whole, and about elements outside of products, in the order of the file; complete
+    /// once everything was read.
     QList<RVCatalogueFinding> findings() const;
 
     /// True when no product follows, also after an error.

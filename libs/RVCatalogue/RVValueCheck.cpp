@@ -27,7 +27,7 @@ std::optional<int> rvCheckedInt(const RVCatalogueElement &element, QLatin1String
     if (const std::optional<int> number = rvIntValue(element, name))
         return number;
     if (!element.hasAttribute(name))
-        return missing;
+        return report->isMeant(element, name) ? std::nullopt : std::optional(missing);
     addUnreadable(RVCatalogueRuleId::NumberInvalid, element, name,
                   RVFindingText::tr("%1 is %2, which is no whole number"), report);
     return std::nullopt;
@@ -39,7 +39,7 @@ std::optional<double> rvCheckedDouble(const RVCatalogueElement &element, QLatin1
     if (const std::optional<double> number = rvDoubleValue(element, name))
         return number;
     if (!element.hasAttribute(name))
-        return missing;
+        return report->isMeant(element, name) ? std::nullopt : std::optional(missing);
     addUnreadable(RVCatalogueRuleId::NumberInvalid, element, name, RVFindingText::tr("%1 is %2, which is no number"),
                   report);
     return std::nullopt;
@@ -51,7 +51,7 @@ std::optional<bool> rvCheckedBool(const RVCatalogueElement &element, QLatin1Stri
     if (const std::optional<bool> value = rvBoolValue(element, name))
         return value;
     if (!element.hasAttribute(name))
-        return missing;
+        return report->isMeant(element, name) ? std::nullopt : std::optional(missing);
     addUnreadable(RVCatalogueRuleId::BooleanInvalid, element, name,
                   RVFindingText::tr("%1 is %2, which is neither true nor false"), report);
     return std::nullopt;
@@ -62,7 +62,7 @@ bool rvCheckUnit(const RVCatalogueElement &element, RVFindingReport *report)
     constexpr auto name = "units"_L1;
     const bool isKnown = std::find(std::begin(UNITS), std::end(UNITS), element.utf8(name)) != std::end(UNITS);
     if (isKnown || !element.hasAttribute(name))
-        return true;
+        return isKnown || !report->isMeant(element, name);
     report->add(RVCatalogueRuleId::UnitUnknown, element, name,
                 RVFindingText::tr("there is no unit %1; there are mm, cm, inch, in, pt, point and 0.1mm")
                         .arg(rvQuoted(element.attribute(name))));

@@ -27,8 +27,8 @@ void tst_RVCatalogueRule::all()
     QSet<QString> names;
     for (const RVCatalogueRule rule : rules)
         names.insert(rule.name());
-    QCOMPARE(names.size(), qsizetype(30));
-    QCOMPARE(rules.size(), qsizetype(30));
+    QCOMPARE(names.size(), qsizetype(47));
+    QCOMPARE(rules.size(), qsizetype(47));
     QCOMPARE(rules.first().name(), "products-missing"_L1);
     QCOMPARE(rules.last().name(), "price-class-unknown"_L1);
 }
