@@ -1,5 +1,6 @@
 #include "RVBarcodeCheck_p.h"
 
+#include "RVCatalogueCheck.h"
 #include "RVCatalogueProduct.h"
 #include "RVFindingReport_p.h"
 #include "RVFindingText_p.h"
@@ -12,6 +13,7 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 using namespace Qt::StringLiterals;
@@ -19,6 +21,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Barcodes are measured in tenths of a millimetre. No printer prints three metres.
+constexpr double TENTHS_PER_MILLIMETRE = 10;
 constexpr double SQUARE_CENTIMETRE = 10000;
 constexpr int LONGEST_PAGE = 30000;
 /// Nothing is printed that is longer and slimmer, width by height.
@@ -48,6 +51,32 @@ PageRatios pageRatios(const RVOrientation &orientation)
     }
 }
 
+struct OrientationRatios
+{
+    RVOrientationEnum orientation;
+    PageRatios ratios;
+};
+
+/// The proportions by which RVOrientation tells orientations apart.
+constexpr OrientationRatios USUAL_RATIOS[] = {
+    { ORIENTATION_PORTRAIT, { 0.5, 0.9 } },        { ORIENTATION_LANDSCAPE, { 1.1, 2 } },
+    { ORIENTATION_SQUARE, { 0.9, 1.1 } },          { ORIENTATION_PORTRAIT_SLIM, { SLIMMEST, 0.5 } },
+    { ORIENTATION_LANDSCAPE_SLIM, { 2, WIDEST } },
+};
+
+/// From the slimmest to the widest of all orientations that a product has; nothing where it has none.
+std::optional<PageRatios> usualRatios(const RVOrientation &orientation)
+{
+    std::optional<PageRatios> result;
+    for (const OrientationRatios &row : USUAL_RATIOS) {
+        if (!orientation.matches(row.orientation))
+            continue;
+        const PageRatios others = result.value_or(row.ratios);
+        result = { qMin(others.least, row.ratios.least), qMax(others.most, row.ratios.most) };
+    }
+    return result;
+}
+
 /// The area in cm² of the smallest page where the barcode fits, measured from its upper left corner.
 int leastPageArea(const QRect &barcode, const PageRatios &ratios)
 {
@@ -75,27 +104,51 @@ bool overlap(const QRect &a, const QRect &b)
 
 }
 
-/// Of the size of a page nothing is known but its size class and its orientation.
+/// Of the size of a page nothing is known but its size class and its orientation, unless the print house says it.
 struct RVBarcodeCheck::PageSize
 {
-    explicit PageSize(const RVCatalogueProduct &product)
+    PageSize(const RVCatalogueProduct &product, const RVCatalogueCheck &check)
         : magnitude(product.spaceMagnitude()),
-          ratios(pageRatios(product.orientation()))
+          ratios(pageRatios(product.orientation())),
+          usual(usualRatios(product.orientation())),
+          exact(check.pageSize(product.type()))
     { }
 
     /// True where no page is so large. Of the largest class hardly any page is too large, and the usual area of a class
     /// may belong to the next one.
     bool isBelow(const QRect &area) const
     {
-        if (area.right() > LONGEST_PAGE || area.bottom() > LONGEST_PAGE)
-            return true;
-        const int least = leastPageArea(area, ratios);
+        return area.right() > LONGEST_PAGE || area.bottom() > LONGEST_PAGE || isAboveClass(area, ratios);
+    }
+    /// True where no page with the proportions of its orientation is so large.
+    bool isBelowUsual(const QRect &area) const { return usual && isAboveClass(area, *usual); }
+    /// The attribute that is mended first where it is.
+    QLatin1StringView wrongSide(const QRect &area) const
+    {
+        const bool isWide = area.right() / std::sqrt(usual->most) > area.bottom() * std::sqrt(usual->least);
+        return isWide ? "position_x"_L1 : "position_y"_L1;
+    }
+    /// The same for a page of known size.
+    std::optional<QLatin1StringView> sideBeyondExact(const QRect &area) const
+    {
+        const double right = area.right() + 1 - exact.width() * TENTHS_PER_MILLIMETRE;
+        const double bottom = area.bottom() + 1 - exact.height() * TENTHS_PER_MILLIMETRE;
+        if (right <= 0 && bottom <= 0)
+            return std::nullopt;
+        return right > bottom ? "position_x"_L1 : "position_y"_L1;
+    }
+
+    bool isAboveClass(const QRect &area, const PageRatios &proportions) const
+    {
+        const int least = leastPageArea(area, proportions);
         return magnitude.hasExactlyOneBit() && least > magnitude.normativeSize()
                 && RVSpaceMagnitude::fromSquareCentimeters(least).value() > magnitude.value();
     }
 
     RVSpaceMagnitude magnitude;
     PageRatios ratios;
+    std::optional<PageRatios> usual;
+    QSizeF exact; // in millimetres; invalid where it is unknown
 };
 
 void RVBarcodeCheck::check(const RVCatalogueProduct &product)
@@ -106,9 +159,10 @@ void RVBarcodeCheck::check(const RVCatalogueProduct &product)
         return;
     const RVDistanceUnit unit(barcodes.attribute("units"_L1));
     const bool isUnitKnown = rvCheckUnit(barcodes, myReport);
-    const PageSize pageSize(product);
+    const PageSize pageSize(product, myReport->check());
     for (auto element = barcodes.firstChildElement(name); !element.isNull();
          element = element.nextSiblingElement(name)) {
+        checkMissing(element);
         const std::optional<Barcode> barcode = read(element, unit);
         if (!barcode)
             continue;
@@ -119,6 +173,27 @@ void RVBarcodeCheck::check(const RVCatalogueProduct &product)
         else if (isUnitKnown)
             checkArea(*barcode, pageSize);
     }
+}
+
+/// Finds what a barcode needs, though it has defaults.
+void RVBarcodeCheck::checkMissing(const RVCatalogueElement &element)
+{
+    constexpr auto page = "pageNr"_L1;
+    const auto isMissing = [&](QLatin1StringView name) {
+        return !element.hasAttribute(name) && !myReport->isMeant(element, name);
+    };
+    QStringList missing;
+    for (const QLatin1StringView name : { "width"_L1, "height"_L1 }) {
+        if (isMissing(name))
+            missing += name;
+    }
+    if (!missing.isEmpty())
+        myReport->add(RVCatalogueRuleId::BarcodeSizeMissing, element,
+                      RVFindingText::tr("the barcode has no %1, so it is 1 unit")
+                              .arg(missing.join(RVFindingText::tr(" and no "))));
+    if (isMissing(page))
+        myReport->add(RVCatalogueRuleId::BarcodePageMissing, element, page,
+                      RVFindingText::tr("the barcode has no page number (pageNr), so it stands on page 0"));
 }
 
 /// Nothing where a number cannot be read.
@@ -175,12 +250,39 @@ bool RVBarcodeCheck::checkEdges(const Barcode &barcode, const PageSize &pageSize
         return addOutside(
                 barcode, "position_y"_L1,
                 RVFindingText::tr("the barcode begins above the page; write a position_y of at least its height"));
-    if (!pageSize.isBelow(area))
+    if (pageSize.exact.isValid())
+        return checkExactPage(barcode, pageSize);
+    const bool isOffUsual = pageSize.isBelowUsual(area);
+    if (!pageSize.isBelow(area) && !isOffUsual)
         return true;
-    const QString text = RVFindingText::tr("the barcode ends %1 mm from the left and %2 mm from the top, where there "
-                                           "is no page; move it, or make it smaller");
-    return addOutside(barcode, area.right() > area.bottom() ? "position_x"_L1 : "position_y"_L1,
-                      text.arg(millimetres(area.right() + 1.0), millimetres(area.bottom() + 1.0)));
+    const QString right = millimetres(area.right() + 1.0);
+    const QString bottom = millimetres(area.bottom() + 1.0);
+    if (pageSize.isBelow(area))
+        return addOutside(barcode, area.right() > area.bottom() ? "position_x"_L1 : "position_y"_L1,
+                          RVFindingText::tr("the barcode ends %1 mm from the left and %2 mm from the top, where there "
+                                            "is no page; move it, or make it smaller")
+                                  .arg(right, bottom));
+    myReport->add(RVCatalogueRuleId::BarcodeOffUsualPage, barcode.element, pageSize.wrongSide(area),
+                  RVFindingText::tr("the barcode ends %1 mm from the left and %2 mm from the top, but no page of this "
+                                    "size class and orientation is so large")
+                          .arg(right, bottom));
+    return false;
+}
+
+/// False where the barcode leaves a page of known size.
+bool RVBarcodeCheck::checkExactPage(const Barcode &barcode, const PageSize &pageSize)
+{
+    const std::optional<QLatin1StringView> side = pageSize.sideBeyondExact(barcode.area);
+    if (!side)
+        return true;
+    const QSizeF &page = pageSize.exact;
+    return addOutside(
+            barcode, *side,
+            RVFindingText::tr(
+                    "the barcode ends %1 mm from the left and %2 mm from the top, but the page has %3 by %4 mm")
+                    .arg(millimetres(barcode.area.right() + 1.0), millimetres(barcode.area.bottom() + 1.0),
+                         millimetres(page.width() * TENTHS_PER_MILLIMETRE),
+                         millimetres(page.height() * TENTHS_PER_MILLIMETRE)));
 }
 
 /// False, as the barcode leaves the page.

@@ -35,10 +35,12 @@ private:
         int page;
     };
 
+    void checkMissing(const RVCatalogueElement &element);
     std::optional<Barcode> read(const RVCatalogueElement &element, const RVDistanceUnit &unit);
     void checkPage(const Barcode &barcode);
     void checkArea(const Barcode &barcode, const PageSize &pageSize);
     bool checkEdges(const Barcode &barcode, const PageSize &pageSize);
+    bool checkExactPage(const Barcode &barcode, const PageSize &pageSize);
     bool addOutside(const Barcode &barcode, QLatin1StringView attribute, const QString &text);
     void checkOverlap(const Barcode &barcode);
 

@@ -6,6 +6,7 @@
 #include "RVFindingReport_p.h"
 #include "RVIdCheck_p.h"
 #include "RVKeywordCheck_p.h"
+#include "RVNameCheck_p.h"
 #include "RVOptionCheck_p.h"
 #include "RVPageCountCheck_p.h"
 #include "RVPartCheck_p.h"
@@ -124,6 +125,7 @@ QList<RVCatalogueFinding> RVCatalogueCheck::findings(const RVCatalogueProduct &p
 QList<RVCatalogueFinding> RVCatalogueCheck::allFindings(const RVCatalogueProduct &product) const
 {
     RVFindingReport report(*this, product);
+    RVNameCheck(&report).check(product);
     RVIdCheck(&report).check(product);
     RVPartCheck(&report).check(product);
     RVKeywordCheck(&report).check(product);

@@ -41,6 +41,15 @@ RVFileRange piece(const RVCatalogueRows &rows, const RVCatalogueRows::Element &e
     return { first, rvAdvanced(first, tag.first(end).sliced(begin), next) };
 }
 
+RVFileRange rangeOf(const RVCatalogueRows &rows, const RVCatalogueRows::Element &element,
+                    const RVCatalogueRows::Attribute &attribute)
+{
+    // A document type may give an attribute to an element that does not have it in the file.
+    if (attribute.name.begin >= element.tag.begin + element.tag.size)
+        return { element.position, place(rows, element, element.tag.size) };
+    return piece(rows, element, attribute.name.begin - element.tag.begin, attribute.end - element.tag.begin);
+}
+
 }
 
 RVCatalogueElement::RVCatalogueElement(const RVCatalogueProductData *data, quint32 index, quint32 siblingsEnd) noexcept
@@ -52,6 +61,11 @@ RVCatalogueElement::RVCatalogueElement(const RVCatalogueProductData *data, quint
 QString RVCatalogueElement::name() const
 {
     return d ? QString::fromUtf8(d->rows.name(d->rows.elements[myIndex])) : QString();
+}
+
+QByteArrayView RVCatalogueElement::utf8Name() const noexcept
+{
+    return d ? d->rows.name(d->rows.elements[myIndex]) : QByteArrayView();
 }
 
 bool RVCatalogueElement::hasAttribute(QLatin1StringView name) const noexcept
@@ -82,6 +96,16 @@ QStringList RVCatalogueElement::attributeNames() const
     return result;
 }
 
+int RVCatalogueElement::attributeCount() const noexcept
+{
+    return d ? int(d->rows.elements[myIndex].attributesEnd - d->rows.elements[myIndex].attributesBegin) : 0;
+}
+
+QByteArrayView RVCatalogueElement::attributeName(int index) const noexcept
+{
+    return d->rows.view(d->rows.attributes[d->rows.elements[myIndex].attributesBegin + quint32(index)].name);
+}
+
 RVFilePosition RVCatalogueElement::position() const
 {
     return d ? d->rows.elements[myIndex].position : RVFilePosition();
@@ -101,10 +125,13 @@ RVFileRange RVCatalogueElement::attributeRange(QLatin1StringView name) const
         return RVFileRange();
     const RVCatalogueRows::Element &element = d->rows.elements[myIndex];
     const auto *attribute = findAttribute(d->rows, element, name);
-    // A document type may give an attribute to an element that does not have it in the file.
-    if (!attribute || attribute->name.begin >= element.tag.begin + element.tag.size)
-        return range();
-    return piece(d->rows, element, attribute->name.begin - element.tag.begin, attribute->end - element.tag.begin);
+    return attribute ? rangeOf(d->rows, element, *attribute) : range();
+}
+
+RVFileRange RVCatalogueElement::attributeRange(int index) const
+{
+    const RVCatalogueRows::Element &element = d->rows.elements[myIndex];
+    return rangeOf(d->rows, element, d->rows.attributes[element.attributesBegin + quint32(index)]);
 }
 
 std::optional<RVFileRange> RVCatalogueElement::valueRange(QLatin1StringView name, qsizetype from,

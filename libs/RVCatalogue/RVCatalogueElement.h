@@ -32,6 +32,7 @@ public:
 
     bool isNull() const noexcept { return !d; } ///< True for the default element, and where there was none to return.
     QString name() const; ///< With its prefix; empty for a null element.
+    QByteArrayView utf8Name() const noexcept; ///< The same in UTF-8 and without a copy.
 
     bool hasAttribute(QLatin1StringView name) const noexcept; ///< Also where its value is empty.
     /// The value as XML reads it, entities resolved; null where the attribute is missing, empty where its text is.
@@ -40,12 +41,18 @@ public:
     QByteArrayView utf8(QLatin1StringView name) const noexcept;
     /// In the order of the file.
     QStringList attributeNames() const;
+    int attributeCount() const noexcept; ///< 0 for a null element.
+    /// The name of one of them, from 0 to attributeCount() - 1, in UTF-8 and without a copy.
+    QByteArrayView attributeName(int index) const noexcept;
 
     RVFilePosition position() const; ///< Of the "<" of the start tag.
     RVFileRange range() const; ///< The start tag, from "<" to ">".
     /// The attribute from the first letter of its name to the quote behind its value; the start tag where it is
     /// missing.
+    /// @{
     RVFileRange attributeRange(QLatin1StringView name) const;
+    RVFileRange attributeRange(int index) const;
+    /// @}
     /// A piece of a value, @p length UTF-16 code units from @p from on, which is read where it stands. Nothing where
     /// the value has no such piece, where references or line ends make XML read something else than what stands in the
     /// file, and where the attribute is not in the file.

@@ -13,10 +13,13 @@ void RVCatalogueParser::startElement(const RVXmlTag &tag)
 {
     if (myOpenElements.empty() && tag.name != PRODUCT) {
         openGroup(tag);
+        myStrayElements.startGroup(tag, myScope);
         return;
     }
     if (!myWaiting.empty())
         attachToProduct(true);
+    if (myOpenElements.empty())
+        myStrayElements.startProduct();
     myOpenElements.push_back(quint32(myRows.elements.size()));
     myRows.append(tag);
 }
@@ -24,6 +27,7 @@ void RVCatalogueParser::startElement(const RVXmlTag &tag)
 void RVCatalogueParser::endElement()
 {
     if (myOpenElements.empty()) {
+        myStrayElements.endGroup();
         closeGroup();
         return;
     }

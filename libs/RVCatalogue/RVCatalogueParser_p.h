@@ -3,6 +3,7 @@
 
 #include "RVCatalogueProduct.h"
 #include "RVCatalogueProductData_p.h"
+#include "RVStrayElements_p.h"
 #include "RVXmlScanner_p.h"
 
 #include <QList>
@@ -28,6 +29,8 @@ public:
     /// True where a comment in front of the root element says that the file need not have products.
     bool isMissingSilenced() const { return myIsMissingSilenced; }
 
+    const RVStrayElements &strayElements() const { return myStrayElements; }
+
 private:
     void openGroup(const RVXmlTag &tag);
     void closeGroup();
@@ -48,6 +51,7 @@ private:
     bool myIsMissingSilenced = false;
     QList<RVCatalogueProduct> myProducts;
     qint64 myNumber = 0;
+    RVStrayElements myStrayElements;
 };
 
 #endif

@@ -312,13 +312,17 @@ QList<RVCatalogueFinding> RVCatalogueReaderPrivate::findings()
     if (!myCheck)
         return {};
     judgeGroups();
+    const QList<RVCatalogueFinding> strays = myParser.strayElements().findings(*myCheck);
     const RVCatalogueRule rule = RVCatalogueRuleRow::rule(RVCatalogueRuleId::ProductsMissing);
+    const bool isTold = !myCheck->isEnabled(rule) || myParser.isMissingSilenced() || RVStrayElements::haveProduct(strays);
     QList<RVCatalogueFinding> result;
-    if (isMissing() && myCheck->isEnabled(rule) && !myParser.isMissingSilenced()) {
+    if (isMissing() && !isTold) {
         result += RVCatalogueFinding(rule, RVFileRange(), tr("there is no product in this file"));
         result.last().setSeverity(myCheck->severity(rule));
     }
-    return result + myGroupSilence->findings();
+    result += strays + myGroupSilence->findings();
+    rvSort(&result);
+    return result;
 }
 
 bool RVCatalogueReaderPrivate::isMissing() const

@@ -92,8 +92,8 @@ public:
     /// machine, but not more than 8, since more would wait for the reading one. Before map() is called.
     void setThreadCount(int count);
 
-    /// Findings about the file as a whole and about comments in front of groups of products; complete once everything
-    /// was read. In the order of the file.
+    /// Findings about the file as a whole, about elements outside of products, and about comments in front of groups of
+    /// products; complete once everything was read. In the order of the file.
     QList<RVCatalogueFinding> findings() const;
 
     /// True when no product follows, also after an error.

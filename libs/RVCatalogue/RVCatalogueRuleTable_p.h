@@ -19,6 +19,11 @@ enum class RVCatalogueRuleId {
     ArticleIdDuplicate,
     ShippingGroupInvalid,
     ElementIgnored,
+    ElementMisspelt,
+    ElementMisplaced,
+    ElementPrefixed,
+    AttributeMisspelt,
+    AttributeMisplaced,
     NumberInvalid,
     BooleanInvalid,
     UnitUnknown,
@@ -27,19 +32,31 @@ enum class RVCatalogueRuleId {
     PageCountsReversed,
     PageCountsInvalid,
     PageStepMissesHighest,
+    MaxPagesMissing,
+    PageCountsExcessive,
     SpineMissing,
     SpineNegative,
     SpineFontTooSmall,
+    SpineBaseMissing,
+    SpinePackagesMissing,
+    SpineTooWide,
     OptionIncomplete,
     OptionDuplicate,
     OptionDefaultTwice,
     OptionDefaultMissing,
     OptionColorInvalid,
     OptionCompositeMismatch,
+    OptionSeparator,
+    OptionBlank,
+    OptionLetterCase,
+    OptionKeyNames,
     BarcodeInvalid,
     BarcodePageImpossible,
     BarcodeOutsidePage,
     BarcodeOverlap,
+    BarcodeSizeMissing,
+    BarcodePageMissing,
+    BarcodeOffUsualPage,
     PriceClassUnknown,
     SuppressionUnused,
     SuppressionUnknown,
@@ -162,6 +179,81 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
   </product>
 </products>
 )" },
+    { RVCatalogueRuleId::ElementMisspelt, RVCatalogueSeverity::Warning, QLatin1StringView("element-misspelt"),
+      QT_TRANSLATE_NOOP("RVFindingText", "An element whose name is not exactly a known one is passed over with everything in it."),
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <forms>
+      <from key="alcolor" value="black"/>
+    </forms>
+  </product>
+</products>
+)", R"(<products>
+  <product type="DUN9" article_id="1001">
+    <forms>
+      <form key="alcolor" value="black"/>
+    </forms>
+  </product>
+</products>
+)" },
+    { RVCatalogueRuleId::ElementMisplaced, RVCatalogueSeverity::Warning, QLatin1StringView("element-misplaced"),
+      QT_TRANSLATE_NOOP("RVFindingText", "An element is read only where it belongs; anywhere else it is passed over with everything in it."),
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <form key="alcolor" value="black"/>
+  </product>
+</products>
+)", R"(<products>
+  <product type="DUN9" article_id="1001">
+    <forms>
+      <form key="alcolor" value="black"/>
+    </forms>
+  </product>
+</products>
+)" },
+    { RVCatalogueRuleId::ElementPrefixed, RVCatalogueSeverity::Warning, QLatin1StringView("element-prefixed"),
+      QT_TRANSLATE_NOOP("RVFindingText", "Names are compared with their prefixes, so an element with one is passed over with everything in it."),
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <forms>
+      <x:form xmlns:x="urn:example" key="alcolor" value="black"/>
+    </forms>
+  </product>
+</products>
+)", R"(<products>
+  <product type="DUN9" article_id="1001">
+    <forms>
+      <form key="alcolor" value="black"/>
+    </forms>
+  </product>
+</products>
+)" },
+    { RVCatalogueRuleId::AttributeMisspelt, RVCatalogueSeverity::Warning, QLatin1StringView("attribute-misspelt"),
+      QT_TRANSLATE_NOOP("RVFindingText", "An attribute whose name is not exactly a known one is passed over, and the default stands in its place."),
+      R"(<products>
+  <product type="DUN9" article_id="1001" pages="26" max_page="154" page_step="4"/>
+</products>
+)", R"(<products>
+  <product type="DUN9" article_id="1001" pages="26" max_pages="154" page_step="4"/>
+</products>
+)" },
+    { RVCatalogueRuleId::AttributeMisplaced, RVCatalogueSeverity::Warning, QLatin1StringView("attribute-misplaced"),
+      QT_TRANSLATE_NOOP("RVFindingText", "An attribute is read only of the elements that it belongs to; of any other it is passed over, and the default stands in its place."),
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <composition>
+      <spine units="cm" base_width="0.8"/>
+    </composition>
+  </product>
+</products>
+)", R"(<products>
+  <product type="DUN9" article_id="1001">
+    <composition units="cm">
+      <spine base_width="0.8"/>
+    </composition>
+  </product>
+</products>
+)" },
     { RVCatalogueRuleId::NumberInvalid, RVCatalogueSeverity::Error, QLatin1StringView("number-invalid"),
       QT_TRANSLATE_NOOP("RVFindingText", "What cannot be read as a number silently becomes the default."),
       R"(<products>
@@ -258,6 +350,24 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
   <product type="DUN9" article_id="1001" pages="26" max_pages="154" page_step="4"/>
 </products>
 )" },
+    { RVCatalogueRuleId::MaxPagesMissing, RVCatalogueSeverity::Warning, QLatin1StringView("max-pages-missing"),
+      QT_TRANSLATE_NOOP("RVFindingText", "Without a highest page count the lowest is the only one, and no step leads anywhere."),
+      R"(<products>
+  <product type="DUN9" article_id="1001" pages="26" page_step="4"/>
+</products>
+)", R"(<products>
+  <product type="DUN9" article_id="1001" pages="26" max_pages="154" page_step="4"/>
+</products>
+)" },
+    { RVCatalogueRuleId::PageCountsExcessive, RVCatalogueSeverity::Warning, QLatin1StringView("page-counts-excessive"),
+      QT_TRANSLATE_NOOP("RVFindingText", "Nobody prints a product in more than a thousand page counts, so one of the numbers is probably mistyped."),
+      R"(<products>
+  <product type="DUN9" article_id="1001" pages="26" max_pages="15400" page_step="2"/>
+</products>
+)", R"(<products>
+  <product type="DUN9" article_id="1001" pages="26" max_pages="154" page_step="2"/>
+</products>
+)" },
     { RVCatalogueRuleId::SpineMissing, RVCatalogueSeverity::Error, QLatin1StringView("spine-missing"),
       QT_TRANSLATE_NOOP("RVFindingText", "A glued or lay-flat book has a spine, and without its widths the cover is made too narrow."),
       R"(<products>
@@ -304,6 +414,57 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
   <product type="DUN9" article_id="1001" page_binding="glue" pages="26" max_pages="154" page_step="4">
     <composition units="mm">
       <spine packages_per_block="2" base_width="8" block_width="0.5" additional_width="0.5"/>
+    </composition>
+  </product>
+</products>
+)" },
+    { RVCatalogueRuleId::SpineBaseMissing, RVCatalogueSeverity::Warning, QLatin1StringView("spine-base-missing"),
+      QT_TRANSLATE_NOOP("RVFindingText", "Without a base width the block of pages has no thickness at the lowest page count, so the cover is made too narrow."),
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <composition units="mm">
+      <spine additional_width="0.5"/>
+    </composition>
+  </product>
+</products>
+)", R"(<products>
+  <product type="DUN9" article_id="1001">
+    <composition units="mm">
+      <spine base_width="8" additional_width="0.5"/>
+    </composition>
+  </product>
+</products>
+)" },
+    { RVCatalogueRuleId::SpinePackagesMissing, RVCatalogueSeverity::Warning, QLatin1StringView("spine-packages-missing"),
+      QT_TRANSLATE_NOOP("RVFindingText", "A block width counts only with the number of packages that make a block; without it the spine never grows."),
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <composition units="mm">
+      <spine base_width="8" block_width="1"/>
+    </composition>
+  </product>
+</products>
+)", R"(<products>
+  <product type="DUN9" article_id="1001">
+    <composition units="mm">
+      <spine packages_per_block="2" base_width="8" block_width="1"/>
+    </composition>
+  </product>
+</products>
+)" },
+    { RVCatalogueRuleId::SpineTooWide, RVCatalogueSeverity::Warning, QLatin1StringView("spine-too-wide"),
+      QT_TRANSLATE_NOOP("RVFindingText", "Industrial perfect binders take blocks of at most about 80 mm, so a wider spine is probably given in a wrong unit."),
+      R"(<products>
+  <product type="DUN9" article_id="1001" page_binding="glue">
+    <composition units="mm">
+      <spine base_width="81"/>
+    </composition>
+  </product>
+</products>
+)", R"(<products>
+  <product type="DUN9" article_id="1001" page_binding="glue">
+    <composition units="mm">
+      <spine base_width="8.1"/>
     </composition>
   </product>
 </products>
@@ -422,20 +583,92 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
   </product>
 </products>
 )" },
+    { RVCatalogueRuleId::OptionSeparator, RVCatalogueSeverity::Warning, QLatin1StringView("option-separator"),
+      QT_TRANSLATE_NOOP("RVFindingText", "In orders commas separate options and colons keys from values, so an option with one of them is read as something else; only semicolons join keys, and values, that are chosen together."),
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <forms>
+      <form key="alcolor" value="black,red"/>
+    </forms>
+  </product>
+</products>
+)", R"(<products>
+  <product type="DUN9" article_id="1001">
+    <forms>
+      <form key="alcolor" value="black"/>
+    </forms>
+  </product>
+</products>
+)" },
+    { RVCatalogueRuleId::OptionBlank, RVCatalogueSeverity::Warning, QLatin1StringView("option-blank"),
+      QT_TRANSLATE_NOOP("RVFindingText", "Keys and values are compared letter by letter, and a blank is a letter that nobody sees."),
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <forms>
+      <form key="alcolor" value="black "/>
+    </forms>
+  </product>
+</products>
+)", R"(<products>
+  <product type="DUN9" article_id="1001">
+    <forms>
+      <form key="alcolor" value="black"/>
+    </forms>
+  </product>
+</products>
+)" },
+    { RVCatalogueRuleId::OptionLetterCase, RVCatalogueSeverity::Warning, QLatin1StringView("option-letter-case"),
+      QT_TRANSLATE_NOOP("RVFindingText", "Letter case counts in keys and values, so two spellings are two options."),
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <forms>
+      <form key="alcolor" value="black" preselected="true"/>
+      <form key="alcolor" value="Black"/>
+    </forms>
+  </product>
+</products>
+)", R"(<products>
+  <product type="DUN9" article_id="1001">
+    <forms>
+      <form key="alcolor" value="black" preselected="true"/>
+      <form key="alcolor" value="red"/>
+    </forms>
+  </product>
+</products>
+)" },
+    { RVCatalogueRuleId::OptionKeyNames, RVCatalogueSeverity::Warning, QLatin1StringView("option-key-names"),
+      QT_TRANSLATE_NOOP("RVFindingText", "The customer reads one name for each key, so of several names all but one are lost."),
+      R"(<products>
+  <product type="DUN9" article_id="1001">
+    <forms>
+      <form key="alcolor" key_name="Color" value="black" preselected="true"/>
+      <form key="alcolor" key_name="Cover" value="red"/>
+    </forms>
+  </product>
+</products>
+)", R"(<products>
+  <product type="DUN9" article_id="1001">
+    <forms>
+      <form key="alcolor" key_name="Color" value="black" preselected="true"/>
+      <form key="alcolor" key_name="Color" value="red"/>
+    </forms>
+  </product>
+</products>
+)" },
     { RVCatalogueRuleId::BarcodeInvalid, RVCatalogueSeverity::Error, QLatin1StringView("barcode-invalid"),
       QT_TRANSLATE_NOOP("RVFindingText", "A barcode without extent or image is dropped, and production cannot tell the product."),
       R"(<products>
-  <product type="DUN9" article_id="1001">
+  <product type="DUN9" article_id="1001" pages="26">
     <barcodes units="mm">
-      <barcode position_x="12" position_y="290" width="0" height="10"/>
+      <barcode position_x="12" position_y="290" width="0" height="10" pageNr="2"/>
     </barcodes>
   </product>
 </products>
 )",
       R"(<products>
-  <product type="DUN9" article_id="1001">
+  <product type="DUN9" article_id="1001" pages="26">
     <barcodes units="mm">
-      <barcode position_x="12" position_y="290" width="38" height="10"/>
+      <barcode position_x="12" position_y="290" width="38" height="10" pageNr="2"/>
     </barcodes>
   </product>
 </products>
@@ -461,17 +694,17 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
     { RVCatalogueRuleId::BarcodeOutsidePage, RVCatalogueSeverity::Error, QLatin1StringView("barcode-outside-page"),
       QT_TRANSLATE_NOOP("RVFindingText", "A barcode that leaves its page is cut off and cannot be read."),
       R"(<products>
-  <product type="DUN9" article_id="1001">
+  <product type="DUN9" article_id="1001" pages="26">
     <barcodes units="mm">
-      <barcode position_x="-12" position_y="290" width="38" height="10"/>
+      <barcode position_x="-12" position_y="290" width="38" height="10" pageNr="2"/>
     </barcodes>
   </product>
 </products>
 )",
       R"(<products>
-  <product type="DUN9" article_id="1001">
+  <product type="DUN9" article_id="1001" pages="26">
     <barcodes units="mm">
-      <barcode position_x="12" position_y="290" width="38" height="10"/>
+      <barcode position_x="12" position_y="290" width="38" height="10" pageNr="2"/>
     </barcodes>
   </product>
 </products>
@@ -479,19 +712,70 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
     { RVCatalogueRuleId::BarcodeOverlap, RVCatalogueSeverity::Error, QLatin1StringView("barcode-overlap"),
       QT_TRANSLATE_NOOP("RVFindingText", "Barcodes that overlap cannot be read."),
       R"(<products>
-  <product type="DUN9" article_id="1001">
+  <product type="DUN9" article_id="1001" pages="26">
     <barcodes units="mm">
-      <barcode position_x="12" position_y="290" width="38" height="10"/>
-      <barcode position_x="40" position_y="290" width="38" height="10"/>
+      <barcode position_x="12" position_y="290" width="38" height="10" pageNr="2"/>
+      <barcode position_x="40" position_y="290" width="38" height="10" pageNr="2"/>
     </barcodes>
   </product>
 </products>
 )",
       R"(<products>
-  <product type="DUN9" article_id="1001">
+  <product type="DUN9" article_id="1001" pages="26">
+    <barcodes units="mm">
+      <barcode position_x="12" position_y="290" width="38" height="10" pageNr="2"/>
+      <barcode position_x="60" position_y="290" width="38" height="10" pageNr="2"/>
+    </barcodes>
+  </product>
+</products>
+)" },
+    { RVCatalogueRuleId::BarcodeSizeMissing, RVCatalogueSeverity::Warning, QLatin1StringView("barcode-size-missing"),
+      QT_TRANSLATE_NOOP("RVFindingText", "A barcode without width or height is printed with a single unit, which no scanner can read."),
+      R"(<products>
+  <product type="DUN9" article_id="1001" pages="26">
+    <barcodes units="mm">
+      <barcode position_x="12" position_y="290" width="38" pageNr="2"/>
+    </barcodes>
+  </product>
+</products>
+)", R"(<products>
+  <product type="DUN9" article_id="1001" pages="26">
+    <barcodes units="mm">
+      <barcode position_x="12" position_y="290" width="38" height="10" pageNr="2"/>
+    </barcodes>
+  </product>
+</products>
+)" },
+    { RVCatalogueRuleId::BarcodePageMissing, RVCatalogueSeverity::Warning, QLatin1StringView("barcode-page-missing"),
+      QT_TRANSLATE_NOOP("RVFindingText", "A barcode without a page number stands on page 0."),
+      R"(<products>
+  <product type="DUN9" article_id="1001" pages="26">
     <barcodes units="mm">
       <barcode position_x="12" position_y="290" width="38" height="10"/>
-      <barcode position_x="60" position_y="290" width="38" height="10"/>
+    </barcodes>
+  </product>
+</products>
+)", R"(<products>
+  <product type="DUN9" article_id="1001" pages="26">
+    <barcodes units="mm">
+      <barcode position_x="12" position_y="290" width="38" height="10" pageNr="2"/>
+    </barcodes>
+  </product>
+</products>
+)" },
+    { RVCatalogueRuleId::BarcodeOffUsualPage, RVCatalogueSeverity::Warning, QLatin1StringView("barcode-off-usual-page"),
+      QT_TRANSLATE_NOOP("RVFindingText", "A barcode that stands beyond every page of the size class and orientation is cut off and cannot be read."),
+      R"(<products>
+  <product type="DUN9" article_id="1001" pages="26" orientation="portrait" space_magnitude="600cm2">
+    <barcodes units="mm">
+      <barcode position_x="12" position_y="590" width="38" height="10" pageNr="2"/>
+    </barcodes>
+  </product>
+</products>
+)", R"(<products>
+  <product type="DUN9" article_id="1001" pages="26" orientation="portrait" space_magnitude="600cm2">
+    <barcodes units="mm">
+      <barcode position_x="12" position_y="290" width="38" height="10" pageNr="2"/>
     </barcodes>
   </product>
 </products>

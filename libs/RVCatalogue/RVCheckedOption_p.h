@@ -22,7 +22,7 @@ struct RVCheckedOption
 /// The forms of a product, in the order of the file. A product has some few.
 using RVCheckedOptions = QVarLengthArray<RVCheckedOption, 12>;
 
-/// Those with a key, by key and value, and of equal ones in the order of the file.
+/// Those with a key, by key and value in the order of rvCompareSpellings(), and of equal ones in the order of the file.
 using RVOptionsByKey = QVarLengthArray<const RVCheckedOption *, 12>;
 
 #endif

@@ -2,6 +2,7 @@
 
 #include "RVCatalogueCheck.h"
 #include "RVCatalogueProduct.h"
+#include "RVNameVocabulary_p.h"
 
 #include <algorithm>
 #include <optional>
@@ -28,6 +29,8 @@ void RVFindingReport::add(RVCatalogueRuleId rule, const RVCatalogueElement &elem
 void RVFindingReport::add(RVCatalogueRuleId rule, const RVCatalogueElement &element, QLatin1StringView attribute,
                           const QString &text, const RVFindingDetails &details)
 {
+    if (isMeant(element, attribute) && !element.hasAttribute(attribute))
+        return;
     add(rule, element.attributeRange(attribute), text, details);
 }
 
@@ -43,6 +46,39 @@ void RVFindingReport::add(RVCatalogueRuleId rule, const RVFileRange &range, cons
     finding.setRelatedPlaces(details.places);
     finding.setFix(details.fix);
     myFindings += finding;
+}
+
+void RVFindingReport::addMeant(RVCatalogueRuleId rule, const RVCatalogueElement &element, QLatin1StringView attribute)
+{
+    addMeant(rule, { element.position(), QLatin1StringView(), attribute });
+}
+
+void RVFindingReport::addMeant(RVCatalogueRuleId rule, QLatin1StringView elementName, QLatin1StringView attribute)
+{
+    addMeant(rule, { RVFilePosition(), elementName, attribute });
+}
+
+void RVFindingReport::addMeant(RVCatalogueRuleId rule, const Meant &meant)
+{
+    const RVCatalogueRule broken = RVCatalogueRuleRow::rule(rule);
+    if (myCheck.isEnabled(broken) && myCheck.severity(broken) != RVCatalogueSeverity::Note)
+        myMeant += meant;
+}
+
+bool RVFindingReport::isMeant(const RVCatalogueElement &element, QLatin1StringView attribute) const
+{
+    return std::any_of(myMeant.begin(), myMeant.end(), [&](const Meant &meant) {
+        return meant.attribute == attribute
+                && (meant.elementName.isEmpty() ? meant.position == element.position()
+                                                : rvIsName(element.utf8Name(), meant.elementName));
+    });
+}
+
+bool RVFindingReport::isMeant(QLatin1StringView elementName) const
+{
+    return std::any_of(myMeant.begin(), myMeant.end(), [elementName](const Meant &meant) {
+        return meant.elementName == elementName && meant.attribute.isEmpty();
+    });
 }
 
 QList<RVCatalogueFinding> RVFindingReport::sorted() const

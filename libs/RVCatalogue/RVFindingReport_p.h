@@ -34,20 +34,40 @@ public:
     /// Adds a finding at the start tag, for faults that are not in a single attribute.
     void add(RVCatalogueRuleId rule, const RVCatalogueElement &element, const QString &text,
              const RVFindingDetails &details = {});
-    /// At the attribute; at the start tag where the attribute is missing.
+    /// At the attribute; at the start tag where the attribute is missing. A missing one that was meant is no finding.
     void add(RVCatalogueRuleId rule, const RVCatalogueElement &element, QLatin1StringView attribute,
              const QString &text, const RVFindingDetails &details = {});
     /// At any place.
     void add(RVCatalogueRuleId rule, const RVFileRange &range, const QString &text,
              const RVFindingDetails &details = {});
 
+    /// Something that is there under a wrong name or at a wrong place, which a finding of @p rule says already. Nothing
+    /// calls it missing then, unless that finding is switched off or a mere note: an attribute of this element, an
+    /// attribute of the elements of a name, or an element.
+    /// @{
+    void addMeant(RVCatalogueRuleId rule, const RVCatalogueElement &element, QLatin1StringView attribute);
+    void addMeant(RVCatalogueRuleId rule, QLatin1StringView elementName, QLatin1StringView attribute = {});
+    bool isMeant(const RVCatalogueElement &element, QLatin1StringView attribute) const;
+    bool isMeant(QLatin1StringView elementName) const;
+    /// @}
+
     /// In the order of the file; those of one place as they were added.
     QList<RVCatalogueFinding> sorted() const;
 
 private:
+    struct Meant
+    {
+        RVFilePosition position; // of the element, where it has no name here
+        QLatin1StringView elementName;
+        QLatin1StringView attribute; // empty for the element itself
+    };
+
+    void addMeant(RVCatalogueRuleId rule, const Meant &meant);
+
     const RVCatalogueCheck &myCheck;
     const RVCatalogueProduct &myProduct;
     QList<RVCatalogueFinding> myFindings;
+    QList<Meant> myMeant;
 };
 
 /// Puts findings in the order of the file.

@@ -5,6 +5,7 @@
 #include "RVFindingReport_p.h"
 #include "RVFindingText_p.h"
 #include "RVOptionDefaultCheck_p.h"
+#include "RVOptionSpellingCheck_p.h"
 #include "RVPriceClassCheck_p.h"
 #include "RVValueCheck_p.h"
 
@@ -42,9 +43,9 @@ RVOptionsByKey byKey(const RVCheckedOptions &options)
             result += &option;
     }
     std::sort(result.begin(), result.end(), [](const RVCheckedOption *a, const RVCheckedOption *b) {
-        if (const int order = a->key.compare(b->key))
+        if (const int order = rvCompareSpellings(a->key, b->key))
             return order < 0;
-        const int order = a->value.compare(b->value);
+        const int order = rvCompareSpellings(a->value, b->value);
         return order != 0 ? order < 0 : std::less<>()(a, b);
     });
     return result;
@@ -61,6 +62,7 @@ void RVOptionCheck::check(const RVCatalogueProduct &product)
         options += checkForm(form);
     const RVOptionsByKey sorted = byKey(options);
     checkDuplicates(sorted);
+    RVOptionSpellingCheck(myReport).check(sorted);
     RVOptionDefaultCheck(myReport).check(options, sorted);
 }
 

@@ -2,6 +2,7 @@
 
 #include "RVFindingReport_p.h"
 #include "RVFindingText_p.h"
+#include "RVOptionSpellingCheck_p.h"
 
 #include <algorithm>
 #include <functional>
@@ -90,17 +91,20 @@ struct RVOptionDefaultCheck::Key
 
 void RVOptionDefaultCheck::check(const RVCheckedOptions &options, const RVOptionsByKey &byKey)
 {
-    const bool canTell = isCertain(options);
+    const bool canTell = isCertain(options) && !myReport->isMeant("form"_L1);
     const bool hasDefaults = hasPreselected(byKey);
     const QVarLengthArray<qsizetype, 4> meantForOthers = mismatches(options);
     for (Iterator begin = byKey.begin(); begin != byKey.end();) {
         Iterator end = std::find_if(begin, byKey.end(),
                                     [begin](const RVCheckedOption *option) { return option->key != (*begin)->key; });
         const Key key(begin, end);
+        // Of two spellings of a key that is one mistake, the default of one is meant for both.
+        const bool isSpeltTwice = (begin != byKey.begin() && rvIsOtherSpelling((*begin)->key, (*(begin - 1))->key))
+                || (end != byKey.end() && rvIsOtherSpelling((*begin)->key, (*end)->key));
         begin = end;
         if (key.preselectedToo)
             addTwice(key);
-        if (!key.first || key.preselected || !canTell || (!hasDefaults && key.values < 2))
+        if (!key.first || key.preselected || !canTell || isSpeltTwice || (!hasDefaults && key.values < 2))
             continue;
         // A default with as many values as these keys may be meant for them, with a mistake in its own keys.
         if (!std::binary_search(meantForOthers.begin(), meantForOthers.end(), key.first->key.count(';')))

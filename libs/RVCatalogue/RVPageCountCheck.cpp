@@ -11,6 +11,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// The books with the most page counts have some hundred, and boxes of single photos some more.
+constexpr qint64 MOST_COUNTS = 1000;
+
+/// The number of page counts of an organisation that is valid and has a step.
+qint64 numberOfCounts(const RVPageCountOrganization &counts)
+{
+    return (qint64(counts.maxPages()) - counts.minPages()) / counts.pageIncrement() + 1;
+}
+
 QString reversedText()
 {
     return RVFindingText::tr("the lowest page count %1 is above the highest, %2; raise max_pages, or lower pages");
@@ -72,6 +81,29 @@ bool RVPageCountCheck::checkValidity(const RVCatalogueElement &product, const RV
     if (!counts.isValid() || counts.minPages() < 0)
         return addInvalid(product, "pages"_L1,
                           RVFindingText::tr("the lowest page count is %1; write 1 or more").arg(lowest));
+    return counts.pageIncrement() == 0 || checkSteps(product, counts);
+}
+
+/// False where the highest page count is probably not the one that was meant.
+bool RVPageCountCheck::checkSteps(const RVCatalogueElement &product, const RVPageCountOrganization &counts)
+{
+    constexpr auto maxPages = "max_pages"_L1;
+    const QString lowest = QString::number(counts.minPages());
+    const QString highest = QString::number(counts.maxPages());
+    const qint64 number = numberOfCounts(counts);
+    if (counts.minPages() == counts.maxPages() && !product.hasAttribute(maxPages)) {
+        const QString text = RVFindingText::tr("there is a step (page_step), but no highest page count (max_pages), so "
+                                               "%1 pages are the only count");
+        myReport->add(RVCatalogueRuleId::MaxPagesMissing, product, maxPages, text.arg(lowest),
+                      { { rvPlaceOf(product, "page_step"_L1, RVFindingText::tr("the step")) }, {} });
+        return false;
+    }
+    if (number > MOST_COUNTS) {
+        const QString text = RVFindingText::tr("there are %1 page counts from %2 to %3");
+        myReport->add(RVCatalogueRuleId::PageCountsExcessive, product, maxPages,
+                      text.arg(QString::number(number), lowest, highest));
+        return false;
+    }
     if (!counts.isConsistent())
         myReport->add(RVCatalogueRuleId::PageStepMissesHighest, product, "page_step"_L1, missText(counts),
                       { { rvPlaceOf(product, "max_pages"_L1, RVFindingText::tr("the highest page count")) } });

@@ -25,6 +25,7 @@ public:
 
 private:
     bool checkValidity(const RVCatalogueElement &product, const RVPageCountOrganization &counts, int pieces);
+    bool checkSteps(const RVCatalogueElement &product, const RVPageCountOrganization &counts);
     bool addInvalid(const RVCatalogueElement &product, QLatin1StringView attribute, const QString &text);
 
     RVFindingReport *myReport;

@@ -1,6 +1,7 @@
 #include "RVSpineCheck_p.h"
 
 #include "RVCatalogueProduct.h"
+#include "RVCatalogueValues_p.h"
 #include "RVFindingReport_p.h"
 #include "RVFindingText_p.h"
 #include "RVPageCountCheck_p.h"
@@ -14,13 +15,18 @@
 #include <QGuiApplication>
 #include <QStringList>
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr qreal USABLE_PART_OF_SPINE = 0.85;
+/// In millimetres. Industrial perfect binders, which make the thickest books, take blocks of at most about that.
+constexpr qreal WIDEST_SPINE = 80;
+constexpr qreal TENTHS_PER_MILLIMETRE = 10;
 
 unsigned pageCount(int pages)
 {
@@ -38,6 +44,26 @@ bool isTooNarrow(const RVSpineConfig &spine, int pages)
     const QFontMetrics smallest(fonts->createFont(fonts->defaultFontFamily(), sizes.first()));
     const RVDistance width = spine.spineWidth(pageCount(pages)) - spine.additionalSpineWidth() * 2.0;
     return smallest.lineSpacing() > std::round(width.value() * USABLE_PART_OF_SPINE);
+}
+
+bool hasValue(const RVCatalogueElement &spine, QLatin1StringView name)
+{
+    return rvDoubleValue(spine, name).value_or(0) != 0;
+}
+
+/// The attribute that adds most to the width of a spine.
+QLatin1StringView widestPart(const RVCatalogueElement &spine, int blocks)
+{
+    struct Part
+    {
+        QLatin1StringView name;
+        int count;
+    };
+    const Part parts[] = { { "base_width"_L1, 1 }, { "block_width"_L1, blocks }, { "additional_width"_L1, 2 } };
+    const auto width = [&spine](const Part &part) { return rvDoubleValue(spine, part.name).value_or(0) * part.count; };
+    return std::max_element(std::begin(parts), std::end(parts),
+                            [&width](const Part &a, const Part &b) { return width(a) < width(b); })
+            ->name;
 }
 
 }
@@ -65,7 +91,7 @@ void RVSpineCheck::check(const RVCatalogueProduct &product)
         spine.config = product.spine();
         readWidths(&spine);
         checkWidths(spine);
-    } else if (spine.isBound) {
+    } else if (spine.isBound && !myReport->isMeant("composition"_L1) && !myReport->isMeant("spine"_L1)) {
         myReport->add(RVCatalogueRuleId::SpineMissing, composition.isNull() ? product.element() : composition,
                       RVFindingText::tr(
                               "the product is bound (%1), but has no spine in a composition; add one with its widths")
@@ -100,7 +126,36 @@ void RVSpineCheck::checkWidths(const Spine &spine)
         return myReport->add(RVCatalogueRuleId::SpineMissing, spine.element,
                              RVFindingText::tr("the product is bound, but its spine has no width; write a base_width"));
     if (!spine.negative.isEmpty())
-        addNegative(spine);
+        return addNegative(spine);
+    checkParts(spine);
+    checkWidest(spine);
+}
+
+/// Finds widths that say nothing without another one.
+void RVSpineCheck::checkParts(const Spine &spine)
+{
+    constexpr auto base = "base_width"_L1;
+    constexpr auto packages = "packages_per_block"_L1;
+    if (spine.hasWidth && !spine.element.hasAttribute(base))
+        myReport->add(RVCatalogueRuleId::SpineBaseMissing, spine.element, base,
+                      RVFindingText::tr("the spine has other widths, but no base_width"));
+    if (hasValue(spine.element, "block_width"_L1) && !spine.element.hasAttribute(packages))
+        myReport->add(RVCatalogueRuleId::SpinePackagesMissing, spine.element, packages,
+                      RVFindingText::tr("the spine has a block_width, but no packages_per_block, so it never grows"));
+}
+
+void RVSpineCheck::checkWidest(const Spine &spine)
+{
+    if (!spine.isReadable || !spine.isUnitKnown || !myPageCounts.areValid)
+        return;
+    const int pages = myPageCounts.counts.maxPages();
+    const qreal width = spine.config.spineWidth(pageCount(pages)).value() / TENTHS_PER_MILLIMETRE;
+    if (width <= WIDEST_SPINE)
+        return;
+    const int blocks = spine.config.additionalPagePackageBlocks(pageCount(pages));
+    myReport->add(RVCatalogueRuleId::SpineTooWide, spine.element, widestPart(spine.element, blocks),
+                  RVFindingText::tr("the spine is %1 mm wide at %2 pages, but bookbinders take at most %3 mm")
+                          .arg(QString::number(width, 'f', 1), QString::number(pages), QString::number(WIDEST_SPINE)));
 }
 
 void RVSpineCheck::addNegative(const Spine &spine)

@@ -22,6 +22,8 @@ private:
 
     void readWidths(Spine *spine);
     void checkWidths(const Spine &spine);
+    void checkParts(const Spine &spine);
+    void checkWidest(const Spine &spine);
     void addNegative(const Spine &spine);
     bool isFinite(const Spine &spine) const;
     bool shrinksTooFar(const Spine &spine) const;

@@ -81,7 +81,7 @@ std::optional<int> rvCheckedInt(const RVCatalogueElement &element, QLatin1String
     if (const std::optional<int> number = rvIntValue(element, name))
         return number;
     if (!element.hasAttribute(name))
-        return missing;
+        return report->isMeant(element, name) ? std::nullopt : std::optional(missing);
     addNoNumber(element, name, RVNumberFault::Type::Whole, report);
     return std::nullopt;
 }
@@ -92,7 +92,7 @@ std::optional<double> rvCheckedDouble(const RVCatalogueElement &element, QLatin1
     if (const std::optional<double> number = rvDoubleValue(element, name))
         return number;
     if (!element.hasAttribute(name))
-        return missing;
+        return report->isMeant(element, name) ? std::nullopt : std::optional(missing);
     addNoNumber(element, name, RVNumberFault::Type::Length, report);
     return std::nullopt;
 }
@@ -103,7 +103,7 @@ std::optional<bool> rvCheckedBool(const RVCatalogueElement &element, QLatin1Stri
     if (const std::optional<bool> value = rvBoolValue(element, name))
         return value;
     if (!element.hasAttribute(name))
-        return missing;
+        return report->isMeant(element, name) ? std::nullopt : std::optional(missing);
     const QString text = element.attribute(name);
     const QString meant = meantBoolean(text);
     const QString reason = RVFindingText::tr("%1 is %2, which is neither true nor false").arg(name, rvQuoted(text));
@@ -118,8 +118,9 @@ std::optional<bool> rvCheckedBool(const RVCatalogueElement &element, QLatin1Stri
 bool rvCheckUnit(const RVCatalogueElement &element, RVFindingReport *report)
 {
     constexpr auto name = "units"_L1;
-    if (rvIsUnit(element.utf8(name)) || !element.hasAttribute(name))
-        return true;
+    const bool isKnown = rvIsUnit(element.utf8(name));
+    if (isKnown || !element.hasAttribute(name))
+        return isKnown || !report->isMeant(element, name);
     const QString text = element.attribute(name);
     const QString meant = rvMeantUnit(text);
     const QString reason = RVFindingText::tr("there is no unit %1").arg(rvQuoted(text));

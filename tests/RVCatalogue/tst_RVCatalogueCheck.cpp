@@ -153,7 +153,7 @@ struct Mistake
 QList<Mistake> mistakes()
 {
     return {
-        { "no product", QByteArray("<products>\n<Product/></products>"), u""_s,
+        { "no product", QByteArray("<products>\n<offer/></products>"), u""_s,
           u"1 error products-missing: there is no product in this file"_s },
         { "type missing", changed("type='DUN9' ", ""), u"<product>"_s,
           u"2 error type-missing: the product has no type; write the code that projects have for it"_s },
@@ -426,6 +426,52 @@ QList<Mistake> mistakes()
           u"10 error option-incomplete: the option has no key and no value; write both, or take out the form"_s },
         { "unit with a blank", changed("<barcodes units='mm'>", "<barcodes units='mm '>"), u"units='mm '"_s,
           u"3 error unit-unknown: there is no unit \"mm \"; write \"mm\""_s },
+        { "misspelt product", changed("<products>", "<products><prodcut type='B'/>"), u"<prodcut>"_s,
+          u"1 warning element-misspelt: the element \"prodcut\" is not read; did you mean \"product\"?"_s },
+        { "parts of no product", changed("<products>", "<products><forms><form/></forms>"), u"<forms>"_s,
+          u"1 warning element-misplaced: the element \"forms\" is not read outside of a product"_s },
+        { "prefix", changed("<form key='alcolor' value='red'", "<x:form xmlns:x='y' key='alcolor' value='red'"),
+          u"<x:form>"_s,
+          u"12 warning element-prefixed: the element \"x:form\" is not read because of its prefix; without it, it is "
+          "\"form\""_s },
+        { "misspelt attribute", changed("max_pages=", "maxpage="), u"maxpage='154'"_s,
+          u"2 warning attribute-misspelt: the attribute \"maxpage\" is not read; did you mean \"max_pages\"?"_s },
+        { "misplaced attribute", changed("<spine ", "<spine units='mm' "), u"units='mm'"_s,
+          u"8 warning attribute-misplaced: the attribute \"units\" is not read in spine; it belongs to composition"_s },
+        { "step of a fixed page count", withSecondProduct("<product type='A' article_id='2' pages='4' page_step='2'/>"),
+          u"<product>"_s,
+          u"17 warning max-pages-missing: there is a step (page_step), but no highest page count (max_pages), so 4 "
+          "pages are the only count"_s },
+        { "too many page counts", changed("max_pages='154'", "max_pages='15400'"), u"max_pages='15400'"_s,
+          u"2 warning page-counts-excessive: there are 3844 page counts from 26 to 15400"_s },
+        { "no base width", changed(" base_width='0.8'", ""), u"<spine>"_s,
+          u"8 warning spine-base-missing: the spine has other widths, but no base_width"_s },
+        { "no packages", changed("packages_per_block='2' ", ""), u"<spine>"_s,
+          u"8 warning spine-packages-missing: the spine has a block_width, but no packages_per_block, so it never "
+          "grows"_s },
+        { "spine of another unit", changed("base_width='0.8'", "base_width='8'"), u"base_width='8'"_s,
+          u"8 warning spine-too-wide: the spine is 97.0 mm wide at 154 pages, but bookbinders take at most 80 mm"_s },
+        { "comma in a value", changed("value='red'", "value='red,blue'"), u"value='red,blue'"_s,
+          u"12 warning option-separator: the value \"red,blue\" has a separator of orders in it; only semicolons join "
+          "several"_s },
+        { "blank behind a key", changed("key='alcolor' value='red'", "key='alcolor ' value='red'"), u"key='alcolor '"_s,
+          u"12 warning option-blank: the key \"alcolor \" has a blank around it"_s },
+        { "letter case of a key", changed("key='alcolor' value='red'", "key='Alcolor' value='red'"), u"key='Alcolor'"_s,
+          u"12 warning option-letter-case: the key \"Alcolor\" differs from \"alcolor\" in line 11 in letter case "
+          "only"_s },
+        { "two names of a key",
+          changed("value='black'", "value='black' key_name='A'").replace("value='red'", "value='red' key_name='B'"),
+          u"key_name='B'"_s,
+          u"12 warning option-key-names: the key \"alcolor\" is named \"B\" here, but \"A\" in line 11"_s },
+        { "barcode without a width", changed("width='38' height='10' pageNr='2'/>", "height='10' pageNr='2'/>"),
+          u"<barcode>"_s, u"4 warning barcode-size-missing: the barcode has no width, so it is 1 unit"_s },
+        { "barcode on no page", changed(" pageNr='2'/>", "/>"), u"<barcode>"_s,
+          u"4 warning barcode-page-missing: the barcode has no page number (pageNr), so it stands on page 0"_s },
+        { "barcode below an upright page",
+          changed("position_x='62' position_y='290.5'", "position_x='62' position_y='500'"), u"position_y='500'"_s,
+          u"5 warning barcode-off-usual-page: the barcode ends 100 mm from the left and 500 mm from the top, but no "
+          u"page "
+          "of this size class and orientation is so large"_s },
     };
 }
 
@@ -482,7 +528,7 @@ void tst_RVCatalogueCheck::clean_data()
     QTest::newRow("fixed page count of several pieces")
             << withSecondProduct("<product type='A' article_id='2' pages='4' pieces='10'/>");
     QTest::newRow("step of a fixed page count")
-            << withSecondProduct("<product type='A' article_id='2' pages='4' page_step='2'/>");
+            << withSecondProduct("<product type='A' article_id='2' pages='4' max_pages='4' page_step='2'/>");
     QTest::newRow("photo box") << withSecondProduct("<product type='A' article_id='2' pages='10' photo_box='TRUE'/>");
     QTest::newRow("photo box in tens") << withSecondProduct(
             "<product type='A' article_id='2' pages='10' max_pages='60' page_step='10' photo_box='1'/>");
@@ -521,7 +567,7 @@ void tst_RVCatalogueCheck::clean_data()
     QTest::newRow("barcode at the edge") << changed("position_x='12' position_y='290.5'",
                                                     "position_x='0' position_y='10'");
     QTest::newRow("barcode on the last page") << changed("pageNr='2'/>", "pageNr='154'/>");
-    QTest::newRow("barcode on no page") << changed(" pageNr='2'/>", "/>");
+    QTest::newRow("barcode on page 0") << changed("pageNr='2'/>", "pageNr='0'/>");
     QTest::newRow("barcode far away on a page of any size")
             << changed("space_magnitude='600cm2' ", "").replace("position_x='62'", "position_x='900'");
     QTest::newRow("barcode far away on the largest page")
@@ -531,15 +577,15 @@ void tst_RVCatalogueCheck::clean_data()
             "<forms>", "text<description foo='bar'>a &amp; b</description><x:y xmlns:x='z'/><forms foo='bar'>");
     QTest::newRow("barcode at the corner of a page of its usual area") << withSecondProduct(
             "<product type='A' article_id='2' space_magnitude='220cm2' orientation='square'><barcodes>"
-            "<barcode position_x='112' position_y='150' width='38' height='10'/></barcodes></product>");
+            "<barcode position_x='112' position_y='150' width='38' height='10' pageNr='1'/></barcodes></product>");
     QTest::newRow("barcode at the corner of a wide page") << withSecondProduct(
             "<product type='A' article_id='2' space_magnitude='600cm2' orientation='landscape'><barcodes>"
-            "<barcode position_x='259' position_y='210' width='38' height='10'/></barcodes></product>");
+            "<barcode position_x='259' position_y='210' width='38' height='10' pageNr='1'/></barcodes></product>");
     QTest::newRow("barcode at the corner of a panorama") << withSecondProduct(
             "<product type='A' article_id='2' space_magnitude='1200cm2' orientation='landscape_slim'><barcodes>"
-            "<barcode position_x='862' position_y='130' width='38' height='10'/></barcodes></product>");
+            "<barcode position_x='862' position_y='130' width='38' height='10' pageNr='1'/></barcodes></product>");
     QTest::newRow("shipping group below 0") << changed("shipping_group='2'", "shipping_group='-2'");
-    QTest::newRow("parts of no product") << changed("<products>", "<products><forms/><forms/><spine/><spine/>");
+    QTest::newRow("parts of no product") << changed("<products>", "<products><x><forms/><forms/><spine/></x>");
     QTest::newRow("parts of something else") << changed("<forms>", "<x><forms/><product/></x><x><forms/></x><forms>");
     QTest::newRow("family around products")
             << changed("<products>", "<products><family name='x'>").replace("</products>", "</family></products>");

@@ -28,6 +28,7 @@ class tst_RVCatalogueElement : public QObject
 
 private Q_SLOTS:
     void attributes();
+    void attributesByNumber();
     void children();
     void nullElement();
     void longNames();
@@ -59,6 +60,26 @@ void tst_RVCatalogueElement::attributes()
     QVERIFY(!element.hasAttribute("A"_L1));
     QVERIFY(!element.hasAttribute(QLatin1StringView()));
     QVERIFY(element.attribute("A"_L1).isNull());
+}
+
+void tst_RVCatalogueElement::attributesByNumber()
+{
+    const RVCatalogueProduct product = productOf("<!DOCTYPE p [<!ATTLIST product d CDATA 'x'>]>\n"
+                                                 "<product \xc3\xa4='1' b = '&lt;'><x:c xmlns:x='u'/></product>");
+    const RVCatalogueElement element = product.element();
+    QCOMPARE(element.utf8Name().toByteArray(), QByteArray("product"));
+    QCOMPARE(element.firstChildElement().utf8Name().toByteArray(), QByteArray("x:c"));
+    QByteArrayList names;
+    QStringList places;
+    for (int i = 0; i < element.attributeCount(); ++i) {
+        names += element.attributeName(i).toByteArray();
+        places += text(element.attributeRange(i));
+    }
+    QCOMPARE(names, (QByteArrayList { "\xc3\xa4", "b", "d" }));
+    QCOMPARE(places, (QStringList { u"2:10-2:15"_s, u"2:16-2:26"_s, u"2:1-2:27"_s }));
+    QCOMPARE(element.firstChildElement().attributeCount(), 1);
+    QCOMPARE(RVCatalogueElement().attributeCount(), 0);
+    QVERIFY(RVCatalogueElement().utf8Name().isEmpty());
 }
 
 void tst_RVCatalogueElement::children()

@@ -1,0 +1,200 @@
+#include "RVNameGuess_p.h"
+
+#include "RVNearestText.h"
+
+#include <QString>
+#include <QStringList>
+#include <QtAlgorithms>
+
+#include <algorithm>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// In letters; a longer name is none of the vocabulary.
+constexpr qsizetype LONGEST = 40;
+/// Known names from this length on may need two changes.
+constexpr int LONG_NAME = 10;
+constexpr qsizetype SHORT_NAME = 4;
+/// Words up to this length may need one change, however long the name is.
+constexpr qsizetype SHORT_WORD = 5;
+/// Words that are near a known name by chance: `height`, `preview`, `base_width`, `composition` and `product`.
+constexpr QLatin1StringView OTHER_WORDS[] = { QLatin1StringView("weight"), QLatin1StringView("review"),
+                                              QLatin1StringView("case_width"), QLatin1StringView("competition"),
+                                              QLatin1StringView("produce") };
+constexpr RVNameList OTHER_NAMES(OTHER_WORDS);
+constexpr int TOO_MANY = std::numeric_limits<int>::max();
+
+bool isSign(char letter)
+{
+    return letter == '_' || letter == '-' || letter == '.';
+}
+
+char lowerCase(char letter)
+{
+    return letter >= 'A' && letter <= 'Z' ? char(letter - 'A' + 'a') : letter;
+}
+
+/// The letters of a name, whatever their order, by which nearly all foreign names are told from the known ones.
+class LetterSet
+{
+public:
+    explicit LetterSet(QByteArrayView name)
+    {
+        for (const char letter : name) {
+            const char lower = lowerCase(letter);
+            const bool isLetter = lower >= 'a' && lower <= 'z';
+            myBits |= isLetter ? 1U << (lower - 'a') : 0;
+            mySize += isSign(letter) ? 0 : 1;
+            myIsAscii = myIsAscii && uchar(letter) < 0x80;
+        }
+    }
+
+    int size() const { return mySize; }
+    /// False where more changes than these, and "ph" for "f", are needed to make one of the other.
+    bool mayBe(const LetterSet &known, int changes) const
+    {
+        constexpr quint32 interchangeable = 1U << ('p' - 'a') | 1U << ('h' - 'a') | 1U << ('f' - 'a');
+        const quint32 others = (myBits ^ known.myBits) & ~interchangeable;
+        return !myIsAscii
+                || (qAbs(mySize - known.mySize) <= changes + 1 && int(qPopulationCount(others)) <= 2 * changes);
+    }
+
+private:
+    quint32 myBits = 0;
+    int mySize = 0;
+    bool myIsAscii = true;
+};
+
+/// A name without what does not count.
+QString folded(QByteArrayView name)
+{
+    QString result = QString::fromUtf8(name).toCaseFolded();
+    result.removeIf([](QChar letter) { return isSign(letter.toLatin1()); });
+    return result;
+}
+
+/// The changes that make one of the other, "ph" and "f" being the same or not; the limit where it takes so many.
+int distanceBetween(QString name, QString known, int limit)
+{
+    RVNearestText nearest(name, limit);
+    nearest.offer(known);
+    RVNearestText nearestSound(name.replace("ph"_L1, "f"_L1), nearest.distance());
+    nearestSound.offer(known.replace("ph"_L1, "f"_L1));
+    return nearestSound.distance();
+}
+
+/// True where letters beyond ASCII stand in the place of others, up to half of them.
+bool looksLike(const QString &name, const QString &known)
+{
+    if (name.size() != known.size())
+        return false;
+    qsizetype others = 0;
+    for (qsizetype i = 0; i < name.size(); ++i) {
+        const bool isAscii = name.at(i).unicode() < 0x80;
+        if (isAscii && name.at(i) != known.at(i))
+            return false;
+        others += isAscii ? 0 : 1;
+    }
+    return others * 2 <= name.size();
+}
+
+/// True for two texts that differ by a letter that was replaced rather than added, removed or swapped.
+bool isReplaced(QString a, QString b)
+{
+    std::sort(a.begin(), a.end());
+    std::sort(b.begin(), b.end());
+    return a.size() == b.size() && a != b;
+}
+
+/// The words of a name in small letters. Signs and capital letters behind small ones begin one.
+QStringList words(QByteArrayView name)
+{
+    QString text;
+    bool isBehindSmallLetter = false;
+    for (const QChar letter : QString::fromUtf8(name)) {
+        if (isBehindSmallLetter && letter.isUpper())
+            text += u'_';
+        text += isSign(letter.toLatin1()) ? QChar(u'_') : letter.toLower();
+        isBehindSmallLetter = letter.isLower();
+    }
+    return text.split(u'_', Qt::SkipEmptyParts);
+}
+
+/// True for a known name with a word in front of it or behind it, or with a number behind it, which is another name.
+bool isExtended(QStringList words, const QStringList &knownWords)
+{
+    const QString text = words.join(QString());
+    const QString known = knownWords.join(QString());
+    const QStringView rest = QStringView(text).sliced(text.startsWith(known) ? known.size() : text.size());
+    const bool isNumbered = !rest.isEmpty()
+            && std::all_of(rest.begin(), rest.end(), [](QChar letter) { return letter.isDigit(); });
+    if (isNumbered || words.size() != knownWords.size() + 1)
+        return isNumbered;
+    return words.first(knownWords.size()) == knownWords || words.last(knownWords.size()) == knownWords;
+}
+
+/// False where a short word is another one.
+bool areLikeWords(const QStringList &words, const QStringList &knownWords)
+{
+    if (words.size() != knownWords.size() || words.size() == 1)
+        return true;
+    for (qsizetype i = 0; i < words.size(); ++i) {
+        const bool isShort = qMin(words.at(i).size(), knownWords.at(i).size()) <= SHORT_WORD;
+        RVNearestText nearest(words.at(i), 2);
+        nearest.offer(knownWords.at(i));
+        if (isShort && nearest.text().isNull())
+            return false;
+    }
+    return true;
+}
+
+/// True for a name that is nearly the known one, but means something else.
+bool isOtherName(QByteArrayView name, QLatin1StringView known, int changes)
+{
+    const QStringList ours = words(name);
+    const QStringList theirs = words(QByteArrayView(known.data(), known.size()));
+    return OTHER_NAMES.contains(ours.join(u'_').toUtf8()) || isExtended(ours, theirs)
+            || (changes > 1 && !areLikeWords(ours, theirs));
+}
+
+/// The changes that make a known name of a name.
+int changesTo(QLatin1StringView known, QByteArrayView name, const LetterSet &letters)
+{
+    const QByteArrayView knownName(known.data(), known.size());
+    const LetterSet knownLetters(knownName);
+    const int limit = knownLetters.size() < LONG_NAME ? 1 : 2;
+    if (!letters.mayBe(knownLetters, limit))
+        return TOO_MANY;
+    const QString text = folded(name);
+    const QString knownText = folded(knownName);
+    if (looksLike(text, knownText))
+        return text == knownText ? 0 : 1;
+    const int changes = distanceBetween(text, knownText, limit + 1);
+    const bool isOther = changes > limit || (knownText.size() <= SHORT_NAME && isReplaced(text, knownText))
+            || isOtherName(name, known, changes);
+    return isOther ? TOO_MANY : changes;
+}
+
+}
+
+RVNameGuess rvGuessName(QByteArrayView name, const RVNameList &knownNames)
+{
+    RVNameGuess result;
+    result.changes = TOO_MANY;
+    if (name.size() > 2 * LONGEST)
+        return result;
+    const LetterSet letters(name);
+    for (const QLatin1StringView known : knownNames) {
+        const int changes = changesTo(known, name, letters);
+        if (changes == TOO_MANY || changes > result.changes)
+            continue;
+        if (changes < result.changes)
+            result.names.clear();
+        result.changes = changes;
+        result.names += known;
+    }
+    return result;
+}

@@ -1,0 +1,209 @@
+#include "RVOptionSpellingCheck_p.h"
+
+#include "RVFindingReport_p.h"
+#include "RVFindingText_p.h"
+
+#include <QString>
+
+#include <algorithm>
+#include <functional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Iterator = RVOptionsByKey::const_iterator;
+
+constexpr auto KEY_NAME = "key_name"_L1;
+
+bool isAscii(QByteArrayView text)
+{
+    return std::all_of(text.begin(), text.end(), [](char letter) { return uchar(letter) < 0x80; });
+}
+
+int compareFolded(QByteArrayView a, QByteArrayView b)
+{
+    return isAscii(a) && isAscii(b) ? a.compare(b, Qt::CaseInsensitive)
+                                    : QString::fromUtf8(a).compare(QString::fromUtf8(b), Qt::CaseInsensitive);
+}
+
+bool isSeparator(char letter)
+{
+    return letter == ',' || letter == ':';
+}
+
+/// True for a blank of ASCII, and for a byte of a letter that may be another one.
+bool mayBeBlank(char letter)
+{
+    return uchar(letter) <= ' ' || uchar(letter) >= 0x80;
+}
+
+bool isBlank(QChar letter)
+{
+    return letter.isSpace();
+}
+
+/// The earliest in the file.
+const RVCheckedOption *earliest(Iterator begin, Iterator end)
+{
+    return *std::min_element(begin, end, std::less<>());
+}
+
+/// The end of the options of the same key.
+Iterator keyEnd(Iterator begin, Iterator end)
+{
+    return std::find_if(begin, end, [begin](const RVCheckedOption *option) { return option->key != (*begin)->key; });
+}
+
+/// The option whose attribute most others have as well; the earliest of several.
+template<typename Value>
+const RVCheckedOption *mostUsual(Iterator begin, Iterator end, Value value)
+{
+    const RVCheckedOption *result = nullptr;
+    std::ptrdiff_t most = 0;
+    QVarLengthArray<const RVCheckedOption *, 12> options(begin, end);
+    std::sort(options.begin(), options.end(), std::less<>());
+    std::stable_sort(options.begin(), options.end(), [&value](const RVCheckedOption *a, const RVCheckedOption *b) {
+        return value(a).compare(value(b)) < 0;
+    });
+    for (auto first = options.cbegin(); first != options.cend();) {
+        const auto last = std::find_if(first, options.cend(),
+                                       [&](const RVCheckedOption *option) { return value(option) != value(*first); });
+        const bool isBetter = last - first > most || (last - first == most && std::less<>()(*first, result));
+        if (isBetter && !value(*first).isEmpty()) {
+            most = last - first;
+            result = *first;
+        }
+        first = last;
+    }
+    return result;
+}
+
+QByteArrayView keyOf(const RVCheckedOption *option)
+{
+    return option->key;
+}
+
+QByteArrayView keyNameOf(const RVCheckedOption *option)
+{
+    return option->form.utf8(KEY_NAME);
+}
+
+}
+
+int rvCompareSpellings(QByteArrayView a, QByteArrayView b)
+{
+    if (a == b)
+        return 0;
+    const int order = compareFolded(a.trimmed(), b.trimmed());
+    return order != 0 ? order : a.compare(b);
+}
+
+bool rvIsOtherSpelling(QByteArrayView a, QByteArrayView b)
+{
+    return a != b && compareFolded(a.trimmed(), b.trimmed()) == 0;
+}
+
+void RVOptionSpellingCheck::check(const RVOptionsByKey &options)
+{
+    const RVCheckedOption *previous = nullptr;
+    for (const RVCheckedOption *option : options) {
+        const bool isDuplicate = previous && option->key == previous->key && option->value == previous->value;
+        previous = option;
+        // What stands there twice, or is not equally many, is one mistake.
+        if (isDuplicate || option->hasMismatch)
+            continue;
+        checkLetters(*option, "key"_L1);
+        checkLetters(*option, "value"_L1);
+    }
+    for (Iterator begin = options.begin(); begin != options.end();) {
+        const auto end = std::find_if(begin, options.end(), [begin](const RVCheckedOption *option) {
+            return option->key != (*begin)->key && compareFolded(option->key, (*begin)->key) != 0;
+        });
+        checkKeys(begin, end);
+        begin = end;
+    }
+}
+
+void RVOptionSpellingCheck::checkLetters(const RVCheckedOption &option, QLatin1StringView attribute)
+{
+    const QByteArrayView bytes = option.form.utf8(attribute);
+    const bool hasSeparator = std::any_of(bytes.begin(), bytes.end(), isSeparator);
+    if (!hasSeparator && std::none_of(bytes.begin(), bytes.end(), mayBeBlank))
+        return;
+    const QString text = option.form.attribute(attribute);
+    if (hasSeparator)
+        return myReport->add(RVCatalogueRuleId::OptionSeparator, option.form, attribute,
+                             RVFindingText::tr("the %1 %2 has a separator of orders in it; only semicolons join "
+                                               "several")
+                                     .arg(attribute, rvQuoted(text)));
+    if (std::none_of(text.begin(), text.end(), isBlank))
+        return;
+    const QString trimmed = text.trimmed();
+    const bool isInside = trimmed.isEmpty() || std::any_of(trimmed.begin(), trimmed.end(), isBlank);
+    myReport->add(RVCatalogueRuleId::OptionBlank, option.form, attribute,
+                  isInside ? RVFindingText::tr("the %1 %2 has a blank in it").arg(attribute, rvQuoted(text))
+                           : RVFindingText::tr("the %1 %2 has a blank around it").arg(attribute, rvQuoted(text)),
+                  { {}, isInside ? QList<RVFileEdit>() : rvReplaced(option.form, attribute, trimmed) });
+}
+
+/// Judges the options whose keys differ in letter case only.
+void RVOptionSpellingCheck::checkKeys(Iterator begin, Iterator end)
+{
+    if ((*begin)->key != (*(end - 1))->key) {
+        const RVCheckedOption *usual = mostUsual(begin, end, keyOf);
+        for (Iterator it = begin; it != end; ++it) {
+            if ((*it)->key != usual->key)
+                addLetterCase(**it, *usual, "key"_L1);
+        }
+    }
+    for (Iterator it = begin; it != end;) {
+        const Iterator next = keyEnd(it, end);
+        checkValues(it, next);
+        checkKeyNames(it, next);
+        it = next;
+    }
+}
+
+/// Of one key.
+void RVOptionSpellingCheck::checkValues(Iterator begin, Iterator end)
+{
+    for (Iterator it = begin; it != end;) {
+        const auto next = std::find_if(it, end, [it](const RVCheckedOption *option) {
+            return option->value != (*it)->value && compareFolded(option->value, (*it)->value) != 0;
+        });
+        const RVCheckedOption *first = earliest(it, next);
+        for (; it != next; ++it) {
+            if ((*it)->value != first->value)
+                addLetterCase(**it, *first, "value"_L1);
+        }
+    }
+}
+
+void RVOptionSpellingCheck::addLetterCase(const RVCheckedOption &option, const RVCheckedOption &other,
+                                          QLatin1StringView attribute)
+{
+    const QString text = RVFindingText::tr("the %1 %2 differs from %3 in line %4 in letter case only");
+    myReport->add(RVCatalogueRuleId::OptionLetterCase, option.form, attribute,
+                  text.arg(attribute, rvQuoted(option.form.attribute(attribute)),
+                           rvQuoted(other.form.attribute(attribute)), rvLineOf(other.form)),
+                  { { rvPlaceOf(other.form, attribute, RVFindingText::tr("the other spelling")) }, {} });
+}
+
+/// Of one key.
+void RVOptionSpellingCheck::checkKeyNames(Iterator begin, Iterator end)
+{
+    const auto isOther = [begin](const RVCheckedOption *option) { return keyNameOf(option) != keyNameOf(*begin); };
+    if (std::none_of(begin, end, isOther))
+        return;
+    const RVCheckedOption *usual = mostUsual(begin, end, keyNameOf);
+    const QString text = RVFindingText::tr("the key %1 is named %2 here, but %3 in line %4");
+    for (Iterator it = begin; it != end; ++it) {
+        const RVCatalogueElement &form = (*it)->form;
+        if (!keyNameOf(*it).isEmpty() && keyNameOf(*it) != keyNameOf(usual))
+            myReport->add(RVCatalogueRuleId::OptionKeyNames, form, KEY_NAME,
+                          text.arg(rvQuoted(form.attribute("key"_L1)), rvQuoted(form.attribute(KEY_NAME)),
+                                   rvQuoted(usual->form.attribute(KEY_NAME)), rvLineOf(usual->form)),
+                          { { rvPlaceOf(usual->form, KEY_NAME, RVFindingText::tr("the other name")) }, {} });
+    }
+}

@@ -1,0 +1,34 @@
+#ifndef RVOPTIONSPELLINGCHECK_P_H
+#define RVOPTIONSPELLINGCHECK_P_H
+
+#include "RVCheckedOption_p.h"
+
+class RVFindingReport;
+
+/// The order of keys, and of values: first without regard to letter case and blanks around them, then byte by byte. So
+/// the spellings of one text are neighbours.
+int rvCompareSpellings(QByteArrayView a, QByteArrayView b);
+/// True for texts that differ, but only in letter case and blanks around them.
+bool rvIsOtherSpelling(QByteArrayView a, QByteArrayView b);
+
+/// Keys and values of options that are legal, but surely not meant.
+class RVOptionSpellingCheck
+{
+public:
+    explicit RVOptionSpellingCheck(RVFindingReport *report) : myReport(report) { }
+
+    void check(const RVOptionsByKey &options);
+
+private:
+    using Iterator = RVOptionsByKey::const_iterator;
+
+    void checkLetters(const RVCheckedOption &option, QLatin1StringView attribute);
+    void checkKeys(Iterator begin, Iterator end);
+    void checkValues(Iterator begin, Iterator end);
+    void checkKeyNames(Iterator begin, Iterator end);
+    void addLetterCase(const RVCheckedOption &option, const RVCheckedOption &other, QLatin1StringView attribute);
+
+    RVFindingReport *myReport;
+};
+
+#endif

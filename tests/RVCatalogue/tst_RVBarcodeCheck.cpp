@@ -1,0 +1,167 @@
+#include "CheckedCatalogue.h"
+
+#include <RVProductType.h>
+
+#include <QSizeF>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray barcode(const QByteArray &attributes, const QByteArray &attributesOfTheProduct = QByteArray())
+{
+    return "<p><product type='A' article_id='1' pages='26' " + attributesOfTheProduct
+            + "><barcodes units='mm'><barcode " + attributes + "/></barcodes></product></p>";
+}
+
+/// A barcode of 38 by 10 mm that ends there.
+QByteArray endingAt(const QByteArray &right, const QByteArray &bottom, const QByteArray &orientation,
+                    const QByteArray &magnitude)
+{
+    return barcode("position_x='" + QByteArray::number(right.toInt() - 38) + "' position_y='" + bottom
+                           + "' width='38' height='10' pageNr='2'",
+                   "orientation='" + orientation + "' space_magnitude='" + magnitude + '\'');
+}
+
+}
+
+class tst_RVBarcodeCheck : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void missing_data();
+    void missing();
+    void missingTexts();
+    void usualPage_data();
+    void usualPage();
+    void exactPage_data();
+    void exactPage();
+    void exactPageText();
+};
+
+void tst_RVBarcodeCheck::missing_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QStringList>("findings");
+
+    const QString noSize = u"<barcode>: barcode-size-missing"_s;
+    const QString noPage = u"<barcode>: barcode-page-missing"_s;
+    const QByteArray place = "position_x='12' position_y='290' ";
+    QTest::newRow("all") << barcode(place + "width='38' height='10' pageNr='2'") << QStringList();
+    QTest::newRow("page 0") << barcode(place + "width='38' height='10' pageNr='0'") << QStringList();
+    QTest::newRow("no width") << barcode(place + "height='10' pageNr='2'") << QStringList { noSize };
+    QTest::newRow("no height") << barcode(place + "width='38' pageNr='2'") << QStringList { noSize };
+    QTest::newRow("no page") << barcode(place + "width='38' height='10'") << QStringList { noPage };
+    QTest::newRow("neither size nor page") << barcode(place) << QStringList { noSize, noPage };
+    QTest::newRow("width of nothing") << barcode(place + "width='0' height='10' pageNr='2'")
+                                      << QStringList { u"width='0': barcode-invalid"_s };
+    QTest::newRow("width is misspelt") << barcode(place + "widht='38' height='10' pageNr='2'")
+                                       << QStringList { u"widht='38': attribute-misspelt"_s };
+    QTest::newRow("width is misspelt, height is missing")
+            << barcode(place + "widht='38' pageNr='2'") << QStringList { noSize, u"widht='38': attribute-misspelt"_s };
+    QTest::newRow("page is empty") << barcode(place + "width='38' height='10' pageNr=''")
+                                   << QStringList { u"pageNr='': number-invalid"_s };
+}
+
+void tst_RVBarcodeCheck::missing()
+{
+    QFETCH(QByteArray, file);
+    QTEST(CheckedCatalogue(file).rules(), "findings");
+}
+
+void tst_RVBarcodeCheck::missingTexts()
+{
+    QCOMPARE(CheckedCatalogue(barcode("position_y='290'")).texts(),
+             (QStringList { u"the barcode has no width and no height, so it is 1 unit"_s,
+                            u"the barcode has no page number (pageNr), so it stands on page 0"_s }));
+}
+
+void tst_RVBarcodeCheck::usualPage_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QStringList>("findings");
+
+    const auto on = [](const char *situation, const QByteArray &file) {
+        QTest::newRow(situation) << file << QStringList();
+    };
+    const auto off = [](const char *situation, const QByteArray &file, const QString &place) {
+        QTest::newRow(situation) << file << QStringList { place + ": barcode-off-usual-page"_L1 };
+    };
+    on("corner of A4", endingAt("210", "297", "portrait", "600cm2"));
+    on("corner of A4 on its side", endingAt("297", "210", "landscape", "600cm2"));
+    on("corner of A5", endingAt("148", "210", "portrait", "310cm2"));
+    on("corner of A6", endingAt("105", "148", "portrait", "150cm2"));
+    on("corner of A3", endingAt("297", "420", "portrait", "1200cm2"));
+    on("corner of 20 by 20", endingAt("200", "200", "square", "400cm2"));
+    on("corner of 30 by 30", endingAt("300", "300", "square", "900cm2"));
+    on("corner of 15 by 20", endingAt("150", "200", "portrait", "310cm2"));
+    on("corner of a kitchen calendar", endingAt("150", "420", "portrait_slim", "600cm2"));
+    on("corner of a panorama", endingAt("900", "130", "landscape_slim", "1200cm2"));
+    on("corner of a poster", endingAt("700", "1000", "portrait", "2400cm2"));
+    off("below an upright page", endingAt("50", "400", "portrait", "600cm2"), u"position_y='400'"_s);
+    off("right of a wide page", endingAt("420", "50", "landscape", "600cm2"), u"position_x='382'"_s);
+    off("below a wide page", endingAt("260", "265", "landscape", "600cm2"), u"position_y='265'"_s);
+    off("right of an upright page", endingAt("265", "100", "portrait", "600cm2"), u"position_x='227'"_s);
+    on("upright page, unknown size", endingAt("50", "400", "portrait", "normal"));
+    on("upright or square page", endingAt("260", "270", "portrait, square", "600cm2"));
+    off("neither upright nor square page", endingAt("300", "50", "portrait, square", "600cm2"), u"position_x='262'"_s);
+    on("no orientation",
+       barcode("position_x='12' position_y='400' width='38' height='10' pageNr='2'", "space_magnitude='600cm2'"));
+    on("orientation is none", endingAt("50", "400", "none", "600cm2"));
+    on("orientation is any", endingAt("50", "400", "all", "600cm2"));
+    QTest::newRow("off any page") << endingAt("50", "900", "portrait", "600cm2")
+                                  << QStringList { u"position_y='900': barcode-outside-page"_s };
+}
+
+void tst_RVBarcodeCheck::usualPage()
+{
+    QFETCH(QByteArray, file);
+    QVERIFY(!file.isEmpty());
+    QTEST(CheckedCatalogue(file).rules(), "findings");
+}
+
+void tst_RVBarcodeCheck::exactPage_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QStringList>("findings");
+
+    QTest::newRow("corner") << endingAt("210", "297", "portrait", "600cm2") << QStringList();
+    QTest::newRow("corner of what seems to be another size class")
+            << endingAt("210", "297", "square", "50cm2") << QStringList();
+    QTest::newRow("below") << endingAt("210", "298", "portrait", "600cm2")
+                           << QStringList { u"position_y='298': barcode-outside-page"_s };
+    QTest::newRow("right") << endingAt("211", "297", "portrait", "600cm2")
+                           << QStringList { u"position_x='173': barcode-outside-page"_s };
+    QTest::newRow("further below than right") << endingAt("211", "300", "portrait", "600cm2")
+                                              << QStringList { u"position_y='300': barcode-outside-page"_s };
+    QTest::newRow("another product") << endingAt("210", "300", "portrait", "600cm2").replace("'A'", "'B'")
+                                     << QStringList();
+    QTest::newRow("left") << barcode("position_x='-1' position_y='290' width='38' height='10' pageNr='2'")
+                          << QStringList { u"position_x='-1': barcode-outside-page"_s };
+}
+
+RVCatalogueCheck withPageOfA()
+{
+    RVCatalogueCheck check;
+    check.setPageSize(RVProductType(u"A"_s), QSizeF(210, 297));
+    return check;
+}
+
+void tst_RVBarcodeCheck::exactPage()
+{
+    QFETCH(QByteArray, file);
+    QTEST(CheckedCatalogue(file, withPageOfA()).rules(), "findings");
+}
+
+void tst_RVBarcodeCheck::exactPageText()
+{
+    QCOMPARE(
+            CheckedCatalogue(endingAt("210", "300", "portrait", "600cm2"), withPageOfA()).texts(),
+            QStringList { u"the barcode ends 210 mm from the left and 300 mm from the top, but the page has 210 by 297 "
+                          "mm"_s });
+}
+
+QTEST_MAIN(tst_RVBarcodeCheck)
+#include "tst_RVBarcodeCheck.moc"
