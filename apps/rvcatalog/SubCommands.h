@@ -15,6 +15,7 @@ constexpr int ANY_NUMBER = std::numeric_limits<int>::max();
 int showCommand(const QStringList &arguments, const Console &console);
 int orderCommand(const QStringList &arguments, const Console &console);
 int checkCommand(const QStringList &arguments, const Console &console);
+int diffCommand(const QStringList &arguments, const Console &console);
 int keywordsCommand(const QStringList &arguments, const Console &console);
 int decodeCommand(const QStringList &arguments, const Console &console);
 int spineCommand(const QStringList &arguments, const Console &console);

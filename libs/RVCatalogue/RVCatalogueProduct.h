@@ -93,6 +93,7 @@ public:
 private:
     friend class RVCatalogueParser;
     friend class RVCatalogueReaderPrivate;
+    friend class RVProductFingerprint;
 
     explicit RVCatalogueProduct(RVCatalogueProductData *data);
 
