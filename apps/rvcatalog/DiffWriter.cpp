@@ -58,17 +58,19 @@ QChar marker(RVChangeKind kind)
     return u'~';
 }
 
-/// Fills lines with the words of a text, the first behind so many blanks; a word that is too long is broken.
+/// Fills lines with the words of a text that begins with a marker, the first behind so many blanks; a word that is too
+/// long is broken.
 QStringList wrapped(const QString &text, qsizetype indentation)
 {
+    constexpr qsizetype marker = 2;
     const QString blanks(indentation, u' ');
     QStringList lines;
     for (QString rest = text; !rest.isEmpty();) {
-        const qsizetype room = LINE_WIDTH - indentation - (lines.isEmpty() ? 0 : 2);
+        const qsizetype room = LINE_WIDTH - indentation - (lines.isEmpty() ? 0 : marker);
         qsizetype end = rest.size();
         if (end > room) {
             end = rest.lastIndexOf(u' ', room);
-            if (end <= 0)
+            if (end < marker)
                 end = rest.at(room - 1).isHighSurrogate() ? room - 1 : room;
         }
         lines += blanks + (lines.isEmpty() ? ""_L1 : "  "_L1) + rest.first(end);

@@ -170,10 +170,9 @@ void compareTwo(const Option &before, const Option &after, const Defaults &defau
 {
     beginItem(after, changes);
     compareTexts(before, after, changes);
-    const RVVersions<QColor> colors { before.variant.color(), after.variant.color() };
-    if (colors.differ())
-        changes->add("option.color"_L1, RVChangeText::tr("colour"),
-                     { compared(colors.before), compared(colors.after) });
+    const RVVersions<RVComparedValue> colors { compared(before.variant.color()), compared(after.variant.color()) };
+    if (colors.before.value != colors.after.value)
+        changes->add("option.color"_L1, RVChangeText::tr("colour"), colors);
     changes->addBoolean("option.accountable"_L1, RVChangeText::tr("accountable"),
                         { !before.variant.isNotAccountable(), !after.variant.isNotAccountable() });
     changes->addText("option.price_class"_L1, RVChangeText::tr("price class"), { before.priceClass, after.priceClass });

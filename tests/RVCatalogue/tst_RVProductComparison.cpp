@@ -6,6 +6,7 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QSet>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -89,6 +90,7 @@ private Q_SLOTS:
     void places();
     void copies();
     void randomProductsEqualThemselves();
+    void everyPageCount();
 
 private:
     void attributeRows();
@@ -469,6 +471,48 @@ void tst_RVProductComparison::randomProductsEqualThemselves()
         const RVProductComparison comparison(product, read(product.toXml()));
         for (const RVProductChange &change : comparison.changes())
             QCOMPARE(textOf(change), QString::fromUtf8(product.toXml()));
+    }
+}
+
+// The ranges of page counts together are what sets of single counts give.
+void tst_RVProductComparison::everyPageCount()
+{
+    QRandomGenerator random(31);
+    for (int i = 0; i < 500; ++i) {
+        const auto product = [&random](int pages) {
+            const QByteArray attributes = "pages='" + QByteArray::number(pages) + "' max_pages='"
+                    + QByteArray::number(pages + random.bounded(60)) + "' page_step='"
+                    + QByteArray::number(random.bounded(1, 9)) + '\'';
+            return read(spine(attributes,
+                              "packages_per_block='" + QByteArray::number(random.bounded(3)) + "' base_width='"
+                                      + QByteArray::number(random.bounded(1, 3)) + "' block_width='0.5'"));
+        };
+        const RVCatalogueProduct before = product(random.bounded(40));
+        const RVCatalogueProduct after = product(random.bounded(40));
+        const auto countsOf = [](const RVCatalogueProduct &each) {
+            const RVPageCounts counts = each.pageCounts().pageCounts();
+            return QSet<int>(counts.begin(), counts.end());
+        };
+        QSet<int> removed = countsOf(before) - countsOf(after);
+        QSet<int> added = countsOf(after) - countsOf(before);
+        QSet<int> otherWidths;
+        for (const int pages : countsOf(before) & countsOf(after)) {
+            if (before.spine().spineWidth(unsigned(pages)) != after.spine().spineWidth(unsigned(pages)))
+                otherWidths += pages;
+        }
+        for (const RVProductChange &change : RVProductComparison(before, after).changes()) {
+            const bool isWidth = change.subject() == "spine.width"_L1;
+            if (!isWidth && change.subject() != "pages.counts"_L1)
+                continue;
+            const bool isAdded = change.kind() == RVChangeKind::Added;
+            const QJsonValue value = isAdded ? change.newValue().value : change.oldValue().value;
+            const QJsonObject range = isWidth ? change.item() : value.toObject();
+            QSet<int> &expected = isWidth ? otherWidths : isAdded ? added : removed;
+            const int step = qMax(1, range.value("step"_L1).toInt());
+            for (int pages = range.value("from"_L1).toInt(); pages <= range.value("to"_L1).toInt(); pages += step)
+                QVERIFY(expected.remove(pages));
+        }
+        QCOMPARE(removed + added + otherWidths, QSet<int>());
     }
 }
 
