@@ -4,6 +4,7 @@
 #include <RVCatalogueReader.h>
 #include <RVProductComparison.h>
 
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QSet>
@@ -91,6 +92,7 @@ private Q_SLOTS:
     void copies();
     void randomProductsEqualThemselves();
     void everyPageCount();
+    void documentedSubjects();
 
 private:
     void attributeRows();
@@ -514,6 +516,43 @@ void tst_RVProductComparison::everyPageCount()
         }
         QCOMPARE(removed + added + otherWidths, QSet<int>());
     }
+}
+
+// Every subject stands in the table, and only those.
+void tst_RVProductComparison::documentedSubjects()
+{
+    QFile file(QStringLiteral(DOCS) + "/comparing.md"_L1);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString page = QString::fromUtf8(file.readAll());
+    QSet<QString> documented;
+    const QStringList rows = page.section(u"| subject |"_s, 1).section(u"\n\n"_s, 0, 0).split(u'\n').mid(2);
+    for (const QString &row : rows) {
+        for (const QString &subject : row.section(u'|', 1, 1).split(u','))
+            documented += subject.trimmed().remove(u'`');
+    }
+    const QByteArray before =
+            "<f name='A'><product type='A' name='A' article_id='1' shipping_group='1' price_class='A' "
+            "page_price_class='A' pages='1' max_pages='3' page_step='1'><composition>"
+            "<spine base_width='1' block_width='1' additional_width='1' packages_per_block='1'/>"
+            "</composition><barcodes><barcode pageNr='1'/></barcodes><forms>"
+            "<form key='a' value='1'/><form key='b' value='1' preselected='1'/>"
+            "<form key='b' value='2' preselected='1'/></forms></product></f>";
+    const QByteArray after = "<product type='B' name='B' article_id='2' shipping_group='2' price_class='B' "
+                             "page_price_class='B' photo_box='1' pages='2' max_pages='6' page_step='2' "
+                             "article_class='book' cover_type='gift' page_binding='glue' paper_type='indigo' "
+                             "foto_paper_type='matt' orientation='portrait' space_magnitude='600cm2'><composition>"
+                             "<spine base_width='2' block_width='2' additional_width='2' packages_per_block='2'/>"
+                             "</composition><barcodes><barcode pageNr='2' position_x='2' position_y='3' width='2' "
+                             "height='2' image='b'/><barcode/></barcodes><forms>"
+                             "<form key='a' value='1' key_name='b' value_name='b' editor_name='b' name='b' preview='b' "
+                             "color='red' price_class='b' not_accountable='1' preselected='1'/>"
+                             "<form key='b' value='1'/><form key='b' value='2' preselected='1'/>"
+                             "<form key='c' value='2' preselected='1'/></forms></product>";
+    QSet<QString> told;
+    for (const RVProductChange &change : RVProductComparison(read(before), read(after)).changes())
+        told += change.subject();
+    QCOMPARE(told - documented, QSet<QString>());
+    QCOMPARE(documented - told, QSet<QString>());
 }
 
 QTEST_GUILESS_MAIN(tst_RVProductComparison)
