@@ -12,11 +12,11 @@ class RVCatalogueReader;
 /// The numbers of products in a comparison. @ingroup catalogues
 struct RVComparisonCounts
 {
-    qint64 added = 0;
-    qint64 removed = 0;
-    qint64 changed = 0; ///< Also those that were renamed.
-    qint64 renamed = 0;
-    qint64 equal = 0;
+    qint64 added = 0; ///< Only in the new catalogue.
+    qint64 removed = 0; ///< Only in the old one.
+    qint64 changed = 0; ///< In both, with other values; also those that were renamed.
+    qint64 renamed = 0; ///< Those of the changed ones that have another type.
+    qint64 equal = 0; ///< In both, with the same values.
 };
 
 /**
