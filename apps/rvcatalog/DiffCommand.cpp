@@ -86,10 +86,8 @@ bool hasColor(const QString &when, bool isGit, const Console &console)
     return ::isatty(::fileno(console.output)) == 1 || (isGit && qgetenv("GIT_PAGER_IN_USE") == "true");
 }
 
-int compareFiles(const QStringList &names, DiffWriter *writer, const QString &command, const Console &console)
+int compareFiles(const QStringList &names, DiffWriter *writer, const Console &console)
 {
-    if (names.at(0) == "-"_L1 && names.at(1) == "-"_L1)
-        return refuseArguments(command, u"only one file can be the standard input"_s, console);
     DiffRun run(writer, console);
     if (!run.compare({ names.at(0), names.at(0) }, { names.at(1), names.at(1) }, console))
         return EXIT_UNREADABLE;
@@ -120,6 +118,25 @@ int compareForGit(const QStringList &arguments, DiffWriter *writer, bool hasExit
     return hasExitCode && (!isRead || run.isDifferent()) ? EXIT_PROBLEMS : EXIT_FINE;
 }
 
+/// The reason why the arguments cannot be understood; empty where they can.
+QString refusal(const QString &format, const QString &color, bool isGit, const QStringList &names)
+{
+    static const QStringList formats { u"text"_s, u"json"_s, u"markdown"_s };
+    static const QStringList colors { u"auto"_s, u"always"_s, u"never"_s };
+    if (!formats.contains(format))
+        return u"there is no format \"%1\"; there are: %2"_s.arg(format, formats.join(", "_L1));
+    if (!colors.contains(color))
+        return u"--color is auto, always or never, not \"%1\""_s.arg(color);
+    if (isGit && format == "json"_L1)
+        return u"--git writes several comparisons, which are no JSON"_s;
+    const bool isCountRight = isGit ? names.size() == 1 || names.size() >= GIT_ARGUMENTS : names.size() == 2;
+    if (!isCountRight)
+        return u"expected %1 arguments, got %2"_s.arg(isGit ? GIT_ARGUMENTS : 2).arg(names.size());
+    if (!isGit && names.at(0) == "-"_L1 && names.at(1) == "-"_L1)
+        return u"only one file can be the standard input"_s;
+    return QString();
+}
+
 }
 
 int diffCommand(const QStringList &arguments, const Console &console)
@@ -129,16 +146,16 @@ int diffCommand(const QStringList &arguments, const Console &console)
             u"Tells what differs between two catalogues: products that were added or removed, and what has changed of\n"
             "the others. What the ordering application reads is compared, not how it is written.\n"
             "Ends with 0 when they are equal, with 1 when they differ, with 2 when one of them cannot be read."_s);
-    const QCommandLineOption format(u"format"_s, u"Write text, json, or markdown."_s, u"FORMAT"_s, u"text"_s);
-    const QCommandLineOption color(u"color"_s, u"Colour the text: auto (on a terminal), always, or never."_s, u"WHEN"_s,
-                                   u"auto"_s);
+    const QCommandLineOption formatOption(u"format"_s, u"Write text, json, or markdown."_s, u"FORMAT"_s, u"text"_s);
+    const QCommandLineOption colorOption(u"color"_s, u"Colour the text: auto (on a terminal), always, or never."_s,
+                                         u"WHEN"_s, u"auto"_s);
     const QCommandLineOption git(u"git"_s,
                                  u"Take the arguments that git gives to a diff driver: PATH OLD-FILE OLD-HEX OLD-MODE "
                                  u"NEW-FILE NEW-HEX NEW-MODE. "
                                  "Ends with 0 also when the catalogues differ."_s);
     const QCommandLineOption exitCodeOption(
             u"exit-code"_s, u"With --git, ends with 1 when they differ, for diff.<driver>.trustExitCode."_s);
-    parser.addOptions({ format, color, git, exitCodeOption });
+    parser.addOptions({ formatOption, colorOption, git, exitCodeOption });
     parser.addPositionalArgument(u"OLD"_s, u"The products XML before; \"-\" is the standard input."_s, u"OLD.xml"_s);
     parser.addPositionalArgument(u"NEW"_s, u"The products XML afterwards; \"-\" is the standard input."_s,
                                  u"NEW.xml"_s);
@@ -146,23 +163,14 @@ int diffCommand(const QStringList &arguments, const Console &console)
     if (!parseArguments(parser, arguments, 1, MOST_GIT_ARGUMENTS, console, &exitCode))
         return exitCode;
 
-    const QString command = arguments.constFirst();
-    const QStringList names = parser.positionalArguments();
-    const QString when = parser.value(color);
-    if (when != "auto"_L1 && when != "always"_L1 && when != "never"_L1)
-        return refuseArguments(command, u"--color is auto, always or never, not \"%1\""_s.arg(when), console);
+    const QString format = parser.value(formatOption);
+    const QString when = parser.value(colorOption);
     const bool isGit = parser.isSet(git);
-    const auto writer = DiffWriter::create(parser.value(format), hasColor(when, isGit, console), console);
-    if (!writer)
-        return refuseArguments(
-                command, u"there is no format \"%1\"; there are: text, json, markdown"_s.arg(parser.value(format)),
-                console);
-    if (isGit && parser.value(format) == "json"_L1)
-        return refuseArguments(command, u"--git writes several comparisons, which are no JSON"_s, console);
-    if (isGit && (names.size() == 1 || names.size() >= GIT_ARGUMENTS))
-        return compareForGit(names, writer.get(), parser.isSet(exitCodeOption), console);
-    if (isGit || names.size() != 2)
-        return refuseArguments(
-                command, u"expected %1 arguments, got %2"_s.arg(isGit ? GIT_ARGUMENTS : 2).arg(names.size()), console);
-    return compareFiles(names, writer.get(), command, console);
+    const QString problem = refusal(format, when, isGit, parser.positionalArguments());
+    if (!problem.isEmpty())
+        return refuseArguments(arguments.constFirst(), problem, console);
+    const auto writer = DiffWriter::create(format, hasColor(when, isGit, console), console);
+    if (isGit)
+        return compareForGit(parser.positionalArguments(), writer.get(), parser.isSet(exitCodeOption), console);
+    return compareFiles(parser.positionalArguments(), writer.get(), console);
 }
