@@ -104,7 +104,7 @@ Side gitSide(const QString &fileName, const QString &shownName)
 /// otherwise. So what is wrong with a catalogue stands where its differences would.
 int compareForGit(const QStringList &arguments, DiffWriter *writer, bool hasExitCode, const Console &console)
 {
-    const QString path = arguments.constFirst();
+    const QString &path = arguments.constFirst();
     if (arguments.size() == 1) {
         QTextStream(console.output) << "* Unmerged path " << path << '\n';
         return EXIT_FINE;

@@ -36,7 +36,7 @@ QString productText(const RVProductComparison &product)
     if (product.isRenamed())
         text = product.oldProduct().type().orderTxtName() + " -> "_L1 + text;
     const QString name = product.product().name();
-    return printable(name.isEmpty() ? text : text + " \""_L1 + name + u'"');
+    return printable(name.isEmpty() ? text : text + R"( ")"_L1 + name + u'"');
 }
 
 QString articleText(const RVCatalogueProduct &product)
@@ -152,7 +152,7 @@ public:
     {
         QString names = json(QJsonObject { { u"new"_s, newName }, { u"old"_s, oldName } });
         names.chop(1);
-        write(names + ",\"products\":["_L1);
+        write(names + R"(,"products":[)"_L1);
     }
 
     void product(const RVProductComparison &product) override

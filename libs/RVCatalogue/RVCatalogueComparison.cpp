@@ -146,10 +146,10 @@ private:
 
 void RVCatalogueComparisonPrivate::readOld(RVCatalogueReader *reader)
 {
-    reader->map(readProducts<RVProductPack>, [this](ReadProducts<RVProductPack> &&read) {
+    reader->map(readProducts<RVProductPack>, [this](const ReadProducts<RVProductPack> &read) {
         for (const Facts &facts : read.facts)
             myOld.push_back({ facts });
-        myOldArchive.append(std::move(read.products));
+        myOldArchive.append(read.products);
         return true;
     });
     hasError = reader->hasError();

@@ -55,16 +55,18 @@ QJsonObject RVPageCountRange::json() const
     return { { u"from"_s, from }, { u"step"_s, size() > 1 ? step : 0 }, { u"to"_s, to } };
 }
 
-// The Chinese remainder theorem, for two steps.
+// The Chinese remainder theorem, for two steps. None of them is 0, which linters do not see.
 RVPageCountRange rvCommonCounts(const RVPageCountRange &a, const RVPageCountRange &b)
 {
-    const qint64 divisor = std::gcd(a.step, b.step);
-    if (a.isEmpty() || b.isEmpty() || (b.from - a.from) % divisor != 0)
+    if (a.isEmpty() || b.isEmpty())
         return RVPageCountRange();
-    const qint64 modulus = b.step / divisor;
+    const qint64 divisor = std::gcd(a.step, b.step);
+    if (divisor == 0 || (b.from - a.from) % divisor != 0)
+        return RVPageCountRange();
+    const qint64 modulus = std::max(b.step / divisor, qint64(1));
     const qint64 distance = ((b.from - a.from) / divisor % modulus + modulus) % modulus;
     const qint64 steps = modulus == 1 ? 0 : distance * inverse(a.step / divisor, modulus) % modulus;
-    const qint64 step = a.step * modulus;
+    const qint64 step = std::max(a.step * modulus, qint64(1));
     const qint64 first = a.from + steps * a.step;
     const qint64 from = first < b.from ? first + (b.from - first + step - 1) / step * step : first;
     return { from, lastCount(from, std::min(a.to, b.to), step), step };

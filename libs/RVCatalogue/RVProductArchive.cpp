@@ -46,13 +46,12 @@ RVProductPack::RVProductPack(const QList<RVCatalogueProduct> &products)
     elements.squeeze();
 }
 
-void RVProductArchive::append(RVProductPack &&pack)
+void RVProductArchive::append(const RVProductPack &pack)
 {
     if (pack.size() == 0)
         return;
-    const qint64 count = pack.size();
-    myPacks.push_back({ std::move(pack), mySize });
-    mySize += count;
+    myPacks.push_back({ pack, mySize });
+    mySize += pack.size();
 }
 
 RVCatalogueProduct RVProductArchive::product(qint64 number) const

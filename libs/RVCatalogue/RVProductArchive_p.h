@@ -29,7 +29,7 @@ class RVProductArchive
 {
 public:
     /// Takes products that follow those that are there.
-    void append(RVProductPack &&pack);
+    void append(const RVProductPack &pack);
 
     qint64 size() const { return mySize; }
     /// Read again in every call, with its families, but its number and place are not to be relied on. Products that are

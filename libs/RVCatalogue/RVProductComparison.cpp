@@ -2,6 +2,7 @@
 
 #include "RVBarcodeComparison_p.h"
 #include "RVCatalogueAttribute.h"
+#include "RVCatalogueAttributes.h"
 #include "RVCatalogueValues_p.h"
 #include "RVOptionComparison_p.h"
 #include "RVPageComparison_p.h"
@@ -9,19 +10,27 @@
 
 #include <QJsonArray>
 
+#include <tuple>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// People read the name where keywords are bare numbers.
+/// True where people read the name, since keywords are numbers.
+bool hasBareKeywords(const RVCatalogueAttribute &attribute)
+{
+    return std::apply(
+            [&](const auto &...rows) { return ((rows.name == attribute.name() && rows.hasBareKeywords) || ...); },
+            RV_CATALOGUE_ATTRIBUTES);
+}
+
 RVComparedValue compared(const RVCatalogueAttribute &attribute, const RVCatalogueProduct &product)
 {
     if (!attribute.isIn(product))
         return RVComparedValue();
     const RVCatalogueAttributeDecoding decoding = attribute.decode(product);
-    bool isNumber = false;
-    decoding.text.toInt(&isNumber);
-    const QString text = isNumber && !decoding.displayName.isEmpty() ? decoding.displayName : decoding.text;
+    const bool isNamed = hasBareKeywords(attribute) && !decoding.displayName.isEmpty();
+    const QString text = isNamed ? decoding.displayName : decoding.text;
     return { text, QJsonArray::fromStringList(decoding.keywords) };
 }
 
@@ -29,7 +38,7 @@ RVComparedValue compared(const QStringList &families)
 {
     if (families.isEmpty())
         return RVComparedValue();
-    return { u'"' + families.join("\" > \""_L1) + u'"', QJsonArray::fromStringList(families) };
+    return { u'"' + families.join(R"(" > ")"_L1) + u'"', QJsonArray::fromStringList(families) };
 }
 
 RVComparedValue compared(const RVArticleId &id)
