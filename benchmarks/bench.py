@@ -60,12 +60,14 @@ TIMES = [
 PROCESSES = [
     ("catalogue-check", "rvcatalog check, processor; xmllint --schema", "check/ours", "check/xmllint", 0.8),
     ("catalogue-show", "rvcatalog show --json, processor; xmllint", "catalogue/ours", "catalogue/xmllint", 3.0),
+    ("catalogue-diff", "rvcatalog diff, processor; xmllint --c14n of both, then diff", "diff/ours", "diff/xmllint", 0.6),
     ("catalogue-typed", "every value of 20,000 products; readers of a QDomDocument", "typed/ours", "typed/readers", 0.25),
     ("parse-qt", "a bare pass, libxml2; QXmlStreamReader", "parse/libxml2", "parse/qt", 0.5),
     ("parse-expat", "a bare pass, libxml2; expat", "parse/libxml2", "parse/expat", 1.0),
 ]
 MOST_MEMORY = 0.05  # peak of the catalogue program, against the peer's
 MOST_MEGABYTES = {"show": 40, "check": 56}  # of the catalogue program with a million products; 26 bytes each to check them
+MOST_DIFF_MEGABYTES = 40  # of the catalogue program with two times 20,000 products, some 300 bytes for each old one
 MOST_PRODUCT_ALLOCATIONS = 5  # of the reader for one product, four to keep it, beside those of the parser
 PRODUCTS_READ = 1000  # by bench_reader
 LEAST_THROUGHPUT = 1.9  # of two threads, against one
@@ -207,6 +209,8 @@ def make_rows(results):
     yield Row("catalogue-memory", "… its peak memory in MB", [peak / peaks[1][0] for peak in peaks[0]], MOST_MEMORY,
               *peaks)
     yield from process_rows(medians)
+    yield Row("catalogue-diff-memory", "rvcatalog diff, two of 20,000 products, peak memory in MB",
+              [medians[seed]["diff/ours"]["peak"] for seed in SEEDS], MOST_DIFF_MEGABYTES)
     for name in ("decode", "encode", "normalise"):
         # The best repetition of each: whatever else runs takes a core away from two threads, but not from one.
         one, two = ([medians[seed][f"{name}/real_time/threads:{count}"]["best_ns"] for seed in SEEDS]

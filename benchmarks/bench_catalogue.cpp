@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -116,14 +117,19 @@ void add(const char *name, const Command &command)
             ->Unit(benchmark::kMillisecond);
 }
 
-std::string writeCatalogue(const QTemporaryDir &folder)
+/// Every so many products have a wider spine; none where it is 0.
+std::string writeCatalogue(const QString &name, int changed = 0)
 {
-    QFile file(folder.filePath(u"products.xml"_s));
+    QFile file(name);
     if (!file.open(QIODevice::WriteOnly))
         fail("cannot write the catalogue");
     file.write(CATALOGUE_HEAD);
-    for (int number = 0; number < PRODUCTS; ++number)
-        file.write(productXml(number, FORMS));
+    for (int number = 0; number < PRODUCTS; ++number) {
+        QByteArray product = productXml(number, FORMS);
+        if (changed > 0 && number % changed == 0)
+            product.replace("base_width=\"", "base_width=\"1");
+        file.write(product);
+    }
     file.write(CATALOGUE_FOOT);
     return file.fileName().toStdString();
 }
@@ -155,6 +161,30 @@ void addTyped(const QTemporaryDir &folder, const std::string &file)
     add("typed/readers", readers);
 }
 
+/// Programs that compare end with 1 where they find a difference.
+Command comparing(const std::string &script, const std::vector<std::string> &files)
+{
+    Command command { "/bin/sh", "-c", "{ " + script + "; } || test $? = 1", "sh" };
+    command.insert(command.end(), files.begin(), files.end());
+    return command;
+}
+
+void addDiff(const QTemporaryDir &folder, const std::string &before)
+{
+    constexpr int changed = 100;
+    const std::string after = writeCatalogue(folder.filePath(u"changed.xml"_s), changed);
+    const Command ours = comparing(RVCATALOG " diff \"$1\" \"$2\"", { before, after });
+    QFile output(folder.filePath(u"diff"_s));
+    runProcess(ours, output.fileName());
+    output.open(QIODevice::ReadOnly);
+    if (!output.readAll().endsWith("\n0 added, 0 removed, 200 changed, 19800 equal\n"))
+        fail("rvcatalog diff did not find what differs");
+    add("diff/ours", ours);
+    add("diff/xmllint",
+        comparing(XMLLINT " --c14n \"$1\" >\"$3\" && " XMLLINT " --c14n \"$2\" >\"$4\" && diff \"$3\" \"$4\"",
+                  { before, after, before + ".c14n", after + ".c14n" }));
+}
+
 void addParsers(const QTemporaryDir &folder, const std::string &file)
 {
     const Command qt { CATALOGUE_PARSE, "qt", file };
@@ -171,9 +201,10 @@ void addParsers(const QTemporaryDir &folder, const std::string &file)
 void addBenchmarks()
 {
     static const QTemporaryDir folder;
-    const std::string file = writeCatalogue(folder);
+    const std::string file = writeCatalogue(folder.filePath(u"products.xml"_s));
     addShow(folder, file);
     addCheck(file);
+    addDiff(folder, file);
     addTyped(folder, file);
     addParsers(folder, file);
 }

@@ -19,6 +19,7 @@ constexpr struct
     { "order"_L1, orderCommand, "check a project against the catalogue and write its order line"_L1 },
     { "check"_L1, checkCommand, "find what would go wrong with catalogues"_L1 },
     { "explain"_L1, explainCommand, "explain the rules that catalogues are checked by"_L1 },
+    { "diff"_L1, diffCommand, "tell what differs between two catalogues"_L1 },
     { "keywords"_L1, keywordsCommand, "list the keywords of the attributes"_L1 },
     { "decode"_L1, decodeCommand, "read a list of keywords"_L1 },
     { "spine"_L1, spineCommand, "list the spine of a product at every page count, and draw it"_L1 },

@@ -16,6 +16,7 @@ int showCommand(const QStringList &arguments, const Console &console);
 int orderCommand(const QStringList &arguments, const Console &console);
 int checkCommand(const QStringList &arguments, const Console &console);
 int explainCommand(const QStringList &arguments, const Console &console);
+int diffCommand(const QStringList &arguments, const Console &console);
 int keywordsCommand(const QStringList &arguments, const Console &console);
 int decodeCommand(const QStringList &arguments, const Console &console);
 int spineCommand(const QStringList &arguments, const Console &console);

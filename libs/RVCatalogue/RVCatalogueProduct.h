@@ -94,6 +94,7 @@ public:
 private:
     friend class RVCatalogueParser;
     friend class RVCatalogueReaderPrivate;
+    friend class RVProductFingerprint;
     friend class RVSilencer;
 
     explicit RVCatalogueProduct(RVCatalogueProductData *data);

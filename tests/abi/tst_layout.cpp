@@ -3,6 +3,7 @@
 
 #include <RVCatalogue/RVCatalogueAttribute.h>
 #include <RVCatalogue/RVCatalogueAttributes.h>
+#include <RVCatalogue/RVCatalogueComparison.h>
 #include <RVCatalogue/RVCatalogueCheck.h>
 #include <RVCatalogue/RVCatalogueElement.h>
 #include <RVCatalogue/RVCatalogueFileSet.h>
@@ -16,6 +17,8 @@
 #include <RVCatalogue/RVFilePosition.h>
 #include <RVCatalogue/RVFileRange.h>
 #include <RVCatalogue/RVNearestText.h>
+#include <RVCatalogue/RVProductChange.h>
+#include <RVCatalogue/RVProductComparison.h>
 #include <RVCore/RVAngle.h>
 #include <RVCore/RVDirectoryConfig.h>
 #include <RVCore/RVDirectoryName.h>
@@ -166,10 +169,15 @@ void tst_layout::sizes_data()
     row<RVCatalogueAttributeDecoding>("RVCatalogueAttributeDecoding", 128, 8);
     row<RVCatalogueAttributeValue>("RVCatalogueAttributeValue", 80, 8);
     row<RVCatalogueCheck>("RVCatalogueCheck", 8, 8);
+    row<RVCatalogueComparison>("RVCatalogueComparison", 8, 8);
     row<RVCatalogueElement>("RVCatalogueElement", 16, 8);
     row<RVCatalogueFileSet>("RVCatalogueFileSet", 8, 8);
     row<RVCatalogueFinding>("RVCatalogueFinding", 8, 8);
     row<RVCatalogueProduct>("RVCatalogueProduct", 8, 8);
+    row<RVComparedValue>("RVComparedValue", 48, 8);
+    row<RVComparisonCounts>("RVComparisonCounts", 40, 8);
+    row<RVProductChange>("RVProductChange", 8, 8);
+    row<RVProductComparison>("RVProductComparison", 72, 8);
     row<RVCatalogueProject>("RVCatalogueProject", 48, 8);
     row<RVCatalogueReader>("RVCatalogueReader", 8, 8);
     row<RVCatalogueReader::Iterator>("RVCatalogueReader::Iterator", 16, 8);

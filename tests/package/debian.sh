@@ -49,7 +49,8 @@ holds librvcatalogue-dev \
     "$lib"/lib'RVCatalogue\.so' "$lib"/cmake/'RVCatalogue/RVCatalogue.*\.cmake' "$lib"/pkgconfig/RVCatalogue.pc \
     'include/RVCatalogue/RV[A-Za-z]+\.h'
 holds rvcatalog \
-    bin/rvcatalog share/man/man1/rvcatalog.1.gz share/doc/rvcatalog/catalogue-format.md share/doc/rvcatalog/rules.md \
+    bin/rvcatalog share/man/man1/rvcatalog.1.gz \
+    share/doc/rvcatalog/catalogue-format.md share/doc/rvcatalog/comparing.md share/doc/rvcatalog/rules.md \
     share/rvcatalog/catalogue.xsd \
     'share/doc/rvcatalog/examples/(products|project)\.xml'
 

@@ -1,0 +1,176 @@
+#include "CatalogueFile.h"
+#include "DiffWriter.h"
+#include "SubCommands.h"
+
+#include <QCommandLineParser>
+#include <QTextStream>
+
+#include <unistd.h>
+
+#include <memory>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The arguments that git gives to a diff driver: path, old file, its hash and mode, new file, its hash and mode. Where
+/// the file was renamed, the new path and the headers of git follow. A file that could not be merged is its path alone.
+constexpr int GIT_ARGUMENTS = 7;
+constexpr int MOST_GIT_ARGUMENTS = 9;
+
+/// One of the two catalogues, and its name for people.
+struct Side
+{
+    QString fileName;
+    QString shownName;
+
+    /// Null for a file that git says is not there.
+    std::unique_ptr<CatalogueFile> open(const Console &console) const
+    {
+        return fileName.isEmpty() ? nullptr : std::make_unique<CatalogueFile>(fileName, console);
+    }
+};
+
+/// The place and the text of the error of a catalogue; nothing without one.
+std::optional<Problem> errorOf(const std::unique_ptr<CatalogueFile> &file)
+{
+    if (!file || !file->reader().hasError())
+        return std::nullopt;
+    return Problem { file->reader().errorPosition(), file->reader().errorString() };
+}
+
+/// Compares two catalogues. Nothing is written before both were read.
+class DiffRun
+{
+public:
+    DiffRun(DiffWriter *writer, const Console &console) : myWriter(writer), myConsole(console) { }
+
+    /// False, with a message at @p messages, where one cannot be read.
+    bool compare(const Side &before, const Side &after, const Console &messages)
+    {
+        const std::unique_ptr<CatalogueFile> oldFile = before.open(myConsole);
+        const std::unique_ptr<CatalogueFile> newFile = after.open(myConsole);
+        RVCatalogueComparison comparison(oldFile ? &oldFile->reader() : nullptr,
+                                         newFile ? &newFile->reader() : nullptr);
+        if (const auto error = errorOf(oldFile))
+            messages.report(before.shownName, *error);
+        else if (const auto newError = errorOf(newFile))
+            messages.report(after.shownName, *newError);
+        if (comparison.hasError())
+            return false;
+        myWriter->begin(before.shownName, after.shownName);
+        for (RVProductComparison product = comparison.next(); !product.isNull(); product = comparison.next()) {
+            myWriter->product(product);
+            myIsDifferent = true;
+        }
+        myWriter->end(comparison.counts());
+        return true;
+    }
+
+    bool isDifferent() const { return myIsDifferent; }
+
+private:
+    DiffWriter *myWriter;
+    const Console &myConsole;
+    bool myIsDifferent = false;
+};
+
+/// True where colours are wanted and seen. Git shows what its drivers write with a program that understands colours.
+bool hasColor(const QString &when, bool isGit, const Console &console)
+{
+    if (when != "auto"_L1)
+        return when == "always"_L1;
+    if (!qEnvironmentVariableIsEmpty("NO_COLOR") || qgetenv("TERM") == "dumb")
+        return false;
+    return ::isatty(::fileno(console.output)) == 1 || (isGit && qgetenv("GIT_PAGER_IN_USE") == "true");
+}
+
+int compareFiles(const QStringList &names, DiffWriter *writer, const Console &console)
+{
+    DiffRun run(writer, console);
+    if (!run.compare({ names.at(0), names.at(0) }, { names.at(1), names.at(1) }, console))
+        return EXIT_UNREADABLE;
+    return run.isDifferent() ? EXIT_PROBLEMS : EXIT_FINE;
+}
+
+Side gitSide(const QString &fileName, const QString &shownName)
+{
+    constexpr auto nothing = "/dev/null"_L1;
+    return fileName == nothing ? Side { QString(), nothing } : Side { fileName, shownName };
+}
+
+/// Git takes any other exit code than that for "equal" for a crash, which ends the whole "git diff", unless it was told
+/// otherwise. So what is wrong with a catalogue stands where its differences would.
+int compareForGit(const QStringList &arguments, DiffWriter *writer, bool hasExitCode, const Console &console)
+{
+    const QString &path = arguments.constFirst();
+    if (arguments.size() == 1) {
+        QTextStream(console.output) << "* Unmerged path " << path << '\n';
+        return EXIT_FINE;
+    }
+    const QString newPath = arguments.value(GIT_ARGUMENTS, path);
+    QTextStream(console.output) << "diff --rvcatalog a/" << path << " b/" << newPath << '\n';
+    const Console messages { console.input, console.output, console.output };
+    DiffRun run(writer, console);
+    const bool isRead = run.compare(gitSide(arguments.at(1), "a/"_L1 + path),
+                                    gitSide(arguments.at(4), "b/"_L1 + newPath), messages);
+    return hasExitCode && (!isRead || run.isDifferent()) ? EXIT_PROBLEMS : EXIT_FINE;
+}
+
+/// The reason why the arguments cannot be understood; empty where they can.
+QString refusal(const QString &format, const QString &color, bool isGit, const QStringList &names)
+{
+    static const QStringList formats { u"text"_s, u"json"_s, u"markdown"_s };
+    static const QStringList colors { u"auto"_s, u"always"_s, u"never"_s };
+    if (!formats.contains(format))
+        return u"there is no format \"%1\"; there are: %2"_s.arg(format, formats.join(", "_L1));
+    if (!colors.contains(color))
+        return u"--color is auto, always or never, not \"%1\""_s.arg(color);
+    if (isGit && format == "json"_L1)
+        return u"--git writes several comparisons, which are no JSON"_s;
+    const bool isCountRight = isGit ? names.size() == 1 || names.size() >= GIT_ARGUMENTS : names.size() == 2;
+    if (!isCountRight)
+        return u"expected %1 arguments, got %2"_s.arg(isGit ? GIT_ARGUMENTS : 2).arg(names.size());
+    if (!isGit && names.at(0) == "-"_L1 && names.at(1) == "-"_L1)
+        return u"only one file can be the standard input"_s;
+    return QString();
+}
+
+}
+
+int diffCommand(const QStringList &arguments, const Console &console)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+            u"Tells what differs between two catalogues: products that were added or removed, and what has changed of\n"
+            "the others. What the ordering application reads is compared, not how it is written.\n"
+            "Ends with 0 when they are equal, with 1 when they differ, with 2 when one of them cannot be read."_s);
+    const QCommandLineOption formatOption(u"format"_s, u"Write text, json, or markdown."_s, u"FORMAT"_s, u"text"_s);
+    const QCommandLineOption colorOption(u"color"_s, u"Colour the text: auto (on a terminal), always, or never."_s,
+                                         u"WHEN"_s, u"auto"_s);
+    const QCommandLineOption git(u"git"_s,
+                                 u"Take the arguments that git gives to a diff driver: PATH OLD-FILE OLD-HEX OLD-MODE "
+                                 u"NEW-FILE NEW-HEX NEW-MODE. "
+                                 "Ends with 0 also when the catalogues differ."_s);
+    const QCommandLineOption exitCodeOption(
+            u"exit-code"_s, u"With --git, ends with 1 when they differ, for diff.<driver>.trustExitCode."_s);
+    parser.addOptions({ formatOption, colorOption, git, exitCodeOption });
+    parser.addPositionalArgument(u"OLD"_s, u"The products XML before; \"-\" is the standard input."_s, u"OLD.xml"_s);
+    parser.addPositionalArgument(u"NEW"_s, u"The products XML afterwards; \"-\" is the standard input."_s,
+                                 u"NEW.xml"_s);
+    int exitCode = EXIT_FINE;
+    if (!parseArguments(parser, arguments, 1, MOST_GIT_ARGUMENTS, console, &exitCode))
+        return exitCode;
+
+    const QString format = parser.value(formatOption);
+    const QString when = parser.value(colorOption);
+    const bool isGit = parser.isSet(git);
+    const QString problem = refusal(format, when, isGit, parser.positionalArguments());
+    if (!problem.isEmpty())
+        return refuseArguments(arguments.constFirst(), problem, console);
+    const auto writer = DiffWriter::create(format, hasColor(when, isGit, console), console);
+    if (isGit)
+        return compareForGit(parser.positionalArguments(), writer.get(), parser.isSet(exitCodeOption), console);
+    return compareFiles(parser.positionalArguments(), writer.get(), console);
+}

@@ -1,0 +1,13 @@
+#ifndef RVPAGECOMPARISON_P_H
+#define RVPAGECOMPARISON_P_H
+
+class RVCatalogueProduct;
+class RVProductChanges;
+
+/// Adds what differs in page counts and in the spine.
+/// @{
+void rvComparePages(const RVCatalogueProduct &before, const RVCatalogueProduct &after, RVProductChanges *changes);
+void rvCompareSpines(const RVCatalogueProduct &before, const RVCatalogueProduct &after, RVProductChanges *changes);
+/// @}
+
+#endif

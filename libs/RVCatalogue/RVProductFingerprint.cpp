@@ -1,0 +1,81 @@
+#include "RVProductFingerprint_p.h"
+
+#include "RVCatalogueProduct.h"
+#include "RVCatalogueProductData_p.h"
+
+#include <QCryptographicHash>
+
+#include <algorithm>
+#include <cstring>
+#include <vector>
+
+namespace {
+
+// XML has none of these characters, so nothing else looks alike.
+constexpr char ELEMENT_BEGIN = '\1';
+constexpr char ELEMENT_END = '\2';
+constexpr char TEXT_END = '\0';
+
+bool isBefore(QByteArrayView a, QByteArrayView b)
+{
+    return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end());
+}
+
+/// Writes the elements of a product in a form that is the same for all ways to write them.
+class CanonicalText
+{
+public:
+    explicit CanonicalText(const RVCatalogueRows &rows) : myRows(rows)
+    {
+        myText.reserve(rows.text.size() + qsizetype(rows.elements.size()) * 4);
+    }
+
+    void append(QByteArrayView text) { myText.append(text).append(TEXT_END); }
+
+    void appendElements()
+    {
+        std::vector<quint32> ends;
+        for (quint32 i = 0; i < myRows.elements.size(); ++i) {
+            for (; !ends.empty() && ends.back() <= i; ends.pop_back())
+                myText.append(ELEMENT_END);
+            appendElement(myRows.elements[i]);
+            ends.push_back(myRows.elements[i].end);
+        }
+    }
+
+    const QByteArray &text() const { return myText; }
+
+private:
+    void appendElement(const RVCatalogueRows::Element &element)
+    {
+        mySorted.clear();
+        for (quint32 i = element.attributesBegin; i < element.attributesEnd; ++i)
+            mySorted.push_back(&myRows.attributes[i]);
+        std::sort(mySorted.begin(), mySorted.end(),
+                  [this](const RVCatalogueRows::Attribute *a, const RVCatalogueRows::Attribute *b) {
+                      return isBefore(myRows.view(a->name), myRows.view(b->name));
+                  });
+        myText.append(ELEMENT_BEGIN);
+        append(myRows.name(element));
+        for (const RVCatalogueRows::Attribute *attribute : mySorted) {
+            append(myRows.view(attribute->name));
+            append(myRows.view(attribute->value));
+        }
+    }
+
+    const RVCatalogueRows &myRows;
+    QByteArray myText;
+    std::vector<const RVCatalogueRows::Attribute *> mySorted;
+};
+
+}
+
+RVProductFingerprint::RVProductFingerprint(const RVCatalogueProduct &product)
+{
+    CanonicalText canonical(product.d->rows);
+    for (const QString &family : product.d->families)
+        canonical.append(family.toUtf8());
+    canonical.appendElements();
+    const QByteArray hash = QCryptographicHash::hash(canonical.text(), QCryptographicHash::Blake2b_160);
+    std::memcpy(myHash.data(), hash.constData(), sizeof(myHash));
+}
