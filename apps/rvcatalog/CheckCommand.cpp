@@ -217,7 +217,7 @@ int checkCommand(const QStringList &arguments, const Console &console)
     parser.setApplicationDescription(
             u"Finds what would go wrong with catalogues in the ordering application: one finding a line, in the order\n"
             "of the file, and a summary last. Ends with 1 when there are errors or warnings."_s);
-    const QCommandLineOption format(u"format"_s, u"Write text, json, or sarif (version 2.1.0)."_s, u"FORMAT"_s,
+    const QCommandLineOption format(u"format"_s, u"How to write it; sarif is version 2.1.0."_s, u"text|json|sarif"_s,
                                     u"text"_s);
     const QCommandLineOption rules(u"rules"_s, u"List the rules, and why they matter."_s);
     const QCommandLineOption disableOption(u"disable"_s, u"Leave out a rule. May be given several times."_s, u"RULE"_s);
