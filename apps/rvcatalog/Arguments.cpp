@@ -20,11 +20,12 @@ QString expectedArguments(int least, int most)
 /// The reason why the parser cannot understand the options.
 QString parserProblem(const QCommandLineParser &parser)
 {
-    const QStringList unknown = parser.unknownOptionNames();
-    if (unknown.isEmpty())
-        return parser.errorText();
-    const QString name = (unknown.constFirst().size() > 1 ? "--"_L1 : "-"_L1) + unknown.constFirst();
-    return u"there is no option \"%1\""_s.arg(name) + didYouMean(name, HelpText(parser.helpText()).optionNames());
+    const QString text = parser.errorText();
+    QStringList names;
+    for (const QString &name : HelpText(parser.helpText()).optionNames())
+        names += name.mid(2);
+    const QString suggestion = didYouMean(parser.unknownOptionNames().value(0), names, u"--"_s);
+    return suggestion.isEmpty() ? text : text.chopped(text.endsWith(u'.') ? 1 : 0) + suggestion;
 }
 
 /// The reason why a value of an option is none of those that its help lists; empty where there is none.

@@ -13,6 +13,7 @@ namespace {
 // Wide enough for the codes and counts of a catalogue; the table is written before its last row is known.
 constexpr int COLUMN_WIDTHS[] = { 9, 17, 7, 12, 8, 0 };
 constexpr int INDENT = COLUMN_WIDTHS[0];
+constexpr int NAME_COLUMN = 53; // behind the others
 
 /// Ends every piece but the last with a sign, so that they can be told apart: "class book;", "cover HARDCOVER".
 QStringList separated(QStringList pieces, QChar sign)
@@ -71,9 +72,13 @@ void ProductTable::writeHeading()
 void ProductTable::write(const ProductValues &values)
 {
     const RVCatalogueProduct &product = values.product;
+    const QString name = product.name();
+    const bool hasRoom = name.size() <= TERMINAL_WIDTH - NAME_COLUMN;
     writeRow({ values.type.orderTxtName(), pageCountsText(values.pageCounts),
                QString::number(values.pageCounts.numberOfPackages()), spineText(values), fontText(values),
-               product.name() });
+               hasRoom ? name : QString() });
+    if (!hasRoom)
+        writeDetail(name.split(u' '));
     writeDetail(attributePieces(product));
     for (const RVBarcodeDefinition &barcode : product.barcodes())
         writeDetail({ "barcode "_L1 + barcodeText(barcode) });

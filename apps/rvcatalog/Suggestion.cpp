@@ -4,11 +4,11 @@
 
 using namespace Qt::StringLiterals;
 
-QString didYouMean(const QString &wanted, const QStringList &candidates)
+QString didYouMean(const QString &wanted, const QStringList &candidates, const QString &prefix)
 {
     // With more than half of its letters changed, a word is another word.
     RVNearestText nearest(wanted, int(wanted.size() + 1) / 2);
     for (const QString &candidate : candidates)
         nearest.offer(candidate);
-    return nearest.text().isEmpty() ? QString() : u"; did you mean \"%1\"?"_s.arg(nearest.text());
+    return nearest.text().isEmpty() ? QString() : u"; did you mean \"%1%2\"?"_s.arg(prefix, nearest.text());
 }
