@@ -55,11 +55,18 @@ Candidates options(const HelpText &help)
     return result;
 }
 
-Candidates rules()
+/// The pieces of a list that @p text has begun, with their commas; the last one is not complete.
+QString completePieces(const QString &text)
+{
+    return text.left(text.lastIndexOf(u',') + 1);
+}
+
+/// The rules, behind @p pieces of a list.
+Candidates rules(const QString &pieces = QString())
 {
     Candidates result;
     for (const RVCatalogueRule &rule : RVCatalogueRule::all())
-        result += { rule.name(), rule.reason() };
+        result += { pieces + rule.name(), rule.reason() };
     return result;
 }
 
@@ -75,7 +82,7 @@ Candidates attributes()
 Candidates keywords(const RVCatalogueAttribute &attribute, const QString &text)
 {
     Candidates result;
-    const QString pieces = text.left(text.lastIndexOf(u',') + 1);
+    const QString pieces = completePieces(text);
     for (const RVCatalogueAttributeValue &value : attribute.values()) {
         if (!value.keyword.isEmpty())
             result += { pieces + value.keyword, value.displayName };
@@ -127,6 +134,8 @@ Completion wordsFor(const QString &placeholder, const CommandLineWords &line)
         return { conditions(line.value()), false };
     if (placeholder == "RULE"_L1)
         return { rules(), false };
+    if (placeholder == "RULES"_L1)
+        return { rules(completePieces(line.value())), false };
     if (placeholder == "TEXT"_L1)
         return { keywords(RVCatalogueAttribute::find(first), line.value()), false };
     if (placeholder == "TYPE"_L1)

@@ -111,9 +111,11 @@ QList<ProductOption> Order::options() const
     return result;
 }
 
-bool Order::isChosen(const QString &key) const
+QStringList Order::chosenKeys() const
 {
-    return chosen().keys().contains(key);
+    QStringList result = chosen().keys();
+    result.sort();
+    return result;
 }
 
 QMap<RVPriceClass, qint64> Order::priceClasses() const

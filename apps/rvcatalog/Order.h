@@ -26,7 +26,7 @@ public:
     int packages() const; ///< Above the lowest count.
     RVArticleVariants variants() const; ///< With the defaults.
     QList<ProductOption> options() const; ///< The chosen ones and the defaults, in the order of the catalogue.
-    bool isChosen(const QString &key) const; ///< False for a default that is added.
+    QStringList chosenKeys() const; ///< Sorted; the others have a default that is added.
     /// All packages and options of a product may share one price class, so the sum may be larger than an int.
     QMap<RVPriceClass, qint64> priceClasses() const;
     /// @}

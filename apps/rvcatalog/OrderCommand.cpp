@@ -42,9 +42,10 @@ void writeOrder(const Order &order, const Console &console)
     QTextStream out(console.output);
     writeProduct(out, order);
     out << "\nOptions\n";
+    const QStringList chosenKeys = order.chosenKeys();
     for (const ProductOption &option : order.options())
         out << "  " << option.option.keyName() << ": " << option.option.visibleName()
-            << (order.isChosen(option.option.key()) ? "" : " (default)") << '\n';
+            << (chosenKeys.contains(option.option.key()) ? "" : " (default)") << '\n';
     out << "\nPrice classes\n";
     const QMap<RVPriceClass, qint64> counted = order.priceClasses();
     for (auto it = counted.begin(); it != counted.end(); ++it)

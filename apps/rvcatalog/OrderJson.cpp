@@ -14,17 +14,6 @@ void writeOptions(JsonWriter &json, const Order &order)
     json.endArray();
 }
 
-/// The keys that the customer has chosen something of.
-void writeChosenKeys(JsonWriter &json, const Order &order)
-{
-    json.beginArray();
-    for (const ProductOption &option : order.options()) {
-        if (order.isChosen(option.option.key()))
-            json.value(option.option.key());
-    }
-    json.endArray();
-}
-
 void writePriceClasses(JsonWriter &json, const QMap<RVPriceClass, qint64> &counted)
 {
     json.beginArray();
@@ -58,7 +47,7 @@ void writeOrder(JsonWriter &json, const Order &order, const QString &catalogueNa
     const RVCatalogueProduct &product = order.values().product;
     json.beginObject();
     json.key("chosen_keys"_L1);
-    writeChosenKeys(json, order);
+    writeTexts(json, order.chosenKeys());
     json.key("name"_L1);
     writeText(json, product.name());
     json.key("options"_L1);
