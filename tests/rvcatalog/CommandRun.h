@@ -4,50 +4,43 @@
 #include <Commands.h>
 
 #include <QByteArray>
+#include <QString>
 #include <QStringList>
 
 #include <cstdio>
 #include <memory>
 
-/// A file without a name, which a command reads or writes.
-class Stream
+/// A command of rvcatalog that has run in the process of the test, and what it wrote.
+class CommandRun
 {
 public:
-    explicit Stream(const QByteArray &content = QByteArray()) : myFile(std::tmpfile(), &std::fclose)
+    explicit CommandRun(const QStringList &arguments, const QByteArray &input = QByteArray())
     {
-        std::fwrite(content.constData(), 1, std::size_t(content.size()), file());
-        std::rewind(file());
+        const File in = temporaryFile();
+        const File out = temporaryFile();
+        const File errors = temporaryFile();
+        std::fwrite(input.constData(), 1, std::size_t(input.size()), in.get());
+        std::rewind(in.get());
+        exitCode = runCommand(arguments, { in.get(), out.get(), errors.get() });
+        output = textOf(out.get());
+        messages = textOf(errors.get());
     }
 
-    std::FILE *file() const { return myFile.get(); }
-    QString text() const
-    {
-        QByteArray result(std::ftell(file()), '\0');
-        std::rewind(file());
-        result.resize(qsizetype(std::fread(result.data(), 1, std::size_t(result.size()), file())));
-        return QString::fromUtf8(result);
-    }
-
-private:
-    std::unique_ptr<std::FILE, int (*)(std::FILE *)> myFile;
-};
-
-/// The outcome of a command.
-struct Run
-{
     int exitCode = -1;
     QString output;
     QString messages;
-};
 
-/// Runs a command in the process of the test.
-inline Run run(const QStringList &arguments, const QByteArray &input = QByteArray())
-{
-    const Stream in(input);
-    const Stream out;
-    const Stream messages;
-    const int exitCode = runCommand(arguments, { in.file(), out.file(), messages.file() });
-    return { exitCode, out.text(), messages.text() };
-}
+private:
+    using File = std::unique_ptr<std::FILE, int (*)(std::FILE *)>;
+
+    static File temporaryFile() { return { std::tmpfile(), &std::fclose }; }
+    static QString textOf(std::FILE *file)
+    {
+        QByteArray result(std::ftell(file), '\0');
+        std::rewind(file);
+        result.resize(qsizetype(std::fread(result.data(), 1, std::size_t(result.size()), file)));
+        return QString::fromUtf8(result);
+    }
+};
 
 #endif

@@ -7,6 +7,15 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+CommandRun run(const QStringList &arguments, const QByteArray &input = QByteArray())
+{
+    return CommandRun(arguments, input);
+}
+
+}
+
 class tst_Arguments : public QObject
 {
     Q_OBJECT
@@ -76,7 +85,7 @@ void tst_Arguments::messages_data()
 void tst_Arguments::messages()
 {
     QFETCH(QStringList, arguments);
-    const Run result = run(arguments, "<p/>");
+    const CommandRun result = run(arguments, "<p/>");
     QTEST(result.messages.section(u'\n', 0, 0), "firstLine");
     QCOMPARE(result.output, QString());
     QCOMPARE(result.exitCode, 2);
@@ -97,9 +106,9 @@ void tst_Arguments::shortForm_data()
 void tst_Arguments::shortForm()
 {
     QFETCH(QStringList, arguments);
-    const Run inFull = run(arguments + QStringList { u"--format"_s, u"json"_s });
+    const CommandRun inFull = run(arguments + QStringList { u"--format"_s, u"json"_s });
     QVERIFY2(inFull.output.startsWith(u'[') || inFull.output.startsWith(u'{'), qPrintable(inFull.output));
-    const Run inShort = run(arguments + QStringList { u"--json"_s });
+    const CommandRun inShort = run(arguments + QStringList { u"--json"_s });
     QCOMPARE(inShort.output, inFull.output);
     QCOMPARE(inShort.exitCode, inFull.exitCode);
     QVERIFY(run(arguments).output != inFull.output);
@@ -108,7 +117,7 @@ void tst_Arguments::shortForm()
 
 void tst_Arguments::formatCountsMore()
 {
-    const Run text = run({ u"decode"_s, u"orientation"_s, u"square"_s });
+    const CommandRun text = run({ u"decode"_s, u"orientation"_s, u"square"_s });
     QCOMPARE(run({ u"decode"_s, u"--json"_s, u"--format=text"_s, u"orientation"_s, u"square"_s }).output, text.output);
     QCOMPARE(run({ u"decode"_s, u"--format=text"_s, u"--json"_s, u"orientation"_s, u"square"_s }).output, text.output);
     // Behind "--" there are no options.
@@ -118,7 +127,7 @@ void tst_Arguments::formatCountsMore()
 
 void tst_Arguments::helpOfACommand()
 {
-    const Run help = run({ u"help"_s, u"spine"_s });
+    const CommandRun help = run({ u"help"_s, u"spine"_s });
     QCOMPARE(help.output, run({ u"spine"_s, u"--help"_s }).output);
     QVERIFY2(help.output.startsWith("Usage: rvcatalog spine "_L1), qPrintable(help.output));
     QCOMPARE(help.exitCode, 0);

@@ -10,6 +10,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+CommandRun run(const QStringList &arguments, const QByteArray &input = QByteArray())
+{
+    return CommandRun(arguments, input);
+}
+
 const char CATALOGUE[] = "<products>\n"
                          "<product type='DUN9' article_id='1' pages='26' max_pages='154' page_step='4'>"
                          "<composition><spine packages_per_block='2' base_width='8' block_width='1'/></composition>"
@@ -91,7 +96,7 @@ void tst_Commands::exitCodes_data()
 void tst_Commands::exitCodes()
 {
     QFETCH(QStringList, arguments);
-    const Run result = run(arguments);
+    const CommandRun result = run(arguments);
     QTEST(result.exitCode, "exitCode");
     QTEST(!result.output.isEmpty(), "hasOutput");
     QTEST(!result.messages.isEmpty(), "hasMessages");
@@ -123,8 +128,8 @@ void tst_Commands::standardInput()
     QFETCH(QStringList, unnamed);
     QFile input(file);
     QVERIFY(input.open(QIODevice::ReadOnly));
-    const Run ofFile = run(named);
-    const Run ofInput = run(unnamed, input.readAll());
+    const CommandRun ofFile = run(named);
+    const CommandRun ofInput = run(unnamed, input.readAll());
     QCOMPARE(ofFile.exitCode, 0);
     QVERIFY(!ofFile.output.isEmpty());
     QCOMPARE(ofInput.messages, QString());
@@ -138,7 +143,7 @@ void tst_Commands::standardInput()
 
 void tst_Commands::onlyOneStandardInput()
 {
-    const Run result = run({ u"order"_s, u"-"_s, u"-"_s }, CATALOGUE);
+    const CommandRun result = run({ u"order"_s, u"-"_s, u"-"_s }, CATALOGUE);
     QCOMPARE(result.messages,
              u"rvcatalog: only one file can be the standard input\nTry \"rvcatalog order --help\".\n"_s);
     QCOMPARE(result.output, QString());
@@ -159,7 +164,7 @@ void tst_Commands::brokenStandardInput_data()
 void tst_Commands::brokenStandardInput()
 {
     QFETCH(QStringList, arguments);
-    const Run result = run(arguments);
+    const CommandRun result = run(arguments);
     QCOMPARE(result.messages, u"-:1:1: the file is empty\n"_s);
     QCOMPARE(result.exitCode, 2);
 }
@@ -178,7 +183,7 @@ void tst_Commands::noFile_data()
 void tst_Commands::noFile()
 {
     QFETCH(QStringList, arguments);
-    const Run result = run(arguments);
+    const CommandRun result = run(arguments);
     QCOMPARE(result.messages, u"no.xml:1:1: cannot open the file: No such file or directory\n"_s);
     QCOMPARE(result.output, QString());
     QCOMPARE(result.exitCode, 2);
@@ -187,9 +192,9 @@ void tst_Commands::noFile()
 void tst_Commands::nothingIsLeftOfARun()
 {
     const QStringList arguments = { u"check"_s, u"--format=json"_s, u"c.xml"_s, u"no.xml"_s };
-    const Run first = run(arguments);
+    const CommandRun first = run(arguments);
     QCOMPARE(first.exitCode, 2);
-    const Run second = run(arguments);
+    const CommandRun second = run(arguments);
     QCOMPARE(second.output, first.output);
     QCOMPARE(second.messages, first.messages);
     QCOMPARE(second.exitCode, 2);
@@ -197,7 +202,7 @@ void tst_Commands::nothingIsLeftOfARun()
 
 void tst_Commands::hundredThousandCounts()
 {
-    const Run result = run({ u"spine"_s, u"-"_s, u"X"_s }, withCounts(100000));
+    const CommandRun result = run({ u"spine"_s, u"-"_s, u"X"_s }, withCounts(100000));
     QCOMPARE(result.messages, QString());
     QCOMPARE(result.output.count(u'\n'), 100001);
     QCOMPARE(result.exitCode, 0);
@@ -205,7 +210,7 @@ void tst_Commands::hundredThousandCounts()
 
 void tst_Commands::oneCountTooMany()
 {
-    const Run result = run({ u"spine"_s, u"-"_s, u"X"_s, u"--plot"_s, u"x.svg"_s }, withCounts(100001));
+    const CommandRun result = run({ u"spine"_s, u"-"_s, u"X"_s, u"--plot"_s, u"x.svg"_s }, withCounts(100001));
     QCOMPARE(result.messages,
              u"-:2:43: X has 100001 page counts, and no more than 100000 can be listed; set a larger page_step or a "
              "smaller max_pages\n"_s);
@@ -221,7 +226,7 @@ void tst_Commands::jsonOfManyProducts()
     QByteArray file = "<p>";
     for (int i = 0; i < count; ++i)
         file += "<product type='T" + QByteArray::number(i) + "' pages='26' cover_type='hard'/>";
-    const Run result = run({ u"show"_s, u"--json"_s, u"-"_s }, file + "</p>");
+    const CommandRun result = run({ u"show"_s, u"--json"_s, u"-"_s }, file + "</p>");
     QCOMPARE(result.messages, QString());
     QCOMPARE(result.exitCode, 0);
     QJsonParseError error;

@@ -16,6 +16,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+CommandRun run(const QStringList &arguments, const QByteArray &input = QByteArray())
+{
+    return CommandRun(arguments, input);
+}
+
 const QString SAMPLE_CATALOGUE = QString::fromUtf8(SAMPLES "/products.xml");
 const QString SAMPLE_PROJECT = QString::fromUtf8(SAMPLES "/project.xml");
 
@@ -88,7 +93,7 @@ void tst_json_schema::isValid()
 {
     QFETCH(QStringList, arguments);
     QFETCH(QString, input);
-    const Run written = run(arguments + QStringList { u"--format=json"_s }, input.toUtf8());
+    const CommandRun written = run(arguments + QStringList { u"--format=json"_s }, input.toUtf8());
     QVERIFY2(!written.output.isEmpty(), qPrintable(written.messages));
     QCOMPARE(validate(arguments.constFirst(), written.output.toUtf8()), QString());
 }
@@ -127,7 +132,8 @@ void tst_json_schema::randomCatalogues()
     QString catalogue = u"<p><family name=''><family name='Groß &lt;'>"_s;
     for (int i = 0; i < 300; ++i)
         catalogue += random.product() + u'\n';
-    const Run written = run({ u"show"_s, u"--json"_s, u"-"_s }, (catalogue + u"</family></family></p>"_s).toUtf8());
+    const CommandRun written = run({ u"show"_s, u"--json"_s, u"-"_s },
+                                   (catalogue + u"</family></family></p>"_s).toUtf8());
     QCOMPARE(QJsonDocument::fromJson(written.output.toUtf8()).array().size(), 300);
     QCOMPARE(validate(u"show"_s, written.output.toUtf8()), QString());
 }
@@ -143,7 +149,7 @@ void tst_json_schema::randomSpinesAndOrders()
     file.close();
     for (int i = 0; i < 500; ++i) {
         const QByteArray catalogue = u"<p>%1</p>"_s.arg(random.product()).toUtf8();
-        const Run spine = run({ u"spine"_s, u"--json"_s, u"-"_s, u"DUN9"_s }, catalogue);
+        const CommandRun spine = run({ u"spine"_s, u"--json"_s, u"-"_s, u"DUN9"_s }, catalogue);
         if (!spine.output.isEmpty() && spine.output.size() < 20000)
             spines += spine.output.toUtf8();
         orders += run({ u"order"_s, u"--json"_s, u"-"_s, u"p.xml"_s }, catalogue).output.toUtf8();

@@ -12,6 +12,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+CommandRun run(const QStringList &arguments, const QByteArray &input = QByteArray())
+{
+    return CommandRun(arguments, input);
+}
+
 const char CATALOGUE[] =
         "<products><family name='Books'><inner name='Large'>\n"
         "  <product type='DUN9_30' name='Big' article_id='17' article_class='book' cover_type='hard' price_class='PB9' "
@@ -28,7 +33,7 @@ const char CATALOGUE[] =
         "<product type='BOX1' photo_box='true' pages='10' page_step='10'/>\n"
         "</products>\n";
 
-QStringList types(const Run &shown)
+QStringList types(const CommandRun &shown)
 {
     QStringList result;
     for (const QJsonValue &product : QJsonDocument::fromJson(shown.output.toUtf8()).array())
@@ -71,7 +76,7 @@ void tst_show::initTestCase()
 
 void tst_show::everything()
 {
-    const Run shown = run({ u"show"_s, u"--json"_s, u"c.xml"_s, u"DUN9"_s });
+    const CommandRun shown = run({ u"show"_s, u"--json"_s, u"c.xml"_s, u"DUN9"_s });
     QCOMPARE(shown.output,
              u"[\n"
              "{\"article_class\":{\"keywords\":[\"book\"],\"value\":1},\"article_id\":17,"
@@ -99,7 +104,7 @@ void tst_show::everything()
 
 void tst_show::longSheets()
 {
-    const Run shown = run({ u"show"_s, u"--long"_s, u"c.xml"_s, u"DUN9"_s, u"BOX1"_s });
+    const CommandRun shown = run({ u"show"_s, u"--long"_s, u"c.xml"_s, u"DUN9"_s, u"BOX1"_s });
     QCOMPARE(shown.output,
              u"DUN9  Big\n"
              "  Place           c.xml:2:3\n"
@@ -127,9 +132,9 @@ void tst_show::longSheets()
 
 void tst_show::longOptionName()
 {
-    const Run shown = run({ u"show"_s, u"--long"_s, u"-"_s },
-                          "<p><product type='A' pages='1'><forms><form key='k' value='a_value_that_is_long' "
-                          "value_name='V'/></forms></product></p>");
+    const CommandRun shown = run({ u"show"_s, u"--long"_s, u"-"_s },
+                                 "<p><product type='A' pages='1'><forms><form key='k' value='a_value_that_is_long' "
+                                 "value_name='V'/></forms></product></p>");
     QVERIFY2(shown.output.contains("\n    a_value_that_is_long*  V\n"_L1), qPrintable(shown.output));
 }
 
@@ -144,8 +149,8 @@ void tst_show::fitsTheTerminal_data()
 void tst_show::fitsTheTerminal()
 {
     QFETCH(QStringList, options);
-    const Run shown = run(QStringList { u"show"_s } + options
-                          + QStringList { QString::fromUtf8(SAMPLES "/products.xml") });
+    const CommandRun shown = run(QStringList { u"show"_s } + options
+                                 + QStringList { QString::fromUtf8(SAMPLES "/products.xml") });
     QCOMPARE(shown.exitCode, 0);
     for (const QString &line : shown.output.split(u'\n')) {
         // The place of the sample is where the tree is.
@@ -172,13 +177,13 @@ void tst_show::choice_data()
 void tst_show::choice()
 {
     QFETCH(QStringList, arguments);
-    const Run shown = run(QStringList { u"show"_s, u"--json"_s, u"c.xml"_s } + arguments);
+    const CommandRun shown = run(QStringList { u"show"_s, u"--json"_s, u"c.xml"_s } + arguments);
     QTEST(types(shown), "chosen");
     QCOMPARE(shown.messages, QString());
     QCOMPARE(shown.exitCode, 0);
     // The other ways to write it choose the same.
-    const Run table = run(QStringList { u"show"_s, u"c.xml"_s } + arguments);
-    const Run sheets = run(QStringList { u"show"_s, u"--long"_s, u"c.xml"_s } + arguments);
+    const CommandRun table = run(QStringList { u"show"_s, u"c.xml"_s } + arguments);
+    const CommandRun sheets = run(QStringList { u"show"_s, u"--long"_s, u"c.xml"_s } + arguments);
     for (const QString &type : { u"DUN9"_s, u"VIR1"_s, u"BOX1"_s }) {
         QCOMPARE(table.output.contains(u'\n' + type + u' '), types(shown).contains(type));
         const bool hasSheet = QString(u'\n' + sheets.output).contains(QRegularExpression(u"\n%1(\n|  )"_s.arg(type)));
@@ -196,32 +201,32 @@ void tst_show::problemsOfTheChosenOnly()
 {
     const QByteArray catalogue = "<p><product/>\n<product type='A' pages='9' max_pages='3' page_step='1'/>\n"
                                  "<product type='B' pages='2'/></p>";
-    const Run good = run({ u"show"_s, u"-"_s, u"B"_s }, catalogue);
+    const CommandRun good = run({ u"show"_s, u"-"_s, u"B"_s }, catalogue);
     QCOMPARE(good.messages, QString());
     QCOMPARE(good.exitCode, 0);
-    const Run bad = run({ u"show"_s, u"-"_s, u"A"_s }, catalogue);
+    const CommandRun bad = run({ u"show"_s, u"-"_s, u"A"_s }, catalogue);
     QCOMPARE(bad.messages, u"-:2:1: the product has no valid page counts (min: 9; max: 3; increment: 1)\n"_s);
     QCOMPARE(bad.exitCode, 1);
 }
 
 void tst_show::nothingIsChosen()
 {
-    const Run unknown = run({ u"show"_s, u"--json"_s, u"c.xml"_s, u"VIR1"_s, u"DUN8"_s });
+    const CommandRun unknown = run({ u"show"_s, u"--json"_s, u"c.xml"_s, u"VIR1"_s, u"DUN8"_s });
     QCOMPARE(types(unknown), QStringList { u"VIR1"_s });
     QCOMPARE(unknown.messages, u"c.xml:1:1: the catalogue has no product of type \"DUN8\"; did you mean \"DUN9\"?\n"_s);
     QCOMPARE(unknown.exitCode, 1);
-    const Run none = run({ u"show"_s, u"--json"_s, u"c.xml"_s, u"--where"_s, u"pages>1000"_s });
+    const CommandRun none = run({ u"show"_s, u"--json"_s, u"c.xml"_s, u"--where"_s, u"pages>1000"_s });
     QCOMPARE(none.output, u"[\n]\n"_s);
     QCOMPARE(none.messages, u"c.xml:1:1: no product meets the conditions\n"_s);
     QCOMPARE(none.exitCode, 1);
-    const Run empty = run({ u"show"_s, u"-"_s, u"DUN8"_s }, "<p/>");
+    const CommandRun empty = run({ u"show"_s, u"-"_s, u"DUN8"_s }, "<p/>");
     QCOMPARE(empty.messages, u"-:1:1: there is no product in this file\n"_s);
     QCOMPARE(empty.exitCode, 1);
 }
 
 void tst_show::wrongCondition()
 {
-    const Run shown = run({ u"show"_s, u"none.xml"_s, u"--where"_s, u"cover_type=leader"_s });
+    const CommandRun shown = run({ u"show"_s, u"none.xml"_s, u"--where"_s, u"cover_type=leader"_s });
     QCOMPARE(shown.messages,
              u"rvcatalog: \"leader\" is no keyword of cover_type; did you mean \"LEATHER\"?\n"
              "Try \"rvcatalog show --help\".\n"_s);
@@ -232,7 +237,8 @@ void tst_show::wrongCondition()
 // What stands before the break is whole, and so is the JSON.
 void tst_show::brokenCatalogue()
 {
-    const Run shown = run({ u"show"_s, u"--json"_s, u"-"_s }, "<p><product type='A' pages='1'/><product type='B'");
+    const CommandRun shown = run({ u"show"_s, u"--json"_s, u"-"_s },
+                                 "<p><product type='A' pages='1'/><product type='B'");
     QCOMPARE(types(shown), QStringList { u"A"_s });
     QVERIFY(shown.output.endsWith("\n]\n"_L1));
     QCOMPARE(shown.exitCode, 2);
