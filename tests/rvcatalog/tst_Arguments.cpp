@@ -153,9 +153,9 @@ void tst_Arguments::everyCommand()
     QVERIFY(help.optionNames().contains(u"--help"_s));
     if (help.optionNames().contains(u"--format"_s)) {
         const QStringList formats = help.option(u"--format"_s).values();
-        QVERIFY2(formats.contains(u"text"_s) && formats.contains(u"json"_s),
-                 "the value of --format is to be named by the formats, as in \"text|json\"");
-        QVERIFY(help.optionNames().contains(u"--json"_s));
+        QVERIFY2(formats.value(0) == "text"_L1,
+                 "the value of --format is to be named by the formats, as in \"text|json\", and text is the usual one");
+        QCOMPARE(help.optionNames().contains(u"--json"_s), formats.contains(u"json"_s));
     }
     QVERIFY2(!commandSummary(command).isEmpty() && commandSummary(command).size() <= 68,
              qPrintable(commandSummary(command)));
