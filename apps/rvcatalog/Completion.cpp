@@ -115,8 +115,10 @@ Candidates conditions(const QString &text)
     QString name = text.left(sign);
     if (name.endsWith(u'!'))
         name.chop(1);
-    for (CompletionCandidate &candidate : result = keywords(RVCatalogueAttribute::find(name), text.mid(sign + 1)))
+    for (CompletionCandidate candidate : keywords(RVCatalogueAttribute::find(name), text.mid(sign + 1))) {
         candidate.word.prepend(text.left(sign + 1));
+        result += candidate;
+    }
     return result;
 }
 
