@@ -59,7 +59,7 @@ QJsonObject keywords(const QStringList &list)
 
 QJsonObject spineJson(const DomProduct &product, int pages)
 {
-    return { { u"pages"_s, pages }, { u"width_mm"_s, product.spineWidth(pages) / 10 } };
+    return { { u"page_count"_s, pages }, { u"width_mm"_s, product.spineWidth(pages) / 10 } };
 }
 
 QJsonObject toJson(const DomProduct &product)

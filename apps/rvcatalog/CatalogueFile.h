@@ -15,6 +15,7 @@ class CatalogueFile
 public:
     CatalogueFile(const QString &name, const Console &console);
 
+    const QString &name() const { return myName; } ///< As the command line has it.
     RVCatalogueReader &reader() { return myReader; }
     /// True, with a message, when the file could not be opened or read on.
     bool reportError() const;

@@ -20,13 +20,13 @@ constexpr struct
     QLatin1StringView description;
     QLatin1StringView value; // empty where the option has none
 } OPTIONS[] = {
-    { "format"_L1, "Write text, json, sarif (version 2.1.0), github or junit."_L1, "FORMAT"_L1 },
+    { "format"_L1, "Write text, json, sarif (version 2.1.0), github or junit."_L1, "text|json|sarif|github|junit"_L1 },
     { "select"_L1, "Check these rules alone. Commas separate them."_L1, "RULES"_L1 },
     { "disable"_L1, "Leave out these rules. Commas separate them."_L1, "RULES"_L1 },
     { "max-findings"_L1, "Write no more findings than that; count all."_L1, "NUMBER"_L1 },
     { "summary"_L1, "Write how many findings each rule has, not where."_L1, ""_L1 },
     { "quiet"_L1, "Write nothing; the exit code tells."_L1, ""_L1 },
-    { "color"_L1, "Colours and lines of the file: auto (on a terminal), always or never."_L1, "WHEN"_L1 },
+    { "color"_L1, "Colours and lines of the file: auto (on a terminal), always or never."_L1, "auto|always|never"_L1 },
     { "jobs"_L1, "Check with so many threads; by default with up to 8."_L1, "NUMBER"_L1 },
     { "fix"_L1, "Mend what has one safe answer, and find what is left; \"-\" goes mended to the output."_L1, ""_L1 },
     { "diff"_L1, "Write what --fix would change, as a unified diff; end with 1 if there is something."_L1, ""_L1 },

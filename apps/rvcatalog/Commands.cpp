@@ -1,8 +1,8 @@
 #include "Commands.h"
 
 #include "SubCommands.h"
+#include "Suggestion.h"
 
-#include <QCommandLineParser>
 #include <QTextStream>
 
 using namespace Qt::StringLiterals;
@@ -31,7 +31,8 @@ QString usage()
     for (const auto &command : COMMANDS)
         text += "  "_L1 + command.name.toString().leftJustified(10) + command.summary + u'\n';
     return text
-            + "\n\"rvcatalog COMMAND --help\" explains a command; \"rvcatalog --version\" prints the version.\n"
+            + "\n\"rvcatalog help COMMAND\" explains a command; \"rvcatalog --version\" prints the\n"
+              "version. The file \"-\" is the standard input.\n"
               "Exit codes: 0 fine, 1 problems found, 2 cannot read or write.\n"_L1;
 }
 
@@ -45,61 +46,58 @@ int withOutput(int exitCode, const Console &console)
     return EXIT_UNREADABLE;
 }
 
-QString expectedArguments(int least, int most)
+/// Runs the command of that name; the exit code of wrong usage, with a message, where there is none.
+int runNamed(const QString &name, const QStringList &arguments, const Console &console)
 {
-    const QString bound = least == most ? QString() : most == ANY_NUMBER ? u"at least "_s : u"at most "_s;
-    const int number = most == ANY_NUMBER ? least : most;
-    return u"expected %1%2 %3"_s.arg(bound).arg(number).arg(number == 1 ? "argument"_L1 : "arguments"_L1);
+    for (const auto &command : COMMANDS) {
+        if (name == command.name)
+            return withOutput(command.run(QStringList { "rvcatalog "_L1 + name } + arguments, console), console);
+    }
+    QTextStream out(console.messages);
+    if (!name.isEmpty())
+        out << "rvcatalog: there is no command \"" << name << '"' << didYouMean(name, commandNames()) << '\n';
+    out << usage();
+    return EXIT_UNREADABLE;
 }
 
+/// The help of the program, or of the command that is named.
+int help(const QStringList &names, const Console &console)
+{
+    if (!names.isEmpty())
+        return runNamed(names.constFirst(), { u"--help"_s }, console);
+    QTextStream(console.output) << usage();
+    return EXIT_FINE;
+}
+
+}
+
+QStringList commandNames()
+{
+    QStringList result;
+    for (const auto &command : COMMANDS)
+        result += command.name;
+    return result;
+}
+
+QString commandSummary(const QString &name)
+{
+    for (const auto &command : COMMANDS) {
+        if (name == command.name)
+            return command.summary;
+    }
+    return QString();
 }
 
 int runCommand(const QStringList &arguments, const Console &console)
 {
     const QString name = arguments.value(0);
-    for (const auto &command : COMMANDS) {
-        if (name == command.name)
-            return withOutput(command.run(QStringList { "rvcatalog "_L1 + name } + arguments.mid(1), console), console);
-    }
-    if (name == "--help"_L1 || name == "-h"_L1 || name == "help"_L1) {
-        QTextStream(console.output) << usage();
-        return EXIT_FINE;
-    }
+    if (name == "--help"_L1 || name == "-h"_L1 || name == "help"_L1)
+        return withOutput(help(arguments.mid(1), console), console);
+    if (name == "complete"_L1)
+        return withOutput(completeCommand(arguments.mid(1), console), console);
     if (name == "--version"_L1) {
         QTextStream(console.output) << "rvcatalog " RVCATALOG_VERSION "\n";
-        return EXIT_FINE;
+        return withOutput(EXIT_FINE, console);
     }
-    if (!name.isEmpty())
-        QTextStream(console.messages) << "rvcatalog: there is no command \"" << name << "\"\n";
-    QTextStream(console.messages) << usage();
-    return EXIT_UNREADABLE;
-}
-
-bool parseArguments(QCommandLineParser &parser, const QStringList &arguments, int least, int most,
-                    const Console &console, int *exitCode)
-{
-    const QCommandLineOption help({ u"h"_s, u"help"_s }, u"Displays this help."_s);
-    parser.addOption(help);
-    const QString &command = arguments.constFirst();
-    if (!parser.parse(arguments)) {
-        *exitCode = refuseArguments(command, parser.errorText(), console);
-        return false;
-    }
-    if (parser.isSet(help)) {
-        // The parser names the program as it was started, and knows of no sub-command.
-        QTextStream(console.output) << parser.helpText().replace(QCoreApplication::arguments().constFirst(), command);
-        *exitCode = EXIT_FINE;
-        return false;
-    }
-    const qsizetype given = parser.positionalArguments().size();
-    if (given >= least && given <= most)
-        return true;
-    *exitCode = refuseArguments(command, expectedArguments(least, most) + u", got %1"_s.arg(given), console);
-    return false;
-}
-
-int refuseArguments(const QString &command, const QString &text, const Console &console)
-{
-    QTextStream(console.messages) << "rvcatalog: " << text << "\nTry \"" << command << " --help\".\n";
-    return EXIT_UNREADABLE;
+    return runNamed(name, arguments.mid(1), console);
 }

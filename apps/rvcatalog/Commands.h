@@ -15,4 +15,8 @@ enum ExitCode {
 /// code. Needs a QGuiApplication, since fonts are measured; the file "-" is the input of the console.
 int runCommand(const QStringList &arguments, const Console &console = Console());
 
+QStringList commandNames(); ///< In the order of the usage.
+/// One line on a command; empty where there is none of that name.
+QString commandSummary(const QString &name);
+
 #endif

@@ -146,9 +146,9 @@ int diffCommand(const QStringList &arguments, const Console &console)
             u"Tells what differs between two catalogues: products that were added or removed, and what has changed of\n"
             "the others. What the ordering application reads is compared, not how it is written.\n"
             "Ends with 0 when they are equal, with 1 when they differ, with 2 when one of them cannot be read."_s);
-    const QCommandLineOption formatOption(u"format"_s, u"Write text, json, or markdown."_s, u"FORMAT"_s, u"text"_s);
+    const QCommandLineOption formatOption(u"format"_s, u"Write text, json, or markdown."_s, u"text|json|markdown"_s, u"text"_s);
     const QCommandLineOption colorOption(u"color"_s, u"Colour the text: auto (on a terminal), always, or never."_s,
-                                         u"WHEN"_s, u"auto"_s);
+                                         u"auto|always|never"_s, u"auto"_s);
     const QCommandLineOption git(u"git"_s,
                                  u"Take the arguments that git gives to a diff driver: PATH OLD-FILE OLD-HEX OLD-MODE "
                                  u"NEW-FILE NEW-HEX NEW-MODE. "

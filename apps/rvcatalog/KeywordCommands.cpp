@@ -1,4 +1,6 @@
+#include "KeywordTexts.h"
 #include "SubCommands.h"
+#include "Suggestion.h"
 
 #include <RVCatalogueAttribute.h>
 
@@ -9,17 +11,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString hexadecimal(qint64 value)
-{
-    return "0x"_L1 + QString::number(value, 16).toUpper();
-}
-
-QString attributeNames()
+QStringList attributeNames()
 {
     QStringList names;
     for (const RVCatalogueAttribute &attribute : RVCatalogueAttribute::all())
         names += attribute.name();
-    return names.join(", "_L1);
+    return names;
 }
 
 /// The attribute of that name; null, with a message, where there is none.
@@ -28,46 +25,38 @@ RVCatalogueAttribute findAttribute(const QString &name, const Console &console)
     const RVCatalogueAttribute attribute = RVCatalogueAttribute::find(name);
     if (attribute.isNull())
         QTextStream(console.messages) << "rvcatalog: there is no attribute \"" << name
-                                      << "\"; there are: " << attributeNames() << '\n';
+                                      << "\"; there are: " << attributeNames().join(", "_L1)
+                                      << didYouMean(name, attributeNames()) << '\n';
     return attribute;
 }
 
-/// Writes rows in columns that are as wide as their widest text.
-void writeTable(QTextStream &out, const QList<QStringList> &rows)
+/// The lines of the standard input, or the one text that was given.
+QStringList givenTexts(const QString &text, const Console &console)
 {
-    QList<qsizetype> widths(rows.first().size());
-    for (const QStringList &row : rows) {
-        for (qsizetype i = 0; i < row.size(); ++i)
-            widths[i] = qMax(widths.at(i), row.at(i).size());
-    }
-    for (const QStringList &row : rows) {
-        QString line;
-        for (qsizetype i = 0; i < row.size(); ++i)
-            line += row.at(i).leftJustified(widths.at(i) + 2);
-        while (line.endsWith(u' '))
-            line.chop(1);
-        out << line << '\n';
-    }
+    if (text != "-"_L1)
+        return { text };
+    QTextStream in(console.openInput()->readAll());
+    QStringList result;
+    for (QString line = in.readLine(); !line.isNull(); line = in.readLine())
+        result += line;
+    return result;
 }
 
-void writeKeywords(QTextStream &out, const RVCatalogueAttribute &attribute)
+/// Names the pieces that are no keywords; the exit code.
+int reportUnknown(const RVCatalogueAttribute &attribute, const QList<KeywordDecoding> &decodings,
+                  const Console &console)
 {
-    QList<QStringList> rows = { { u"VALUE"_s, u"KEYWORD"_s, u"ALIASES"_s, u"NAME"_s } };
-    for (const RVCatalogueAttributeValue &value : attribute.values())
-        rows += { hexadecimal(value.value), value.keyword, value.aliases.join(", "_L1), value.displayName };
-    out << attribute.name() << '\n';
-    writeTable(out, rows);
-}
-
-void writeDecoding(QTextStream &out, const RVCatalogueAttributeDecoding &decoding)
-{
-    out << "Value     " << hexadecimal(decoding.value) << '\n';
-    if (!decoding.keyword.isEmpty())
-        out << "Keyword   " << decoding.keyword << '\n';
-    if (!decoding.keywords.isEmpty())
-        out << "Bits      " << decoding.keywords.join(", "_L1) << '\n';
-    if (!decoding.displayName.isEmpty())
-        out << "Name      " << decoding.displayName << '\n';
+    int result = EXIT_FINE;
+    for (const KeywordDecoding &decoding : decodings) {
+        for (const QString &piece : decoding.meaning.unknownPieces) {
+            result = EXIT_PROBLEMS;
+            QTextStream(console.messages) << "rvcatalog: "
+                                          << (piece.isEmpty() ? u"an empty piece is no keyword of "_s
+                                                              : u"\"%1\" is no keyword of "_s.arg(piece))
+                                          << attribute.name() << "; it stands for the default value\n";
+        }
+    }
+    return result;
 }
 
 }
@@ -79,8 +68,10 @@ int keywordsCommand(const QStringList &arguments, const Console &console)
             u"Lists the keywords of an attribute, or of all attributes: value, the keyword that is written, the "
             u"aliases\n"
             "that are read as well, and the display name where there is one. The attributes are:\n%1."_s.arg(
-                    attributeNames()));
+                    attributeNames().join(", "_L1)));
     parser.addPositionalArgument(u"ATTRIBUTE"_s, u"The attribute; all where it is missing."_s, u"[ATTRIBUTE]"_s);
+    const QCommandLineOption format = formatOption({ u"text"_s, u"json"_s });
+    parser.addOption(format);
     int exitCode = EXIT_FINE;
     if (!parseArguments(parser, arguments, 0, 1, console, &exitCode))
         return exitCode;
@@ -90,12 +81,10 @@ int keywordsCommand(const QStringList &arguments, const Console &console)
         attributes = { findAttribute(parser.positionalArguments().constFirst(), console) };
     if (attributes.constFirst().isNull())
         return EXIT_UNREADABLE;
-    QTextStream out(console.output);
-    for (const RVCatalogueAttribute &attribute : attributes) {
-        if (attribute != attributes.constFirst())
-            out << '\n';
-        writeKeywords(out, attribute);
-    }
+    if (parser.value(format) == "json"_L1)
+        console.write(keywordsJson(attributes));
+    else
+        writeKeywords(attributes, console);
     return EXIT_FINE;
 }
 
@@ -106,9 +95,11 @@ int decodeCommand(const QStringList &arguments, const Console &console)
             u"Reads a list of keywords separated by commas as the ordering application does, and names the pieces "
             u"that\n"
             "are not known, which stand for the default value of the attribute. The attributes are:\n%1."_s.arg(
-                    attributeNames()));
+                    attributeNames().join(", "_L1)));
     parser.addPositionalArgument(u"ATTRIBUTE"_s, u"The attribute."_s);
-    parser.addPositionalArgument(u"TEXT"_s, u"The keywords."_s);
+    parser.addPositionalArgument(u"TEXT"_s, u"The keywords; \"-\" for lists on the standard input, one a line."_s);
+    const QCommandLineOption format = formatOption({ u"text"_s, u"json"_s });
+    parser.addOption(format);
     int exitCode = EXIT_FINE;
     if (!parseArguments(parser, arguments, 2, 2, console, &exitCode))
         return exitCode;
@@ -116,15 +107,13 @@ int decodeCommand(const QStringList &arguments, const Console &console)
     if (attribute.isNull())
         return EXIT_UNREADABLE;
 
-    const RVCatalogueAttributeDecoding decoding = attribute.decode(parser.positionalArguments().at(1));
-    QTextStream out(console.output);
-    writeDecoding(out, decoding);
-    out.flush();
-    for (const QString &piece : decoding.unknownPieces) {
-        QTextStream(console.messages) << "rvcatalog: "
-                                      << (piece.isEmpty() ? u"an empty piece is no keyword of "_s
-                                                          : u"\"%1\" is no keyword of "_s.arg(piece))
-                                      << attribute.name() << "; it stands for the default value\n";
-    }
-    return decoding.unknownPieces.isEmpty() ? EXIT_FINE : EXIT_PROBLEMS;
+    QList<KeywordDecoding> decodings;
+    for (const QString &text : givenTexts(parser.positionalArguments().at(1), console))
+        decodings += { text, attribute.decode(text) };
+    if (parser.value(format) == "json"_L1)
+        console.write(decodingsJson(attribute, decodings));
+    else
+        writeDecodings(decodings, console);
+    std::fflush(console.output);
+    return reportUnknown(attribute, decodings, console);
 }

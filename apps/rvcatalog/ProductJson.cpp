@@ -1,5 +1,6 @@
 #include "ProductJson.h"
 
+#include "JsonValues.h"
 #include "ProductValues.h"
 
 #include <RVCatalogueAttributes.h>
@@ -11,81 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr RVDistanceUnit MILLIMETRE = DISTANCE_UNIT_MILLIMETRE;
-
-void writeBarcodes(JsonWriter &json, const RVBarcodeDefinitionList &barcodes)
-{
-    const auto inMillimetres = [](int tenths) { return RVDistance(tenths).value(MILLIMETRE); };
-    json.beginArray();
-    for (const RVBarcodeDefinition &barcode : barcodes) {
-        json.beginObject();
-        json.key("height_mm"_L1);
-        json.value(inMillimetres(barcode.rect().height()));
-        json.key("image"_L1);
-        json.value(barcode.imageName());
-        json.key("left_mm"_L1);
-        json.value(inMillimetres(barcode.rect().left()));
-        json.key("page"_L1);
-        json.value(barcode.pageNr());
-        json.key("top_mm"_L1);
-        json.value(inMillimetres(barcode.rect().top()));
-        json.key("width_mm"_L1);
-        json.value(inMillimetres(barcode.rect().width()));
-        json.endObject();
-    }
-    json.endArray();
-}
-
-void writeOptions(JsonWriter &json, const RVConfiguredArticleVariantList &options)
-{
-    const RVArticleVariants defaults = options.defaultVariants();
-    json.beginArray();
-    for (const RVConfiguredArticleVariant &option : options) {
-        const QString key = option.key();
-        const QString value = option.value();
-        json.beginObject();
-        json.key("accountable"_L1);
-        json.value(!option.isNotAccountable());
-        json.key("default"_L1);
-        json.value(defaults.value(key) == value);
-        json.key("key"_L1);
-        json.value(key);
-        json.key("key_name"_L1);
-        json.value(option.keyName());
-        json.key("value"_L1);
-        json.value(value);
-        json.key("value_name"_L1);
-        json.value(option.visibleName());
-        json.endObject();
-    }
-    json.endArray();
-}
-
-void writePages(JsonWriter &json, const RVPageCountOrganization &counts)
-{
-    json.beginObject();
-    json.key("count"_L1);
-    json.value(counts.numberOfPackages());
-    json.key("highest"_L1);
-    json.value(counts.maxPages());
-    json.key("lowest"_L1);
-    json.value(counts.minPages());
-    json.key("step"_L1);
-    json.value(counts.pageIncrement());
-    json.key("valid"_L1);
-    json.value(counts.isValid());
-    json.endObject();
-}
-
-template<typename T>
-void writeId(JsonWriter &json, const T &id)
-{
-    if (id.isValid())
-        json.value(id.id());
-    else
-        json.null();
-}
-
 /// Makes room for a further value; a file in which nothing repeats must not fill the memory.
 template<typename Cache>
 void limit(Cache *cache)
@@ -95,24 +21,18 @@ void limit(Cache *cache)
         cache->clear();
 }
 
-/// Keywords and name of an attribute of a product.
+/// Keywords and number of an attribute of a product.
 template<typename T>
-std::string attributeJson(const T &attribute, QString (T::*displayName)() const)
+std::string attributeJson(const T &attribute)
 {
     if (attribute.isNull())
         return "null";
     JsonWriter json;
     json.beginObject();
     json.key("keywords"_L1);
-    json.beginArray();
-    for (const QString &keyword : attribute.encodeBits())
-        json.value(keyword);
-    json.endArray();
-    const QString name = displayName ? (attribute.*displayName)() : QString();
-    if (!name.isEmpty()) {
-        json.key("name"_L1);
-        json.value(name);
-    }
+    writeTexts(json, attribute.encodeBits());
+    json.key("value"_L1);
+    json.value(qint64(attribute.value()));
     json.endObject();
     return json.take();
 }
@@ -142,13 +62,25 @@ std::vector<ProductJson::Member> ProductJson::members()
         { "article_id"_L1, [](Json &json, const Values &values) { writeId(json.myJson, values.product.articleId()); } },
         { "barcodes"_L1,
           [](Json &json, const Values &values) { writeBarcodes(json.myJson, values.product.barcodes()); } },
-        { "name"_L1, [](Json &json, const Values &values) { json.myJson.value(values.product.name()); } },
-        { "options"_L1, [](Json &json, const Values &values) { writeOptions(json.myJson, values.product.options()); } },
-        { "pages"_L1, [](Json &json, const Values &values) { writePages(json.myJson, values.pageCounts); } },
+        { "families"_L1, [](Json &json, const Values &values) { writeTexts(json.myJson, values.product.families()); } },
+        { "name"_L1, [](Json &json, const Values &values) { writeText(json.myJson, values.product.name()); } },
+        { "options"_L1, [](Json &json, const Values &values) { json.writeOptions(values.product); } },
+        { "page_price_class"_L1,
+          [](Json &json, const Values &values) {
+              writeText(json.myJson, values.product.pagePriceClass().toString());
+          } },
+        { "pages"_L1, [](Json &json, const Values &values) { writePageCounts(json.myJson, values.pageCounts); } },
+        { "photo_box"_L1, [](Json &json, const Values &values) { json.myJson.value(values.product.isPhotoBox()); } },
+        { "place"_L1,
+          [](Json &json, const Values &values) {
+              writePlace(json.myJson, json.myFileName, values.product.range().begin);
+          } },
+        { "price_class"_L1,
+          [](Json &json, const Values &values) { writeText(json.myJson, values.product.priceClass().toString()); } },
         { "shipping_group"_L1,
           [](Json &json, const Values &values) { writeId(json.myJson, values.product.shippingGroup()); } },
         { "spine"_L1, [](Json &json, const Values &values) { json.writeSpines(values); } },
-        { "type"_L1, [](Json &json, const Values &values) { json.myJson.value(values.type.toString()); } },
+        { "type"_L1, [](Json &json, const Values &values) { writeText(json.myJson, values.type.toString()); } },
     };
     std::apply([&](const auto &...rows) { (addAttribute(&result, rows), ...); }, RV_CATALOGUE_ATTRIBUTES);
     std::sort(result.begin(), result.end(), [](const Member &a, const Member &b) { return a.key < b.key; });
@@ -176,7 +108,7 @@ void ProductJson::writeAttribute(const ProductValues &values)
     if (known != myAttributes.constEnd())
         return myJson.json(*known);
     limit(&myAttributes);
-    myJson.json(*myAttributes.insert(key, attributeJson(attribute, row.displayName)));
+    myJson.json(*myAttributes.insert(key, attributeJson(attribute)));
 }
 
 void ProductJson::writeSpines(const ProductValues &values)
@@ -191,14 +123,17 @@ void ProductJson::writeSpines(const ProductValues &values)
 
 void ProductJson::writeSpine(const ProductValues &values, int pages)
 {
-    myJson.beginObject();
-    myJson.key("max_font_size"_L1);
-    myJson.value(fontSize(values, pages));
-    myJson.key("pages"_L1);
-    myJson.value(pages);
-    myJson.key("width_mm"_L1);
-    myJson.value(values.spineWidth(pages).value(MILLIMETRE));
-    myJson.endObject();
+    SpineRow row = values.spineRow(pages);
+    row.fontSize = fontSize(values, pages);
+    writeSpineRow(myJson, row);
+}
+
+void ProductJson::writeOptions(const RVCatalogueProduct &product)
+{
+    myJson.beginArray();
+    for (const ProductOption &option : ProductOption::of(product))
+        writeOption(myJson, option);
+    myJson.endArray();
 }
 
 // The size depends on nothing but the width without the sides.

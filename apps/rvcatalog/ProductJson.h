@@ -11,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+class RVCatalogueProduct;
 struct ProductValues;
 template<typename T>
 struct RVCatalogueAttributeRow;
@@ -18,12 +19,15 @@ struct RVCatalogueAttributeRow;
 /**
  * Describes products as JSON, one object each, with sorted keys.
  *
- * Names of attributes and font sizes repeat from product to product, so they are kept, up to some thousand of them. For
- * one thread at a time.
+ * Keywords of attributes and font sizes repeat from product to product, so they are kept, up to some thousand of them.
+ * For one thread at a time.
  */
 class ProductJson
 {
 public:
+    /// @p fileName is that of the catalogue, for the places of products.
+    explicit ProductJson(const QString &fileName) : myFileName(fileName) { }
+
     void write(const ProductValues &values);
 
     void separator(std::string_view text) { myJson.separator(text); }
@@ -40,8 +44,10 @@ private:
     void writeAttribute(const ProductValues &values);
     void writeSpines(const ProductValues &values);
     void writeSpine(const ProductValues &values, int pages);
+    void writeOptions(const RVCatalogueProduct &product);
     int fontSize(const ProductValues &values, int pages);
 
+    QString myFileName;
     JsonWriter myJson;
     QHash<std::pair<QLatin1StringView, qint64>, std::string> myAttributes;
     QHash<double, int> myFontSizes; // by the width without its sides

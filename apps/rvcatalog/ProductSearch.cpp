@@ -2,30 +2,42 @@
 
 #include "CatalogueFile.h"
 
-#include <RVNearestText.h>
-
 using namespace Qt::StringLiterals;
+
+WantedType::WantedType(const RVProductType &type) : myType(type), myNearest(type.toString()) { }
+
+bool WantedType::offer(const RVProductType &type)
+{
+    if (myIsFound)
+        return type == myType;
+    myIsFound = type == myType;
+    if (!myIsFound)
+        myNearest.offer(type.toString());
+    return myIsFound;
+}
+
+QString WantedType::problem() const
+{
+    if (myIsFound)
+        return QString();
+    const QString text = u"the catalogue has no product of type \"%1\""_s.arg(myType.orderTxtName());
+    return myNearest.text().isEmpty() ? text : text + u"; did you mean \"%1\"?"_s.arg(myNearest.text());
+}
 
 std::optional<ProductSearch> findProduct(const QString &catalogueName, const RVProductType &type,
                                          const Console &console)
 {
     CatalogueFile file(catalogueName, console);
     ProductSearch result;
-    RVNearestText nearest(type.toString());
+    WantedType wanted(type);
     for (const RVCatalogueProduct &product : file.reader()) {
-        const RVProductType found = product.type();
-        if (found == type) {
-            result.product = product;
-            break;
-        }
-        nearest.offer(found.toString());
+        if (!wanted.offer(product.type()))
+            continue;
+        result.product = product;
+        break;
     }
     if (!file.finish())
         return std::nullopt;
-    if (!result.product.isNull())
-        return result;
-    result.problem = u"the catalogue has no product of type \"%1\""_s.arg(type.orderTxtName());
-    if (!nearest.text().isEmpty())
-        result.problem += u"; did you mean \"%1\"?"_s.arg(nearest.text());
+    result.problem = wanted.problem();
     return result;
 }

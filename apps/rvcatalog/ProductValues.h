@@ -1,6 +1,8 @@
 #ifndef PRODUCTVALUES_H
 #define PRODUCTVALUES_H
 
+#include <SpineTable.h>
+
 #include <RVCatalogueProduct.h>
 
 /// A product, and what is asked of it more than once, which takes longer than to keep it.
@@ -25,6 +27,12 @@ struct ProductValues
     RVDistance spineWidth(int pages) const { return spine.spineWidth(unsigned(qMax(0, pages))); }
     /// The largest that fits, in points.
     int fontSize(int pages) const { return spine.spineMaxFontHeigth(unsigned(qMax(0, pages)), QString()); }
+    /// Without the font size, which takes long to find.
+    SpineRow spineRow(int pages) const
+    {
+        return { pages, pageCounts.countPackages(pages), spine.additionalPagePackageBlocks(unsigned(qMax(0, pages))),
+                 spineWidth(pages).value(DISTANCE_UNIT_MILLIMETRE) };
+    }
     /// @}
 };
 

@@ -1,256 +1,76 @@
-#include "CatalogueFile.h"
-#include "ProductJson.h"
-#include "ProductValues.h"
+#include "CatalogueJson.h"
+#include "ProductSheet.h"
+#include "ProductTable.h"
 #include "SubCommands.h"
 
-#include <RVCatalogueAttributes.h>
-
 #include <QCommandLineParser>
-#include <QMap>
-#include <QMutex>
 #include <QTextStream>
-
-#include <memory>
-#include <string>
-#include <tuple>
-#include <utility>
-#include <vector>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr RVDistanceUnit MILLIMETRE = DISTANCE_UNIT_MILLIMETRE;
-constexpr int LINE_WIDTH = 100;
-// Wide enough for the codes and counts of a catalogue; the table is written before its last row is known.
-constexpr int COLUMN_WIDTHS[] = { 9, 17, 7, 12, 8 };
-
-QString millimetres(const RVDistance &distance)
+/// Writes the products that are chosen with a ProductTable or a ProductSheet.
+template<typename Writer>
+void writeProducts(CatalogueFile &file, const ProductFilter &filter, Writer *writer, ShowReport *report)
 {
-    return QString::number(distance.value(MILLIMETRE), 'f', 1);
-}
-
-QString between(const QString &lowest, const QString &highest)
-{
-    return lowest == highest ? lowest : lowest + u'-' + highest;
-}
-
-QString pageCountsText(const RVPageCountOrganization &counts)
-{
-    const QString range = between(QString::number(counts.minPages()), QString::number(counts.maxPages()));
-    return counts.numberOfPackages() > 1 ? range + " by "_L1 + QString::number(counts.pageIncrement()) : range;
-}
-
-QString spineText(const ProductValues &values)
-{
-    if (!values.hasSpine)
-        return u"-"_s;
-    return between(millimetres(values.spineWidth(values.pageCounts.minPages())),
-                   millimetres(values.spineWidth(values.pageCounts.maxPages())));
-}
-
-QString fontText(const ProductValues &values)
-{
-    if (!values.hasSpine)
-        return u"-"_s;
-    return between(QString::number(values.fontSize(values.pageCounts.minPages())),
-                   QString::number(values.fontSize(values.pageCounts.maxPages())));
-}
-
-/// The options of a product, one piece a key: "alcolor: black*, red".
-QStringList optionTexts(const RVConfiguredArticleVariantList &options)
-{
-    const RVArticleVariants defaults = options.defaultVariants();
-    QMap<QString, QStringList> valuesByKey;
-    for (const RVConfiguredArticleVariant &option : options)
-        valuesByKey[option.key()] += option.value() + (defaults.value(option.key()) == option.value() ? "*"_L1 : ""_L1);
-    QStringList result;
-    for (auto it = valuesByKey.constBegin(); it != valuesByKey.constEnd(); ++it)
-        result += it.key() + ": "_L1 + it.value().join(", "_L1);
-    return result;
-}
-
-template<typename T>
-void addAttribute(QStringList *texts, const RVCatalogueAttributeRow<T> &row, const RVCatalogueProduct &product)
-{
-    if (!row.isOfProducts)
-        return;
-    const T attribute = (product.*row.value)();
-    if (attribute.isNull())
-        return;
-    const QString text = row.hasBareKeywords ? (attribute.*row.displayName)() : attribute.encodeCSV();
-    *texts += QLatin1StringView(row.shortLabel) + u' ' + text;
-}
-
-QString barcodeText(const RVBarcodeDefinition &barcode)
-{
-    const QRect rect = barcode.rect();
-    return u"barcode %1 x %2 mm at %3, %4 on page %5"_s.arg(
-            millimetres(RVDistance(rect.width())), millimetres(RVDistance(rect.height())),
-            millimetres(RVDistance(rect.left())), millimetres(RVDistance(rect.top())),
-            QString::number(barcode.pageNr()));
-}
-
-/// The product in keywords, such as "class book; cover HARDCOVER; binding glue", and its barcodes.
-QStringList attributeTexts(const RVCatalogueProduct &product)
-{
-    QStringList attributes;
-    std::apply([&](const auto &...rows) { (addAttribute(&attributes, rows, product), ...); }, RV_CATALOGUE_ATTRIBUTES);
-    const RVShippingGroupId shippingGroup = product.shippingGroup();
-    if (shippingGroup.isValid())
-        attributes += "shipping group "_L1 + shippingGroup.toString();
-
-    QStringList result;
-    if (!attributes.isEmpty())
-        result += attributes.join("; "_L1);
-    const RVBarcodeDefinitionList barcodes = product.barcodes();
-    for (const RVBarcodeDefinition &barcode : barcodes)
-        result += barcodeText(barcode);
-    return result;
-}
-
-/// Fills lines of the given width with the words of a text.
-QStringList wrapped(const QString &text, qsizetype width)
-{
-    QStringList lines(1);
-    for (const QString &word : text.split(u' ')) {
-        if (!lines.last().isEmpty() && lines.last().size() + 1 + word.size() > width)
-            lines += QString();
-        lines.last() += (lines.last().isEmpty() ? ""_L1 : " "_L1) + word;
+    for (const RVCatalogueProduct &product : file.reader()) {
+        report->addTypes({ product.type() });
+        if (!filter.chooses(product))
+            continue;
+        const ProductValues values(product);
+        writer->write(values);
+        report->addShown(1, ShowReport::problems(values));
     }
-    return lines;
 }
 
-void writeRow(QTextStream &out, const QStringList &columns, const QStringList &details)
-{
-    QString row;
-    qsizetype end = 0;
-    for (qsizetype i = 0; i < columns.size(); ++i) {
-        row += columns.at(i) + u' ';
-        end += COLUMN_WIDTHS[i];
-        row = row.leftJustified(end);
-    }
-    QStringList lines;
-    for (const QString &text : details)
-        lines += wrapped(text, LINE_WIDTH - end);
-    out << QString(row + lines.value(0)).trimmed() << '\n';
-    for (const QString &line : lines.mid(1))
-        out << QString(end, u' ') << line << '\n';
-}
-
-QList<Problem> problems(const ProductValues &values)
-{
-    QList<Problem> result;
-    if (!values.type.isUnknown() && values.pageCounts.isValid())
-        return result;
-    const RVFilePosition position = values.product.range().begin;
-    if (values.type.isUnknown())
-        result += { position, u"the product has no type"_s };
-    if (!values.pageCounts.isValid())
-        result += { position, u"the product has no valid page counts (%1)"_s.arg(values.pageCounts.dump()) };
-    return result;
-}
-
-/// Reports what is wrong with the products of a file.
-class Reporter
-{
-public:
-    explicit Reporter(const CatalogueFile &file) : myFile(file) { }
-
-    void add(const QList<Problem> &problems)
-    {
-        myIsEmpty = false;
-        myHasProblems = myHasProblems || !problems.isEmpty();
-        for (const Problem &problem : problems)
-            myFile.report(problem);
-    }
-    int end() const
-    {
-        if (myIsEmpty)
-            myFile.report({ RVFilePosition(), u"there is no product in this file"_s });
-        return myIsEmpty || myHasProblems ? EXIT_PROBLEMS : EXIT_FINE;
-    }
-
-private:
-    const CatalogueFile &myFile;
-    bool myIsEmpty = true;
-    bool myHasProblems = false;
-};
-
-void showTable(RVCatalogueReader &reader, Reporter *reporter, const Console &console)
+void writeTable(CatalogueFile &file, const ProductFilter &filter, ShowReport *report, const Console &console)
 {
     QTextStream out(console.output);
-    writeRow(out, { u"TYPE"_s, u"PAGES"_s, u"COUNTS"_s, u"SPINE mm"_s, u"FONT pt"_s },
-             { u"ATTRIBUTES, OPTIONS (* is the default)"_s });
-    for (const RVCatalogueProduct &product : reader) {
-        const ProductValues values(product);
-        writeRow(out,
-                 { values.type.orderTxtName(), pageCountsText(values.pageCounts),
-                   QString::number(values.pageCounts.numberOfPackages()), spineText(values), fontText(values) },
-                 attributeTexts(product) + optionTexts(product.options()));
-        reporter->add(problems(values));
-    }
+    ProductTable table(&out);
+    table.writeHeading();
+    writeProducts(file, filter, &table, report);
 }
 
-struct JsonLines
+void writeSheets(CatalogueFile &file, const ProductFilter &filter, ShowReport *report, const Console &console)
 {
-    std::string text;
-    QList<Problem> problems;
-};
-
-JsonLines jsonLines(const QList<RVCatalogueProduct> &products, ProductJson *json)
-{
-    JsonLines result;
-    for (const RVCatalogueProduct &product : products) {
-        const ProductValues values(product);
-        json->separator(product.number() == 0 ? "\n" : ",\n");
-        json->write(values);
-        result.problems += problems(values);
-    }
-    result.text = json->take();
-    return result;
+    QTextStream out(console.output);
+    ProductSheet sheet(&out, file.name());
+    writeProducts(file, filter, &sheet, report);
 }
 
-/// The writers of several threads, which keep what they know from one call to the next.
-class JsonWriters
+using Write = void (*)(CatalogueFile &file, const ProductFilter &filter, ShowReport *report, const Console &console);
+
+/// The way to write a format; everything is in JSON in any case.
+Write writer(const QString &format, bool isLong)
 {
-public:
-    JsonLines lines(const QList<RVCatalogueProduct> &products)
-    {
-        std::unique_ptr<ProductJson> json = take();
-        JsonLines result = jsonLines(products, json.get());
-        const QMutexLocker locker(&myMutex);
-        myIdleWriters.push_back(std::move(json));
-        return result;
-    }
+    if (format == "json"_L1)
+        return writeCatalogueJson;
+    return isLong ? writeSheets : writeTable;
+}
 
-private:
-    std::unique_ptr<ProductJson> take()
-    {
-        const QMutexLocker locker(&myMutex);
-        if (myIdleWriters.empty())
-            return std::make_unique<ProductJson>();
-        std::unique_ptr<ProductJson> result = std::move(myIdleWriters.back());
-        myIdleWriters.pop_back();
-        return result;
-    }
-
-    QMutex myMutex;
-    std::vector<std::unique_ptr<ProductJson>> myIdleWriters;
-};
-
-void showJson(RVCatalogueReader &reader, Reporter *reporter, const Console &console)
+int show(const QString &fileName, const ProductFilter &filter, Write write, const Console &console)
 {
-    JsonWriters writers;
-    console.write("[");
-    reader.map([&](const QList<RVCatalogueProduct> &products) { return writers.lines(products); },
-               [&](const JsonLines &lines) {
-                   console.write(lines.text);
-                   reporter->add(lines.problems);
-                   return true;
-               });
-    console.write("\n]\n");
-    std::fflush(console.output);
+    CatalogueFile file(fileName, console);
+    if (file.reportError())
+        return EXIT_UNREADABLE;
+    ShowReport report(file, filter);
+    write(file, filter, &report, console);
+    return file.finish() ? report.end() : EXIT_UNREADABLE;
+}
+
+QString description()
+{
+    return u"Lists the products of a catalogue, or those of the types that are named: type, page counts, how many "
+           u"counts "
+           "there are to choose from, spine width and largest spine font size at the lowest and the highest count, and "
+           "the name; below it article class, cover, binding, paper, orientation, size class, shipping group, article, "
+           "price classes, barcodes, and the options per key. With --long or --format json, it tells everything that "
+           "the catalogue says.\n\n"
+           "A condition is an attribute, one of = != < > <= >= (the last four for numbers), and a value. Keywords "
+           "compare by what they stand for; of a list, the product has to have all. Texts may have the wildcards * "
+           "and ?. Nothing behind = asks for products without the attribute. The attributes are:\n%1."_s.arg(
+                   ProductCondition::attributeNames().join(", "_L1));
 }
 
 }
@@ -258,26 +78,25 @@ void showJson(RVCatalogueReader &reader, Reporter *reporter, const Console &cons
 int showCommand(const QStringList &arguments, const Console &console)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-            u"Lists every product of a catalogue: type, page counts, how many counts there are to choose from, spine\n"
-            "width and largest spine font size at the lowest and the highest count, then article class, cover, "
-            "binding,\n"
-            "paper, orientation, size class, shipping group and barcodes, and the options per key."_s);
-    const QCommandLineOption json(u"json"_s, u"Write a JSON array, one product a line."_s);
-    parser.addOption(json);
+    parser.setApplicationDescription(description());
+    const QCommandLineOption format = formatOption({ u"text"_s, u"json"_s });
+    const QCommandLineOption isLong(u"long"_s, u"Tell everything, one line a subject."_s);
+    const QCommandLineOption where(
+            u"where"_s,
+            u"Only products that meet this, such as cover_type=HARDCOVER. Of several conditions, "
+            "all have to be met."_s,
+            u"CONDITION"_s);
+    parser.addOptions({ format, isLong, where });
     parser.addPositionalArgument(u"CATALOGUE"_s, u"The products XML; \"-\" is the standard input."_s,
                                  u"CATALOGUE.xml"_s);
+    parser.addPositionalArgument(u"TYPE"_s, u"Only products of this type; all where none is named."_s, u"[TYPE...]"_s);
     int exitCode = EXIT_FINE;
-    if (!parseArguments(parser, arguments, 1, 1, console, &exitCode))
+    if (!parseArguments(parser, arguments, 1, ANY_NUMBER, console, &exitCode))
         return exitCode;
 
-    CatalogueFile file(parser.positionalArguments().constFirst(), console);
-    if (file.reportError())
-        return EXIT_UNREADABLE;
-    Reporter reporter(file);
-    if (parser.isSet(json))
-        showJson(file.reader(), &reporter, console);
-    else
-        showTable(file.reader(), &reporter, console);
-    return file.finish() ? reporter.end() : EXIT_UNREADABLE;
+    const QStringList names = parser.positionalArguments();
+    const ProductFilter filter(names.mid(1), parser.values(where));
+    if (!filter.problem().isEmpty())
+        return refuseArguments(arguments.constFirst(), filter.problem(), console);
+    return show(names.constFirst(), filter, writer(parser.value(format), parser.isSet(isLong)), console);
 }

@@ -1,3 +1,4 @@
+#include "JsonValues.h"
 #include "PlotFile.h"
 #include "ProductSearch.h"
 #include "ProductValues.h"
@@ -66,6 +67,33 @@ bool writeTable(const SpineTable &table, const Console &console)
     return out.status() == QTextStream::Ok;
 }
 
+/// False where the output is gone.
+bool writeJson(const QString &catalogueName, const ProductValues &values, const SpineTable &table,
+               const Console &console)
+{
+    JsonWriter json;
+    json.beginObject();
+    json.key("name"_L1);
+    writeText(json, values.product.name());
+    json.key("pages"_L1);
+    writePageCounts(json, values.pageCounts);
+    json.key("place"_L1);
+    writePlace(json, catalogueName, values.product.range().begin);
+    json.key("spine"_L1);
+    json.beginArray();
+    for (int i = 0; i < table.rowCount(); ++i) {
+        if (i > 0)
+            json.separator(",\n");
+        writeSpineRow(json, table.row(i));
+    }
+    json.endArray();
+    json.key("type"_L1);
+    writeText(json, values.type.toString());
+    json.endObject();
+    console.write(json.take() + '\n');
+    return std::fflush(console.output) == 0;
+}
+
 QString plotTitle(const ProductValues &values)
 {
     const QString type = values.type.toString();
@@ -84,9 +112,19 @@ bool writePlot(const PlotFile &file, const SpineTable &table, const QString &tit
     return failure.isNull();
 }
 
-int writeSpine(const QString &catalogueName, const QString &type, const QString &plotName, const Console &console)
+/// The wishes of the user.
+struct Request
 {
-    const std::optional<ProductSearch> search = findProduct(catalogueName, RVProductType(type), console);
+    QString catalogueName;
+    QString type;
+    QString plotName; ///< empty for none
+    QString format;
+};
+
+int writeSpine(const Request &request, const Console &console)
+{
+    const QString &catalogueName = request.catalogueName;
+    const std::optional<ProductSearch> search = findProduct(catalogueName, RVProductType(request.type), console);
     if (!search)
         return EXIT_UNREADABLE;
     const ProductValues values(search->product);
@@ -97,8 +135,11 @@ int writeSpine(const QString &catalogueName, const QString &type, const QString 
         return EXIT_PROBLEMS;
     }
     const SpineTable table(values.spine, values.pageCounts);
-    const bool isPlotted = plotName.isEmpty() || writePlot(PlotFile(plotName), table, plotTitle(values), console);
-    return isPlotted && writeTable(table, console) ? EXIT_FINE : EXIT_UNREADABLE;
+    if (!request.plotName.isEmpty() && !writePlot(PlotFile(request.plotName), table, plotTitle(values), console))
+        return EXIT_UNREADABLE;
+    const bool isWritten = request.format == "json"_L1 ? writeJson(catalogueName, values, table, console)
+                                                       : writeTable(table, console);
+    return isWritten ? EXIT_FINE : EXIT_UNREADABLE;
 }
 
 }
@@ -111,7 +152,8 @@ int spineCommand(const QStringList &arguments, const Console &console)
             "of the spine and the largest font size that fits it. A photo book code stands for its family."_s);
     const QCommandLineOption plotOption(u"plot"_s, u"Draw the width over the page count as well, as PNG or SVG."_s,
                                         u"FILE"_s);
-    parser.addOption(plotOption);
+    const QCommandLineOption format = formatOption({ u"text"_s, u"json"_s });
+    parser.addOptions({ format, plotOption });
     parser.addPositionalArgument(u"CATALOGUE"_s, u"The products XML; \"-\" is the standard input."_s,
                                  u"CATALOGUE.xml"_s);
     parser.addPositionalArgument(u"TYPE"_s, u"The product type, such as DUN9."_s);
@@ -124,5 +166,6 @@ int spineCommand(const QStringList &arguments, const Console &console)
                                       << "\"\n";
         return EXIT_UNREADABLE;
     }
-    return writeSpine(parser.positionalArguments().at(0), parser.positionalArguments().at(1), plotName, console);
+    const QStringList names = parser.positionalArguments();
+    return writeSpine({ names.at(0), names.at(1), plotName, parser.value(format) }, console);
 }

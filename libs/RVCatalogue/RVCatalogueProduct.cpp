@@ -169,9 +169,12 @@ RVShippingGroupId RVCatalogueProduct::shippingGroup() const
 
 RVPageCountOrganization RVCatalogueProduct::pageCounts() const
 {
-    const RVCatalogueElement product = element();
-    const bool isBox = rvBoolValue(product, "photo_box"_L1).value_or(false);
-    return isBox ? pictureBoxCounts(product) : usualCounts(product);
+    return isPhotoBox() ? pictureBoxCounts(element()) : usualCounts(element());
+}
+
+bool RVCatalogueProduct::isPhotoBox() const
+{
+    return rvBoolValue(element(), "photo_box"_L1).value_or(false);
 }
 
 // The page counts of a box do not count here, as a box has no spine.

@@ -66,6 +66,7 @@ public:
 
     /// "pages", "max_pages", "page_step" and "pieces"; those of a box of photos where "photo_box" is true.
     RVPageCountOrganization pageCounts() const;
+    bool isPhotoBox() const; ///< "photo_box"; false where it is missing.
     RVSpineConfig spine() const; ///< Of "spine" in the first "composition".
     bool hasSpine() const; ///< True when the spine has some width at the highest page count.
     RVBarcodeDefinitionList barcodes() const; ///< The valid ones of the first "barcodes".

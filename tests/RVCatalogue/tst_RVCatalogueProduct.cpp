@@ -191,6 +191,7 @@ void tst_RVCatalogueProduct::defaults()
     QVERIFY(product.spaceMagnitude().isNull());
     QVERIFY(!product.shippingGroup().isValid());
     QCOMPARE(product.pageCounts().dump(), u"min: 1; max: 1; increment: 0"_s);
+    QVERIFY(!product.isPhotoBox());
     QVERIFY(!product.hasSpine());
     QVERIFY(product.barcodes().isEmpty());
     QVERIFY(product.options().isEmpty());
@@ -226,6 +227,7 @@ void tst_RVCatalogueProduct::asTheReadersGive()
                  group.isValid() ? group.id() : RVShippingGroupId(product.articleClass().shippingGroup()).id());
         QCOMPARE(product.barcodes(), barcodes(element));
         QCOMPARE(product.pageCounts().dump(), pageCounts(element).dump());
+        QCOMPARE(product.isPhotoBox(), RVXMLParser::boolAttribute(element, u"photo_box"_s, false));
         QCOMPARE(product.priceClass().toString(), element.attribute(u"price_class"_s));
         QCOMPARE(product.pagePriceClass().toString(), element.attribute(u"page_price_class"_s));
         QVERIFY(product.spine() == RVSpineConfig::createFromProductsXML(element));
@@ -307,8 +309,12 @@ void tst_RVCatalogueProduct::pictureBox()
             "<product photo_box='yes' pages='10' max_pages='20' page_step='5'/>"
             "<product photo_box='1' pages='2147483647'/><product photo_box='no' pages='10' pieces='3'/></p>");
     QStringList counts;
-    for (const RVCatalogueProduct &product : products)
+    QList<bool> areBoxes;
+    for (const RVCatalogueProduct &product : products) {
         counts += product.pageCounts().dump();
+        areBoxes += product.isPhotoBox();
+    }
+    QCOMPARE(areBoxes, (QList<bool> { true, true, true, false }));
     QCOMPARE(
             counts,
             (QStringList { u"min: 10; max: 39; increment: 1"_s, u"min: 10; max: 20; increment: 5"_s,

@@ -50,9 +50,11 @@ holds librvcatalogue-dev \
     'include/RVCatalogue/RV[A-Za-z]+\.h'
 holds rvcatalog \
     bin/rvcatalog share/man/man1/rvcatalog.1.gz \
-    share/doc/rvcatalog/catalogue-format.md share/doc/rvcatalog/comparing.md share/doc/rvcatalog/rules.md \
-    share/rvcatalog/catalogue.xsd \
-    'share/doc/rvcatalog/examples/(products|project)\.xml'
+    share/doc/rvcatalog/catalogue-format.md share/doc/rvcatalog/comparing.md share/doc/rvcatalog/json.md \
+    share/doc/rvcatalog/rules.md share/rvcatalog/catalogue.xsd share/rvcatalog/rvcatalog.schema.json \
+    'share/doc/rvcatalog/examples/(products|project)\.xml' \
+    share/bash-completion/completions/rvcatalog share/zsh/vendor-completions/_rvcatalog \
+    share/fish/vendor_completions.d/rvcatalog.fish
 
 holds rvbrowser \
     bin/rvbrowser share/man/man1/rvbrowser.1.gz share/applications/rvbrowser.desktop \

@@ -19,34 +19,55 @@ QJsonObject spineJson(const RVCatalogueProduct &product, int pageCount)
 {
     const unsigned pages = unsigned(qMax(0, pageCount));
     return {
-        { u"pages"_s, pageCount },
+        { u"page_count"_s, pageCount },
+        { u"packages"_s, product.pageCounts().countPackages(pageCount) },
+        { u"blocks"_s, product.spine().additionalPagePackageBlocks(pages) },
         { u"width_mm"_s, product.spine().spineWidth(pages).value(DISTANCE_UNIT_MILLIMETRE) },
         { u"max_font_size"_s, product.spine().spineMaxFontHeigth(pages, QString()) },
     };
 }
 
 template<typename T>
-QJsonValue attributeJson(const T &attribute, const QString &name = QString())
+QJsonValue attributeJson(const T &attribute)
 {
     if (attribute.isNull())
         return QJsonValue();
-    QJsonObject result { { u"keywords"_s, QJsonArray::fromStringList(attribute.encodeBits()) } };
-    if (!name.isEmpty())
-        result.insert(u"name"_s, name);
-    return result;
+    return QJsonObject { { u"keywords"_s, QJsonArray::fromStringList(attribute.encodeBits()) },
+                         { u"value"_s, qint64(attribute.value()) } };
 }
 
-QJsonArray optionsJson(const RVConfiguredArticleVariantList &options)
+QJsonValue textJson(const QString &text)
 {
-    const RVArticleVariants defaults = options.defaultVariants();
+    return text.isEmpty() ? QJsonValue() : QJsonValue(text);
+}
+
+QString colorName(const QColor &color)
+{
+    return color.isValid() ? color.name() : QString();
+}
+
+QJsonArray optionsJson(const RVCatalogueProduct &product)
+{
+    const RVArticleVariants defaults = product.options().defaultVariants();
     QJsonArray result;
-    for (const RVConfiguredArticleVariant &option : options) {
+    RVCatalogueElement form = product.element().firstChildElement("forms"_L1).firstChildElement("form"_L1);
+    for (; !form.isNull(); form = form.nextSiblingElement("form"_L1)) {
+        const QString key = form.attribute("key"_L1);
+        const QString value = form.attribute("value"_L1);
+        if (key.isEmpty() || value.isEmpty())
+            continue;
+        const RVConfiguredArticleVariant option = product.options().at(result.size());
         result += QJsonObject {
-            { u"key"_s, option.key() },
-            { u"key_name"_s, option.keyName() },
-            { u"value"_s, option.value() },
-            { u"value_name"_s, option.visibleName() },
-            { u"default"_s, defaults.value(option.key()) == option.value() },
+            { u"key"_s, key },
+            { u"key_name"_s, textJson(form.attribute("key_name"_L1)) },
+            { u"value"_s, value },
+            { u"value_name"_s, textJson(form.attribute("value_name"_L1)) },
+            { u"editor_name"_s, textJson(form.attribute("editor_name"_L1)) },
+            { u"form_name"_s, textJson(form.attribute("name"_L1)) },
+            { u"price_class"_s, textJson(form.attribute("price_class"_L1)) },
+            { u"preview"_s, textJson(option.preview()) },
+            { u"color"_s, textJson(colorName(option.color())) },
+            { u"default"_s, defaults.value(key) == value },
             { u"accountable"_s, !option.isNotAccountable() },
         };
     }
@@ -97,21 +118,29 @@ QJsonValue idJson(const Id &id)
 QJsonObject toJson(const RVCatalogueProduct &product)
 {
     return {
-        { u"type"_s, product.type().toString() },
-        { u"name"_s, product.name() },
+        { u"type"_s, textJson(product.type().toString()) },
+        { u"name"_s, textJson(product.name()) },
         { u"article_id"_s, idJson(product.articleId()) },
-        { u"article_class"_s, attributeJson(product.articleClass(), product.articleClass().toHumanReadable()) },
-        { u"cover_type"_s, attributeJson(product.coverType(), product.coverType().humanReadableName()) },
-        { u"page_binding"_s, attributeJson(product.pageBinding(), product.pageBinding().humanReadableName()) },
-        { u"paper_type"_s, attributeJson(product.paperType(), product.paperType().humanReadableName()) },
-        { u"foto_paper_type"_s, attributeJson(product.fotoPaperType(), product.fotoPaperType().humanReadableName()) },
+        { u"article_class"_s, attributeJson(product.articleClass()) },
+        { u"cover_type"_s, attributeJson(product.coverType()) },
+        { u"page_binding"_s, attributeJson(product.pageBinding()) },
+        { u"paper_type"_s, attributeJson(product.paperType()) },
+        { u"foto_paper_type"_s, attributeJson(product.fotoPaperType()) },
         { u"orientation"_s, attributeJson(product.orientation()) },
-        { u"space_magnitude"_s, attributeJson(product.spaceMagnitude(), product.spaceMagnitude().humanReadableName()) },
+        { u"space_magnitude"_s, attributeJson(product.spaceMagnitude()) },
         { u"shipping_group"_s, idJson(product.shippingGroup()) },
+        { u"price_class"_s, textJson(product.element().attribute("price_class"_L1)) },
+        { u"page_price_class"_s, textJson(product.element().attribute("page_price_class"_L1)) },
+        { u"families"_s, QJsonArray::fromStringList(product.families()) },
+        { u"photo_box"_s, product.isPhotoBox() },
+        { u"place"_s,
+          QJsonObject { { u"file"_s, u"c \"ä\".xml"_s },
+                        { u"line"_s, product.range().begin.line },
+                        { u"column"_s, product.range().begin.column } } },
         { u"barcodes"_s, barcodesJson(product.barcodes()) },
         { u"pages"_s, pagesJson(product.pageCounts()) },
         { u"spine"_s, spinesJson(product) },
-        { u"options"_s, optionsJson(product.options()) },
+        { u"options"_s, optionsJson(product) },
     };
 }
 
@@ -138,7 +167,7 @@ void tst_ProductJson::asQtWritesIt()
     QVERIFY(buffer.open(QIODevice::ReadOnly));
 
     RVCatalogueReader reader(&buffer);
-    ProductJson json;
+    ProductJson json(u"c \"ä\".xml"_s);
     int written = 0;
     for (const RVCatalogueProduct &product : reader) {
         json.write(ProductValues(product));
@@ -161,7 +190,7 @@ void tst_ProductJson::moreThanIsKept()
     QBuffer buffer(&file);
     QVERIFY(buffer.open(QIODevice::ReadOnly));
 
-    ProductJson json;
+    ProductJson json(u"c \"ä\".xml"_s);
     RVCatalogueReader reader(&buffer);
     int written = 0;
     for (const RVCatalogueProduct &product : reader) {

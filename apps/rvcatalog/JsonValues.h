@@ -1,0 +1,36 @@
+#ifndef JSONVALUES_H
+#define JSONVALUES_H
+
+#include "Console.h"
+#include "JsonWriter.h"
+#include "ProductOption.h"
+
+#include <SpineTable.h>
+
+#include <RVCatalogueAttribute.h>
+#include <RVCatalogueProduct.h>
+
+/// What several commands write as JSON, so that it looks the same in all of them: lengths in millimetres under keys
+/// that end in "_mm", null for what is missing, keys in their order. The schema describes each of them.
+/// @{
+void writeText(JsonWriter &json, const QString &text); ///< Null where it is empty.
+void writeTexts(JsonWriter &json, const QStringList &texts);
+void writePlace(JsonWriter &json, const QString &fileName, const RVFilePosition &position);
+void writeProblem(JsonWriter &json, const QString &fileName, const Problem &problem);
+void writePageCounts(JsonWriter &json, const RVPageCountOrganization &counts);
+void writeSpineRow(JsonWriter &json, const SpineRow &row);
+void writeBarcodes(JsonWriter &json, const RVBarcodeDefinitionList &barcodes);
+void writeOption(JsonWriter &json, const ProductOption &option);
+/// @}
+
+/// Null where the id is invalid.
+template<typename T>
+void writeId(JsonWriter &json, const T &id)
+{
+    if (id.isValid())
+        json.value(id.id());
+    else
+        json.null();
+}
+
+#endif
