@@ -12,6 +12,7 @@
 #include <RVCatalogue/RVCatalogueProject.h>
 #include <RVCatalogue/RVCatalogueReader.h>
 #include <RVCatalogue/RVCatalogueRule.h>
+#include <RVCatalogue/RVCheckConfiguration.h>
 #include <RVCatalogue/RVFileEdit.h>
 #include <RVCatalogue/RVFileEditor.h>
 #include <RVCatalogue/RVFilePosition.h>
@@ -182,6 +183,7 @@ void tst_layout::sizes_data()
     row<RVCatalogueReader>("RVCatalogueReader", 8, 8);
     row<RVCatalogueReader::Iterator>("RVCatalogueReader::Iterator", 16, 8);
     row<RVCatalogueRule>("RVCatalogueRule", 8, 8);
+    row<RVCheckConfiguration>("RVCheckConfiguration", 8, 8);
     row<RVFileEdit>("RVFileEdit", 56, 8);
     row<RVFileEditor>("RVFileEditor", 8, 8);
     row<RVFilePosition>("RVFilePosition", 16, 8);

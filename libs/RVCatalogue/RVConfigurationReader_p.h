@@ -1,0 +1,72 @@
+#ifndef RVCONFIGURATIONREADER_P_H
+#define RVCONFIGURATIONREADER_P_H
+
+#include "RVCatalogueRule.h"
+#include "RVConfigurationTree_p.h"
+
+#include <RVProductType.h>
+
+#include <QCoreApplication>
+#include <QJsonValue>
+#include <QList>
+#include <QSizeF>
+
+#include <optional>
+
+/// What a configuration file says.
+struct RVConfigurationValues
+{
+    struct Rule
+    {
+        RVCatalogueRule rule;
+        std::optional<RVCatalogueSeverity> severity; ///< none where the rule is off
+    };
+    struct PageSize
+    {
+        RVProductType type;
+        QSizeF size; ///< in millimetres
+    };
+
+    QList<Rule> rules;
+    QStringList foreignNames;
+    QStringList priceClasses;
+    QList<PageSize> pageSizes;
+};
+
+/// Finds out what a configuration file means, and whether it says what cannot be meant.
+class RVConfigurationReader
+{
+    Q_DECLARE_TR_FUNCTIONS(RVCheckConfiguration)
+
+public:
+    /// The tree outlives the reader.
+    explicit RVConfigurationReader(const RVConfigurationTree &tree) : myTree(tree) { }
+
+    /// Empty as far as there are faults.
+    RVConfigurationValues read();
+    /// The first fault in the file; none where all is well.
+    std::optional<RVConfigurationFault> fault() const { return myFault; }
+
+private:
+    void readRules();
+    void readRule(const QString &name, const QJsonValue &value);
+    void readForeignNames();
+    void readPriceClasses();
+    void readPageSizes();
+    void readPageSize(const QString &type, const QJsonValue &value);
+
+    std::optional<QJsonObject> table(const QStringList &path, const QJsonValue &value);
+    QStringList texts(const QStringList &path, const QJsonValue &value);
+    std::optional<qreal> length(const QStringList &path, const QJsonObject &values);
+    void refuseOthers(const QStringList &path, const QJsonObject &values, const QStringList &known);
+    void refuseKey(const QStringList &path, const QString &text);
+    void refuseValue(const QStringList &path, const QString &text);
+    void refuseType(const QStringList &path, const QJsonValue &value, const QString &wanted);
+    void refuse(const std::optional<RVFilePosition> &position, const QString &text);
+
+    const RVConfigurationTree &myTree;
+    RVConfigurationValues myValues;
+    std::optional<RVConfigurationFault> myFault;
+};
+
+#endif
