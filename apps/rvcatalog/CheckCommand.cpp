@@ -25,14 +25,18 @@ int writeRules(const Console &console)
 int checkFiles(CheckOptions options, Console console)
 {
     options.fileNames = distinctFiles(options.fileNames, console);
-    FixRun fixes(options, &console);
+    Configurations configurations(options.configuration, options.check);
+    BaselineFilter baseline(options.baseline);
+    if (!configurations.read(options.fileNames, console) || !baseline.begin(console))
+        return EXIT_UNREADABLE;
+    FixRun fixes(options, configurations, &console);
     if (options.showsFixes)
         return fixes.diff();
     const int mended = options.fixes ? fixes.mend() : EXIT_FINE;
     const std::unique_ptr<FindingWriter> writer = FindingWriter::create(options, console);
-    CheckRun run(writer.get(), options, console);
+    CheckRun run(writer.get(), options, configurations, &baseline, console);
     run.check(options.fileNames);
-    return qMax(mended, run.end());
+    return qMax(mended, baseline.end(run.end(), console));
 }
 
 }

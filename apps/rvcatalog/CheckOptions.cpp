@@ -31,6 +31,10 @@ constexpr struct
     { "fix"_L1, "Mend what has one safe answer, and find what is left; \"-\" goes mended to the output."_L1, ""_L1 },
     { "diff"_L1, "Write what --fix would change, as a unified diff; end with 1 if there is something."_L1, ""_L1 },
     { "rules"_L1, "List the rules, and why they matter."_L1, ""_L1 },
+    { "config"_L1, "Read this configuration instead of the one that lies beside a catalogue."_L1, "FILE"_L1 },
+    { "no-config"_L1, "Read no configuration."_L1, ""_L1 },
+    { "baseline"_L1, "Leave out the findings that this file knows."_L1, "FILE"_L1 },
+    { "write-baseline"_L1, "Write all findings to this file, for --baseline."_L1, "FILE"_L1 },
 };
 // clang-format on
 
@@ -87,7 +91,8 @@ QString CheckOptions::read(const QCommandLineParser &parser)
         return QString();
     showsFixes = parser.isSet(u"diff"_s);
     fixes = parser.isSet(u"fix"_s);
-    for (const auto &readPart : { &CheckOptions::readLooks, &CheckOptions::readNumbers, &CheckOptions::readRules }) {
+    for (const auto &readPart :
+         { &CheckOptions::readLooks, &CheckOptions::readNumbers, &CheckOptions::readRules, &CheckOptions::readFiles }) {
         const QString refusal = (this->*readPart)(parser);
         if (!refusal.isEmpty())
             return refusal;
@@ -127,4 +132,19 @@ QString CheckOptions::readRules(const QCommandLineParser &parser)
             check.disable(rule);
     }
     return refusal;
+}
+
+QString CheckOptions::readFiles(const QCommandLineParser &parser)
+{
+    configuration = { parser.value(u"config"_s), parser.isSet(u"no-config"_s) };
+    baseline = { parser.value(u"baseline"_s), parser.value(u"write-baseline"_s), isQuiet };
+    if (parser.isSet(u"config"_s) && configuration.isNone)
+        return u"--config and --no-config contradict each other"_s;
+    if (parser.isSet(u"baseline"_s) && parser.isSet(u"write-baseline"_s))
+        return u"--baseline and --write-baseline contradict each other"_s;
+    for (const QString &name : { u"config"_s, u"baseline"_s, u"write-baseline"_s }) {
+        if (parser.isSet(name) && parser.value(name).isEmpty())
+            return u"--%1 needs the name of a file"_s.arg(name);
+    }
+    return QString();
 }

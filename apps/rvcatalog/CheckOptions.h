@@ -1,6 +1,9 @@
 #ifndef CHECKOPTIONS_H
 #define CHECKOPTIONS_H
 
+#include "BaselineFilter.h"
+#include "Configurations.h"
+
 #include <RVCatalogueCheck.h>
 
 #include <QString>
@@ -16,7 +19,9 @@ struct CheckOptions
     QStringList fileNames;
     QString format; ///< One of FindingWriter.
     QString color; ///< One of the choices of Appearance.
-    RVCatalogueCheck check;
+    RVCatalogueCheck check; ///< Without what a configuration file says.
+    Configurations::Choice configuration;
+    BaselineFilter::Choice baseline;
     int threads = 0; ///< 0 leaves it to the reader.
     qint64 mostFindings = std::numeric_limits<qint64>::max(); ///< That are written; all are counted.
     bool isQuiet = false;
@@ -34,6 +39,7 @@ private:
     QString readLooks(const QCommandLineParser &parser);
     QString readNumbers(const QCommandLineParser &parser);
     QString readRules(const QCommandLineParser &parser);
+    QString readFiles(const QCommandLineParser &parser);
 };
 
 #endif

@@ -1,8 +1,10 @@
 #include "CheckRun.h"
 
+#include "BaselineFilter.h"
 #include "CatalogueFile.h"
 #include "CheckOptions.h"
 #include "Commands.h"
+#include "Configurations.h"
 #include "FindingWriter.h"
 
 using namespace Qt::StringLiterals;
@@ -26,9 +28,12 @@ CheckedProducts findingsOf(const QList<RVCatalogueProduct> &products)
 
 }
 
-CheckRun::CheckRun(FindingWriter *writer, const CheckOptions &options, const Console &console)
+CheckRun::CheckRun(FindingWriter *writer, const CheckOptions &options, const Configurations &configurations,
+                   BaselineFilter *baseline, const Console &console)
     : myWriter(writer),
       myOptions(options),
+      myConfigurations(configurations),
+      myBaseline(baseline),
       myConsole(console),
       myProgressBar(console.messages)
 { }
@@ -74,7 +79,8 @@ int CheckRun::exitCode() const
 void CheckRun::read(CatalogueFile *file, const QString &fileName)
 {
     RVCatalogueReader &reader = file->reader();
-    reader.setCheck(myOptions.check, &myFiles, fileName);
+    const RVCatalogueCheck catalogueCheck = myConfigurations.check(fileName);
+    reader.setCheck(catalogueCheck, &myFiles, fileName);
     if (myOptions.threads > 0)
         reader.setThreadCount(myOptions.threads);
     const qint64 size = reader.size();
@@ -89,6 +95,8 @@ void CheckRun::read(CatalogueFile *file, const QString &fileName)
     write(fileName, reader.findings());
     if (reader.hasError())
         reportUnreadable(*file, fileName, { reader.errorPosition(), reader.errorString() });
+    else
+        myBaseline->finish(fileName, catalogueCheck);
 }
 
 // All findings pass here, so this is where some of them are left out.
@@ -98,6 +106,8 @@ void CheckRun::write(const QString &fileName, const QList<RVCatalogueFinding> &f
         return;
     myProgressBar.hide();
     for (const RVCatalogueFinding &finding : findings) {
+        if (myBaseline->isKnown(fileName, finding))
+            continue;
         mySummary.count(finding);
         if (myWritten == myOptions.mostFindings) {
             ++mySummary.omitted;

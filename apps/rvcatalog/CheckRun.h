@@ -12,7 +12,9 @@
 #include <QString>
 #include <QStringList>
 
+class BaselineFilter;
 class CatalogueFile;
+class Configurations;
 class FindingWriter;
 struct CheckOptions;
 struct Console;
@@ -25,7 +27,8 @@ class CheckRun
 
 public:
     /// All of them outlive the run.
-    CheckRun(FindingWriter *writer, const CheckOptions &options, const Console &console);
+    CheckRun(FindingWriter *writer, const CheckOptions &options, const Configurations &configurations,
+             BaselineFilter *baseline, const Console &console);
 
     /// Checks them until something ends the run.
     void check(const QStringList &fileNames);
@@ -43,6 +46,8 @@ private:
     const Interruption myInterruption;
     FindingWriter *myWriter;
     const CheckOptions &myOptions;
+    const Configurations &myConfigurations;
+    BaselineFilter *myBaseline;
     const Console &myConsole;
     RVCatalogueFileSet myFiles;
     CheckSummary mySummary;

@@ -56,6 +56,11 @@ void Console::report(const QString &fileName, const Problem &problem) const
                           << problem.text << '\n';
 }
 
+void Console::report(const QString &fileName, const QString &text) const
+{
+    QTextStream(messages) << fileName << ": " << text << '\n';
+}
+
 bool isTerminal(std::FILE *stream)
 {
     return ::isatty(::fileno(stream)) == 1;

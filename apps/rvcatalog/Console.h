@@ -31,6 +31,8 @@ struct Console
     void write(std::string_view text) const;
     /// Writes "file:line:column: text" to the messages.
     void report(const QString &fileName, const Problem &problem) const;
+    /// Writes "file: text" to the messages, for what has no place.
+    void report(const QString &fileName, const QString &text) const;
 };
 
 /// True where the stream goes to a person at a terminal.

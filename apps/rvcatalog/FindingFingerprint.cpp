@@ -7,20 +7,16 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-QString withoutLines(QString text)
+QString findingTextWithoutLines(const RVCatalogueFinding &finding)
 {
     static const QRegularExpression line(u"\\bline [0-9]+"_s);
-    return text.replace(line, u"line"_s);
-}
-
+    return finding.text().replace(line, u"line"_s);
 }
 
 QByteArray findingFingerprint(const RVCatalogueFinding &finding)
 {
     constexpr QChar separator = u'\0'; // no XML has it
     const QString identity = finding.rule().name() + separator + finding.productType() + separator
-            + withoutLines(finding.text());
+            + findingTextWithoutLines(finding);
     return QCryptographicHash::hash(identity.toUtf8(), QCryptographicHash::Sha256).toHex();
 }

@@ -2,6 +2,7 @@
 
 #include "CheckOptions.h"
 #include "Commands.h"
+#include "Configurations.h"
 #include "UnifiedDiff.h"
 
 #include <RVCatalogueReader.h>
@@ -44,8 +45,9 @@ QList<RVCatalogueFinding> findingsOf(const QList<RVCatalogueProduct> &products)
 
 }
 
-FixRun::FixRun(const CheckOptions &options, Console *console)
+FixRun::FixRun(const CheckOptions &options, const Configurations &configurations, Console *console)
     : myOptions(options),
+      myConfigurations(configurations),
       myConsole(console),
       myProgressBar(console->messages)
 { }
@@ -165,7 +167,7 @@ bool FixRun::diffFile(const QString &fileName, bool *isChanged)
 std::optional<Problem> FixRun::collect(RVCatalogueReader *reader, const QString &fileName, RVFileEditor *editor,
                                        qint64 *findings)
 {
-    reader->setCheck(myOptions.check);
+    reader->setCheck(myConfigurations.check(fileName));
     if (myOptions.threads > 0)
         reader->setThreadCount(myOptions.threads);
     const qint64 size = reader->size();

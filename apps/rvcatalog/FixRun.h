@@ -10,6 +10,7 @@
 #include <memory>
 #include <optional>
 
+class Configurations;
 class RVCatalogueReader;
 class RVFileEditor;
 struct CheckOptions;
@@ -20,8 +21,8 @@ class FixRun
     Q_DISABLE_COPY_MOVE(FixRun)
 
 public:
-    /// Both outlive the run.
-    FixRun(const CheckOptions &options, Console *console);
+    /// All of them outlive the run.
+    FixRun(const CheckOptions &options, const Configurations &configurations, Console *console);
     ~FixRun();
 
     /// Mends the files, and tells how many findings that were. It says nothing of files that cannot be read, as the
@@ -49,6 +50,7 @@ private:
     void tellMended(const QString &fileName, const RVFileEditor &editor, qint64 findings);
 
     const CheckOptions &myOptions;
+    const Configurations &myConfigurations;
     Console *myConsole;
     ProgressBar myProgressBar;
     std::unique_ptr<QTemporaryFile> myInputCopy; // none before it is needed
