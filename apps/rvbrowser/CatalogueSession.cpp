@@ -15,7 +15,7 @@ CatalogueSession::CatalogueSession(QObject *parent) : QObject(parent)
 void CatalogueSession::open(const QString &fileName)
 {
     myFileName = fileName;
-    myStamp = FileStamp::of(fileName);
+    myStamp = CatalogueStamp::of(fileName);
     myLoader.start(fileName);
     Q_EMIT started(fileName);
 }

@@ -5,8 +5,8 @@
 #include "CatalogueServices.h"
 #include "CatalogueWatcher.h"
 
-/// The catalogue that is open: loads it, puts it behind the services, and loads it again when its file changes. When
-/// loading fails or is cancelled, the catalogue before it stays.
+/// The catalogue that is open: loads it, puts it behind the services, and loads it again when its file or its
+/// configuration changes. When loading fails or is cancelled, the catalogue before it stays.
 class CatalogueSession : public QObject
 {
     Q_OBJECT
@@ -44,7 +44,7 @@ private:
     CatalogueLoader myLoader;
     CatalogueWatcher myWatcher;
     QString myFileName; // what was to be loaded last
-    FileStamp myStamp; // when loading began
+    CatalogueStamp myStamp; // when loading began
     bool myHasMissedChange = false; // of the open file, while another one was being loaded
 };
 

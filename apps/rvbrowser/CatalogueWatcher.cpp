@@ -1,5 +1,7 @@
 #include "CatalogueWatcher.h"
 
+#include <RVCheckConfiguration.h>
+
 #include <QFileInfo>
 
 #include <chrono>
@@ -20,6 +22,16 @@ FileStamp FileStamp::of(const QString &fileName)
     return { info.exists(), info.size(), info.lastModified() };
 }
 
+CatalogueStamp CatalogueStamp::of(const QString &fileName)
+{
+    CatalogueStamp result;
+    result.catalogue = FileStamp::of(fileName);
+    result.configurationNames = RVCheckConfiguration::files(fileName);
+    for (const QString &name : std::as_const(result.configurationNames))
+        result.configurations += FileStamp::of(name);
+    return result;
+}
+
 CatalogueWatcher::CatalogueWatcher(QObject *parent) : QObject(parent)
 {
     myTimer.setSingleShot(true);
@@ -29,14 +41,14 @@ CatalogueWatcher::CatalogueWatcher(QObject *parent) : QObject(parent)
     connect(&myWatcher, &QFileSystemWatcher::directoryChanged, &myTimer, qOverload<>(&QTimer::start));
 }
 
-void CatalogueWatcher::watch(const QString &fileName, const FileStamp &known)
+void CatalogueWatcher::watch(const QString &fileName, const CatalogueStamp &known)
 {
     const QStringList paths = myWatcher.files() + myWatcher.directories();
     if (!paths.isEmpty())
         myWatcher.removePaths(paths);
     myFileName = QFileInfo(fileName).absoluteFilePath();
     myKnown = known;
-    myIsGone = !known.exists;
+    myIsGone = !known.catalogue.exists;
     myWatcher.addPath(QFileInfo(myFileName).path());
     check();
 }
@@ -45,16 +57,23 @@ void CatalogueWatcher::watch(const QString &fileName, const FileStamp &known)
 // folder.
 void CatalogueWatcher::check()
 {
-    const FileStamp now = FileStamp::of(myFileName);
-    if (!now.exists) {
+    const CatalogueStamp now = CatalogueStamp::of(myFileName);
+    if (!now.catalogue.exists) {
         if (!std::exchange(myIsGone, true))
             Q_EMIT vanished();
         return;
     }
-    if (!myWatcher.files().contains(myFileName))
-        myWatcher.addPath(myFileName);
+    watchFile(myFileName);
+    for (const QString &name : now.configurationNames)
+        watchFile(name);
     if (!std::exchange(myIsGone, false) && now == myKnown)
         return;
     myKnown = now;
     Q_EMIT changed();
+}
+
+void CatalogueWatcher::watchFile(const QString &fileName)
+{
+    if (!myWatcher.files().contains(fileName))
+        myWatcher.addPath(fileName);
 }

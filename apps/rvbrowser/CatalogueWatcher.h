@@ -3,6 +3,9 @@
 
 #include <QDateTime>
 #include <QFileSystemWatcher>
+#include <QList>
+#include <QString>
+#include <QStringList>
 #include <QTimer>
 
 /// Enough of a file to see that it was written to.
@@ -21,8 +24,26 @@ struct FileStamp
     friend bool operator!=(const FileStamp &a, const FileStamp &b) { return !(a == b); }
 };
 
-/// Tells when a file changes, also where an editor puts a new file in the place of the old one. Watches the folder as
-/// well for that; several changes in a row are told of once.
+/// The same of a catalogue and of the configuration that it is checked by.
+struct CatalogueStamp
+{
+    static CatalogueStamp of(const QString &fileName);
+
+    FileStamp catalogue;
+    QStringList configurationNames;
+    QList<FileStamp> configurations; // one for each name
+
+    friend bool operator==(const CatalogueStamp &a, const CatalogueStamp &b)
+    {
+        return a.catalogue == b.catalogue && a.configurationNames == b.configurationNames
+                && a.configurations == b.configurations;
+    }
+    friend bool operator!=(const CatalogueStamp &a, const CatalogueStamp &b) { return !(a == b); }
+};
+
+/// Tells when a catalogue or its configuration changes, also where an editor puts a new file in the place of the old
+/// one. Watches the folder of the catalogue as well for that; several changes in a row are told of once. A
+/// configuration that is new in a folder above is not noticed.
 class CatalogueWatcher : public QObject
 {
     Q_OBJECT
@@ -31,7 +52,7 @@ public:
     explicit CatalogueWatcher(QObject *parent = nullptr);
 
     /// Watches this file instead of the one before. @p known is its state when it was read.
-    void watch(const QString &fileName, const FileStamp &known);
+    void watch(const QString &fileName, const CatalogueStamp &known);
 
     QString fileName() const { return myFileName; } ///< Its absolute path; empty before one is watched.
 
@@ -41,9 +62,10 @@ Q_SIGNALS:
 
 private:
     void check();
+    void watchFile(const QString &fileName);
 
     QString myFileName;
-    FileStamp myKnown;
+    CatalogueStamp myKnown;
     bool myIsGone = false;
     QFileSystemWatcher myWatcher;
     QTimer myTimer;

@@ -1,6 +1,6 @@
 #include "FindingsModel.h"
 
-#include "PlainToolTip.h"
+#include "FindingToolTip.h"
 
 #include <QApplication>
 #include <QStyle>
@@ -79,7 +79,7 @@ QVariant FindingsModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return text(finding, index.column());
     case Qt::ToolTipRole:
-        return index.column() == RuleColumn ? finding.rule().reason() : plainToolTip(finding.text());
+        return findingToolTip(finding);
     case Qt::DecorationRole:
         return index.column() == SeverityColumn ? QVariant(severityIcon(finding.severity())) : QVariant();
     default:
@@ -101,6 +101,8 @@ QString FindingsModel::text(const RVCatalogueFinding &finding, int column) const
     case SeverityColumn:
         return severityText(finding.severity());
     case ProductColumn:
+        if (!finding.productType().isEmpty())
+            return finding.productType();
         return finding.product() >= 0 ? myCatalogue->at(int(finding.product())).type.orderTxtName() : QString();
     case TextColumn:
         return finding.text();

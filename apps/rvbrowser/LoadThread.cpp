@@ -12,8 +12,12 @@ void LoadThread::run()
     if (!open(&file))
         return;
     RVCatalogueReader reader(&file);
-    reader.setCheck(RVCatalogueCheck());
+    const RVCheckConfiguration configuration = RVCheckConfiguration::find(myFileName);
+    RVCatalogueCheck check;
+    configuration.apply(&check);
+    reader.setCheck(check);
     const auto catalogue = std::make_shared<LoadedCatalogue>(myFileName);
+    catalogue->setConfiguration(configuration);
     catalogue->read(&reader);
     if (isInterruptionRequested())
         return;

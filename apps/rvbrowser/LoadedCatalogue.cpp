@@ -87,7 +87,20 @@ void LoadedCatalogue::append(Batch batch)
     }
     myPacks += std::move(batch.pack);
     for (const RVCatalogueFinding &finding : std::as_const(batch.findings))
-        myFindings += RVCatalogueFinding(finding.rule(), finding.range(), shared(finding.text()), finding.product());
+        myFindings += shared(finding);
+}
+
+// The window mends nothing, so it does without the fix.
+RVCatalogueFinding LoadedCatalogue::shared(const RVCatalogueFinding &finding)
+{
+    RVCatalogueFinding result(finding.rule(), finding.range(), shared(finding.text()), finding.product());
+    result.setSeverity(finding.severity());
+    result.setProductType(shared(finding.productType()));
+    QList<RVRelatedPlace> places = finding.relatedPlaces();
+    for (RVRelatedPlace &place : places)
+        place.text = shared(place.text);
+    result.setRelatedPlaces(places);
+    return result;
 }
 
 int LoadedCatalogue::groupIndex(const QString &name)

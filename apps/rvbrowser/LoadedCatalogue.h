@@ -7,6 +7,7 @@
 
 #include <RVCatalogueFinding.h>
 #include <RVCatalogueProduct.h>
+#include <RVCheckConfiguration.h>
 
 #include <QHash>
 #include <QList>
@@ -42,6 +43,9 @@ public:
 
     /// Adds the products that follow and what the reader finds wrong, all in one pass and on every core.
     void read(RVCatalogueReader *reader);
+    /// The configuration that the reader checks by, which may be a broken one that it therefore does without.
+    void setConfiguration(const RVCheckConfiguration &configuration) { myConfiguration = configuration; }
+    const RVCheckConfiguration &configuration() const { return myConfiguration; }
 
     QString fileName() const { return myFileName; }
     int size() const { return int(myEntries.size()); }
@@ -66,8 +70,10 @@ private:
     void append(Batch batch);
     int groupIndex(const QString &name);
     QString shared(const QString &text) { return *myTexts.insert(text); }
+    RVCatalogueFinding shared(const RVCatalogueFinding &finding);
 
     QString myFileName;
+    RVCheckConfiguration myConfiguration;
     AttributeWords myWords;
     QList<Entry> myEntries;
     QList<ProductPack> myPacks;

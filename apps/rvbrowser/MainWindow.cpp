@@ -195,7 +195,7 @@ void MainWindow::showCatalogue()
     const bool isReload = catalogue->fileName() == myFileName;
     const int product = isReload ? catalogue->indexOf(myType) : -1;
     myFileName = catalogue->fileName();
-    myBanner->hide();
+    showConfiguration(catalogue->configuration());
     setWindowTitle(u"%1 – %2"_s.arg(QFileInfo(myFileName).fileName(), QApplication::applicationName()));
     showFindings(catalogue);
     mySummary->setText(myFindings->summary());
@@ -220,12 +220,28 @@ void MainWindow::showFindings(const CataloguePointer &catalogue)
         resizeDocks({ myFindingsDock }, { now }, Qt::Vertical);
 }
 
+QString MainWindow::errorText(const LoadError &error)
+{
+    if (!error.position)
+        return tr("%1: %2").arg(error.fileName, error.text);
+    return tr("%1, line %2, column %3: %4")
+            .arg(error.fileName, QString::number(error.position->line), QString::number(error.position->column),
+                 error.text);
+}
+
+void MainWindow::showConfiguration(const RVCheckConfiguration &configuration)
+{
+    if (configuration.hasError())
+        myBanner->showMessage(
+                errorText({ configuration.fileName(), configuration.errorPosition(), configuration.errorString() })
+                + u'\n' + tr("The catalogue was checked without this configuration."));
+    else
+        myBanner->hide();
+}
+
 void MainWindow::showError(const LoadError &error)
 {
-    QString text = error.position ? tr("%1, line %2, column %3: %4")
-                                            .arg(error.fileName, QString::number(error.position->line),
-                                                 QString::number(error.position->column), error.text)
-                                  : tr("%1: %2").arg(error.fileName, error.text);
+    QString text = errorText(error);
     if (mySession.catalogue())
         text += u'\n' + tr("What was loaded before is still shown.");
     myBanner->showMessage(text);

@@ -43,8 +43,10 @@ private:
     void showCatalogue();
     void showFindings(const CataloguePointer &catalogue);
     void showProduct(int product);
+    void showConfiguration(const RVCheckConfiguration &configuration);
     void showError(const LoadError &error);
     void showVanished(const QString &fileName);
+    static QString errorText(const LoadError &error);
 
     CatalogueSession mySession;
     ProductList *myProducts;

@@ -85,6 +85,7 @@ private Q_SLOTS:
     void readsOnce();
     void productsAndFindings();
     void silencedFindings();
+    void findingsAsTheReaderGivesThem();
     void findingsInTheOrderOfTheFile();
     void withoutProducts();
     void search_data();
@@ -146,6 +147,38 @@ void tst_LoadedCatalogue::silencedFindings()
     QCOMPARE(found,
              (QStringList { u"0 2:1 suppression-unused"_s, u"2 4:10 type-duplicate"_s,
                             u"-1 1:1 suppression-unused"_s }));
+}
+
+// With a severity of the house, and with all places.
+void tst_LoadedCatalogue::findingsAsTheReaderGivesThem()
+{
+    RVCatalogueCheck check;
+    check.setSeverity(RVCatalogueRule::find(u"number-invalid"), RVCatalogueSeverity::Note);
+    QList<RVCatalogueFinding> expected;
+    CountedStream first(CATALOGUE);
+    RVCatalogueReader reader(&first);
+    reader.setCheck(check);
+    for (const RVCatalogueProduct &product : reader)
+        expected += product.findings();
+
+    CountedStream second(CATALOGUE);
+    RVCatalogueReader other(&second);
+    other.setCheck(check);
+    LoadedCatalogue catalogue(u"c.xml"_s);
+    catalogue.read(&other);
+    const QList<RVCatalogueFinding> &found = catalogue.findings();
+    QCOMPARE(found.size(), 3);
+    QCOMPARE(found.at(1).severity(), RVCatalogueSeverity::Note);
+    QCOMPARE(found.at(1).productType(), u"B"_s);
+    for (qsizetype i = 0; i < found.size(); ++i) {
+        QCOMPARE(found.at(i).rule().name(), expected.at(i).rule().name());
+        QCOMPARE(found.at(i).severity(), expected.at(i).severity());
+        QCOMPARE(found.at(i).text(), expected.at(i).text());
+        QCOMPARE(found.at(i).range(), expected.at(i).range());
+        QCOMPARE(found.at(i).product(), expected.at(i).product());
+        QCOMPARE(found.at(i).productType(), expected.at(i).productType());
+        QCOMPARE(found.at(i).relatedPlaces(), expected.at(i).relatedPlaces());
+    }
 }
 
 // Though products are checked on several threads, and in several pieces.
