@@ -53,8 +53,6 @@ void RVCheckConfigurationData::read()
         return;
     values = RVConfigurationValues();
     fault->text = fault->text.simplified();
-    if (fault->position)
-        fault->position = rvInCodeUnits(*text, *fault->position);
 }
 
 void RVCheckConfigurationData::fail(const QString &text)

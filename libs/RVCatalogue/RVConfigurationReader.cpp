@@ -51,6 +51,14 @@ RVConfigurationValues RVConfigurationReader::read()
     return myValues;
 }
 
+std::optional<RVConfigurationFault> RVConfigurationReader::fault() const
+{
+    std::optional<RVConfigurationFault> result = myFault;
+    if (result && result->position)
+        result->position = myTree.inFile(*result->position);
+    return result;
+}
+
 void RVConfigurationReader::readRules()
 {
     const QJsonObject rules = table({ RULES }, myTree.root.value(RULES)).value_or(QJsonObject());

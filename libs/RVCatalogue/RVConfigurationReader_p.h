@@ -45,7 +45,7 @@ public:
     /// Empty as far as there are faults.
     RVConfigurationValues read();
     /// The first fault in the file; none where all is well.
-    std::optional<RVConfigurationFault> fault() const { return myFault; }
+    std::optional<RVConfigurationFault> fault() const;
 
 private:
     void readRules();
@@ -66,7 +66,7 @@ private:
 
     const RVConfigurationTree &myTree;
     RVConfigurationValues myValues;
-    std::optional<RVConfigurationFault> myFault;
+    std::optional<RVConfigurationFault> myFault; // with a place in the encoded text
 };
 
 #endif

@@ -1,14 +1,11 @@
 #include "RVConfigurationTree_p.h"
 
-RVFilePosition rvInCodeUnits(const QByteArray &text, const RVFilePosition &position)
+RVFilePosition RVConfigurationTree::inFile(const RVFilePosition &position) const
 {
-    const QByteArray line = text.split('\n').value(position.line - 1);
-    QString letters = QString::fromUtf8(line);
-    if (position.line == 1 && letters.startsWith(QChar::ByteOrderMark))
-        letters.remove(0, 1);
-    const QList<uint> points = letters.toUcs4().mid(0, position.column - 1);
+    const QByteArray line = encodedText.split('\n').value(position.line - 1);
+    const QByteArray before = line.left(position.column - 1);
     // A place behind the end of the line, as that of a missing quote, is as far behind as it was.
-    const qint64 behind = position.column - 1 - points.size();
-    const QList<char32_t> units(points.begin(), points.end());
-    return { position.line, QString::fromUcs4(units.constData(), units.size()).size() + 1 + behind };
+    const qint64 behind = position.column - 1 - before.size();
+    const QString letters = QString::fromUtf8(QByteArray::fromPercentEncoding(before, RV_CONFIGURATION_MARK));
+    return { position.line, letters.size() + 1 + behind };
 }

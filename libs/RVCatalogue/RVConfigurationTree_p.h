@@ -24,7 +24,7 @@ struct RVConfigurationFault
  */
 struct RVConfigurationTree
 {
-    /// The places of an entry. A column is a letter here, however many UTF-16 code units it needs.
+    /// The places of an entry, with columns that count letters of the encoded text.
     struct Places
     {
         RVFilePosition key;
@@ -35,7 +35,16 @@ struct RVConfigurationTree
     /// By the names from the root on, where the number of an item of a list is its name; without those of unknown
     /// places.
     QHash<QStringList, Places> places;
+    /// The file with other letters than those of ASCII as percent encoding has them, but for the mark.
+    QByteArray encodedText;
+
+    /// The position in the file of one in the encoded text.
+    RVFilePosition inFile(const RVFilePosition &position) const;
 };
+
+/// The mark of letters in the encoded text. It is allowed in texts and comments, as they are, and nowhere else. A text
+/// that has it escaped as "\u007E", and two hexadecimal digits behind it, is read as another one.
+constexpr char RV_CONFIGURATION_MARK = '~';
 
 /// Entries lie no deeper than this, so that all others can be left out: page_sizes, a type, a width, and what is there
 /// by mistake.
@@ -45,8 +54,5 @@ constexpr qsizetype RV_CONFIGURATION_DEPTH = 4;
 std::optional<RVConfigurationFault> rvReadToml(const QByteArray &text, RVConfigurationTree *tree);
 /// Reads JSON. The result is the reason why it is none, or no object.
 std::optional<RVConfigurationFault> rvReadJson(const QByteArray &text, RVConfigurationTree *tree);
-
-/// The position in UTF-16 code units of one that counts letters.
-RVFilePosition rvInCodeUnits(const QByteArray &text, const RVFilePosition &position);
 
 #endif

@@ -14,7 +14,6 @@ public:
     static std::optional<RVConfigurationFault> read(const QByteArray &text, RVConfigurationTree *tree);
 };
 
-/// The place of a byte, in letters.
 RVFilePosition positionAt(const QByteArray &text, qsizetype offset)
 {
     const QByteArray before = text.left(offset);
@@ -22,7 +21,7 @@ RVFilePosition positionAt(const QByteArray &text, qsizetype offset)
     QString line = QString::fromUtf8(before.mid(lineBegin));
     if (line.startsWith(QChar::ByteOrderMark))
         line.remove(0, 1);
-    return { before.count('\n') + 1, line.toUcs4().size() + 1 };
+    return { before.count('\n') + 1, line.size() + 1 };
 }
 
 std::optional<RVConfigurationFault> RVJsonFile::read(const QByteArray &text, RVConfigurationTree *tree)

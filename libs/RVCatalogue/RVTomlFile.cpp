@@ -6,6 +6,10 @@
 #define TOML_ENABLE_FORMATTERS 0
 #define TOML_ENABLE_UNRELEASED_FEATURES 0
 #define TOML_MAX_NESTED_VALUES 16
+// Some of its assertions do not hold for a broken file, which it refuses right behind them. Without NDEBUG it takes
+// them for assertions, not for what the compiler may rely on.
+#undef NDEBUG
+#define TOML_ASSERT(expression) static_cast<void>(0)
 #include <toml++/toml.h>
 
 #include <QCoreApplication>
@@ -32,6 +36,7 @@ public:
     std::optional<RVConfigurationFault> read(const QByteArray &text);
 
 private:
+    RVConfigurationFault faultOf(const toml::parse_error &error) const;
     QJsonObject converted(const toml::table &table, const QStringList &path);
     QJsonArray converted(const toml::array &array, const QStringList &path);
     QJsonValue converted(const toml::node &node, const QStringList &path);
@@ -39,9 +44,25 @@ private:
     RVConfigurationTree *myTree;
 };
 
-QString fromStd(std::string_view text)
+/// The text with other letters than those of ASCII encoded, and without the byte order mark. The library looks for
+/// blanks among them in a way that only compilers of good will take well.
+QByteArray encoded(QByteArray text)
 {
-    return QString::fromUtf8(text.data(), qsizetype(text.size()));
+    static const QByteArray plain = [] {
+        QByteArray result;
+        for (char letter = 0; letter < 127; ++letter)
+            result += letter;
+        return result.replace(RV_CONFIGURATION_MARK, QByteArray()) + char(127);
+    }();
+    if (text.startsWith("\xEF\xBB\xBF"))
+        text.remove(0, 3);
+    return text.toPercentEncoding(plain, QByteArray(1, RV_CONFIGURATION_MARK), RV_CONFIGURATION_MARK);
+}
+
+QString decoded(std::string_view text)
+{
+    const QByteArray bytes(text.data(), qsizetype(text.size()));
+    return QString::fromUtf8(QByteArray::fromPercentEncoding(bytes, RV_CONFIGURATION_MARK));
 }
 
 RVFilePosition positionOf(const toml::source_region &region)
@@ -49,38 +70,58 @@ RVFilePosition positionOf(const toml::source_region &region)
     return { qint64(region.begin.line), qint64(region.begin.column) };
 }
 
-/// The number of a line that has too many dots, from 1; 0 where none has.
-qint64 lineOfManyDots(const QByteArray &text)
+bool hasManyDots(const QByteArray &line)
+{
+    return line.count('.') > MOST_DOTS;
+}
+
+bool isForeign(const QByteArray &line)
+{
+    return !QByteArrayView(line).isValidUtf8();
+}
+
+/// The first line of that kind, as a fault; none where no line is of it.
+std::optional<RVConfigurationFault> lineFault(const QByteArray &text, bool (*isOfKind)(const QByteArray &),
+                                              const QString &fault)
 {
     qint64 number = 1;
     for (const QByteArray &line : text.split('\n')) {
-        if (line.count('.') > MOST_DOTS)
-            return number;
+        if (isOfKind(line))
+            return RVConfigurationFault { fault, RVFilePosition { number, 1 } };
         ++number;
     }
-    return 0;
+    return std::nullopt;
 }
 
 std::optional<RVConfigurationFault> RVTomlFile::read(const QByteArray &text)
 {
-    if (const qint64 line = lineOfManyDots(text))
-        return RVConfigurationFault { tr("this line has more than %1 dots").arg(MOST_DOTS),
-                                      RVFilePosition { line, 1 } };
-    const toml::parse_result result = toml::parse(std::string_view(text.constData(), std::size_t(text.size())));
-    if (!result) {
-        const toml::parse_error &error = result.error();
-        return RVConfigurationFault { tr("this is no TOML: %1").arg(fromStd(error.description())),
-                                      positionOf(error.source()) };
-    }
+    if (const auto fault = lineFault(text, isForeign, tr("this line is not written in UTF-8")))
+        return fault;
+    if (const auto fault = lineFault(text, hasManyDots, tr("this line has more than %1 dots").arg(MOST_DOTS)))
+        return fault;
+    myTree->encodedText = encoded(text);
+    const QByteArray &letters = myTree->encodedText;
+    const toml::parse_result result = toml::parse(std::string_view(letters.constData(), std::size_t(letters.size())));
+    if (!result)
+        return faultOf(result.error());
     myTree->root = converted(result.table(), QStringList());
     return std::nullopt;
+}
+
+RVConfigurationFault RVTomlFile::faultOf(const toml::parse_error &error) const
+{
+    const RVFilePosition position = myTree->inFile(positionOf(error.source()));
+    const QString description = QString::fromUtf8(error.description().data(), qsizetype(error.description().size()));
+    if (description.contains(QLatin1Char(RV_CONFIGURATION_MARK)))
+        return { tr("this is no TOML: a letter that may stand in a text stands elsewhere"), position };
+    return { tr("this is no TOML: %1").arg(description), position };
 }
 
 QJsonObject RVTomlFile::converted(const toml::table &table, const QStringList &path)
 {
     QJsonObject result;
     for (const auto &[key, value] : table) {
-        const QString name = fromStd(key.str());
+        const QString name = decoded(key.str());
         const QStringList valuePath = path + QStringList(name);
         myTree->places.insert(valuePath, { positionOf(key.source()), positionOf(value.source()) });
         result.insert(name, converted(value, valuePath));
@@ -107,7 +148,7 @@ QJsonValue RVTomlFile::converted(const toml::node &node, const QStringList &path
     if (const toml::array *array = isDeep ? nullptr : node.as_array())
         return converted(*array, path);
     if (const auto *text = node.as_string())
-        return fromStd(text->get());
+        return decoded(text->get());
     if (const auto *number = node.as_integer())
         return qint64(number->get());
     if (const auto *number = node.as_floating_point())

@@ -89,7 +89,7 @@ void tst_RVCheckConfiguration::everything_data()
     QTest::addColumn<QByteArray>("text");
 
     QTest::newRow("TOML") << u"rvcatalog.toml"_s << QByteArray(R"(# of the house
-foreign = ["supplier", "Größe"]
+foreign = ["supplier", "Größe"] # für die Buchhaltung ~
 price_classes = ["TAS2", "TAS1"]
 
 [rules]
@@ -116,7 +116,8 @@ DUN9 = { width = 210, height = 297.5 }
     "VIR 29": { "width": 100, "height": 100 }
   }
 })");
-    QTest::newRow("groups of price classes") << u"rvcatalog.toml"_s << QByteArray(R"(foreign = ["supplier", "Größe"]
+    QTest::newRow("groups of price classes")
+            << u"rvcatalog.toml"_s << QByteArray(R"(foreign = ["supplier", "Gr\u00f6\U000000dfe", 'a~C3%C3']
 [price_classes]
 cups = ["TAS2"]
 more = ["TAS1", "TAS2"]
@@ -158,6 +159,7 @@ void tst_RVCheckConfiguration::everything()
     QVERIFY(check.isForeign(u"supplier"_s));
     QVERIFY(check.isForeign(u"Größe"_s));
     QVERIFY(!check.isForeign(u"Supplier"_s));
+    QCOMPARE(check.isForeign(u"a~C3%C3"_s), name == "rvcatalog.toml"_L1 && text.contains("a~C3%C3"));
     QCOMPARE(check.priceClasses(), (QStringList { u"TAS1"_s, u"TAS2"_s }));
     QCOMPARE(check.pageSize(u"DUN9"_s), QSizeF(210, 297.5));
     QCOMPARE(check.pageSize(u"DUN9_30"_s), QSizeF(210, 297.5)); // the family
@@ -366,9 +368,14 @@ void tst_RVCheckConfiguration::unreadable_data()
     const QString noToml = u"this is no TOML: "_s;
     QTest::newRow("key without value") << u"a.toml"_s << QByteArray("foreign = []\nrules\n") << noToml << 2;
     QTest::newRow("key twice") << u"a.toml"_s << QByteArray("foreign = []\nforeign = []\n") << noToml << 2;
-    QTest::newRow("TOML that is no UTF-8") << u"a.toml"_s << QByteArray("foreign = ['\xE4']\n") << noToml << 1;
+    QTest::newRow("TOML that is no UTF-8")
+            << u"a.toml"_s << QByteArray("\nforeign = ['\xE4']\n") << u"this line is not written in UTF-8"_s << 2;
+    QTest::newRow("letter outside of a text")
+            << u"a.toml"_s << QByteArray("\n\xC3\x9F = 1\n")
+            << u"this is no TOML: a letter that may stand in a text stands elsewhere"_s << 2;
     QTest::newRow("a hundred lists in one another")
             << u"a.toml"_s << "foreign = " + QByteArray(100, '[') + QByteArray(100, ']') << noToml << 1;
+    QTest::newRow("letter for an hour") << u"a.toml"_s << QByteArray("\nforeign = 2026-01-01Tx\n") << noToml << 2;
     const QString noJson = u"this is no JSON: "_s;
     QTest::newRow("JSON with a comma too many") << u"a.json"_s << QByteArray("{\n  \"foreign\": [],\n}") << noJson << 3;
     QTest::newRow("JSON that ends too early") << u"a.json"_s << QByteArray("{") << noJson << 1;
