@@ -6,6 +6,7 @@
 #include <RVCatalogue/RVCatalogueProduct.h>
 #include <RVCatalogue/RVCatalogueReader.h>
 #include <RVCatalogue/RVCatalogueRule.h>
+#include <RVCatalogue/RVCheckConfiguration.h>
 #include <RVCatalogue/RVFileEditor.h>
 
 #include <QBuffer>
@@ -31,6 +32,7 @@ private Q_SLOTS:
     void rules();
     void mend();
     void apply();
+    void configuration();
     void error();
 };
 
@@ -214,6 +216,22 @@ void tst_guide_catalogue::apply()
     QCOMPARE(editor.apply("<spine base_width   = '8,5'/>"), QByteArray("<spine base_width   = '8.5'/>"));
     QCOMPARE(editor.count(), 1);
     //! [apply]
+}
+
+void tst_guide_catalogue::configuration()
+{
+    //! [configuration]
+    const RVCheckConfiguration configuration = RVCheckConfiguration::find(u"products.xml"_s);
+    QVERIFY2(!configuration.hasError(), qPrintable(configuration.errorString()));
+
+    RVCatalogueCheck check;
+    configuration.apply(&check);
+
+    QVERIFY(!check.isEnabled(RVCatalogueRule::find(u"keyword-legacy")));
+    QVERIFY(check.isForeign(u"supplier"_s));
+    QCOMPARE(check.pageSize(RVProductType(u"DUN9_30"_s)), QSizeF(210, 297));
+    //! [configuration]
+    QVERIFY(!configuration.isNull());
 }
 
 void tst_guide_catalogue::error()
