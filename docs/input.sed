@@ -8,6 +8,6 @@ s/(, public RV\w+)<\w+>$/\1/
 # What copies and moves shared data as everybody expects, what the compiler writes, and what RVEnumWrapper describes for all attributes, needs no words.
 s/^ *RV\w+\((const )?RV\w+ &&?\)( noexcept)? = default;$//
 s/^ *RV\w+ &operator=\((const )?RV\w+ &&?\)( noexcept)? = default;$//
-s/^ *RV(Catalogue|ProductChange)\w*\((const )?RV(Catalogue|ProductChange)\w* &&?other\)( noexcept)?;$//
-s/^ *RV(Catalogue|ProductChange)\w* &operator=\((const )?RV(Catalogue|ProductChange)\w* &&?other\)( noexcept)?;$//
+s/^ *RV(Catalogue|Check|ProductChange)\w*\((const )?RV(Catalogue|Check|ProductChange)\w* &&?other\)( noexcept)?;$//
+s/^ *RV(Catalogue|Check|ProductChange)\w* &operator=\((const )?RV(Catalogue|Check|ProductChange)\w* &&?other\)( noexcept)?;$//
 s/^ *void fillTable\(.*\) const override;$//

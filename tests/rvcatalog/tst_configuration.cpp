@@ -121,7 +121,7 @@ void tst_configuration::everyCatalogueHasItsOwn()
     write(u"rvcatalog.toml"_s, "rules.keyword-legacy = 'off'");
     write(u"a/c.xml"_s, CATALOGUE);
     write(u"b/rvcatalog.json"_s, R"({"rules": {"article-id-invalid": "note", "price-class-unknown": "off"}})");
-    write(u"b/b/c.xml"_s, CATALOGUE);
+    write(u"b/b/c.xml"_s, QByteArray(CATALOGUE).replace("DUN", "TOS").replace("VIR", "KAL").replace("id='", "id='1"));
     const CommandRun run({ u"check"_s, u"a/c.xml"_s, u"b/b/c.xml"_s });
     QCOMPARE(findingsOf(run.output),
              (QStringList { u"warning price-class-unknown"_s, u"error article-id-invalid"_s, u"note keyword-legacy"_s,
