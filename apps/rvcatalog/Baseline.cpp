@@ -29,7 +29,7 @@ constexpr auto COUNT = "count"_L1;
 
 constexpr int THIS_VERSION = 1;
 /// More findings than anybody mends one by one.
-constexpr qint64 LARGEST_FILE = 256 * 1024 * 1024;
+constexpr qint64 LARGEST_FILE = 1 << 28;
 
 RVFilePosition positionAt(const QByteArray &text, qsizetype offset)
 {

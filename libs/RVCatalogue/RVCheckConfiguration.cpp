@@ -32,7 +32,7 @@ private:
 
 namespace {
 
-constexpr qint64 LARGEST_FILE = 1024 * 1024;
+constexpr qint64 LARGEST_FILE = 1 << 20;
 constexpr QLatin1StringView FILE_NAMES[] = { "rvcatalog.toml"_L1, "rvcatalog.json"_L1 };
 
 bool isThere(const QString &fileName)
@@ -67,7 +67,7 @@ std::optional<QByteArray> RVCheckConfigurationData::readText()
         fail(tr("cannot open the file: %1").arg(file.errorString()));
         return std::nullopt;
     }
-    const QByteArray text = file.read(LARGEST_FILE + 1);
+    QByteArray text = file.read(LARGEST_FILE + 1);
     if (file.error() != QFileDevice::NoError)
         fail(tr("cannot read the file: %1").arg(file.errorString()));
     else if (text.size() > LARGEST_FILE)

@@ -53,7 +53,7 @@ private:
     void readForeignNames();
     void readPriceClasses();
     void readPageSizes();
-    void readPageSize(const QString &type, const QJsonValue &value);
+    void readPageSize(const QString &name, const QJsonValue &value);
 
     std::optional<QJsonObject> table(const QStringList &path, const QJsonValue &value);
     QStringList texts(const QStringList &path, const QJsonValue &value);

@@ -117,6 +117,8 @@ RVConfigurationFault RVTomlFile::faultOf(const toml::parse_error &error) const
     return { tr("this is no TOML: %1").arg(description), position };
 }
 
+// NOLINTBEGIN(misc-no-recursion): it goes no deeper than an entry may lie
+
 QJsonObject RVTomlFile::converted(const toml::table &table, const QStringList &path)
 {
     QJsonObject result;
@@ -157,6 +159,8 @@ QJsonValue RVTomlFile::converted(const toml::node &node, const QStringList &path
         return boolean->get();
     return QJsonValue();
 }
+
+// NOLINTEND(misc-no-recursion)
 
 }
 
