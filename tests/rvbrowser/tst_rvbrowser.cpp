@@ -565,9 +565,9 @@ void tst_rvbrowser::toolTips()
     for (int column = 0; column < model->columnCount(); ++column) {
         const QStringList lines = toolTipLines(model->index(0, column));
         QCOMPARE(lines.value(0), finding);
-        QCOMPARE(lines.value(1), u"The highest page count can never be reached when the steps do not meet it."_s);
         for (const QString &line :
-             { u"  <product type=\"DUN9\" article_id=\"1001\" pages=\"26\" max_pages=\"154\" page_step=\"6\"/>"_s,
+             { u"The highest page count can never be reached when the steps do not meet it."_s,
+               u"  <product type=\"DUN9\" article_id=\"1001\" pages=\"26\" max_pages=\"154\" page_step=\"6\"/>"_s,
                u"  <product type=\"DUN9\" article_id=\"1001\" pages=\"26\" max_pages=\"154\" page_step=\"4\"/>"_s,
                u"<!-- rvcatalog: ignore page-step-misses-highest -->"_s, u"page-step-misses-highest = \"off\""_s })
             QVERIFY2(lines.contains(line), qPrintable(lines.join(u'\n')));
