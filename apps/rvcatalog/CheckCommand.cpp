@@ -1,5 +1,7 @@
+#include "BaselineFilter.h"
 #include "CheckOptions.h"
 #include "CheckRun.h"
+#include "Configurations.h"
 #include "DistinctFiles.h"
 #include "FindingWriter.h"
 #include "FixRun.h"
