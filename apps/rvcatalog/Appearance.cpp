@@ -4,11 +4,6 @@
 
 using namespace Qt::StringLiterals;
 
-QStringList Appearance::choices()
-{
-    return { u"auto"_s, u"always"_s, u"never"_s };
-}
-
 Appearance Appearance::of(const QString &choice, std::FILE *output)
 {
     if (choice == "always"_L1)

@@ -119,21 +119,13 @@ int compareForGit(const QStringList &arguments, DiffWriter *writer, bool hasExit
 }
 
 /// The reason why the arguments cannot be understood; empty where they can.
-QString refusal(const QString &format, const QString &color, bool isGit, const QStringList &names)
+QString refusal(const QString &format, bool isGit, const QStringList &names)
 {
-    static const QStringList formats { u"text"_s, u"json"_s, u"markdown"_s };
-    static const QStringList colors { u"auto"_s, u"always"_s, u"never"_s };
-    if (!formats.contains(format))
-        return u"there is no format \"%1\"; there are: %2"_s.arg(format, formats.join(", "_L1));
-    if (!colors.contains(color))
-        return u"--color is auto, always or never, not \"%1\""_s.arg(color);
     if (isGit && format == "json"_L1)
         return u"--git writes several comparisons, which are no JSON"_s;
     const bool isCountRight = isGit ? names.size() == 1 || names.size() >= GIT_ARGUMENTS : names.size() == 2;
     if (!isCountRight)
         return u"expected %1 arguments, got %2"_s.arg(isGit ? GIT_ARGUMENTS : 2).arg(names.size());
-    if (!isGit && names.at(0) == "-"_L1 && names.at(1) == "-"_L1)
-        return u"only one file can be the standard input"_s;
     return QString();
 }
 
@@ -146,7 +138,8 @@ int diffCommand(const QStringList &arguments, const Console &console)
             u"Tells what differs between two catalogues: products that were added or removed, and what has changed of\n"
             "the others. What the ordering application reads is compared, not how it is written.\n"
             "Ends with 0 when they are equal, with 1 when they differ, with 2 when one of them cannot be read."_s);
-    const QCommandLineOption formatOption(u"format"_s, u"Write text, json, or markdown."_s, u"text|json|markdown"_s, u"text"_s);
+    const QCommandLineOption formatOption(u"format"_s, u"Write text, json, or markdown."_s, u"text|json|markdown"_s,
+                                          u"text"_s);
     const QCommandLineOption colorOption(u"color"_s, u"Colour the text: auto (on a terminal), always, or never."_s,
                                          u"auto|always|never"_s, u"auto"_s);
     const QCommandLineOption git(u"git"_s,
@@ -166,7 +159,7 @@ int diffCommand(const QStringList &arguments, const Console &console)
     const QString format = parser.value(formatOption);
     const QString when = parser.value(colorOption);
     const bool isGit = parser.isSet(git);
-    const QString problem = refusal(format, when, isGit, parser.positionalArguments());
+    const QString problem = refusal(format, isGit, parser.positionalArguments());
     if (!problem.isEmpty())
         return refuseArguments(arguments.constFirst(), problem, console);
     const auto writer = DiffWriter::create(format, hasColor(when, isGit, console), console);

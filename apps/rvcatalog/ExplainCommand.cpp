@@ -85,10 +85,6 @@ int explainCommand(const QStringList &arguments, const Console &console)
     if (!parseArguments(parser, arguments, 0, ANY_NUMBER, console, &exitCode))
         return exitCode;
     const bool isMarkdown = parser.value(u"format"_s) == "markdown"_L1;
-    if (!isMarkdown && parser.value(u"format"_s) != "text"_L1)
-        return refuseArguments(arguments.constFirst(),
-                               u"there is no format \"%1\"; there are: text, markdown"_s.arg(parser.value(u"format"_s)),
-                               console);
     Rules rules;
     const QString refusal = find(parser.positionalArguments(), &rules);
     if (!refusal.isEmpty())

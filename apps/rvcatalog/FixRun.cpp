@@ -92,8 +92,6 @@ bool FixRun::mendFile(const QString &fileName)
 
 bool FixRun::mendInput()
 {
-    if (myInputCopy)
-        return true; // it was named twice
     if (!copyInput())
         return false;
     RVFileEditor editor;
@@ -138,7 +136,7 @@ bool FixRun::writeMended(RVFileEditor *editor, qint64 findings)
 
 bool FixRun::diffFile(const QString &fileName, bool *isChanged)
 {
-    if (isInput(fileName) && !myInputCopy && !copyInput())
+    if (isInput(fileName) && !copyInput())
         return false;
     if (!isInput(fileName) && isSpecial(fileName))
         return fail(fileName, { RVFilePosition(), u"this is no ordinary file"_s });

@@ -314,7 +314,8 @@ QList<RVCatalogueFinding> RVCatalogueReaderPrivate::findings()
     judgeGroups();
     const QList<RVCatalogueFinding> strays = myParser.strayElements().findings(*myCheck);
     const RVCatalogueRule rule = RVCatalogueRuleRow::rule(RVCatalogueRuleId::ProductsMissing);
-    const bool isTold = !myCheck->isEnabled(rule) || myParser.isMissingSilenced() || RVStrayElements::haveProduct(strays);
+    const bool isTold = !myCheck->isEnabled(rule) || myParser.isMissingSilenced()
+            || RVStrayElements::haveProduct(strays);
     QList<RVCatalogueFinding> result;
     if (isMissing() && !isTold) {
         result += RVCatalogueFinding(rule, RVFileRange(), tr("there is no product in this file"));

@@ -82,7 +82,7 @@ inline QByteArray articleWith(const QByteArray &attributes)
 
 inline QByteArray unitsWith(const QByteArray &unit)
 {
-    return productWith("", "<composition units='" + unit + "'>\n<spine base_width='8'/>\n</composition>\n");
+    return productWith("", "<composition units='" + unit + "'>\n<spine base_width='0.8'/>\n</composition>\n");
 }
 
 inline QByteArray widthWith(const QByteArray &width)

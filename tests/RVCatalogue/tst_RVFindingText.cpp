@@ -576,16 +576,21 @@ void tst_RVFindingText::places_data()
                              u"<product type='A' article_id='1' > in line 2: the outer product"_s };
     QTest::newRow("barcodes overlap")
             << productWith("",
-                           "<barcodes>\n<barcode position_y='50' height='9'/>\n<barcode position_y='50' height='8'/>\n"
+                           "<barcodes>\n<barcode position_y='50' width='9' height='9' pageNr='1'/>\n"
+                           "<barcode position_y='50' width='9' height='8' pageNr='1'/>\n"
                            "</barcodes>\n")
-            << QStringList { u"barcode-overlap"_s,
-                             u"<barcode position_y='50' height='9'/> in line 4: the other barcode"_s };
+            << QStringList {
+                   u"barcode-overlap"_s,
+                   u"<barcode position_y='50' width='9' height='9' pageNr='1'/> in line 4: the other barcode"_s
+               };
     QTest::newRow("page of a barcode") << productWith(
-            "pages='2' max_pages='4' page_step='2'", "<barcodes>\n<barcode position_y='50' pageNr='5'/>\n</barcodes>\n")
+            "pages='2' max_pages='4' page_step='2'",
+            "<barcodes>\n<barcode position_y='50' width='9' height='9' pageNr='5'/>\n</barcodes>\n")
                                        << QStringList { u"barcode-page-impossible"_s,
                                                         u"max_pages='4' in line 2: the highest page count"_s };
     QTest::newRow("page of a barcode, fixed count")
-            << productWith("pages='2'", "<barcodes>\n<barcode position_y='50' pageNr='5'/>\n</barcodes>\n")
+            << productWith("pages='2'",
+                           "<barcodes>\n<barcode position_y='50' width='9' height='9' pageNr='5'/>\n</barcodes>\n")
             << QStringList { u"barcode-page-impossible"_s, u"pages='2' in line 2: the highest page count"_s };
     QTest::newRow("page counts reversed")
             << productWith("pages='8' max_pages='4' page_step='2'")

@@ -243,7 +243,8 @@ void tst_RVSuppression::elements_data()
         none);
     row("everything in the product",
         "<p>" + ignoring("boolean-invalid, number-invalid")
-                + product("<barcodes>\n<barcode width='x' pageNr='0'/></barcodes><forms>\n<form key='a' value='b' "
+                + product("<barcodes>\n<barcode width='x' height='9' pageNr='0'/></barcodes><forms>\n<form key='a' "
+                          "value='b' "
                           "preselected='x'/></forms>"),
         none);
     row("part of a product",

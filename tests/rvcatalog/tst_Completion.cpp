@@ -63,7 +63,8 @@ void tst_Completion::candidates_data()
     QTest::newRow("formats") << u"show --format "_s << QStringList { u"text"_s, u"json"_s };
     QTest::newRow("format in one word") << u"show --format=j"_s << QStringList { u"--format=json"_s };
     QTest::newRow("rule") << u"check --disable barcode-o"_s
-                          << QStringList { u"barcode-outside-page"_s, u"barcode-overlap"_s };
+                          << QStringList { u"barcode-outside-page"_s, u"barcode-overlap"_s,
+                                           u"barcode-off-usual-page"_s };
     QTest::newRow("attribute") << u"keywords page_b"_s << QStringList { u"page_binding"_s };
     QTest::newRow("no second attribute") << u"keywords page_binding page_b"_s << QStringList();
     QTest::newRow("keyword") << u"decode page_binding lay"_s << QStringList { u"layflat"_s };

@@ -601,7 +601,7 @@ void tst_check::wrongUsage_data()
                                << u"rvcatalog: --max-findings takes a whole number from 1, not \"few\""_s + hint;
     QTest::newRow("unknown choice of colours")
             << QStringList { u"--color=sometimes"_s, u"clean.xml"_s }
-            << u"rvcatalog: there is no choice of colours \"sometimes\"; there are: auto, always, never"_s + hint;
+            << u"rvcatalog: there is no color \"sometimes\"; there are: auto, always, never"_s + hint;
     QTest::newRow("counts for programs") << QStringList {
         u"--summary"_s, u"--format=json"_s, u"clean.xml"_s
     } << u"rvcatalog: --summary is for the format text; other formats have their own"_s + hint;

@@ -151,7 +151,6 @@ void tst_check_files::sameFile_data()
                "file as ./a.xml, and checked once\n"_s.arg(myFolder.filePath(u"a.xml"_s));
     QTest::newRow("link") << QStringList { u"a.xml"_s, u"c.xml"_s, u"link.xml"_s }
                           << u"link.xml: it is the same file as a.xml, and checked once\n"_s;
-    QTest::newRow("standard input") << QStringList { u"-"_s, u"-"_s } << u"-: it is named twice, and checked once\n"_s;
 }
 
 void tst_check_files::sameFile()

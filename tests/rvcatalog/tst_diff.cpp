@@ -346,7 +346,7 @@ void tst_diff::wrongUsage_data()
     QTest::newRow("format") << QStringList { u"--format=xml"_s, u"old.xml"_s, u"new.xml"_s }
                             << u"there is no format \"xml\"; there are: text, json, markdown"_s;
     QTest::newRow("colour") << QStringList { u"--color=red"_s, u"old.xml"_s, u"new.xml"_s }
-                            << u"--color is auto, always or never, not \"red\""_s;
+                            << u"there is no color \"red\"; there are: auto, always, never"_s;
     QTest::newRow("two standard inputs") << QStringList { u"-"_s, u"-"_s }
                                          << u"only one file can be the standard input"_s;
     QTest::newRow("git with two files") << QStringList { u"--git"_s, u"old.xml"_s, u"new.xml"_s }

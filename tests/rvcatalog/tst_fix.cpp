@@ -317,9 +317,9 @@ void tst_fix::inputWithNothingToMend()
 void tst_fix::inputTwice()
 {
     const Run run = check({ u"--fix"_s, u"-"_s, u"-"_s }, BROKEN_CATALOGUE);
-    QCOMPARE(run.output, QByteArray(MENDED_CATALOGUE));
+    QCOMPARE(run.output, QByteArray());
     QCOMPARE(run.exitCode, 2);
-    QVERIFY(run.messages.contains("-:1:1: error: the file is empty\n"_L1));
+    QVERIFY(run.messages.startsWith("rvcatalog: only one file can be the standard input\n"_L1));
 }
 
 void tst_fix::unreadableInput()
