@@ -21,7 +21,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const char FIRST_PRODUCT[] = "<p>\n<product type='A' article_id='0'/>\n";
-const char FIRST_LINE[] = "pipe:2:19: error: A: the article id \"0\" is no whole number above 0; write 1 or more [article-id-invalid]\n";
+const char FIRST_LINE[] =
+        "pipe:2:19: error: A: the article id \"0\" is no whole number above 0; write 1 or more [article-id-invalid]\n";
 
 /// In a file that takes a while.
 constexpr int ALL_FINDINGS = 500;
