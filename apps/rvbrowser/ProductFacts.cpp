@@ -29,15 +29,15 @@ QList<RVCatalogueAttribute> attributes()
 QList<ProductFacts::Fact> ProductFacts::facts() const
 {
     QList<Fact> result {
-        { tr("Kind of article"), rvCatalogueAttributeName<RVArticleClass>(), kind() },
-        { tr("Article id"), "article_id"_L1, articleId() },
+        { tr("Kind of article"), rvCatalogueAttributeName<RVArticleClass>(), kind(), {} },
+        { tr("Article id"), "article_id"_L1, articleId(), {} },
     };
     for (const RVCatalogueAttribute &attribute : attributes())
-        result += Fact { attribute.label(), attribute.name(), myWords.text(attribute, myProduct) };
-    result += Fact { tr("Shipping group"), "shipping_group"_L1, shippingGroup() };
-    result += Fact { tr("Price class"), "price_class"_L1, myProduct.priceClass().toString() };
-    result += Fact { tr("Price class of a package"), "page_price_class"_L1, myProduct.pagePriceClass().toString() };
-    result += Fact { tr("Barcodes"), QLatin1StringView(), barcodes() };
+        result += Fact { attribute.label(), attribute.name(), myWords.text(attribute, myProduct), {} };
+    result += Fact { tr("Shipping group"), "shipping_group"_L1, shippingGroup(), {} };
+    result += Fact { tr("Price class"), "price_class"_L1, myProduct.priceClass().toString(), {} };
+    result += Fact { tr("Price class of a package"), "page_price_class"_L1, myProduct.pagePriceClass().toString(), {} };
+    result += Fact { tr("Barcodes"), QLatin1StringView(), barcodes(), {} };
     addFaults(&result);
     return result;
 }

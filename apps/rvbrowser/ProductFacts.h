@@ -20,7 +20,7 @@ public:
         QString label;
         QLatin1StringView attribute; ///< empty where it is not one attribute
         QString text; ///< as it stands in the file where something is wrong with it; empty where there is nothing
-        QString fault = {}; ///< what is wrong with it, and what was probably meant; empty where nothing is
+        QString fault; ///< what is wrong with it, and what was probably meant; empty where nothing is
     };
 
     ProductFacts(const RVCatalogueProduct &product, const AttributeWords &words)
