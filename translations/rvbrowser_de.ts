@@ -228,6 +228,10 @@ Zeigt Kataloge von Druckprodukten.</translation>
         <source>%1 is gone. It is loaded again when it comes back.</source>
         <translation>%1 ist nicht mehr da. Die Datei wird wieder geladen, sobald sie zurück ist.</translation>
     </message>
+    <message>
+        <source>The catalogue was checked without this configuration.</source>
+        <translation>Der Katalog wurde ohne diese Konfiguration geprüft.</translation>
+    </message>
 </context>
 <context>
     <name>MessageBanner</name>

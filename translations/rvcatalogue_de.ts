@@ -200,38 +200,339 @@
     </message>
 </context>
 <context>
+    <name>RVChangeText</name>
+    <message>
+        <source>%1 x %2 mm at %3, %4, &quot;%5&quot;</source>
+        <translation>%1 x %2 mm bei %3, %4, &quot;%5&quot;</translation>
+    </message>
+    <message>
+        <source>Barcode %1 on page %2</source>
+        <translation>Barcode %1 auf Seite %2</translation>
+    </message>
+    <message>
+        <source>page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>left edge</source>
+        <translation>linke Kante</translation>
+    </message>
+    <message>
+        <source>lower edge</source>
+        <translation>untere Kante</translation>
+    </message>
+    <message>
+        <source>width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>image</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Option %1</source>
+        <translation>Option %1</translation>
+    </message>
+    <message>
+        <source>Option %1 (number %2)</source>
+        <translation>Option %1 (Nummer %2)</translation>
+    </message>
+    <message>
+        <source>name of the key</source>
+        <translation>Name des Schlüssels</translation>
+    </message>
+    <message>
+        <source>name of the value</source>
+        <translation>Name des Werts</translation>
+    </message>
+    <message>
+        <source>name in the editor</source>
+        <translation>Name im Editor</translation>
+    </message>
+    <message>
+        <source>name of the form</source>
+        <translation>Name des Elements form</translation>
+    </message>
+    <message>
+        <source>preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>accountable</source>
+        <translation>mit Aufpreis</translation>
+    </message>
+    <message>
+        <source>price class</source>
+        <translation>Preisklasse</translation>
+    </message>
+    <message>
+        <source>preselected</source>
+        <translation>vorgegeben</translation>
+    </message>
+    <message>
+        <source>Default of %1</source>
+        <translation>Vorgabe von %1</translation>
+    </message>
+    <message>
+        <source>Spine width at %1 pages</source>
+        <translation>Rückenbreite bei %1 Seiten</translation>
+    </message>
+    <message>
+        <source>Lowest page count</source>
+        <translation>Kleinste Seitenzahl</translation>
+    </message>
+    <message>
+        <source>Highest page count</source>
+        <translation>Größte Seitenzahl</translation>
+    </message>
+    <message>
+        <source>Page step</source>
+        <translation>Seitenschritt</translation>
+    </message>
+    <message>
+        <source>Page counts</source>
+        <translation>Seitenzahlen</translation>
+    </message>
+    <message>
+        <source>Spine, base width</source>
+        <translation>Rücken, Grundbreite</translation>
+    </message>
+    <message>
+        <source>Spine, block width</source>
+        <translation>Rücken, Blockbreite</translation>
+    </message>
+    <message>
+        <source>Spine, additional width</source>
+        <translation>Rücken, Zusatzbreite</translation>
+    </message>
+    <message>
+        <source>Spine, packages per block</source>
+        <translation>Rücken, Pakete je Block</translation>
+    </message>
+    <message>
+        <source>%1-%2 by %3</source>
+        <translation>%1-%2 in Schritten von %3</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Article</source>
+        <translation>Artikel</translation>
+    </message>
+    <message>
+        <source>Families</source>
+        <translation>Familien</translation>
+    </message>
+    <message>
+        <source>Shipping group</source>
+        <translation>Versandgruppe</translation>
+    </message>
+    <message>
+        <source>Price class</source>
+        <translation>Preisklasse</translation>
+    </message>
+    <message>
+        <source>Price class of pages</source>
+        <translation>Preisklasse der Seiten</translation>
+    </message>
+    <message>
+        <source>Photo box</source>
+        <translation>Fotobox</translation>
+    </message>
+</context>
+<context>
+    <name>RVCheckConfiguration</name>
+    <message>
+        <source>cannot open the file: %1</source>
+        <translation>die Datei lässt sich nicht öffnen: %1</translation>
+    </message>
+    <message>
+        <source>cannot read the file: %1</source>
+        <translation>die Datei lässt sich nicht lesen: %1</translation>
+    </message>
+    <message>
+        <source>the file is larger than 1 MiB</source>
+        <translation>die Datei ist größer als 1 MiB</translation>
+    </message>
+    <message>
+        <source>%1 lies in the same folder, and only one of them can count</source>
+        <translation>%1 liegt im selben Ordner, und nur eine der beiden Dateien kann gelten</translation>
+    </message>
+    <message>
+        <source>it is no regular file</source>
+        <translation>sie ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>there is no rule %1</source>
+        <translation>es gibt keine Regel %1</translation>
+    </message>
+    <message>
+        <source>there is no rule %1; did you mean %2?</source>
+        <translation>es gibt keine Regel %1; ist %2 gemeint?</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>ein Text</translation>
+    </message>
+    <message>
+        <source>%1 is no severity; there are: %2</source>
+        <translation>%1 ist keine Schwere; es gibt: %2</translation>
+    </message>
+    <message>
+        <source>a product type is missing</source>
+        <translation>ein Produkttyp fehlt</translation>
+    </message>
+    <message>
+        <source>the product type %1, that is %2, already has a page size</source>
+        <translation>der Produkttyp %1, also %2, hat schon eine Seitengröße</translation>
+    </message>
+    <message>
+        <source>a table</source>
+        <translation>eine Tabelle</translation>
+    </message>
+    <message>
+        <source>a list of texts</source>
+        <translation>eine Liste von Texten</translation>
+    </message>
+    <message>
+        <source>%1 has an empty text</source>
+        <translation>%1 enthält einen leeren Text</translation>
+    </message>
+    <message>
+        <source>%1 is missing</source>
+        <translation>%1 fehlt</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>eine Zahl</translation>
+    </message>
+    <message>
+        <source>%1 must be above 0 and at most %2 mm</source>
+        <translation>%1 muss über 0 und höchstens %2 mm sein</translation>
+    </message>
+    <message>
+        <source>there is no entry %1; there are: %2</source>
+        <translation>es gibt keinen Eintrag %1; es gibt: %2</translation>
+    </message>
+    <message>
+        <source>there is no entry %1; did you mean %2?</source>
+        <translation>es gibt keinen Eintrag %1; ist %2 gemeint?</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>eine Liste</translation>
+    </message>
+    <message>
+        <source>a boolean</source>
+        <translation>ein Wahrheitswert</translation>
+    </message>
+    <message>
+        <source>something else</source>
+        <translation>etwas anderes</translation>
+    </message>
+    <message>
+        <source>%1 must be %2, but is %3</source>
+        <translation>%1 muss %2 sein, ist aber %3</translation>
+    </message>
+    <message>
+        <source>this is no JSON: %1</source>
+        <translation>dies ist kein JSON: %1</translation>
+    </message>
+    <message>
+        <source>this is no JSON object</source>
+        <translation>dies ist kein JSON-Objekt</translation>
+    </message>
+    <message>
+        <source>this line is not written in UTF-8</source>
+        <translation>diese Zeile ist nicht in UTF-8 geschrieben</translation>
+    </message>
+    <message>
+        <source>this line has more than %1 dots</source>
+        <translation>diese Zeile hat mehr als %1 Punkte</translation>
+    </message>
+    <message>
+        <source>this is no TOML: a letter that may stand in a text stands elsewhere</source>
+        <translation>dies ist kein TOML: ein Zeichen, das nur in einem Text stehen darf, steht anderswo</translation>
+    </message>
+    <message>
+        <source>this is no TOML: %1</source>
+        <translation>dies ist kein TOML: %1</translation>
+    </message>
+</context>
+<context>
+    <name>RVFileEditor</name>
+    <message>
+        <source>there is no line %1 with a column %2</source>
+        <translation>es gibt keine Zeile %1 mit einer Spalte %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written in %2</source>
+        <translation>&quot;%1&quot; lässt sich in %2 nicht schreiben</translation>
+    </message>
+    <message>
+        <source>cannot read on: %1</source>
+        <translation>kann nicht weiterlesen: %1</translation>
+    </message>
+    <message>
+        <source>cannot write: %1</source>
+        <translation>kann nicht schreiben: %1</translation>
+    </message>
+    <message>
+        <source>the file cannot be changed in its encoding; save it in UTF-8</source>
+        <translation>die Datei lässt sich in ihrer Kodierung nicht ändern; bitte in UTF-8 speichern</translation>
+    </message>
+    <message>
+        <source>the changes would break the file in line %1, column %2: %3</source>
+        <translation>die Änderungen würden die Datei in Zeile %1, Spalte %2 beschädigen: %3</translation>
+    </message>
+    <message>
+        <source>cannot open the file: %1</source>
+        <translation>die Datei lässt sich nicht öffnen: %1</translation>
+    </message>
+    <message>
+        <source>the file was changed meanwhile; check it again</source>
+        <translation>die Datei wurde inzwischen geändert; bitte erneut prüfen</translation>
+    </message>
+    <message>
+        <source>this is no ordinary file</source>
+        <translation>dies ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>the file is write-protected</source>
+        <translation>die Datei ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>cannot write a new file beside the old one: %1</source>
+        <translation>neben der alten Datei lässt sich keine neue schreiben: %1</translation>
+    </message>
+</context>
+<context>
     <name>RVFindingText</name>
-    <message>
-        <source>the barcode has no image</source>
-        <translation>der Barcode hat kein Bild</translation>
-    </message>
-    <message>
-        <source>there is no page %1</source>
-        <translation>es gibt keine Seite %1</translation>
-    </message>
     <message>
         <source>there is no page %1; the product has at most %2</source>
         <translation>es gibt keine Seite %1; das Produkt hat höchstens %2</translation>
-    </message>
-    <message>
-        <source>the barcode has no width or no height</source>
-        <translation>der Barcode hat keine Breite oder keine Höhe</translation>
-    </message>
-    <message>
-        <source>the barcode begins left of the page</source>
-        <translation>der Barcode beginnt links von der Seite</translation>
-    </message>
-    <message>
-        <source>the barcode begins above the page</source>
-        <translation>der Barcode beginnt über der Seite</translation>
-    </message>
-    <message>
-        <source>the barcode ends %1 mm from the left and %2 mm from the top, where there is no page</source>
-        <translation>der Barcode endet %1 mm von links und %2 mm von oben, wo keine Seite mehr ist</translation>
-    </message>
-    <message>
-        <source>the barcode overlaps the one in line %1</source>
-        <translation>der Barcode überlappt den in Zeile %1</translation>
     </message>
     <message>
         <source>A file without a product is no catalogue: nothing of it can be ordered.</source>
@@ -354,28 +655,8 @@
         <translation>Ein Zusatz, dessen Preisklasse zu keiner bekannten Gruppe gehört, wird nicht gezählt, wo Zusätze berechnet werden.</translation>
     </message>
     <message>
-        <source>the type %1 is already that of the product in line %2</source>
-        <translation>der Typ %1 gehört schon dem Produkt in Zeile %2</translation>
-    </message>
-    <message>
-        <source>the type %1, that is %2, is already that of the product in line %3</source>
-        <translation>der Typ %1, also %2, gehört schon dem Produkt in Zeile %3</translation>
-    </message>
-    <message>
-        <source>the article id %1 is already that of the product in line %2</source>
-        <translation>die Artikelnummer %1 gehört schon dem Produkt in Zeile %2</translation>
-    </message>
-    <message>
-        <source>the product has no article id</source>
-        <translation>das Produkt hat keine Artikelnummer</translation>
-    </message>
-    <message>
         <source>the article id %1 is no whole number above 0</source>
         <translation>die Artikelnummer %1 ist keine ganze Zahl über 0</translation>
-    </message>
-    <message>
-        <source>the product has no type</source>
-        <translation>das Produkt hat keinen Typ</translation>
     </message>
     <message>
         <source>the shipping group %1 is none</source>
@@ -386,112 +667,16 @@
         <translation>%1 ist ein Zweitname in %2; das Hauptschlüsselwort ist %3</translation>
     </message>
     <message>
-        <source>there is an empty keyword in %1</source>
-        <translation>in %1 ist ein leeres Schlüsselwort</translation>
-    </message>
-    <message>
         <source>%1 is no keyword of %2</source>
         <translation>%1 ist kein Schlüsselwort von %2</translation>
-    </message>
-    <message>
-        <source>%1 is no keyword of %2; did you mean %3?</source>
-        <translation>%1 ist kein Schlüsselwort von %2; ist %3 gemeint?</translation>
-    </message>
-    <message>
-        <source>%1 is no keyword of %2; did you mean %3, that is %4?</source>
-        <translation>%1 ist kein Schlüsselwort von %2; ist %3 gemeint, also %4?</translation>
-    </message>
-    <message>
-        <source>the option has no value</source>
-        <translation>die Option hat keinen Wert</translation>
-    </message>
-    <message>
-        <source>the option has no key and no value</source>
-        <translation>die Option hat weder Schlüssel noch Wert</translation>
-    </message>
-    <message>
-        <source>the option has no key</source>
-        <translation>die Option hat keinen Schlüssel</translation>
-    </message>
-    <message>
-        <source>the keys %1 and the values %2 are not equally many</source>
-        <translation>die Schlüssel %1 und die Werte %2 sind nicht gleich viele</translation>
     </message>
     <message>
         <source>%1 is no colour</source>
         <translation>%1 ist keine Farbe</translation>
     </message>
     <message>
-        <source>the option %1 of %2 is already there in line %3</source>
-        <translation>die Option %1 von %2 steht schon in Zeile %3</translation>
-    </message>
-    <message>
-        <source>%1 is preselected for %2, but %3 in line %4 is so already</source>
-        <translation>%1 ist für %2 vorgegeben, aber %3 in Zeile %4 ist es schon</translation>
-    </message>
-    <message>
-        <source>no option of %1 is preselected, so an order comes without any</source>
-        <translation>keine Option von %1 ist vorgegeben, also kommt eine Bestellung ohne</translation>
-    </message>
-    <message>
-        <source>no option of %1 is preselected, so the first is taken</source>
-        <translation>keine Option von %1 ist vorgegeben, also gilt die erste</translation>
-    </message>
-    <message>
-        <source>there are %1 pieces</source>
-        <translation>es sind %1 Stück</translation>
-    </message>
-    <message>
-        <source>the lowest page count %1 is above the highest, %2</source>
-        <translation>die kleinste Seitenzahl %1 liegt über der größten, %2</translation>
-    </message>
-    <message>
-        <source>there is no step (page_step) that leads from %1 to %2 pages</source>
-        <translation>es gibt keinen Schritt (page_step), der von %1 zu %2 Seiten führt</translation>
-    </message>
-    <message>
-        <source>there are no valid page counts (%1)</source>
-        <translation>es gibt keine gültigen Seitenzahlen (%1)</translation>
-    </message>
-    <message>
-        <source>steps of %1 from %2 pages end at %3 and never meet %4</source>
-        <translation>Schritte von %1 ab %2 Seiten enden bei %3 und treffen nie %4</translation>
-    </message>
-    <message>
-        <source>a product inside a product is not read</source>
-        <translation>ein Produkt in einem Produkt wird nicht gelesen</translation>
-    </message>
-    <message>
-        <source>only the first %1 is read, the one in line %2</source>
-        <translation>nur das erste %1 wird gelesen, das in Zeile %2</translation>
-    </message>
-    <message>
         <source>the price class %1 belongs to no known group</source>
         <translation>die Preisklasse %1 gehört zu keiner bekannten Gruppe</translation>
-    </message>
-    <message>
-        <source>the product is bound (%1), but has no spine in a composition</source>
-        <translation>das Produkt ist gebunden (%1), hat aber keinen Rücken (spine in composition)</translation>
-    </message>
-    <message>
-        <source>the widths of the spine are too large for a number</source>
-        <translation>die Breiten des Rückens sind zu groß für eine Zahl</translation>
-    </message>
-    <message>
-        <source>the product is bound, but its spine has no width</source>
-        <translation>das Produkt ist gebunden, aber sein Rücken hat keine Breite</translation>
-    </message>
-    <message>
-        <source>the spine shrinks, so that at %1 pages it is too narrow for the smallest font</source>
-        <translation>der Rücken schrumpft und ist bei %1 Seiten zu schmal für die kleinste Schrift</translation>
-    </message>
-    <message>
-        <source>%1 is below 0</source>
-        <translation>%1 ist kleiner als 0</translation>
-    </message>
-    <message>
-        <source>%1 are below 0</source>
-        <translation>%1 sind kleiner als 0</translation>
     </message>
     <message>
         <source>%1 is %2, which is no whole number</source>
@@ -506,8 +691,588 @@
         <translation>%1 ist %2, das ist weder wahr noch falsch</translation>
     </message>
     <message>
-        <source>there is no unit %1; there are mm, cm, inch, in, pt, point and 0.1mm</source>
-        <translation>es gibt keine Einheit %1; es gibt mm, cm, inch, in, pt, point und 0.1mm</translation>
+        <source>the highest page count</source>
+        <translation>die größte Seitenzahl</translation>
+    </message>
+    <message>
+        <source>the barcode has no image; name a file, or leave out the attribute</source>
+        <translation>der Barcode hat kein Bild; bitte eine Datei nennen oder das Attribut weglassen</translation>
+    </message>
+    <message>
+        <source>the barcode has no %1, so it is 1 unit</source>
+        <translation>der Barcode hat kein %1, also gilt dafür 1 Einheit</translation>
+    </message>
+    <message>
+        <source> and no </source>
+        <translation> und kein </translation>
+    </message>
+    <message>
+        <source>the barcode has no page number (pageNr), so it stands on page 0</source>
+        <translation>der Barcode hat keine Seitennummer (pageNr), also steht er auf Seite 0</translation>
+    </message>
+    <message>
+        <source>there is no page %1; write 0 or more</source>
+        <translation>es gibt keine Seite %1; bitte 0 oder mehr angeben</translation>
+    </message>
+    <message>
+        <source>the barcode has no width or no height; write both above 0</source>
+        <translation>der Barcode hat keine Breite oder keine Höhe; bitte beide über 0 angeben</translation>
+    </message>
+    <message>
+        <source>the barcode begins left of the page; write a position_x of 0 or more</source>
+        <translation>der Barcode beginnt links von der Seite; bitte für position_x 0 oder mehr angeben</translation>
+    </message>
+    <message>
+        <source>the barcode begins above the page; write a position_y of at least its height</source>
+        <translation>der Barcode beginnt über der Seite; bitte für position_y mindestens seine Höhe angeben</translation>
+    </message>
+    <message>
+        <source>the barcode ends %1 mm from the left and %2 mm from the top, where there is no page; move it, or make it smaller</source>
+        <translation>der Barcode endet %1 mm von links und %2 mm von oben, wo keine Seite mehr ist; bitte verschieben oder verkleinern</translation>
+    </message>
+    <message>
+        <source>the barcode ends %1 mm from the left and %2 mm from the top, but no page of this size class and orientation is so large</source>
+        <translation>der Barcode endet %1 mm von links und %2 mm von oben, aber keine Seite dieser Größenklasse und Ausrichtung ist so groß</translation>
+    </message>
+    <message>
+        <source>the barcode ends %1 mm from the left and %2 mm from the top, but the page has %3 by %4 mm</source>
+        <translation>der Barcode endet %1 mm von links und %2 mm von oben, aber die Seite ist %3 mal %4 mm groß</translation>
+    </message>
+    <message>
+        <source>the barcode overlaps the one in line %1; move one of them</source>
+        <translation>der Barcode überlappt den in Zeile %1; bitte einen davon verschieben</translation>
+    </message>
+    <message>
+        <source>the other barcode</source>
+        <translation>der andere Barcode</translation>
+    </message>
+    <message>
+        <source>An element whose name is not exactly a known one is passed over with everything in it.</source>
+        <translation>Ein Element, dessen Name nicht genau ein bekannter ist, wird mit allem darin übergangen.</translation>
+    </message>
+    <message>
+        <source>An element is read only where it belongs; anywhere else it is passed over with everything in it.</source>
+        <translation>Ein Element wird nur dort gelesen, wo es hingehört; überall sonst wird es mit allem darin übergangen.</translation>
+    </message>
+    <message>
+        <source>Names are compared with their prefixes, so an element with one is passed over with everything in it.</source>
+        <translation>Namen werden mitsamt ihrem Präfix verglichen; ein Element, das eines hat, wird deshalb mit allem darin übergangen.</translation>
+    </message>
+    <message>
+        <source>An attribute whose name is not exactly a known one is passed over, and the default stands in its place.</source>
+        <translation>Ein Attribut, dessen Name nicht genau ein bekannter ist, wird übergangen; an seiner Stelle gilt der Standardwert.</translation>
+    </message>
+    <message>
+        <source>An attribute is read only of the elements that it belongs to; of any other it is passed over, and the default stands in its place.</source>
+        <translation>Ein Attribut wird nur bei den Elementen gelesen, zu denen es gehört; bei jedem anderen wird es übergangen, und an seiner Stelle gilt der Standardwert.</translation>
+    </message>
+    <message>
+        <source>Without a highest page count the lowest is the only one, and no step leads anywhere.</source>
+        <translation>Ohne größte Seitenzahl ist die kleinste die einzige, und kein Schritt führt weiter.</translation>
+    </message>
+    <message>
+        <source>Nobody prints a product in more than a thousand page counts, so one of the numbers is probably mistyped.</source>
+        <translation>Niemand druckt ein Produkt in mehr als tausend Seitenzahlen; eine der Zahlen ist also wahrscheinlich vertippt.</translation>
+    </message>
+    <message>
+        <source>Without a base width the block of pages has no thickness at the lowest page count, so the cover is made too narrow.</source>
+        <translation>Ohne Grundbreite hat der Buchblock bei der kleinsten Seitenzahl keine Dicke; der Umschlag wird zu schmal.</translation>
+    </message>
+    <message>
+        <source>A block width counts only with the number of packages that make a block; without it the spine never grows.</source>
+        <translation>Eine Blockbreite zählt nur zusammen mit der Zahl der Pakete, die einen Block ergeben; ohne diese wächst der Rücken nie.</translation>
+    </message>
+    <message>
+        <source>Industrial perfect binders take blocks of at most about 80 mm, so a wider spine is probably given in a wrong unit.</source>
+        <translation>Industrielle Klebebinder verarbeiten Buchblöcke bis etwa 80 mm; ein breiterer Rücken ist also wahrscheinlich in einer falschen Einheit angegeben.</translation>
+    </message>
+    <message>
+        <source>In orders commas separate options and colons keys from values, so an option with one of them is read as something else; only semicolons join keys, and values, that are chosen together.</source>
+        <translation>In Bestellungen trennen Kommas die Optionen und Doppelpunkte die Schlüssel von den Werten; eine Option, die eines dieser Zeichen enthält, wird deshalb als etwas anderes gelesen. Schlüssel, die zusammen gewählt werden, und ihre Werte verbindet nur das Semikolon.</translation>
+    </message>
+    <message>
+        <source>Keys and values are compared letter by letter, and a blank is a letter that nobody sees.</source>
+        <translation>Schlüssel und Werte werden Zeichen für Zeichen verglichen, und ein Leerzeichen ist ein Zeichen, das niemand sieht.</translation>
+    </message>
+    <message>
+        <source>Letter case counts in keys and values, so two spellings are two options.</source>
+        <translation>In Schlüsseln und Werten zählt die Groß- und Kleinschreibung; zwei Schreibweisen sind deshalb zwei Optionen.</translation>
+    </message>
+    <message>
+        <source>The customer reads one name for each key, so of several names all but one are lost.</source>
+        <translation>Der Kunde liest zu jedem Schlüssel einen Namen; von mehreren Namen gehen alle bis auf einen verloren.</translation>
+    </message>
+    <message>
+        <source>A barcode without width or height is printed with a single unit, which no scanner can read.</source>
+        <translation>Ein Barcode ohne Breite oder Höhe wird dort mit einer einzigen Einheit gedruckt; das kann kein Scanner lesen.</translation>
+    </message>
+    <message>
+        <source>A barcode without a page number stands on page 0.</source>
+        <translation>Ein Barcode ohne Seitennummer steht auf Seite 0.</translation>
+    </message>
+    <message>
+        <source>A barcode that stands beyond every page of the size class and orientation is cut off and cannot be read.</source>
+        <translation>Ein Barcode, der über jede Seite der Größenklasse und Ausrichtung hinausragt, wird abgeschnitten und ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>A comment that silences nothing today silences the next mistake instead.</source>
+        <translation>Ein Kommentar, der heute nichts unterdrückt, unterdrückt stattdessen den nächsten Fehler.</translation>
+    </message>
+    <message>
+        <source>A comment that is misspelt silences nothing.</source>
+        <translation>Ein Kommentar, der falsch geschrieben ist, unterdrückt nichts.</translation>
+    </message>
+    <message>
+        <source>%1 is no hexadecimal digit</source>
+        <translation>%1 ist keine hexadezimale Ziffer</translation>
+    </message>
+    <message>
+        <source>it has %1 instead of 6 digits</source>
+        <translation>sie hat %1 statt 6 Ziffern</translation>
+    </message>
+    <message>
+        <source>write an English name, or &quot;#&quot; and 6 hexadecimal digits</source>
+        <translation>bitte einen englischen Namen schreiben, oder &quot;#&quot; und 6 hexadezimale Ziffern</translation>
+    </message>
+    <message>
+        <source>did you mean %1?</source>
+        <translation>ist %1 gemeint?</translation>
+    </message>
+    <message>
+        <source>write %1</source>
+        <translation>bitte %1 schreiben</translation>
+    </message>
+    <message>
+        <source>the type %1 is already that of the product in %2</source>
+        <translation>der Typ %1 gehört schon dem Produkt in %2</translation>
+    </message>
+    <message>
+        <source>the type %1, that is %2, is already that of the product in %3</source>
+        <translation>der Typ %1, also %2, gehört schon dem Produkt in %3</translation>
+    </message>
+    <message>
+        <source>the product that has the type already</source>
+        <translation>das Produkt, das den Typ schon hat</translation>
+    </message>
+    <message>
+        <source>the article id %1 is already that of the product in %2</source>
+        <translation>die Artikelnummer %1 gehört schon dem Produkt in %2</translation>
+    </message>
+    <message>
+        <source>the product that has the article id already</source>
+        <translation>das Produkt, das die Artikelnummer schon hat</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>line %1 of %2</source>
+        <translation>Zeile %1 von %2</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 oder %2</translation>
+    </message>
+    <message>
+        <source>%1; %2</source>
+        <translation>%1; %2</translation>
+    </message>
+    <message>
+        <source>it has %1, which is no plain blank</source>
+        <translation>darin steht %1, das ist kein gewöhnliches Leerzeichen</translation>
+    </message>
+    <message>
+        <source>it has %1, which is invisible</source>
+        <translation>darin steht %1, das ist unsichtbar</translation>
+    </message>
+    <message>
+        <source>it has %1, which looks like %2</source>
+        <translation>darin steht %1, das sieht aus wie %2</translation>
+    </message>
+    <message>
+        <source>it has %1, which is no Latin letter</source>
+        <translation>darin steht %1, das ist kein lateinischer Buchstabe</translation>
+    </message>
+    <message>
+        <source>the product has no article id; write its number into article_id</source>
+        <translation>das Produkt hat keine Artikelnummer; bitte sie in article_id angeben</translation>
+    </message>
+    <message>
+        <source>the article id %1 is too large</source>
+        <translation>die Artikelnummer %1 ist zu groß</translation>
+    </message>
+    <message>
+        <source>write 1 or more</source>
+        <translation>bitte 1 oder mehr angeben</translation>
+    </message>
+    <message>
+        <source>the product has no type; write the code that projects have for it</source>
+        <translation>das Produkt hat keinen Typ; bitte den Code angeben, den Projekte dafür haben</translation>
+    </message>
+    <message>
+        <source>the shipping group %1 is too large</source>
+        <translation>die Versandgruppe %1 ist zu groß</translation>
+    </message>
+    <message>
+        <source>leave out the attribute</source>
+        <translation>bitte das Attribut weglassen</translation>
+    </message>
+    <message>
+        <source>there are %1</source>
+        <translation>es gibt %1</translation>
+    </message>
+    <message>
+        <source>&quot;rvcatalog keywords %1&quot; lists them</source>
+        <translation>die Schlüsselwörter zeigt &quot;rvcatalog keywords %1&quot;</translation>
+    </message>
+    <message>
+        <source>keywords are separated by commas</source>
+        <translation>Schlüsselwörter werden durch Kommas getrennt</translation>
+    </message>
+    <message>
+        <source>keywords are separated by commas: %1</source>
+        <translation>Schlüsselwörter werden durch Kommas getrennt: %1</translation>
+    </message>
+    <message>
+        <source>the keyword of that name is %1</source>
+        <translation>das Schlüsselwort mit diesem Namen ist %1</translation>
+    </message>
+    <message>
+        <source>did you mean %1, that is %2?</source>
+        <translation>ist %1 gemeint, also %2?</translation>
+    </message>
+    <message>
+        <source>there is an empty keyword in %1; write one, or leave out the attribute</source>
+        <translation>in %1 ist ein leeres Schlüsselwort; bitte eines angeben oder das Attribut weglassen</translation>
+    </message>
+    <message>
+        <source>there is an empty keyword in %1; write one, or take out the comma</source>
+        <translation>in %1 ist ein leeres Schlüsselwort; bitte eines angeben oder das Komma entfernen</translation>
+    </message>
+    <message>
+        <source> or </source>
+        <translation> oder </translation>
+    </message>
+    <message>
+        <source>the attribute %1 is not read; did you mean %2?</source>
+        <translation>das Attribut %1 wird nicht gelesen; ist %2 gemeint?</translation>
+    </message>
+    <message>
+        <source>the attribute %1 is not read; did you mean %2 or %3?</source>
+        <translation>das Attribut %1 wird nicht gelesen; ist %2 oder %3 gemeint?</translation>
+    </message>
+    <message>
+        <source>the attribute %1 is not read in %2; it belongs to %3</source>
+        <translation>das Attribut %1 wird in %2 nicht gelesen; es gehört zu %3</translation>
+    </message>
+    <message>
+        <source>the element %1 is not read in %2</source>
+        <translation>das Element %1 wird in %2 nicht gelesen</translation>
+    </message>
+    <message>
+        <source>the element %1 is not read in %2; it belongs into %3</source>
+        <translation>das Element %1 wird in %2 nicht gelesen; es gehört in %3</translation>
+    </message>
+    <message>
+        <source>%1 (with %2)</source>
+        <translation>%1 (mit %2)</translation>
+    </message>
+    <message>
+        <source>the element %1 is not read; did you mean %2?</source>
+        <translation>das Element %1 wird nicht gelesen; ist %2 gemeint?</translation>
+    </message>
+    <message>
+        <source>the element %1 is not read because of its prefix; without it, it is %2</source>
+        <translation>das Element %1 wird wegen seines Präfixes nicht gelesen; ohne das Präfix ist es %2</translation>
+    </message>
+    <message>
+        <source>write a number, or leave out the attribute</source>
+        <translation>bitte eine Zahl angeben oder das Attribut weglassen</translation>
+    </message>
+    <message>
+        <source>write nothing but digits</source>
+        <translation>bitte nur Ziffern schreiben</translation>
+    </message>
+    <message>
+        <source>write digits, and a point before decimals</source>
+        <translation>bitte Ziffern schreiben und vor den Nachkommastellen einen Punkt</translation>
+    </message>
+    <message>
+        <source>write a larger number</source>
+        <translation>bitte eine größere Zahl angeben</translation>
+    </message>
+    <message>
+        <source>write a smaller number</source>
+        <translation>bitte eine kleinere Zahl angeben</translation>
+    </message>
+    <message>
+        <source>write at least %1</source>
+        <translation>bitte mindestens %1 angeben</translation>
+    </message>
+    <message>
+        <source>write at most %1</source>
+        <translation>bitte höchstens %1 angeben</translation>
+    </message>
+    <message>
+        <source>write %1, or %2 where the comma separates thousands</source>
+        <translation>bitte %1 schreiben, oder %2, wenn das Komma Tausender trennt</translation>
+    </message>
+    <message>
+        <source>thousands are not separated: write %1</source>
+        <translation>Tausender werden nicht getrennt: bitte %1 schreiben</translation>
+    </message>
+    <message>
+        <source>decimals have a point: write %1</source>
+        <translation>vor Nachkommastellen steht ein Punkt: bitte %1 schreiben</translation>
+    </message>
+    <message>
+        <source>the unit belongs to &quot;units&quot;: write %1</source>
+        <translation>die Einheit gehört in &quot;units&quot;: bitte %1 schreiben</translation>
+    </message>
+    <message>
+        <source>the option has no value; write one, or take out the form</source>
+        <translation>die Option hat keinen Wert; bitte einen angeben oder das Element form entfernen</translation>
+    </message>
+    <message>
+        <source>the option has no key and no value; write both, or take out the form</source>
+        <translation>die Option hat weder Schlüssel noch Wert; bitte beide angeben oder das Element form entfernen</translation>
+    </message>
+    <message>
+        <source>the option has no key; write one, or take out the form</source>
+        <translation>die Option hat keinen Schlüssel; bitte einen angeben oder das Element form entfernen</translation>
+    </message>
+    <message>
+        <source>the keys %1 and the values %2 are not equally many; write one value for each key</source>
+        <translation>die Schlüssel %1 und die Werte %2 sind nicht gleich viele; bitte zu jedem Schlüssel einen Wert angeben</translation>
+    </message>
+    <message>
+        <source>the keys</source>
+        <translation>die Schlüssel</translation>
+    </message>
+    <message>
+        <source>the option %1 of %2 is already there in line %3; take out one</source>
+        <translation>die Option %1 von %2 steht schon in Zeile %3; bitte eine davon entfernen</translation>
+    </message>
+    <message>
+        <source>the first of them</source>
+        <translation>das erste Vorkommen</translation>
+    </message>
+    <message>
+        <source>%1 is preselected for %2, but %3 in line %4 is so already; preselect one</source>
+        <translation>%1 ist für %2 vorgegeben, aber %3 in Zeile %4 ist es schon; bitte nur eine Option vorgeben</translation>
+    </message>
+    <message>
+        <source>the first default</source>
+        <translation>die erste Vorgabe</translation>
+    </message>
+    <message>
+        <source>no option of %1 is preselected, so an order comes without any; preselect one</source>
+        <translation>keine Option von %1 ist vorgegeben, also kommt eine Bestellung ohne; bitte eine vorgeben</translation>
+    </message>
+    <message>
+        <source>no option of %1 is preselected, so the first is taken; preselect one</source>
+        <translation>keine Option von %1 ist vorgegeben, also gilt die erste; bitte eine vorgeben</translation>
+    </message>
+    <message>
+        <source>the %1 %2 has a separator of orders in it; only semicolons join several</source>
+        <translation>%1 %2 enthält ein Trennzeichen der Bestellungen; mehrere verbindet nur das Semikolon</translation>
+    </message>
+    <message>
+        <source>the %1 %2 has a blank in it</source>
+        <translation>%1 %2 enthält ein Leerzeichen</translation>
+    </message>
+    <message>
+        <source>the %1 %2 has a blank around it</source>
+        <translation>%1 %2 hat am Anfang oder Ende ein Leerzeichen</translation>
+    </message>
+    <message>
+        <source>the %1 %2 differs from %3 in line %4 in letter case only</source>
+        <translation>%1 %2 unterscheidet sich von %3 in Zeile %4 nur in der Groß- und Kleinschreibung</translation>
+    </message>
+    <message>
+        <source>the other spelling</source>
+        <translation>die andere Schreibweise</translation>
+    </message>
+    <message>
+        <source>the key %1 is named %2 here, but %3 in line %4</source>
+        <translation>der Schlüssel %1 heißt hier %2, in Zeile %4 aber %3</translation>
+    </message>
+    <message>
+        <source>the other name</source>
+        <translation>der andere Name</translation>
+    </message>
+    <message>
+        <source>the lowest page count %1 is above the highest, %2; raise max_pages, or lower pages</source>
+        <translation>die kleinste Seitenzahl %1 liegt über der größten, %2; bitte max_pages erhöhen oder pages verringern</translation>
+    </message>
+    <message>
+        <source>there is no step (page_step) that leads from %1 to %2 pages; write how many pages one package has</source>
+        <translation>es gibt keinen Schritt (page_step), der von %1 zu %2 Seiten führt; bitte angeben, wie viele Seiten ein Paket hat</translation>
+    </message>
+    <message>
+        <source>steps of %1 from %2 pages never meet %3</source>
+        <translation>Schritte von %1 ab %2 Seiten treffen nie %3</translation>
+    </message>
+    <message>
+        <source>the next count is %1</source>
+        <translation>die nächstliegende Seitenzahl ist %1</translation>
+    </message>
+    <message>
+        <source>the next counts are %1 and %2</source>
+        <translation>die nächstliegenden Seitenzahlen sind %1 und %2</translation>
+    </message>
+    <message>
+        <source>there are %1 pieces; write 1 or more</source>
+        <translation>es sind %1 Stück; bitte 1 oder mehr angeben</translation>
+    </message>
+    <message>
+        <source>the lowest page count</source>
+        <translation>die kleinste Seitenzahl</translation>
+    </message>
+    <message>
+        <source>steps of %1 pages are below 0; write how many pages one package has</source>
+        <translation>Schritte von %1 Seiten sind kleiner als 0; bitte angeben, wie viele Seiten ein Paket hat</translation>
+    </message>
+    <message>
+        <source>the lowest page count is %1; write 1 or more</source>
+        <translation>die kleinste Seitenzahl ist %1; bitte 1 oder mehr angeben</translation>
+    </message>
+    <message>
+        <source>there is a step (page_step), but no highest page count (max_pages), so %1 pages are the only count</source>
+        <translation>es gibt einen Schritt (page_step), aber keine größte Seitenzahl (max_pages), also ist %1 die einzige Seitenzahl</translation>
+    </message>
+    <message>
+        <source>the step</source>
+        <translation>der Schritt</translation>
+    </message>
+    <message>
+        <source>there are %1 page counts from %2 to %3</source>
+        <translation>es gibt %1 Seitenzahlen von %2 bis %3</translation>
+    </message>
+    <message>
+        <source>a product inside a product is not read; put it behind the outer one</source>
+        <translation>ein Produkt in einem Produkt wird nicht gelesen; bitte hinter das äußere stellen</translation>
+    </message>
+    <message>
+        <source>the outer product</source>
+        <translation>das äußere Produkt</translation>
+    </message>
+    <message>
+        <source>only the first %1 is read, the one in line %2; make them one</source>
+        <translation>nur das erste %1 wird gelesen, das in Zeile %2; bitte zu einem zusammenfassen</translation>
+    </message>
+    <message>
+        <source>write one of a group, or one that begins with 0 for what is not billed</source>
+        <translation>bitte eine aus einer Gruppe angeben, oder für das, was nicht berechnet wird, eine, die mit 0 beginnt</translation>
+    </message>
+    <message>
+        <source>Broken:</source>
+        <translation>Fehlerhaft:</translation>
+    </message>
+    <message>
+        <source>Mended:</source>
+        <translation>Berichtigt:</translation>
+    </message>
+    <message>
+        <source>To silence it for an element and everything in it, write in front of that element:</source>
+        <translation>Um die Regel für ein Element und alles darin zu unterdrücken, vor dieses Element schreiben:</translation>
+    </message>
+    <message>
+        <source>To leave it out once:</source>
+        <translation>Um die Regel einmal auszulassen:</translation>
+    </message>
+    <message>
+        <source>To leave it out always, write in rvcatalog.toml:</source>
+        <translation>Um die Regel immer auszulassen, in rvcatalog.toml schreiben:</translation>
+    </message>
+    <message>
+        <source>the product is bound (%1), but has no spine in a composition; add one with its widths</source>
+        <translation>das Produkt ist gebunden (%1), hat aber keinen Rücken (spine in composition); bitte einen mit seinen Breiten ergänzen</translation>
+    </message>
+    <message>
+        <source>the binding</source>
+        <translation>die Bindung</translation>
+    </message>
+    <message>
+        <source>the widths of the spine are too large for a number; write smaller ones</source>
+        <translation>die Breiten des Rückens sind zu groß für eine Zahl; bitte kleinere angeben</translation>
+    </message>
+    <message>
+        <source>the product is bound, but its spine has no width; write a base_width</source>
+        <translation>das Produkt ist gebunden, aber sein Rücken hat keine Breite; bitte base_width angeben</translation>
+    </message>
+    <message>
+        <source>the spine has other widths, but no base_width</source>
+        <translation>der Rücken hat andere Breiten, aber kein base_width</translation>
+    </message>
+    <message>
+        <source>the spine has a block_width, but no packages_per_block, so it never grows</source>
+        <translation>der Rücken hat ein block_width, aber kein packages_per_block, also wächst er nie</translation>
+    </message>
+    <message>
+        <source>the spine is %1 mm wide at %2 pages, but bookbinders take at most %3 mm</source>
+        <translation>der Rücken ist %1 mm breit bei %2 Seiten, aber Buchbinder verarbeiten höchstens %3 mm</translation>
+    </message>
+    <message>
+        <source>the spine shrinks, so that at %1 pages it is too narrow for the smallest font; write 0 or more</source>
+        <translation>der Rücken schrumpft und ist bei %1 Seiten zu schmal für die kleinste Schrift; bitte 0 oder mehr angeben</translation>
+    </message>
+    <message>
+        <source>%1 is below 0; write 0 or more</source>
+        <translation>%1 ist kleiner als 0; bitte 0 oder mehr angeben</translation>
+    </message>
+    <message>
+        <source>%1 are below 0; write 0 or more</source>
+        <translation>%1 sind kleiner als 0; bitte 0 oder mehr angeben</translation>
+    </message>
+    <message>
+        <source>below 0</source>
+        <translation>kleiner als 0</translation>
+    </message>
+    <message>
+        <source>the element %1 is not read outside of a product</source>
+        <translation>das Element %1 wird außerhalb eines Produkts nicht gelesen</translation>
+    </message>
+    <message>
+        <source>this comment is not understood; one that silences rules reads %1</source>
+        <translation>dieser Kommentar ist nicht verständlich; einer, der Regeln unterdrückt, lautet %1</translation>
+    </message>
+    <message>
+        <source>this comment names no rule to silence</source>
+        <translation>dieser Kommentar nennt keine Regel, die er unterdrücken soll</translation>
+    </message>
+    <message>
+        <source>this comment silences no finding of %1</source>
+        <translation>dieser Kommentar unterdrückt keinen Befund von %1</translation>
+    </message>
+    <message>
+        <source>this comment silences no finding of %1, as no element follows it</source>
+        <translation>dieser Kommentar unterdrückt keinen Befund von %1, denn ihm folgt kein Element</translation>
+    </message>
+    <message>
+        <source>there is no rule %1</source>
+        <translation>es gibt keine Regel %1</translation>
+    </message>
+    <message>
+        <source>there is no rule %1; did you mean %2?</source>
+        <translation>es gibt keine Regel %1; ist %2 gemeint?</translation>
+    </message>
+    <message>
+        <source>%1 is %2, which is too large</source>
+        <translation>%1 ist %2, das ist zu groß</translation>
+    </message>
+    <message>
+        <source>%1 is %2, which is too small</source>
+        <translation>%1 ist %2, das ist zu klein</translation>
+    </message>
+    <message>
+        <source>there is no unit %1</source>
+        <translation>es gibt keine Einheit %1</translation>
     </message>
 </context>
 </TS>

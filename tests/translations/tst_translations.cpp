@@ -103,7 +103,8 @@ void tst_translations::germanCatalogues()
     const QList<RVCatalogueFinding> findings = reader.next().findings();
     QVERIFY(reader.atEnd());
     QCOMPARE(findings.size(), 1);
-    QCOMPARE(findings.first().text(), u"das Produkt hat keinen Typ"_s);
+    QCOMPARE(findings.first().text(),
+             u"das Produkt hat keinen Typ; bitte den Code angeben, den Projekte dafür haben"_s);
     QCOMPARE(findings.first().rule().reason(),
              u"Projekte finden ihr Produkt über den Typ; eines ohne Typ lässt sich nicht bestellen."_s);
     QCOMPARE(reader.errorString(),
