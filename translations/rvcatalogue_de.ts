@@ -338,10 +338,6 @@
         <translation>Name</translation>
     </message>
     <message>
-        <source>Article</source>
-        <translation>Artikel</translation>
-    </message>
-    <message>
         <source>Families</source>
         <translation>Familien</translation>
     </message>
@@ -360,6 +356,10 @@
     <message>
         <source>Photo box</source>
         <translation>Fotobox</translation>
+    </message>
+    <message>
+        <source>Article id</source>
+        <translation>Artikelnummer</translation>
     </message>
 </context>
 <context>
@@ -473,7 +473,7 @@
         <translation>diese Zeile hat mehr als %1 Punkte</translation>
     </message>
     <message>
-        <source>this is no TOML: a letter that may stand in a text stands elsewhere</source>
+        <source>this is no TOML: a letter that may stand only in a text stands elsewhere</source>
         <translation>dies ist kein TOML: ein Zeichen, das nur in einem Text stehen darf, steht anderswo</translation>
     </message>
     <message>
@@ -699,14 +699,6 @@
         <translation>der Barcode hat kein Bild; bitte eine Datei nennen oder das Attribut weglassen</translation>
     </message>
     <message>
-        <source>the barcode has no %1, so it is 1 unit</source>
-        <translation>der Barcode hat kein %1, also gilt dafür 1 Einheit</translation>
-    </message>
-    <message>
-        <source> and no </source>
-        <translation> und kein </translation>
-    </message>
-    <message>
         <source>the barcode has no page number (pageNr), so it stands on page 0</source>
         <translation>der Barcode hat keine Seitennummer (pageNr), also steht er auf Seite 0</translation>
     </message>
@@ -755,7 +747,7 @@
         <translation>Ein Element wird nur dort gelesen, wo es hingehört; überall sonst wird es mit allem darin übergangen.</translation>
     </message>
     <message>
-        <source>Names are compared with their prefixes, so an element with one is passed over with everything in it.</source>
+        <source>Names are compared including their prefixes, so an element with one is passed over with everything in it.</source>
         <translation>Namen werden mitsamt ihrem Präfix verglichen; ein Element, das eines hat, wird deshalb mit allem darin übergangen.</translation>
     </message>
     <message>
@@ -1119,11 +1111,11 @@
         <translation>Schritte von %1 ab %2 Seiten treffen nie %3</translation>
     </message>
     <message>
-        <source>the next count is %1</source>
+        <source>the nearest count is %1</source>
         <translation>die nächstliegende Seitenzahl ist %1</translation>
     </message>
     <message>
-        <source>the next counts are %1 and %2</source>
+        <source>the nearest counts are %1 and %2</source>
         <translation>die nächstliegenden Seitenzahlen sind %1 und %2</translation>
     </message>
     <message>
@@ -1219,10 +1211,6 @@
         <translation>der Rücken ist %1 mm breit bei %2 Seiten, aber Buchbinder verarbeiten höchstens %3 mm</translation>
     </message>
     <message>
-        <source>the spine shrinks, so that at %1 pages it is too narrow for the smallest font; write 0 or more</source>
-        <translation>der Rücken schrumpft und ist bei %1 Seiten zu schmal für die kleinste Schrift; bitte 0 oder mehr angeben</translation>
-    </message>
-    <message>
         <source>%1 is below 0; write 0 or more</source>
         <translation>%1 ist kleiner als 0; bitte 0 oder mehr angeben</translation>
     </message>
@@ -1273,6 +1261,18 @@
     <message>
         <source>there is no unit %1</source>
         <translation>es gibt keine Einheit %1</translation>
+    </message>
+    <message>
+        <source>the barcode has no %1, so it takes 1 unit</source>
+        <translation>der Barcode hat kein Attribut %1, also gilt 1 Einheit</translation>
+    </message>
+    <message>
+        <source>the barcode has no width and no height, so it takes 1 unit each</source>
+        <translation>der Barcode hat weder width noch height, also gilt jeweils 1 Einheit</translation>
+    </message>
+    <message>
+        <source>the spine shrinks, so that at %1 pages it is too narrow for the smallest font; write a %2 of 0 or more</source>
+        <translation>der Rücken schrumpft, sodass er bei %1 Seiten zu schmal für die kleinste Schrift ist; bitte für %2 den Wert 0 oder mehr angeben</translation>
     </message>
 </context>
 </TS>

@@ -189,8 +189,9 @@ void RVBarcodeCheck::checkMissing(const RVCatalogueElement &element)
     }
     if (!missing.isEmpty())
         myReport->add(RVCatalogueRuleId::BarcodeSizeMissing, element,
-                      RVFindingText::tr("the barcode has no %1, so it is 1 unit")
-                              .arg(missing.join(RVFindingText::tr(" and no "))));
+                      missing.size() == 1
+                              ? RVFindingText::tr("the barcode has no %1, so it takes 1 unit").arg(missing.first())
+                              : RVFindingText::tr("the barcode has no width and no height, so it takes 1 unit each"));
     if (isMissing(page))
         myReport->add(RVCatalogueRuleId::BarcodePageMissing, element, page,
                       RVFindingText::tr("the barcode has no page number (pageNr), so it stands on page 0"));

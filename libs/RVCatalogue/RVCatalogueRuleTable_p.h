@@ -212,7 +212,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::ElementPrefixed, RVCatalogueSeverity::Warning, QLatin1StringView("element-prefixed"),
-      QT_TRANSLATE_NOOP("RVFindingText", "Names are compared with their prefixes, so an element with one is passed over with everything in it."),
+      QT_TRANSLATE_NOOP("RVFindingText", "Names are compared including their prefixes, so an element with one is passed over with everything in it."),
       R"(<products>
   <product type="DUN9" article_id="1001">
     <forms>

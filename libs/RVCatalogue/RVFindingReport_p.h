@@ -14,8 +14,10 @@ class RVCatalogueProduct;
 /// Other places that a finding is about, and what mends it.
 struct RVFindingDetails
 {
+    // NOLINTBEGIN(readability-redundant-member-init): without it the compiler warns of what a list leaves out
     QList<RVRelatedPlace> places = {};
     QList<RVFileEdit> fix = {};
+    // NOLINTEND(readability-redundant-member-init)
 };
 
 /// Collects the findings of all checks of one product. Findings of disabled rules are dropped.

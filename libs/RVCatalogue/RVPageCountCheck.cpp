@@ -42,8 +42,8 @@ QString missText(const RVPageCountOrganization &counts)
                                  .arg(counts.maxPages());
     return rvAdvised(text,
                      above > std::numeric_limits<int>::max()
-                             ? RVFindingText::tr("the next count is %1").arg(below)
-                             : RVFindingText::tr("the next counts are %1 and %2").arg(below).arg(above));
+                             ? RVFindingText::tr("the nearest count is %1").arg(below)
+                             : RVFindingText::tr("the nearest counts are %1 and %2").arg(below).arg(above));
 }
 
 }

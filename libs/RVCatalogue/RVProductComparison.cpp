@@ -72,7 +72,7 @@ QList<RVProductChange> changesOf(const RVCatalogueProduct &before, const RVCatal
         changes.addText("type"_L1, RVChangeText::tr("Type"), { before.type().toString(), after.type().toString() });
     changes.addText("name"_L1, RVChangeText::tr("Name"), { before.name(), after.name() });
     if (before.articleId() != after.articleId())
-        changes.add("article_id"_L1, RVChangeText::tr("Article"),
+        changes.add("article_id"_L1, RVChangeText::tr("Article id"),
                     { compared(before.articleId()), compared(after.articleId()) });
     if (before.families() != after.families())
         changes.add("families"_L1, RVChangeText::tr("Families"),

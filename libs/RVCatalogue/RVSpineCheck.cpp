@@ -165,8 +165,8 @@ void RVSpineCheck::addNegative(const Spine &spine)
     if (shrinksTooFar(spine))
         return myReport->add(RVCatalogueRuleId::SpineFontTooSmall, spine.element, attribute,
                              RVFindingText::tr("the spine shrinks, so that at %1 pages it is too narrow for the "
-                                               "smallest font; write 0 or more")
-                                     .arg(myPageCounts.counts.maxPages()),
+                                               "smallest font; write a %2 of 0 or more")
+                                     .arg(QString::number(myPageCounts.counts.maxPages()), attribute),
                              { { rvPlaceOf(myReport->product().element(), "max_pages"_L1,
                                            RVFindingText::tr("the highest page count")) } });
     const QString text = spine.negative.size() == 1 ? RVFindingText::tr("%1 is below 0; write 0 or more")

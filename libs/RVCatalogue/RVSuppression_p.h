@@ -26,9 +26,9 @@ struct RVSuppression
 
     bool names(RVCatalogueRuleId rule) const { return rules.test(std::size_t(rule)); }
 
-    RVFileRange range = {}; ///< from `<!--` to `-->`
-    RVCatalogueRuleSet rules = {};
-    QStringList unknownNames = {}; ///< of rules that there are not; the first hundred
+    RVFileRange range; ///< from `<!--` to `-->`
+    RVCatalogueRuleSet rules;
+    QStringList unknownNames; ///< of rules that there are not; the first hundred
     /// In a product: the first element behind it, and the element that it stands in, as they stand in the rows of the
     /// product.
     /// @{

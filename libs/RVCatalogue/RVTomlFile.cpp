@@ -113,7 +113,7 @@ RVConfigurationFault RVTomlFile::faultOf(const toml::parse_error &error) const
     const RVFilePosition position = myTree->inFile(positionOf(error.source()));
     const QString description = QString::fromUtf8(error.description().data(), qsizetype(error.description().size()));
     if (description.contains(QLatin1Char(RV_CONFIGURATION_MARK)))
-        return { tr("this is no TOML: a letter that may stand in a text stands elsewhere"), position };
+        return { tr("this is no TOML: a letter that may stand only in a text stands elsewhere"), position };
     return { tr("this is no TOML: %1").arg(description), position };
 }
 

@@ -74,7 +74,7 @@ void tst_RVBarcodeCheck::missing()
 void tst_RVBarcodeCheck::missingTexts()
 {
     QCOMPARE(CheckedCatalogue(barcode("position_y='290'")).texts(),
-             (QStringList { u"the barcode has no width and no height, so it is 1 unit"_s,
+             (QStringList { u"the barcode has no width and no height, so it takes 1 unit each"_s,
                             u"the barcode has no page number (pageNr), so it stands on page 0"_s }));
 }
 

@@ -372,7 +372,7 @@ void tst_RVCheckConfiguration::unreadable_data()
             << u"a.toml"_s << QByteArray("\nforeign = ['\xE4']\n") << u"this line is not written in UTF-8"_s << 2;
     QTest::newRow("letter outside of a text")
             << u"a.toml"_s << QByteArray("\n\xC3\x9F = 1\n")
-            << u"this is no TOML: a letter that may stand in a text stands elsewhere"_s << 2;
+            << u"this is no TOML: a letter that may stand only in a text stands elsewhere"_s << 2;
     QTest::newRow("a hundred lists in one another")
             << u"a.toml"_s << "foreign = " + QByteArray(100, '[') + QByteArray(100, ']') << noToml << 1;
     QTest::newRow("letter for an hour") << u"a.toml"_s << QByteArray("\nforeign = 2026-01-01Tx\n") << noToml << 2;

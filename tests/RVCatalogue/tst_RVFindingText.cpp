@@ -436,19 +436,19 @@ void tst_RVFindingText::pageCounts_data()
     QTest::newRow("meets the highest") << QByteArray("pages='26' max_pages='154' page_step='4'") << QString();
     QTest::newRow("misses the highest")
             << QByteArray("pages='26' max_pages='154' page_step='6'")
-            << u"steps of 6 from 26 pages never meet 154; the next counts are 152 and 158"_s;
+            << u"steps of 6 from 26 pages never meet 154; the nearest counts are 152 and 158"_s;
     QTest::newRow("step larger than the difference")
             << QByteArray("pages='26' max_pages='30' page_step='6'")
-            << u"steps of 6 from 26 pages never meet 30; the next counts are 26 and 32"_s;
+            << u"steps of 6 from 26 pages never meet 30; the nearest counts are 26 and 32"_s;
     QTest::newRow("misses the highest of several pieces")
             << QByteArray("pages='2' max_pages='5' page_step='4' pieces='3'")
-            << u"steps of 4 from 6 pages never meet 15; the next counts are 14 and 18"_s;
+            << u"steps of 4 from 6 pages never meet 15; the nearest counts are 14 and 18"_s;
     QTest::newRow("misses the largest number")
             << QByteArray("pages='1' max_pages='2147483646' page_step='2147483646'")
-            << u"steps of 2147483646 from 1 pages never meet 2147483646; the next counts are 1 and 2147483647"_s;
+            << u"steps of 2147483646 from 1 pages never meet 2147483646; the nearest counts are 1 and 2147483647"_s;
     QTest::newRow("no number above")
             << QByteArray("pages='2' max_pages='2147483647' page_step='2147483646'")
-            << u"steps of 2147483646 from 2 pages never meet 2147483647; the next count is 2"_s;
+            << u"steps of 2147483646 from 2 pages never meet 2147483647; the nearest count is 2"_s;
     QTest::newRow("reversed")
             << QByteArray("pages='154' max_pages='26' page_step='4'")
             << u"the lowest page count 154 is above the highest, 26; raise max_pages, or lower pages"_s;

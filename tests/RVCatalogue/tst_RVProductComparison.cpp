@@ -126,8 +126,8 @@ void tst_RVProductComparison::attributeRows()
     row("name", "name='Buch'", "name='Buch '", u"~ Name: \"Buch\" -> \"Buch \""_s,
         u"[\"name\",{},\"Buch\",\"Buch \"]"_s);
     row("no name any more", "name='Buch'", "", u"- Name: \"Buch\""_s, u"[\"name\",{},\"Buch\",null]"_s);
-    row("article", "article_id='1'", "article_id='2'", u"~ Article: 1 -> 2"_s, u"[\"article_id\",{},1,2]"_s);
-    row("article was no number", "article_id='x'", "article_id='2'", u"+ Article: 2"_s,
+    row("article", "article_id='1'", "article_id='2'", u"~ Article id: 1 -> 2"_s, u"[\"article_id\",{},1,2]"_s);
+    row("article was no number", "article_id='x'", "article_id='2'", u"+ Article id: 2"_s,
         u"[\"article_id\",{},null,2]"_s);
     row("article class", "article_class='book'", "article_class='normal_calendar'",
         u"~ Article class: book -> normal_calendar"_s, u"[\"article_class\",{},[\"book\"],[\"normal_calendar\"]]"_s);

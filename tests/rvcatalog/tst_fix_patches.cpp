@@ -112,9 +112,12 @@ void tst_fix_patches::patches()
     QCOMPARE(exitCode(QStringLiteral(GIT), { u"apply"_s, u"-p0"_s }, diff), 0);
     QCOMPARE(read(name), after);
 
-    write(name, before);
-    QCOMPARE(exitCode(QStringLiteral(PATCH), { u"--binary"_s, u"-p0"_s }, diff), 0);
-    QCOMPARE(read(name), after);
+    // patch 2.8 and newer take no line end in a name.
+    if (!name.contains(u'\n')) {
+        write(name, before);
+        QCOMPARE(exitCode(QStringLiteral(PATCH), { u"--binary"_s, u"-p0"_s }, diff), 0);
+        QCOMPARE(read(name), after);
+    }
 
     write(name, before);
     outputOf({ u"--fix"_s, u"--"_s, name });
