@@ -57,7 +57,8 @@ void writeRelated(JsonWriter *json, const QString &fileName, const RVCatalogueFi
     json->endArray();
 }
 
-/// The number and the type of the product, or null where the finding is about the file.
+/// The number and the type of the product, or null where the finding is about the file. A product whose element is
+/// misspelt has no number, but a type.
 void writeProduct(JsonWriter *json, const RVCatalogueFinding &finding)
 {
     json->key("product"_L1);
@@ -66,7 +67,7 @@ void writeProduct(JsonWriter *json, const RVCatalogueFinding &finding)
     else
         json->value(finding.product());
     json->key("product_type"_L1);
-    if (finding.product() < 0)
+    if (finding.product() < 0 && finding.productType().isEmpty())
         json->null();
     else
         json->value(finding.productType());

@@ -135,7 +135,7 @@ void writeFingerprint(JsonWriter *json, const RVCatalogueFinding &finding)
 
 void writeProperties(JsonWriter *json, const RVCatalogueFinding &finding)
 {
-    if (finding.product() < 0)
+    if (finding.product() < 0 && finding.productType().isEmpty())
         return;
     json->key("properties"_L1);
     json->beginObject();

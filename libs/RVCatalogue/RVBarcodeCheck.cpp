@@ -190,11 +190,14 @@ void RVBarcodeCheck::checkMissing(const RVCatalogueElement &element)
     if (!missing.isEmpty())
         myReport->add(RVCatalogueRuleId::BarcodeSizeMissing, element,
                       missing.size() == 1
-                              ? RVFindingText::tr("the barcode has no %1, so it takes 1 unit").arg(missing.first())
-                              : RVFindingText::tr("the barcode has no width and no height, so it takes 1 unit each"));
+                              ? RVFindingText::tr("the barcode has no %1, so it takes 1 unit; write how large it is")
+                                        .arg(missing.first())
+                              : RVFindingText::tr("the barcode has no width and no height, so it takes 1 unit each; "
+                                                  "write how large it is"));
     if (isMissing(page))
         myReport->add(RVCatalogueRuleId::BarcodePageMissing, element, page,
-                      RVFindingText::tr("the barcode has no page number (pageNr), so it stands on page 0"));
+                      RVFindingText::tr("the barcode has no page number (pageNr), so it stands on page 0; "
+                                        "write the page that it is on"));
 }
 
 /// Nothing where a number cannot be read.
@@ -221,10 +224,11 @@ void RVBarcodeCheck::checkPage(const Barcode &barcode)
         myReport->add(RVCatalogueRuleId::BarcodePageImpossible, barcode.element, "pageNr"_L1,
                       RVFindingText::tr("there is no page %1; write 0 or more").arg(barcode.page));
     else if (myPageCounts.areValid && barcode.page > highest)
-        myReport->add(
-                RVCatalogueRuleId::BarcodePageImpossible, barcode.element, "pageNr"_L1,
-                RVFindingText::tr("there is no page %1; the product has at most %2").arg(barcode.page).arg(highest),
-                { { placeOfHighest(myReport->product().element()) } });
+        myReport->add(RVCatalogueRuleId::BarcodePageImpossible, barcode.element, "pageNr"_L1,
+                      RVFindingText::tr("there is no page %1; the product has at most %2, so write that or less")
+                              .arg(barcode.page)
+                              .arg(highest),
+                      { { placeOfHighest(myReport->product().element()) } });
 }
 
 void RVBarcodeCheck::checkArea(const Barcode &barcode, const PageSize &pageSize)
@@ -265,7 +269,7 @@ bool RVBarcodeCheck::checkEdges(const Barcode &barcode, const PageSize &pageSize
                                   .arg(right, bottom));
     myReport->add(RVCatalogueRuleId::BarcodeOffUsualPage, barcode.element, pageSize.wrongSide(area),
                   RVFindingText::tr("the barcode ends %1 mm from the left and %2 mm from the top, but no page of this "
-                                    "size class and orientation is so large")
+                                    "size class and orientation is so large; move it, or make it smaller")
                           .arg(right, bottom));
     return false;
 }
@@ -280,7 +284,8 @@ bool RVBarcodeCheck::checkExactPage(const Barcode &barcode, const PageSize &page
     return addOutside(
             barcode, *side,
             RVFindingText::tr(
-                    "the barcode ends %1 mm from the left and %2 mm from the top, but the page has %3 by %4 mm")
+                    "the barcode ends %1 mm from the left and %2 mm from the top, but the page has %3 by %4 mm; "
+                    "move it, or make it smaller")
                     .arg(millimetres(barcode.area.right() + 1.0), millimetres(barcode.area.bottom() + 1.0),
                          millimetres(page.width() * TENTHS_PER_MILLIMETRE),
                          millimetres(page.height() * TENTHS_PER_MILLIMETRE)));

@@ -17,8 +17,10 @@ constexpr auto ARTICLE_ID = "article_id"_L1;
 QString typeText(const QString &type, const QString &family, const QString &line)
 {
     if (type == family)
-        return RVFindingText::tr("the type %1 is already that of the product in %2").arg(rvQuoted(family), line);
-    return RVFindingText::tr("the type %1, that is %2, is already that of the product in %3")
+        return RVFindingText::tr("the type %1 is already that of the product in %2; write another, or take out one")
+                .arg(rvQuoted(family), line);
+    return RVFindingText::tr(
+                   "the type %1, that is %2, is already that of the product in %3; write another, or take out one")
             .arg(rvQuoted(type), rvQuoted(family), line);
 }
 
@@ -64,10 +66,11 @@ void RVDuplicates::checkArticleId(const RVCatalogueProduct &product, RVFindingRe
     if (first == 0)
         return;
     const RVPackedPlaces::Place place = myPlaces.unpack(first);
-    report->add(RVCatalogueRuleId::ArticleIdDuplicate, element, ARTICLE_ID,
-                RVFindingText::tr("the article id %1 is already that of the product in %2")
-                        .arg(QString::number(id.id()), lineText(place)),
-                { { related(place, RVFindingText::tr("the product that has the article id already")) }, {} });
+    report->add(
+            RVCatalogueRuleId::ArticleIdDuplicate, element, ARTICLE_ID,
+            RVFindingText::tr("the article id %1 is already that of the product in %2; write another, or take out one")
+                    .arg(QString::number(id.id()), lineText(place)),
+            { { related(place, RVFindingText::tr("the product that has the article id already")) }, {} });
 }
 
 quint64 RVDuplicates::placeOf(const RVCatalogueElement &product, QLatin1StringView attribute)

@@ -141,10 +141,11 @@ void RVOptionSpellingCheck::checkLetters(const RVCheckedOption &option, QLatin1S
         return;
     const QString trimmed = text.trimmed();
     const bool isInside = trimmed.isEmpty() || std::any_of(trimmed.begin(), trimmed.end(), isBlank);
-    myReport->add(RVCatalogueRuleId::OptionBlank, option.form, attribute,
-                  isInside ? RVFindingText::tr("the %1 %2 has a blank in it").arg(attribute, rvQuoted(text))
-                           : RVFindingText::tr("the %1 %2 has a blank around it").arg(attribute, rvQuoted(text)),
-                  { {}, isInside ? QList<RVFileEdit>() : rvReplaced(option.form, attribute, trimmed) });
+    myReport->add(
+            RVCatalogueRuleId::OptionBlank, option.form, attribute,
+            isInside ? RVFindingText::tr("the %1 %2 has a blank in it; take it out").arg(attribute, rvQuoted(text))
+                     : RVFindingText::tr("the %1 %2 has a blank around it; take it out").arg(attribute, rvQuoted(text)),
+            { {}, isInside ? QList<RVFileEdit>() : rvReplaced(option.form, attribute, trimmed) });
 }
 
 /// Judges the options whose keys differ in letter case only.
@@ -183,7 +184,8 @@ void RVOptionSpellingCheck::checkValues(Iterator begin, Iterator end)
 void RVOptionSpellingCheck::addLetterCase(const RVCheckedOption &option, const RVCheckedOption &other,
                                           QLatin1StringView attribute)
 {
-    const QString text = RVFindingText::tr("the %1 %2 differs from %3 in line %4 in letter case only");
+    const QString text = RVFindingText::tr(
+            "the %1 %2 differs from %3 in line %4 in letter case only; choose one spelling");
     myReport->add(RVCatalogueRuleId::OptionLetterCase, option.form, attribute,
                   text.arg(attribute, rvQuoted(option.form.attribute(attribute)),
                            rvQuoted(other.form.attribute(attribute)), rvLineOf(other.form)),
@@ -197,7 +199,7 @@ void RVOptionSpellingCheck::checkKeyNames(Iterator begin, Iterator end)
     if (std::none_of(begin, end, isOther))
         return;
     const RVCheckedOption *usual = mostUsual(begin, end, keyNameOf);
-    const QString text = RVFindingText::tr("the key %1 is named %2 here, but %3 in line %4");
+    const QString text = RVFindingText::tr("the key %1 is named %2 here, but %3 in line %4; choose one name");
     for (Iterator it = begin; it != end; ++it) {
         const RVCatalogueElement &form = (*it)->form;
         if (!keyNameOf(*it).isEmpty() && keyNameOf(*it) != keyNameOf(usual))

@@ -93,13 +93,14 @@ bool RVPageCountCheck::checkSteps(const RVCatalogueElement &product, const RVPag
     const qint64 number = numberOfCounts(counts);
     if (counts.minPages() == counts.maxPages() && !product.hasAttribute(maxPages)) {
         const QString text = RVFindingText::tr("there is a step (page_step), but no highest page count (max_pages), so "
-                                               "%1 pages are the only count");
+                                               "%1 pages are the only count; write the highest one");
         myReport->add(RVCatalogueRuleId::MaxPagesMissing, product, maxPages, text.arg(lowest),
                       { { rvPlaceOf(product, "page_step"_L1, RVFindingText::tr("the step")) }, {} });
         return false;
     }
     if (number > MOST_COUNTS) {
-        const QString text = RVFindingText::tr("there are %1 page counts from %2 to %3");
+        const QString text = RVFindingText::tr(
+                "there are %1 page counts from %2 to %3; lower max_pages, or raise page_step");
         myReport->add(RVCatalogueRuleId::PageCountsExcessive, product, maxPages,
                       text.arg(QString::number(number), lowest, highest));
         return false;

@@ -72,6 +72,24 @@ const QStringList &knownTexts()
     return theTexts;
 }
 
+QString withoutBlanks(const QString &text)
+{
+    QString result = text;
+    return result.removeIf([](QChar letter) { return letter.isSpace(); });
+}
+
+/// Blanks do not count where a code is nothing else without them.
+RVNearestTexts nearestCodes(const QString &text, const QStringList &codes)
+{
+    RVNearestTexts result(text);
+    RVNearestTexts closed(withoutBlanks(text));
+    for (const QString &code : codes) {
+        result.offer(code);
+        closed.offer(code);
+    }
+    return result.distance() != 0 && closed.distance() == 0 ? closed : result;
+}
+
 /// The codes that could be meant: the nearest ones, or where none is near, those that begin like that.
 QStringList meantCodes(const QString &text, const QStringList &codes, const RVNearestTexts &nearest)
 {
@@ -106,9 +124,7 @@ void RVPriceClassCheck::addUnknown(const RVCatalogueElement &element, QLatin1Str
     const RVForeignLetters letters(code);
     const QString plain = letters.plain().trimmed();
     const QStringList codes = knownTexts() + ownCodes;
-    RVNearestTexts nearest(plain);
-    for (const QString &each : codes)
-        nearest.offer(each);
+    const RVNearestTexts nearest = nearestCodes(plain, codes);
     const QStringList meant = meantCodes(plain, codes, nearest);
     const QString advice = meant.isEmpty()
             ? RVFindingText::tr("write one of a group, or one that begins with 0 for what is not billed")

@@ -138,10 +138,11 @@ void RVSpineCheck::checkParts(const Spine &spine)
     constexpr auto packages = "packages_per_block"_L1;
     if (spine.hasWidth && !spine.element.hasAttribute(base))
         myReport->add(RVCatalogueRuleId::SpineBaseMissing, spine.element, base,
-                      RVFindingText::tr("the spine has other widths, but no base_width"));
+                      RVFindingText::tr("the spine has other widths, but no base_width; write one, or 0 for none"));
     if (hasValue(spine.element, "block_width"_L1) && !spine.element.hasAttribute(packages))
         myReport->add(RVCatalogueRuleId::SpinePackagesMissing, spine.element, packages,
-                      RVFindingText::tr("the spine has a block_width, but no packages_per_block, so it never grows"));
+                      RVFindingText::tr("the spine has a block_width, but no packages_per_block, so it never grows; "
+                                        "write how many packages make a block"));
 }
 
 void RVSpineCheck::checkWidest(const Spine &spine)
@@ -154,7 +155,8 @@ void RVSpineCheck::checkWidest(const Spine &spine)
         return;
     const int blocks = spine.config.additionalPagePackageBlocks(pageCount(pages));
     myReport->add(RVCatalogueRuleId::SpineTooWide, spine.element, widestPart(spine.element, blocks),
-                  RVFindingText::tr("the spine is %1 mm wide at %2 pages, but bookbinders take at most %3 mm")
+                  RVFindingText::tr("the spine is %1 mm wide at %2 pages, but bookbinders take at most %3 mm; "
+                                    "check the widths and their unit")
                           .arg(QString::number(width, 'f', 1), QString::number(pages), QString::number(WIDEST_SPINE)));
 }
 

@@ -68,7 +68,8 @@ QString textOf(const RVStrayElement &element)
 {
     switch (element.rule) {
     case RVCatalogueRuleId::ElementMisplaced:
-        return RVFindingText::tr("the element %1 is not read outside of a product").arg(rvQuoted(element.name));
+        return RVFindingText::tr("the element %1 is not read outside of a product; move it into one")
+                .arg(rvQuoted(element.name));
     case RVCatalogueRuleId::ElementPrefixed:
         return rvPrefixedElementText(element.name, element.meant);
     default:

@@ -73,9 +73,11 @@ void tst_RVBarcodeCheck::missing()
 
 void tst_RVBarcodeCheck::missingTexts()
 {
-    QCOMPARE(CheckedCatalogue(barcode("position_y='290'")).texts(),
-             (QStringList { u"the barcode has no width and no height, so it takes 1 unit each"_s,
-                            u"the barcode has no page number (pageNr), so it stands on page 0"_s }));
+    QCOMPARE(
+            CheckedCatalogue(barcode("position_y='290'")).texts(),
+            (QStringList {
+                    u"the barcode has no width and no height, so it takes 1 unit each; write how large it is"_s,
+                    u"the barcode has no page number (pageNr), so it stands on page 0; write the page that it is on"_s }));
 }
 
 void tst_RVBarcodeCheck::usualPage_data()
@@ -160,7 +162,7 @@ void tst_RVBarcodeCheck::exactPageText()
     QCOMPARE(
             CheckedCatalogue(endingAt("210", "300", "portrait", "600cm2"), withPageOfA()).texts(),
             QStringList { u"the barcode ends 210 mm from the left and 300 mm from the top, but the page has 210 by 297 "
-                          "mm"_s });
+                          "mm; move it, or make it smaller"_s });
 }
 
 QTEST_MAIN(tst_RVBarcodeCheck)

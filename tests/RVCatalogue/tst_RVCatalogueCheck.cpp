@@ -160,9 +160,9 @@ QList<Mistake> mistakes()
         { "type empty", changed("type='DUN9' ", "type=' ' "), u"type=' '"_s,
           u"2 error type-missing: the product has no type; write the code that projects have for it"_s },
         { "type twice", changed("type='FOT1'", "type='DUN9'"), u"type='DUN9'"_s,
-          u"17 error type-duplicate: the type \"DUN9\" is already that of the product in line 2"_s },
+          u"17 error type-duplicate: the type \"DUN9\" is already that of the product in line 2; write another, or take out one"_s },
         { "type twice in one family", changed("type='FOT1'", "type='DUN9_30'"), u"type='DUN9_30'"_s,
-          u"17 error type-duplicate: the type \"DUN9_30\", that is \"DUN9\", is already that of the product in line 2"_s },
+          u"17 error type-duplicate: the type \"DUN9_30\", that is \"DUN9\", is already that of the product in line 2; write another, or take out one"_s },
         { "article id missing", changed(" article_id='1'", ""), u"<product>"_s,
           u"2 error article-id-missing: the product has no article id; write its number into article_id"_s },
         { "article id empty", changed("article_id='1'", "article_id=''"), u"article_id=''"_s,
@@ -178,7 +178,7 @@ QList<Mistake> mistakes()
         { "article id 2147483648", changed("article_id='1'", "article_id='2147483648'"), u"article_id='2147483648'"_s,
           u"2 error article-id-invalid: the article id \"2147483648\" is too large; write at most 2147483647"_s },
         { "article id twice", changed("article_id='2'", "article_id='+1'"), u"article_id='+1'"_s,
-          u"17 error article-id-duplicate: the article id 1 is already that of the product in line 2"_s },
+          u"17 error article-id-duplicate: the article id 1 is already that of the product in line 2; write another, or take out one"_s },
         { "shipping group -1", changed("shipping_group='2'", "shipping_group='-1'"), u"shipping_group='-1'"_s,
           u"2 error shipping-group-invalid: the shipping group \"-1\" is none; leave out the attribute"_s },
         { "shipping group two", changed("shipping_group='2'", "shipping_group='two'"), u"shipping_group='two'"_s,
@@ -346,7 +346,7 @@ QList<Mistake> mistakes()
         { "barcode without image", changed("image='a.png'", "image=''"), u"image=''"_s,
           u"5 error barcode-invalid: the barcode has no image; name a file, or leave out the attribute"_s },
         { "barcode behind the last page", changed("pageNr='2'/>", "pageNr='155'/>"), u"pageNr='155'"_s,
-          u"4 error barcode-page-impossible: there is no page 155; the product has at most 154"_s },
+          u"4 error barcode-page-impossible: there is no page 155; the product has at most 154, so write that or less"_s },
         { "barcode on a negative page", changed("pageNr='2'/>", "pageNr='-1'/>"), u"pageNr='-1'"_s,
           u"4 error barcode-page-impossible: there is no page -1; write 0 or more"_s },
         { "barcode left of the page", changed("position_x='12'", "position_x='-0.1'"), u"position_x='-0.1'"_s,
@@ -429,7 +429,7 @@ QList<Mistake> mistakes()
         { "misspelt product", changed("<products>", "<products><prodcut type='B'/>"), u"<prodcut>"_s,
           u"1 warning element-misspelt: the element \"prodcut\" is not read; did you mean \"product\"?"_s },
         { "parts of no product", changed("<products>", "<products><forms><form/></forms>"), u"<forms>"_s,
-          u"1 warning element-misplaced: the element \"forms\" is not read outside of a product"_s },
+          u"1 warning element-misplaced: the element \"forms\" is not read outside of a product; move it into one"_s },
         { "prefix", changed("<form key='alcolor' value='red'", "<x:form xmlns:x='y' key='alcolor' value='red'"),
           u"<x:form>"_s,
           u"12 warning element-prefixed: the element \"x:form\" is not read because of its prefix; without it, it is "
@@ -441,37 +441,38 @@ QList<Mistake> mistakes()
         { "step of a fixed page count", withSecondProduct("<product type='A' article_id='2' pages='4' page_step='2'/>"),
           u"<product>"_s,
           u"17 warning max-pages-missing: there is a step (page_step), but no highest page count (max_pages), so 4 "
-          "pages are the only count"_s },
+          "pages are the only count; write the highest one"_s },
         { "too many page counts", changed("max_pages='154'", "max_pages='15400'"), u"max_pages='15400'"_s,
-          u"2 warning page-counts-excessive: there are 3844 page counts from 26 to 15400"_s },
+          u"2 warning page-counts-excessive: there are 3844 page counts from 26 to 15400; lower max_pages, or raise page_step"_s },
         { "no base width", changed(" base_width='0.8'", ""), u"<spine>"_s,
-          u"8 warning spine-base-missing: the spine has other widths, but no base_width"_s },
+          u"8 warning spine-base-missing: the spine has other widths, but no base_width; write one, or 0 for none"_s },
         { "no packages", changed("packages_per_block='2' ", ""), u"<spine>"_s,
           u"8 warning spine-packages-missing: the spine has a block_width, but no packages_per_block, so it never "
-          "grows"_s },
+          "grows; write how many packages make a block"_s },
         { "spine of another unit", changed("base_width='0.8'", "base_width='8'"), u"base_width='8'"_s,
-          u"8 warning spine-too-wide: the spine is 97.0 mm wide at 154 pages, but bookbinders take at most 80 mm"_s },
+          u"8 warning spine-too-wide: the spine is 97.0 mm wide at 154 pages, but bookbinders take at most 80 mm; check the widths and their unit"_s },
         { "comma in a value", changed("value='red'", "value='red,blue'"), u"value='red,blue'"_s,
           u"12 warning option-separator: the value \"red,blue\" has a separator of orders in it; only semicolons join "
           "several"_s },
         { "blank behind a key", changed("key='alcolor' value='red'", "key='alcolor ' value='red'"), u"key='alcolor '"_s,
-          u"12 warning option-blank: the key \"alcolor \" has a blank around it"_s },
+          u"12 warning option-blank: the key \"alcolor \" has a blank around it; take it out"_s },
         { "letter case of a key", changed("key='alcolor' value='red'", "key='Alcolor' value='red'"), u"key='Alcolor'"_s,
           u"12 warning option-letter-case: the key \"Alcolor\" differs from \"alcolor\" in line 11 in letter case "
-          "only"_s },
+          "only; choose one spelling"_s },
         { "two names of a key",
           changed("value='black'", "value='black' key_name='A'").replace("value='red'", "value='red' key_name='B'"),
           u"key_name='B'"_s,
-          u"12 warning option-key-names: the key \"alcolor\" is named \"B\" here, but \"A\" in line 11"_s },
+          u"12 warning option-key-names: the key \"alcolor\" is named \"B\" here, but \"A\" in line 11; choose one name"_s },
         { "barcode without a width", changed("width='38' height='10' pageNr='2'/>", "height='10' pageNr='2'/>"),
-          u"<barcode>"_s, u"4 warning barcode-size-missing: the barcode has no width, so it takes 1 unit"_s },
+          u"<barcode>"_s,
+          u"4 warning barcode-size-missing: the barcode has no width, so it takes 1 unit; write how large it is"_s },
         { "barcode on no page", changed(" pageNr='2'/>", "/>"), u"<barcode>"_s,
-          u"4 warning barcode-page-missing: the barcode has no page number (pageNr), so it stands on page 0"_s },
+          u"4 warning barcode-page-missing: the barcode has no page number (pageNr), so it stands on page 0; write the page that it is on"_s },
         { "barcode below an upright page",
           changed("position_x='62' position_y='290.5'", "position_x='62' position_y='500'"), u"position_y='500'"_s,
           u"5 warning barcode-off-usual-page: the barcode ends 100 mm from the left and 500 mm from the top, but no "
           u"page "
-          "of this size class and orientation is so large"_s },
+          "of this size class and orientation is so large; move it, or make it smaller"_s },
     };
 }
 
@@ -969,8 +970,10 @@ void tst_RVCatalogueCheck::encodings()
 {
     QFETCH(QByteArray, file);
     const Checked checked = check(file);
-    QCOMPARE(checked.texts(),
-             QStringList { u"3 error type-duplicate: the type \"Ä\" is already that of the product in line 2"_s });
+    QCOMPARE(
+            checked.texts(),
+            QStringList {
+                    u"3 error type-duplicate: the type \"Ä\" is already that of the product in line 2; write another, or take out one"_s });
     const RVFileRange range = checked.findings.first().range();
     QCOMPARE(range.begin.column, qint64(14));
     QCOMPARE(range.end.line, qint64(3));
@@ -982,10 +985,11 @@ void tst_RVCatalogueCheck::findingsBeforeAnError()
 {
     const Checked checked = check("<p>\n<product type='A'/>\n<product type='A' article_id='1'/></q>");
     QVERIFY(checked.hasError);
-    QCOMPARE(checked.texts(),
-             QStringList(
-                     { u"2 error article-id-missing: the product has no article id; write its number into article_id"_s,
-                       u"3 error type-duplicate: the type \"A\" is already that of the product in line 2"_s }));
+    QCOMPARE(
+            checked.texts(),
+            QStringList(
+                    { u"2 error article-id-missing: the product has no article id; write its number into article_id"_s,
+                      u"3 error type-duplicate: the type \"A\" is already that of the product in line 2; write another, or take out one"_s }));
     QCOMPARE(check("<p>").texts(), QStringList());
 }
 
@@ -1031,8 +1035,8 @@ void tst_RVCatalogueCheck::duplicatesFarApart()
     QCOMPARE(
             check(file).texts(),
             (QStringList {
-                    u"20003 error type-duplicate: the type \"T\" is already that of the product in line 2"_s,
-                    u"20003 error article-id-duplicate: the article id 1000000 is already that of the product in line 2"_s }));
+                    u"20003 error type-duplicate: the type \"T\" is already that of the product in line 2; write another, or take out one"_s,
+                    u"20003 error article-id-duplicate: the article id 1000000 is already that of the product in line 2; write another, or take out one"_s }));
 }
 
 // Of two products that have none, the second has no other type or article than the first.

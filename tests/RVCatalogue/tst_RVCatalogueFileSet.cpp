@@ -89,43 +89,44 @@ void tst_RVCatalogueFileSet::files_data()
     QTest::newRow("type in the same file")
             << QList<QByteArray> { "<p>\n<product type='A' article_id='1'/><product type='A' article_id='2'/></p>" }
             << QList<QStringList> {
-                   { u"2:44-2:52 the type \"A\" is already that of the product in line 2 <- @2:10-2:18"_s
+                   { u"2:44-2:52 the type \"A\" is already that of the product in line 2; write another, or take out one <- @2:10-2:18"_s
                      + TYPE_IS_THERE }
                };
-    QTest::newRow("type in two files")
-            << QList<QByteArray> { one, "<p><product article_id='2'\ntype='DUN9'/></p>" }
-            << QList<QStringList> { {},
-                                    { u"2:1-2:12 the type \"DUN9\" is already that of the product in line 2 of 1.xml "
-                                      "<- 1.xml@2:10-2:21"_s
-                                      + TYPE_IS_THERE } };
+    QTest::newRow("type in two files") << QList<QByteArray> { one, "<p><product article_id='2'\ntype='DUN9'/></p>" }
+                                       << QList<QStringList> {
+                                              {},
+                                              { u"2:1-2:12 the type \"DUN9\" is already that of the product in line 2 "
+                                                u"of 1.xml; write another, or take out one "
+                                                "<- 1.xml@2:10-2:21"_s
+                                                + TYPE_IS_THERE }
+                                          };
     QTest::newRow("family in two files")
             << QList<QByteArray> { one, "<p><product article_id='2' type='DUN9_30'/></p>" }
             << QList<QStringList> {
                    {},
                    { u"1:28-1:42 the type \"DUN9_30\", that is \"DUN9\", is already that of the product "
-                     "in line 2 of 1.xml <- 1.xml@2:10-2:21"_s
+                     "in line 2 of 1.xml; write another, or take out one <- 1.xml@2:10-2:21"_s
                      + TYPE_IS_THERE }
                };
     QTest::newRow("article id in two files")
             << QList<QByteArray> { one, "<p/>", "<p><product type='B' article_id='+1'/></p>" }
-            << QList<QStringList> {
-                   {},
-                   { u"1:1-1:1 there is no product in this file"_s },
-                   { u"1:22-1:37 the article id 1 is already that of the product in line 2 of 1.xml <- "
-                     "1.xml@2:22-2:36"_s
-                     + ARTICLE_IS_THERE }
-               };
+            << QList<QStringList> { {},
+                                    { u"1:1-1:1 there is no product in this file"_s },
+                                    { u"1:22-1:37 the article id 1 is already that of the product in line 2 of 1.xml; "
+                                      u"write another, or take out one <- "
+                                      "1.xml@2:22-2:36"_s
+                                      + ARTICLE_IS_THERE } };
     QTest::newRow("the first of three files")
             << QList<QByteArray> { "<p><product type='A' article_id='1'/></p>",
                                    "<p><product type='A' article_id='2'/></p>",
                                    "<p><product type='A' article_id='2'/></p>" }
             << QList<QStringList> {
                    {},
-                   { u"1:13-1:21 the type \"A\" is already that of the product in line 1 of 1.xml <- 1.xml@1:13-1:21"_s
+                   { u"1:13-1:21 the type \"A\" is already that of the product in line 1 of 1.xml; write another, or take out one <- 1.xml@1:13-1:21"_s
                      + TYPE_IS_THERE },
-                   { u"1:13-1:21 the type \"A\" is already that of the product in line 1 of 1.xml <- 1.xml@1:13-1:21"_s
+                   { u"1:13-1:21 the type \"A\" is already that of the product in line 1 of 1.xml; write another, or take out one <- 1.xml@1:13-1:21"_s
                              + TYPE_IS_THERE,
-                     u"1:22-1:36 the article id 2 is already that of the product in line 1 of 2.xml <- 2.xml@1:22-1:36"_s
+                     u"1:22-1:36 the article id 2 is already that of the product in line 1 of 2.xml; write another, or take out one <- 2.xml@1:22-1:36"_s
                              + ARTICLE_IS_THERE }
                };
     QTest::newRow("silenced") << QList<QByteArray> {
@@ -136,7 +137,8 @@ void tst_RVCatalogueFileSet::files_data()
     QTest::newRow("products that were read before an error")
             << QList<QByteArray> { one + '<', "<p><product article_id='2' type='DUN9'/></p>" }
             << QList<QStringList> { {},
-                                    { u"1:28-1:39 the type \"DUN9\" is already that of the product in line 2 of 1.xml "
+                                    { u"1:28-1:39 the type \"DUN9\" is already that of the product in line 2 of 1.xml; "
+                                      u"write another, or take out one "
                                       "<- 1.xml@2:10-2:21"_s
                                       + TYPE_IS_THERE } };
 }
@@ -152,9 +154,11 @@ void tst_RVCatalogueFileSet::oneFileAlone()
     CatalogueBuffer file("<p><product type='A' article_id='1'/>\n<product type='A' article_id='2'/></p>");
     RVCatalogueReader reader(&file);
     reader.setCheck(RVCatalogueCheck());
-    QCOMPARE(findingsOf(&reader),
-             QStringList { u"2:10-2:18 the type \"A\" is already that of the product in line 1 <- @1:13-1:21"_s
-                           + TYPE_IS_THERE });
+    QCOMPARE(
+            findingsOf(&reader),
+            QStringList {
+                    u"2:10-2:18 the type \"A\" is already that of the product in line 1; write another, or take out one <- @1:13-1:21"_s
+                    + TYPE_IS_THERE });
 }
 
 void tst_RVCatalogueFileSet::namesOfFiles()
@@ -171,11 +175,12 @@ void tst_RVCatalogueFileSet::namesOfFiles()
     QCOMPARE(findingsOf(&first), QStringList());
     RVCatalogueReader second(name);
     second.setCheck(without(u"article-id-duplicate"_s), &files);
-    QCOMPARE(findingsOf(&second),
-             QStringList {
-                     u"1:13-1:21 the type \"A\" is already that of the product in line 1 of %1 <- %1@1:13-1:21"_s.arg(
-                             name)
-                     + TYPE_IS_THERE });
+    QCOMPARE(
+            findingsOf(&second),
+            QStringList {
+                    u"1:13-1:21 the type \"A\" is already that of the product in line 1 of %1; write another, or take out one <- %1@1:13-1:21"_s
+                            .arg(name)
+                    + TYPE_IS_THERE });
 }
 
 // Files are one after the other in the order in which they are read, whenever their readers were made.
@@ -191,7 +196,8 @@ void tst_RVCatalogueFileSet::readersThatWait()
     second.setCheck(without(u"article-id-duplicate"_s), &files, u"second"_s);
     QCOMPARE(findingsOf(&second), QStringList());
     QCOMPARE(findingsOf(&first),
-             QStringList { u"1:13-1:21 the type \"A\" is already that of the product in line 1 of second <- "
+             QStringList { u"1:13-1:21 the type \"A\" is already that of the product in line 1 of second; write "
+                           u"another, or take out one <- "
                            "second@1:13-1:21"_s
                            + TYPE_IS_THERE });
 }
@@ -245,12 +251,14 @@ void tst_RVCatalogueFileSet::manyFiles()
         findings += findingsOf(&reader);
     }
     QCOMPARE(findings.size(), qsizetype(10));
-    QCOMPARE(findings.first(),
-             u"3:13-3:22 the type \"T1\" is already that of the product in line 2 of 1 <- 1@2:13-2:22"_s
-                     + TYPE_IS_THERE);
-    QCOMPARE(findings.last(),
-             u"5:13-5:23 the type \"T10\" is already that of the product in line 4 of 10 <- 10@4:13-4:23"_s
-                     + TYPE_IS_THERE);
+    QCOMPARE(
+            findings.first(),
+            u"3:13-3:22 the type \"T1\" is already that of the product in line 2 of 1; write another, or take out one <- 1@2:13-2:22"_s
+                    + TYPE_IS_THERE);
+    QCOMPARE(
+            findings.last(),
+            u"5:13-5:23 the type \"T10\" is already that of the product in line 4 of 10; write another, or take out one <- 10@4:13-4:23"_s
+                    + TYPE_IS_THERE);
 }
 
 QTEST_GUILESS_MAIN(tst_RVCatalogueFileSet)

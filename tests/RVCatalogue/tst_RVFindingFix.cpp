@@ -131,6 +131,8 @@ void tst_RVFindingFix::oneSafeAnswer_data()
     row("colour with a blank", colorWith("# 1a1a1a"), colorWith("#1a1a1a"));
     row("price class in small letters", priceOf("lez2"), priceOf("LEZ2"));
     row("price class with a blank", priceOf("LEZ2 "), priceOf("LEZ2"));
+    row("price class with a blank inside", priceOf("LEZ 2"), priceOf("LEZ2"));
+    row("price class in small letters with blanks inside", priceOf("l ez 2"), priceOf("LEZ2"));
     row("letters beyond 16 bits before it", with("name", "\U0001F4D5' cover_type='hard"),
         with("name", "\U0001F4D5' cover_type='hardcover"));
     row("value over two lines", productWith("name='a\nb'\ncover_type = \"hard\"\npages='26,0'"),
@@ -193,6 +195,7 @@ void tst_RVFindingFix::noSafeAnswer_data()
     row("five digits of a colour", colorWith("1a1a1"), "option-color-invalid");
     row("nearly a colour", colorWith("redd"), "option-color-invalid");
     row("nearly a price class", priceOf("LEZ7"), "price-class-unknown");
+    row("nearly a price class with a blank inside", priceOf("LEZ 7"), "price-class-unknown");
     row("begin of a price class", priceOf("RODA"), "price-class-unknown");
     row("page counts", productWith("pages='26' max_pages='154' page_step='6'"), "page-step-misses-highest");
     row("option twice", formsWith("<form key='a' value='b'/><form key='a' value='b'/>\n"), "option-duplicate");

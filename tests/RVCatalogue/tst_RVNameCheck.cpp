@@ -474,7 +474,7 @@ void tst_RVNameCheck::texts_data()
             << forms("<product/>") << u"the element \"product\" is not read in forms"_s;
     QTest::newRow("element outside of products")
             << QByteArray("<products><product type='A' article_id='1'/><forms/></products>")
-            << u"the element \"forms\" is not read outside of a product"_s;
+            << u"the element \"forms\" is not read outside of a product; move it into one"_s;
     QTest::newRow("element with a prefix")
             << forms("<x:form xmlns:x='u' key='a' value='b'/>")
             << u"the element \"x:form\" is not read because of its prefix; without it, it is \"form\""_s;

@@ -174,10 +174,11 @@ void tst_RVOptionSpellingCheck::texts()
                       "key='a,b' value=' y '", "key='c d' value='z' preselected='1'" }));
     QCOMPARE(catalogue.texts().filter(u"selected"_s).size(), 1);
     QCOMPARE(catalogue.texts().first(2),
-             (QStringList { u"the value \"X\" differs from \"x\" in line 2 in letter case only"_s,
-                            u"the key \"a\" is named \"B\" here, but \"A\" in line 2"_s }));
+             (QStringList { u"the value \"X\" differs from \"x\" in line 2 in letter case only; choose one spelling"_s,
+                            u"the key \"a\" is named \"B\" here, but \"A\" in line 2; choose one name"_s }));
     QCOMPARE(catalogue.texts().last(2),
-             (QStringList { u"the value \" y \" has a blank around it"_s, u"the key \"c d\" has a blank in it"_s }));
+             (QStringList { u"the value \" y \" has a blank around it; take it out"_s,
+                            u"the key \"c d\" has a blank in it; take it out"_s }));
 }
 
 void tst_RVOptionSpellingCheck::fixes_data()

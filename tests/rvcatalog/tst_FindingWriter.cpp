@@ -106,6 +106,7 @@ private Q_SLOTS:
     void types();
     void json();
     void sarif();
+    void typeWithoutProduct();
     void sarifOfTheFile();
     void github();
     void githubEscapes_data();
@@ -217,6 +218,19 @@ void tst_FindingWriter::json()
                         R"("text":"the first one"},{"column":1,"end_column":4,"end_line":10,"file":"b c.xml",)"
                         R"("line":9,"text":"one in another file"}],"rule":"option-duplicate","severity":"error",)"
                         R"("text":"50 % of \"x\", or: all"})"));
+}
+
+/// A misspelt product is no product that has a number, but its type is known.
+void tst_FindingWriter::typeWithoutProduct()
+{
+    RVCatalogueFinding stray(RVCatalogueRule::find(u"element-misspelt"), { { 3, 12 }, { 3, 25 } }, u"text"_s);
+    stray.setProductType(u"A"_s);
+    const QByteArray json = Report(u"json"_s).of(u"a.xml"_s, { stray });
+    const QJsonObject object = QJsonDocument::fromJson(json).object().value("findings"_L1).toArray().at(0).toObject();
+    QVERIFY(object.value("product"_L1).isNull());
+    QCOMPARE(object.value("product_type"_L1), QJsonValue(u"A"_s));
+    const QJsonObject result = firstResult(Report(u"sarif"_s).of(u"a.xml"_s, { stray }));
+    QCOMPARE(compact(result.value("properties"_L1)), QByteArray(R"({"productType":"A"})"));
 }
 
 void tst_FindingWriter::sarif()
