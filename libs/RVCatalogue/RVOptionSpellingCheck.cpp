@@ -2,6 +2,7 @@
 
 #include "RVFindingReport_p.h"
 #include "RVFindingText_p.h"
+#include "RVForeignLetters_p.h"
 
 #include <QString>
 
@@ -32,7 +33,7 @@ bool isSeparator(char letter)
     return letter == ',' || letter == ':';
 }
 
-/// True for a blank of ASCII, and for a byte of a letter that may be another one.
+/// True for a blank of ASCII, and for a byte of a letter that may be another one, or invisible.
 bool mayBeBlank(char letter)
 {
     return uchar(letter) <= ' ' || uchar(letter) >= 0x80;
@@ -41,6 +42,25 @@ bool mayBeBlank(char letter)
 bool isBlank(QChar letter)
 {
     return letter.isSpace();
+}
+
+bool isInvisible(QChar letter)
+{
+    return letter.category() == QChar::Other_Format;
+}
+
+bool isUnseen(QChar letter)
+{
+    return isBlank(letter) || isInvisible(letter);
+}
+
+/// Of a key or a value with blanks, or with letters that nobody sees; without the two.
+QString faultText(const QString &text, bool hasBlankInside)
+{
+    if (hasBlankInside)
+        return RVFindingText::tr("the %1 %2 has a blank in it");
+    return std::any_of(text.begin(), text.end(), isBlank) ? RVFindingText::tr("the %1 %2 has a blank around it")
+                                                          : RVFindingText::tr("the %1 %2 is not what it looks like");
 }
 
 /// The earliest in the file.
@@ -137,15 +157,24 @@ void RVOptionSpellingCheck::checkLetters(const RVCheckedOption &option, QLatin1S
                              RVFindingText::tr("the %1 %2 has a separator of orders in it; only semicolons join "
                                                "several")
                                      .arg(attribute, rvQuoted(text)));
-    if (std::none_of(text.begin(), text.end(), isBlank))
+    checkUnseen(option.form, attribute, text);
+}
+
+/// Blanks, and letters that nobody sees.
+void RVOptionSpellingCheck::checkUnseen(const RVCatalogueElement &form, QLatin1StringView attribute,
+                                        const QString &text)
+{
+    const auto *first = std::find_if(text.begin(), text.end(), isUnseen);
+    if (first == text.end())
         return;
-    const QString trimmed = text.trimmed();
-    const bool isInside = trimmed.isEmpty() || std::any_of(trimmed.begin(), trimmed.end(), isBlank);
-    myReport->add(
-            RVCatalogueRuleId::OptionBlank, option.form, attribute,
-            isInside ? RVFindingText::tr("the %1 %2 has a blank in it; take it out").arg(attribute, rvQuoted(text))
-                     : RVFindingText::tr("the %1 %2 has a blank around it; take it out").arg(attribute, rvQuoted(text)),
-            { {}, isInside ? QList<RVFileEdit>() : rvReplaced(option.form, attribute, trimmed) });
+    QString seen = text;
+    seen = seen.removeIf(isInvisible).trimmed();
+    const bool hasBlankInside = seen.isEmpty() || std::any_of(seen.begin(), seen.end(), isBlank);
+    const QString fault = faultText(text, hasBlankInside).arg(attribute, rvQuoted(text));
+    const QString letter = RVForeignLetters(QStringView(first, 1)).text();
+    myReport->add(RVCatalogueRuleId::OptionBlank, form, attribute,
+                  rvAdvised(rvAdvised(fault, letter), RVFindingText::tr("take it out")),
+                  { {}, hasBlankInside ? QList<RVFileEdit>() : rvReplaced(form, attribute, seen) });
 }
 
 /// Judges the options whose keys differ in letter case only.

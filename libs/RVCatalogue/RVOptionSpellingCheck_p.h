@@ -23,6 +23,7 @@ private:
     using Iterator = RVOptionsByKey::const_iterator;
 
     void checkLetters(const RVCheckedOption &option, QLatin1StringView attribute);
+    void checkUnseen(const RVCatalogueElement &form, QLatin1StringView attribute, const QString &text);
     void checkKeys(Iterator begin, Iterator end);
     void checkValues(Iterator begin, Iterator end);
     void checkKeyNames(Iterator begin, Iterator end);

@@ -62,6 +62,12 @@ void tst_RVOptionSpellingCheck::letters_data()
     row("blank behind a semicolon", "key='a; b' value='c;d'", blank(u"key='a; b'"_s));
     row("line end", "key='a&#10;b' value='c'", blank(u"key='a&#10;b'"_s));
     row("blank that does not break lines", "key='a&#160;b' value='c'", blank(u"key='a&#160;b'"_s));
+    row("letter without any width",
+        "key='a' value='b\xe2\x80\x8b"
+        "c'",
+        blank(u"value='b\u200bc'"_s));
+    row("soft hyphen", "key='a&#173;b' value='c'", blank(u"key='a&#173;b'"_s));
+    row("letters of another script", "key='a' value='\xd0\xb4\xd0\xb0'", {});
     row("nothing but a blank", "key='a' value=' '", blank(u"value=' '"_s));
     row("blank without a value", "key=' a'", { u"key=' a': option-blank"_s, u"<form>: option-incomplete"_s });
     row("other attributes", "key='a' value='b' key_name='c, d' value_name='e: f' name=' g ' editor_name='h, i'", {});
@@ -179,6 +185,13 @@ void tst_RVOptionSpellingCheck::texts()
     QCOMPARE(catalogue.texts().last(2),
              (QStringList { u"the value \" y \" has a blank around it; take it out"_s,
                             u"the key \"c d\" has a blank in it; take it out"_s }));
+    const CheckedCatalogue unseen(options({ "key='a\xc2\xa0"
+                                            "b' value='x\xe2\x80\x8b'" }));
+    QCOMPARE(unseen.texts(),
+             (QStringList {
+                     u"the key \"a\u00a0b\" has a blank in it; it has U+00A0, which is no plain blank; take it out"_s,
+                     u"the value \"x \" is not what it looks like; it has U+200B, which is invisible; take it "
+                     "out"_s }));
 }
 
 void tst_RVOptionSpellingCheck::fixes_data()
@@ -195,6 +208,9 @@ void tst_RVOptionSpellingCheck::fixes_data()
     QTest::newRow("tabulator, which XML reads as a blank")
             << QByteArray("key='a' value='b\t'") << QByteArray("key='a' value='b\t'");
     QTest::newRow("inside") << QByteArray("key='a' value=' b c '") << QByteArray("key='a' value=' b c '");
+    QTest::newRow("letter without any width") << QByteArray("key='a' value='b\xe2\x80\x8b"
+                                                            "c '")
+                                              << QByteArray("key='a' value='bc'");
     QTest::newRow("nothing else") << QByteArray("key='a' value=' '") << QByteArray("key='a' value=' '");
     QTest::newRow("comma") << QByteArray("key='a' value='b, c'") << QByteArray("key='a' value='b, c'");
 }
