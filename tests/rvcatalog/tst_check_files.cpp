@@ -47,7 +47,7 @@ struct Run
 QString otherPlace(const QString &finding)
 {
     const auto begin = finding.indexOf(" in line "_L1);
-    return begin < 0 ? QString() : finding.mid(begin, finding.lastIndexOf(" ["_L1) - begin);
+    return begin < 0 ? QString() : finding.mid(begin, finding.indexOf("; "_L1, begin) - begin);
 }
 
 Run check(const QStringList &arguments, const QByteArray &input = QByteArray())
