@@ -531,10 +531,6 @@
 <context>
     <name>RVFindingText</name>
     <message>
-        <source>there is no page %1; the product has at most %2</source>
-        <translation>es gibt keine Seite %1; das Produkt hat höchstens %2</translation>
-    </message>
-    <message>
         <source>A file without a product is no catalogue: nothing of it can be ordered.</source>
         <translation>Eine Datei ohne Produkt ist kein Katalog: Aus ihr lässt sich nichts bestellen.</translation>
     </message>
@@ -699,10 +695,6 @@
         <translation>der Barcode hat kein Bild; bitte eine Datei nennen oder das Attribut weglassen</translation>
     </message>
     <message>
-        <source>the barcode has no page number (pageNr), so it stands on page 0</source>
-        <translation>der Barcode hat keine Seitennummer (pageNr), also steht er auf Seite 0</translation>
-    </message>
-    <message>
         <source>there is no page %1; write 0 or more</source>
         <translation>es gibt keine Seite %1; bitte 0 oder mehr angeben</translation>
     </message>
@@ -721,14 +713,6 @@
     <message>
         <source>the barcode ends %1 mm from the left and %2 mm from the top, where there is no page; move it, or make it smaller</source>
         <translation>der Barcode endet %1 mm von links und %2 mm von oben, wo keine Seite mehr ist; bitte verschieben oder verkleinern</translation>
-    </message>
-    <message>
-        <source>the barcode ends %1 mm from the left and %2 mm from the top, but no page of this size class and orientation is so large</source>
-        <translation>der Barcode endet %1 mm von links und %2 mm von oben, aber keine Seite dieser Größenklasse und Ausrichtung ist so groß</translation>
-    </message>
-    <message>
-        <source>the barcode ends %1 mm from the left and %2 mm from the top, but the page has %3 by %4 mm</source>
-        <translation>der Barcode endet %1 mm von links und %2 mm von oben, aber die Seite ist %3 mal %4 mm groß</translation>
     </message>
     <message>
         <source>the barcode overlaps the one in line %1; move one of them</source>
@@ -835,20 +819,8 @@
         <translation>bitte %1 schreiben</translation>
     </message>
     <message>
-        <source>the type %1 is already that of the product in %2</source>
-        <translation>der Typ %1 gehört schon dem Produkt in %2</translation>
-    </message>
-    <message>
-        <source>the type %1, that is %2, is already that of the product in %3</source>
-        <translation>der Typ %1, also %2, gehört schon dem Produkt in %3</translation>
-    </message>
-    <message>
         <source>the product that has the type already</source>
         <translation>das Produkt, das den Typ schon hat</translation>
-    </message>
-    <message>
-        <source>the article id %1 is already that of the product in %2</source>
-        <translation>die Artikelnummer %1 gehört schon dem Produkt in %2</translation>
     </message>
     <message>
         <source>the product that has the article id already</source>
@@ -1083,16 +1055,8 @@
         <translation>%1 %2 hat am Anfang oder Ende ein Leerzeichen</translation>
     </message>
     <message>
-        <source>the %1 %2 differs from %3 in line %4 in letter case only</source>
-        <translation>%1 %2 unterscheidet sich von %3 in Zeile %4 nur in der Groß- und Kleinschreibung</translation>
-    </message>
-    <message>
         <source>the other spelling</source>
         <translation>die andere Schreibweise</translation>
-    </message>
-    <message>
-        <source>the key %1 is named %2 here, but %3 in line %4</source>
-        <translation>der Schlüssel %1 heißt hier %2, in Zeile %4 aber %3</translation>
     </message>
     <message>
         <source>the other name</source>
@@ -1135,16 +1099,8 @@
         <translation>die kleinste Seitenzahl ist %1; bitte 1 oder mehr angeben</translation>
     </message>
     <message>
-        <source>there is a step (page_step), but no highest page count (max_pages), so %1 pages are the only count</source>
-        <translation>es gibt einen Schritt (page_step), aber keine größte Seitenzahl (max_pages), also ist %1 die einzige Seitenzahl</translation>
-    </message>
-    <message>
         <source>the step</source>
         <translation>der Schritt</translation>
-    </message>
-    <message>
-        <source>there are %1 page counts from %2 to %3</source>
-        <translation>es gibt %1 Seitenzahlen von %2 bis %3</translation>
     </message>
     <message>
         <source>a product inside a product is not read; put it behind the outer one</source>
@@ -1199,18 +1155,6 @@
         <translation>das Produkt ist gebunden, aber sein Rücken hat keine Breite; bitte base_width angeben</translation>
     </message>
     <message>
-        <source>the spine has other widths, but no base_width</source>
-        <translation>der Rücken hat andere Breiten, aber kein base_width</translation>
-    </message>
-    <message>
-        <source>the spine has a block_width, but no packages_per_block, so it never grows</source>
-        <translation>der Rücken hat ein block_width, aber kein packages_per_block, also wächst er nie</translation>
-    </message>
-    <message>
-        <source>the spine is %1 mm wide at %2 pages, but bookbinders take at most %3 mm</source>
-        <translation>der Rücken ist %1 mm breit bei %2 Seiten, aber Buchbinder verarbeiten höchstens %3 mm</translation>
-    </message>
-    <message>
         <source>%1 is below 0; write 0 or more</source>
         <translation>%1 ist kleiner als 0; bitte 0 oder mehr angeben</translation>
     </message>
@@ -1221,10 +1165,6 @@
     <message>
         <source>below 0</source>
         <translation>kleiner als 0</translation>
-    </message>
-    <message>
-        <source>the element %1 is not read outside of a product</source>
-        <translation>das Element %1 wird außerhalb eines Produkts nicht gelesen</translation>
     </message>
     <message>
         <source>this comment is not understood; one that silences rules reads %1</source>
@@ -1263,16 +1203,84 @@
         <translation>es gibt keine Einheit %1</translation>
     </message>
     <message>
-        <source>the barcode has no %1, so it takes 1 unit</source>
-        <translation>der Barcode hat kein Attribut %1, also gilt 1 Einheit</translation>
-    </message>
-    <message>
-        <source>the barcode has no width and no height, so it takes 1 unit each</source>
-        <translation>der Barcode hat weder width noch height, also gilt jeweils 1 Einheit</translation>
-    </message>
-    <message>
         <source>the spine shrinks, so that at %1 pages it is too narrow for the smallest font; write a %2 of 0 or more</source>
         <translation>der Rücken schrumpft, sodass er bei %1 Seiten zu schmal für die kleinste Schrift ist; bitte für %2 den Wert 0 oder mehr angeben</translation>
+    </message>
+    <message>
+        <source>the barcode has no %1, so it takes 1 unit; write how large it is</source>
+        <translation>der Barcode hat kein Attribut %1, also gilt 1 Einheit; bitte die Größe angeben</translation>
+    </message>
+    <message>
+        <source>the barcode has no width and no height, so it takes 1 unit each; write how large it is</source>
+        <translation>der Barcode hat weder width noch height, also gilt jeweils 1 Einheit; bitte die Größe angeben</translation>
+    </message>
+    <message>
+        <source>the barcode has no page number (pageNr), so it stands on page 0; write the page that it is on</source>
+        <translation>der Barcode hat keine Seitennummer (pageNr), also steht er auf Seite 0; bitte die Seite angeben, auf der er steht</translation>
+    </message>
+    <message>
+        <source>there is no page %1; the product has at most %2, so write that or less</source>
+        <translation>es gibt keine Seite %1; das Produkt hat höchstens %2, bitte diese oder eine kleinere Zahl angeben</translation>
+    </message>
+    <message>
+        <source>the barcode ends %1 mm from the left and %2 mm from the top, but no page of this size class and orientation is so large; move it, or make it smaller</source>
+        <translation>der Barcode endet %1 mm vom linken und %2 mm vom oberen Rand, aber keine Seite dieser Größenklasse und Ausrichtung ist so groß; bitte verschieben oder verkleinern</translation>
+    </message>
+    <message>
+        <source>the barcode ends %1 mm from the left and %2 mm from the top, but the page has %3 by %4 mm; move it, or make it smaller</source>
+        <translation>der Barcode endet %1 mm vom linken und %2 mm vom oberen Rand, aber die Seite misst %3 × %4 mm; bitte verschieben oder verkleinern</translation>
+    </message>
+    <message>
+        <source>the type %1 is already that of the product in %2; write another, or take out one</source>
+        <translation>den Typ %1 hat schon das Produkt in %2; bitte einen anderen angeben oder eines der beiden entfernen</translation>
+    </message>
+    <message>
+        <source>the type %1, that is %2, is already that of the product in %3; write another, or take out one</source>
+        <translation>den Typ %1, also %2, hat schon das Produkt in %3; bitte einen anderen angeben oder eines der beiden entfernen</translation>
+    </message>
+    <message>
+        <source>the article id %1 is already that of the product in %2; write another, or take out one</source>
+        <translation>die Artikelnummer %1 hat schon das Produkt in %2; bitte eine andere angeben oder eines der beiden entfernen</translation>
+    </message>
+    <message>
+        <source>the %1 %2 is not what it looks like</source>
+        <translation>%1 %2 ist nicht, wonach es aussieht</translation>
+    </message>
+    <message>
+        <source>take it out</source>
+        <translation>bitte entfernen</translation>
+    </message>
+    <message>
+        <source>the %1 %2 differs from %3 in line %4 in letter case only; choose one spelling</source>
+        <translation>%1 %2 unterscheidet sich von %3 in Zeile %4 nur in Groß- und Kleinschreibung; bitte eine Schreibweise wählen</translation>
+    </message>
+    <message>
+        <source>the key %1 is named %2 here, but %3 in line %4; choose one name</source>
+        <translation>key %1 heißt hier %2, in Zeile %4 aber %3; bitte einen Namen wählen</translation>
+    </message>
+    <message>
+        <source>there is a step (page_step), but no highest page count (max_pages), so %1 pages are the only count; write the highest one</source>
+        <translation>es gibt einen Schritt (page_step), aber keine höchste Seitenzahl (max_pages), also ist %1 die einzige Seitenzahl; bitte die höchste angeben</translation>
+    </message>
+    <message>
+        <source>there are %1 page counts from %2 to %3; lower max_pages, or raise page_step</source>
+        <translation>es gibt %1 Seitenzahlen von %2 bis %3; bitte max_pages verkleinern oder page_step vergrößern</translation>
+    </message>
+    <message>
+        <source>the spine has other widths, but no base_width; write one, or 0 for none</source>
+        <translation>der Rücken hat andere Breiten, aber kein Attribut base_width; bitte eines angeben, oder 0 für keine</translation>
+    </message>
+    <message>
+        <source>the spine has a block_width, but no packages_per_block, so it never grows; write how many packages make a block</source>
+        <translation>der Rücken hat ein Attribut block_width, aber keines namens packages_per_block, wächst also nie; bitte angeben, wie viele Pakete einen Block ergeben</translation>
+    </message>
+    <message>
+        <source>the spine is %1 mm wide at %2 pages, but bookbinders take at most %3 mm; check the widths and their unit</source>
+        <translation>der Rücken ist bei %2 Seiten %1 mm breit, aber Buchbinder nehmen höchstens %3 mm; bitte die Breiten und ihre Einheit prüfen</translation>
+    </message>
+    <message>
+        <source>the element %1 is not read outside of a product; move it into one</source>
+        <translation>das Element %1 wird außerhalb eines Produkts nicht gelesen; bitte in eines verschieben</translation>
     </message>
 </context>
 </TS>

@@ -143,11 +143,8 @@ bool RVNumberFault::hasUnit(const QString &text)
 bool RVNumberFault::isReadable(const QString &text) const
 {
     bool isNumber = false;
-    if (myType == Type::Whole)
-        text.toInt(&isNumber);
-    else
-        isNumber = qIsFinite(text.toDouble(&isNumber)) && isNumber;
-    return isNumber;
+    const double number = myType == Type::Whole ? text.toInt(&isNumber) : text.toDouble(&isNumber);
+    return isNumber && qIsFinite(number);
 }
 
 void RVNumberFault::mendAs(const QString &number)

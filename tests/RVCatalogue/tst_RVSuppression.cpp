@@ -548,9 +548,8 @@ namespace {
 class RandomNesting
 {
 public:
-    explicit RandomNesting(quint32 seed) : myRandom(seed)
+    explicit RandomNesting(quint32 seed) : myRandom(seed), myText("<product type='A' article_id='1'>\n")
     {
-        myText = "<product type='A' article_id='1'>\n";
         ++myLine;
         addChildren(0);
         myText += "</product>\n";
