@@ -8,12 +8,16 @@
 #include <atomic>
 #include <cerrno>
 #include <csignal>
+#include <ctime>
 
 namespace {
 
 constexpr int SIGNALS[] = { SIGINT, SIGTERM };
 constexpr std::size_t READ_END = 0;
 constexpr std::size_t WRITE_END = 1;
+/// Who ends a group of processes often sends the signal to each of them, and to the group as well. So what comes within
+/// that many milliseconds is the same request, and not an impatient second one.
+constexpr qint64 ONE_REQUEST = 400;
 
 /// All that the process has of it, since signals are the process's.
 struct State
@@ -22,15 +26,35 @@ struct State
     int users = 0;
     struct sigaction before[std::size(SIGNALS)] = {};
     std::atomic_int signal = 0;
+    std::atomic<qint64> signalTime = 0;
     std::atomic_int pipe[2] = { -1, -1 };
 };
 State theState;
 
+/// Milliseconds of a clock that nobody sets.
+qint64 now()
+{
+    timespec time = {};
+    ::clock_gettime(CLOCK_MONOTONIC, &time);
+    return qint64(time.tv_sec) * 1000 + time.tv_nsec / 1000000;
+}
+
+void endAtOnce(int signal)
+{
+    ::signal(signal, SIG_DFL); // NOLINT(cert-err33-c): nothing could be done about an error
+    ::raise(signal);
+}
+
 void remember(int signal)
 {
     const int error = errno;
-    theState.signal = signal;
-    [[maybe_unused]] const auto written = ::write(theState.pipe[WRITE_END], "", 1);
+    if (theState.signal == 0) {
+        theState.signalTime = now();
+        theState.signal = signal;
+        [[maybe_unused]] const auto written = ::write(theState.pipe[WRITE_END], "", 1);
+    } else if (now() - theState.signalTime >= ONE_REQUEST) {
+        endAtOnce(signal);
+    }
     errno = error;
 }
 
@@ -47,7 +71,9 @@ void takeSignals()
 {
     struct sigaction action = {};
     action.sa_handler = remember;
-    action.sa_flags = int(SA_RESETHAND) | SA_RESTART;
+    action.sa_flags = SA_RESTART;
+    for (const int signal : SIGNALS)
+        sigaddset(&action.sa_mask, signal);
     for (std::size_t i = 0; i < std::size(SIGNALS); ++i) {
         ::sigaction(SIGNALS[i], nullptr, &theState.before[i]);
         if (theState.before[i].sa_handler != SIG_IGN)

@@ -4,7 +4,8 @@
 #include <QtGlobal>
 
 /// While one exists, SIGINT and SIGTERM do not end the process but ask it to stop: what is written can be brought to a
-/// clean end. The second such signal ends it at once. A signal that the process ignores stays so. Any thread.
+/// clean end. Such a signal that comes 0.4 seconds later, or still later, ends it at once. A signal that the process
+/// ignores stays so. Any thread.
 class Interruption
 {
     Q_DISABLE_COPY_MOVE(Interruption)

@@ -14,7 +14,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -89,6 +91,53 @@ bool isFull(int descriptor)
     return ::poll(&pipe, 1, 0) == 0;
 }
 
+/// A check that has filled a pipe, which nobody reads yet, with findings, and has more of them.
+class FullPipeCheck
+{
+    Q_DISABLE_COPY_MOVE(FullPipeCheck)
+
+public:
+    explicit FullPipeCheck(const QString &folder)
+    {
+        QFile file(folder + "/faults.xml"_L1);
+        if (!file.open(QIODevice::WriteOnly) || ::pipe2(myEnds, O_CLOEXEC) != 0)
+            return;
+        file.write("<p>" + QByteArray("<product type='A' article_id='0'/>\n").repeated(10000) + "</p>");
+        file.close();
+        process.setWorkingDirectory(folder);
+        process.setChildProcessModifier([this] { ::dup2(myEnds[1], STDOUT_FILENO); });
+        process.start(QStringLiteral(RVCATALOG), { u"check"_s, u"faults.xml"_s });
+    }
+    ~FullPipeCheck()
+    {
+        for (const int end : myEnds)
+            ::close(end);
+    }
+
+    /// Waits until it waits to write on.
+    bool isWaiting()
+    {
+        const bool isFilled = process.waitForStarted() && QTest::qWaitFor([this] { return isFull(myEnds[1]); }, 20000);
+        QTest::qWait(300);
+        return isFilled;
+    }
+    QByteArray allOutput()
+    {
+        ::close(std::exchange(myEnds[1], -1));
+        QByteArray result;
+        char piece[4096];
+        for (ssize_t size = 1; size > 0; result.append(piece, qsizetype(size)))
+            size = std::max(::read(myEnds[0], piece, sizeof piece), ssize_t(0));
+        return result;
+    }
+    void send(int signal) const { ::kill(pid_t(process.processId()), signal); }
+
+    QProcess process;
+
+private:
+    int myEnds[2] = { -1, -1 };
+};
+
 /// A good document of the format, with so many findings in it.
 bool isWhole(const QString &format, const QByteArray &text, int findings)
 {
@@ -120,6 +169,7 @@ private Q_SLOTS:
     void interruptedBeforeAnybodyWrites();
     void interruptedInALargeFile_data();
     void interruptedInALargeFile();
+    void signalThatComesTwice();
     void secondSignal();
     void ignoredSignal();
     void otherFilesAreLeftOut();
@@ -257,30 +307,33 @@ void tst_check_ends::writeLargeFile()
     file.write("</p>\n");
 }
 
-// Who presses the keys twice means it. The pipe is full, so the first signal alone ends nothing.
+// Once for the process and once for its group, as the program "timeout" sends it. The pipe is full, so the first signal
+// alone ends nothing.
+void tst_check_ends::signalThatComesTwice()
+{
+    FullPipeCheck check(myFolder.path());
+    QVERIFY(check.isWaiting());
+    check.send(SIGTERM);
+    QVERIFY2(!check.process.waitForFinished(50), check.process.readAllStandardError());
+    check.send(SIGTERM);
+    QVERIFY2(!check.process.waitForFinished(500), check.process.readAllStandardError());
+    QVERIFY(check.allOutput().endsWith(", interrupted\n"));
+    QVERIFY(check.process.waitForFinished(20000));
+    QCOMPARE(check.process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(check.process.exitCode(), 143);
+}
+
+// Who presses the keys twice means it.
 void tst_check_ends::secondSignal()
 {
-    QFile file(myFolder.filePath(u"faults.xml"_s));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("<p>" + QByteArray("<product type='A' article_id='0'/>\n").repeated(10000) + "</p>");
-    file.close();
-    int ends[2] = { -1, -1 };
-    QCOMPARE(::pipe2(ends, O_CLOEXEC), 0);
-    QProcess process;
-    process.setWorkingDirectory(myFolder.path());
-    process.setChildProcessModifier([&ends] { ::dup2(ends[1], STDOUT_FILENO); });
-    process.start(QStringLiteral(RVCATALOG), { u"check"_s, u"faults.xml"_s });
-    QVERIFY(process.waitForStarted());
-    QTRY_VERIFY_WITH_TIMEOUT(isFull(ends[1]), 20000);
-    QTest::qWait(300); // until it waits to write on
-    ::kill(pid_t(process.processId()), SIGINT);
-    QVERIFY2(!process.waitForFinished(500), process.readAllStandardError());
-    ::kill(pid_t(process.processId()), SIGINT);
-    QVERIFY(process.waitForFinished(20000));
-    QCOMPARE(process.exitStatus(), QProcess::CrashExit);
-    QCOMPARE(process.exitCode(), SIGINT);
-    ::close(ends[0]);
-    ::close(ends[1]);
+    FullPipeCheck check(myFolder.path());
+    QVERIFY(check.isWaiting());
+    check.send(SIGINT);
+    QVERIFY2(!check.process.waitForFinished(1000), check.process.readAllStandardError());
+    check.send(SIGINT);
+    QVERIFY(check.process.waitForFinished(20000));
+    QCOMPARE(check.process.exitStatus(), QProcess::CrashExit);
+    QCOMPARE(check.process.exitCode(), SIGINT);
 }
 
 // As in the background of a shell.
