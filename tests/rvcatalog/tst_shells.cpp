@@ -83,6 +83,13 @@ void tst_shells::bash_data()
             << QStringList { u"LEATHER"_s };
     QTest::newRow("rule") << QStringList { u"check"_s, u"--disable"_s, u"type-m"_s }
                           << QStringList { u"type-missing"_s };
+    QTest::newRow("second rule of a list") << QStringList { u"check"_s, u"--disable"_s, u"type-missing,option-bl"_s }
+                                           << QStringList { u"type-missing,option-blank"_s };
+    QTest::newRow("comma that was escaped") << QStringList { u"check"_s, u"--disable"_s, u"type-missing\\,option-bl"_s }
+                                            << QStringList { u"type-missing,option-blank"_s };
+    QTest::newRow("words in quotes") << QStringList { u"show"_s, u"\"cat.xml\""_s, u"'VI"_s }
+                                     << QStringList { u"VIR1"_s };
+    QTest::newRow("option of the program") << QStringList { u"--"_s } << QStringList { u"--help"_s, u"--version"_s };
     QTest::newRow("nothing fits") << QStringList { u"keywords"_s, u"x"_s } << QStringList();
 }
 

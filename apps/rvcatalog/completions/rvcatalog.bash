@@ -1,10 +1,12 @@
-# Completes command lines of rvcatalog in bash. The program itself knows how they go on: "rvcatalog complete WORD..." writes
-# a word, a tab and what it means a line, and ":files" where file names are meant.
+# Completes command lines of rvcatalog in bash. The program itself knows how they go on: "rvcatalog complete -- WORD..."
+# writes a word, a tab and what it means a line, and ":files" where file names are meant.
 
 _rvcatalog() {
-    local words=() word is_glued='' current=${COMP_WORDS[COMP_CWORD]}
-    # Bash splits words at "=" as well; the program wants "--format=json" in one piece.
+    local words=() word is_glued='' current=${COMP_WORDS[COMP_CWORD]//[\\\"\']/}
+    # Bash splits words at "=" as well; the program wants "--format=json" in one piece. They are what was typed, so
+    # backslashes and quotes are taken away.
     for word in "${COMP_WORDS[@]:1:COMP_CWORD}"; do
+        word=${word//[\\\"\']/}
         if [[ ${#words[@]} -gt 0 && ($is_glued || $word == =) ]]; then
             words[-1]+=$word
         else
@@ -22,10 +24,11 @@ _rvcatalog() {
         if [[ $word == :files ]]; then
             compopt -o default 2>/dev/null
         else
+            # Commas mean something in braces only.
             printf -v word %q "${word#"$prefix"}"
-            COMPREPLY+=("$word")
+            COMPREPLY+=("${word//\\,/,}")
         fi
-    done < <("${COMP_WORDS[0]}" complete "${words[@]}" 2>/dev/null)
+    done < <("${COMP_WORDS[0]}" complete -- "${words[@]}" 2>/dev/null)
     # A value follows at once.
     [[ ${#COMPREPLY[@]} -ne 1 || ${COMPREPLY[0]} != *= ]] || compopt -o nospace 2>/dev/null
 }
