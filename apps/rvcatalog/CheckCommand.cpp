@@ -49,7 +49,7 @@ int checkCommand(const QStringList &arguments, const Console &console)
     parser.setApplicationDescription(u"Finds what would go wrong with catalogues in the ordering application: one\n"
                                      "finding a line, in the order of the file, and a summary last. Ends with 1 when\n"
                                      "there are errors or warnings, with 2 when a file cannot be read, and with 130\n"
-                                     "when it is interrupted."_s);
+                                     "or 143 when SIGINT or SIGTERM ended it."_s);
     CheckOptions::addTo(&parser);
     parser.addPositionalArgument(u"CATALOGUE"_s, u"The products XML; \"-\" is the standard input."_s,
                                  u"CATALOGUE.xml..."_s);

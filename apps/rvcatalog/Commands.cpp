@@ -33,7 +33,8 @@ QString usage()
     return text
             + "\n\"rvcatalog help COMMAND\" explains a command; \"rvcatalog --version\" prints the\n"
               "version. The file \"-\" is the standard input.\n"
-              "Exit codes: 0 fine, 1 problems found, 2 cannot read or write.\n"_L1;
+              "Exit codes: 0 fine or equal, 1 problems or differences found, 2 cannot read,\n"
+              "write or understand the command line, 130 and 143 interrupted.\n"_L1;
 }
 
 /// The exit code of the command, or that of an unreadable file if its output could not be written, for example because
@@ -46,6 +47,18 @@ int withOutput(int exitCode, const Console &console)
     return EXIT_UNREADABLE;
 }
 
+/// The reason why there is no such command, and what was probably meant.
+QString refusal(const QString &name)
+{
+    if (!name.startsWith(u'-'))
+        return u"there is no command \"%1\"%2"_s.arg(name, didYouMean(name, commandNames()));
+    QString word = name;
+    while (word.startsWith(u'-'))
+        word.remove(0, 1);
+    const QString suggestion = didYouMean(word, { u"help"_s, u"version"_s }, u"--"_s);
+    return u"there is no option \"%1\" in front of a command%2"_s.arg(name, suggestion);
+}
+
 /// Runs the command of that name; the exit code of wrong usage, with a message, where there is none.
 int runNamed(const QString &name, const QStringList &arguments, const Console &console)
 {
@@ -55,7 +68,7 @@ int runNamed(const QString &name, const QStringList &arguments, const Console &c
     }
     QTextStream out(console.messages);
     if (!name.isEmpty())
-        out << "rvcatalog: there is no command \"" << name << '"' << didYouMean(name, commandNames()) << '\n';
+        out << "rvcatalog: " << refusal(name) << '\n';
     out << usage();
     return EXIT_UNREADABLE;
 }

@@ -59,6 +59,12 @@ void tst_Arguments::messages_data()
     QTest::newRow("command far away") << QStringList { u"sing"_s } << u"rvcatalog: there is no command \"sing\""_s;
     QTest::newRow("help of a command nearby") << QStringList { u"help"_s, u"ordr"_s }
                                               << u"rvcatalog: there is no command \"ordr\"; did you mean \"order\"?"_s;
+    QTest::newRow("option of the program nearby")
+            << QStringList { u"--hlep"_s }
+            << u"rvcatalog: there is no option \"--hlep\" in front of a command; did you mean \"--help\"?"_s;
+    QTest::newRow("option in front of the command")
+            << QStringList { u"--json"_s, u"show"_s, u"c.xml"_s }
+            << u"rvcatalog: there is no option \"--json\" in front of a command"_s;
     QTest::newRow("option nearby") << QStringList { u"show"_s, u"--wehre=a=b"_s, u"c.xml"_s }
                                    << u"rvcatalog: Unknown option 'wehre'; did you mean \"--where\"?"_s;
     QTest::newRow("short form nearby") << QStringList { u"keywords"_s, u"--jsn"_s }
