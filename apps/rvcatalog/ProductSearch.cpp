@@ -4,7 +4,11 @@
 
 using namespace Qt::StringLiterals;
 
-WantedType::WantedType(const RVProductType &type) : myType(type), myNearest(type.toString()) { }
+// With more than half of its letters changed, a code is another code.
+WantedType::WantedType(const RVProductType &type)
+    : myType(type),
+      myNearest(type.toString(), int(type.toString().size() + 1) / 2)
+{ }
 
 bool WantedType::offer(const RVProductType &type)
 {
