@@ -109,7 +109,7 @@ void CheckRun::write(const QString &fileName, const QList<RVCatalogueFinding> &f
         if (myBaseline->isKnown(fileName, finding))
             continue;
         mySummary.count(finding);
-        if (myWritten == myOptions.mostFindings) {
+        if (!myOptions.isSummary && myWritten == myOptions.mostFindings) {
             ++mySummary.omitted;
         } else {
             ++myWritten;

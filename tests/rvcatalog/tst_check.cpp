@@ -94,6 +94,7 @@ private Q_SLOTS:
     void maxFindings_data();
     void maxFindings();
     void maxFindingsInJson();
+    void maxFindingsOfSummary();
     void summary();
     void quiet();
     void jobs();
@@ -518,6 +519,14 @@ void tst_check::maxFindingsInJson()
     const QJsonObject sums = document.value("summary"_L1).toObject();
     QCOMPARE(sums.value("omitted"_L1).toInt(), 1);
     QCOMPARE(sums.value("warnings"_L1).toInt(), 1);
+}
+
+// The numbers of the rules are whole whatever is left out of the findings, which nobody would see anyway.
+void tst_check::maxFindingsOfSummary()
+{
+    const Run run = check({ u"--max-findings=1"_s, u"--summary"_s, u"faults.xml"_s });
+    QVERIFY2(run.output.endsWith("\n3 products in 1 file: 1 error, 1 warning, 1 note\n"_L1), qPrintable(run.output));
+    QCOMPARE(run.output.count(u'\n'), 4);
 }
 
 void tst_check::summary()
