@@ -1,5 +1,6 @@
 #include "CatalogueJson.h"
 
+#include "Interruption.h"
 #include "ProductJson.h"
 
 #include <QMutex>
@@ -83,7 +84,7 @@ void writeCatalogueJson(CatalogueFile &file, const ProductFilter &filter, ShowRe
                           isFirst = isFirst && lines.count == 0;
                           report->addTypes(lines.types);
                           report->addShown(lines.count, lines.problems);
-                          return true;
+                          return Interruption::signal() == 0;
                       });
     console.write("\n]\n");
     std::fflush(console.output);

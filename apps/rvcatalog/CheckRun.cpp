@@ -65,12 +65,10 @@ bool CheckRun::goesOn() const
     return Interruption::signal() == 0 && std::ferror(myConsole.output) == 0;
 }
 
-// Shells use the same for a program that a signal has ended.
 int CheckRun::exitCode() const
 {
-    constexpr int signalBase = 128;
     if (mySummary.signal != 0)
-        return signalBase + mySummary.signal;
+        return Interruption::exitCode(mySummary.signal);
     if (mySummary.unreadable > 0)
         return EXIT_UNREADABLE;
     return mySummary.errors > 0 || mySummary.warnings > 0 ? EXIT_PROBLEMS : EXIT_FINE;

@@ -41,7 +41,7 @@ qint64 now()
 
 void endAtOnce(int signal)
 {
-    ::signal(signal, SIG_DFL); // NOLINT(cert-err33-c): nothing could be done about an error
+    ::signal(signal, SIG_DFL);
     ::raise(signal);
 }
 

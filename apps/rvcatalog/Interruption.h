@@ -16,6 +16,8 @@ public:
 
     /// The signal that came; 0 while none did.
     static int signal();
+    /// The exit code that shells use for a program which @p signal has ended.
+    static constexpr int exitCode(int signal) { return 128 + signal; }
     /// Can be read from once a signal came; -1 while there is no interruption.
     static int descriptor();
 };

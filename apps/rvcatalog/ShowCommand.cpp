@@ -1,10 +1,14 @@
 #include "CatalogueJson.h"
+#include "Interruption.h"
 #include "ProductSheet.h"
 #include "ProductTable.h"
 #include "SubCommands.h"
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <QTextStream>
+
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -51,11 +55,17 @@ Write writer(const QString &format, bool isLong)
 
 int show(const QString &fileName, const ProductFilter &filter, Write write, const Console &console)
 {
+    // A signal leaves whole JSON. The reading from a pipe would not notice it, and waits for who knows how long.
+    std::optional<Interruption> interruption;
+    if (write == writeCatalogueJson && QFileInfo(fileName).isFile())
+        interruption.emplace();
     CatalogueFile file(fileName, console);
     if (file.reportError())
         return EXIT_UNREADABLE;
     ShowReport report(file, filter);
     write(file, filter, &report, console);
+    if (const int signal = Interruption::signal(); signal != 0)
+        return Interruption::exitCode(signal);
     return file.finish() ? report.end() : EXIT_UNREADABLE;
 }
 

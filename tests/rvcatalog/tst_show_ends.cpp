@@ -1,0 +1,87 @@
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// So many that the program needs a while.
+constexpr int PRODUCTS = 300000;
+
+}
+
+/// The end of "show" where something else than the end of the catalogue brings it.
+class tst_show_ends : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void interrupted_data();
+    void interrupted();
+    void notInterrupted();
+
+private:
+    void start(QProcess *process) const;
+
+    QTemporaryDir myFolder;
+};
+
+void tst_show_ends::initTestCase()
+{
+    QFile file(myFolder.filePath(u"large.xml"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("<p>");
+    for (int i = 0; i < PRODUCTS; ++i)
+        file.write("<product type='T" + QByteArray::number(i) + "' pages='1'/>\n");
+    file.write("</p>");
+}
+
+void tst_show_ends::start(QProcess *process) const
+{
+    process->setWorkingDirectory(myFolder.path());
+    process->start(QStringLiteral(RVCATALOG), { u"show"_s, u"--json"_s, u"large.xml"_s });
+}
+
+void tst_show_ends::interrupted_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::addColumn<int>("exitCode");
+
+    QTest::newRow("SIGINT") << SIGINT << 130;
+    QTest::newRow("SIGTERM") << SIGTERM << 143;
+}
+
+void tst_show_ends::interrupted()
+{
+    QFETCH(int, signal);
+    QProcess process;
+    start(&process);
+    QVERIFY(process.waitForReadyRead(20000));
+    ::kill(pid_t(process.processId()), signal);
+    QVERIFY(process.waitForFinished(60000));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QTEST(process.exitCode(), "exitCode");
+    QCOMPARE(process.readAllStandardError(), QByteArray());
+    const QJsonDocument document = QJsonDocument::fromJson(process.readAllStandardOutput());
+    QVERIFY(document.isArray());
+    QVERIFY(document.array().size() < PRODUCTS);
+}
+
+void tst_show_ends::notInterrupted()
+{
+    QProcess process;
+    start(&process);
+    QVERIFY(process.waitForFinished(60000));
+    QCOMPARE(process.exitCode(), 0);
+    QCOMPARE(QJsonDocument::fromJson(process.readAllStandardOutput()).array().size(), PRODUCTS);
+}
+
+QTEST_GUILESS_MAIN(tst_show_ends)
+#include "tst_show_ends.moc"
