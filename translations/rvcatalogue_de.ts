@@ -1260,7 +1260,7 @@
     </message>
     <message>
         <source>there is a step (page_step), but no highest page count (max_pages), so %1 pages are the only count; write the highest one</source>
-        <translation>es gibt einen Schritt (page_step), aber keine höchste Seitenzahl (max_pages), also ist %1 die einzige Seitenzahl; bitte die höchste angeben</translation>
+        <translation>es gibt einen Schritt (page_step), aber keine größte Seitenzahl (max_pages), also ist %1 die einzige Seitenzahl; bitte die größte angeben</translation>
     </message>
     <message>
         <source>there are %1 page counts from %2 to %3; lower max_pages, or raise page_step</source>
