@@ -86,9 +86,9 @@ const RVCheckedOption *mostUsual(Iterator begin, Iterator end, Value value)
     std::stable_sort(options.begin(), options.end(), [&value](const RVCheckedOption *a, const RVCheckedOption *b) {
         return value(a).compare(value(b)) < 0;
     });
-    for (auto first = options.cbegin(); first != options.cend();) {
-        const auto last = std::find_if(first, options.cend(),
-                                       [&](const RVCheckedOption *option) { return value(option) != value(*first); });
+    for (const RVCheckedOption *const *first = options.cbegin(); first != options.cend();) {
+        const auto *const last = std::find_if(
+                first, options.cend(), [&](const RVCheckedOption *option) { return value(option) != value(*first); });
         const bool isBetter = last - first > most || (last - first == most && std::less<>()(*first, result));
         if (isBetter && !value(*first).isEmpty()) {
             most = last - first;
@@ -137,7 +137,7 @@ void RVOptionSpellingCheck::check(const RVOptionsByKey &options)
         checkLetters(*option, "value"_L1);
     }
     for (Iterator begin = options.begin(); begin != options.end();) {
-        const auto end = std::find_if(begin, options.end(), [begin](const RVCheckedOption *option) {
+        const auto *const end = std::find_if(begin, options.end(), [begin](const RVCheckedOption *option) {
             return option->key != (*begin)->key && compareFolded(option->key, (*begin)->key) != 0;
         });
         checkKeys(begin, end);
@@ -199,7 +199,7 @@ void RVOptionSpellingCheck::checkKeys(Iterator begin, Iterator end)
 void RVOptionSpellingCheck::checkValues(Iterator begin, Iterator end)
 {
     for (Iterator it = begin; it != end;) {
-        const auto next = std::find_if(it, end, [it](const RVCheckedOption *option) {
+        const auto *const next = std::find_if(it, end, [it](const RVCheckedOption *option) {
             return option->value != (*it)->value && compareFolded(option->value, (*it)->value) != 0;
         });
         const RVCheckedOption *first = earliest(it, next);
