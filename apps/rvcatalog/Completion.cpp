@@ -115,10 +115,9 @@ Candidates conditions(const QString &text)
     QString name = text.left(sign);
     if (name.endsWith(u'!'))
         name.chop(1);
-    for (CompletionCandidate candidate : keywords(RVCatalogueAttribute::find(name), text.mid(sign + 1))) {
-        candidate.word.prepend(text.left(sign + 1));
-        result += candidate;
-    }
+    const QList<CompletionCandidate> candidates = keywords(RVCatalogueAttribute::find(name), text.mid(sign + 1));
+    for (const CompletionCandidate &candidate : candidates)
+        result += { text.left(sign + 1) + candidate.word, candidate.description };
     return result;
 }
 
