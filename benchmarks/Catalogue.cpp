@@ -39,6 +39,18 @@ QString barcodeXml(int product, int page, const QString &unit)
                    .arg(product % 4);
 }
 
+/// Not wider than a book can be bound, in any unit.
+QString spineXml(int product)
+{
+    const QString unit = pick(UNITS, product);
+    const bool isCentimetres = unit == "cm"_L1;
+    return uR"(      <composition units="%1"><spine packages_per_block="%2" base_width="%3" block_width="%4" additional_width="0.25"/></composition>)"
+           "\n"_s.arg(unit)
+                   .arg(product % 3 + 1)
+                   .arg(isCentimetres ? u"0.%1"_s.arg(product % 8 + 1) : u"%1.5"_s.arg(product % 8 + 1))
+                   .arg(isCentimetres ? u"0.0%1"_s.arg(product % 9 + 1) : u"0.%1"_s.arg(product % 9 + 1));
+}
+
 }
 
 QByteArray productXml(int number, int forms)
@@ -56,12 +68,7 @@ QByteArray productXml(int number, int forms)
     const QString unit = pick(UNITS, number / 2);
     result += u"      <barcodes units=\"%1\">\n"_s.arg(unit);
     result += barcodeXml(number, 1, unit) + barcodeXml(number + 5, 2, unit) + u"      </barcodes>\n"_s;
-    result +=
-            uR"(      <composition units="%1"><spine packages_per_block="%2" base_width="%3.5" block_width="0.%4" additional_width="0.25"/></composition>)"
-            "\n"_s.arg(pick(UNITS, number))
-                    .arg(number % 3 + 1)
-                    .arg(number % 8 + 1)
-                    .arg(number % 9 + 1);
+    result += spineXml(number);
     result += u"      <forms>\n"_s;
     for (int form = 0; form < forms; ++form)
         result += formXml(number, form);
