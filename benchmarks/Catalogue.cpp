@@ -45,10 +45,9 @@ QString spineXml(int product)
     const QString unit = pick(UNITS, product);
     const bool isCentimetres = unit == "cm"_L1;
     return uR"(      <composition units="%1"><spine packages_per_block="%2" base_width="%3" block_width="%4" additional_width="0.25"/></composition>)"
-           "\n"_s.arg(unit)
-                   .arg(product % 3 + 1)
-                   .arg(isCentimetres ? u"0.%1"_s.arg(product % 8 + 1) : u"%1.5"_s.arg(product % 8 + 1))
-                   .arg(isCentimetres ? u"0.0%1"_s.arg(product % 9 + 1) : u"0.%1"_s.arg(product % 9 + 1));
+           "\n"_s.arg(unit, QString::number(product % 3 + 1),
+                      isCentimetres ? u"0.%1"_s.arg(product % 8 + 1) : u"%1.5"_s.arg(product % 8 + 1),
+                      isCentimetres ? u"0.0%1"_s.arg(product % 9 + 1) : u"0.%1"_s.arg(product % 9 + 1));
 }
 
 }

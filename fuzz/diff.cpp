@@ -20,7 +20,7 @@
 
 namespace {
 
-/// What a comparison said.
+/// The answers of a comparison.
 struct Result
 {
     RVComparisonCounts counts;
@@ -123,7 +123,7 @@ void checkCommand(const Result &expected, const QByteArray &before, const QByteA
     }
 }
 
-// What was added one way was removed the other way.
+// A product that was added one way was removed the other way.
 void checkMirrored(const Result &there, const Result &back)
 {
     CHECK_EQUAL(there.hasError, back.hasError);

@@ -14,7 +14,7 @@
 
 namespace {
 
-/// What a check says of a file.
+/// The findings of a check in a file.
 struct Checked
 {
     QList<RVCatalogueFinding> findings;

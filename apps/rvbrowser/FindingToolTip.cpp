@@ -18,7 +18,7 @@ QString placeText(const RVRelatedPlace &place)
 
 }
 
-// What a catalogue says goes in as text, so none of it is taken for markup.
+// The texts of a catalogue go in as text, so none of them is taken for markup.
 QString findingToolTip(const RVCatalogueFinding &finding)
 {
     QTextDocument document;

@@ -13,7 +13,7 @@
 
 class QCommandLineParser;
 
-/// What the command line of "check" asks for.
+/// The wishes of the command line of "check".
 struct CheckOptions
 {
     QStringList fileNames;

@@ -14,7 +14,7 @@ struct RuleCount
     RVCatalogueSeverity severity = RVCatalogueSeverity::Note;
 };
 
-/// What a run of "check" comes to.
+/// The result of a run of "check".
 struct CheckSummary
 {
     qint64 files = 0;

@@ -23,7 +23,7 @@ bool Configurations::read(const QStringList &catalogues, const Console &console)
     return broken.isEmpty();
 }
 
-// What is said on the command line comes last.
+// The command line has the last word.
 RVCatalogueCheck Configurations::check(const QString &catalogue) const
 {
     RVCatalogueCheck result = myCheck;

@@ -5,7 +5,7 @@
 
 #include <QStringList>
 
-/// The files without those that were named before, be it by another path; a message says so of each of them. Two links
+/// The files without those that were named before, also by another path; a message says so of each of them. Two links
 /// to one file are the same, and so is "-" with itself.
 QStringList distinctFiles(const QStringList &fileNames, const Console &console);
 

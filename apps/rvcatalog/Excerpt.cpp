@@ -82,7 +82,7 @@ Excerpt excerptOf(const QString &line, const RVFileRange &range)
 {
     constexpr int numberWidth = 5;
     const QString gutter = QString::number(range.begin.line).rightJustified(numberWidth) + " | "_L1;
-    // What ends in another line is marked to the end of this one.
+    // A piece that ends in another line is marked to the end of this one.
     const qint64 end = range.end.line == range.begin.line ? range.end.column : line.size() + 1;
     const QList<Cell> cells = cellsOf(line, range.begin.column, qMax(end, range.begin.column + 1));
     Excerpt result { gutter, QString(gutter.size() - 2, u' ') + "| "_L1, u"^"_s };

@@ -16,8 +16,8 @@ namespace {
 constexpr int SIGNALS[] = { SIGINT, SIGTERM };
 constexpr std::size_t READ_END = 0;
 constexpr std::size_t WRITE_END = 1;
-/// Who ends a group of processes often sends the signal to each of them, and to the group as well. So what comes within
-/// that many milliseconds is the same request, and not an impatient second one.
+/// Programs that end a group of processes often send the signal to each of them, and to the group as well. So what
+/// comes within that many milliseconds is the same request, and not an impatient second one.
 constexpr qint64 ONE_REQUEST = 400;
 
 /// All that the process has of it, since signals are the process's.

@@ -10,7 +10,7 @@
 #include <RVCatalogueAttribute.h>
 #include <RVCatalogueProduct.h>
 
-/// What several commands write as JSON, so that it looks the same in all of them: lengths in millimetres under keys
+/// The JSON that several commands write, so that it looks the same in all of them: lengths in millimetres under keys
 /// that end in "_mm", null for what is missing, keys in their order. The schema describes each of them.
 /// @{
 void writeText(JsonWriter &json, const QString &text); ///< Null where it is empty.

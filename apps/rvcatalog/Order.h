@@ -19,7 +19,7 @@ public:
     /// Reasons why this cannot be ordered, each with its place in the project file.
     QList<Problem> problems() const;
 
-    /// What is ordered, with what the catalogue adds; for an order without problems.
+    /// The order, with what the catalogue adds; for an order without problems.
     /// @{
     const ProductValues &values() const { return myValues; }
     int pages() const; ///< The lowest count where the project says nothing.

@@ -3,7 +3,7 @@
 
 #include <QIODevice>
 
-/// What comes from a pipe or a terminal, as soon as it is there: a reading takes what there is and waits only where
+/// The input from a pipe or a terminal, as soon as it is there: a reading takes what there is and waits only where
 /// there is nothing. An interruption ends the waiting like the end of the input.
 class PipeInput : public QIODevice
 {

@@ -15,7 +15,7 @@ QString capitalised(const QString &text)
     return text.left(1).toUpper() + text.mid(1);
 }
 
-/// What is said about a value of an option, each piece once.
+/// The remarks about a value of an option, each piece once.
 QString valueText(const ProductOption &option)
 {
     QStringList pieces;

@@ -20,7 +20,7 @@ QString spineText(const ProductValues &values);
 QString fontText(const ProductValues &values); ///< The same of the largest font size in pt.
 /// "38.0 x 10.0 mm at 12.0, 280.5 on page 2"
 QString barcodeText(const RVBarcodeDefinition &barcode);
-/// What the product is made of, in the order of RV_CATALOGUE_ATTRIBUTES.
+/// The attributes of the product, in the order of RV_CATALOGUE_ATTRIBUTES.
 QList<LabelledText> attributeTexts(const RVCatalogueProduct &product);
 
 #endif

@@ -5,7 +5,7 @@
 
 #include <QString>
 
-/// Why there is no rule of that name, with the one that was probably meant.
+/// The message that there is no rule of that name, with the one that was probably meant.
 QString noRuleText(const QString &name);
 
 #endif

@@ -12,7 +12,7 @@ class ShowReport
 public:
     ShowReport(const CatalogueFile &file, const ProductFilter &filter);
 
-    /// What is wrong with a product. Any thread may ask.
+    /// The findings about a product. Any thread may ask.
     static QList<Problem> problems(const ProductValues &values);
 
     /// Products of the catalogue, be they shown or not.

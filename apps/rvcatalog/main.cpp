@@ -37,7 +37,7 @@ void useUtf8()
         qputenv("LC_ALL", "C.UTF-8");
 }
 
-// Where the program was started without an input, the first file that it opens would stand for it. This one cannot be
+// If the program was started without an input, the first file that it opens would stand for it. This one cannot be
 // read.
 void keepInputApart()
 {

@@ -20,7 +20,7 @@ struct RVComparisonCounts
 };
 
 /**
- * What differs between two catalogues, product by product:
+ * The differences between two catalogues, product by product:
  *
  * @code
  * RVCatalogueReader before(u"old.xml"_s);

@@ -40,7 +40,7 @@ public:
     QString reason() const; ///< One sentence on why it matters, in the language of the program.
     QByteArray example() const; ///< A catalogue in UTF-8 that breaks this rule and no other.
     QByteArray mendedExample() const; ///< The same catalogue without its fault; it breaks no rule.
-    /// Why it matters, both examples, and how to silence it, in the language of the program: the one text that
+    /// The reason, both examples, and how to silence it, in the language of the program: the one text that
     /// programs, pages and reports have of a rule. No line feed at the end; empty for the null rule.
     /// @{
     QString explanation() const; ///< As plain text, examples set in by four blanks.

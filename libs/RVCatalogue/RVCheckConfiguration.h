@@ -14,7 +14,7 @@ class RVCatalogueCheck;
 class RVCheckConfigurationData;
 
 /**
- * What a print house has of its own, so that catalogues are checked by it: rules that are off or have another severity,
+ * The wishes of a print house for the check of its catalogues: rules that are off or have another severity,
  * names that other programs read, price classes and page sizes. It is read from a file `rvcatalog.toml` or
  * `rvcatalog.json` beside the catalogue or in a folder above it:
  *

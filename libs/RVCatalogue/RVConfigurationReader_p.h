@@ -13,7 +13,7 @@
 
 #include <optional>
 
-/// What a configuration file says.
+/// The contents of a configuration file.
 struct RVConfigurationValues
 {
     struct Rule

@@ -130,7 +130,7 @@ void RVOptionSpellingCheck::check(const RVOptionsByKey &options)
     for (const RVCheckedOption *option : options) {
         const bool isDuplicate = previous && option->key == previous->key && option->value == previous->value;
         previous = option;
-        // What stands there twice, or is not equally many, is one mistake.
+        // An option that stands there twice, or whose values are not equally many, is one mistake.
         if (isDuplicate || option->hasMismatch)
             continue;
         checkLetters(*option, "key"_L1);

@@ -8,7 +8,7 @@
 #include <QList>
 
 /**
- * What differs between two versions of a product:
+ * The differences between two versions of a product:
  *
  * @code
  * for (const RVProductChange &change : RVProductComparison(oldBook, newBook).changes())

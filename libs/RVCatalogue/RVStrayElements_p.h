@@ -42,7 +42,7 @@ public:
     void endGroup();
     void startProduct(); ///< In the group that began last.
 
-    /// What the check finds about them, in any order. Only those in groups that have ended.
+    /// The findings about them, in any order. Only those in groups that have ended.
     QList<RVCatalogueFinding> findings(const RVCatalogueCheck &check) const;
     /// True where one of these findings, and no mere note, says that a product is not read.
     static bool haveProduct(const QList<RVCatalogueFinding> &findings);

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What a comparison says, one line a product: its kind, its types and the subjects that changed.
+/// The answers of a comparison, a line for each product: its kind, its types and the subjects that changed.
 struct Result
 {
     QStringList products;

@@ -546,7 +546,7 @@ void tst_RVFileEditor::savePermissions()
     }
 }
 
-// Who may give files away keeps the owner; anybody else owns what he has written.
+// A user who may give files away keeps the owner; anybody else owns what he has written.
 void tst_RVFileEditor::saveOwner()
 {
     const QString path = write(u"a.xml"_s, "<a b='1'/>");
@@ -562,7 +562,7 @@ void tst_RVFileEditor::saveOwner()
     QCOMPARE(state.st_gid, group);
 }
 
-// Where the file system has none, the file has none before and behind.
+// If the file system has none, the file has none before and behind.
 void tst_RVFileEditor::saveExtendedAttributes()
 {
     const QByteArray path = QFile::encodeName(write(u"a.xml"_s, "<a b='1'/>"));

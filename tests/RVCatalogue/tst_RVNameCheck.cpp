@@ -343,7 +343,7 @@ void tst_RVNameCheck::silent()
     QCOMPARE(CheckedCatalogue(file, check).rules(), QStringList());
 }
 
-// Whatever print houses write besides, no rule finds anything.
+// Other names that print houses write break no rule.
 void tst_RVNameCheck::cleanCatalogues()
 {
     for (quint32 seed = 1; seed <= 40; ++seed) {
@@ -385,7 +385,7 @@ void tst_RVNameCheck::oneMistake_data()
                                                      u"peices='1': attribute-misspelt"_s };
 }
 
-// What is there under a wrong name is not called missing as well.
+// An attribute that is there under a wrong name is not called missing as well.
 void tst_RVNameCheck::oneMistake()
 {
     QFETCH(QByteArray, file);

@@ -178,11 +178,12 @@ void tst_RVOptionSpellingCheck::texts()
     const CheckedCatalogue catalogue(
             options({ "key='a' value='x' key_name='A' preselected='1'", "key='a' value='X' key_name='B'",
                       "key='a,b' value=' y '", "key='c d' value='z' preselected='1'" }));
-    QCOMPARE(catalogue.texts().filter(u"selected"_s).size(), 1);
-    QCOMPARE(catalogue.texts().first(2),
+    const QStringList texts = catalogue.texts();
+    QCOMPARE(texts.filter(u"selected"_s).size(), 1);
+    QCOMPARE(texts.first(2),
              (QStringList { u"the value \"X\" differs from \"x\" in line 2 in letter case only; choose one spelling"_s,
                             u"the key \"a\" is named \"B\" here, but \"A\" in line 2; choose one name"_s }));
-    QCOMPARE(catalogue.texts().last(2),
+    QCOMPARE(texts.last(2),
              (QStringList { u"the value \" y \" has a blank around it; take it out"_s,
                             u"the key \"c d\" has a blank in it; take it out"_s }));
     const CheckedCatalogue unseen(options({ "key='a\xc2\xa0"

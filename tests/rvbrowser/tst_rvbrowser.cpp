@@ -55,7 +55,7 @@ const char CATALOGUE[] =
         "max_pages='72' page_step='2'/>\n"
         "</products>\n";
 
-/// What a tool tip shows, line by line.
+/// The lines of a tool tip.
 QStringList toolTipLines(const QModelIndex &index)
 {
     const QString text = index.data(Qt::ToolTipRole).toString();

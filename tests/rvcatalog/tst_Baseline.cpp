@@ -278,7 +278,7 @@ void tst_Baseline::severalCatalogues()
     const CommandRun one({ u"check"_s, u"--baseline"_s, u"b.json"_s, u"c.xml"_s });
     QCOMPARE(one.messages, QString());
     QCOMPARE(one.exitCode, 0);
-    // What is known of one is not known of another.
+    // A baseline that knows one catalogue does not know another.
     write(u"e.xml"_s, CATALOGUE);
     const CommandRun other({ u"check"_s, u"--baseline"_s, u"b.json"_s, u"c.xml"_s, u"e.xml"_s });
     QVERIFY(findings(other) >= 4);
@@ -324,7 +324,7 @@ void tst_Baseline::standardInput()
     QCOMPARE(CommandRun({ u"check"_s, u"--baseline"_s, u"b.json"_s, u"c.xml"_s }).exitCode, 1);
 }
 
-// What nobody looks for is not mended.
+// Findings that nobody looks for are not mended.
 void tst_Baseline::ruleThatIsOff()
 {
     QCOMPARE(CommandRun({ u"check"_s, u"--write-baseline"_s, u"b.json"_s, u"c.xml"_s }).exitCode, 0);

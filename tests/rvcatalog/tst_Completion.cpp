@@ -128,7 +128,7 @@ void tst_Completion::descriptions()
             u"Only products that meet this, such as cover_type=HARDCOVER. Of several conditions, all have to be met."_s);
 }
 
-// What the program takes can be completed, so this needs no row for a new command or option.
+// Everything that the program takes can be completed, so this needs no row for a new command or option.
 void tst_Completion::everyCommandAndOption()
 {
     QCOMPARE(words(complete({ QString() })), commandNames() + QStringList { u"help"_s });

@@ -38,7 +38,7 @@ RVCatalogueFinding wholeFinding()
     return result;
 }
 
-/// What a writer makes of a run over one file.
+/// The output of a writer for a run over one file.
 class Report
 {
 public:

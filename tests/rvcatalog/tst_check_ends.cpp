@@ -323,7 +323,7 @@ void tst_check_ends::signalThatComesTwice()
     QCOMPARE(check.process.exitCode(), 143);
 }
 
-// Who presses the keys twice means it.
+// Somebody who presses the keys twice means it.
 void tst_check_ends::secondSignal()
 {
     FullPipeCheck check(myFolder.path());

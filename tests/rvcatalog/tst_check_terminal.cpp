@@ -141,7 +141,7 @@ void tst_check_terminal::pipe()
     QTEST(process.readAllStandardOutput(), "output");
 }
 
-// What came from a pipe cannot be read again.
+// A pipe cannot be read again.
 void tst_check_terminal::standardInput()
 {
     const QByteArray shown = shownBy({ u"-"_s }, {}, FAULT);

@@ -244,7 +244,7 @@ void tst_configuration::contradictions()
     QCOMPARE(run.exitCode, 2);
 }
 
-// What is shown does not depend on what is checked.
+// The list of a command does not depend on what is checked.
 void tst_configuration::otherCommands_data()
 {
     QTest::addColumn<QStringList>("arguments");

@@ -12,7 +12,7 @@ namespace {
 const QString DRIVERS = QString::fromUtf8(DRIVER_FOLDER);
 const QString SCRIPTS = QString::fromUtf8(SCRIPT_FOLDER);
 
-/// What a shell writes when it completes a command line, line by line.
+/// The lines that a shell writes when it completes a command line.
 QStringList complete(const QString &shell, const QString &driver, const QString &script, const QStringList &line)
 {
     QProcess process;

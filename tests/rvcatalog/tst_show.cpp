@@ -234,7 +234,7 @@ void tst_show::wrongCondition()
     QCOMPARE(shown.exitCode, 2);
 }
 
-// What stands before the break is whole, and so is the JSON.
+// The part before the break is whole, and so is the JSON.
 void tst_show::brokenCatalogue()
 {
     const CommandRun shown = run({ u"show"_s, u"--json"_s, u"-"_s },
