@@ -15,7 +15,7 @@ public:
     explicit CatalogueSession(QObject *parent = nullptr);
 
     void open(const QString &fileName);
-    /// Reads the open file again; begins anew with the one that is being loaded, or that could not be while there is
+    /// Reads the open file again; starts over with the one that is being loaded, or that could not be while there is
     /// none.
     void reload();
     void cancel() { myLoader.cancel(); }

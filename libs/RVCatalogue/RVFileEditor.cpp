@@ -393,8 +393,8 @@ bool RVFileEditorPrivate::save()
 // The new file is complete on the disk before it gets the name of the old one.
 bool RVFileEditorPrivate::replace(const QString &target, QFile *from, QTemporaryFile *to)
 {
-    stamp.giveAccess(from->handle(), to->handle());
-    if (::fsync(to->handle()) != 0)
+    // A file that others could read is not replaced by one that they cannot.
+    if (!stamp.giveAccess(from->handle(), to->handle()) || ::fsync(to->handle()) != 0)
         return fail(tr("cannot write: %1").arg(qt_error_string(errno)));
     if (RVFileStamp(fileName) != stamp)
         return fail(tr("the file was changed meanwhile; check it again"));

@@ -52,12 +52,14 @@ bool RVFileStamp::isOrdinary() const
 
 // The owner goes first, since a new one takes some permissions away. Who may not give the file away may still give it
 // to another group of his.
-void RVFileStamp::giveAccess(int from, int to) const
+bool RVFileStamp::giveAccess(int from, int to) const
 {
     if (::fchown(to, myState.st_uid, myState.st_gid) != 0) {
         const bool hasGroup = ::fchown(to, uid_t(-1), myState.st_gid) == 0;
         Q_UNUSED(hasGroup)
     }
-    ::fchmod(to, myState.st_mode & PERMISSIONS);
+    if (::fchmod(to, myState.st_mode & PERMISSIONS) != 0)
+        return false;
     copyExtendedAttributes(from, to);
+    return true;
 }

@@ -16,8 +16,9 @@ public:
 
     bool isOrdinary() const; ///< False for folders, pipes and devices, and for no file.
     /// Gives the file @p to owner, group, permissions and extended attributes, which access control lists are, of this
-    /// one, which is open as @p from; as far as the program may and the file system can.
-    void giveAccess(int from, int to) const;
+    /// one, which is open as @p from; owner, group and attributes as far as the program may and the file system can.
+    /// False where the permissions cannot be given, with the reason in errno.
+    [[nodiscard]] bool giveAccess(int from, int to) const;
 
     friend bool operator==(const RVFileStamp &a, const RVFileStamp &b)
     {

@@ -853,7 +853,7 @@ void tst_rvbrowser::changesWhileLoadingAnother()
     QTRY_COMPARE_WITH_TIMEOUT(text(u"title"_s), u"DUN9 – Buch"_s, 20000);
 
     myWindow->session()->open(path(u"big.xml"_s));
-    QTest::keyClick(myWindow.get(), Qt::Key_F5); // begins anew with the same file
+    QTest::keyClick(myWindow.get(), Qt::Key_F5); // starts over with the same file
     QCOMPARE(started.constLast().at(0).toString(), path(u"big.xml"_s));
     QTRY_COMPARE_WITH_TIMEOUT(text(u"count"_s), u"50000 products"_s, 60000);
 }
