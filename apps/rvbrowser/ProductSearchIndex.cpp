@@ -39,8 +39,11 @@ QByteArray searchable(const QString &text)
     return plain == spelled ? plain.toUtf8() : (plain + u'\n' + spelled).toUtf8();
 }
 
+/// An empty view may have no address, which memmem does not take.
 bool contains(QByteArrayView text, const QByteArray &word)
 {
+    if (text.isEmpty())
+        return word.isEmpty();
     return ::memmem(text.data(), std::size_t(text.size()), word.constData(), std::size_t(word.size())) != nullptr;
 }
 
