@@ -5,14 +5,12 @@
 #include <QList>
 #include <QString>
 #include <QStringView>
-#include <QtMath>
 
 #include <algorithm>
-#include <cstring>
 
 /**
- * Keywords in the form in which they are found fastest: a flat hash table that reads and compares four letters at a
- * time. The values are those of any enumeration.
+ * Keywords in the form in which they are found fastest: those of one length together, in lower case. The values are
+ * those of any enumeration.
  *
  * A part of RVEnumToStringTable, which applications ask instead.
  *
@@ -40,28 +38,18 @@ public:
     bool covers(QStringView keyword) const noexcept;
 
 private:
-    static constexpr quint64 EACH = 0x0001'0001'0001'0001; // puts a number into each of the four letters of a word
-    static constexpr quint64 CASE = 0x20 * EACH; // tells "a" from "A"
-    static constexpr quint64 GOLDEN_RATIO = 0x9e37'79b9'7f4a'7c15; // a part of 2^64; spreads what differs in few bits
-
-    struct Slot
+    struct Keyword
     {
-        bool isFree() const noexcept { return length < 0; }
-        bool holds(QStringView keyword) const noexcept;
+        bool matches(const QChar *letters) const noexcept;
 
-        quint64 words[LONGEST / 4] = {};
-        qsizetype length = -1;
-        qint64 value = 0;
+        QString text; // in lower case
+        qint64 value;
     };
 
     static QStringView trimmed(QStringView text) noexcept;
-    static quint64 word(QStringView text, qsizetype number) noexcept;
-    static quint64 lowerCase(quint64 word) noexcept;
-    static qsizetype wordCount(QStringView text) noexcept { return (text.size() + 3) / 4; }
-    qsizetype position(QStringView keyword) const noexcept;
-    void insert(QStringView keyword, qint64 value);
+    static char16_t lowerCase(QChar letter) noexcept;
 
-    QList<Slot> mySlots; // as many as a power of two, half of them or more free
+    QList<QList<Keyword>> myKeywords; // by their length
 };
 
 template<typename ENUM>
@@ -69,60 +57,36 @@ RVKeywordIndex::RVKeywordIndex(const QHash<QString, ENUM> &keywords)
 {
     if (keywords.isEmpty())
         return;
-    mySlots.resize(qsizetype(qNextPowerOfTwo(quint64(keywords.size()) * 2 - 1)));
+    myKeywords.resize(LONGEST + 1);
     for (auto it = keywords.begin(); it != keywords.end(); ++it) {
         if (covers(it.key()))
-            insert(it.key(), qint64(it.value()));
+            myKeywords[it.key().size()].append({ it.key().toLower(), qint64(it.value()) });
     }
-}
-
-inline void RVKeywordIndex::insert(QStringView keyword, qint64 value)
-{
-    Slot &slot = mySlots[position(keyword)];
-    for (qsizetype i = 0; i < wordCount(keyword); ++i)
-        slot.words[i] = lowerCase(word(keyword, i));
-    slot.length = keyword.size();
-    slot.value = value;
 }
 
 inline const qint64 *RVKeywordIndex::find(QStringView keyword) const noexcept
 {
-    if (mySlots.isEmpty())
+    const QStringView wanted = trimmed(keyword);
+    if (wanted.size() >= myKeywords.size())
         return nullptr;
-    const Slot &slot = mySlots.at(position(trimmed(keyword)));
-    return slot.isFree() ? nullptr : &slot.value;
+    for (const Keyword &known : myKeywords.at(wanted.size())) {
+        if (known.matches(wanted.data()))
+            return &known.value;
+    }
+    return nullptr;
 }
 
 inline bool RVKeywordIndex::covers(QStringView keyword) const noexcept
 {
-    return !mySlots.isEmpty() && keyword.size() <= LONGEST
+    return !myKeywords.isEmpty() && keyword.size() <= LONGEST
             && std::all_of(keyword.begin(), keyword.end(), [](QChar letter) { return letter.unicode() < 0x80; });
 }
 
-// Where the keyword is, else the free slot where it would be. First and last letters tell most keywords apart.
-inline qsizetype RVKeywordIndex::position(QStringView keyword) const noexcept
+// As many letters as the keyword has.
+inline bool RVKeywordIndex::Keyword::matches(const QChar *letters) const noexcept
 {
-    const quint64 first = word(keyword, 0) | CASE;
-    const quint64 last = word(keyword, wordCount(keyword) - 1) | CASE;
-    const quint64 hash = (first + 31 * last + quint64(keyword.size())) * GOLDEN_RATIO;
-    const Slot *const all = mySlots.constData();
-    const qsizetype mask = mySlots.size() - 1;
-    qsizetype i = qsizetype(hash >> 32) & mask;
-    while (!all[i].isFree() && !all[i].holds(keyword))
-        i = (i + 1) & mask;
-    return i;
-}
-
-// A letter beyond ASCII keeps the bits that tell it from every letter of a keyword.
-inline bool RVKeywordIndex::Slot::holds(QStringView keyword) const noexcept
-{
-    if (length != keyword.size())
-        return false;
-    for (qsizetype i = 0; i < wordCount(keyword); ++i) {
-        if (lowerCase(word(keyword, i)) != words[i])
-            return false;
-    }
-    return true;
+    return std::equal(text.begin(), text.end(), letters,
+                      [](QChar known, QChar letter) { return known.unicode() == lowerCase(letter); });
 }
 
 // The white space of ASCII.
@@ -136,28 +100,10 @@ inline QStringView RVKeywordIndex::trimmed(QStringView text) noexcept
     return text;
 }
 
-// Four letters. Those of the last word come from the end of the text, so some may be in the word before it as well.
-inline quint64 RVKeywordIndex::word(QStringView text, qsizetype number) noexcept
+// Letters beyond ASCII stay, so they match none of a keyword.
+inline char16_t RVKeywordIndex::lowerCase(QChar letter) noexcept
 {
-    const char16_t *const letters = text.utf16();
-    quint64 result = 0;
-    if (text.size() >= 4) {
-        std::memcpy(&result, letters + std::min(number * 4, text.size() - 4), sizeof result);
-        return result;
-    }
-    for (qsizetype i = 0; i < text.size(); ++i)
-        result = result << 16 | letters[i];
-    return result;
-}
-
-// Bit 7 of an ASCII letter is free. It becomes set where a letter is moved up far enough: from "A", and behind "Z".
-// What comes of other letters does not matter, as long as no bit of theirs is cleared.
-inline quint64 RVKeywordIndex::lowerCase(quint64 word) noexcept
-{
-    const quint64 fromA = word + (0x80 - u'A') * EACH;
-    const quint64 behindZ = word + (0x80 - (u'Z' + 1)) * EACH;
-    const quint64 upperCase = fromA & ~behindZ & 0x80 * EACH;
-    return word | upperCase >> 2; // in the place of CASE
+    return letter >= u'A' && letter <= u'Z' ? char16_t(letter.unicode() + 0x20) : letter.unicode();
 }
 
 #endif
