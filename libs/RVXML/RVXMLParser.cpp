@@ -5,10 +5,10 @@
 #include <QString>
 
 #include <algorithm>
-#include <cfloat>
+#include <charconv>
 #include <iterator>
-#include <limits>
 #include <optional>
+#include <system_error>
 
 namespace {
 
@@ -35,49 +35,26 @@ bool isOneOf(const Texts &texts, const QString &text)
     });
 }
 
-/// A number such as "154" or "-290.5": its digits without the point, and how many of them stand behind it.
-struct PlainNumber
+/// The number that a short ASCII text is, as nearly all numbers of a catalogue are; the others are Qt's to judge.
+template<typename Number>
+std::optional<Number> parsed(QStringView text) noexcept
 {
-    qint64 digits = 0;
-    qsizetype decimals = 0;
-    bool isNegative = false;
-};
-
-/// A double holds all numbers of this length.
-constexpr qsizetype MOST_LETTERS = 15;
-constexpr double POWERS_OF_TEN[] = { 1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13 };
-
-/// A register with more digits than a double, as on i386, rounds a quotient twice, which may then be off by a bit.
-constexpr bool ROUNDS_ONCE = FLT_EVAL_METHOD == 0;
-
-static_assert(std::size(POWERS_OF_TEN) == MOST_LETTERS - 1, "one letter is the point, and one stands before it");
-
-/// Reads what nearly every number of a catalogue looks like; the other ones are Qt's to judge. No number that it reads
-/// has more digits than a double holds, so one division gives the nearest one.
-std::optional<PlainNumber> parsePlain(QStringView text) noexcept
-{
-    PlainNumber number;
-    number.isNegative = text.startsWith(u'-');
-    const QStringView digits = number.isNegative ? text.sliced(1) : text;
-    if (digits.isEmpty() || digits.size() > MOST_LETTERS)
+    constexpr qsizetype MOST_LETTERS = 24;
+    if (text.size() > MOST_LETTERS)
         return std::nullopt;
-    for (qsizetype i = 0; i < digits.size(); ++i) {
-        const QChar letter = digits[i];
-        if (letter >= u'0' && letter <= u'9')
-            number.digits = number.digits * 10 + (letter.unicode() - u'0');
-        else if (letter == u'.' && number.decimals == 0 && i > 0 && i + 1 < digits.size())
-            number.decimals = digits.size() - i - 1;
-        else
-            return std::nullopt;
-    }
+    char letters[MOST_LETTERS];
+    char *const end = std::transform(text.begin(), text.end(), letters, [](QChar letter) { return letter.toLatin1(); });
+    Number number {};
+    const auto [parsedEnd, error] = std::from_chars(letters, end, number);
+    if (error != std::errc() || parsedEnd != end)
+        return std::nullopt;
     return number;
 }
 
 int toInt(const QString &text, int defaultValue)
 {
-    if (const auto plain = parsePlain(text);
-        plain && plain->decimals == 0 && plain->digits <= std::numeric_limits<int>::max())
-        return int(plain->isNegative ? -plain->digits : plain->digits);
+    if (const auto plain = parsed<int>(text))
+        return *plain;
     bool isNumber = false;
     const int number = text.toInt(&isNumber);
     return isNumber && !text.contains(QChar::Null) ? number : defaultValue; // Qt's number ends at a null character
@@ -85,10 +62,8 @@ int toInt(const QString &text, int defaultValue)
 
 qreal toDouble(const QString &text, qreal defaultValue)
 {
-    if (const auto plain = parsePlain(text); plain && (ROUNDS_ONCE || plain->decimals == 0)) {
-        const double number = double(plain->digits) / POWERS_OF_TEN[plain->decimals];
-        return plain->isNegative ? -number : number;
-    }
+    if (const auto plain = parsed<qreal>(text); plain && qIsFinite(*plain))
+        return *plain;
     bool isNumber = false;
     const qreal number = text.toDouble(&isNumber);
     return isNumber && qIsFinite(number) ? number : defaultValue;
