@@ -115,41 +115,69 @@ constexpr RVArticleClassEnum IMPORTANCE[] = {
     ARTICLE_CLASS_GIFT_BOX_SERVICE_CALENDAR_ADD_ON,
 };
 
-/// A text for every class that has one of the bits, unless an earlier row has one too.
-template<typename Text>
-struct TextOfBits
+/// A category of projects, for every class that has one of the bits unless an earlier row has one too.
+struct Category
 {
     RVArticleClassEnum bits;
-    Text text;
+    QLatin1StringView project;
+    const char *name;
 };
 
-constexpr TextOfBits<QLatin1StringView> PROJECT_CATEGORIES[] = {
-    { ARTICLE_CLASS_BOOK, "book"_L1 },         { ARTICLE_CLASS_PHOTO, "prints"_L1 }, { WALL_DECOR, "walldecor"_L1 },
-    { ARTICLE_CLASS_CALENDAR, "calendar"_L1 }, { ARTICLE_CLASS_CARD, "card"_L1 },
+// clang-format off
+constexpr Category CATEGORIES[] = {
+    { ARTICLE_CLASS_BOOK, "book"_L1, QT_TRANSLATE_NOOP("QObject", "RAVO FOTOBUCH") },
+    { ARTICLE_CLASS_PHOTO, "prints"_L1, QT_TRANSLATE_NOOP("QObject", "Fotos & mehr") },
+    { WALL_DECOR, "walldecor"_L1, QT_TRANSLATE_NOOP("QObject", "Poster & Wandbilder") },
+    { ARTICLE_CLASS_CALENDAR, "calendar"_L1, QT_TRANSLATE_NOOP("QObject", "RAVO KALENDER") },
+    { ARTICLE_CLASS_CARD, "card"_L1, QT_TRANSLATE_NOOP("QObject", "Grußkarten") },
 };
+// clang-format on
 
-constexpr TextOfBits<const char *> NAMES[] = {
-    { ARTICLE_CLASS_BOOK, QT_TRANSLATE_NOOP("QObject", "RAVO FOTOBUCH") },
-    { ARTICLE_CLASS_PHOTO, QT_TRANSLATE_NOOP("QObject", "Fotos & mehr") },
-    { WALL_DECOR, QT_TRANSLATE_NOOP("QObject", "Poster & Wandbilder") },
-    { ARTICLE_CLASS_CALENDAR, QT_TRANSLATE_NOOP("QObject", "RAVO KALENDER") },
-    { ARTICLE_CLASS_CARD, QT_TRANSLATE_NOOP("QObject", "Grußkarten") },
-};
+constexpr Category OTHER = { ARTICLE_CLASS_NONE, "other"_L1, QT_TRANSLATE_NOOP("QObject", "Fotogeschenke") };
 
-constexpr TextOfBits<QLatin1StringView> HELP_TOPICS[] = {
-    { ARTICLE_CLASS_BOOK, "photobook"_L1 },    { ARTICLE_CLASS_DEKO, "deko"_L1 },
-    { ARTICLE_CLASS_CALENDAR, "calendar"_L1 }, { ARTICLE_CLASS_CARD, "card"_L1 },
-    { ARTICLE_CLASS_PHOTO, "foto"_L1 },        { ARTICLE_CLASS_GIFT, "gift"_L1 },
-};
-
-template<typename Text, std::size_t N>
-Text firstText(const TextOfBits<Text> (&rows)[N], const RVArticleClass &articleClass, Text otherwise)
+/// A topic of the help, for every class that has one of the bits unless an earlier row has one too. The start page of
+/// exactly the class has the same name.
+struct Topic
 {
-    for (const TextOfBits<Text> &row : rows) {
-        if (articleClass.matches(row.bits))
-            return row.text;
-    }
-    return otherwise;
+    RVArticleClassEnum bits;
+    QLatin1StringView name;
+};
+
+// clang-format off
+constexpr Topic TOPICS[] = {
+    { ARTICLE_CLASS_BOOK, "photobook"_L1 },
+    { ARTICLE_CLASS_DEKO, "deko"_L1 },
+    { ARTICLE_CLASS_CALENDAR, "calendar"_L1 },
+    { ARTICLE_CLASS_CARD, "card"_L1 },
+    { ARTICLE_CLASS_PHOTO, "foto"_L1 },
+    { ARTICLE_CLASS_GIFT, "gift"_L1 },
+};
+// clang-format on
+
+struct ShippingGroup
+{
+    RVArticleClassEnum articleClass;
+    int id;
+};
+
+constexpr ShippingGroup NO_SHIPPING_GROUP = { ARTICLE_CLASS_NONE, -1 };
+
+constexpr ShippingGroup SHIPPING_GROUPS[] = {
+    { ARTICLE_CLASS_FOTO, 1 },
+    { ARTICLE_CLASS_POSTERFOTO, 3 },
+    { ARTICLE_CLASS_PREMIUMFOTO, 18 },
+};
+
+template<typename Row, std::size_t N, typename IsWanted>
+Row firstRow(const Row (&rows)[N], const Row &otherwise, IsWanted isWanted)
+{
+    const auto *const found = std::find_if(std::begin(rows), std::end(rows), isWanted);
+    return found == std::end(rows) ? otherwise : *found;
+}
+
+Category categoryOf(const RVArticleClass &articleClass)
+{
+    return firstRow(CATEGORIES, OTHER, [&](const Category &row) { return articleClass.matches(row.bits); });
 }
 
 std::ptrdiff_t importance(RVArticleClassEnum value)
@@ -169,67 +197,37 @@ RVArticleClass::RVArticleClass(const QString &text) : RVArticleClass()
 
 RVArticleClass RVArticleClass::createFromShippingGroupId(const RVShippingGroupId &shippingGroupId)
 {
-    switch (shippingGroupId.id()) {
-    case 1:
-        return ARTICLE_CLASS_FOTO;
-    case 3:
-        return ARTICLE_CLASS_POSTERFOTO;
-    case 18:
-        return ARTICLE_CLASS_PREMIUMFOTO;
-    default:
-        return ARTICLE_CLASS_NONE;
-    }
+    return firstRow(SHIPPING_GROUPS, NO_SHIPPING_GROUP,
+                    [&](const ShippingGroup &row) { return row.id == shippingGroupId.id(); })
+            .articleClass;
 }
 
 int RVArticleClass::shippingGroup() const
 {
-    switch (value()) {
-    case ARTICLE_CLASS_FOTO:
-        return 1;
-    case ARTICLE_CLASS_POSTERFOTO:
-        return 3;
-    case ARTICLE_CLASS_PREMIUMFOTO:
-        return 18;
-    default:
-        return -1;
-    }
+    return firstRow(SHIPPING_GROUPS, NO_SHIPPING_GROUP,
+                    [this](const ShippingGroup &row) { return row.articleClass == value(); })
+            .id;
 }
 
 QString RVArticleClass::toPHProjectCategory() const
 {
-    return firstText(PROJECT_CATEGORIES, *this, "other"_L1).toString();
+    return categoryOf(*this).project;
 }
 
 QString RVArticleClass::toHumanReadable() const
 {
-    return QCoreApplication::translate("QObject",
-                                       firstText(NAMES, *this, QT_TRANSLATE_NOOP("QObject", "Fotogeschenke")));
+    return QCoreApplication::translate("QObject", categoryOf(*this).name);
 }
 
 QVariant RVArticleClass::toStartPageId() const
 {
-    switch (value()) {
-    case ARTICLE_CLASS_BOOK:
-        return u"photobook"_s;
-    case ARTICLE_CLASS_CALENDAR:
-        return u"calendar"_s;
-    case ARTICLE_CLASS_CARD:
-        return u"card"_s;
-    case ARTICLE_CLASS_DEKO:
-        return u"deko"_s;
-    case ARTICLE_CLASS_GIFT:
-        return u"gift"_s;
-    case ARTICLE_CLASS_PHOTO:
-        return u"foto"_s;
-    default:
-        return 1;
-    }
+    const Topic topic = firstRow(TOPICS, Topic(), [this](const Topic &row) { return row.bits == value(); });
+    return topic.name.isNull() ? QVariant(1) : QVariant(QString(topic.name));
 }
 
 QString RVArticleClass::toHelpTopic() const
 {
-    const QLatin1StringView topic = firstText(HELP_TOPICS, *this, QLatin1StringView());
-    return topic.isNull() ? QString() : topic.toString();
+    return firstRow(TOPICS, Topic(), [this](const Topic &row) { return matches(row.bits); }).name;
 }
 
 QString RVArticleClass::morePagesText(int n) const

@@ -7,7 +7,10 @@
 
 #include <QFont>
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -41,41 +44,56 @@ constexpr RVKeyword<RVSpaceMagnitudeEnum> KEYWORDS[] = {
 };
 // clang-format on
 
-/// The smallest size class has no name.
-constexpr RVDisplayText<RVSpaceMagnitudeEnum> NAMES[] = {
-    { SPACE_MAGNITUDE_150CM2, QT_TRANSLATE_NOOP("RVSpaceMagnitude", "Mini") },
-    { SPACE_MAGNITUDE_200CM2, QT_TRANSLATE_NOOP("RVSpaceMagnitude", "Klein") },
-    { SPACE_MAGNITUDE_220CM2, QT_TRANSLATE_NOOP("RVSpaceMagnitude", "Compact Quadratisch") },
-    { SPACE_MAGNITUDE_280CM2, QT_TRANSLATE_NOOP("RVSpaceMagnitude", "Compact") },
-    { SPACE_MAGNITUDE_310CM2, QT_TRANSLATE_NOOP("RVSpaceMagnitude", "A5") },
-    { SPACE_MAGNITUDE_400CM2, QT_TRANSLATE_NOOP("RVSpaceMagnitude", "Quadratisch") },
-    { SPACE_MAGNITUDE_600CM2, QT_TRANSLATE_NOOP("RVSpaceMagnitude", "A4") },
-    { SPACE_MAGNITUDE_900CM2, QT_TRANSLATE_NOOP("RVSpaceMagnitude", "XL") },
-    { SPACE_MAGNITUDE_1200CM2, QT_TRANSLATE_NOOP("RVSpaceMagnitude", "A3") },
-    { SPACE_MAGNITUDE_2000CM2, QT_TRANSLATE_NOOP("RVSpaceMagnitude", "XXL") },
-    { SPACE_MAGNITUDE_2400CM2, QT_TRANSLATE_NOOP("RVSpaceMagnitude", "A2") },
+/// One size class, and what page layout makes of it.
+struct SizeClass
+{
+    RVSpaceMagnitudeEnum value;
+    int bound; ///< in cm²; an area below it belongs to the class, unless it belongs to one in an earlier row
+    int normativeSize; ///< in cm²
+    int images; ///< at most, on one page
+    int fontSize; ///< in points
+    double fotos; ///< that look best on one page
+    double fotosOnPortrait; ///< that look best on one that is upright
+    const char *name; ///< null where there is none
 };
 
-/// An area below the bound belongs to the size class, unless it belongs to an earlier one.
-constexpr struct
-{
-    int bound;
-    RVSpaceMagnitudeEnum value;
-} AREA_BOUNDS[] = {
-    // clang-format off
-    { 101, SPACE_MAGNITUDE_50CM2 },
-    { 176, SPACE_MAGNITUDE_150CM2 },
-    { 205, SPACE_MAGNITUDE_200CM2 },
-    { 221, SPACE_MAGNITUDE_220CM2 },
-    { 296, SPACE_MAGNITUDE_280CM2 },
-    { 356, SPACE_MAGNITUDE_310CM2 },
-    { 513, SPACE_MAGNITUDE_400CM2 },
-    { 763, SPACE_MAGNITUDE_600CM2 },
-    { 951, SPACE_MAGNITUDE_900CM2 },
-    { 1901, SPACE_MAGNITUDE_1200CM2 },
-    { 2101, SPACE_MAGNITUDE_2000CM2 },
-    // clang-format on
+// clang-format off
+constexpr SizeClass SIZE_CLASSES[] = {
+    { SPACE_MAGNITUDE_50CM2, 101, 50, 1, 12, 1.5, 1.5, nullptr },
+    { SPACE_MAGNITUDE_150CM2, 176, 150, 1, 12, 1.5, 1.5, QT_TRANSLATE_NOOP("RVSpaceMagnitude", "Mini") },
+    { SPACE_MAGNITUDE_200CM2, 205, 200, 4, 12, 1.5, 1.5, QT_TRANSLATE_NOOP("RVSpaceMagnitude", "Klein") },
+    { SPACE_MAGNITUDE_220CM2, 221, 225, 1, 12, 1.5, 1.5, QT_TRANSLATE_NOOP("RVSpaceMagnitude", "Compact Quadratisch") },
+    { SPACE_MAGNITUDE_280CM2, 296, 280, 5, 12, 1.5, 1.5, QT_TRANSLATE_NOOP("RVSpaceMagnitude", "Compact") },
+    { SPACE_MAGNITUDE_310CM2, 356, 310, 5, 12, 1.5, 1.5, QT_TRANSLATE_NOOP("RVSpaceMagnitude", "A5") },
+    { SPACE_MAGNITUDE_400CM2, 513, 400, 6, 16, 2.0, 2.0, QT_TRANSLATE_NOOP("RVSpaceMagnitude", "Quadratisch") },
+    { SPACE_MAGNITUDE_600CM2, 763, 625, 8, 16, 3.0, 2.8, QT_TRANSLATE_NOOP("RVSpaceMagnitude", "A4") },
+    { SPACE_MAGNITUDE_900CM2, 951, 900, 12, 24, 3.3, 3.3, QT_TRANSLATE_NOOP("RVSpaceMagnitude", "XL") },
+    { SPACE_MAGNITUDE_1200CM2, 1901, 1250, 14, 24, 3.2, 3.2, QT_TRANSLATE_NOOP("RVSpaceMagnitude", "A3") },
+    { SPACE_MAGNITUDE_2000CM2, 2101, 2025, 14, 32, 4.0, 4.0, QT_TRANSLATE_NOOP("RVSpaceMagnitude", "XXL") },
+    { SPACE_MAGNITUDE_2400CM2, std::numeric_limits<int>::max(), 2500, 14, 32, 4.0, 4.0,
+      QT_TRANSLATE_NOOP("RVSpaceMagnitude", "A2") },
 };
+// clang-format on
+
+/// Layout of anything that is not exactly one size class.
+constexpr SizeClass NO_SIZE_CLASS = { RVSpaceMagnitudeEnum(0), 0, 0, 1, 12, 2.1, 2.1, nullptr };
+
+const SizeClass &sizeClass(RVSpaceMagnitudeEnum value)
+{
+    const auto *const found = std::find_if(std::begin(SIZE_CLASSES), std::end(SIZE_CLASSES),
+                                           [value](const SizeClass &size) { return size.value == value; });
+    return found == std::end(SIZE_CLASSES) ? NO_SIZE_CLASS : *found;
+}
+
+QMap<RVSpaceMagnitude, QString> translatedNames()
+{
+    QMap<RVSpaceMagnitude, QString> result;
+    for (const SizeClass &size : SIZE_CLASSES) {
+        if (size.name)
+            result.insert(size.value, QCoreApplication::translate(CONTEXT, size.name));
+    }
+    return result;
+}
 
 }
 
@@ -88,9 +106,9 @@ RVSpaceMagnitude::RVSpaceMagnitude(const QString &text) : RVSpaceMagnitude()
 
 RVSpaceMagnitude RVSpaceMagnitude::fromSquareCentimeters(int area)
 {
-    for (const auto &row : AREA_BOUNDS) {
-        if (area < row.bound)
-            return row.value;
+    for (const SizeClass &size : SIZE_CLASSES) {
+        if (area < size.bound)
+            return size.value;
     }
     return SPACE_MAGNITUDE_2400CM2;
 }
@@ -107,74 +125,17 @@ RVSpaceMagnitude RVSpaceMagnitude::createFromHumanReadable(const QString &name)
 
 int RVSpaceMagnitude::maxReasonableImagesPerPage() const
 {
-    switch (value()) {
-    case SPACE_MAGNITUDE_200CM2:
-        return 4;
-    case SPACE_MAGNITUDE_280CM2:
-    case SPACE_MAGNITUDE_310CM2:
-        return 5;
-    case SPACE_MAGNITUDE_400CM2:
-        return 6;
-    case SPACE_MAGNITUDE_600CM2:
-        return 8;
-    case SPACE_MAGNITUDE_900CM2:
-        return 12;
-    case SPACE_MAGNITUDE_1200CM2:
-    case SPACE_MAGNITUDE_2000CM2:
-    case SPACE_MAGNITUDE_2400CM2:
-        return 14;
-    default:
-        return 1;
-    }
+    return sizeClass(value()).images;
 }
 
 int RVSpaceMagnitude::suitableFontSizeInPoints() const
 {
-    switch (value()) {
-    case SPACE_MAGNITUDE_400CM2:
-    case SPACE_MAGNITUDE_600CM2:
-        return 16;
-    case SPACE_MAGNITUDE_900CM2:
-    case SPACE_MAGNITUDE_1200CM2:
-        return 24;
-    case SPACE_MAGNITUDE_2000CM2:
-    case SPACE_MAGNITUDE_2400CM2:
-        return 32;
-    default:
-        return 12;
-    }
+    return sizeClass(value()).fontSize;
 }
 
 int RVSpaceMagnitude::normativeSize() const
 {
-    switch (value()) {
-    case SPACE_MAGNITUDE_50CM2:
-        return 50;
-    case SPACE_MAGNITUDE_150CM2:
-        return 150;
-    case SPACE_MAGNITUDE_200CM2:
-        return 200;
-    case SPACE_MAGNITUDE_220CM2:
-        return 225;
-    case SPACE_MAGNITUDE_280CM2:
-        return 280;
-    case SPACE_MAGNITUDE_310CM2:
-        return 310;
-    case SPACE_MAGNITUDE_400CM2:
-        return 400;
-    case SPACE_MAGNITUDE_600CM2:
-        return 625;
-    case SPACE_MAGNITUDE_900CM2:
-        return 900;
-    case SPACE_MAGNITUDE_1200CM2:
-        return 1250;
-    case SPACE_MAGNITUDE_2000CM2:
-        return 2025;
-    case SPACE_MAGNITUDE_2400CM2:
-        return 2500;
-    default:
-        return 0;
-    }
+    return sizeClass(value()).normativeSize;
 }
 
 double RVSpaceMagnitude::scaleFactorForArea(const RVSpaceMagnitude &other) const
@@ -191,28 +152,8 @@ double RVSpaceMagnitude::scaleFactorPerDimension(const RVSpaceMagnitude &other) 
 
 double RVSpaceMagnitude::optimumFotosPerPage(const RVOrientation &orientation) const
 {
-    switch (value()) {
-    case SPACE_MAGNITUDE_50CM2:
-    case SPACE_MAGNITUDE_150CM2:
-    case SPACE_MAGNITUDE_200CM2:
-    case SPACE_MAGNITUDE_220CM2:
-    case SPACE_MAGNITUDE_280CM2:
-    case SPACE_MAGNITUDE_310CM2:
-        return 1.5;
-    case SPACE_MAGNITUDE_400CM2:
-        return 2.0;
-    case SPACE_MAGNITUDE_600CM2:
-        return orientation.isPortrait() ? 2.8 : 3.0;
-    case SPACE_MAGNITUDE_900CM2:
-        return 3.3;
-    case SPACE_MAGNITUDE_1200CM2:
-        return 3.2;
-    case SPACE_MAGNITUDE_2000CM2:
-    case SPACE_MAGNITUDE_2400CM2:
-        return 4.0;
-    default:
-        return 2.1;
-    }
+    const SizeClass &size = sizeClass(value());
+    return orientation.isPortrait() ? size.fotosOnPortrait : size.fotos;
 }
 
 QFont RVSpaceMagnitude::adaptFont(const QFont &font, const RVSpaceMagnitude &target) const
@@ -245,7 +186,7 @@ const RVDisplayNames<RVSpaceMagnitude> &RVSpaceMagnitude::names()
 
 RVDisplayNames<RVSpaceMagnitude> RVSpaceMagnitude::initNames()
 {
-    return { CONTEXT, rvTranslated<RVSpaceMagnitude>(CONTEXT, NAMES), RVSpaceMagnitude(),
+    return { CONTEXT, translatedNames(), RVSpaceMagnitude(),
              QCoreApplication::translate("RVSpaceMagnitude", "Undefiniert") };
 }
 
