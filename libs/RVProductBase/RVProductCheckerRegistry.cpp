@@ -46,7 +46,7 @@ void RVProductCheckerRegistry::clearCaches()
 bool RVProductCheckerRegistry::isValid(const RVProductType &type, RVProductCheckerType kinds) const
 {
     const QMutexLocker locker(&myMutex);
-    const auto cached = myCache.constFind(std::pair(RVProductType::borrow(type), kinds));
+    const auto cached = myCache.constFind(std::pair(type, kinds));
     return cached != myCache.constEnd() ? *cached : ask(type, kinds);
 }
 

@@ -80,18 +80,6 @@ public:
     RVPRODUCTBASE_EXPORT friend bool operator<(const RVProductType &a, const RVProductType &b);
 
 private:
-    friend class RVProductCheckerRegistry;
-
-    /// The same type, without a part in the ownership of its text: good for a look-up while @p type lives.
-    /// Spares every remembered check the count of owners, up and down again.
-    static RVProductType borrow(const RVProductType &type)
-    {
-        const QString::DataPointer &text = type.myName.data_ptr();
-        RVProductType borrowed;
-        borrowed.myName = QString(QString::DataPointer::fromRawData(text.data(), text.size));
-        borrowed.myHashValue = type.myHashValue;
-        return borrowed;
-    }
     /// True for copies of one type, with which the caches are asked as a rule.
     bool sharesTextOf(const RVProductType &other) const
     {
