@@ -22,9 +22,6 @@ struct RVCatalogueAttributeFunctions
 
 namespace {
 
-/// No attribute has this value, so it comes back only for an unknown keyword.
-constexpr int UNKNOWN_KEYWORD = -260570;
-
 QString displayName(const RVArticleClass &value)
 {
     return value.toHumanReadable();
@@ -107,11 +104,11 @@ RVCatalogueAttributeDecoding decoding(const T &attribute)
 template<typename T>
 RVCatalogueAttributeDecoding decode(const QString &text)
 {
-    using E = decltype(T().value());
     const T attribute(text);
+    const auto *const keywords = attribute.enumToStringTable();
     RVCatalogueAttributeDecoding result = decoding(attribute);
     for (const QString &piece : text.split(u',')) {
-        if (attribute.enumToStringTable()->decode(piece, E(UNKNOWN_KEYWORD)) == E(UNKNOWN_KEYWORD))
+        if (keywords->decode(piece, keywords->NOT_FOUND) == keywords->NOT_FOUND)
             result.unknownPieces += piece.trimmed();
     }
     return result;

@@ -134,7 +134,7 @@ bool RVNumberFault::hasUnit(const QString &text)
     if (myType == Type::Whole || !match.hasMatch())
         return false;
     const QString unit = match.captured(2);
-    if (!rvIsUnit(unit.toUtf8()) && rvMeantUnit(unit).isNull())
+    if (!rvIsUnit(unit) && rvMeantUnit(unit).isNull())
         return false;
     myAdvice = RVFindingText::tr("the unit belongs to \"units\": write %1").arg(match.captured(1).replace(u',', u'.'));
     return true;

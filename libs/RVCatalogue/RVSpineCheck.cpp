@@ -7,23 +7,15 @@
 #include "RVPageCountCheck_p.h"
 #include "RVValueCheck_p.h"
 
-#include <RVFontCreator.h>
-#include <RVFontSizeManager.h>
-
-#include <QFont>
-#include <QFontMetrics>
-#include <QGuiApplication>
 #include <QStringList>
 
 #include <algorithm>
-#include <cmath>
 #include <iterator>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qreal USABLE_PART_OF_SPINE = 0.85;
 /// In millimetres. Industrial perfect binders, which make the thickest books, take blocks of at most about that.
 constexpr qreal WIDEST_SPINE = 80;
 constexpr qreal TENTHS_PER_MILLIMETRE = 10;
@@ -31,19 +23,6 @@ constexpr qreal TENTHS_PER_MILLIMETRE = 10;
 unsigned pageCount(int pages)
 {
     return unsigned(qMax(0, pages));
-}
-
-/// True when the spine is too narrow for the smallest font, by the measure of RVSpineConfig::spineMaxFontHeigth().
-bool isTooNarrow(const RVSpineConfig &spine, int pages)
-{
-    const QList<int> sizes = RVFontSizeManager::instance()->defaultFontSizes();
-    const bool canMeasureFonts = qobject_cast<QGuiApplication *>(QCoreApplication::instance()) != nullptr;
-    if (sizes.isEmpty() || !canMeasureFonts)
-        return false;
-    const RVFontCreator *fonts = RVFontCreator::instance();
-    const QFontMetrics smallest(fonts->createFont(fonts->defaultFontFamily(), sizes.first()));
-    const RVDistance width = spine.spineWidth(pageCount(pages)) - spine.additionalSpineWidth() * 2.0;
-    return smallest.lineSpacing() > std::round(width.value() * USABLE_PART_OF_SPINE);
 }
 
 bool hasValue(const RVCatalogueElement &spine, QLatin1StringView name)
@@ -192,6 +171,6 @@ bool RVSpineCheck::shrinksTooFar(const Spine &spine) const
     const bool onlyGrowthIsNegative = !spine.negative.contains("base_width"_L1)
             && !spine.negative.contains("additional_width"_L1);
     return spine.isReadable && spine.isUnitKnown && onlyGrowthIsNegative && myPageCounts.areValid
-            && !isTooNarrow(spine.config, myPageCounts.counts.minPages())
-            && isTooNarrow(spine.config, myPageCounts.counts.maxPages());
+            && spine.config.hasRoomForText(pageCount(myPageCounts.counts.minPages()))
+            && !spine.config.hasRoomForText(pageCount(myPageCounts.counts.maxPages()));
 }

@@ -3,56 +3,37 @@
 #include "RVForeignLetters_p.h"
 #include "RVNearestTexts_p.h"
 
-#include <QSet>
+#include <RVDistanceUnit.h>
+
+#include <QList>
 
 #include <algorithm>
-#include <iterator>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QByteArrayView UNITS[] = { "mm", "cm", "inch", "in", "pt", "point", "0.1mm" };
-
-struct UnitText
+/// A unit, and other ways to write it, in lower case and without blanks.
+struct Unit
 {
-    QLatin1StringView text; // in lower case, without blanks
-    QLatin1StringView unit;
+    QLatin1StringView text;
+    QList<QLatin1StringView> others;
 };
 
-constexpr UnitText UNIT_TEXTS[] = {
-    // clang-format off
-    { QLatin1StringView("mm"), QLatin1StringView("mm") },
-    { QLatin1StringView("mm."), QLatin1StringView("mm") },
-    { QLatin1StringView("millimeter"), QLatin1StringView("mm") },
-    { QLatin1StringView("millimeters"), QLatin1StringView("mm") },
-    { QLatin1StringView("millimetre"), QLatin1StringView("mm") },
-    { QLatin1StringView("millimetres"), QLatin1StringView("mm") },
-    { QLatin1StringView("cm"), QLatin1StringView("cm") },
-    { QLatin1StringView("cm."), QLatin1StringView("cm") },
-    { QLatin1StringView("centimeter"), QLatin1StringView("cm") },
-    { QLatin1StringView("centimeters"), QLatin1StringView("cm") },
-    { QLatin1StringView("centimetre"), QLatin1StringView("cm") },
-    { QLatin1StringView("centimetres"), QLatin1StringView("cm") },
-    { QLatin1StringView("zentimeter"), QLatin1StringView("cm") },
-    { QLatin1StringView("inch"), QLatin1StringView("inch") },
-    { QLatin1StringView("inches"), QLatin1StringView("inch") },
-    { QLatin1StringView("zoll"), QLatin1StringView("inch") },
-    { QLatin1StringView("\""), QLatin1StringView("inch") },
-    { QLatin1StringView("in"), QLatin1StringView("in") },
-    { QLatin1StringView("in."), QLatin1StringView("in") },
-    { QLatin1StringView("pt"), QLatin1StringView("pt") },
-    { QLatin1StringView("pt."), QLatin1StringView("pt") },
-    { QLatin1StringView("pts"), QLatin1StringView("pt") },
-    { QLatin1StringView("point"), QLatin1StringView("point") },
-    { QLatin1StringView("points"), QLatin1StringView("point") },
-    { QLatin1StringView("punkt"), QLatin1StringView("point") },
-    { QLatin1StringView("0.1mm"), QLatin1StringView("0.1mm") },
-    { QLatin1StringView("0,1mm"), QLatin1StringView("0.1mm") },
-    { QLatin1StringView(".1mm"), QLatin1StringView("0.1mm") },
-    { QLatin1StringView("1/10mm"), QLatin1StringView("0.1mm") },
-    // clang-format on
-};
+const QList<Unit> &units()
+{
+    static const QList<Unit> theUnits {
+        { "mm"_L1, { "mm."_L1, "millimeter"_L1, "millimeters"_L1, "millimetre"_L1, "millimetres"_L1 } },
+        { "cm"_L1,
+          { "cm."_L1, "centimeter"_L1, "centimeters"_L1, "centimetre"_L1, "centimetres"_L1, "zentimeter"_L1 } },
+        { "inch"_L1, { "inches"_L1, "zoll"_L1, "\""_L1 } },
+        { "in"_L1, { "in."_L1 } },
+        { "pt"_L1, { "pt."_L1, "pts"_L1 } },
+        { "point"_L1, { "points"_L1, "punkt"_L1 } },
+        { "0.1mm"_L1, { "0,1mm"_L1, ".1mm"_L1, "1/10mm"_L1 } },
+    };
+    return theUnits;
+}
 
 /// Without blanks and invisible letters, in lower case.
 QString squeezed(const QString &text)
@@ -63,16 +44,17 @@ QString squeezed(const QString &text)
 
 }
 
-bool rvIsUnit(QByteArrayView text)
+// A text that is no unit is read as millimetres.
+bool rvIsUnit(const QString &text)
 {
-    return std::find(std::begin(UNITS), std::end(UNITS), text) != std::end(UNITS);
+    return text == "mm"_L1 || RVDistanceUnit(text).code() != DISTANCE_UNIT_MILLIMETRE;
 }
 
 QStringList rvUnits()
 {
     QStringList result;
-    for (const QByteArrayView unit : UNITS)
-        result += QString::fromLatin1(unit);
+    for (const Unit &unit : units())
+        result += unit.text;
     return result;
 }
 
@@ -82,15 +64,18 @@ QString rvMeantUnit(const QString &text)
     // A tenth of a millimetre is no slip of the fingers for another part of another unit.
     const bool hasDigit = std::any_of(wanted.begin(), wanted.end(), [](QChar letter) { return letter.isDigit(); });
     RVNearestTexts nearest(wanted, hasDigit ? 0 : 2);
-    for (const UnitText &row : UNIT_TEXTS) {
-        if (wanted == row.text)
-            return row.unit;
-        nearest.offer(row.text);
+    for (const Unit &unit : units()) {
+        if (wanted == unit.text || unit.others.contains(wanted))
+            return unit.text;
+        nearest.offer(unit.text);
+        for (const QLatin1StringView other : unit.others)
+            nearest.offer(other);
     }
-    QSet<QString> meant;
-    for (const UnitText &row : UNIT_TEXTS) {
-        if (nearest.texts().contains(row.text))
-            meant.insert(row.unit);
+    const auto isNearest = [&nearest](QLatin1StringView candidate) { return nearest.texts().contains(candidate); };
+    QStringList meant;
+    for (const Unit &unit : units()) {
+        if (isNearest(unit.text) || std::any_of(unit.others.begin(), unit.others.end(), isNearest))
+            meant += unit.text;
     }
-    return meant.size() == 1 ? *meant.constBegin() : QString();
+    return meant.size() == 1 ? meant.constFirst() : QString();
 }

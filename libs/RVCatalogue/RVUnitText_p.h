@@ -1,12 +1,11 @@
 #ifndef RVUNITTEXT_P_H
 #define RVUNITTEXT_P_H
 
-#include <QByteArrayView>
 #include <QString>
 #include <QStringList>
 
 /// True for the texts that "units" may have.
-bool rvIsUnit(QByteArrayView text);
+bool rvIsUnit(const QString &text);
 
 /// All of them.
 QStringList rvUnits();

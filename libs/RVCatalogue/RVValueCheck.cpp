@@ -118,7 +118,7 @@ std::optional<bool> rvCheckedBool(const RVCatalogueElement &element, QLatin1Stri
 bool rvCheckUnit(const RVCatalogueElement &element, RVFindingReport *report)
 {
     constexpr auto name = "units"_L1;
-    const bool isKnown = rvIsUnit(element.utf8(name));
+    const bool isKnown = rvIsUnit(element.attribute(name));
     if (isKnown || !element.hasAttribute(name))
         return isKnown || !report->isMeant(element, name);
     const QString text = element.attribute(name);

@@ -45,6 +45,11 @@ int RVSpineConfig::spineMaxFontHeigth(unsigned pages, const QString &fontFamily)
     return d->spineMaxFontHeigth(pages, fontFamily);
 }
 
+bool RVSpineConfig::hasRoomForText(unsigned pages, const QString &fontFamily) const
+{
+    return d->hasRoomForText(pages, fontFamily);
+}
+
 bool RVSpineConfig::operator==(const RVSpineConfig &other) const
 {
     return d == other.d || *d == *other.d;

@@ -60,6 +60,9 @@ public:
     /// width without its sides, in tenths of a millimetre. At least the smallest size; 0 where there are no sizes.
     /// An empty family is the default one. Without a QGuiApplication fonts cannot be measured: the smallest size.
     int spineMaxFontHeigth(unsigned pages, const QString &fontFamily) const;
+    /// True where the smallest of the editor's font sizes fits the spine by that measure. Also true where nothing can
+    /// be measured: without sizes, or without a QGuiApplication.
+    bool hasRoomForText(unsigned pages, const QString &fontFamily = QString()) const;
 
     /// By page counts, blocks and widths; widths compare as RVDistance does.
     /// @{

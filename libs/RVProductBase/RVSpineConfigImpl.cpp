@@ -25,9 +25,12 @@ bool canMeasureFonts()
     return qobject_cast<QGuiApplication *>(QCoreApplication::instance()) != nullptr;
 }
 
-int lineSpacing(const QString &family, int pointSize)
+/// Without a family, that of the default font.
+int lineSpacing(const QString &fontFamily, int pointSize)
 {
-    return QFontMetrics(RVFontCreator::instance()->createFont(family, pointSize)).lineSpacing();
+    const RVFontCreator *const fonts = RVFontCreator::instance();
+    const QString family = fontFamily.isEmpty() ? fonts->defaultFontFamily() : fontFamily;
+    return QFontMetrics(fonts->createFont(family, pointSize)).lineSpacing();
 }
 
 }
@@ -89,22 +92,32 @@ int RVSpineConfigImpl::coverReduceSize() const
 
 int RVSpineConfigImpl::spineMaxFontHeigth(unsigned pages, const QString &fontFamily) const
 {
-    const QString family = fontFamily.isEmpty() ? RVFontCreator::instance()->defaultFontFamily() : fontFamily;
-    RVDistance usable = spineWidth(pages);
-    usable -= additionalWidth * 2.0;
-    usable *= USABLE_PART;
     const QList<int> sizes = RVFontSizeManager::instance()->defaultFontSizes();
-    const int limit = rvSaturated(std::round(usable.value()));
     if (sizes.isEmpty())
         return 0;
     // The first size is never measured: it is the answer even where it is too tall itself.
     if (!canMeasureFonts())
         return sizes.first();
+    const int limit = highestLine(pages);
     for (qsizetype i = 1; i < sizes.size(); ++i) {
-        if (lineSpacing(family, sizes.at(i)) > limit)
+        if (lineSpacing(fontFamily, sizes.at(i)) > limit)
             return sizes.at(i - 1);
     }
     return sizes.last();
+}
+
+bool RVSpineConfigImpl::hasRoomForText(unsigned pages, const QString &fontFamily) const
+{
+    const QList<int> sizes = RVFontSizeManager::instance()->defaultFontSizes();
+    return sizes.isEmpty() || !canMeasureFonts() || lineSpacing(fontFamily, sizes.first()) <= highestLine(pages);
+}
+
+int RVSpineConfigImpl::highestLine(unsigned pages) const
+{
+    RVDistance usable = spineWidth(pages);
+    usable -= additionalWidth * 2.0;
+    usable *= USABLE_PART;
+    return rvSaturated(std::round(usable.value()));
 }
 
 bool RVSpineConfigImpl::operator==(const RVSpineConfigImpl &other) const

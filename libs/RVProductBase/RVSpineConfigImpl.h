@@ -36,6 +36,7 @@ public:
     RVDistance additionalSpineWidth() const { return additionalWidth; }
     int coverReduceSize() const;
     int spineMaxFontHeigth(unsigned pages, const QString &fontFamily) const;
+    bool hasRoomForText(unsigned pages, const QString &fontFamily) const;
 
     bool operator==(const RVSpineConfigImpl &other) const;
     bool operator!=(const RVSpineConfigImpl &other) const { return !(*this == other); }
@@ -46,6 +47,10 @@ public:
     RVDistance baseWidth; ///< at the lowest page count
     RVDistance blockWidth; ///< added for every whole block of packages
     RVDistance additionalWidth; ///< on each side of the spine
+
+private:
+    /// In tenths of a millimetre.
+    int highestLine(unsigned pages) const;
 };
 
 #endif

@@ -34,8 +34,7 @@
  * named combination of bits. RVEnumWrapper keeps one table per enumeration for the whole process, which is filled once
  * and read by any number of threads afterwards; a table of one's own can be made and filled just as well.
  *
- * Decoding ignores letter case and white space around a keyword. The value -260570 marks a failed lookup, so no
- * enumeration may use it.
+ * Decoding ignores letter case and white space around a keyword.
  *
  * @ingroup templates
  */
@@ -48,6 +47,9 @@ class Q_DECL_EXPORT RVEnumToStringTable
     QHash<ENUM, QString> myEncodings;
 
 public:
+    /// Marks a failed look-up, so no enumeration may use it.
+    static constexpr ENUM NOT_FOUND = ENUM(-260570);
+
     /// Written by encoding where a value has no keyword, also for an empty value. Empty until assigned.
     QString defaultKeyword;
     /// Returned by decoding where a keyword is not known. 0 until assigned.
@@ -109,7 +111,6 @@ public:
 private:
     using Bits = std::make_signed_t<std::underlying_type_t<ENUM>>;
     using UnsignedBits = std::make_unsigned_t<Bits>;
-    static constexpr ENUM NOT_FOUND = ENUM(-260570);
 
     ENUM decodePiece(QStringView piece, ENUM fallback) const
     {

@@ -79,6 +79,7 @@ private Q_SLOTS:
     void implFields();
     void fontSizes();
     void fontSizesRoundTheLimit();
+    void roomForText();
     void fontSizesOfTheDefaultFamily();
     void fontSizeLists_data();
     void fontSizeLists();
@@ -345,6 +346,19 @@ void tst_RVSpineConfig::fontSizesRoundTheLimit()
     const RVSpineConfig swallowed(RVPageCountOrganization(RVIntRange(26, 26), 0), 0, RVDistance(1000), RVDistance(),
                                   RVDistance(1e20));
     QCOMPARE(swallowed.spineMaxFontHeigth(26, family), 6);
+}
+
+// Only the smallest size counts, and its line spacing itself still fits.
+void tst_RVSpineConfig::roomForText()
+{
+    const QString family = u"DejaVu Sans"_s;
+    const int spacing = lineSpacing(family, 6);
+    QVERIFY(spineFor(spacing).hasRoomForText(26, family));
+    QVERIFY(!spineFor(spacing - 1).hasRoomForText(26, family));
+    QVERIFY(!spineFor(-50).hasRoomForText(26, family));
+    QVERIFY(spineFor(lineSpacing(QGuiApplication::font().family(), 6)).hasRoomForText(26));
+    RVFontSizeManager::instance()->setDefaultFontSizes({});
+    QVERIFY(spineFor(-50).hasRoomForText(26, family));
 }
 
 void tst_RVSpineConfig::fontSizesOfTheDefaultFamily()

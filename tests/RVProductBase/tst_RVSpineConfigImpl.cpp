@@ -54,6 +54,7 @@ void tst_RVSpineConfigImpl::fontSizeWithoutFonts()
     const RVSpineConfigImpl wide(RVPageCountOrganization(RVIntRange(26, 26), 0), 0, millimetres(1000), RVDistance(),
                                  RVDistance());
     QTEST(wide.spineMaxFontHeigth(26, family), "size");
+    QVERIFY(RVSpineConfigImpl().hasRoomForText(26, family));
 }
 
 QTEST_GUILESS_MAIN(tst_RVSpineConfigImpl)
