@@ -47,7 +47,7 @@ void measure(benchmark::State &state, const Corpus &corpus, Operation operation)
 }
 
 /**
- * An operation of the library beside its peers: "name/ours", "name/peer".
+ * An operation of the library beside its peers and its floor: "name/ours", "name/peer", "name/floor".
  *
  * A peer must give the same result for every input of the corpus; where it does not, the program ends before anything
  * is timed.
@@ -85,6 +85,15 @@ public:
             }
         }
         add(peerName, corpus, std::move(peer));
+        return *this;
+    }
+
+    /// The part of the work that nobody can do without, such as one allocation or one look at each letter. Its result
+    /// is not that of the operation, so it is not compared.
+    template<typename Inputs, typename Floor>
+    Comparison &above(const Inputs &inputs, Floor floor)
+    {
+        add("floor", inputs, std::move(floor));
         return *this;
     }
 

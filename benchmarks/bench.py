@@ -30,8 +30,8 @@ TIMES = [
      "decodeCSV_article_class/qt", 0.15, 0),
     ("decodeCSV-article_class-string_view", "the same; std::string_view, std::unordered_map",
      "decodeCSV_article_class/ours", "decodeCSV_article_class/string_view", 1.0, None),
-    ("encodeCSV", "encodeCSV, three bits; QMetaEnum::valueToKeys", "encodeCSV/ours", "encodeCSV/qt", 0.12, 1),
-    ("encode", "encode, one value; QHash::value", "encode/ours", "encode/qt", 0.3, 0),
+    ("encodeCSV", "encodeCSV, three bits; QMetaEnum::valueToKeys", "encodeCSV/ours", "encodeCSV/qt", 0.3, 1),
+    ("encode", "encode, one value; QHash::value", "encode/ours", "encode/qt", 0.35, 0),
     ("countBits", "countBits; 64 masks", "countBits/ours", "countBits/masks", 0.2, None),
     ("hasExactlyOneBit", "hasExactlyOneBit; 64 masks", "hasExactlyOneBit/ours", "hasExactlyOneBit/masks", 0.2, None),
     ("splitToBitsSorted", "splitToBitsSorted, three bits; 64 masks into a QList", "splitToBitsSorted/ours",
@@ -43,9 +43,9 @@ TIMES = [
      "RVProductType_family/expression", 0.2, None),
     ("RVProductType-other", "RVProductType, other code; QRegularExpression", "RVProductType_other/ours",
      "RVProductType_other/expression", 0.2, None),
-    ("organization", "organization, cached; QRecursiveMutex, QHash", "organization/ours", "organization/cache", 1.1,
+    ("organization", "organization, cached; QRecursiveMutex, QHash", "organization/ours", "organization/cache", 1.15,
      None),
-    ("isValid", "isValid, cached; QRecursiveMutex, QHash", "isValid/ours", "isValid/cache", 1.1, None),
+    ("isValid", "isValid, cached; QRecursiveMutex, QHash", "isValid/ours", "isValid/cache", 1.15, None),
     ("product-element", "one product element; QDomElement::attribute", "product_element/ours", "product_element/dom",
      0.3, None),
     ("price-class-set", "a named price class set; QSet from literals", "price_class_set/ours",
@@ -55,6 +55,21 @@ TIMES = [
      None),
     ("catalogue-time", "rvcatalog show --json, 20,000 products; QDomDocument", "catalogue/ours", "catalogue/dom", 0.4,
      None),
+]
+# operation, what nobody can do without, benchmark of ours, of that, highest ratio
+FLOORS = [
+    ("decodeCSV, three keywords", "a look at each letter", "decodeCSV/ours", "decodeCSV/floor", None),
+    ("encodeCSV, three bits", "one allocation, one copy", "encodeCSV/ours", "encodeCSV/floor", 1.5),
+    ("encode, one value", "a copy of a QString", "encode/ours", "encode/floor", 1.5),
+    ("splitToBitsSorted, three bits", "a list of three", "splitToBitsSorted/ours", "splitToBitsSorted/floor", 1.5),
+    ("createFromKTX, three pairs", "a hash of three", "createFromKTX/ours", "createFromKTX/floor", 1.5),
+    ("RVProductType, family code", "a copy and its hash", "RVProductType_family/ours", "RVProductType_family/floor", None),
+    ("RVProductType, other code", "a copy and its hash", "RVProductType_other/ours", "RVProductType_other/floor", 1.5),
+    ("organization, cached", "a lock, a look-up, a call", "organization/ours", "organization/cache", 1.15),
+    ("isValid, cached", "a lock, a look-up, a call", "isValid/ours", "isValid/cache", 1.15),
+    ("one product element", "QDomElement::attribute for each", "product_element/ours", "product_element/floor", 1.5),
+    ("a named price class set", "a copy of a QSet", "price_class_set/ours", "price_class_set/floor", 1.5),
+    ("RVCatalogueReader, 1,000 products", "libxml2", "reader/ours", "reader/libxml2", 2.0),
 ]
 # name, operation and peer, benchmark of ours, of the peer, highest ratio of the processor time of both processes
 PROCESSES = [
@@ -231,6 +246,16 @@ def table(rows):
     return "\n".join([lines[0], rule, *lines[1:]])
 
 
+def floor_table(medians):
+    rows = [["operation", "floor", "ours ns", "floor ns", "ratio", "goal"]]
+    for operation, floor, ours, theirs, goal in FLOORS:
+        ours_ns, floor_ns = (medians[side]["ns"] for side in (ours, theirs))
+        ratio = ours_ns / floor_ns
+        verdict = "" if goal is None else f"≤ {goal:g}" + ("" if ratio <= goal else " missed")
+        rows.append([operation, floor, number(ours_ns), number(floor_ns), f"{ratio:.2f}", verdict])
+    return table(rows)
+
+
 def exponent(medians, name):
     """The slope of cost over size in double logarithmic scale: 1 is linear, 2 quadratic."""
     costs = {int(run.rsplit("/", 1)[1]): figures["ns"] for run, figures in medians.items() if run.startswith(name + "/")}
@@ -258,7 +283,8 @@ def main():
     if summary:
         print("\n".join(f"{row.name} {row.figure:.4g} {row.goal:g}" for row in rows))
         return
-    print(table([HEADINGS] + [row.columns() for row in rows]) + "\n\n" + complexity_table(results["seed 0"]))
+    print("\n\n".join([table([HEADINGS] + [row.columns() for row in rows]), floor_table(results["seed 0"]["medians"]),
+                       complexity_table(results["seed 0"])]))
 
 
 main()

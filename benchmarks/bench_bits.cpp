@@ -81,7 +81,9 @@ void addBenchmarks()
     }).against("masks", [](const RVPaperType &paper) { return countWithMasks(paper) == 1; });
     Comparison("splitToBitsSorted", three, [](const RVPaperType &paper) {
         return paper.splitToBitsSorted();
-    }).against("masks", [](const RVPaperType &paper) { return splitWithMasks(paper); });
+    }).against("masks", [](const RVPaperType &paper) {
+          return splitWithMasks(paper);
+      }).above(three, [](const RVPaperType &) { return QList<RVPaperTypeEnum>(3); });
     Comparison("toggleBits", three, [](const RVPaperType &other) {
         RVPaperType paper(TOGGLED);
         paper.toggleBits(other);

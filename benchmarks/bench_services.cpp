@@ -37,7 +37,8 @@ class Cache
 public:
     void insert(const Key &key, const Value &value) { myValues.insert(key, value); }
 
-    Value value(const Key &key) const
+    /// A call, as that into a library is.
+    Q_NEVER_INLINE Value value(const Key &key) const
     {
         const QMutexLocker locker(&myMutex);
         return myValues.value(key);

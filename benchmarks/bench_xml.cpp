@@ -9,9 +9,11 @@
 #include <RVSpineConfig.h>
 
 #include <QDomDocument>
+#include <QDomNamedNodeMap>
 #include <QList>
 
 #include <algorithm>
+#include <numeric>
 
 using namespace Qt::StringLiterals;
 
@@ -72,10 +74,42 @@ QList<QDomElement> products()
     return result;
 }
 
+struct Attribute
+{
+    QDomElement element;
+    QString name;
+};
+
+/// Every attribute of an element and of what stands in it.
+QList<Attribute> attributesOf(const QDomElement &element)
+{
+    QList<Attribute> result;
+    const QDomNamedNodeMap attributes = element.attributes();
+    for (int i = 0; i < attributes.size(); ++i)
+        result += { element, attributes.item(i).nodeName() };
+    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement())
+        result += attributesOf(child);
+    return result;
+}
+
+/// Asks for each attribute, and makes nothing of it.
+qsizetype countLetters(const QList<Attribute> &attributes)
+{
+    return std::accumulate(attributes.begin(), attributes.end(), qsizetype(0),
+                           [](qsizetype sum, const Attribute &attribute) {
+                               return sum + attribute.element.attribute(attribute.name).size();
+                           });
+}
+
 }
 
 void addBenchmarks()
 {
+    QList<QList<Attribute>> attributes;
+    for (const QDomElement &product : products())
+        attributes += attributesOf(product);
     Comparison("product_element", products(), readProduct)
-            .against("dom", [](const QDomElement &product) { return DomGeometry(product); }, sameProduct);
+            .against(
+                    "dom", [](const QDomElement &product) { return DomGeometry(product); }, sameProduct)
+            .above(attributes, countLetters);
 }
