@@ -28,7 +28,7 @@ public:
     ~CountedPart();
 };
 
-/// How many inputs a corpus has: too many for the branch predictor to learn their order, few enough for the cache.
+/// The number of inputs of a corpus: too many for the branch predictor to learn their order, few enough for the cache.
 constexpr int CORPUS_SIZE = 256;
 
 /// One iteration is a pass over the whole corpus, so what is measured is not the loop.

@@ -7,7 +7,8 @@
 #include <QRect>
 #include <QString>
 
-/// What a program without the library reads from a product element: every attribute by name, numbers by QString.
+/// The values that a program without the library reads from a product element: every attribute by name, numbers by
+/// QString.
 struct DomForm
 {
     QString key;

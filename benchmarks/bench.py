@@ -17,7 +17,7 @@ import sys
 PROGRAMS = ["keywords", "bits", "variants", "producttype", "services", "xml", "priceclasses", "reader", "search", "threads",
             "complexity", "catalogue", "memory"]
 SEEDS = {"seed 0": "0", "own seed": None}
-# How often a program runs with each seed, how many repetitions that is, and for how many seconds each.
+# Runs of a program with each seed, repetitions in a run, and seconds of each.
 USUAL_ROUNDS = (3, 5, 0.05)
 ROUNDS = {"complexity": (1, 3, 0.02), "catalogue": (1, 5, 1), "memory": (1, 1, 1), "threads": (3, 3, 0.1)}
 

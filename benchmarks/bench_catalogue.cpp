@@ -23,7 +23,7 @@ namespace {
 constexpr int PRODUCTS = 20000;
 constexpr int FORMS = 6;
 
-/// What a program wrote, product by product.
+/// The output of a program, product by product.
 class Output
 {
 public:

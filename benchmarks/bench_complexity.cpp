@@ -1,4 +1,4 @@
-// How the cost grows with the input.
+// The growth of the cost with the input.
 #include "Catalogue.h"
 #include "Comparison.h"
 

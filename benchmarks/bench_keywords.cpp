@@ -20,7 +20,7 @@
 
 using namespace Qt::StringLiterals;
 
-/// What a Qt developer writes for flags that have names: the bits of RVPaperTypeEnum, named by moc.
+/// The usual way of a Qt developer to name flags: the bits of RVPaperTypeEnum, named by moc.
 class PaperFlags
 {
     Q_GADGET

@@ -1,4 +1,4 @@
-# What the libraries of this tree have in common: how their headers are included and how they are installed.
+# The common parts of the libraries: their headers are included and installed alike.
 
 if(RV_INSTALL)
     include(CMakePackageConfigHelpers)

@@ -1,4 +1,4 @@
-# What holds only where this tree is built for itself, and not as a part of another project.
+# Settings that hold only where this tree is built for itself, and not as a part of another project.
 
 get_property(RV_MULTI_CONFIG GLOBAL PROPERTY GENERATOR_IS_MULTI_CONFIG)
 if(NOT RV_MULTI_CONFIG AND NOT CMAKE_BUILD_TYPE)

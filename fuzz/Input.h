@@ -19,7 +19,7 @@ public:
 
     bool atEnd() const { return myPosition >= myBytes.size(); }
 
-    /// What is left.
+    /// All bytes that are left.
     QByteArray rest()
     {
         const QByteArray result = myBytes.mid(myPosition);

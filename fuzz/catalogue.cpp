@@ -27,7 +27,7 @@ protected:
     qint64 readData(char *data, qint64 maxSize) override { return QBuffer::readData(data, qMin(maxSize, qint64(3))); }
 };
 
-/// What the reader said of a file.
+/// The answers of the reader to a file.
 struct Reading
 {
     QStringList products;

@@ -26,7 +26,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What comes back of the texts that a value writes to a binary stream.
+/// The texts that come back of those that a value writes to a binary stream.
 template<typename T>
 QString readBack(const T &value)
 {

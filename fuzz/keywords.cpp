@@ -78,7 +78,7 @@ void checkBits(const T &value)
     CHECK_EQUAL(value.isNull(), value == E(0));
 }
 
-/// What is written reads back, unless a bit has no keyword of its own.
+/// A value that is written reads back, unless a bit has no keyword of its own.
 template<typename T>
 void checkWriting(const T &value)
 {
@@ -154,7 +154,7 @@ void checkSetOperations(const T &a, const T &b)
     checkCopies(a, b);
 }
 
-// What a single class offers besides.
+// Functions that only a single class offers.
 
 template<typename T>
 void checkOwn(const T &, const QString &)

@@ -60,7 +60,7 @@ void checkRange(const RVIntRange &range, const RVIntRange &other, int value)
     CHECK_EQUAL(range.stretched(value).max, saturated(qint64(range.max) * value));
 }
 
-/// What holds for every page count and every organisation, sensible or not.
+/// Properties that hold for every page count and every organisation, sensible or not.
 void checkAnyPageCount(const RVPageCountOrganization &counts, int pages)
 {
     CHECK_EQUAL(counts.inRange(pages), counts.range().contains(pages));

@@ -97,7 +97,7 @@ void checkProduct(const QDomElement &product)
     CHECK(options.size() <= forms.childNodes().size());
 }
 
-/// What a single element says, as an option, as a barcode and as a project.
+/// The readings of a single element, as an option, as a barcode and as a project.
 void checkElement(const QDomElement &element)
 {
     const RVConfiguredArticleVariant option(element);

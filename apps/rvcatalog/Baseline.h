@@ -15,7 +15,7 @@ class RVCatalogueFinding;
  * The findings of an old catalogue that are known, so that only new ones count. A finding is known by its file, rule,
  * product type and text, wherever in the file it stands; two that are the same need to be known twice.
  *
- * The file is JSON with one finding a line, sorted, and names catalogues from its own folder on.
+ * The file is JSON with a line for each finding, sorted, and names catalogues from its own folder on.
  */
 class Baseline
 {

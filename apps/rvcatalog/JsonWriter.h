@@ -9,7 +9,7 @@
 
 /**
  * Writes JSON piece by piece, without blanks, in the notation of QJsonDocument: the same escapes and the same numbers.
- * What QJsonDocument does besides stays with the caller, namely to sort the keys of an object.
+ * The rest of what QJsonDocument does stays with the caller, namely to sort the keys of an object.
  */
 class JsonWriter
 {
@@ -32,7 +32,7 @@ public:
 
     /// The blanks and commas between values that the caller separates.
     void separator(std::string_view text);
-    /// What was written since the last call.
+    /// All that was written since the last call.
     std::string take();
 
 private:

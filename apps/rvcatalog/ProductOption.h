@@ -11,7 +11,7 @@ struct ProductOption
     RVConfiguredArticleVariant option;
     QString formName; ///< "name" of the form
     RVPriceClass priceClass;
-    bool isDefault = false; ///< what is chosen of its key where the customer chooses nothing
+    bool isDefault = false; ///< chosen of its key where the customer chooses nothing
 
     /// "#rrggbb", or "#aarrggbb" where it can be seen through; empty without a colour.
     QString colorText() const;

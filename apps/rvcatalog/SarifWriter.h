@@ -11,7 +11,7 @@
 
 class JsonWriter;
 
-/// The Static Analysis Results Interchange Format, version 2.1.0, with one run and one result a line.
+/// The Static Analysis Results Interchange Format, version 2.1.0, with one run, and each result on a line of its own.
 class SarifWriter : public FindingWriter
 {
 public:

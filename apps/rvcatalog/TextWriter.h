@@ -7,7 +7,7 @@
 
 #include <memory>
 
-/// One finding a line, as compilers write them, and a summary.
+/// A line for each finding, as compilers write them, and a summary.
 class TextWriter : public FindingWriter
 {
 public:

@@ -24,7 +24,7 @@ public:
     /// Any value, also one that has no name.
     constexpr RVDirectoryName(RVDirectoryNameEnum value) noexcept : myValue(value) { }
 
-    constexpr RVDirectoryNameEnum value() const noexcept { return myValue; } ///< What it was made from.
+    constexpr RVDirectoryNameEnum value() const noexcept { return myValue; } ///< The value that it was made from.
     /// The directory's name, such as "cliparts"; a null text for any other value.
     QString name() const;
 

@@ -37,12 +37,12 @@ public:
     RVConfiguredArticleVariant(const RVConfiguredArticleVariant &) = default;
     RVConfiguredArticleVariant &operator=(const RVConfiguredArticleVariant &) = default;
 
-    QString key() const; ///< What is chosen, such as "alcolor".
-    QString keyName() const; ///< What the customer reads for the key.
+    QString key() const; ///< The subject of the choice, such as "alcolor".
+    QString keyName() const; ///< The key as the customer reads it.
     QString value() const; ///< The choice, such as "red".
-    /// What the customer reads for the value; a null text for an invalid option.
+    /// The value as the customer reads it; a null text for an invalid option.
     QString visibleName() const;
-    QString editorName() const; ///< What the editor shows for the value.
+    QString editorName() const; ///< The value as the editor shows it.
     /// Name of the preview image; options such as the spiral colour have a stock one where none is given.
     QString preview() const;
     /// The swatch colour; invalid when none is given or the text is no colour.

@@ -23,8 +23,8 @@ public:
     RVContentStatistic &operator=(RVContentStatistic &&) = default;
     virtual ~RVContentStatistic();
 
-    int countGeoMapAreas() const noexcept { return myCountGeoMapAreas; } ///< How many maps the project shows.
-    int countVideoAreas() const noexcept { return myCountVideoAreas; } ///< How many videos the project links.
+    int countGeoMapAreas() const noexcept { return myCountGeoMapAreas; } ///< The maps that the project shows.
+    int countVideoAreas() const noexcept { return myCountVideoAreas; } ///< The videos that the project links.
     /// The quantities of all add-ons, by billing code.
     QMap<RVPriceClass, int> boughtAdditionalContent() const { return myBoughtAdditionalContent; }
     /// The quantity of an add-on; 0 where it was not bought.

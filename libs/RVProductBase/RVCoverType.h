@@ -69,10 +69,10 @@ public:
     /// planner, a gift or an agenda, but no table calendar.
     bool isSimplex() const;
 
-    /// What the customer reads for exactly this value: empty for most kinds, and "unbekannter Bindungstyp" where there
-    /// is no name, such as for CERAMICS.
+    /// The name that the customer reads for exactly this value: empty for most kinds, and "unbekannter Bindungstyp"
+    /// where there is no name, such as for CERAMICS.
     QString humanReadableName() const;
-    /// What the customer reads about exactly this value, else "unbekannter Bindungstyp".
+    /// The description that the customer reads of exactly this value, else "unbekannter Bindungstyp".
     QString toolTip() const;
 
     static const RVDisplayNames<RVCoverType> &bindingNames(); ///< The table behind humanReadableName().

@@ -24,7 +24,7 @@ class RVDisplayNames
 public:
     /// The names of all values that have one, in the order of the values.
     QMap<T, QString> names;
-    /// What a name stands for that no value has.
+    /// The value that a name stands for which no value has.
     T defaultValue;
     /// The name of a value that has none.
     QString unknownName;

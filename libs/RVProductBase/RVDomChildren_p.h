@@ -4,8 +4,8 @@
 #include <QDomElement>
 #include <QString>
 
-/// What firstChildElement() finds. The document itself compares the names here, instead of making a node object of
-/// each child for it.
+/// The element that firstChildElement() finds. The document itself compares the names here, instead of making a node
+/// object of each child for it.
 inline QDomElement rvFirstChildElement(const QDomElement &parent, const QString &name)
 {
     const QDomNode child = parent.namedItem(name);

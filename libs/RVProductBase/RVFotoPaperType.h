@@ -36,7 +36,7 @@ public:
     /// nothing for anything else.
     static QList<RVFotoPaperType> createFromXTCI(const QString &code);
 
-    /// What the customer reads for exactly this value; a null text where there is no name.
+    /// The name that the customer reads for exactly this value; a null text where there is no name.
     QString humanReadableName() const;
     /// "1" or "2" for exactly one surface, else empty.
     QString encodeForProduction() const;

@@ -27,7 +27,7 @@ public:
     RVMargins(int vertical, int horizontal);
     /// @}
 
-    /// What is cut away at one edge.
+    /// The width that is cut away at one edge.
     /// @{
     int top() const noexcept { return data().top(); }
     int bottom() const noexcept { return data().bottom(); }
@@ -39,7 +39,7 @@ public:
     QPoint topLeft() const noexcept { return data().topLeft(); }
     /// The right margin as x, the bottom margin as y.
     QPoint bottomRight() const noexcept { return data().bottomRight(); }
-    /// What the margins add to the width and to the height of the page.
+    /// The lengths that the margins add to the width and to the height of the page.
     QSize totalMarginWH() const noexcept { return data().totalMarginWH(); }
     bool allNull() const noexcept { return data().allNull(); } ///< True without any bleed.
 

@@ -23,7 +23,7 @@ public:
     RVModelAddOnStatistic &operator=(RVModelAddOnStatistic &&) = default;
     virtual ~RVModelAddOnStatistic();
 
-    /// What the project contains, see RVContentStatistic.
+    /// The contents of the project, see RVContentStatistic.
     /// @{
     RVContentStatistic contentStatistic() const { return myContentStatistic; }
     int countGeoMapAreas() const noexcept { return myContentStatistic.countGeoMapAreas(); }

@@ -33,7 +33,7 @@ public:
 
     /// The German words for exactly this value, translated; empty where there are none.
     QString describe() const;
-    /// What the name of a production PDF ends with: "_left.pdf" and "_right.pdf" for exactly these pages where the
+    /// The end of the name of a production PDF: "_left.pdf" and "_right.pdf" for exactly these pages where the
     /// output is split by page, else "_center.pdf".
     QString pdfPostFix(bool split) const;
     /// The path with pdfPostFix() for every ".pdf" in it, in whatever letter case.

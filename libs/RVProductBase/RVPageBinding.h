@@ -31,7 +31,7 @@ public:
     /// From a keyword list such as "glued"; unknown keywords add nothing.
     RVPageBinding(const QString &text);
 
-    /// What the customer reads for exactly this value; empty where there is no name, such as for SPIRAL.
+    /// The name that the customer reads for exactly this value; empty where there is no name, such as for SPIRAL.
     QString humanReadableName() const;
     /// The table behind humanReadableName(). Its reverse look-up never finds "Rückstichbindung", which has an umlaut.
     static const RVDisplayNames<RVPageBinding> &pageBindingNames();

@@ -19,8 +19,8 @@ public:
     RVPageContext &operator=(RVPageContext &&) noexcept = default;
     virtual ~RVPageContext();
 
-    RVPageType pageType() const noexcept { return myPageType; } ///< What kind of page it is.
-    RVPageAlignment alignment() const noexcept { return myAlignment; } ///< Where it stands in the spread.
+    RVPageType pageType() const noexcept { return myPageType; } ///< The kind of page.
+    RVPageAlignment alignment() const noexcept { return myAlignment; } ///< The place in the spread.
     /// True when one bit is common.
     bool hasPageType(const RVPageType &pageType) const noexcept { return myPageType.matches(pageType); }
     /// True when one bit is common.

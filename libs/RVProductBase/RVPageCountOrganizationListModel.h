@@ -6,7 +6,7 @@
 
 #include <QAbstractListModel>
 
-/// Offers the allowed page counts of a product to a view, one row a count: "26 Seiten", "30 Seiten", … It belongs to
+/// Offers the allowed page counts of a product to a view, a row for each: "26 Seiten", "30 Seiten", … It belongs to
 /// the thread of its view.
 /// @ingroup geometry
 class RVPRODUCTBASE_EXPORT RVPageCountOrganizationListModel : public QAbstractListModel

@@ -18,10 +18,10 @@ public:
     RVPageSizeKey &operator=(RVPageSizeKey &&) noexcept = default;
     virtual ~RVPageSizeKey();
 
-    RVPageContext pageContext() const noexcept { return myPageContext; } ///< What page it is.
-    RVPageType pageType() const noexcept { return myPageContext.pageType(); } ///< What kind of page it is.
+    RVPageContext pageContext() const noexcept { return myPageContext; } ///< The page and its place in the spread.
+    RVPageType pageType() const noexcept { return myPageContext.pageType(); } ///< The kind of page.
     RVPageAlignment alignment() const noexcept { return myPageContext.alignment(); } ///< Every alignment there is.
-    int pageCount() const noexcept { return myPageCount; } ///< How many pages the product has.
+    int pageCount() const noexcept { return myPageCount; } ///< The number of pages that the product has.
     /// True with a valid context and a page count that is not negative.
     bool isValid() const { return myPageContext.isValid() && myPageCount >= 0; }
 

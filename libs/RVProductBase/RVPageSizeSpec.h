@@ -21,9 +21,9 @@ public:
     /// Without a slipcase cover.
     RVPageSizeSpec(const QSize &usableSize, const RVMargins &bleedMargins);
 
-    QSize usableSize() const noexcept { return myUsableSize; } ///< What remains when the bleed is cut away.
-    RVMargins bleedMargins() const noexcept { return myBleedMargins; } ///< What is cut away.
-    /// Where the usable part begins on the page with bleed.
+    QSize usableSize() const noexcept { return myUsableSize; } ///< The part that remains when the bleed is cut away.
+    RVMargins bleedMargins() const noexcept { return myBleedMargins; } ///< The edges that are cut away.
+    /// The place where the usable part begins on the page with bleed.
     QPoint topLeftOffsetOfUsablePrintArea() const noexcept { return myBleedMargins.topLeft(); }
     /// The usable size with the bleed.
     QSize totalSize() const noexcept;

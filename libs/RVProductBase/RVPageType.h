@@ -68,7 +68,7 @@ public:
     /// Adds the bits of a keyword list such as "spine, fullcover"; unknown keywords add nothing.
     void expandToKeyword(const QString &text);
 
-    /// How exactly this page is rendered for production: 0, 1 or 2.
+    /// The way in which exactly this page is rendered for production: 0, 1 or 2.
     int productionRenderingRule() const;
     /// The page number that an order gives to exactly this page; else 0 with a bit of spine, full cover, linen or
     /// leather, -1 for any other.

@@ -41,7 +41,7 @@ public:
     /// ASCII: "Fotopapier Glänzend" gives INDIGO, not FOTOPAPER_GLOSSY. See RVDisplayNames::value().
     static RVPaperType createFromHumanReadable(const QString &name);
 
-    /// What the customer reads for exactly this value, else "unbekannter Papiertyp".
+    /// The name that the customer reads for exactly this value, else "unbekannter Papiertyp".
     QString humanReadableName() const;
     static const RVDisplayNames<RVPaperType> &paperTypeNames(); ///< The table behind humanReadableName().
 

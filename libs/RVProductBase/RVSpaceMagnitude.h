@@ -61,18 +61,18 @@ public:
     /// see RVDisplayNames::value().
     static RVSpaceMagnitude createFromHumanReadable(const QString &name);
 
-    /// How many images one page takes at most; 1 for anything but exactly one size class that is known to take more.
+    /// The most images that one page takes; 1 for anything but exactly one size class that is known to take more.
     int maxReasonableImagesPerPage() const;
     /// A font size in points that suits exactly this size class, from 12 to 32; 12 for anything else.
     int suitableFontSizeInPoints() const;
     /// The area of exactly this size class in cm²; 0 for anything else.
     int normativeSize() const;
-    /// How many times larger the other area is; 1 where one of the two is 0. A combination has no area, so with one the
+    /// The other area divided by this one; 1 where one of the two is 0. A combination has no area, so with one the
     /// factor is 0, infinite or not a number.
     double scaleFactorForArea(const RVSpaceMagnitude &other) const;
     /// The square root of that, for lengths.
     double scaleFactorPerDimension(const RVSpaceMagnitude &other) const;
-    /// How many photos look best on a page of exactly this size class, from 1.5 to 4; 2.1 for anything else.
+    /// The number of photos that look best on a page of exactly this size class, from 1.5 to 4; 2.1 for anything else.
     double optimumFotosPerPage(const RVOrientation &orientation) const;
     /// The font scaled from this size class to another; a size in pixels is rounded down. A point size stays as it is
     /// where the new one would be infinite or not above 0, a size in pixels where it would be below 1.

@@ -54,7 +54,7 @@ public:
     RVDistance spineWidth(unsigned pages) const;
     /// The extra width on each side of the spine.
     RVDistance additionalSpineWidth() const;
-    /// How much smaller the cover is, in whole tenths of a millimetre: the additional width, truncated.
+    /// The length by which the cover is smaller, in whole tenths of a millimetre: the additional width, truncated.
     int coverReduceSize() const;
     /// The largest of the editor's font sizes, in points, whose line spacing in pixels is at most 85 % of the spine
     /// width without its sides, in tenths of a millimetre. At least the smallest size; 0 where there are no sizes.

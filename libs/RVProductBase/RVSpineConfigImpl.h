@@ -28,7 +28,7 @@ public:
     bool isValid() const;
     int additionalPagePackageBlocks(unsigned pages) const;
     /// @}
-    /// What the pages above the lowest count add to the spine.
+    /// The width that the pages above the lowest count add to the spine.
     RVDistance additionalWithForPages(unsigned pages) const;
     /// As RVSpineConfig has them.
     /// @{

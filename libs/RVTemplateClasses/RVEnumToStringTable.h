@@ -130,14 +130,14 @@ private:
     Q_DECL_HIDDEN static void visitBits(ENUM value, Visitor visit);
     static void warnUndecodable(const QString &keyword);
 
-    // What optimize() derives from the two maps.
+    // Derived from the two maps by optimize().
     RVKeywordIndex myIndex;
     UnsignedBits myIndexedBits = 0;
     QString myBitKeywords[sizeof(ENUM) * 8]; // of the indexed bits, by their numbers
 };
 
-// What the index cannot judge, say a text with a no-break space around it or with a Kelvin sign for a "k", is trimmed
-// and put into lower case by the rules of Unicode.
+// A keyword that the index cannot judge, say a text with a no-break space around it or with a Kelvin sign for a "k", is
+// trimmed and put into lower case by the rules of Unicode.
 template<typename ENUM>
 ENUM RVEnumToStringTable<ENUM>::decodeUnindexed(QStringView piece, ENUM fallback) const
 {

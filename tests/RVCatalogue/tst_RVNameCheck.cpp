@@ -393,7 +393,7 @@ void tst_RVNameCheck::oneMistake()
     QTEST(CheckedCatalogue(file).rules(), "findings");
 }
 
-// Whichever name of a clean catalogue is misspelt, that is the one finding.
+// Each name of a clean catalogue, misspelt alone, is the one finding.
 void tst_RVNameCheck::everyAttributeOfTheCleanCatalogue()
 {
     static const QRegularExpression attribute(u" ([a-zA-Z_]+)='[^']*'"_s);

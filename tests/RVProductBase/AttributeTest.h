@@ -10,7 +10,7 @@
 #include <future>
 #include <type_traits>
 
-/// What the keyword table of an attribute class says about one value. The first keyword encodes it.
+/// One value, as the keyword table of an attribute class has it. The first keyword encodes it.
 struct KeywordRow
 {
     qint64 value;

@@ -34,7 +34,7 @@ RVPageCountOrganization organization(int min, int max, int increment)
     return RVPageCountOrganization(RVIntRange(min, max), increment);
 }
 
-/// What a calculator was asked, and how often one was deleted. It outlives the calculator.
+/// The questions to a calculator, and the number of those deleted. It outlives the calculator.
 struct Log
 {
     QStringList asked;
@@ -470,7 +470,7 @@ void tst_RVPageOrganizationManager::calculatorAsksTheManager()
     QCOMPARE(log.asked, QStringList({ u"top"_s, u"middle"_s, u"base"_s }));
 }
 
-// What was asked about is remembered, not what the asked object has become.
+// The answer is remembered for the type that was asked about, not for what the object has become.
 void tst_RVPageOrganizationManager::calculatorChangesTheType()
 {
     Log log;

@@ -102,7 +102,7 @@ void row(const char *name, int size, int alignment)
     QTest::newRow(name) << int(sizeof(T)) << size << int(alignof(T)) << alignment;
 }
 
-/// How far a public member is from the beginning of its object.
+/// The distance of a public member from the beginning of its object.
 template<typename T, typename Member>
 int offset(Member T::*member)
 {

@@ -35,7 +35,7 @@ namespace {
 
 constexpr int THREADS = 8;
 
-/// What each of the threads gets when all call at once.
+/// The answers that the threads get when all call at once.
 template<typename Function>
 auto atOnce(Function function) -> std::vector<decltype(function())>
 {
@@ -281,7 +281,7 @@ void tst_concurrency::singletons()
     QVERIFY(check(RVDirectoryConfig::instance));
 }
 
-// What is set on one thread is seen whole on the others: all of the sizes, or none.
+// Sizes that are set on one thread are seen whole on the others: all of the sizes, or none.
 void tst_concurrency::platformSettings()
 {
     RVFontSizeManager *sizes = RVFontSizeManager::instance();

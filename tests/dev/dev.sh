@@ -61,7 +61,7 @@ says 'dev: installing ninja-build'
 called 'flock /var/lib/dpkg apt-get update'
 called 'apt-get install .*--no-install-recommends.* ninja-build$'
 not_called 'sudo'
-# What is installed is said before anything is called for it.
+# The message about an installation comes before anything is called for it.
 stand_in apt-get 'echo apt-get was called; exit 100'
 run 100 "$tree/dev" translations
 [[ $output == "dev: installing ninja-build"$'\n'"apt-get was called" ]] || fail "the order is wrong"
@@ -92,7 +92,7 @@ run 2 "$tree/dev" run fast
 says 'dev: "run" takes no argument, but got "fast"'
 not_called 'cmake'
 
-# What is shown is what is built, and no more.
+# Only the program that is shown is built.
 mkdir -p "$tree/build/release/bin"
 stand_in rvcatalog 'echo "the sample"'
 mv "$tools/rvcatalog" "$tree/build/release/bin"

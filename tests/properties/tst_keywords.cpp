@@ -208,7 +208,7 @@ void compareRandomTable(quint32 seed)
     compareDecoding(table, rules, keywords, 300);
     compareEncoding(table, rules, 100);
 
-    // What comes later is found too.
+    // A keyword that comes later is found too.
     table.insert(u"Later"_s, E(1));
     rules.insert(u"Later"_s, E(1));
     keywords += u"later"_s;
@@ -240,7 +240,7 @@ private Q_SLOTS:
     void attributes();
 };
 
-// What the other tests are made of.
+// The random texts that the other tests are made of.
 void tst_keywords::corpusIsOdd()
 {
     QCOMPARE(RandomText::whiteSpace().size(), 25);

@@ -1,4 +1,4 @@
-// What is read in a quick way, from numbers to options, is what the rule of each gives, whatever the text.
+// Each quick way to read, from numbers to options, gives what its rule gives for every text.
 #include "RandomText.h"
 
 #include <RVProductBase/RVArticleVariants.h>

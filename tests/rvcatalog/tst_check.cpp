@@ -559,7 +559,7 @@ void tst_check::quiet()
     QCOMPARE(run.exitCode, 2);
 }
 
-// However many threads there are, the findings are the same, and in the order of the file.
+// The findings are the same with any number of threads, and in the order of the file.
 void tst_check::jobs()
 {
     QByteArray many = "<p>\n";

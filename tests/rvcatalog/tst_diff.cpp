@@ -30,7 +30,7 @@ const QString DIFFERENCES = u"~ DUN9 \"Fotobuch\"\n"
                             "+ TOS1, article 5\n"
                             "1 added, 1 removed, 2 changed (1 renamed), 1 equal\n"_s;
 
-/// The cells of the first table of a document, one line a row.
+/// The cells of the first table of a document, a line for each row.
 QStringList tableOf(const QString &markdown)
 {
     QTextDocument document;

@@ -21,7 +21,7 @@ struct SharedObject
 using SharedObjects = std::array<SharedObject, 9>;
 using SharedObjectsFunction = void (*)(SharedObjects *);
 
-/// What the calling module sees of the objects that exist once in the process. Each module has its own copy of this.
+/// The view of the calling module on the objects that exist once in the process. Each module has its own copy of this.
 static inline SharedObjects sharedObjects()
 {
     return { {
