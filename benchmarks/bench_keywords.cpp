@@ -219,12 +219,15 @@ int sumOfLetters(const QString &text)
     return std::accumulate(text.begin(), text.end(), 0, [](int sum, QChar letter) { return sum + letter.unicode(); });
 }
 
-/// Ready texts of one value or several each.
+/// Ready texts of one value or several each. Nobody owns the letters, so a copy of a text counts no owners.
 QStringList encoded(const QList<RVPaperType> &papers)
 {
+    static QStringList texts;
     QStringList result;
-    for (const RVPaperType &paper : papers)
-        result += paper.encodeCSV();
+    for (const RVPaperType &paper : papers) {
+        texts += paper.encodeCSV();
+        result += QString::fromRawData(texts.constLast().constData(), texts.constLast().size());
+    }
     return result;
 }
 
