@@ -68,6 +68,7 @@ private Q_SLOTS:
     void decodesSilently();
     void encodes_data();
     void encodes();
+    void encodesKeywordsOfAnyLength();
     void insertsIntoAnOptimizedTable();
     void splits_data();
     void splits();
@@ -253,6 +254,21 @@ void tst_RVEnumToStringTable::encodes()
     QTEST(optimized.encode(FinishEnum(value)), "exact");
     QTEST(optimized.encodeCSV(FinishEnum(value)), "csv");
     QVERIFY(Table().encodeCSV(FINISH_MATT).isNull());
+}
+
+// Letters that differ tell whether each is in its place, and a neighbour behind them whether there are too many.
+void tst_RVEnumToStringTable::encodesKeywordsOfAnyLength()
+{
+    const QString letters = u"abcdefghijklmnopqrstuvwxyz"_s;
+    for (int length = 0; length <= letters.size(); ++length) {
+        for (int next = 0; next <= letters.size(); ++next) {
+            Table table;
+            table.insert(letters.left(length), FINISH_GLOSS);
+            table.insert(letters.right(next), FINISH_MATT);
+            QCOMPARE(table.encodeCSV(FinishEnum(FINISH_GLOSS | FINISH_MATT)),
+                     letters.left(length) + u", "_s + letters.right(next));
+        }
+    }
 }
 
 void tst_RVEnumToStringTable::insertsIntoAnOptimizedTable()
