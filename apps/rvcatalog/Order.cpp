@@ -1,5 +1,7 @@
 #include "Order.h"
 
+#include <Bill.h>
+
 using namespace Qt::StringLiterals;
 
 Order::Order(const RVCatalogueProject &project, const RVCatalogueProduct &product)
@@ -120,20 +122,5 @@ QStringList Order::chosenKeys() const
 
 QMap<RVPriceClass, qint64> Order::priceClasses() const
 {
-    const RVCatalogueProduct &product = myValues.product;
-    const RVArticleVariants ordered = variants();
-    QMap<RVPriceClass, qint64> result;
-    if (const RVPriceClass priceClass = product.priceClass(); priceClass.isValid())
-        ++result[priceClass];
-    if (const RVPriceClass priceClass = product.pagePriceClass(); priceClass.isValid() && packages() > 0)
-        result[priceClass] += packages();
-    for (const QString &key : ordered.keys()) {
-        const RVArticleVariants option(key, ordered.value(key));
-        const RVPriceClass priceClass = product.optionPriceClass(key, ordered.value(key));
-        const bool isCharged = !option.containsNotAccountableVariant()
-                && !myOptions.filter(key).variant(option).isNotAccountable();
-        if (isCharged && priceClass.isValid())
-            ++result[priceClass];
-    }
-    return result;
+    return Bill(myValues.product, packages(), variants()).counts();
 }

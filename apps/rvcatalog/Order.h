@@ -27,8 +27,7 @@ public:
     RVArticleVariants variants() const; ///< With the defaults.
     QList<ProductOption> options() const; ///< The chosen ones and the defaults, in the order of the catalogue.
     QStringList chosenKeys() const; ///< Sorted; the others have a default that is added.
-    /// All packages and options of a product may share one price class, so the sum may be larger than an int.
-    QMap<RVPriceClass, qint64> priceClasses() const;
+    QMap<RVPriceClass, qint64> priceClasses() const; ///< What is billed, and how often.
     /// @}
 
 private:
