@@ -87,7 +87,8 @@ set(CPACK_DEBIAN_RVBROWSER_PACKAGE_DEPENDS
 set(CPACK_DEBIAN_RVBROWSER_PACKAGE_RECOMMENDS "qt6-translations-l10n, fonts-dejavu-core | fonts-liberation")
 set(CPACK_DEBIAN_RVBROWSER_PACKAGE_SUGGESTS "rvcatalog")
 set(CPACK_DEBIAN_RVBROWSER_DESCRIPTION "The window shows the products of a catalogue: attributes, page counts with the spine,
-the page with its barcodes, options and the lines that they become in an order, and what is wrong with the catalogue.")
+the page with its barcodes, options, the lines and price classes that they become in an order, and what is wrong with
+the catalogue.")
 
 include(CPack)
 foreach(component RVCore RVXML RVProductBase)

@@ -147,6 +147,7 @@ void MainWindow::createMenus()
     edit->addAction(tr("Copy order &transfer"), Qt::CTRL | Qt::SHIFT | Qt::Key_T, this,
                     copy(OrderLinesPanel::OrderTransfer));
     edit->addAction(tr("Copy &order text"), Qt::CTRL | Qt::SHIFT | Qt::Key_O, this, copy(OrderLinesPanel::OrderText));
+    edit->addAction(tr("Copy price &classes"), Qt::CTRL | Qt::SHIFT | Qt::Key_C, myView, &ProductView::copyPrices);
 
     QMenu *view = menuBar()->addMenu(tr("&View"));
     QAction *findings = myFindingsDock->toggleViewAction();

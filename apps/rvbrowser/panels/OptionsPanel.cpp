@@ -1,5 +1,6 @@
 #include "OptionsPanel.h"
 
+#include "Bill.h"
 #include "PlainToolTip.h"
 #include "WheelGuard.h"
 
@@ -25,7 +26,7 @@ QString noteText(const RVCatalogueProduct &product, const RVConfiguredArticleVar
     if (option.value() == defaultValue)
         texts += OptionsPanel::tr("default");
     const RVPriceClass priceClass = product.optionPriceClass(option.key(), option.value());
-    if (option.isNotAccountable() || option.toArticleVariants().containsNotAccountableVariant())
+    if (!Bill::isCharged(option))
         texts += OptionsPanel::tr("not charged");
     else if (priceClass.isValid())
         texts += priceClass.toString();

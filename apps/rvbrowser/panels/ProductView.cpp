@@ -4,6 +4,7 @@
 #include "CatalogueServices.h"
 #include "OptionsPanel.h"
 #include "PagePanel.h"
+#include "PricesPanel.h"
 #include "SpinePanel.h"
 
 #include <QComboBox>
@@ -24,7 +25,8 @@ ProductView::ProductView(QWidget *parent)
       myPage(new PagePanel),
       mySpine(new SpinePanel),
       myOptions(new OptionsPanel),
-      myOrderLines(new OrderLinesPanel)
+      myOrderLines(new OrderLinesPanel),
+      myPrices(new PricesPanel)
 {
     setObjectName(u"productView"_s);
     setWidgetResizable(true);
@@ -45,6 +47,7 @@ ProductView::ProductView(QWidget *parent)
     myTexts->addWidget(myAttributes);
     myTexts->addWidget(myOptions);
     myTexts->addWidget(myOrderLines);
+    myTexts->addWidget(myPrices);
     myTexts->addStretch(1);
     myDrawings->addWidget(mySpine);
     myDrawings->addWidget(myPage);
@@ -58,6 +61,8 @@ ProductView::ProductView(QWidget *parent)
     layout->addLayout(myColumns, 1);
     setWidget(content);
     connect(myOptions, &OptionsPanel::variantsChanged, this, &ProductView::showOrderLines);
+    connect(myOptions, &OptionsPanel::variantsChanged, this, &ProductView::showPrices);
+    connect(mySpine, &SpinePanel::pagesChanged, this, &ProductView::showPrices);
 }
 
 void ProductView::setProduct(const CataloguePointer &catalogue, int product)
@@ -68,6 +73,7 @@ void ProductView::setProduct(const CataloguePointer &catalogue, int product)
     myOffered = values.options();
     showHeader(*catalogue, product);
     myAttributes->setProduct(values, catalogue->words());
+    myPrices->setProduct(OrderPrices(*catalogue, product));
     mySpine->setProduct(values, isSold ? CatalogueServices::pageCounts(type) : values.pageCounts());
     myPage->setProduct(values);
     myOptions->setProduct(values);
@@ -129,4 +135,14 @@ void ProductView::showOrderLines()
 {
     const RVArticleVariants variants = myOptions->variants();
     myOrderLines->setVariants(variants, myOffered.visibleNames(variants));
+}
+
+void ProductView::showPrices()
+{
+    myPrices->setChoice(mySpine->pages(), myOptions->variants());
+}
+
+void ProductView::copyPrices() const
+{
+    myPrices->copy();
 }

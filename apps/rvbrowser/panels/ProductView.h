@@ -9,6 +9,7 @@
 class AttributePanel;
 class OptionsPanel;
 class PagePanel;
+class PricesPanel;
 class QBoxLayout;
 class QLabel;
 class QVBoxLayout;
@@ -27,6 +28,7 @@ public:
     /// The same, but the page count and the options stay as they were chosen, as far as the product still has them.
     void updateProduct(const CataloguePointer &catalogue, int product);
     void copy(OrderLinesPanel::Line line) const { myOrderLines->copy(line); }
+    void copyPrices() const;
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
@@ -34,6 +36,7 @@ protected:
 private:
     void showHeader(const LoadedCatalogue &catalogue, int product);
     void showOrderLines();
+    void showPrices();
     /// Options first, then what stands below and beside them.
     void arrangeTabOrder();
     /// Two columns where both have room, else one below the other.
@@ -49,6 +52,7 @@ private:
     SpinePanel *mySpine;
     OptionsPanel *myOptions;
     OrderLinesPanel *myOrderLines;
+    PricesPanel *myPrices;
     RVConfiguredArticleVariantList myOffered;
 };
 

@@ -58,6 +58,7 @@ SpinePanel::SpinePanel(QWidget *parent)
     layout->addWidget(myText);
     layout->addLayout(drawings, 1);
     connect(myChooser, &PageCountChooser::rowChanged, this, &SpinePanel::showRow);
+    connect(myChooser, &PageCountChooser::rowChanged, this, &SpinePanel::pagesChanged);
 }
 
 void SpinePanel::setProduct(const RVCatalogueProduct &product, const RVPageCountOrganization &pageCounts)

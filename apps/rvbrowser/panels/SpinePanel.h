@@ -27,6 +27,9 @@ public:
     int pages() const;
     void setPages(int pages);
 
+Q_SIGNALS:
+    void pagesChanged();
+
 private:
     void showRow(int row);
 
