@@ -58,7 +58,7 @@ holds rvcatalog \
 
 holds rvbrowser \
     bin/rvbrowser share/man/man1/rvbrowser.1.gz share/applications/rvbrowser.desktop \
-    share/icons/hicolor/scalable/apps/rvbrowser.svg
+    share/icons/hicolor/scalable/apps/rvbrowser.svg share/metainfo/localhost.rvproductbase.rvbrowser.metainfo.xml
 
 for package in librvproductbase0 librvproductbase-dev librvcatalogue0 librvcatalogue-dev rvcatalog rvbrowser; do
     [[ $(field "$package" Version) == "$version" ]] || fail "$package has version $(field "$package" Version)"
