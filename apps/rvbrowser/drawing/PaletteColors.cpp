@@ -1,8 +1,32 @@
 #include "PaletteColors.h"
 
+#include <QtMath>
+
+#include <algorithm>
+
 namespace {
 
 constexpr int MIDDLE_LIGHTNESS = 128;
+constexpr int LIGHTNESS_STEP = 4;
+constexpr qreal LINE_CONTRAST = 3; // with less, a thin line is hard to see
+
+qreal linear(qreal part)
+{
+    return part <= 0.04045 ? part / 12.92 : qPow((part + 0.055) / 1.055, 2.4);
+}
+
+/// The brightness to the eye, from 0 to 1.
+qreal luminance(const QColor &color)
+{
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+/// From 1, the same brightness, to 21, black and white.
+qreal contrast(const QColor &a, const QColor &b)
+{
+    const auto [dark, bright] = std::minmax({ luminance(a), luminance(b) });
+    return (bright + 0.05) / (dark + 0.05);
+}
 
 }
 
@@ -18,9 +42,15 @@ QColor PaletteColors::shade(qreal strength) const
 QColor PaletteColors::accent() const
 {
     const QColor color = myPalette.color(QPalette::Highlight);
-    const int lightness = isDark() ? qMax(MIDDLE_LIGHTNESS + 40, color.lightness())
-                                   : qMin(MIDDLE_LIGHTNESS - 20, color.lightness());
-    return QColor::fromHsl(color.hslHue(), color.hslSaturation(), lightness);
+    const int step = isDark() ? LIGHTNESS_STEP : -LIGHTNESS_STEP;
+    int lightness = isDark() ? qMax(MIDDLE_LIGHTNESS + 40, color.lightness())
+                             : qMin(MIDDLE_LIGHTNESS - 20, color.lightness());
+    QColor result;
+    do {
+        result = QColor::fromHsl(color.hslHue(), color.hslSaturation(), qBound(0, lightness, 255));
+        lightness += step;
+    } while (contrast(result, myPalette.color(QPalette::Base)) < LINE_CONTRAST && 0 < lightness && lightness < 255);
+    return result;
 }
 
 QColor PaletteColors::fault() const
