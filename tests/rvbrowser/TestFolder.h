@@ -1,0 +1,34 @@
+#ifndef TESTFOLDER_H
+#define TESTFOLDER_H
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <cstdio>
+
+/// A folder with files for a test, which is gone with it.
+class TestFolder
+{
+public:
+    QString path(const QString &name) const { return myFolder.filePath(name); }
+    /// Writes into the file itself, as simple programs do. False where that fails.
+    bool write(const QString &name, const QByteArray &content) const
+    {
+        QFile file(path(name));
+        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+    }
+    /// Puts a new file in the place of the old one, as most editors do. False where that fails.
+    bool replace(const QString &name, const QByteArray &content) const
+    {
+        const QString other = name + QStringLiteral(".new");
+        return write(other, content)
+                && std::rename(QFile::encodeName(path(other)).constData(), QFile::encodeName(path(name)).constData())
+                == 0;
+    }
+    bool remove(const QString &name) const { return QFile::remove(path(name)); }
+
+private:
+    QTemporaryDir myFolder;
+};
+
+#endif

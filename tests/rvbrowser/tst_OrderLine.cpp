@@ -1,0 +1,93 @@
+#include <OrderLine.h>
+
+#include <QApplication>
+#include <QScrollBar>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class tst_OrderLine : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+
+    void isOneLineHigh();
+    void growsWithItsText();
+    void growsWhereItIsNarrow();
+    void scrollsWhatIsLong();
+    void cannotBeChanged();
+
+private:
+    int lines() const; ///< that there is room for
+    std::unique_ptr<OrderLine> myLine;
+};
+
+void tst_OrderLine::init()
+{
+    myLine = std::make_unique<OrderLine>();
+    myLine->resize(400, myLine->height());
+    myLine->show();
+    QVERIFY(QTest::qWaitForWindowExposed(myLine.get()));
+    myLine->activateWindow();
+}
+
+int tst_OrderLine::lines() const
+{
+    return myLine->height() / myLine->fontMetrics().lineSpacing();
+}
+
+void tst_OrderLine::isOneLineHigh()
+{
+    QCOMPARE(lines(), 1);
+    myLine->setText(u"alcolor:red"_s);
+    QCOMPARE(lines(), 1);
+}
+
+void tst_OrderLine::growsWithItsText()
+{
+    myLine->setText(u"a\nb\nc"_s);
+    QCOMPARE(lines(), 3);
+    QVERIFY(!myLine->verticalScrollBar()->isVisible());
+    myLine->setText(u"a"_s);
+    QCOMPARE(lines(), 1);
+}
+
+// There is no blank where it could be broken.
+void tst_OrderLine::growsWhereItIsNarrow()
+{
+    const QString text(30, u'm');
+    const int width = myLine->fontMetrics().horizontalAdvance(text);
+    myLine->resize(width * 2, myLine->height());
+    myLine->setText(text);
+    QCOMPARE(lines(), 1);
+    myLine->resize(width * 2 / 3, myLine->height());
+    QTRY_COMPARE(lines(), 2);
+    QVERIFY(!myLine->horizontalScrollBar()->isVisible());
+}
+
+void tst_OrderLine::scrollsWhatIsLong()
+{
+    myLine->setText(u"1\n2\n3\n4"_s);
+    QCOMPARE(lines(), 4);
+    QTRY_VERIFY(!myLine->verticalScrollBar()->isVisible());
+    myLine->setText(u"1\n2\n3\n4\n5\n6"_s);
+    QCOMPARE(lines(), 4);
+    QTRY_VERIFY(myLine->verticalScrollBar()->isVisible());
+    QVERIFY(myLine->verticalScrollBar()->maximum() > 0);
+}
+
+void tst_OrderLine::cannotBeChanged()
+{
+    myLine->setText(u"alcolor:red"_s);
+    QTest::keyClicks(myLine.get(), u"abc"_s);
+    QTest::keyClick(myLine.get(), Qt::Key_Tab);
+    QTest::keyClick(myLine.get(), Qt::Key_Delete);
+    QCOMPARE(myLine->toPlainText(), u"alcolor:red"_s);
+    QTest::keyClick(myLine.get(), Qt::Key_A, Qt::ControlModifier);
+    QCOMPARE(myLine->textCursor().selectedText(), u"alcolor:red"_s);
+}
+
+QTEST_MAIN(tst_OrderLine)
+#include "tst_OrderLine.moc"
