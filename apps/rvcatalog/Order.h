@@ -27,7 +27,7 @@ public:
     RVArticleVariants variants() const; ///< With the defaults.
     QList<ProductOption> options() const; ///< The chosen ones and the defaults, in the order of the catalogue.
     QStringList chosenKeys() const; ///< Sorted; the others have a default that is added.
-    QMap<RVPriceClass, qint64> priceClasses() const; ///< What is billed, and how often.
+    QMap<RVPriceClass, qint64> priceClasses() const; ///< Those that are billed, and how often.
     /// @}
 
 private:

@@ -141,7 +141,7 @@ void tst_CatalogueSession::reloadsOnRequest()
     mySession->reload();
     QCOMPARE(myStarted->constLast().at(0).toString(), path(u"c.xml"_s));
     QVERIFY(myChanged->wait(TIMEOUT));
-    // What is shown is meant, and not what could not be opened.
+    // The shown file is meant, and not the one that could not be opened.
     mySession->open(path(u"missing.xml"_s));
     QVERIFY(myFailed->wait(TIMEOUT));
     mySession->reload();
@@ -222,7 +222,7 @@ void tst_CatalogueSession::cancels()
     QCOMPARE(myFailed->size(), 0);
 }
 
-// Whatever was given up says nothing.
+// A file that was given up is told of no more.
 void tst_CatalogueSession::opensAnotherWhileLoading()
 {
     QVERIFY(myFolder->write(u"big.xml"_s, manyProducts(MANY)));

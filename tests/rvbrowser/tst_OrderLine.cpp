@@ -4,6 +4,8 @@
 #include <QScrollBar>
 #include <QTest>
 
+#include <memory>
+
 using namespace Qt::StringLiterals;
 
 class tst_OrderLine : public QObject

@@ -84,9 +84,9 @@ private:
     {
         return myWindow->findChild<T *>(name);
     }
-    /// What there is to read, one line a row of the table.
+    /// The table, a row a line and a bar between its cells.
     QStringList shown() const;
-    /// What the button copies; empty where it cannot be pressed.
+    /// The lines that the button copies; none where it cannot be pressed.
     QStringList copied() const;
     QString project(const RVProductType &type) const;
     void chooseSomething();
