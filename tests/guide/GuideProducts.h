@@ -1,6 +1,7 @@
 #ifndef GUIDEPRODUCTS_H
 #define GUIDEPRODUCTS_H
 
+//! [guideProduct]
 #include <QDomDocument>
 #include <QFile>
 
@@ -22,5 +23,6 @@ inline QDomElement guideProduct(const QString &type)
     }
     return QDomElement();
 }
+//! [guideProduct]
 
 #endif

@@ -1,3 +1,4 @@
+//! [includes]
 #include <RVProductBase/RVArticleClass.h>
 #include <RVProductBase/RVOrientation.h>
 #include <RVProductBase/RVPageAlignment.h>
@@ -7,6 +8,7 @@
 #include <QTest>
 
 using namespace Qt::StringLiterals;
+//! [includes]
 
 class tst_guide_attributes : public QObject
 {

@@ -1,9 +1,11 @@
+//! [includes]
 #include <RVProductBase/RVDisplayNames.h>
 #include <RVTemplateClasses/RVEnumWrapper.h>
 
 #include <QTest>
 
 using namespace Qt::StringLiterals;
+//! [includes]
 
 //! [attribute]
 enum LaminationEnum : qint32 { LAMINATION_NONE = 0, LAMINATION_MATT = 1, LAMINATION_GLOSSY = 2, LAMINATION_SOFT = 4 };

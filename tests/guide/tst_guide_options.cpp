@@ -1,11 +1,13 @@
 #include "GuideProducts.h"
 
+//! [includes]
 #include <RVProductBase/RVArticleVariants.h>
 #include <RVProductBase/RVConfiguredArticleVariantList.h>
 
 #include <QTest>
 
 using namespace Qt::StringLiterals;
+//! [includes]
 
 class tst_guide_options : public QObject
 {
@@ -21,7 +23,9 @@ private Q_SLOTS:
 
 void tst_guide_options::offered()
 {
+    //! [product]
     const QDomElement product = guideProduct(u"DUN9_30"_s);
+    //! [product]
     //! [offered]
     const RVConfiguredArticleVariantList offered(product);
 

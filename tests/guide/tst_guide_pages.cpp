@@ -1,5 +1,6 @@
 #include "GuideProducts.h"
 
+//! [includes]
 #include <RVCore/RVFontSizeManager.h>
 #include <RVProductBase/RVPageCountOrganization.h>
 #include <RVProductBase/RVPageCountOrganizationListModel.h>
@@ -8,6 +9,7 @@
 #include <QTest>
 
 using namespace Qt::StringLiterals;
+//! [includes]
 
 class tst_guide_pages : public QObject
 {
@@ -113,7 +115,9 @@ void tst_guide_pages::box()
 
 void tst_guide_pages::spine()
 {
+    //! [product]
     const QDomElement product = guideProduct(u"DUN9_30"_s);
+    //! [product]
     //! [spine]
     const auto spine = RVSpineConfig::createFromProductsXML(product);
 

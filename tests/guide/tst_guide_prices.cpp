@@ -1,5 +1,6 @@
 #include "GuideProducts.h"
 
+//! [includes]
 #include <RVCore/RVSpotColor.h>
 #include <RVProductBase/RVArticleVariants.h>
 #include <RVProductBase/RVConfiguredArticleVariant.h>
@@ -12,6 +13,7 @@
 #include <QTest>
 
 using namespace Qt::StringLiterals;
+//! [includes]
 
 class tst_guide_prices : public QObject
 {
@@ -46,7 +48,9 @@ void tst_guide_prices::groups()
 
 void tst_guide_prices::bill()
 {
+    //! [product]
     const QDomElement product = guideProduct(u"DUN9_30"_s);
+    //! [product]
     //! [bill]
     const auto pageCounts = RVPageCountOrganization::createFromProductsXML(product);
     const auto ordered = RVArticleVariants::createFromKTX(u"alcolor:red,coverphoto:yes"_s);

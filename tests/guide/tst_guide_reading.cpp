@@ -1,5 +1,6 @@
 #include "GuideProducts.h"
 
+//! [includes]
 #include <RVCore/RVDistanceUnit.h>
 #include <RVProductBase/RVArticleClass.h>
 #include <RVProductBase/RVArticleId.h>
@@ -14,6 +15,7 @@
 #include <QTest>
 
 using namespace Qt::StringLiterals;
+//! [includes]
 
 class tst_guide_reading : public QObject
 {
@@ -44,7 +46,9 @@ void tst_guide_reading::file()
 
 void tst_guide_reading::identity()
 {
+    //! [product]
     const QDomElement product = guideProduct(u"DUN9_30"_s);
+    //! [product]
     //! [identity]
     const RVProductType type(product.attribute(u"type"_s));
     const RVArticleId article(product, u"article_id"_s);

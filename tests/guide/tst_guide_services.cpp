@@ -1,5 +1,5 @@
-#include "GuideProducts.h"
-
+//! [includes]
+#include <RVCatalogue/RVCatalogueReader.h>
 #include <RVProductBase/RVArticleVariants.h>
 #include <RVProductBase/RVPageOrganizationCalculator.h>
 #include <RVProductBase/RVPageOrganizationManager.h>
@@ -12,6 +12,7 @@
 #include <utility>
 
 using namespace Qt::StringLiterals;
+//! [includes]
 
 //! [calculator]
 class CatalogueCalculator : public RVPageOrganizationCalculator
@@ -20,7 +21,8 @@ public:
     RVPageCountOrganization calculate(const RVProductType &type) override
     {
         ++calls;
-        return RVPageCountOrganization::createFromProductsXML(guideProduct(type.toString() + u"_30"_s));
+        RVCatalogueReader reader(u"products.xml"_s);
+        return reader.find(type).pageCounts();
     }
 
     int calls = 0;
@@ -37,12 +39,13 @@ public:
     RVProductCheckerType checkerTypes() const override { return SOLD_IN_SHOP; }
     bool isValidBoxStyle(const RVProductType &, const RVArticleVariants &variants) const override
     {
-        return variants.value(RVArticleVariants::pictureBoxKeyName()) != u"wood"_s;
+        // The customer chooses a box together with its colour; toXTCI() takes such options apart.
+        return variants.toXTCI().value(RVArticleVariants::pictureBoxKeyName()) != u"wood"_s;
     }
 };
 //! [checker]
 
-/// Brings in another checker while it is asked.
+//! [latechecker]
 class LateShopChecker : public ShopChecker
 {
 public:
@@ -57,6 +60,7 @@ public:
 private:
     mutable RVProductChecker *myLate;
 };
+//! [latechecker]
 
 class tst_guide_services : public QObject
 {
@@ -138,7 +142,11 @@ void tst_guide_services::checkers()
 
     QVERIFY(registry->isValid(u"DUN9"_s, SOLD_IN_SHOP));
     QVERIFY(!registry->isValid(u"VIR1"_s, SOLD_IN_SHOP));
-    QVERIFY(!registry->isValidBoxStyle(u"DUN9"_s, RVArticleVariants(u"boxstyle"_s, u"wood"_s), SOLD_IN_SHOP));
+
+    const RVArticleVariants box(u"boxstyle;giftboxcolor"_s, u"wood;black"_s);
+
+    QVERIFY(!registry->isValidBoxStyle(u"DUN9"_s, box, SOLD_IN_SHOP));
+    QVERIFY(registry->isValidBoxStyle(u"DUN9"_s, RVArticleVariants(u"alcolor"_s, u"red"_s), SOLD_IN_SHOP));
 
     registry->unregisterChecker(&checker);
 
