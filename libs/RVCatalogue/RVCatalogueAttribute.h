@@ -12,6 +12,8 @@ class RVCatalogueProduct;
 struct RVCatalogueAttributeFunctions;
 
 /// One value of an attribute that has a keyword.
+/// @par Example
+/// @snippet tst_examples_catalogues.cpp RVCatalogueAttributeValue
 /// @ingroup catalogues
 struct RVCatalogueAttributeValue
 {
@@ -22,6 +24,8 @@ struct RVCatalogueAttributeValue
 };
 
 /// The meaning of a list of keywords.
+/// @par Example
+/// @snippet tst_examples_catalogues.cpp RVCatalogueAttributeDecoding
 /// @ingroup catalogues
 struct RVCatalogueAttributeDecoding
 {
@@ -37,6 +41,9 @@ struct RVCatalogueAttributeDecoding
  * An attribute whose values are written as keywords, without its class: RV_CATALOGUE_ATTRIBUTES for who does not want
  * to know the classes. Attributes are fixed, so a copy costs nothing; the default attribute is null, without a name and
  * without values.
+ *
+ * @par Example
+ * @snippet tst_examples_catalogues.cpp RVCatalogueAttribute
  *
  * @ingroup catalogues
  */

@@ -18,6 +18,8 @@
 
 /// An attribute whose values are written as keywords: its class, its name in the products XML, its label for people,
 /// and how a product tells it; null where it is no attribute of products.
+/// @par Example
+/// @snippet tst_examples_catalogues.cpp RVCatalogueAttributeRow
 /// @ingroup catalogues
 template<typename T>
 struct RVCatalogueAttributeRow

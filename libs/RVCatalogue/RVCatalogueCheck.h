@@ -22,6 +22,9 @@ class RVProductType;
  * Fonts are measured to find spines that are too narrow for any text, for which the program needs a QGuiApplication;
  * without one no spine is found to be.
  *
+ * @par Example
+ * @snippet tst_examples_catalogues.cpp RVCatalogueCheck
+ *
  * @ingroup catalogues
  */
 class RVCATALOGUE_EXPORT RVCatalogueCheck

@@ -9,7 +9,10 @@
 class RVCatalogueComparisonPrivate;
 class RVCatalogueReader;
 
-/// The numbers of products in a comparison. @ingroup catalogues
+/// The numbers of products in a comparison.
+/// @par Example
+/// @snippet tst_examples_catalogues.cpp RVComparisonCounts
+/// @ingroup catalogues
 struct RVComparisonCounts
 {
     qint64 added = 0; ///< Only in the new catalogue.
@@ -36,6 +39,9 @@ struct RVComparisonCounts
  *
  * Both files are read once, on every core. Of the old products and of those that differ, some hundred bytes each are
  * kept. For one thread at a time.
+ *
+ * @par Example
+ * @snippet tst_examples_catalogues.cpp RVCatalogueComparison
  *
  * @ingroup catalogues
  */

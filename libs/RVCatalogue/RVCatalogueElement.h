@@ -23,6 +23,9 @@ class RVCatalogueProductData;
  *
  * Names are compared exactly, prefixes included. Any thread may ask.
  *
+ * @par Example
+ * @snippet tst_examples_catalogues.cpp RVCatalogueElement
+ *
  * @ingroup catalogues
  */
 class RVCATALOGUE_EXPORT RVCatalogueElement

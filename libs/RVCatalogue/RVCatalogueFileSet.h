@@ -26,6 +26,9 @@ class RVDuplicates;
  * Files belong to it in the order in which their first products are read, and one is read to its end before the next
  * begins. It needs some 30 bytes for each product. All its readers belong to one thread at a time.
  *
+ * @par Example
+ * @snippet tst_examples_catalogues.cpp RVCatalogueFileSet
+ *
  * @ingroup catalogues
  */
 class RVCATALOGUE_EXPORT RVCatalogueFileSet

@@ -17,6 +17,9 @@ class RVCatalogueFindingData;
  * One place of a catalogue where something is to be mended, or could be written better. Copies share their data until
  * one of them is changed, also between threads. The default finding is null: it breaks no rule.
  *
+ * @par Example
+ * @snippet tst_examples_catalogues.cpp RVCatalogueFinding
+ *
  * @ingroup catalogues
  */
 class RVCATALOGUE_EXPORT RVCatalogueFinding

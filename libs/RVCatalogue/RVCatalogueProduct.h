@@ -37,6 +37,9 @@
  * missing or cannot be read stands for its default. An attribute that a product does not have is null, though an empty
  * text may stand for something. The default product is null and has nothing but defaults.
  *
+ * @par Example
+ * @snippet tst_examples_catalogues.cpp RVCatalogueProduct
+ *
  * @ingroup catalogues
  */
 class RVCATALOGUE_EXPORT RVCatalogueProduct

@@ -19,6 +19,9 @@ class QIODevice;
  * A file is refused for the same reasons as a catalogue is by RVCatalogueReader. The default project is of the usual
  * type and has chosen nothing.
  *
+ * @par Example
+ * @snippet tst_examples_catalogues.cpp RVCatalogueProject
+ *
  * @ingroup catalogues
  */
 class RVCATALOGUE_EXPORT RVCatalogueProject

@@ -38,6 +38,9 @@ class RVCatalogueReaderPrivate;
  *
  * A reader belongs to one thread; the products that it hands out may go anywhere.
  *
+ * @par Example
+ * @snippet tst_examples_catalogues.cpp RVCatalogueReader
+ *
  * @ingroup catalogues
  */
 class RVCATALOGUE_EXPORT RVCatalogueReader
@@ -115,6 +118,8 @@ private:
 };
 
 /// The input iterator for range-based for loops; its end is null.
+/// @par Example
+/// @snippet tst_examples_catalogues.cpp RVCatalogueReader_Iterator
 class RVCatalogueReader::Iterator
 {
 public:

@@ -22,6 +22,9 @@ struct RVCatalogueRuleRow;
  * A rule that catalogues are checked by. Rules are fixed, so a copy costs nothing; the default rule is null, without a
  * name.
  *
+ * @par Example
+ * @snippet tst_examples_catalogues.cpp RVCatalogueRule
+ *
  * @ingroup catalogues
  */
 class RVCATALOGUE_EXPORT RVCatalogueRule

@@ -33,6 +33,9 @@ class RVCheckConfigurationData;
  *
  * Copies share their data, also between threads. Any thread may read a file.
  *
+ * @par Example
+ * @snippet tst_examples_catalogues.cpp RVCheckConfiguration
+ *
  * @ingroup catalogues
  */
 class RVCATALOGUE_EXPORT RVCheckConfiguration

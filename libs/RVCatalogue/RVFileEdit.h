@@ -9,6 +9,9 @@
  * A change of a text file: a piece of it, and the text that comes in its place. An empty piece is a place where the
  * text is put in; an empty text takes the piece out.
  *
+ * @par Example
+ * @snippet tst_examples_catalogues.cpp RVFileEdit
+ *
  * @ingroup catalogues
  */
 struct RVFileEdit

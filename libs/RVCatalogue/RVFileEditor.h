@@ -35,6 +35,9 @@ class RVFileEditorPrivate;
  *
  * An editor belongs to one thread. Memory grows with the edits and not with the file.
  *
+ * @par Example
+ * @snippet tst_examples_catalogues.cpp RVFileEditor
+ *
  * @ingroup catalogues
  */
 class RVCATALOGUE_EXPORT RVFileEditor

@@ -7,6 +7,9 @@
  * A place in a text file, as editors count: line and column begin with 1, and a column is a UTF-16 code unit whatever
  * the encoding of the file. A byte order mark is no column. Lines end with a line feed, a carriage return or both.
  *
+ * @par Example
+ * @snippet tst_examples_catalogues.cpp RVFilePosition
+ *
  * @ingroup catalogues
  */
 struct RVFilePosition

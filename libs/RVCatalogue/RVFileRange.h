@@ -7,6 +7,9 @@
  * A piece of a text file: the place of its first letter and the place behind its last one. By default the empty piece
  * at the begin of a file.
  *
+ * @par Example
+ * @snippet tst_examples_catalogues.cpp RVFileRange
+ *
  * @ingroup catalogues
  */
 struct RVFileRange

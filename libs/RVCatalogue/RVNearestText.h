@@ -14,6 +14,9 @@
  * Letter case does not count. Texts of more than 64 letters, which is too long for a code or a keyword, are passed
  * over.
  *
+ * @par Example
+ * @snippet tst_examples_catalogues.cpp RVNearestText
+ *
  * @ingroup catalogues
  */
 class RVCATALOGUE_EXPORT RVNearestText

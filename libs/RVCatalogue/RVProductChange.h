@@ -23,7 +23,10 @@ enum class RVChangeKind {
 /// @relates RVProductChange
 RVCATALOGUE_EXPORT QLatin1StringView rvChangeKindName(RVChangeKind kind);
 
-/// A value of one of two products. By default there is none. @ingroup catalogues
+/// A value of one of two products. By default there is none.
+/// @par Example
+/// @snippet tst_examples_catalogues.cpp RVComparedValue
+/// @ingroup catalogues
 struct RVComparedValue
 {
     QString text; ///< For people, in the language of the program; texts of the catalogue are in quotes.
@@ -34,6 +37,9 @@ struct RVComparedValue
  * One difference between two versions of a product, in terms of what the ordering application reads: an attribute, a
  * page count, a field of an option. Copies share their data, also between threads; it never changes. The default change
  * is null: it is of no kind.
+ *
+ * @par Example
+ * @snippet tst_examples_catalogues.cpp RVProductChange
  *
  * @ingroup catalogues
  */

@@ -22,6 +22,9 @@
  * Nor does an option without key or value, or a barcode without extent. Of page counts that both versions have, the
  * widths of the spine are compared at the first 10,000. The default comparison is of two null products.
  *
+ * @par Example
+ * @snippet tst_examples_catalogues.cpp RVProductComparison
+ *
  * @ingroup catalogues
  */
 class RVCATALOGUE_EXPORT RVProductComparison

@@ -8,6 +8,9 @@
 /**
  * A second place that belongs to a finding, such as the first of two options that are the same.
  *
+ * @par Example
+ * @snippet tst_examples_catalogues.cpp RVRelatedPlace
+ *
  * @ingroup catalogues
  */
 struct RVRelatedPlace

@@ -4,6 +4,8 @@
 #include <QtGlobal>
 
 /// An angle in degrees. The default is 0, the null angle.
+/// @par Example
+/// @snippet tst_examples_platform.cpp RVAngle
 /// @ingroup platform
 class RVAngle
 {

@@ -12,6 +12,8 @@ class RVDirectoryConfig;
 extern template class RVCORE_EXPORT RVSingleton<RVDirectoryConfig>;
 
 /// Finds the application's resource files. Any thread.
+/// @par Example
+/// @snippet tst_examples_platform.cpp RVDirectoryConfig
 /// @ingroup platform
 class RVCORE_EXPORT RVDirectoryConfig : public RVSingleton<RVDirectoryConfig>
 {

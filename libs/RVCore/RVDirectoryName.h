@@ -17,6 +17,8 @@ enum RVDirectoryNameEnum : qint32 {
 };
 
 /// One of the directories that downloaded design content goes to. 0 is no directory.
+/// @par Example
+/// @snippet tst_examples_platform.cpp RVDirectoryName
 /// @ingroup platform
 class RVCORE_EXPORT RVDirectoryName
 {

@@ -6,6 +6,8 @@
 #include <QtGlobal>
 
 /// A length, stored in tenths of a millimetre. The default is 0. Equality is fuzzy: about 12 digits count.
+/// @par Example
+/// @snippet tst_examples_platform.cpp RVDistance
 /// @ingroup platform
 class RVDistance
 {

@@ -15,6 +15,8 @@ enum RVDistanceUnitEnum : qint32 {
 };
 
 /// A unit of length. Every length is stored in the base unit, a tenth of a millimetre.
+/// @par Example
+/// @snippet tst_examples_platform.cpp RVDistanceUnit
 /// @ingroup platform
 class RVCORE_EXPORT RVDistanceUnit
 {

@@ -11,6 +11,8 @@ class RVFontCreator;
 extern template class RVCORE_EXPORT RVSingleton<RVFontCreator>;
 
 /// Makes the fonts in which texts of a product are set. Any thread; measuring a font needs a QGuiApplication.
+/// @par Example
+/// @snippet tst_examples_platform.cpp RVFontCreator
 /// @ingroup platform
 class RVCORE_EXPORT RVFontCreator : public RVSingleton<RVFontCreator>
 {

@@ -12,6 +12,8 @@ class RVFontSizeManager;
 extern template class RVCORE_EXPORT RVSingleton<RVFontSizeManager>;
 
 /// The font sizes that the editor offers. Any thread.
+/// @par Example
+/// @snippet tst_examples_platform.cpp RVFontSizeManager
 /// @ingroup platform
 class RVCORE_EXPORT RVFontSizeManager : public RVSingleton<RVFontSizeManager>
 {

@@ -7,6 +7,8 @@
 extern template class RVCORE_EXPORT RVRange<int>;
 
 /// A closed interval of whole numbers that can be moved and scaled. Bounds stay within the int limits.
+/// @par Example
+/// @snippet tst_examples_platform.cpp RVIntRange
 /// @ingroup platform
 class RVCORE_EXPORT RVIntRange : public RVRange<int>
 {

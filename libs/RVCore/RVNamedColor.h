@@ -7,6 +7,8 @@ class QColor;
 class QString;
 
 /// How a colour is shown in rich text.
+/// @par Example
+/// @snippet tst_examples_platform.cpp RVNamedColor
 /// @ingroup platform
 class RVCORE_EXPORT RVNamedColor
 {

@@ -5,6 +5,8 @@
 
 /// A regular expression without pattern options that is compiled when it is built, not on the first match; for
 /// patterns that live as long as the process. Matching is thread-safe.
+/// @par Example
+/// @snippet tst_examples_platform.cpp RVRegularExpression
 /// @ingroup platform
 class RVRegularExpression : public QRegularExpression
 {

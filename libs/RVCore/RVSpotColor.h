@@ -17,6 +17,8 @@ RV_DECLARE_ENUM_OPERATORS(RVSpotColorEnum)
 extern template class RVCORE_EXPORT RVEnumWrapper<RVSpotColorEnum>;
 
 /// The finish of a page or a cover beside its colours, such as gloss or gold. 0 is no finish.
+/// @par Example
+/// @snippet tst_examples_attributes.cpp RVSpotColor
 /// @ingroup attributes
 class RVCORE_EXPORT RVSpotColor : public RVEnumWrapper<RVSpotColorEnum>
 {

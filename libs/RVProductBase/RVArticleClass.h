@@ -90,6 +90,9 @@ extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVArticleClassEnum>;
  *
  * Read from and written to keywords such as "book"; the shop cart, the start page and the help use the words below.
  *
+ * @par Example
+ * @snippet tst_examples_attributes.cpp RVArticleClass
+ *
  * @ingroup attributes
  */
 class RVPRODUCTBASE_EXPORT RVArticleClass : public RVEnumWrapper<RVArticleClassEnum>

@@ -7,6 +7,8 @@
 #include <QList>
 
 /// Article classes, in the order in which they were given; duplicates stay.
+/// @par Example
+/// @snippet tst_examples_articles.cpp RVArticleClassList
 /// @ingroup articles
 class RVPRODUCTBASE_EXPORT RVArticleClassList : public QList<RVArticleClass>
 {

@@ -20,6 +20,9 @@ class QJsonObject;
  *
  * Read from the products XML, project files and JSON under "id", "art_id" or "article_id"; written under the first two.
  *
+ * @par Example
+ * @snippet tst_examples_articles.cpp RVArticleId
+ *
  * @ingroup articles
  */
 class RVPRODUCTBASE_EXPORT RVArticleId

@@ -7,6 +7,8 @@
 #include <QSet>
 
 /// A set of articles.
+/// @par Example
+/// @snippet tst_examples_articles.cpp RVArticleIdSet
 /// @ingroup articles
 class RVPRODUCTBASE_EXPORT RVArticleIdSet : public QSet<RVArticleId>
 {

@@ -21,6 +21,9 @@ class QJsonArray;
  * expand it, everything else treats it as one option. The options have no order: values(), toKTX() and toOrderTxt()
  * follow the hash.
  *
+ * @par Example
+ * @snippet tst_examples_articles.cpp RVArticleVariants
+ *
  * @ingroup articles
  */
 class RVPRODUCTBASE_EXPORT RVArticleVariants

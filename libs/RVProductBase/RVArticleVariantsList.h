@@ -6,6 +6,8 @@
 #include <QList>
 
 /// A list of configurations of an article, such as its orderable box styles.
+/// @par Example
+/// @snippet tst_examples_articles.cpp RVArticleVariantsList
 /// @ingroup articles
 class RVPRODUCTBASE_EXPORT RVArticleVariantsList : public QList<RVArticleVariants>
 {

@@ -17,6 +17,9 @@ class RVDistance;
  *
  * Read from the products XML. By default an invalid definition: an empty rectangle on page 0 without an image.
  *
+ * @par Example
+ * @snippet tst_examples_geometry.cpp RVBarcodeDefinition
+ *
  * @ingroup geometry
  */
 class RVPRODUCTBASE_EXPORT RVBarcodeDefinition

@@ -9,6 +9,8 @@
 
 /// The barcodes of a product. Read from the products XML or, one at a time, from an order transfer; what is invalid is
 /// left out.
+/// @par Example
+/// @snippet tst_examples_geometry.cpp RVBarcodeDefinitionList
 /// @ingroup geometry
 class RVPRODUCTBASE_EXPORT RVBarcodeDefinitionList : public QList<RVBarcodeDefinition>
 {

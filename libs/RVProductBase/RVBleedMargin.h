@@ -6,6 +6,8 @@
 #include <QtGlobal>
 
 /// The bleed of a page whose opposite edges have the same: one amount for left and right, one for top and bottom.
+/// @par Example
+/// @snippet tst_examples_geometry.cpp RVBleedMargin
 /// @ingroup geometry
 class RVPRODUCTBASE_EXPORT RVBleedMargin
 {

@@ -18,6 +18,9 @@ class RVSpotColor;
  * Read from a "form" element of the products XML. Valid when both key and value are non-empty. Copies share their
  * data, and what was moved from is a valid object. An option that does not come from XML counts as a default choice.
  *
+ * @par Example
+ * @snippet tst_examples_articles.cpp RVConfiguredArticleVariant
+ *
  * @ingroup articles
  */
 class RVPRODUCTBASE_EXPORT RVConfiguredArticleVariant

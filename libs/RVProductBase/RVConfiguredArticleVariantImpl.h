@@ -8,6 +8,8 @@
 #include <QString>
 
 /// The shared data of RVConfiguredArticleVariant; the fields stand beside the XML attributes they are read from.
+/// @par Example
+/// @snippet tst_examples_articles.cpp RVConfiguredArticleVariantImpl
 /// @ingroup articles
 class RVPRODUCTBASE_EXPORT RVConfiguredArticleVariantImpl : public QSharedData
 {

@@ -19,6 +19,9 @@ class QDomElement;
  * An option matches a configuration when the configuration has its value under its key. An absent key counts as an
  * empty value: an option with an empty value, which only append() can add, matches wherever its key is absent.
  *
+ * @par Example
+ * @snippet tst_examples_articles.cpp RVConfiguredArticleVariantList
+ *
  * @ingroup articles
  */
 class RVPRODUCTBASE_EXPORT RVConfiguredArticleVariantList : public QList<RVConfiguredArticleVariant>

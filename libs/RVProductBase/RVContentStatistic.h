@@ -10,6 +10,8 @@ class RVPriceClassSet;
 
 /// What a project contains that costs extra: its map and video areas, and the add-ons that were bought, with their
 /// quantities. The editor fills it when a project is priced; it comes from no file.
+/// @par Example
+/// @snippet tst_examples_articles.cpp RVContentStatistic
 /// @ingroup articles
 class RVPRODUCTBASE_EXPORT RVContentStatistic
 {

@@ -47,6 +47,8 @@ RV_DECLARE_ENUM_OPERATORS(RVCoverTypeEnum)
 extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVCoverTypeEnum>;
 
 /// The cover of a book, the kind of a calendar, or the material of wall decor and gifts. 0 is no cover.
+/// @par Example
+/// @snippet tst_examples_attributes.cpp RVCoverType
 /// @ingroup attributes
 class RVPRODUCTBASE_EXPORT RVCoverType : public RVEnumWrapper<RVCoverTypeEnum>
 {

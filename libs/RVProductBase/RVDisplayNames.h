@@ -16,6 +16,9 @@
  * for; a later change of language does not change them. The tables of the attribute classes live as long as the
  * process. Every lookup is by the exact value, not by bits.
  *
+ * @par Example
+ * @snippet tst_examples_attributes.cpp RVDisplayNames
+ *
  * @ingroup attributes
  */
 template<typename T>

@@ -27,6 +27,8 @@ extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVDlpTypeEnum>;
 
 /// A kind of design content that the application downloads. 0 is none. Names, directories and queries take no notice of
 /// DLP_TYPE_FILTER_LINNEN_CAPABLE.
+/// @par Example
+/// @snippet tst_examples_attributes.cpp RVDlpType
 /// @ingroup attributes
 class RVPRODUCTBASE_EXPORT RVDlpType : public RVEnumWrapper<RVDlpTypeEnum>
 {

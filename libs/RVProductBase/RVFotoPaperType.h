@@ -21,6 +21,8 @@ extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVFotoPaperTypeEnum>;
 
 /// The surface of a photo print. 0 is none. It has the keyword "0", but only encode() writes it: encodeCSV() of 0 is
 /// empty.
+/// @par Example
+/// @snippet tst_examples_attributes.cpp RVFotoPaperType
 /// @ingroup attributes
 class RVPRODUCTBASE_EXPORT RVFotoPaperType : public RVEnumWrapper<RVFotoPaperTypeEnum>
 {

@@ -15,6 +15,9 @@ class QDebug;
  *
  * It never changes, so copies share their data, also between threads. An object that is moved from has no margins.
  *
+ * @par Example
+ * @snippet tst_examples_geometry.cpp RVMargins
+ *
  * @ingroup geometry
  */
 class RVPRODUCTBASE_EXPORT RVMargins

@@ -8,6 +8,8 @@
 #include <QSize>
 
 /// The shared data of RVMargins, which documents the operations.
+/// @par Example
+/// @snippet tst_examples_geometry.cpp RVMarginsImpl
 /// @ingroup geometry
 class RVPRODUCTBASE_EXPORT RVMarginsImpl : public QSharedData
 {

@@ -20,6 +20,8 @@ RV_DECLARE_ENUM_OPERATORS(RVMaterialTypeEnum)
 extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVMaterialTypeEnum>;
 
 /// The material or product family of a printed good. 0 is none.
+/// @par Example
+/// @snippet tst_examples_attributes.cpp RVMaterialType
 /// @ingroup attributes
 class RVPRODUCTBASE_EXPORT RVMaterialType : public RVEnumWrapper<RVMaterialTypeEnum>
 {

@@ -8,6 +8,8 @@
 #include "RVProductBaseExport.h"
 
 /// What a project contains that costs extra, together with the add-ons that its product model offers.
+/// @par Example
+/// @snippet tst_examples_articles.cpp RVModelAddOnStatistic
 /// @ingroup articles
 class RVPRODUCTBASE_EXPORT RVModelAddOnStatistic
 {

@@ -10,6 +10,8 @@ class QDebug;
 
 /// The id of an order, as the ordering service issued it. A null text is no order; an empty one is an order all the
 /// same. Written to streams as its text; the library never reads it back.
+/// @par Example
+/// @snippet tst_examples_articles.cpp RVOrderId
 /// @ingroup pricing
 class RVPRODUCTBASE_EXPORT RVOrderId
 {

@@ -7,6 +7,8 @@
 #include <QList>
 
 /// Order ids, in the order in which they were given.
+/// @par Example
+/// @snippet tst_examples_articles.cpp RVOrderIdList
 /// @ingroup pricing
 class RVPRODUCTBASE_EXPORT RVOrderIdList : public QList<RVOrderId>
 {

@@ -11,6 +11,8 @@ class QDebug;
 
 /// Ties a project of the user to the order that it was sent with, or asks for its order data to be deleted. Written to
 /// streams, but without that request; a reader passes what was written to the constructor.
+/// @par Example
+/// @snippet tst_examples_articles.cpp RVOrderProjectInfo
 /// @ingroup pricing
 class RVPRODUCTBASE_EXPORT RVOrderProjectInfo
 {

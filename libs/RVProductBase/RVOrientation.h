@@ -28,6 +28,8 @@ extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVOrientationEnum>;
 /// Whether a page or a product is upright, wide, square, or slim. 0 is none; a value without a keyword is written as
 /// "portrait". 0 has the keyword "none", but only encode() writes it: encodeCSV() writes "portrait", which is read as
 /// such.
+/// @par Example
+/// @snippet tst_examples_attributes.cpp RVOrientation
 /// @ingroup attributes
 class RVPRODUCTBASE_EXPORT RVOrientation : public RVEnumWrapper<RVOrientationEnum>
 {

@@ -22,6 +22,8 @@ extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVPageAlignmentEnum>;
 
 /// The place of a page in the spread, or of an element on its page. 0 is nowhere; an unknown keyword stands for the
 /// left, and so do "cover" and "coverpage".
+/// @par Example
+/// @snippet tst_examples_attributes.cpp RVPageAlignment
 /// @ingroup attributes
 class RVPRODUCTBASE_EXPORT RVPageAlignment : public RVEnumWrapper<RVPageAlignmentEnum>
 {

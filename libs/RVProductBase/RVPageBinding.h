@@ -22,6 +22,8 @@ extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVPageBindingEnum>;
 
 /// The binding that holds the pages of a product together. 0 is unknown. It has the keyword "unknown", but only
 /// encode() writes it: encodeCSV() of 0 is empty.
+/// @par Example
+/// @snippet tst_examples_attributes.cpp RVPageBinding
 /// @ingroup attributes
 class RVPRODUCTBASE_EXPORT RVPageBinding : public RVEnumWrapper<RVPageBindingEnum>
 {

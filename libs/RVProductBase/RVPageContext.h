@@ -7,6 +7,8 @@
 
 /// What a page of a product is: its type and its place in the spread. Both may hold several bits and then stand for
 /// each of them.
+/// @par Example
+/// @snippet tst_examples_geometry.cpp RVPageContext
 /// @ingroup geometry
 class RVPRODUCTBASE_EXPORT RVPageContext
 {

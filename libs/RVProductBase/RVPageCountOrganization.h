@@ -16,6 +16,9 @@ class QString;
  *
  * Page counts are pages; a package is what one increment adds. Results stay within the int limits.
  *
+ * @par Example
+ * @snippet tst_examples_geometry.cpp RVPageCountOrganization
+ *
  * @ingroup geometry
  */
 class RVPRODUCTBASE_EXPORT RVPageCountOrganization

@@ -8,6 +8,8 @@
 
 /// Offers the allowed page counts of a product to a view, a row for each: "26 Seiten", "30 Seiten", … It belongs to
 /// the thread of its view.
+/// @par Example
+/// @snippet tst_examples_geometry.cpp RVPageCountOrganizationListModel
 /// @ingroup geometry
 class RVPRODUCTBASE_EXPORT RVPageCountOrganizationListModel : public QAbstractListModel
 {

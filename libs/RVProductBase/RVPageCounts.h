@@ -16,12 +16,17 @@
  * The counts are computed while they are asked for, so two billion of them need no memory. For a list of them, write
  * `QList<int>(counts.begin(), counts.end())`.
  *
+ * @par Example
+ * @snippet tst_examples_geometry.cpp RVPageCounts
+ *
  * @ingroup geometry
  */
 class RVPageCounts
 {
 public:
     /// Goes through the counts, any number of times.
+    /// @par Example
+    /// @snippet tst_examples_geometry.cpp RVPageCounts_const_iterator
     class const_iterator
     {
     public:

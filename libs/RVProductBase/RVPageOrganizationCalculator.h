@@ -7,6 +7,8 @@
 class RVProductType;
 
 /// Computes the page counts of a product type for RVPageOrganizationManager; the application implements it.
+/// @par Example
+/// @snippet tst_guide_services.cpp calculator
 /// @ingroup services
 class RVPRODUCTBASE_EXPORT RVPageOrganizationCalculator
 {

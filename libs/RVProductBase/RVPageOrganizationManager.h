@@ -23,6 +23,9 @@ extern template class RVPRODUCTBASE_EXPORT RVSingleton<RVPageOrganizationManager
  * organisation. Whichever thread asks first, the QObject belongs to the thread of the application, if there is one by
  * then.
  *
+ * @par Example
+ * @snippet tst_guide_services.cpp pagecounts
+ *
  * @ingroup services
  */
 class RVPRODUCTBASE_EXPORT RVPageOrganizationManager : public QObject, public RVSingleton<RVPageOrganizationManager>

@@ -6,6 +6,8 @@
 
 /// What the size of a page depends on: what page it is, and how many pages the product has. The application keeps page
 /// sizes under it.
+/// @par Example
+/// @snippet tst_examples_geometry.cpp RVPageSizeKey
 /// @ingroup geometry
 class RVPRODUCTBASE_EXPORT RVPageSizeKey
 {

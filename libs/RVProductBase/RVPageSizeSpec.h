@@ -12,6 +12,8 @@ class QDebug;
 
 /// The size of a page: the part that can be used, the bleed around it, and the usable size of the slipcase cover where
 /// the product has one. All in the same unit. What was moved from is a valid object.
+/// @par Example
+/// @snippet tst_examples_geometry.cpp RVPageSizeSpec
 /// @ingroup geometry
 class RVPRODUCTBASE_EXPORT RVPageSizeSpec
 {

@@ -56,6 +56,8 @@ extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVPageTypeEnum>;
 
 /// The kind of a page: cover, spine, content page, side of a card, face of a slipcase. 0 is no page. The results of the
 /// three rules below are small bit sets, whose meaning is the caller's.
+/// @par Example
+/// @snippet tst_examples_attributes.cpp RVPageType
 /// @ingroup attributes
 class RVPRODUCTBASE_EXPORT RVPageType : public RVEnumWrapper<RVPageTypeEnum>
 {

@@ -27,6 +27,8 @@ extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVPaperTypeEnum>;
 
 /// The paper of a printed product. 0 is unknown; an unknown keyword stands for INDIGO. 0 has the keyword "unbekanntes
 /// Papier", but only encode() writes it: encodeCSV() writes "indigo", which is read as INDIGO.
+/// @par Example
+/// @snippet tst_examples_attributes.cpp RVPaperType
 /// @ingroup attributes
 class RVPRODUCTBASE_EXPORT RVPaperType : public RVEnumWrapper<RVPaperTypeEnum>
 {

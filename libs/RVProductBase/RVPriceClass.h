@@ -10,6 +10,9 @@
  * The billing code of a chargeable item or add-on, such as "KUR2" or "premium_design", exactly as the catalogue gives
  * it. The empty code is no price class. Codes are case-sensitive and ordered as strings: "KUR10" before "KUR2".
  *
+ * @par Example
+ * @snippet tst_examples_articles.cpp RVPriceClass
+ *
  * @ingroup pricing
  */
 class RVPRODUCTBASE_EXPORT RVPriceClass

@@ -17,6 +17,9 @@ class RVSpotColor;
  * A named group is built once and handed out as a shared copy; any thread may ask. The composite ones are put together
  * on every call.
  *
+ * @par Example
+ * @snippet tst_examples_articles.cpp RVPriceClassSet
+ *
  * @ingroup pricing
  */
 class RVPRODUCTBASE_EXPORT RVPriceClassSet : public QSet<RVPriceClass>

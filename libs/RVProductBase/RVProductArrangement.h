@@ -19,6 +19,8 @@ RV_DECLARE_ENUM_OPERATORS(RVProductArrangementEnum)
 extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVProductArrangementEnum>;
 
 /// How products are grouped where they are presented. 0 is no group.
+/// @par Example
+/// @snippet tst_examples_attributes.cpp RVProductArrangement
 /// @ingroup attributes
 class RVPRODUCTBASE_EXPORT RVProductArrangement : public RVEnumWrapper<RVProductArrangementEnum>
 {

@@ -19,6 +19,9 @@ using RVProductCheckerType = quint32;
  * RVProductCheckerRegistry::isValidWorker() and RVProductCheckerRegistry::isValidBoxStyle() call without it: from as
  * many threads at once as ask.
  *
+ * @par Example
+ * @snippet tst_guide_services.cpp checker
+ *
  * @ingroup services
  */
 class RVPRODUCTBASE_EXPORT RVProductChecker

@@ -32,6 +32,9 @@ extern template class RVPRODUCTBASE_EXPORT RVSingleton<RVProductCheckerRegistry>
  * unregistered meanwhile is still called once, so it must live until then. One that is registered meanwhile is not
  * called, and isValid() remembers the answer all the same: clear the caches when the question is answered.
  *
+ * @par Example
+ * @snippet tst_guide_services.cpp registry
+ *
  * @ingroup services
  */
 class RVPRODUCTBASE_EXPORT RVProductCheckerRegistry : public RVSingleton<RVProductCheckerRegistry>

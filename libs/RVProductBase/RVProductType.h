@@ -19,6 +19,9 @@ class RVPriceClass;
  * Photo book codes are reduced to their family, so every size and variant of one book is one type: "DUN9_30" is
  * "DUN9".
  *
+ * @par Example
+ * @snippet tst_examples_geometry.cpp RVProductType
+ *
  * @ingroup geometry
  */
 class RVPRODUCTBASE_EXPORT RVProductType

@@ -10,6 +10,8 @@
 class QDebug;
 
 /// A list of product types, in the order in which they were added.
+/// @par Example
+/// @snippet tst_examples_geometry.cpp RVProductTypeList
 /// @ingroup geometry
 class RVPRODUCTBASE_EXPORT RVProductTypeList : public QList<RVProductType>
 {

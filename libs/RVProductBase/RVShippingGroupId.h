@@ -17,6 +17,9 @@ class QJsonObject;
  *
  * Read from and written to the products XML and JSON under "id".
  *
+ * @par Example
+ * @snippet tst_examples_articles.cpp RVShippingGroupId
+ *
  * @ingroup pricing
  */
 class RVPRODUCTBASE_EXPORT RVShippingGroupId

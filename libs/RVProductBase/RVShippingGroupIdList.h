@@ -7,6 +7,8 @@
 #include <QList>
 
 /// Shipping groups, in the order in which they were given; duplicates stay.
+/// @par Example
+/// @snippet tst_examples_articles.cpp RVShippingGroupIdList
 /// @ingroup pricing
 class RVPRODUCTBASE_EXPORT RVShippingGroupIdList : public QList<RVShippingGroupId>
 {

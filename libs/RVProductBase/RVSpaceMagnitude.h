@@ -40,6 +40,9 @@ extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVSpaceMagnitudeEnum>;
  * The size class of a printable area, and what page layout makes of it. 0 is no size; an unknown keyword stands for
  * every size, and a value without a keyword is written as "any". So 0, once written, is read as every size.
  *
+ * @par Example
+ * @snippet tst_examples_attributes.cpp RVSpaceMagnitude
+ *
  * @ingroup attributes
  */
 class RVPRODUCTBASE_EXPORT RVSpaceMagnitude : public RVEnumWrapper<RVSpaceMagnitudeEnum>

@@ -21,6 +21,9 @@ class QString;
  * data, also between threads; moving one to a new object shares it as well. Moving one to an object that is there
  * exchanges the two.
  *
+ * @par Example
+ * @snippet tst_examples_geometry.cpp RVSpineConfig
+ *
  * @ingroup geometry
  */
 class RVPRODUCTBASE_EXPORT RVSpineConfig

@@ -11,6 +11,8 @@ class QDomElement;
 class QString;
 
 /// The shared data of RVSpineConfig, which documents the operations.
+/// @par Example
+/// @snippet tst_examples_geometry.cpp RVSpineConfigImpl
 /// @ingroup geometry
 class RVPRODUCTBASE_EXPORT RVSpineConfigImpl : public QSharedData
 {

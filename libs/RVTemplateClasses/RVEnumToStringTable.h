@@ -37,6 +37,9 @@
  *
  * Decoding ignores letter case and white space around a keyword.
  *
+ * @par Example
+ * @snippet tst_examples_platform.cpp RVEnumToStringTable
+ *
  * @ingroup templates
  */
 template<typename ENUM>

@@ -28,6 +28,9 @@
  * So that an application and its plug-ins share one table, the shared library that owns E declares
  * `extern template class EXPORT RVEnumWrapper<E>;` in its header and instantiates it in one source.
  *
+ * @par Example
+ * @snippet tst_examples_platform.cpp RVEnumWrapper
+ *
  * @ingroup templates
  */
 template<typename E>

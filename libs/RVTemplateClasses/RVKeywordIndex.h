@@ -17,6 +17,9 @@
  * Letter case and white space around a keyword are ignored, and nothing is allocated to find one. It knows ASCII
  * keywords of up to LONGEST letters only; covers() tells for which texts "not found" is the last word.
  *
+ * @par Example
+ * @snippet tst_examples_platform.cpp RVKeywordIndex
+ *
  * @ingroup templates
  */
 class RVKeywordIndex

@@ -10,6 +10,9 @@
  *
  * A range with max < min is invalid and contains nothing. [0, 0] doubles as "not yet set" for expandTo().
  *
+ * @par Example
+ * @snippet tst_examples_platform.cpp RVRange
+ *
  * @ingroup templates
  */
 template<typename T>

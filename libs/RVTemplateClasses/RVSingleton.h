@@ -13,6 +13,10 @@
  * `extern template class EXPORT RVSingleton<T>;` in its header and instantiates it in one source, so that an
  * application and its plug-ins reach the same instance.
  *
+ * @par Example
+ * @snippet tst_examples_platform.cpp RVSingleton
+ * @snippet tst_examples_platform.cpp RVSingletonUse
+ *
  * @ingroup templates
  */
 template<typename T>

@@ -7,6 +7,8 @@ class QDomElement;
 class QString;
 
 /// Appends child elements to XML elements.
+/// @par Example
+/// @snippet tst_examples_platform.cpp RVXMLBuilder
 /// @ingroup platform
 class RVXML_EXPORT RVXMLBuilder
 {

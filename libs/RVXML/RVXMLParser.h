@@ -14,6 +14,9 @@ class QString;
  * A null element has no attributes. An attribute that is present and empty is an empty text, and no number. A number
  * that is not finite or does not fit its type counts as not a number, so the default stands. Nothing is reported.
  *
+ * @par Example
+ * @snippet tst_examples_platform.cpp RVXMLParser
+ *
  * @ingroup platform
  */
 class RVXML_EXPORT RVXMLParser
