@@ -11,6 +11,7 @@ export FOLDER VERSION
 rm -rf "$FOLDER/html" "$FOLDER/RVProductBase.qch"
 mkdir -p "$FOLDER"
 doxygen docs/Doxyfile
+docs/site.py "$FOLDER/html"
 # doxygen passes over an enumerator without a text, but leaves it without a link.
 if grep -ohE '<b>[A-Z0-9_]+</b>' "$FOLDER"/html/group__*.html; then
   echo "build.sh: these enumerators have no text" >&2
