@@ -76,7 +76,7 @@ class Page:
         """Pieces of text and lines of code blocks."""
         title, *lines = (ROOT / self.path).read_text().splitlines()
         yield f"{plain(title)} {{#{self.name}}}\n"
-        if sum(line.startswith("## ") for line in lines) > 1 and self.name != "mainpage":
+        if sum(line.startswith("## ") for line in lines) > 1:
             yield "@tableofcontents\n"
         fence, text = None, []
         for line in lines:

@@ -11,6 +11,7 @@
 #include <RVCatalogue/RVFileEditor.h>
 
 #include <QBuffer>
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
@@ -70,8 +71,8 @@ void tst_guide_catalogue::oneProduct()
 
 void tst_guide_catalogue::element()
 {
-    RVCatalogueReader reader(u"products.xml"_s);
     //! [element]
+    RVCatalogueReader reader(u"products.xml"_s);
     const RVCatalogueProduct book = reader.next();
     const RVCatalogueElement spine = book.element().firstChildElement("composition"_L1).firstChildElement("spine"_L1);
 
@@ -83,8 +84,8 @@ void tst_guide_catalogue::element()
 
 void tst_guide_catalogue::attributes()
 {
-    RVCatalogueReader reader(u"products.xml"_s);
     //! [attributes]
+    RVCatalogueReader reader(u"products.xml"_s);
     const RVCatalogueProduct book = reader.next();
     QStringList texts;
     for (const RVCatalogueAttribute &attribute : RVCatalogueAttribute::ofProducts()) {
@@ -189,12 +190,14 @@ void tst_guide_catalogue::rules()
 void tst_guide_catalogue::mend()
 {
     const QTemporaryDir folder;
-    const QString fileName = folder.filePath(u"products.xml"_s);
-    QFile file(fileName);
+    const QString guide = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(folder.path()));
+    QFile file(u"calendar.xml"_s);
     QVERIFY(file.open(QIODevice::ReadWrite));
     file.write("<product type='KAL2' article_id='1020' cover_type='hardcovr'/>");
     file.close();
     //! [mend]
+    const QString fileName = u"calendar.xml"_s; // <product type='KAL2' article_id='1020' cover_type='hardcovr'/>
     RVFileEditor editor(fileName);
     RVCatalogueReader reader(fileName);
     reader.setCheck(RVCatalogueCheck());
@@ -206,6 +209,7 @@ void tst_guide_catalogue::mend()
     //! [mend]
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), QByteArray("<product type='KAL2' article_id='1020' cover_type='hardcover'/>"));
+    QVERIFY(QDir::setCurrent(guide));
 }
 
 void tst_guide_catalogue::apply()

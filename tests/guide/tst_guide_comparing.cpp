@@ -5,6 +5,7 @@
 #include <RVCatalogue/RVProductComparison.h>
 
 #include <QBuffer>
+#include <QFile>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -21,24 +22,15 @@ private Q_SLOTS:
     void products();
 };
 
-namespace {
-
-/// The catalogue of the guide after a year.
-QByteArray newCatalogue()
-{
-    QFile file(u"products.xml"_s);
-    if (!file.open(QIODevice::ReadOnly))
-        return QByteArray();
-    return file.readAll().replace("LEZ2", "LEZ4").replace("<family name=\"Fotos\">", "<family>");
-}
-
-}
-
 void tst_guide_comparing::comparison()
 {
-    QByteArray text = newCatalogue();
+    //! [new]
+    QFile products(u"products.xml"_s);
+    QVERIFY(products.open(QIODevice::ReadOnly));
+    QByteArray text = products.readAll().replace("LEZ2", "LEZ4").replace("<family name=\"Fotos\">", "<family>");
     QBuffer file(&text);
     QVERIFY(file.open(QIODevice::ReadOnly));
+    //! [new]
     QTest::ignoreMessage(QtDebugMsg, "\"DUN9\" \"Option alcolor:red, price class\" \"\\\"LEZ2\\\"\" \"\\\"LEZ4\\\"\"");
     QTest::ignoreMessage(QtDebugMsg, "\"TOS3\" \"Families\" \"\\\"Fotos\\\"\" \"\"");
     //! [comparison]
@@ -71,13 +63,16 @@ void tst_guide_comparing::error()
 
 void tst_guide_comparing::change()
 {
-    QByteArray text = newCatalogue();
+    QFile products(u"products.xml"_s);
+    QVERIFY(products.open(QIODevice::ReadOnly));
+    QByteArray text = products.readAll().replace("LEZ2", "LEZ4").replace("<family name=\"Fotos\">", "<family>");
     QBuffer file(&text);
     QVERIFY(file.open(QIODevice::ReadOnly));
+    //! [change]
+    QVERIFY(file.seek(0)); // if it was read before
     RVCatalogueReader before(u"products.xml"_s);
     RVCatalogueReader after(&file);
     RVCatalogueComparison comparison(&before, &after);
-    //! [change]
     const RVProductComparison book = comparison.next();
     const RVProductChange change = book.changes().constFirst();
 

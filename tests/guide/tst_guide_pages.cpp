@@ -4,6 +4,7 @@
 #include <RVCore/RVFontSizeManager.h>
 #include <RVProductBase/RVPageCountOrganization.h>
 #include <RVProductBase/RVPageCountOrganizationListModel.h>
+#include <RVProductBase/RVPageSizeSpec.h>
 #include <RVProductBase/RVSpineConfig.h>
 
 #include <QTest>
@@ -98,8 +99,8 @@ void tst_guide_pages::model()
 
 void tst_guide_pages::box()
 {
-    const QDomElement product = guideProduct(u"TOS3"_s);
     //! [box]
+    const QDomElement product = guideProduct(u"TOS3"_s);
     const auto box = RVPageCountOrganization::createFromProductsXMLForPictureBox(product);
 
     QCOMPARE(box.minPages(), 10);
