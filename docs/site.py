@@ -2,8 +2,9 @@
 """usage: site.py FOLDER
 
 Completes what doxygen has written to FOLDER: the search finds the words of the pages, the name in the title leads to the
-first page, and the index of the Qt help has the names that Qt Creator asks for.
+first page, cells of tables know their columns, and the index of the Qt help has the names that Qt Creator asks for.
 """
+import html
 import html.parser
 import json
 import pathlib
@@ -130,12 +131,31 @@ def name_keywords(project):
     project.write_text("\n".join(lines) + "\n")
 
 
+def with_heads(table):
+    """The table with the head of its column at each cell but the first, for screens that are too narrow for columns."""
+    heads = [html.unescape(re.sub("<.*?>", "", head)).strip() for head in re.findall(r"<th.*?>(.*?)</th>", table[0])]
+
+    def row(match):
+        number = iter(range(len(heads)))
+        return re.sub(r"<td(?=[ >])", lambda cell: head_of(next(number, 0)), match[0])
+
+    def head_of(number):
+        return f'<td data-head="{html.escape(heads[number])}"' if number and heads[number] else "<td"
+
+    return re.sub(r'<tr class="markdownTableRow.*?</tr>', row, table[0], flags=re.DOTALL)
+
+
+def complete(page):
+    text = page.read_text()
+    result = re.sub(r'(<div id="projectname">)(\w+)', r'\1<a href="index.html">\2</a>', text)
+    result = re.sub(r'<table class="markdownTable">.*?</table>', with_heads, result, flags=re.DOTALL)
+    if result != text:
+        page.write_text(result)
+
+
 def main(folder):
     for page in folder.glob("*.html"):
-        text = page.read_text()
-        linked = re.sub(r'(<div id="projectname">)(\w+)', r'\1<a href="index.html">\2</a>', text)
-        if linked != text:
-            page.write_text(linked)
+        complete(page)
     add_to_search(folder)
     name_keywords(folder / "index.qhp")
 
