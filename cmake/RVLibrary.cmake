@@ -67,8 +67,10 @@ function(rv_install_library name)
         DESTINATION ${package_dir}
         COMPONENT ${development}
     )
+    set(translations_dir ${CMAKE_INSTALL_DATADIR}/${name}/translations)
     configure_package_config_file(${name}Config.cmake.in ${CMAKE_CURRENT_BINARY_DIR}/${name}Config.cmake
         INSTALL_DESTINATION ${package_dir}
+        PATH_VARS translations_dir
     )
     write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/${name}ConfigVersion.cmake
         COMPATIBILITY SameMinorVersion
@@ -80,6 +82,15 @@ function(rv_install_library name)
         DESTINATION ${package_dir}
         COMPONENT ${development}
     )
+endfunction()
+
+# rv_find_translations(RVName)
+# The library finds its translations from its own place, so the installed tree can be moved.
+function(rv_find_translations name)
+    include(GNUInstallDirs)
+    file(RELATIVE_PATH data /${CMAKE_INSTALL_LIBDIR} /${CMAKE_INSTALL_DATADIR})
+    target_compile_definitions(${name} PRIVATE RV_DATA_FROM_LIBRARY="${data}")
+    target_link_libraries(${name} PRIVATE ${CMAKE_DL_LIBS})
 endfunction()
 
 # rv_install_pkg_config(RVName)

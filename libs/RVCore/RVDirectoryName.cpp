@@ -1,5 +1,8 @@
 #include "RVDirectoryName.h"
 
+#include "RVEnumerators.h"
+
+#include <QDebug>
 #include <QString>
 
 QString RVDirectoryName::name() const
@@ -21,4 +24,9 @@ QString RVDirectoryName::name() const
         return QStringLiteral("templates");
     }
     return QString();
+}
+
+QDebug operator<<(QDebug debug, RVDirectoryNameEnum value)
+{
+    return debug << RVEnumerators<RVDirectoryNameEnum>::text(value).constData();
 }

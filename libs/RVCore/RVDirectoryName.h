@@ -3,6 +3,7 @@
 
 #include "RVCoreExport.h"
 
+class QDebug;
 class QString;
 
 /// The directories, each with its name. @ingroup platform
@@ -30,10 +31,23 @@ public:
     /// The directory's name, such as "cliparts"; a null text for any other value.
     QString name() const;
 
+    /// By value.
+    /// @{
+    friend constexpr bool operator==(RVDirectoryName a, RVDirectoryName b) noexcept { return a.myValue == b.myValue; }
+    friend constexpr bool operator!=(RVDirectoryName a, RVDirectoryName b) noexcept { return !(a == b); }
+    friend constexpr decltype(sizeof 0) qHash(RVDirectoryName name, decltype(sizeof 0) seed = 0) noexcept
+    {
+        return seed ^ unsigned(name.myValue);
+    }
+    /// @}
+
 private:
     RVDirectoryNameEnum myValue;
 };
 
 Q_DECLARE_TYPEINFO(RVDirectoryName, Q_RELOCATABLE_TYPE);
+
+/// Prints the name of the enumerator, such as DIRECTORY_DESIGNS. @relates RVDirectoryName
+RVCORE_EXPORT QDebug operator<<(QDebug debug, RVDirectoryNameEnum value);
 
 #endif

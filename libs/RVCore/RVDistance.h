@@ -5,7 +5,11 @@
 
 #include <QtGlobal>
 
-/// A length, stored in tenths of a millimetre. The default is 0. Equality is fuzzy: about 12 digits count.
+class QDataStream;
+class QDebug;
+
+/// A length, stored in tenths of a millimetre. The default is 0. Equality is fuzzy: about 12 digits count,
+/// so there is no hash that equal lengths would share.
 /// @par Example
 /// @snippet tst_examples_platform.cpp RVDistance
 /// @ingroup platform
@@ -62,10 +66,19 @@ public:
     /// By the stored length, exactly.
     friend constexpr bool operator<(RVDistance a, RVDistance b) noexcept { return a.myValue < b.myValue; }
 
+    /// Writes and reads the length in tenths of a millimetre as a double.
+    /// @{
+    RVCORE_EXPORT friend QDataStream &operator<<(QDataStream &stream, RVDistance distance);
+    RVCORE_EXPORT friend QDataStream &operator>>(QDataStream &stream, RVDistance &distance);
+    /// @}
+
 private:
     qreal myValue = 0.0;
 };
 
 Q_DECLARE_TYPEINFO(RVDistance, Q_RELOCATABLE_TYPE);
+
+/// Prints the length in millimetres, such as RVDistance(12.5 mm). @relates RVDistance
+RVCORE_EXPORT QDebug operator<<(QDebug debug, RVDistance distance);
 
 #endif

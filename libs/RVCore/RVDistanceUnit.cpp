@@ -1,5 +1,7 @@
 #include "RVDistanceUnit.h"
 
+#include "RVEnumerators.h"
+
 #include <QDebug>
 #include <QMessageLogger>
 #include <QString>
@@ -39,4 +41,9 @@ void RVDistanceUnit::warnUnsupported() const
     QMessageLogger("libs/RVCore/RVDistanceUnit", 101, "constexpr qreal RVDistanceUnit::units2Pixels(qreal) const")
                     .warning()
             << "distance not supported!" << myCode;
+}
+
+QDebug operator<<(QDebug debug, RVDistanceUnitEnum unit)
+{
+    return debug << RVEnumerators<RVDistanceUnitEnum>::text(unit).constData();
 }

@@ -3,6 +3,7 @@
 
 #include "RVCoreExport.h"
 
+class QDebug;
 class QString;
 
 /// The units and their codes, each with the text that stands for it. @ingroup platform
@@ -51,6 +52,16 @@ public:
         }
     }
 
+    /// By code.
+    /// @{
+    friend constexpr bool operator==(RVDistanceUnit a, RVDistanceUnit b) noexcept { return a.myCode == b.myCode; }
+    friend constexpr bool operator!=(RVDistanceUnit a, RVDistanceUnit b) noexcept { return !(a == b); }
+    friend constexpr decltype(sizeof 0) qHash(RVDistanceUnit unit, decltype(sizeof 0) seed = 0) noexcept
+    {
+        return seed ^ unsigned(unit.myCode);
+    }
+    /// @}
+
 private:
     void warnUnsupported() const;
 
@@ -58,5 +69,8 @@ private:
 };
 
 Q_DECLARE_TYPEINFO(RVDistanceUnit, Q_RELOCATABLE_TYPE);
+
+/// Prints the name of the enumerator, such as DISTANCE_UNIT_INCH. @relates RVDistanceUnit
+RVCORE_EXPORT QDebug operator<<(QDebug debug, RVDistanceUnitEnum unit);
 
 #endif

@@ -4,6 +4,8 @@
 #include "RVCoreExport.h"
 #include "RVEnumWrapper.h"
 
+class QDebug;
+
 /// The values of RVSpotColor, each with the keyword that writes it. @ingroup attributes
 enum RVSpotColorEnum : qint32 {
     SPOT_COLOR_GLOSS = 1, ///< "gloss"
@@ -32,5 +34,11 @@ public:
 };
 
 Q_DECLARE_TYPEINFO(RVSpotColor, Q_RELOCATABLE_TYPE);
+
+/// Prints the class and encodeCSV(), such as RVSpotColor(gold, silver). @relates RVSpotColor
+RVCORE_EXPORT QDebug operator<<(QDebug debug, const RVSpotColor &spotColor);
+/// Prints the names of the enumerators, such as SPOT_COLOR_GLOSS|SPOT_COLOR_GOLD, and all other bits as a number.
+/// @relates RVSpotColor
+RVCORE_EXPORT QDebug operator<<(QDebug debug, RVSpotColorEnum value);
 
 #endif

@@ -1,5 +1,6 @@
 #include "RVArticleClass.h"
 
+#include "RVEnumerators.h"
 #include "RVKeywords_p.h"
 #include "RVShippingGroupId.h"
 #include "RVXMLBuilder.h"
@@ -275,4 +276,9 @@ void RVArticleClass::fillTable(RVEnumToStringTable<RVArticleClassEnum> *table) c
 QDebug operator<<(QDebug debug, const RVArticleClass &articleClass)
 {
     return debug << "Articleclass:" << articleClass.encode();
+}
+
+QDebug operator<<(QDebug debug, RVArticleClassEnum value)
+{
+    return debug << RVEnumerators<RVArticleClassEnum>::text(value).constData();
 }

@@ -139,5 +139,9 @@ Q_DECLARE_TYPEINFO(RVArticleClass, Q_RELOCATABLE_TYPE);
 
 /// Prints encode() in quotes after "Articleclass:". @relates RVArticleClass
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVArticleClass &articleClass);
+/// Prints the names of the enumerators, such as ARTICLE_CLASS_BOOK|ARTICLE_CLASS_NORMAL_CALENDAR, and all other bits as
+/// a number.
+/// @relates RVArticleClass
+RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, RVArticleClassEnum value);
 
 #endif

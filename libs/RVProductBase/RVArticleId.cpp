@@ -136,6 +136,17 @@ QDataStream &RVArticleId::operator<<(QDataStream &stream) const
     return stream << toString();
 }
 
+QDataStream &operator<<(QDataStream &stream, const RVArticleId &articleId)
+{
+    return articleId << stream;
+}
+
+QDataStream &operator>>(QDataStream &stream, RVArticleId &articleId)
+{
+    articleId.myId = rvReadNumber(stream, 0);
+    return stream;
+}
+
 QDebug operator<<(QDebug debug, const RVArticleId &articleId)
 {
     return debug << articleId.toString();

@@ -78,8 +78,14 @@ public:
     /// Appends a child element that carries the number under "id", and returns it.
     QDomElement createSubElement(QDomElement &parent, const QString &name) const;
     void toJSON(QJsonObject &object) const; ///< Sets "id" to the number.
-    /// Writes toString(): the article is on the left, the stream on the right. The library never reads it back.
+    /// Writes toString(): the article is on the left, the stream on the right.
     QDataStream &operator<<(QDataStream &stream) const;
+    /// The same with the stream on the left, for a QVariant or a QList of articles, and its reader. What is no decimal
+    /// number is read as 0 and sets the stream's status to QDataStream::ReadCorruptData.
+    /// @{
+    RVPRODUCTBASE_EXPORT friend QDataStream &operator<<(QDataStream &stream, const RVArticleId &articleId);
+    RVPRODUCTBASE_EXPORT friend QDataStream &operator>>(QDataStream &stream, RVArticleId &articleId);
+    /// @}
 
     /// By number.
     /// @{

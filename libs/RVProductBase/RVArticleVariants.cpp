@@ -4,9 +4,11 @@
 #include "RVKomma_p.h"
 #include "RVXMLParser.h"
 
+#include <QDataStream>
 #include <QDebug>
 #include <QDomElement>
 #include <QJsonArray>
+#include <QMap>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -247,6 +249,24 @@ QString RVArticleVariants::toOrderTxt() const
             pieces += rvJoinOption(pair.key, pair.value);
     }
     return pieces.join(u';');
+}
+
+QDataStream &operator<<(QDataStream &stream, const RVArticleVariants &variants)
+{
+    QMap<QString, QString> sorted;
+    for (auto it = variants.myVariants.begin(); it != variants.myVariants.end(); ++it)
+        sorted.insert(it.key(), it.value());
+    return stream << sorted;
+}
+
+QDataStream &operator>>(QDataStream &stream, RVArticleVariants &variants)
+{
+    QMap<QString, QString> sorted;
+    stream >> sorted;
+    variants.myVariants.clear();
+    for (auto it = sorted.cbegin(); it != sorted.cend(); ++it)
+        variants.myVariants.insert(it.key(), it.value());
+    return stream;
 }
 
 QDebug operator<<(QDebug debug, const RVArticleVariants &variants)

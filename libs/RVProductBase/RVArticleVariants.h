@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 
+class QDataStream;
 class QDebug;
 class QDomElement;
 class QJsonArray;
@@ -111,6 +112,13 @@ public:
     /// @{
     bool operator==(const RVArticleVariants &other) const { return myVariants == other.myVariants; }
     bool operator!=(const RVArticleVariants &other) const { return !(*this == other); }
+    friend size_t qHash(const RVArticleVariants &variants, size_t seed = 0) { return seed ^ variants.hash(); }
+    /// @}
+
+    /// Writes and reads every option, in the order of a QMap of the keys: equal variants are written alike.
+    /// @{
+    RVPRODUCTBASE_EXPORT friend QDataStream &operator<<(QDataStream &stream, const RVArticleVariants &variants);
+    RVPRODUCTBASE_EXPORT friend QDataStream &operator>>(QDataStream &stream, RVArticleVariants &variants);
     /// @}
 
 private:

@@ -4,6 +4,7 @@
 #include "RVConfiguredArticleVariantImpl.h"
 #include "RVProductBaseExport.h"
 
+#include <QHashFunctions>
 #include <QSharedDataPointer>
 
 class QDebug;
@@ -71,6 +72,10 @@ public:
     /// @{
     bool operator==(const RVConfiguredArticleVariant &other) const;
     bool operator!=(const RVConfiguredArticleVariant &other) const { return !(*this == other); }
+    friend size_t qHash(const RVConfiguredArticleVariant &variant, size_t seed = 0)
+    {
+        return qHashMulti(seed, variant.key(), variant.value());
+    }
     /// @}
     /// By the key's display name alone. Options whose key names are equal are unordered among themselves, whatever
     /// their keys and values: so are all that do not come from XML, as they have none. Options that are `==` can still

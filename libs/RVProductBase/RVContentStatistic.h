@@ -59,4 +59,6 @@ private:
     QMap<RVPriceClass, int> myBoughtAdditionalContent;
 };
 
+Q_DECLARE_TYPEINFO(RVContentStatistic, Q_RELOCATABLE_TYPE);
+
 #endif

@@ -1,6 +1,7 @@
 #include "RVCoverType.h"
 
 #include "RVDisplayNames_p.h"
+#include "RVEnumerators.h"
 #include "RVKeywords_p.h"
 
 using namespace Qt::StringLiterals;
@@ -200,4 +201,9 @@ void RVCoverType::fillTable(RVEnumToStringTable<RVCoverTypeEnum> *table) const
 QDebug operator<<(QDebug debug, const RVCoverType &coverType)
 {
     return rvDebugAttribute(debug, "RVCoverType", coverType);
+}
+
+QDebug operator<<(QDebug debug, RVCoverTypeEnum value)
+{
+    return debug << RVEnumerators<RVCoverTypeEnum>::text(value).constData();
 }

@@ -87,5 +87,8 @@ Q_DECLARE_TYPEINFO(RVCoverType, Q_RELOCATABLE_TYPE);
 
 /// Prints the class and encodeCSV(), such as RVCoverType(HARDCOVER). @relates RVCoverType
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVCoverType &coverType);
+/// Prints the names of the enumerators, such as HARDCOVER|SOFTCOVER, and all other bits as a number.
+/// @relates RVCoverType
+RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, RVCoverTypeEnum value);
 
 #endif

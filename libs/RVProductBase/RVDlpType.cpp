@@ -1,6 +1,7 @@
 #include "RVDlpType.h"
 
 #include "RVDirectoryName.h"
+#include "RVEnumerators.h"
 #include "RVKeywords_p.h"
 
 #include <QCoreApplication>
@@ -135,4 +136,9 @@ void RVDlpType::fillTable(RVEnumToStringTable<RVDlpTypeEnum> *table) const
 QDebug operator<<(QDebug debug, const RVDlpType &dlpType)
 {
     return rvDebugAttribute(debug, "RVDlpType", dlpType);
+}
+
+QDebug operator<<(QDebug debug, RVDlpTypeEnum value)
+{
+    return debug << RVEnumerators<RVDlpTypeEnum>::text(value).constData();
 }

@@ -62,5 +62,8 @@ Q_DECLARE_TYPEINFO(RVDlpType, Q_RELOCATABLE_TYPE);
 
 /// Prints the class and encodeCSV(), such as RVDlpType(clipart, mask). @relates RVDlpType
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVDlpType &dlpType);
+/// Prints the names of the enumerators, such as DLP_TYPE_BACKGROUND|DLP_TYPE_STYLE_V2, and all other bits as a number.
+/// @relates RVDlpType
+RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, RVDlpTypeEnum value);
 
 #endif

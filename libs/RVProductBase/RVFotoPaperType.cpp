@@ -1,6 +1,7 @@
 #include "RVFotoPaperType.h"
 
 #include "RVArticleClass.h"
+#include "RVEnumerators.h"
 #include "RVKeywords_p.h"
 #include "RVNumbers_p.h"
 
@@ -91,4 +92,9 @@ void RVFotoPaperType::fillTable(RVEnumToStringTable<RVFotoPaperTypeEnum> *table)
 QDebug operator<<(QDebug debug, const RVFotoPaperType &fotoPaperType)
 {
     return rvDebugAttribute(debug, "RVFotoPaperType", fotoPaperType);
+}
+
+QDebug operator<<(QDebug debug, RVFotoPaperTypeEnum value)
+{
+    return debug << RVEnumerators<RVFotoPaperTypeEnum>::text(value).constData();
 }

@@ -50,5 +50,7 @@ Q_DECLARE_TYPEINFO(RVFotoPaperType, Q_RELOCATABLE_TYPE);
 
 /// Prints the class and encodeCSV(), such as RVFotoPaperType(1). @relates RVFotoPaperType
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVFotoPaperType &fotoPaperType);
+/// Prints the names of the enumerators, such as GLOSSY|MATT, and all other bits as a number. @relates RVFotoPaperType
+RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, RVFotoPaperTypeEnum value);
 
 #endif

@@ -1,5 +1,6 @@
 #include "RVMaterialType.h"
 
+#include "RVEnumerators.h"
 #include "RVKeywords_p.h"
 
 using namespace Qt::StringLiterals;
@@ -36,4 +37,9 @@ void RVMaterialType::fillTable(RVEnumToStringTable<RVMaterialTypeEnum> *table) c
 QDebug operator<<(QDebug debug, const RVMaterialType &material)
 {
     return rvDebugAttribute(debug, "RVMaterialType", material);
+}
+
+QDebug operator<<(QDebug debug, RVMaterialTypeEnum value)
+{
+    return debug << RVEnumerators<RVMaterialTypeEnum>::text(value).constData();
 }

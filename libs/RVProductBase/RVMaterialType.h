@@ -38,5 +38,9 @@ Q_DECLARE_TYPEINFO(RVMaterialType, Q_RELOCATABLE_TYPE);
 
 /// Prints the class and encodeCSV(), such as RVMaterialType(deco_print). @relates RVMaterialType
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVMaterialType &material);
+/// Prints the names of the enumerators, such as MATERIAL_TYPE_NOTEBOOK|MATERIAL_TYPE_PICTURE_BOX, and all other bits as
+/// a number.
+/// @relates RVMaterialType
+RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, RVMaterialTypeEnum value);
 
 #endif

@@ -73,4 +73,6 @@ private:
     RVPriceClass myPanoPagesAddOn;
 };
 
+Q_DECLARE_TYPEINFO(RVModelAddOnStatistic, Q_RELOCATABLE_TYPE);
+
 #endif

@@ -1,6 +1,7 @@
 #ifndef RVNUMBERS_P_H
 #define RVNUMBERS_P_H
 
+#include <QDataStream>
 #include <QJsonValue>
 #include <QString>
 
@@ -25,6 +26,17 @@ inline std::optional<int> rvToInt(const QJsonValue &value)
     if (!isInRange || number != int(number))
         return std::nullopt;
     return int(number);
+}
+
+/// A number that was written to the stream as a text; the fallback and a status of corrupt data for another text.
+inline int rvReadNumber(QDataStream &stream, int fallback)
+{
+    QString text;
+    stream >> text;
+    const std::optional<int> number = rvToInt(text);
+    if (!number)
+        stream.setStatus(QDataStream::ReadCorruptData);
+    return number.value_or(fallback);
 }
 
 #endif

@@ -25,6 +25,16 @@ QDataStream &RVOrderId::operator<<(QDataStream &stream) const
     return stream << myId;
 }
 
+QDataStream &operator<<(QDataStream &stream, const RVOrderId &orderId)
+{
+    return orderId << stream;
+}
+
+QDataStream &operator>>(QDataStream &stream, RVOrderId &orderId)
+{
+    return stream >> orderId.myId;
+}
+
 QDebug operator<<(QDebug debug, const RVOrderId &orderId)
 {
     return debug << orderId.toString();

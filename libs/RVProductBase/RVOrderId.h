@@ -9,7 +9,7 @@ class QDataStream;
 class QDebug;
 
 /// The id of an order, as the ordering service issued it. A null text is no order; an empty one is an order all the
-/// same. Written to streams as its text; the library never reads it back.
+/// same. Written to streams as its text.
 /// @par Example
 /// @snippet tst_examples_articles.cpp RVOrderId
 /// @ingroup pricing
@@ -36,6 +36,11 @@ public:
     QString toString(bool replaceDashes = false) const;
     /// Writes toString(): the order is on the left, the stream on the right.
     QDataStream &operator<<(QDataStream &stream) const;
+    /// The same with the stream on the left, for a QVariant or a QList of ids, and its reader.
+    /// @{
+    RVPRODUCTBASE_EXPORT friend QDataStream &operator<<(QDataStream &stream, const RVOrderId &orderId);
+    RVPRODUCTBASE_EXPORT friend QDataStream &operator>>(QDataStream &stream, RVOrderId &orderId);
+    /// @}
 
     /// By text; letter case counts. A null and an empty text are equal, so no order equals the order with the empty id,
     /// though only the latter is valid.
@@ -46,6 +51,7 @@ public:
     friend bool operator>(const RVOrderId &a, const RVOrderId &b) noexcept { return a.myId > b.myId; }
     friend bool operator<=(const RVOrderId &a, const RVOrderId &b) noexcept { return a.myId <= b.myId; }
     friend bool operator>=(const RVOrderId &a, const RVOrderId &b) noexcept { return a.myId >= b.myId; }
+    friend size_t qHash(const RVOrderId &id, size_t seed = 0) noexcept { return qHash(id.myId, seed); }
     /// @}
 
 private:

@@ -3,6 +3,8 @@
 #include <QDataStream>
 #include <QDebug>
 
+RVOrderProjectInfo::RVOrderProjectInfo() : RVOrderProjectInfo(QString(), RVOrderId(), -1) { }
+
 RVOrderProjectInfo::RVOrderProjectInfo(const QString &xtciSession, const RVOrderId &orderId, int orderPosition)
     : myXtciSession(xtciSession),
       myOrderId(orderId),
@@ -32,6 +34,21 @@ QDataStream &RVOrderProjectInfo::operator<<(QDataStream &stream) const
 {
     myOrderId << stream;
     return stream << qint32(myOrderPosition) << myXtciSession;
+}
+
+QDataStream &operator<<(QDataStream &stream, const RVOrderProjectInfo &info)
+{
+    return info << stream;
+}
+
+QDataStream &operator>>(QDataStream &stream, RVOrderProjectInfo &info)
+{
+    RVOrderId orderId;
+    qint32 orderPosition = -1;
+    QString xtciSession;
+    stream >> orderId >> orderPosition >> xtciSession;
+    info = RVOrderProjectInfo(xtciSession, orderId, orderPosition);
+    return stream;
 }
 
 QDebug operator<<(QDebug debug, const RVOrderProjectInfo &info)

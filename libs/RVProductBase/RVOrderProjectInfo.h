@@ -10,13 +10,15 @@ class QDataStream;
 class QDebug;
 
 /// Ties a project of the user to the order that it was sent with, or asks for its order data to be deleted. Written to
-/// streams, but without that request; a reader passes what was written to the constructor.
+/// streams, but without that request.
 /// @par Example
 /// @snippet tst_examples_articles.cpp RVOrderProjectInfo
 /// @ingroup pricing
 class RVPRODUCTBASE_EXPORT RVOrderProjectInfo
 {
 public:
+    /// No project: without session and order, at an unknown position.
+    RVOrderProjectInfo();
     /// @p xtciSession is the session of the order transfer, @p orderPosition counts within the order; negative is
     /// unknown.
     RVOrderProjectInfo(const QString &xtciSession, const RVOrderId &orderId, int orderPosition);
@@ -43,6 +45,11 @@ public:
     /// the right. deleteProjectInfo() is not written: what is read back of an info that asks for deletion asks for
     /// none.
     QDataStream &operator<<(QDataStream &stream) const;
+    /// The same with the stream on the left, for a QVariant or a QList of them, and its reader.
+    /// @{
+    RVPRODUCTBASE_EXPORT friend QDataStream &operator<<(QDataStream &stream, const RVOrderProjectInfo &info);
+    RVPRODUCTBASE_EXPORT friend QDataStream &operator>>(QDataStream &stream, RVOrderProjectInfo &info);
+    /// @}
 
     /// By all four values.
     /// @{

@@ -1,6 +1,7 @@
 #include "RVOrientation.h"
 
 #include "RVAngle.h"
+#include "RVEnumerators.h"
 #include "RVKeywords_p.h"
 #include "RVSaturation_p.h"
 #include "RVXMLBuilder.h"
@@ -181,4 +182,9 @@ void RVOrientation::fillTable(RVEnumToStringTable<RVOrientationEnum> *table) con
 QDebug operator<<(QDebug debug, const RVOrientation &orientation)
 {
     return rvDebugAttribute(debug, "RVOrientation", orientation);
+}
+
+QDebug operator<<(QDebug debug, RVOrientationEnum value)
+{
+    return debug << RVEnumerators<RVOrientationEnum>::text(value).constData();
 }

@@ -87,5 +87,9 @@ Q_DECLARE_TYPEINFO(RVOrientation, Q_RELOCATABLE_TYPE);
 /// Prints the class and encodeCSV(), such as RVOrientation(portrait, square); RVOrientation(portrait) for 0 as well.
 /// @relates RVOrientation
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVOrientation &orientation);
+/// Prints the names of the enumerators, such as ORIENTATION_PORTRAIT|ORIENTATION_LANDSCAPE, and all other bits as a
+/// number.
+/// @relates RVOrientation
+RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, RVOrientationEnum value);
 
 #endif

@@ -1,5 +1,6 @@
 #include "RVPageAlignment.h"
 
+#include "RVEnumerators.h"
 #include "RVKeywords_p.h"
 
 #include <QCoreApplication>
@@ -79,4 +80,9 @@ void RVPageAlignment::fillTable(RVEnumToStringTable<RVPageAlignmentEnum> *table)
 QDebug operator<<(QDebug debug, const RVPageAlignment &alignment)
 {
     return rvDebugAttribute(debug, "RVPageAlignment", alignment);
+}
+
+QDebug operator<<(QDebug debug, RVPageAlignmentEnum value)
+{
+    return debug << RVEnumerators<RVPageAlignmentEnum>::text(value).constData();
 }

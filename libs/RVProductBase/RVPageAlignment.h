@@ -48,5 +48,9 @@ Q_DECLARE_TYPEINFO(RVPageAlignment, Q_RELOCATABLE_TYPE);
 
 /// Prints the class and encodeCSV(), such as RVPageAlignment(left, top). @relates RVPageAlignment
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVPageAlignment &alignment);
+/// Prints the names of the enumerators, such as PAGE_ALIGNMENT_LEFT|PAGE_ALIGNMENT_RIGHT, and all other bits as a
+/// number.
+/// @relates RVPageAlignment
+RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, RVPageAlignmentEnum value);
 
 #endif

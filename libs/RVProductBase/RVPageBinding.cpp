@@ -1,6 +1,7 @@
 #include "RVPageBinding.h"
 
 #include "RVDisplayNames_p.h"
+#include "RVEnumerators.h"
 #include "RVKeywords_p.h"
 #include "RVXMLBuilder.h"
 
@@ -71,4 +72,9 @@ void RVPageBinding::fillTable(RVEnumToStringTable<RVPageBindingEnum> *table) con
 QDebug operator<<(QDebug debug, const RVPageBinding &pageBinding)
 {
     return rvDebugAttribute(debug, "RVPageBinding", pageBinding);
+}
+
+QDebug operator<<(QDebug debug, RVPageBindingEnum value)
+{
+    return debug << RVEnumerators<RVPageBindingEnum>::text(value).constData();
 }

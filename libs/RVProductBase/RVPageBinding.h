@@ -53,5 +53,7 @@ Q_DECLARE_TYPEINFO(RVPageBinding, Q_RELOCATABLE_TYPE);
 
 /// Prints the class and encodeCSV(), such as RVPageBinding(glue); RVPageBinding() for 0. @relates RVPageBinding
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVPageBinding &pageBinding);
+/// Prints the names of the enumerators, such as GLUE|LAYFLAT, and all other bits as a number. @relates RVPageBinding
+RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, RVPageBindingEnum value);
 
 #endif

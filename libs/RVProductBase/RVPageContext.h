@@ -39,6 +39,10 @@ public:
     /// @{
     bool operator==(const RVPageContext &other) const;
     bool operator!=(const RVPageContext &other) const { return !(*this == other); }
+    friend size_t qHash(const RVPageContext &context, size_t seed = 0) noexcept
+    {
+        return qHashMulti(seed, context.myPageType, context.myAlignment);
+    }
     /// @}
     /// By page type, then by alignment.
     bool operator<(const RVPageContext &other) const;

@@ -101,6 +101,22 @@ public:
         return a.myRange == b.myRange && a.myPageIncrement == b.myPageIncrement;
     }
     friend bool operator!=(const RVPageCountOrganization &a, const RVPageCountOrganization &b) { return !(a == b); }
+    friend size_t qHash(const RVPageCountOrganization &organization, size_t seed = 0) noexcept
+    {
+        return qHashMulti(seed, organization.myRange, organization.myPageIncrement);
+    }
+    /// @}
+
+    /// Writes and reads the lowest count, the highest and the increment as 32-bit integers.
+    /// @{
+    friend QDataStream &operator<<(QDataStream &stream, const RVPageCountOrganization &organization)
+    {
+        return stream << organization.myRange << qint32(organization.myPageIncrement);
+    }
+    friend QDataStream &operator>>(QDataStream &stream, RVPageCountOrganization &organization)
+    {
+        return stream >> organization.myRange >> organization.myPageIncrement;
+    }
     /// @}
 
 private:

@@ -26,10 +26,19 @@ QModelIndex RVPageCountOrganizationListModel::parent(const QModelIndex &) const
 
 QVariant RVPageCountOrganizationListModel::data(const QModelIndex &index, int role) const
 {
+    if (index.isValid() && role == PagesRole)
+        return pagesAtIndex(index.row());
     if (!index.isValid() || role != Qt::DisplayRole)
         return QVariant();
     const QString text = myShowPhotos ? tr("%1 Fotos") : tr("%1 Seiten");
     return text.arg(pagesAtIndex(index.row()));
+}
+
+QHash<int, QByteArray> RVPageCountOrganizationListModel::roleNames() const
+{
+    QHash<int, QByteArray> names = QAbstractListModel::roleNames();
+    names.insert(PagesRole, QByteArrayLiteral("pages"));
+    return names;
 }
 
 int RVPageCountOrganizationListModel::pagesAtIndex(int row) const

@@ -5,6 +5,8 @@
 #include "RVProductBaseExport.h"
 
 #include <QAbstractListModel>
+#include <QByteArray>
+#include <QHash>
 
 /// Offers the allowed page counts of a product to a view, a row for each: "26 Seiten", "30 Seiten", … It belongs to
 /// the thread of its view.
@@ -16,6 +18,11 @@ class RVPRODUCTBASE_EXPORT RVPageCountOrganizationListModel : public QAbstractLi
     Q_OBJECT
 
 public:
+    /// What a row has besides its text.
+    enum Role {
+        PagesRole = Qt::UserRole + 0x100, ///< the count as an int; "pages" in QML
+    };
+
     /// With @p showPhotos the rows read as photo counts: "1 Fotos", "2 Fotos", …
     explicit RVPageCountOrganizationListModel(bool showPhotos);
 
@@ -27,8 +34,10 @@ public:
     int columnCount(const QModelIndex &parent = QModelIndex()) const override; ///< 1.
     using QObject::parent;
     QModelIndex parent(const QModelIndex &index) const override; ///< The invalid index.
-    /// The text of the row for the display role; an invalid value for any other role.
+    /// The text of the row for the display role, pagesAtIndex() for PagesRole; an invalid value for any other role.
     QVariant data(const QModelIndex &index, int role) const override;
+    /// "display" for the text and "pages" for the count, beside Qt's own names.
+    QHash<int, QByteArray> roleNames() const override;
 
     int pagesAtIndex(int row) const; ///< The count of a row; computed past the last row as well.
     int indexForPages(int pages) const; ///< The row of the count, rounded down; not clamped at the last.

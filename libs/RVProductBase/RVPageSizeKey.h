@@ -34,9 +34,14 @@ public:
     /// @{
     bool operator==(const RVPageSizeKey &other) const;
     bool operator!=(const RVPageSizeKey &other) const { return !(*this == other); }
+    friend size_t qHash(const RVPageSizeKey &key, size_t seed = 0) noexcept
+    {
+        return qHashMulti(seed, key.myPageContext, key.myPageCount);
+    }
     /// @}
     /// No strict order: keys of the same page count are equivalent whatever their contexts, all others are ordered by
-    /// their contexts alone. So a sorted container takes all keys of one page count for the same.
+    /// their contexts alone. So a sorted container takes all keys of one page count for the same; take a
+    /// QHash.
     bool operator<(const RVPageSizeKey &other) const;
 
 private:

@@ -1,5 +1,6 @@
 #include "RVPageType.h"
 
+#include "RVEnumerators.h"
 #include "RVKeywords_p.h"
 #include "RVSpotColor.h"
 
@@ -154,4 +155,9 @@ void RVPageType::fillTable(RVEnumToStringTable<RVPageTypeEnum> *table) const
 QDebug operator<<(QDebug debug, const RVPageType &pageType)
 {
     return rvDebugAttribute(debug, "RVPageType", pageType);
+}
+
+QDebug operator<<(QDebug debug, RVPageTypeEnum value)
+{
+    return debug << RVEnumerators<RVPageTypeEnum>::text(value).constData();
 }

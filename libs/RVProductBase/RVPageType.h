@@ -92,5 +92,8 @@ Q_DECLARE_TYPEINFO(RVPageType, Q_RELOCATABLE_TYPE);
 
 /// Prints the class and encodeCSV(), such as RVPageType(spine, fullcover). @relates RVPageType
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVPageType &pageType);
+/// Prints the names of the enumerators, such as PAGE_TYPE_SPINE|PAGE_TYPE_CARDFRONT, and all other bits as a number.
+/// @relates RVPageType
+RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, RVPageTypeEnum value);
 
 #endif

@@ -1,6 +1,7 @@
 #include "RVPaperType.h"
 
 #include "RVDisplayNames_p.h"
+#include "RVEnumerators.h"
 #include "RVKeywords_p.h"
 
 using namespace Qt::StringLiterals;
@@ -118,4 +119,9 @@ void RVPaperType::fillTable(RVEnumToStringTable<RVPaperTypeEnum> *table) const
 QDebug operator<<(QDebug debug, const RVPaperType &paperType)
 {
     return rvDebugAttribute(debug, "RVPaperType", paperType);
+}
+
+QDebug operator<<(QDebug debug, RVPaperTypeEnum value)
+{
+    return debug << RVEnumerators<RVPaperTypeEnum>::text(value).constData();
 }

@@ -60,5 +60,8 @@ Q_DECLARE_TYPEINFO(RVPaperType, Q_RELOCATABLE_TYPE);
 
 /// Prints the class and encodeCSV(): RVPaperType(indigo) for INDIGO and for 0 alike. @relates RVPaperType
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVPaperType &paperType);
+/// Prints the names of the enumerators, such as INDIGO|INDIGO_GLOSSY, and all other bits as a number.
+/// @relates RVPaperType
+RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, RVPaperTypeEnum value);
 
 #endif

@@ -1,5 +1,8 @@
 #include "RVPriceClass.h"
 
+#include <QDataStream>
+#include <QDebug>
+
 RVPriceClass::RVPriceClass(const QString &code) : myCode(code) { }
 
 RVPriceClass RVPriceClass::create(const QString &code)
@@ -15,4 +18,19 @@ bool RVPriceClass::isFree() const noexcept
 bool operator<(const RVPriceClass &a, const RVPriceClass &b) noexcept
 {
     return a.myCode < b.myCode;
+}
+
+QDataStream &operator<<(QDataStream &stream, const RVPriceClass &priceClass)
+{
+    return stream << priceClass.myCode;
+}
+
+QDataStream &operator>>(QDataStream &stream, RVPriceClass &priceClass)
+{
+    return stream >> priceClass.myCode;
+}
+
+QDebug operator<<(QDebug debug, const RVPriceClass &priceClass)
+{
+    return debug << priceClass.toString();
 }

@@ -6,6 +6,9 @@
 #include <QHash>
 #include <QString>
 
+class QDataStream;
+class QDebug;
+
 /**
  * The billing code of a chargeable item or add-on, such as "KUR2" or "premium_design", exactly as the catalogue gives
  * it. The empty code is no price class. Codes are case-sensitive and ordered as strings: "KUR10" before "KUR2".
@@ -38,6 +41,12 @@ public:
     RVPRODUCTBASE_EXPORT friend bool operator<(const RVPriceClass &a, const RVPriceClass &b) noexcept;
     /// @}
 
+    /// Writes and reads toString().
+    /// @{
+    RVPRODUCTBASE_EXPORT friend QDataStream &operator<<(QDataStream &stream, const RVPriceClass &priceClass);
+    RVPRODUCTBASE_EXPORT friend QDataStream &operator>>(QDataStream &stream, RVPriceClass &priceClass);
+    /// @}
+
 private:
     QString myCode;
 };
@@ -49,5 +58,8 @@ inline size_t qHash(const RVPriceClass &priceClass, size_t seed = 0) noexcept
 {
     return seed ^ qHash(priceClass.toString(), 0);
 }
+
+/// Prints the code in quotes. @relates RVPriceClass
+RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVPriceClass &priceClass);
 
 #endif

@@ -1,5 +1,6 @@
 #include "RVProductArrangement.h"
 
+#include "RVEnumerators.h"
 #include "RVKeywords_p.h"
 
 using namespace Qt::StringLiterals;
@@ -35,4 +36,9 @@ void RVProductArrangement::fillTable(RVEnumToStringTable<RVProductArrangementEnu
 QDebug operator<<(QDebug debug, const RVProductArrangement &arrangement)
 {
     return rvDebugAttribute(debug, "RVProductArrangement", arrangement);
+}
+
+QDebug operator<<(QDebug debug, RVProductArrangementEnum value)
+{
+    return debug << RVEnumerators<RVProductArrangementEnum>::text(value).constData();
 }

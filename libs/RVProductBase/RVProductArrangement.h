@@ -37,5 +37,9 @@ Q_DECLARE_TYPEINFO(RVProductArrangement, Q_RELOCATABLE_TYPE);
 
 /// Prints the class and encodeCSV(), such as RVProductArrangement(gift, card). @relates RVProductArrangement
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVProductArrangement &arrangement);
+/// Prints the names of the enumerators, such as PRODUCT_ARRANGEMENT_TRIVIAL|PRODUCT_ARRANGEMENT_GIFT, and all other
+/// bits as a number.
+/// @relates RVProductArrangement
+RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, RVProductArrangementEnum value);
 
 #endif

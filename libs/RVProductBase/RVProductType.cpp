@@ -94,3 +94,21 @@ bool operator<(const RVProductType &a, const RVProductType &b)
 {
     return a.myHashValue != b.myHashValue ? a.myHashValue < b.myHashValue : a.myName < b.myName;
 }
+
+QDataStream &operator<<(QDataStream &stream, const RVProductType &type)
+{
+    return stream << type.myName;
+}
+
+QDataStream &operator>>(QDataStream &stream, RVProductType &type)
+{
+    QString code;
+    stream >> code;
+    type = RVProductType(code);
+    return stream;
+}
+
+QDebug operator<<(QDebug debug, const RVProductType &type)
+{
+    return debug << type.toString();
+}

@@ -9,6 +9,8 @@
 #include <cstddef>
 #include <utility>
 
+class QDataStream;
+class QDebug;
 class QDomElement;
 class RVPriceClass;
 
@@ -82,6 +84,12 @@ public:
     /// By hash, then by name: the same order in every run, but none to show.
     RVPRODUCTBASE_EXPORT friend bool operator<(const RVProductType &a, const RVProductType &b);
 
+    /// Writes and reads toString().
+    /// @{
+    RVPRODUCTBASE_EXPORT friend QDataStream &operator<<(QDataStream &stream, const RVProductType &type);
+    RVPRODUCTBASE_EXPORT friend QDataStream &operator>>(QDataStream &stream, RVProductType &type);
+    /// @}
+
 private:
     /// True for copies of one type, with which the caches are asked as a rule.
     bool sharesTextOf(const RVProductType &other) const
@@ -101,5 +109,8 @@ inline std::size_t qHash(const RVProductType &type, std::size_t seed = 0) noexce
 {
     return seed ^ type.calcHashValue();
 }
+
+/// Prints the code in quotes. @relates RVProductType
+RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVProductType &type);
 
 #endif

@@ -60,6 +60,17 @@ QDataStream &RVShippingGroupId::operator<<(QDataStream &stream) const
     return stream << toString();
 }
 
+QDataStream &operator<<(QDataStream &stream, const RVShippingGroupId &shippingGroupId)
+{
+    return shippingGroupId << stream;
+}
+
+QDataStream &operator>>(QDataStream &stream, RVShippingGroupId &shippingGroupId)
+{
+    shippingGroupId.myId = rvReadNumber(stream, -1);
+    return stream;
+}
+
 QDebug operator<<(QDebug debug, const RVShippingGroupId &shippingGroupId)
 {
     return debug << shippingGroupId.toString();

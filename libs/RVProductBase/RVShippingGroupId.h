@@ -3,6 +3,7 @@
 
 #include "RVProductBaseExport.h"
 
+#include <QHashFunctions>
 #include <QString>
 
 class QDataStream;
@@ -56,6 +57,12 @@ public:
     void toJSON(QJsonObject &object) const; ///< Sets "id" to the number.
     /// Writes toString(): the group is on the left, the stream on the right. createFrom() reads it back.
     QDataStream &operator<<(QDataStream &stream) const;
+    /// The same with the stream on the left, for a QVariant or a QList of groups, and its reader. What is no decimal
+    /// number is read as -1 and sets the stream's status to QDataStream::ReadCorruptData.
+    /// @{
+    RVPRODUCTBASE_EXPORT friend QDataStream &operator<<(QDataStream &stream, const RVShippingGroupId &shippingGroupId);
+    RVPRODUCTBASE_EXPORT friend QDataStream &operator>>(QDataStream &stream, RVShippingGroupId &shippingGroupId);
+    /// @}
 
     /// By number.
     /// @{
@@ -66,6 +73,7 @@ public:
     friend constexpr bool operator>(RVShippingGroupId a, RVShippingGroupId b) noexcept { return a.myId > b.myId; }
     friend constexpr bool operator<=(RVShippingGroupId a, RVShippingGroupId b) noexcept { return a.myId <= b.myId; }
     friend constexpr bool operator>=(RVShippingGroupId a, RVShippingGroupId b) noexcept { return a.myId >= b.myId; }
+    friend size_t qHash(RVShippingGroupId id, size_t seed = 0) noexcept { return qHash(id.myId, seed); }
     /// @}
 
 private:

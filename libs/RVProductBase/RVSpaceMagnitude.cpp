@@ -1,6 +1,7 @@
 #include "RVSpaceMagnitude.h"
 
 #include "RVDisplayNames_p.h"
+#include "RVEnumerators.h"
 #include "RVKeywords_p.h"
 #include "RVOrientation.h"
 #include "RVSaturation_p.h"
@@ -198,4 +199,9 @@ void RVSpaceMagnitude::fillTable(RVEnumToStringTable<RVSpaceMagnitudeEnum> *tabl
 QDebug operator<<(QDebug debug, const RVSpaceMagnitude &magnitude)
 {
     return debug << u"RVSpaceMagnitude: %1"_s.arg(magnitude.encode());
+}
+
+QDebug operator<<(QDebug debug, RVSpaceMagnitudeEnum value)
+{
+    return debug << RVEnumerators<RVSpaceMagnitudeEnum>::text(value).constData();
 }

@@ -95,5 +95,9 @@ Q_DECLARE_TYPEINFO(RVSpaceMagnitude, Q_RELOCATABLE_TYPE);
 
 /// Prints encode() after the name of the class, in quotes. @relates RVSpaceMagnitude
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVSpaceMagnitude &magnitude);
+/// Prints the names of the enumerators, such as SPACE_MAGNITUDE_50CM2|SPACE_MAGNITUDE_150CM2, and all other bits as a
+/// number.
+/// @relates RVSpaceMagnitude
+RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, RVSpaceMagnitudeEnum value);
 
 #endif

@@ -3,6 +3,8 @@
 
 #include "RVEnumToStringTable.h"
 
+#include <QDataStream>
+#include <QHashFunctions>
 #include <QMutex>
 #include <QMutexLocker>
 #include <QSet>
@@ -156,6 +158,22 @@ public:
         return table ? table : makeTable();
     }
 
+    /// By value, so that attributes can be in a QSet and keys of a QHash.
+    friend size_t qHash(const RVEnumWrapper &wrapper, size_t seed = 0) noexcept { return qHash(wrapper.bits(), seed); }
+
+    /// Writes the bits as a 64-bit integer, whatever the size of E.
+    friend QDataStream &operator<<(QDataStream &stream, const RVEnumWrapper &wrapper)
+    {
+        return stream << qint64(wrapper.bits());
+    }
+    /// Reads what `<<` wrote. The value is 0 where the stream ends too early, and where the bits do not fit E; the
+    /// latter sets the stream's status to QDataStream::ReadCorruptData.
+    friend QDataStream &operator>>(QDataStream &stream, RVEnumWrapper &wrapper)
+    {
+        wrapper.readBits(stream);
+        return stream;
+    }
+
 private:
     using Bits = std::make_signed_t<std::underlying_type_t<E>>;
 
@@ -172,6 +190,7 @@ private:
         return *this;
     }
     const RVEnumToStringTable<E> *makeTable() const;
+    void readBits(QDataStream &stream);
 
     E myValue;
     static std::atomic<const RVEnumToStringTable<E> *> myTable;
@@ -192,6 +211,16 @@ RVEnumWrapper<E> &RVEnumWrapper<E>::toggleBits(const RVEnumWrapper &other)
         setBit(bit, !matches(bit));
     }
     return *this;
+}
+
+template<typename E>
+void RVEnumWrapper<E>::readBits(QDataStream &stream)
+{
+    qint64 bits = 0;
+    stream >> bits;
+    if (Bits(bits) != bits)
+        stream.setStatus(QDataStream::ReadCorruptData);
+    assign(stream.status() == QDataStream::Ok ? Bits(bits) : Bits(0));
 }
 
 template<typename E>

@@ -1,7 +1,8 @@
 #ifndef RVRANGE_H
 #define RVRANGE_H
 
-#include <QtGlobal>
+#include <QDataStream>
+#include <QHashFunctions>
 
 #include <type_traits>
 
@@ -55,6 +56,20 @@ public:
     virtual bool contains(const RVRange &other) const { return contains(other.min) && contains(other.max); }
     /// True when the ranges share a value; touching at one bound is enough.
     virtual bool intersects(const RVRange &other) const;
+
+    /// By both bounds.
+    friend size_t qHash(const RVRange &range, size_t seed = 0) noexcept
+    {
+        return qHashMulti(seed, range.min, range.max);
+    }
+    /// Writes and reads the lower bound, then the upper one.
+    /// @{
+    friend QDataStream &operator<<(QDataStream &stream, const RVRange &range)
+    {
+        return stream << range.min << range.max;
+    }
+    friend QDataStream &operator>>(QDataStream &stream, RVRange &range) { return stream >> range.min >> range.max; }
+    /// @}
 };
 
 template<typename T>

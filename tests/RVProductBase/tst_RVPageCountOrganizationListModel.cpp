@@ -83,6 +83,7 @@ private Q_SLOTS:
     void rowCountIgnoresParent();
     void hasNoParentIndex();
     void otherRoles();
+    void countsAsNumbers();
     void invalidIndexes_data();
     void invalidIndexes();
     void indexesBeyondTheRows();
@@ -243,6 +244,19 @@ void tst_RVPageCountOrganizationListModel::otherRoles()
         const QVariant value = model.data(model.index(1), role);
         QCOMPARE(value, role == Qt::DisplayRole ? QVariant(u"30 Seiten"_s) : QVariant());
     }
+}
+
+void tst_RVPageCountOrganizationListModel::countsAsNumbers()
+{
+    using Model = RVPageCountOrganizationListModel;
+    FlatModel model(false);
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    model.setPageOrganization(organization(26, 34, 4));
+    QCOMPARE(model.data(model.index(0), Model::PagesRole), QVariant(26));
+    QCOMPARE(model.data(model.index(2), Model::PagesRole), QVariant(34));
+    QVERIFY(!model.data(QModelIndex(), Model::PagesRole).isValid());
+    QCOMPARE(model.roleNames().value(Model::PagesRole), "pages"_ba);
+    QCOMPARE(model.roleNames().value(Qt::DisplayRole), "display"_ba);
 }
 
 void tst_RVPageCountOrganizationListModel::invalidIndexes_data()
