@@ -15,7 +15,7 @@
  *
  * All functions belong to the thread of the application. The translator is deleted with the application.
  *
- * @ingroup catalogues
+ * @ingroup qt
  */
 class RVCATALOGUE_EXPORT RVCatalogueTranslation
 {

@@ -35,7 +35,7 @@ public:
     /// @{
     friend constexpr bool operator==(RVDirectoryName a, RVDirectoryName b) noexcept { return a.myValue == b.myValue; }
     friend constexpr bool operator!=(RVDirectoryName a, RVDirectoryName b) noexcept { return !(a == b); }
-    friend constexpr decltype(sizeof 0) qHash(RVDirectoryName name, decltype(sizeof 0) seed = 0) noexcept
+    friend constexpr size_t qHash(RVDirectoryName name, size_t seed = 0) noexcept
     {
         return seed ^ unsigned(name.myValue);
     }

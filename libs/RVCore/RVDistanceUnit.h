@@ -56,7 +56,7 @@ public:
     /// @{
     friend constexpr bool operator==(RVDistanceUnit a, RVDistanceUnit b) noexcept { return a.myCode == b.myCode; }
     friend constexpr bool operator!=(RVDistanceUnit a, RVDistanceUnit b) noexcept { return !(a == b); }
-    friend constexpr decltype(sizeof 0) qHash(RVDistanceUnit unit, decltype(sizeof 0) seed = 0) noexcept
+    friend constexpr size_t qHash(RVDistanceUnit unit, size_t seed = 0) noexcept
     {
         return seed ^ unsigned(unit.myCode);
     }

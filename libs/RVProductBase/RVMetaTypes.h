@@ -20,7 +20,7 @@
  * A text that cannot be read gives the default-constructed value, such as an attribute that is null, and a value that
  * has no text an empty one. From Qt 6.8 on, QVariant::convert() then returns false as well; before, it returns true.
  *
- * @ingroup services
+ * @ingroup qt
  */
 class RVPRODUCTBASE_EXPORT RVMetaTypes
 {

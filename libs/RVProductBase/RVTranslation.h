@@ -22,7 +22,7 @@
  *
  * All functions belong to the thread of the application. The translator is deleted with the application.
  *
- * @ingroup services
+ * @ingroup qt
  */
 class RVPRODUCTBASE_EXPORT RVTranslation
 {

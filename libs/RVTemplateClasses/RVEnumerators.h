@@ -62,12 +62,8 @@ private:
         std::string_view name = __PRETTY_FUNCTION__;
         name.remove_prefix(name.rfind("VALUE = ") + 8);
         name = name.substr(0, name.find_first_of(";]"));
-        const std::size_t scope = name.rfind(':');
-        if (scope != std::string_view::npos)
-            name.remove_prefix(scope + 1);
-        const bool isName = !name.empty() && name.front() != '(' && name.front() != '-'
-                && (name.front() < '0' || name.front() > '9');
-        return isName ? name : std::string_view();
+        const bool isCast = name.front() == '(';
+        return isCast ? std::string_view() : name.substr(name.rfind(':') + 1);
 #else
         return {};
 #endif

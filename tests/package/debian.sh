@@ -43,7 +43,7 @@ holds librvproductbase0 \
     "$lib"/lib'RV(Core|XML|ProductBase)\.so\.0(\.[0-9]+\.[0-9]+)?' 'share/RVProductBase/translations/rvproductbase_(de|en)\.qm'
 holds librvproductbase-dev \
     "$lib"/lib'RV(Core|XML|ProductBase)\.so' "$lib"/cmake/'RV(TemplateClasses|Core|XML|ProductBase)/RV.*\.cmake' \
-    "$lib"/pkgconfig/RVProductBase.pc 'include/RV(TemplateClasses|Core|XML|ProductBase)/RV[A-Za-z]+\.h'
+    "$lib"/pkgconfig/RVProductBase.pc share/gdb/auto-load/usr/"$lib"/libRVProductBase.so."$release"-gdb.py 'include/RV(TemplateClasses|Core|XML|ProductBase)/RV[A-Za-z]+\.h'
 holds librvcatalogue0 "$lib"/lib'RVCatalogue\.so\.0(\.[0-9]+\.[0-9]+)?' 'share/RVCatalogue/translations/rvcatalogue_de\.qm'
 holds librvcatalogue-dev \
     "$lib"/lib'RVCatalogue\.so' "$lib"/cmake/'RVCatalogue/RVCatalogue.*\.cmake' "$lib"/pkgconfig/RVCatalogue.pc \
