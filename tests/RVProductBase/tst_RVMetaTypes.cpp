@@ -220,8 +220,6 @@ void tst_RVMetaTypes::failures()
     QVariant converted(text);
     QCOMPARE(converted.convert(type), QT_VERSION < QT_VERSION_CHECK(6, 8, 0));
     QCOMPARE(converted.metaType(), type);
-    if (converted.isNull()) // as QVariant leaves it after a failure
-        converted = QVariant(type);
     QTEST(converted, "expected");
 }
 
