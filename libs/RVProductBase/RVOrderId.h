@@ -3,6 +3,7 @@
 
 #include "RVProductBaseExport.h"
 
+#include <QHashFunctions>
 #include <QString>
 
 class QDataStream;
