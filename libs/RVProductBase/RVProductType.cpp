@@ -2,6 +2,8 @@
 
 #include "RVPriceClass.h"
 
+#include <QDataStream>
+#include <QDebug>
 #include <QDomElement>
 #include <QHash>
 
