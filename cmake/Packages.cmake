@@ -73,8 +73,10 @@ This package contains the headers, the CMake package and the pkg-config file.")
 
 set(CPACK_DEBIAN_RVCATALOG_PACKAGE_NAME rvcatalog)
 set(CPACK_DEBIAN_RVCATALOG_PACKAGE_SECTION utils)
-set(CPACK_DEBIAN_RVCATALOG_PACKAGE_DEPENDS "${library} ${same_version}, ${catalogue_library} ${same_version}")
-set(CPACK_DEBIAN_RVCATALOG_PACKAGE_RECOMMENDS "fonts-dejavu-core | fonts-liberation")
+# Font sizes of spines are those of DejaVu Sans, as every machine has to name the same.
+set(CPACK_DEBIAN_RVCATALOG_PACKAGE_DEPENDS
+    "${library} ${same_version}, ${catalogue_library} ${same_version}, fonts-dejavu-core"
+)
 set(CPACK_DEBIAN_RVCATALOG_DESCRIPTION "The program lists the products of a catalogue with page counts, spine widths and
 options, explains keywords, and checks the order line of a project against the catalogue.")
 
@@ -82,9 +84,9 @@ options, explains keywords, and checks the order line of a project against the c
 set(CPACK_DEBIAN_RVBROWSER_PACKAGE_NAME rvbrowser)
 set(CPACK_DEBIAN_RVBROWSER_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_RVBROWSER_PACKAGE_DEPENDS
-    "${library} ${same_version}, ${catalogue_library} ${same_version}, libqt6svg6"
+    "${library} ${same_version}, ${catalogue_library} ${same_version}, libqt6svg6, fonts-dejavu-core"
 )
-set(CPACK_DEBIAN_RVBROWSER_PACKAGE_RECOMMENDS "qt6-translations-l10n, fonts-dejavu-core | fonts-liberation")
+set(CPACK_DEBIAN_RVBROWSER_PACKAGE_RECOMMENDS "qt6-translations-l10n")
 set(CPACK_DEBIAN_RVBROWSER_PACKAGE_SUGGESTS "rvcatalog")
 set(CPACK_DEBIAN_RVBROWSER_DESCRIPTION "The window shows the products of a catalogue: attributes, page counts with the spine,
 the page with its barcodes, options, the lines and price classes that they become in an order, and what is wrong with

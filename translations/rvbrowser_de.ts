@@ -504,19 +504,4 @@ Zeigt Kataloge von Druckprodukten.</translation>
         </translation>
     </message>
 </context>
-<context>
-    <name>SpinePlot</name>
-    <message>
-        <source>pages</source>
-        <translation>Seiten</translation>
-    </message>
-    <message>
-        <source>largest font size in pt</source>
-        <translation>größte Schrift in pt</translation>
-    </message>
-    <message>
-        <source>spine width in mm</source>
-        <translation>Rückenbreite in mm</translation>
-    </message>
-</context>
 </TS>

@@ -1,14 +1,12 @@
 #include "SpinePlot.h"
 
-#include "AxisTicks.h"
+#include "PlotFrame.h"
+#include "SpineFont.h"
 
-#include <QFont>
 #include <QFontMetricsF>
 #include <QPaintDevice>
 #include <QPainter>
 #include <QPainterPath>
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -19,205 +17,222 @@ constexpr int MOST_STEPS = 800;
 /// In points: the least distance at which the dots of two page counts can be told apart.
 constexpr qreal DOT_DISTANCE = 3.5;
 constexpr qreal DOT_RADIUS = 1.1;
-constexpr qreal TEXT_SIZE = 8;
-constexpr qreal TITLE_SIZE = 10.5;
-
-QFont plotFont(qreal pointSize, bool isBold = false)
-{
-    QFont font(u"sans-serif"_s);
-    font.setPointSizeF(pointSize);
-    font.setBold(isBold);
-    return font;
-}
 
 }
 
-/// Where the values go on the device.
-struct SpinePlot::Frame
+int SpinePlot::rowAt(const QPointF &place, const QRectF &rect, QPaintDevice *device) const
 {
-    QRectF plot;
-    QRectF band; // of the font sizes, above the plot
-    qreal point; // of text, in units of the device
-    qreal left; // page count at the left edge
-    qreal right;
-    qreal bottom; // width at the lower edge
-    qreal top;
-    qreal lineHeight;
+    if (myTable.rowCount() == 0)
+        return -1;
+    const PlotFrame frame(myTable, myLocale, !myTitle.isEmpty(), rect, device);
+    return frame.hasRoom() ? myTable.rowNear(frame.pages(place.x())) : -1;
+}
 
-    qreal x(qreal pages) const { return plot.left() + (pages - left) / (right - left) * plot.width(); }
-    qreal y(qreal width) const { return plot.bottom() - (width - bottom) / (top - bottom) * plot.height(); }
-    QPointF at(const SpineRow &row) const { return { x(row.pages), y(row.width) }; }
-};
+QString SpinePlot::reading(int row) const
+{
+    const SpineRow values = myTable.row(row);
+    return tr("page count %1 · %2 mm · font up to %3 pt")
+            .arg(myLocale.toString(values.pages), myLocale.toString(values.width, 'f', 2),
+                 myLocale.toString(values.fontSize));
+}
 
 void SpinePlot::paint(QPainter *painter, const QRectF &rect) const
 {
     painter->fillRect(rect, myColors.background);
     if (myTable.rowCount() == 0)
         return;
+    const PlotFrame frame(myTable, myLocale, !myTitle.isEmpty(), rect, painter->device());
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    const qreal point = painter->device()->logicalDpiY() / 72.0;
-    const QRectF inner = rect.adjusted(4 * point, 4 * point, -10 * point, -3 * point);
-    const qreal top = paintTitle(painter, inner);
-    painter->setFont(plotFont(TEXT_SIZE));
-    const QFontMetricsF metrics(painter->font(), painter->device());
-    const qreal line = metrics.height();
-
-    const QList<SpineRow> steps = myTable.steps(MOST_STEPS);
-    const auto [narrowest, widest] = std::minmax({ steps.constFirst().width, steps.constLast().width });
-    // A curve that begins far above 0 would look flat, so the axis then begins below the narrowest spine.
-    const bool isFarAbove = narrowest < widest && narrowest >= 0.6 * widest;
-    const qreal lowest = narrowest > 0 && !isFarAbove ? 0 : narrowest;
-    const qreal margin = widest > narrowest ? 0.05 * (widest - lowest) : qMax(1.0, 0.5 * qAbs(widest));
-    const qreal plotHeight = inner.bottom() - 2.4 * line - (top + 2.6 * line);
-    const AxisTicks y(lowest == 0 ? 0 : lowest - margin, widest + margin,
-                      int(qBound(2.0, plotHeight / (2 * line), 8.0)), 0.01);
-
-    qreal labels = 0;
-    for (const qreal value : { y.first(), y.last() })
-        labels = qMax(labels, metrics.horizontalAdvance(y.text(value, myLocale)));
-    Frame frame;
-    frame.point = point;
-    frame.lineHeight = line;
-    frame.plot = QRectF(QPointF(inner.left() + line + labels + 7 * point, top + 2.6 * line),
-                        QPointF(inner.right(), inner.bottom() - 2.4 * line));
-    if (frame.plot.width() < 2 * line || frame.plot.height() < 2 * line) {
-        painter->restore();
-        return;
-    }
-    frame.band = QRectF(frame.plot.left(), top + 1.1 * line, frame.plot.width(), 1.2 * line);
-    frame.bottom = y.first();
-    frame.top = y.last();
-    const qreal first = myTable.row(0).pages;
-    const qreal last = steps.constLast().pages;
-    const qreal space = last > first ? 0.02 * (last - first) : 1;
-    frame.left = first - space;
-    frame.right = last + space;
-    const qreal label = metrics.horizontalAdvance(myLocale.toString(qint64(last))) + 12 * point;
-    const AxisTicks x(first, last, int(qBound(1.0, frame.plot.width() / label, 12.0)), 1);
-
-    paintGrid(painter, frame, x, y);
-    paintLabels(painter, frame, inner);
-    paintFontBand(painter, frame);
-    paintCurve(painter, frame, steps);
-    paintCounts(painter, frame);
-    if (myMarkedRow >= 0 && myMarkedRow < myTable.rowCount())
+    paintTitle(painter, frame);
+    if (frame.hasRoom()) {
+        painter->setFont(textFont(TEXT_SIZE));
+        paintRows(painter, frame);
+        paintColumns(painter, frame);
+        paintLabels(painter, frame);
+        paintFontBand(painter, frame);
+        paintCurve(painter, frame);
+        paintCounts(painter, frame);
         paintMarker(painter, frame);
+        paintCrossHair(painter, frame);
+    }
     painter->restore();
 }
 
-// Returns where the next line begins.
-qreal SpinePlot::paintTitle(QPainter *painter, const QRectF &rect) const
+void SpinePlot::paintTitle(QPainter *painter, const PlotFrame &frame) const
 {
-    if (myTitle.isEmpty())
-        return rect.top();
-    painter->setFont(plotFont(TITLE_SIZE, true));
+    painter->setFont(textFont(TITLE_SIZE, true));
     const QFontMetricsF metrics(painter->font(), painter->device());
+    const QRectF &inner = frame.inner();
     painter->setPen(myColors.text);
-    painter->drawText(QPointF(rect.left(), rect.top() + metrics.ascent()),
-                      metrics.elidedText(myTitle, Qt::ElideRight, rect.width()));
-    return rect.top() + 1.4 * metrics.height();
+    painter->drawText(QPointF(inner.left(), inner.top() + metrics.ascent()),
+                      metrics.elidedText(myTitle, Qt::ElideRight, inner.width()));
 }
 
-void SpinePlot::paintGrid(QPainter *painter, const Frame &frame, const AxisTicks &x, const AxisTicks &y) const
+// The vertical axis, with a line across for each of its values.
+void SpinePlot::paintRows(QPainter *painter, const PlotFrame &frame) const
 {
-    const QPen gridPen(myColors.grid, 0.4 * frame.point);
-    const QPen axisPen(myColors.text, 0.6 * frame.point);
-    const qreal tick = 3 * frame.point;
-    const QRectF &plot = frame.plot;
-    for (const qreal value : y.values(frame.bottom, frame.top)) {
+    const qreal tick = 3 * frame.point();
+    const qreal line = frame.lineHeight();
+    const QRectF &plot = frame.plot();
+    const AxisTicks &ticks = frame.yTicks();
+    for (const qreal value : ticks.values(ticks.first(), ticks.last())) {
         const qreal at = frame.y(value);
-        painter->setPen(gridPen);
+        painter->setPen(QPen(myColors.grid, 0.4 * frame.point()));
         painter->drawLine(QPointF(plot.left(), at), QPointF(plot.right(), at));
-        painter->setPen(axisPen);
+        painter->setPen(QPen(myColors.text, 0.6 * frame.point()));
         painter->drawLine(QPointF(plot.left() - tick, at), QPointF(plot.left(), at));
-        painter->drawText(QRectF(plot.left() - tick - plot.width(), at - frame.lineHeight / 2,
-                                 plot.width() - 2 * frame.point, frame.lineHeight),
-                          Qt::AlignRight | Qt::AlignVCenter, y.text(value, myLocale));
+        painter->drawText(
+                QRectF(plot.left() - tick - plot.width(), at - line / 2, plot.width() - 2 * frame.point(), line),
+                Qt::AlignRight | Qt::AlignVCenter, ticks.text(value, myLocale));
     }
-    for (const qreal value : x.values(frame.left, frame.right)) {
+    painter->drawLine(plot.topLeft(), plot.bottomLeft());
+}
+
+// The horizontal axis, likewise.
+void SpinePlot::paintColumns(QPainter *painter, const PlotFrame &frame) const
+{
+    const qreal tick = 3 * frame.point();
+    const QRectF &plot = frame.plot();
+    const AxisTicks &ticks = frame.xTicks();
+    const QPen axisPen(myColors.text, 0.6 * frame.point());
+    for (const qreal value : ticks.values(frame.left(), frame.right())) {
         const qreal at = frame.x(value);
-        painter->setPen(gridPen);
+        painter->setPen(QPen(myColors.grid, 0.4 * frame.point()));
         painter->drawLine(QPointF(at, plot.top()), QPointF(at, plot.bottom()));
         painter->setPen(axisPen);
         painter->drawLine(QPointF(at, plot.bottom()), QPointF(at, plot.bottom() + tick));
-        painter->drawText(QRectF(at - plot.width(), plot.bottom() + tick, 2 * plot.width(), frame.lineHeight),
-                          Qt::AlignCenter, x.text(value, myLocale));
+        painter->drawText(QRectF(at - plot.width(), plot.bottom() + tick, 2 * plot.width(), frame.lineHeight()),
+                          Qt::AlignCenter, ticks.text(value, myLocale));
     }
-    painter->drawLine(plot.topLeft(), plot.bottomLeft());
+    painter->setPen(axisPen);
     painter->drawLine(plot.bottomLeft(), plot.bottomRight());
 }
 
-void SpinePlot::paintLabels(QPainter *painter, const Frame &frame, const QRectF &rect) const
+void SpinePlot::paintLabels(QPainter *painter, const PlotFrame &frame) const
 {
     painter->setPen(myColors.text);
-    const QRectF &plot = frame.plot;
-    painter->drawText(QRectF(plot.left(), rect.bottom() - frame.lineHeight, plot.width(), frame.lineHeight),
-                      Qt::AlignCenter, tr("pages"));
-    painter->drawText(QRectF(plot.left(), frame.band.top() - 1.05 * frame.lineHeight, plot.width(), frame.lineHeight),
-                      Qt::AlignLeft | Qt::AlignVCenter, tr("largest font size in pt"));
+    const QRectF &plot = frame.plot();
+    const qreal line = frame.lineHeight();
+    painter->drawText(QRectF(plot.left(), frame.inner().bottom() - line, plot.width(), line), Qt::AlignCenter,
+                      tr("pages"));
+    const QString family = SpineFont::family();
+    const QFontMetricsF metrics(painter->font(), painter->device());
+    const QString fonts = tr("largest font size in pt");
+    const QString named = u"%1 (%2)"_s.arg(fonts, family);
+    const bool hasRoom = !family.isEmpty() && metrics.horizontalAdvance(named) <= plot.width();
+    painter->drawText(QRectF(plot.left(), frame.band().top() - 1.05 * line, plot.width(), line),
+                      Qt::AlignLeft | Qt::AlignVCenter, hasRoom ? named : fonts);
+    paintWidthLabel(painter, frame);
+}
+
+// Beside the middle of the axis, unless it would then leave the drawing; where the drawing is too low for it, only the
+// unit is told.
+void SpinePlot::paintWidthLabel(QPainter *painter, const PlotFrame &frame) const
+{
+    const QFontMetricsF metrics(painter->font(), painter->device());
+    const QRectF &inner = frame.inner();
+    QString text = tr("spine width in mm");
+    if (metrics.horizontalAdvance(text) > inner.height())
+        text = tr("mm");
+    const qreal length = metrics.horizontalAdvance(text) + 2 * frame.point();
+    const qreal top = qMax(inner.top(), qMin(frame.plot().center().y(), inner.bottom() - length / 2) - length / 2);
     painter->save();
-    painter->translate(rect.left(), plot.center().y());
+    painter->translate(inner.left(), top + length);
     painter->rotate(-90);
-    painter->drawText(QRectF(-plot.height(), 0, 2 * plot.height(), frame.lineHeight), Qt::AlignCenter,
-                      tr("spine width in mm"));
+    painter->drawText(QRectF(0, 0, length, frame.lineHeight()), Qt::AlignCenter | Qt::TextDontClip, text);
     painter->restore();
 }
 
 // One field for each font size; the number is left out where it has no room.
-void SpinePlot::paintFontBand(QPainter *painter, const Frame &frame) const
+void SpinePlot::paintFontBand(QPainter *painter, const PlotFrame &frame) const
 {
     const QFontMetricsF metrics(painter->font(), painter->device());
     const QList<SpineTable::FontRun> &runs = myTable.fontRuns();
-    painter->fillRect(frame.band, myColors.band);
+    painter->fillRect(frame.band(), myColors.band);
     for (qsizetype i = 0; i < runs.size(); ++i) {
         const bool isLast = i + 1 == runs.size();
-        const qreal left = i == 0 ? frame.plot.left() : frame.x(myTable.row(runs.at(i).firstRow).pages);
-        const qreal right = isLast ? frame.plot.right() : frame.x(myTable.row(runs.at(i + 1).firstRow).pages);
-        const QRectF field(left, frame.band.top(), right - left, frame.band.height());
+        const qreal left = i == 0 ? frame.plot().left() : frame.x(myTable.row(runs.at(i).firstRow).pages);
+        const qreal right = isLast ? frame.plot().right() : frame.x(myTable.row(runs.at(i + 1).firstRow).pages);
+        const QRectF field(left, frame.band().top(), right - left, frame.band().height());
         const QString text = myLocale.toString(runs.at(i).fontSize);
         painter->setPen(myColors.text);
-        if (metrics.horizontalAdvance(text) + 2 * frame.point <= field.width())
+        if (metrics.horizontalAdvance(text) + 2 * frame.point() <= field.width())
             painter->drawText(field, Qt::AlignCenter, text);
         if (i == 0)
             continue;
-        painter->setPen(QPen(myColors.grid, 0.6 * frame.point, Qt::DashLine));
-        painter->drawLine(QPointF(left, frame.band.top()), QPointF(left, frame.plot.bottom()));
+        painter->setPen(QPen(myColors.grid, 0.6 * frame.point(), Qt::DashLine));
+        painter->drawLine(QPointF(left, frame.band().top()), QPointF(left, frame.plot().bottom()));
     }
 }
 
-void SpinePlot::paintCurve(QPainter *painter, const Frame &frame, const QList<SpineRow> &steps) const
+void SpinePlot::paintCurve(QPainter *painter, const PlotFrame &frame) const
 {
+    const QList<SpineRow> steps = myTable.steps(MOST_STEPS);
     QPainterPath path(frame.at(steps.constFirst()));
     for (const SpineRow &step : steps) {
         path.lineTo(frame.x(step.pages), path.currentPosition().y());
         path.lineTo(frame.at(step));
     }
-    painter->setPen(QPen(myColors.curve, 1.2 * frame.point, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter->setPen(QPen(myColors.curve, 1.2 * frame.point(), Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter->setBrush(Qt::NoBrush);
     painter->drawPath(path);
 }
 
 // A dot for each page count that can be chosen, as long as there is room between them.
-void SpinePlot::paintCounts(QPainter *painter, const Frame &frame) const
+void SpinePlot::paintCounts(QPainter *painter, const PlotFrame &frame) const
 {
     const int count = myTable.rowCount();
-    if (count > 1 && frame.plot.width() / count < DOT_DISTANCE * frame.point)
+    if (count > 1 && frame.plot().width() / count < DOT_DISTANCE * frame.point())
         return;
-    const qreal radius = (count > 1 ? DOT_RADIUS : 2 * DOT_RADIUS) * frame.point;
-    painter->setPen(QPen(myColors.curve, 0.8 * frame.point));
+    const qreal radius = (count > 1 ? DOT_RADIUS : 2 * DOT_RADIUS) * frame.point();
+    painter->setPen(QPen(myColors.curve, 0.8 * frame.point()));
     painter->setBrush(myColors.background);
     for (int i = 0; i < count; ++i)
         painter->drawEllipse(frame.at(myTable.row(i)), radius, radius);
 }
 
-void SpinePlot::paintMarker(QPainter *painter, const Frame &frame) const
+void SpinePlot::paintMarker(QPainter *painter, const PlotFrame &frame) const
 {
+    if (myMarkedRow < 0 || myMarkedRow >= myTable.rowCount())
+        return;
     const QPointF at = frame.at(myTable.row(myMarkedRow));
-    painter->setPen(QPen(myColors.marker, 0.8 * frame.point, Qt::DashLine));
-    painter->drawLine(QPointF(at.x(), frame.plot.bottom()), at);
-    painter->drawLine(QPointF(frame.plot.left(), at.y()), at);
+    painter->setPen(QPen(myColors.marker, 0.8 * frame.point(), Qt::DashLine));
+    painter->drawLine(QPointF(at.x(), frame.plot().bottom()), at);
+    painter->drawLine(QPointF(frame.plot().left(), at.y()), at);
     painter->setPen(Qt::NoPen);
     painter->setBrush(myColors.marker);
-    painter->drawEllipse(at, 2.5 * frame.point, 2.5 * frame.point);
+    painter->drawEllipse(at, 2.5 * frame.point(), 2.5 * frame.point());
+}
+
+void SpinePlot::paintCrossHair(QPainter *painter, const PlotFrame &frame) const
+{
+    if (myCrossRow < 0 || myCrossRow >= myTable.rowCount())
+        return;
+    const QPointF at = frame.at(myTable.row(myCrossRow));
+    painter->setPen(QPen(myColors.text, 0.6 * frame.point()));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawLine(QPointF(at.x(), frame.band().top()), QPointF(at.x(), frame.plot().bottom()));
+    painter->drawLine(QPointF(frame.plot().left(), at.y()), QPointF(frame.plot().right(), at.y()));
+    painter->drawEllipse(at, 3.5 * frame.point(), 3.5 * frame.point());
+    paintReading(painter, frame, at);
+}
+
+// Beside the crossing on the side that has more room, where it hides least of the curve.
+void SpinePlot::paintReading(QPainter *painter, const PlotFrame &frame, const QPointF &at) const
+{
+    const QFontMetricsF metrics(painter->font(), painter->device());
+    const QString text = reading(myCrossRow);
+    const qreal gap = 4 * frame.point();
+    QRectF box(0, 0, metrics.horizontalAdvance(text) + 2 * gap, frame.lineHeight() + gap);
+    const bool isLeft = at.x() < frame.plot().center().x();
+    box.moveLeft(isLeft ? at.x() + gap : at.x() - gap - box.width());
+    box.moveLeft(qMax(frame.inner().left(), qMin(box.left(), frame.inner().right() - box.width())));
+    const bool isBelow = at.y() < frame.plot().center().y();
+    box.moveTop(isBelow ? at.y() + gap : at.y() - gap - box.height());
+    painter->setPen(QPen(myColors.grid, 0.6 * frame.point()));
+    painter->setBrush(myColors.background);
+    painter->drawRect(box);
+    painter->setPen(myColors.text);
+    painter->drawText(box, Qt::AlignCenter | Qt::TextDontClip, text);
 }

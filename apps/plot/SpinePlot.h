@@ -1,6 +1,7 @@
 #ifndef SPINEPLOT_H
 #define SPINEPLOT_H
 
+#include "Drawing.h"
 #include "SpineTable.h"
 
 #include <QColor>
@@ -9,7 +10,8 @@
 #include <QRectF>
 #include <QString>
 
-class AxisTicks;
+class PlotFrame;
+class QPaintDevice;
 class QPainter;
 
 /// What a plot is drawn with. By default for white paper.
@@ -27,11 +29,14 @@ struct PlotColors
  * Draws the width of a spine over the page count as a curve with visible steps, and the largest font size as a band
  * above it. Sizes of texts and lines are in points of the device, so the plot looks the same on screen and on paper.
  */
-class SpinePlot
+class SpinePlot : public Drawing
 {
     Q_DECLARE_TR_FUNCTIONS(SpinePlot)
 
 public:
+    static constexpr qreal TEXT_SIZE = 8; ///< In points.
+    static constexpr qreal TITLE_SIZE = 10.5; ///< In points.
+
     explicit SpinePlot(const SpineTable &table = SpineTable()) : myTable(table) { }
 
     /// Above the plot; none by default.
@@ -41,27 +46,41 @@ public:
     void setLocale(const QLocale &locale) { myLocale = locale; }
     /// The row of the table that is pointed out; none by default, which is -1.
     void setMarkedRow(int row) { myMarkedRow = row; }
+    /// The row that gets a cross hair and its values as a text; none by default, which is -1.
+    void setRowUnderCrossHair(int row) { myCrossRow = row; }
 
     const SpineTable &table() const { return myTable; }
+    /// The row nearest to a place, painted into the rectangle on the device; -1 without rows or room.
+    int rowAt(const QPointF &place, const QRectF &rect, QPaintDevice *device) const;
+    /// Page count, width and font size of a row as a text.
+    QString reading(int row) const;
     /// Fills the rectangle. Without rows only the background is drawn.
     void paint(QPainter *painter, const QRectF &rect) const;
 
-private:
-    struct Frame;
+    QString title() const override { return myTitle; }
+    /// As wide as a column of text on A4. It has no scale, so it is as large as the paper allows.
+    QSizeF sheetSize(int reduction) const override { return QSizeF(160, 100) / reduction; }
+    void paint(QPainter *painter, const QRectF &sheet, int) const override { paint(painter, sheet); }
 
-    qreal paintTitle(QPainter *painter, const QRectF &rect) const;
-    void paintGrid(QPainter *painter, const Frame &frame, const AxisTicks &x, const AxisTicks &y) const;
-    void paintLabels(QPainter *painter, const Frame &frame, const QRectF &rect) const;
-    void paintFontBand(QPainter *painter, const Frame &frame) const;
-    void paintCurve(QPainter *painter, const Frame &frame, const QList<SpineRow> &steps) const;
-    void paintCounts(QPainter *painter, const Frame &frame) const;
-    void paintMarker(QPainter *painter, const Frame &frame) const;
+private:
+    void paintTitle(QPainter *painter, const PlotFrame &frame) const;
+    void paintRows(QPainter *painter, const PlotFrame &frame) const;
+    void paintColumns(QPainter *painter, const PlotFrame &frame) const;
+    void paintLabels(QPainter *painter, const PlotFrame &frame) const;
+    void paintWidthLabel(QPainter *painter, const PlotFrame &frame) const;
+    void paintFontBand(QPainter *painter, const PlotFrame &frame) const;
+    void paintCurve(QPainter *painter, const PlotFrame &frame) const;
+    void paintCounts(QPainter *painter, const PlotFrame &frame) const;
+    void paintMarker(QPainter *painter, const PlotFrame &frame) const;
+    void paintCrossHair(QPainter *painter, const PlotFrame &frame) const;
+    void paintReading(QPainter *painter, const PlotFrame &frame, const QPointF &at) const;
 
     SpineTable myTable;
     QString myTitle;
     PlotColors myColors;
     QLocale myLocale = QLocale::c();
     int myMarkedRow = -1;
+    int myCrossRow = -1;
 };
 
 #endif

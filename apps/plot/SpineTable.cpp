@@ -1,8 +1,11 @@
 #include "SpineTable.h"
 
+#include "SpineFont.h"
+
 #include <QtNumeric>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 namespace {
@@ -34,6 +37,14 @@ SpineRow SpineTable::row(int index) const
              behind == myFontRuns.begin() ? 0 : std::prev(behind)->fontSize };
 }
 
+int SpineTable::rowNear(qreal pageCount) const
+{
+    if (myRowCount < 2)
+        return myRowCount - 1;
+    const qreal step = (qreal(pages(myRowCount - 1)) - pages(0)) / (myRowCount - 1);
+    return int(std::round(qBound(0.0, (pageCount - pages(0)) / step, qreal(myRowCount - 1))));
+}
+
 QList<SpineRow> SpineTable::steps(int most) const
 {
     QList<SpineRow> result;
@@ -61,7 +72,7 @@ qreal SpineTable::width(int index) const
 
 int SpineTable::fontSize(int index) const
 {
-    return mySpine.spineMaxFontHeigth(spinePages(pages(index)), QString());
+    return SpineFont::largestSize(mySpine, pages(index));
 }
 
 int SpineTable::nextChange(int index, int (SpineTable::*function)(int) const) const

@@ -13,7 +13,7 @@ struct SpineRow
     int packages = 0; ///< above the lowest count
     int blocks = 0; ///< whole blocks of packages
     qreal width = 0; ///< in millimetres, sides included
-    int fontSize = 0; ///< the largest that fits, in points
+    int fontSize = 0; ///< the largest of SpineFont that fits, in points
 };
 
 /**
@@ -40,6 +40,8 @@ public:
 
     int rowCount() const { return myRowCount; }
     SpineRow row(int index) const;
+    /// The row whose page count is nearest to this one; -1 without rows.
+    int rowNear(qreal pageCount) const;
     /// The rows that share a font size, from the first row to the last.
     const QList<FontRun> &fontRuns() const { return myFontRuns; }
     /// The rows at which the spine becomes one block wider, and the last row. Where they are more than @p most, which

@@ -27,5 +27,6 @@ void Language::speak(const QLocale &locale)
     load(&myQt, u"qtbase"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
     load(&myLibrary, u"rvproductbase"_s, u":/translations"_s);
     load(&myCatalogue, u"rvcatalogue"_s, u":/translations"_s);
+    load(&myPlot, u"rvplot"_s, u":/translations"_s);
     load(&myProgram, u"rvbrowser"_s, u":/translations"_s);
 }

@@ -14,6 +14,7 @@ public:
 
 private:
     QTranslator myProgram;
+    QTranslator myPlot;
     QTranslator myCatalogue;
     QTranslator myLibrary;
     QTranslator myQt;

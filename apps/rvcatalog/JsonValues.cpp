@@ -1,5 +1,7 @@
 #include "JsonValues.h"
 
+#include <SpineFont.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -88,6 +90,8 @@ void writeSpineRow(JsonWriter &json, const SpineRow &row)
     json.beginObject();
     json.key("blocks"_L1);
     json.value(row.blocks);
+    json.key("font_family"_L1);
+    writeText(json, SpineFont::family());
     json.key("max_font_size"_L1);
     json.value(row.fontSize);
     json.key("packages"_L1);

@@ -91,7 +91,7 @@ void ProductSheet::writePages(const ProductValues &values)
               pageCountsText(values.pageCounts) + u" (%1 %2)"_s.arg(count).arg(count == 1 ? "count"_L1 : "counts"_L1)
                       + box);
     if (values.hasSpine)
-        writeLine(u"Spine"_s, spineText(values) + " mm, font "_L1 + fontText(values) + " pt"_L1);
+        writeLine(u"Spine"_s, spineText(values) + " mm, font "_L1 + fontText(values) + " pt "_L1 + SpineFont::family());
 }
 
 void ProductSheet::writeOptions(const RVCatalogueProduct &product)

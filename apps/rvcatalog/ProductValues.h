@@ -1,6 +1,7 @@
 #ifndef PRODUCTVALUES_H
 #define PRODUCTVALUES_H
 
+#include <SpineFont.h>
 #include <SpineTable.h>
 
 #include <RVCatalogueProduct.h>
@@ -25,8 +26,8 @@ struct ProductValues
     /// A catalogue may give a negative count, which has the spine of none.
     /// @{
     RVDistance spineWidth(int pages) const { return spine.spineWidth(unsigned(qMax(0, pages))); }
-    /// The largest that fits, in points.
-    int fontSize(int pages) const { return spine.spineMaxFontHeigth(unsigned(qMax(0, pages)), QString()); }
+    /// The largest of SpineFont that fits, in points.
+    int fontSize(int pages) const { return SpineFont::largestSize(spine, pages); }
     /// Without the font size, which takes long to find.
     SpineRow spineRow(int pages) const
     {

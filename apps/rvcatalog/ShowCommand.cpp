@@ -1,4 +1,5 @@
 #include "CatalogueJson.h"
+#include "FontReport.h"
 #include "Interruption.h"
 #include "ProductSheet.h"
 #include "ProductTable.h"
@@ -62,6 +63,7 @@ int show(const QString &fileName, const ProductFilter &filter, Write write, cons
     CatalogueFile file(fileName, console);
     if (file.reportError())
         return EXIT_UNREADABLE;
+    reportMissingFont(console);
     ShowReport report(file, filter);
     write(file, filter, &report, console);
     if (const int signal = Interruption::signal(); signal != 0)

@@ -1,12 +1,15 @@
+#include "FontReport.h"
 #include "JsonValues.h"
-#include "PlotFile.h"
 #include "ProductSearch.h"
 #include "ProductValues.h"
 #include "SubCommands.h"
 
+#include <DrawingExport.h>
+#include <SpineFont.h>
 #include <SpinePlot.h>
 
 #include <QCommandLineParser>
+#include <QLocale>
 #include <QTextStream>
 
 #include <optional>
@@ -51,7 +54,7 @@ void writeCell(QTextStream &out, int width, const QString &text)
 bool writeTable(const SpineTable &table, const Console &console)
 {
     QTextStream out(console.output);
-    out << "     PAGES   PACKAGES     BLOCKS  SPINE mm  FONT pt\n";
+    out << "     PAGES   PACKAGES     BLOCKS  SPINE mm  FONT pt " << SpineFont::family() << '\n';
     for (int i = 0; i < table.rowCount(); ++i) {
         const SpineRow row = table.row(i);
         writeCell(out, 10, QString::number(row.pages));
@@ -102,13 +105,14 @@ QString plotTitle(const ProductValues &values)
 }
 
 /// False, with a message, where the plot could not be written.
-bool writePlot(const PlotFile &file, const SpineTable &table, const QString &title, const Console &console)
+bool writePlot(const QString &fileName, const SpineTable &table, const QString &title, const Console &console)
 {
     SpinePlot plot(table);
     plot.setTitle(title);
-    const QString failure = file.write(plot, title);
+    plot.setLocale(QLocale());
+    const QString failure = DrawingExport(plot).write(fileName);
     if (!failure.isNull())
-        console.report(file.fileName(), { RVFilePosition(), u"cannot write the plot: "_s + failure });
+        console.report(fileName, { RVFilePosition(), u"cannot write the plot: "_s + failure });
     return failure.isNull();
 }
 
@@ -134,8 +138,9 @@ int writeSpine(const Request &request, const Console &console)
         console.report(catalogueName, *found);
         return EXIT_PROBLEMS;
     }
+    reportMissingFont(console);
     const SpineTable table(values.spine, values.pageCounts);
-    if (!request.plotName.isEmpty() && !writePlot(PlotFile(request.plotName), table, plotTitle(values), console))
+    if (!request.plotName.isEmpty() && !writePlot(request.plotName, table, plotTitle(values), console))
         return EXIT_UNREADABLE;
     const bool isWritten = request.format == "json"_L1 ? writeJson(catalogueName, values, table, console)
                                                        : writeTable(table, console);
@@ -150,7 +155,7 @@ int spineCommand(const QStringList &arguments, const Console &console)
     parser.setApplicationDescription(
             u"Lists every page count of a product: packages above the lowest count, whole blocks of packages, width\n"
             "of the spine and the largest font size that fits it. A photo book code stands for its family."_s);
-    const QCommandLineOption plotOption(u"plot"_s, u"Draw the width over the page count as well, as PNG or SVG."_s,
+    const QCommandLineOption plotOption(u"plot"_s, u"Draw the width over the page count as well, as SVG, PNG or PDF."_s,
                                         u"FILE"_s);
     const QCommandLineOption format = formatOption({ u"text"_s, u"json"_s });
     parser.addOptions({ format, plotOption });
@@ -161,9 +166,9 @@ int spineCommand(const QStringList &arguments, const Console &console)
     if (!parseArguments(parser, arguments, 2, 2, console, &exitCode))
         return exitCode;
     const QString plotName = parser.value(plotOption);
-    if (parser.isSet(plotOption) && !PlotFile(plotName).isSupported()) {
-        QTextStream(console.messages) << "rvcatalog: the name of a plot ends in .png or .svg, but got \"" << plotName
-                                      << "\"\n";
+    if (parser.isSet(plotOption) && !DrawingExport::formatOf(plotName)) {
+        QTextStream(console.messages) << "rvcatalog: the name of a plot ends in .svg, .png or .pdf, but got \""
+                                      << plotName << "\"\n";
         return EXIT_UNREADABLE;
     }
     const QStringList names = parser.positionalArguments();

@@ -55,6 +55,15 @@ void loadTranslation(QTranslator *translator, const QLocale &locale)
         QCoreApplication::installTranslator(translator);
 }
 
+// Plots are in the language of the user where there is a translation, else in English, and so are their numbers. What
+// goes to the terminal stays as it is, for the programs that read it.
+void loadPlotTexts(QTranslator *translator, const QLocale &locale)
+{
+    const bool isTranslated = translator->load(locale, u"rvplot"_s, u"_"_s, u":/translations"_s)
+            && QCoreApplication::installTranslator(translator);
+    QLocale::setDefault(isTranslated || locale.language() == QLocale::English ? locale : QLocale::c());
+}
+
 }
 
 int main(int argc, char *argv[])
@@ -73,5 +82,7 @@ int main(int argc, char *argv[])
     QGuiApplication::setApplicationName(u"rvcatalog"_s);
     QTranslator translator;
     loadTranslation(&translator, locale);
+    QTranslator plotTranslator;
+    loadPlotTexts(&plotTranslator, locale);
     return runCommand(QGuiApplication::arguments().mid(1));
 }

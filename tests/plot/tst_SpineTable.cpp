@@ -1,3 +1,4 @@
+#include <SpineFont.h>
 #include <SpinePlot.h>
 #include <SpineTable.h>
 
@@ -39,6 +40,8 @@ class tst_SpineTable : public QObject
 private Q_SLOTS:
     void rows();
     void noRows();
+    void rowNear_data();
+    void rowNear();
     void steps_data();
     void steps();
     void fontRuns();
@@ -75,6 +78,32 @@ void tst_SpineTable::noRows()
     QCOMPARE(makeTable(RVPageCountOrganization(RVIntRange(10, 20), 2), 1, 8, 1e300).rowCount(), 6);
 }
 
+void tst_SpineTable::rowNear_data()
+{
+    QTest::addColumn<int>("lowest");
+    QTest::addColumn<int>("highest");
+    QTest::addColumn<qreal>("pages");
+    QTest::addColumn<int>("row");
+
+    QTest::newRow("a count") << 26 << 154 << 34.0 << 2;
+    QTest::newRow("nearer to the lower") << 26 << 154 << 35.9 << 2;
+    QTest::newRow("nearer to the higher") << 26 << 154 << 36.1 << 3;
+    QTest::newRow("below the lowest") << 26 << 154 << -1e9 << 0;
+    QTest::newRow("above the highest") << 26 << 154 << 1e300 << 32;
+    QTest::newRow("one count") << 26 << 26 << 99.0 << 0;
+    QTest::newRow("no counts") << 26 << 20 << 26.0 << -1;
+    QTest::newRow("half a billion counts") << 3 << LARGEST << 1e9 << 249999999;
+}
+
+void tst_SpineTable::rowNear()
+{
+    QFETCH(int, lowest);
+    QFETCH(int, highest);
+    QFETCH(qreal, pages);
+    const RVPageCountOrganization counts(RVIntRange(lowest, highest), 4);
+    QTEST(makeTable(counts, 2, 8, 0).rowNear(pages), "row");
+}
+
 void tst_SpineTable::steps_data()
 {
     QTest::addColumn<int>("highest");
@@ -105,13 +134,13 @@ void tst_SpineTable::fontRuns()
     const QList<int> sizes = RVFontSizeManager::instance()->defaultFontSizes();
     const RVPageCountOrganization counts(RVIntRange(1, 200), 1);
     for (const qreal block : { 0.1, -0.1, 0.0 }) {
-        const qreal base = block < 0 ? 25 : 3;
+        const qreal base = block < 0 ? 22 : 3;
         const RVSpineConfig spine(counts, 1, RVDistance(base, DISTANCE_UNIT_MILLIMETRE),
                                   RVDistance(block, DISTANCE_UNIT_MILLIMETRE), RVDistance());
         const SpineTable table(spine, counts);
         QVERIFY(table.fontRuns().size() > 3 || block == 0.0);
         for (int i = 0; i < table.rowCount(); ++i)
-            QCOMPARE(table.row(i).fontSize, spine.spineMaxFontHeigth(unsigned(i + 1), QString()));
+            QCOMPARE(table.row(i).fontSize, SpineFont::largestSize(spine, i + 1));
         for (const SpineTable::FontRun &run : table.fontRuns())
             QVERIFY(sizes.contains(run.fontSize));
     }

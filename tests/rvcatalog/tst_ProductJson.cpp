@@ -23,7 +23,8 @@ QJsonObject spineJson(const RVCatalogueProduct &product, int pageCount)
         { u"packages"_s, product.pageCounts().countPackages(pageCount) },
         { u"blocks"_s, product.spine().additionalPagePackageBlocks(pages) },
         { u"width_mm"_s, product.spine().spineWidth(pages).value(DISTANCE_UNIT_MILLIMETRE) },
-        { u"max_font_size"_s, product.spine().spineMaxFontHeigth(pages, QString()) },
+        { u"font_family"_s, SpineFont::family() },
+        { u"max_font_size"_s, SpineFont::largestSize(product.spine(), pageCount) },
     };
 }
 

@@ -1,0 +1,147 @@
+#include "DrawingExport.h"
+
+#include "Drawing.h"
+
+#include <QBuffer>
+#include <QFileInfo>
+#include <QPageLayout>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QSaveFile>
+#include <QSvgGenerator>
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qreal MILLIMETRES_PER_INCH = 25.4;
+constexpr int PNG_DOTS_PER_INCH = 300;
+/// At this resolution a unit of the drawing is a tenth of a millimetre.
+constexpr int SVG_DOTS_PER_INCH = 254;
+constexpr int PDF_DOTS_PER_INCH = 1270;
+/// In millimetres. A picture of a larger sheet would take a quarter of a gigabyte.
+constexpr QSizeF LARGEST_SHEET(700, 700);
+
+// A device or a pipe cannot be replaced, so it is written to.
+QString writeToDevice(const QString &fileName, const QByteArray &content)
+{
+    QFile file(fileName);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || file.write(content) != content.size())
+        return file.errorString();
+    return QString();
+}
+
+QString replaceFile(const QString &fileName, const QByteArray &content)
+{
+    QSaveFile file(fileName);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit())
+        return file.errorString();
+    return QString();
+}
+
+}
+
+DrawingExport::DrawingExport(const Drawing &drawing)
+    : myDrawing(drawing),
+      myReduction(drawing.reductionFor(LARGEST_SHEET))
+{ }
+
+std::optional<DrawingExport::Format> DrawingExport::formatOf(const QString &fileName)
+{
+    if (fileName.endsWith(".svg"_L1, Qt::CaseInsensitive))
+        return Format::Svg;
+    if (fileName.endsWith(".png"_L1, Qt::CaseInsensitive))
+        return Format::Png;
+    if (fileName.endsWith(".pdf"_L1, Qt::CaseInsensitive))
+        return Format::Pdf;
+    return std::nullopt;
+}
+
+QImage DrawingExport::image() const
+{
+    const QRectF sheet = sheetInDots(PNG_DOTS_PER_INCH);
+    QImage image(sheet.size().toSize(), QImage::Format_RGB32);
+    if (image.isNull())
+        return image;
+    image.fill(Qt::white); // the last pixel may be wider than the sheet
+    const int dotsPerMeter = int(std::round(PNG_DOTS_PER_INCH * 1000 / MILLIMETRES_PER_INCH));
+    image.setDotsPerMeterX(dotsPerMeter);
+    image.setDotsPerMeterY(dotsPerMeter);
+    QPainter painter(&image);
+    myDrawing.paint(&painter, sheet, myReduction);
+    return image;
+}
+
+QByteArray DrawingExport::content(Format format) const
+{
+    switch (format) {
+    case Format::Svg:
+        return svg();
+    case Format::Png:
+        return png();
+    case Format::Pdf:
+        return pdf();
+    }
+    return QByteArray();
+}
+
+QString DrawingExport::write(const QString &fileName) const
+{
+    const std::optional<Format> format = formatOf(fileName);
+    if (!format)
+        return tr("the name of the file must end in .svg, .png or .pdf");
+    const QByteArray bytes = content(*format);
+    if (bytes.isEmpty())
+        return tr("there is not enough memory for the drawing");
+    const QFileInfo file(fileName);
+    const bool isDevice = file.exists() && !file.isFile() && !file.isDir();
+    return isDevice ? writeToDevice(fileName, bytes) : replaceFile(fileName, bytes);
+}
+
+QByteArray DrawingExport::svg() const
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QSvgGenerator generator;
+    generator.setOutputDevice(&buffer);
+    generator.setResolution(SVG_DOTS_PER_INCH);
+    const QRectF sheet = sheetInDots(SVG_DOTS_PER_INCH);
+    generator.setSize(sheet.size().toSize());
+    generator.setViewBox(QRect(QPoint(), sheet.size().toSize()));
+    generator.setTitle(myDrawing.title().toHtmlEscaped()); // it is written as it stands
+    QPainter painter(&generator);
+    myDrawing.paint(&painter, sheet, myReduction);
+    painter.end();
+    return buffer.data();
+}
+
+QByteArray DrawingExport::png() const
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    image().save(&buffer, "PNG");
+    return buffer.data();
+}
+
+QByteArray DrawingExport::pdf() const
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    writer.setResolution(PDF_DOTS_PER_INCH);
+    writer.setTitle(myDrawing.title());
+    const QPageSize size(myDrawing.sheetSize(myReduction), QPageSize::Millimeter, QString(), QPageSize::ExactMatch);
+    writer.setPageLayout(QPageLayout(size, QPageLayout::Portrait, QMarginsF()));
+    QPainter painter(&writer);
+    myDrawing.paint(&painter, sheetInDots(PDF_DOTS_PER_INCH), myReduction);
+    painter.end();
+    return buffer.data();
+}
+
+// Not rounded, as a drawing takes its scale from the sheet.
+QRectF DrawingExport::sheetInDots(int dotsPerInch) const
+{
+    return { QPointF(), myDrawing.sheetSize(myReduction) * dotsPerInch / MILLIMETRES_PER_INCH };
+}
