@@ -136,6 +136,9 @@ void MainWindow::createMenus()
     connect(myCancel, &QAction::triggered, &mySession, &CatalogueSession::cancel);
     file->addAction(myCancel);
     file->addSeparator();
+    for (QMenu *drawing : myView->drawingMenus())
+        file->addMenu(drawing);
+    file->addSeparator();
     file->addAction(tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), this, &QWidget::close);
 
     QMenu *edit = menuBar()->addMenu(tr("&Edit"));

@@ -78,10 +78,13 @@ depends rvcatalog "librvproductbase0 \(= $version\)"
 depends rvcatalog "librvcatalogue0 \(= $version\)"
 depends rvcatalog 'libqt6core6(t64)? '
 depends rvcatalog 'libqt6svg6 '
+depends rvcatalog 'fonts-dejavu-core'
 depends rvbrowser "librvproductbase0 \(= $version\)"
 depends rvbrowser "librvcatalogue0 \(= $version\)"
 depends rvbrowser 'libqt6widgets6 '
 depends rvbrowser 'libqt6svg6'
+depends rvbrowser 'libqt6printsupport6(t64)? '
+depends rvbrowser 'fonts-dejavu-core'
 # provides PACKAGE LIBRARIES...: the linker and other packages are told of the shared libraries.
 provides() {
     local package=$1 control=$work/control/$1 library

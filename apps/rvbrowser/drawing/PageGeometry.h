@@ -10,7 +10,8 @@
 class RVCatalogueProduct;
 
 /// The page of a product in tenths of a millimetre, as far as a catalogue tells: it has the area of the size class and
-/// the usual proportions of the orientation. Around it goes the usual bleed.
+/// the usual proportions of the orientation. Around it goes the usual bleed. Both are assumed, as no catalogue tells
+/// them.
 class PageGeometry
 {
 public:

@@ -1,42 +1,139 @@
 #include "SpineCurve.h"
 
-#include "PaletteColors.h"
+#include "AccessibleSpineCurve.h"
 
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
+#include <QStyleOptionFocusRect>
 
 using namespace Qt::StringLiterals;
 
-SpineCurve::SpineCurve(QWidget *parent) : QWidget(parent)
+namespace {
+
+/// The rows of a page up or down.
+constexpr int PAGE_STEP = 10;
+
+}
+
+SpineCurve::SpineCurve(QWidget *parent) : DrawingWidget(tr("Spine &curve"), parent)
 {
+    AccessibleSpineCurve::install();
     setObjectName(u"spineCurve"_s);
     setAccessibleName(tr("Spine width over the page count"));
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-void SpineCurve::setTable(const SpineTable &table)
+void SpineCurve::setTable(const SpineTable &table, const QString &title)
 {
     myPlot = SpinePlot(table);
     myPlot.setLocale(QLocale());
+    myTitle = title;
+    myRow = -1;
+    myRowUnderMouse = -1;
     update();
 }
 
 void SpineCurve::setRow(int row)
 {
-    myPlot.setMarkedRow(row);
+    myRow = row < table().rowCount() ? row : -1;
+    setAccessibleDescription(reading());
+    QAccessibleValueChangeEvent event(this, myRow < 0 ? 0 : table().row(myRow).pages);
+    QAccessible::updateAccessibility(&event);
     update();
+}
+
+QString SpineCurve::reading() const
+{
+    return myRow < 0 ? QString() : myPlot.reading(myRow);
+}
+
+std::unique_ptr<Drawing> SpineCurve::drawing() const
+{
+    auto plot = std::make_unique<SpinePlot>(table());
+    plot->setLocale(QLocale());
+    plot->setTitle(myTitle);
+    return plot;
+}
+
+bool SpineCurve::event(QEvent *event)
+{
+    if (event->type() == QEvent::Leave)
+        setRowUnderMouse(-1);
+    return DrawingWidget::event(event);
 }
 
 void SpineCurve::paintEvent(QPaintEvent *)
 {
-    const PaletteColors shades(palette());
-    PlotColors colors;
-    colors.background = shades.shade(0);
-    colors.text = shades.shade(1);
-    colors.grid = shades.shade(0.2);
-    colors.band = shades.shade(0.08);
-    colors.curve = shades.accent();
-    colors.marker = shades.shade(0.8);
-    myPlot.setColors(colors);
+    SpinePlot plot = myPlot;
+    plot.setColors(windowColors());
+    plot.setMarkedRow(myRow);
+    plot.setRowUnderCrossHair(myRowUnderMouse >= 0 ? myRowUnderMouse : hasFocus() ? myRow : -1);
     QPainter painter(this);
-    myPlot.paint(&painter, rect());
+    plot.paint(&painter, rect());
+    if (!hasFocus())
+        return;
+    QStyleOptionFocusRect frame;
+    frame.initFrom(this);
+    frame.backgroundColor = palette().color(QPalette::Base);
+    frame.state |= QStyle::State_KeyboardFocusChange;
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, this);
+}
+
+// The keys of a slider.
+int SpineCurve::rowAfter(int key) const
+{
+    switch (key) {
+    case Qt::Key_Left:
+    case Qt::Key_Down:
+        return myRow - 1;
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+        return myRow + 1;
+    case Qt::Key_PageDown:
+        return myRow - PAGE_STEP;
+    case Qt::Key_PageUp:
+        return myRow + qMin(PAGE_STEP, table().rowCount());
+    case Qt::Key_Home:
+        return 0;
+    case Qt::Key_End:
+        return table().rowCount() - 1;
+    default:
+        return -1;
+    }
+}
+
+void SpineCurve::keyPressEvent(QKeyEvent *event)
+{
+    constexpr Qt::Key keys[] = { Qt::Key_Left,     Qt::Key_Right,  Qt::Key_Up,   Qt::Key_Down,
+                                 Qt::Key_PageDown, Qt::Key_PageUp, Qt::Key_Home, Qt::Key_End };
+    const bool isOurs = std::find(std::begin(keys), std::end(keys), event->key()) != std::end(keys);
+    if (!isOurs || event->modifiers() != Qt::NoModifier || table().rowCount() == 0)
+        return DrawingWidget::keyPressEvent(event);
+    setRowUnderMouse(-1); // The cross hair follows the keys.
+    Q_EMIT rowWanted(qBound(0, rowAfter(event->key()), table().rowCount() - 1));
+}
+
+void SpineCurve::mousePressEvent(QMouseEvent *event)
+{
+    const int row = myPlot.rowAt(event->position(), rect(), this);
+    if (event->button() == Qt::LeftButton && row >= 0)
+        Q_EMIT rowWanted(row);
+    else
+        DrawingWidget::mousePressEvent(event);
+}
+
+void SpineCurve::mouseMoveEvent(QMouseEvent *event)
+{
+    setRowUnderMouse(myPlot.rowAt(event->position(), rect(), this));
+}
+
+void SpineCurve::setRowUnderMouse(int row)
+{
+    if (row == myRowUnderMouse)
+        return;
+    myRowUnderMouse = row;
+    update();
 }

@@ -1,15 +1,12 @@
 #ifndef SPINEDRAWING_H
 #define SPINEDRAWING_H
 
-#include "SpineTable.h"
-
-#include <QWidget>
-
-class RVDistance;
+#include "DrawingWidget.h"
+#include "SpinePicture.h"
 
 /// A piece of the spine, drawn to scale, with its title in the largest font size that fits. The scale is that of the
 /// widest spine of the product, so the spine is seen to grow.
-class SpineDrawing : public QWidget
+class SpineDrawing : public DrawingWidget
 {
     Q_OBJECT
 
@@ -22,6 +19,7 @@ public:
     /// Draws nothing.
     void clear();
 
+    std::unique_ptr<Drawing> drawing() const override { return std::make_unique<SpinePicture>(myPicture); }
     QSize sizeHint() const override { return { 130, 160 }; }
     QSize minimumSizeHint() const override { return { 90, 125 }; }
 
@@ -29,13 +27,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void paintTitle(QPainter *painter, const QRectF &spine, qreal scale) const;
-    void paintWidth(QPainter *painter, const QRectF &spine) const;
-
-    SpineRow myRow;
-    qreal mySideWidth = 0;
+    SpinePicture myPicture;
     qreal myWidest = 0;
-    QString myTitle;
 };
 
 #endif

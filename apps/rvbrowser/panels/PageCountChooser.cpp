@@ -84,7 +84,7 @@ int PageCountChooser::pages() const
 
 void PageCountChooser::setRow(int row)
 {
-    if (!myPageCounts.isValid() || row < 0)
+    if (!myPageCounts.isValid() || row < 0 || row >= myPageCounts.numberOfPackages())
         return;
     const bool isNew = row != myRow;
     myRow = row;

@@ -26,12 +26,13 @@ public:
     /// The row of the chosen count; -1 where there is nothing to choose.
     int row() const { return myRow; }
 
+    /// Chooses the count of a row; nothing happens where there is no such row.
+    void setRow(int row);
+
 Q_SIGNALS:
     void rowChanged(int row);
 
 private:
-    void setRow(int row);
-
     RVPageCountOrganization myPageCounts;
     RVPageCountOrganizationListModel myPages;
     RVPageCountOrganizationListModel myPhotos;

@@ -2,10 +2,11 @@
 
 #include "PageDrawing.h"
 
+#include <RVCatalogueProduct.h>
+
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLocale>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -39,7 +40,7 @@ PagePanel::PagePanel(QWidget *parent)
 void PagePanel::setProduct(const RVCatalogueProduct &product)
 {
     const PageGeometry geometry(product);
-    myDrawing->setPage(geometry);
+    myDrawing->setPage(geometry, product.type().toString());
     myDrawing->setVisible(geometry.isValid());
     showPages(geometry);
     if (!geometry.isValid()) {
@@ -49,8 +50,7 @@ void PagePanel::setProduct(const RVCatalogueProduct &product)
     const auto isOutside = [&geometry](const RVBarcodeDefinition &barcode) {
         return !QRectF(geometry.usableRect()).contains(geometry.barcodeRect(barcode));
     };
-    QString text = tr("Nominal size by size class and orientation, with %1 mm bleed.")
-                           .arg(QLocale().toString(geometry.bleed().top() / 10.0, 'f', 0));
+    QString text = tr("The page size is assumed: the catalogue tells only size class and orientation.");
     if (std::any_of(geometry.barcodes().begin(), geometry.barcodes().end(), isOutside))
         text += u' ' + tr("A barcode lies outside of it (red).");
     myText->setText(text);

@@ -2,6 +2,8 @@
 
 #include "AttributePanel.h"
 #include "CatalogueServices.h"
+#include "DrawingMenu.h"
+#include "DrawingWidget.h"
 #include "OptionsPanel.h"
 #include "PagePanel.h"
 #include "PricesPanel.h"
@@ -90,6 +92,14 @@ void ProductView::updateProduct(const CataloguePointer &catalogue, int product)
     setProduct(catalogue, product);
     mySpine->setPages(pages);
     myOptions->setVariants(variants);
+}
+
+QList<QMenu *> ProductView::drawingMenus() const
+{
+    QList<QMenu *> result;
+    for (const DrawingWidget *drawing : findChildren<DrawingWidget *>())
+        result += drawing->menu();
+    return result;
 }
 
 void ProductView::resizeEvent(QResizeEvent *event)

@@ -12,6 +12,7 @@ class PagePanel;
 class PricesPanel;
 class QBoxLayout;
 class QLabel;
+class QMenu;
 class QVBoxLayout;
 class SpinePanel;
 
@@ -29,6 +30,8 @@ public:
     void updateProduct(const CataloguePointer &catalogue, int product);
     void copy(OrderLinesPanel::Line line) const { myOrderLines->copy(line); }
     void copyPrices() const;
+    /// The menu of each drawing.
+    QList<QMenu *> drawingMenus() const;
 
 protected:
     void resizeEvent(QResizeEvent *event) override;

@@ -3,6 +3,7 @@
 #include "PageCountChooser.h"
 #include "SpineCurve.h"
 #include "SpineDrawing.h"
+#include "SpineFont.h"
 
 #include <RVCatalogueProduct.h>
 
@@ -59,6 +60,7 @@ SpinePanel::SpinePanel(QWidget *parent)
     layout->addLayout(drawings, 1);
     connect(myChooser, &PageCountChooser::rowChanged, this, &SpinePanel::showRow);
     connect(myChooser, &PageCountChooser::rowChanged, this, &SpinePanel::pagesChanged);
+    connect(myCurve, &SpineCurve::rowWanted, myChooser, &PageCountChooser::setRow);
 }
 
 void SpinePanel::setProduct(const RVCatalogueProduct &product, const RVPageCountOrganization &pageCounts)
@@ -74,7 +76,9 @@ void SpinePanel::setProduct(const RVCatalogueProduct &product, const RVPageCount
     const bool hasSpine = myTable.rowCount() > 0;
     myDrawing->setVisible(hasSpine);
     myCurve->setVisible(hasSpine);
-    myCurve->setTable(myTable);
+    myCurve->setTable(myTable,
+                      product.name().isEmpty() ? product.type().toString()
+                                               : u"%1 (%2)"_s.arg(product.name(), product.type().toString()));
     myRange->setText(rangeText(pageCounts));
     myChooser->setPageCounts(pageCounts,
                              product.articleClass().matches(ARTICLE_CLASS_PICTURE_BOX | ARTICLE_CLASS_PHOTO));
@@ -106,7 +110,7 @@ void SpinePanel::showRow(int row)
     const SpineRow spine = myTable.row(row);
     myDrawing->setSpine(spine, mySideWidth, myWidest);
     QStringList texts { tr("Spine %1 mm").arg(QLocale().toString(spine.width, 'f', 2)),
-                        tr("font up to %1 pt").arg(QLocale().toString(spine.fontSize)) };
+                        tr("font up to %1 pt %2").arg(QLocale().toString(spine.fontSize), SpineFont::family()) };
     if (spine.packages > 0)
         texts += tr("%n package(s) more", nullptr, spine.packages);
     if (spine.blocks > 0)
