@@ -12,7 +12,10 @@ QAccessibleInterface *makeInterface(const QString &, QObject *object)
 
 }
 
-AccessibleSpineCurve::AccessibleSpineCurve(SpineCurve *curve) : QAccessibleWidget(curve, QAccessible::Slider) { }
+AccessibleSpineCurve::AccessibleSpineCurve(SpineCurve *curve)
+    : QAccessibleWidget(curve, QAccessible::Slider),
+      myCurve(curve)
+{ }
 
 // Installing a function once more changes nothing.
 void AccessibleSpineCurve::install()
@@ -22,7 +25,7 @@ void AccessibleSpineCurve::install()
 
 QString AccessibleSpineCurve::text(QAccessible::Text kind) const
 {
-    return kind == QAccessible::Value ? curve()->reading() : QAccessibleWidget::text(kind);
+    return kind == QAccessible::Value ? myCurve->reading() : QAccessibleWidget::text(kind);
 }
 
 void *AccessibleSpineCurve::interface_cast(QAccessible::InterfaceType type)
@@ -34,19 +37,19 @@ void *AccessibleSpineCurve::interface_cast(QAccessible::InterfaceType type)
 
 QVariant AccessibleSpineCurve::currentValue() const
 {
-    return pages(curve()->row());
+    return pages(myCurve->row());
 }
 
 void AccessibleSpineCurve::setCurrentValue(const QVariant &value)
 {
-    const int row = curve()->table().rowNear(value.toReal());
+    const int row = myCurve->table().rowNear(value.toReal());
     if (row >= 0)
-        Q_EMIT curve()->rowWanted(row);
+        Q_EMIT myCurve->rowWanted(row);
 }
 
 QVariant AccessibleSpineCurve::maximumValue() const
 {
-    return pages(curve()->table().rowCount() - 1);
+    return pages(myCurve->table().rowCount() - 1);
 }
 
 QVariant AccessibleSpineCurve::minimumValue() const
@@ -56,17 +59,12 @@ QVariant AccessibleSpineCurve::minimumValue() const
 
 QVariant AccessibleSpineCurve::minimumStepSize() const
 {
-    const SpineTable &table = curve()->table();
+    const SpineTable &table = myCurve->table();
     return table.rowCount() < 2 ? 0 : table.row(1).pages - table.row(0).pages;
-}
-
-SpineCurve *AccessibleSpineCurve::curve() const
-{
-    return static_cast<SpineCurve *>(widget());
 }
 
 QVariant AccessibleSpineCurve::pages(int row) const
 {
-    const SpineTable &table = curve()->table();
+    const SpineTable &table = myCurve->table();
     return row < 0 || row >= table.rowCount() ? 0 : table.row(row).pages;
 }

@@ -24,8 +24,9 @@ public:
     QVariant minimumStepSize() const override;
 
 private:
-    SpineCurve *curve() const;
     QVariant pages(int row) const;
+
+    SpineCurve *myCurve; // Qt deletes this object with its widget
 };
 
 #endif

@@ -42,9 +42,9 @@ void PageDrawing::showPicture()
 
 bool PageDrawing::event(QEvent *event)
 {
-    if (event->type() != QEvent::ToolTip)
+    const auto *help = event->type() == QEvent::ToolTip ? dynamic_cast<QHelpEvent *>(event) : nullptr;
+    if (!help)
         return DrawingWidget::event(event);
-    const auto *help = static_cast<QHelpEvent *>(event);
     const int barcode = myPicture.barcodeAt(help->pos(), room(), QFontMetricsF(font(), this));
     if (barcode >= 0)
         QToolTip::showText(help->globalPos(), myPicture.barcodeText(myPicture.barcodes().at(barcode)), this);
