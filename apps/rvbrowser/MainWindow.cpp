@@ -1,13 +1,17 @@
 #include "MainWindow.h"
 
+#include "FindingsDock.h"
 #include "FindingsPanel.h"
 #include "LoadProgress.h"
 #include "MessageBanner.h"
 #include "ProductList.h"
 #include "ProductView.h"
+#include "RecentFilesMenu.h"
+#include "StartScreen.h"
+#include "ThemeIcon.h"
+#include "WindowState.h"
 
 #include <QApplication>
-#include <QDockWidget>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QFileDialog>
@@ -38,22 +42,28 @@ QString draggedFile(const QMimeData *data)
 
 }
 
-MainWindow::MainWindow(QWidget *parent)
+MainWindow::MainWindow(const QString &settingsFile, QWidget *parent)
     : QMainWindow(parent),
+      mySettings(settingsFile),
+      myRecentFiles(&mySettings),
       myProducts(new ProductList),
       myView(new ProductView),
+      myChoices(myView, &mySettings),
+      myStart(new StartScreen),
+      mySplitter(new QSplitter),
+      myScreens(new QStackedWidget),
       myPages(new QStackedWidget),
       myBanner(new MessageBanner),
       myFindings(new FindingsPanel),
-      myFindingsDock(new QDockWidget(tr("Findings"))),
+      myFindingsDock(new FindingsDock(tr("Findings"), myFindings, this)),
       mySummary(new QLabel),
       myProgress(new LoadProgress),
-      myCancel(new QAction(tr("&Cancel loading"), this))
+      myCancel(new QAction(themeIcon("process-stop", QStyle::SP_BrowserStop), tr("&Cancel loading"), this)),
+      myRecentMenu(new RecentFilesMenu(&myRecentFiles, this))
 {
     setWindowTitle(QApplication::applicationName());
     setAcceptDrops(true);
     setCentralWidget(createCentre());
-    createFindings();
     createMenus();
     mySummary->setObjectName(u"summary"_s);
     statusBar()->addWidget(myProgress);
@@ -62,6 +72,7 @@ MainWindow::MainWindow(QWidget *parent)
     connect(myProducts, &ProductList::productChosen, this, &MainWindow::showProduct);
     connect(myFindings, &FindingsPanel::productChosen, myProducts, &ProductList::setCurrentProduct);
     resize(USUAL_SIZE);
+    restoreState();
 }
 
 bool MainWindow::showType(const RVProductType &type)
@@ -97,40 +108,91 @@ void MainWindow::dropEvent(QDropEvent *event)
     mySession.open(draggedFile(event->mimeData()));
 }
 
-QWidget *MainWindow::createCentre()
+void MainWindow::closeEvent(QCloseEvent *event)
 {
-    auto *welcome = new QLabel(tr("Open a catalogue with Ctrl+O, or drop one here."));
-    welcome->setObjectName(u"welcome"_s);
-    welcome->setAlignment(Qt::AlignCenter);
-    welcome->setWordWrap(true);
-    myPages->addWidget(welcome);
-    myPages->addWidget(myView);
-    auto *right = new QWidget;
-    auto *layout = new QVBoxLayout(right);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(myBanner);
-    layout->addWidget(myPages, 1);
-    auto *splitter = new QSplitter;
-    splitter->setChildrenCollapsible(false);
-    splitter->addWidget(myProducts);
-    splitter->addWidget(right);
-    splitter->setStretchFactor(1, 1);
-    splitter->setSizes({ LIST_WIDTH, USUAL_SIZE.width() - LIST_WIDTH });
-    return splitter;
+    if (mySettings.isRemembering()) {
+        myChoices.keep();
+        myFindingsDock->save(&mySettings);
+        WindowState(&mySettings).save(*this, *mySplitter);
+        mySettings.refresh();
+    }
+    QMainWindow::closeEvent(event);
 }
 
-void MainWindow::createFindings()
+QWidget *MainWindow::createCentre()
 {
-    myFindingsDock->setObjectName(u"findingsDock"_s);
-    myFindingsDock->setWidget(myFindings);
-    addDockWidget(Qt::BottomDockWidgetArea, myFindingsDock);
+    mySplitter->setChildrenCollapsible(false);
+    mySplitter->addWidget(myProducts);
+    mySplitter->addWidget(createProductPages());
+    mySplitter->setStretchFactor(0, 1);
+    mySplitter->setStretchFactor(1, 3);
+    mySplitter->setSizes({ LIST_WIDTH, USUAL_SIZE.width() - LIST_WIDTH });
+    myScreens->addWidget(myStart);
+    myScreens->addWidget(mySplitter);
+    connect(myStart, &StartScreen::openRequested, this, &MainWindow::chooseFile);
+    connect(myStart, &StartScreen::fileChosen, &mySession, &CatalogueSession::open);
+    auto *centre = new QWidget;
+    auto *layout = new QVBoxLayout(centre);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(myBanner);
+    layout->addWidget(myScreens, 1);
+    return centre;
+}
+
+QWidget *MainWindow::createProductPages()
+{
+    auto *nothing = new QLabel(tr("This catalogue has no products.\nOpen another one with Ctrl+O, or add products to "
+                                  "it: it is loaded again when it changes."));
+    nothing->setObjectName(u"noProducts"_s);
+    nothing->setAlignment(Qt::AlignCenter);
+    nothing->setWordWrap(true);
+    myPages->addWidget(nothing);
+    myPages->addWidget(myView);
+    return myPages;
+}
+
+void MainWindow::restoreState()
+{
+    WindowState(&mySettings).restore(this, mySplitter);
+    myFindingsDock->restore(mySettings);
+    showRecentFiles();
+    myStart->setFocus();
+}
+
+void MainWindow::showRecentFiles()
+{
+    myStart->setRecentFiles(myRecentFiles.fileNames());
+}
+
+void MainWindow::forgetEverything()
+{
+    const QString question = tr("Forget the recent catalogues, what was chosen for products, and where the windows and "
+                                "their parts were?");
+    if (QMessageBox::question(this, tr("Forget everything"), question) != QMessageBox::Yes)
+        return;
+    mySettings.forgetEverything();
+    showRecentFiles();
 }
 
 void MainWindow::createMenus()
 {
-    QMenu *file = menuBar()->addMenu(tr("&File"));
-    file->addAction(tr("&Open…"), QKeySequence::Open, this, &MainWindow::chooseFile);
-    file->addAction(tr("&Reload"), QKeySequence(Qt::Key_F5), &mySession, &CatalogueSession::reload);
+    menuBar()->addMenu(createFileMenu());
+    menuBar()->addMenu(createEditMenu());
+    menuBar()->addMenu(createViewMenu());
+    QMenu *help = menuBar()->addMenu(tr("&Help"));
+    help->addAction(themeIcon("help-about"), tr("&About"), this, &MainWindow::showAbout);
+}
+
+QMenu *MainWindow::createFileMenu()
+{
+    auto *file = new QMenu(tr("&File"), this);
+    file->addAction(themeIcon("document-open", QStyle::SP_DialogOpenButton), tr("&Open…"), QKeySequence::Open, this,
+                    &MainWindow::chooseFile);
+    file->addMenu(myRecentMenu);
+    connect(myRecentMenu, &RecentFilesMenu::fileChosen, &mySession, &CatalogueSession::open);
+    connect(myRecentMenu, &RecentFilesMenu::cleared, this, &MainWindow::showRecentFiles);
+    file->addAction(themeIcon("view-refresh", QStyle::SP_BrowserReload), tr("&Reload"), QKeySequence(Qt::Key_F5),
+                    &mySession, &CatalogueSession::reload);
     myCancel->setShortcut(Qt::Key_Escape);
     myCancel->setEnabled(false);
     connect(myCancel, &QAction::triggered, &mySession, &CatalogueSession::cancel);
@@ -139,27 +201,40 @@ void MainWindow::createMenus()
     for (QMenu *drawing : myView->drawingMenus())
         file->addMenu(drawing);
     file->addSeparator();
-    file->addAction(tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), this, &QWidget::close);
+    file->addAction(themeIcon("edit-clear-history"), tr("&Forget everything…"), this, &MainWindow::forgetEverything)
+            ->setEnabled(mySettings.isRemembering());
+    file->addSeparator();
+    file->addAction(themeIcon("application-exit"), tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), this,
+                    &QWidget::close);
+    return file;
+}
 
-    QMenu *edit = menuBar()->addMenu(tr("&Edit"));
-    edit->addAction(tr("&Find"), QKeySequence::Find, myProducts, &ProductList::focusSearch);
+QMenu *MainWindow::createEditMenu()
+{
+    auto *edit = new QMenu(tr("&Edit"), this);
+    edit->addAction(themeIcon("edit-find"), tr("&Find"), QKeySequence::Find, myProducts, &ProductList::focusSearch);
     edit->addSeparator();
+    const QIcon icon = themeIcon("edit-copy");
     const auto copy = [this](OrderLinesPanel::Line line) { return [this, line] { myView->copy(line); }; };
-    edit->addAction(tr("Copy &project file"), Qt::CTRL | Qt::SHIFT | Qt::Key_P, this,
+    edit->addAction(icon, tr("Copy &project file"), Qt::CTRL | Qt::SHIFT | Qt::Key_P, this,
                     copy(OrderLinesPanel::ProjectFile));
-    edit->addAction(tr("Copy order &transfer"), Qt::CTRL | Qt::SHIFT | Qt::Key_T, this,
+    edit->addAction(icon, tr("Copy order &transfer"), Qt::CTRL | Qt::SHIFT | Qt::Key_T, this,
                     copy(OrderLinesPanel::OrderTransfer));
-    edit->addAction(tr("Copy &order text"), Qt::CTRL | Qt::SHIFT | Qt::Key_O, this, copy(OrderLinesPanel::OrderText));
-    edit->addAction(tr("Copy price &classes"), Qt::CTRL | Qt::SHIFT | Qt::Key_C, myView, &ProductView::copyPrices);
+    edit->addAction(icon, tr("Copy &order text"), Qt::CTRL | Qt::SHIFT | Qt::Key_O, this,
+                    copy(OrderLinesPanel::OrderText));
+    edit->addAction(icon, tr("Copy price &classes"), Qt::CTRL | Qt::SHIFT | Qt::Key_C, myView,
+                    &ProductView::copyPrices);
+    return edit;
+}
 
-    QMenu *view = menuBar()->addMenu(tr("&View"));
+QMenu *MainWindow::createViewMenu()
+{
+    auto *view = new QMenu(tr("&View"), this);
     QAction *findings = myFindingsDock->toggleViewAction();
     findings->setText(tr("&Findings"));
     findings->setShortcut(Qt::Key_F4);
     view->addAction(findings);
-
-    QMenu *help = menuBar()->addMenu(tr("&Help"));
-    help->addAction(tr("&About"), this, &MainWindow::showAbout);
+    return view;
 }
 
 void MainWindow::connectSession()
@@ -181,7 +256,8 @@ void MainWindow::connectSession()
 
 void MainWindow::chooseFile()
 {
-    const QString fileName = QFileDialog::getOpenFileName(this, tr("Open a catalogue"), QFileInfo(myFileName).path(),
+    const QString near = myFileName.isEmpty() ? myRecentFiles.fileNames().value(0) : myFileName;
+    const QString fileName = QFileDialog::getOpenFileName(this, tr("Open a catalogue"), QFileInfo(near).path(),
                                                           tr("Catalogues (*.xml);;All files (*)"));
     if (!fileName.isEmpty())
         mySession.open(fileName);
@@ -199,29 +275,31 @@ void MainWindow::showCatalogue()
     const bool isReload = catalogue->fileName() == myFileName;
     const int product = isReload ? catalogue->indexOf(myType) : -1;
     myFileName = catalogue->fileName();
+    myRecentFiles.add(myFileName);
     showConfiguration(catalogue->configuration());
     setWindowTitle(u"%1 – %2"_s.arg(QFileInfo(myFileName).fileName(), QApplication::applicationName()));
-    showFindings(catalogue);
+    myFindingsDock->setCatalogue(catalogue);
     mySummary->setText(myFindings->summary());
+    const bool isStart = myScreens->currentWidget() == myStart;
+    myScreens->setCurrentWidget(mySplitter);
     myProducts->setCatalogue(catalogue);
-    myPages->setCurrentWidget(myView);
+    if (isStart)
+        myProducts->focusSearch();
+    myPages->setCurrentIndex(catalogue->size() > 0 ? 1 : 0);
     if (product < 0) {
-        myProducts->setCurrentProduct(qMax(0, myProducts->firstProduct())); // though a search may hide them all
+        showFirst(*catalogue);
         return;
     }
     const QSignalBlocker blocker(myProducts);
     myProducts->setCurrentProduct(product);
-    myView->updateProduct(catalogue, product);
+    myChoices.update(catalogue, product);
 }
 
-// As high as it is useful, unless it already was and somebody may have changed it.
-void MainWindow::showFindings(const CataloguePointer &catalogue)
+// The product of last time, else the first one that is found, else the first of all.
+void MainWindow::showFirst(const LoadedCatalogue &catalogue)
 {
-    const int before = myFindings->sizeHint().height();
-    myFindings->setCatalogue(catalogue);
-    const int now = myFindings->sizeHint().height();
-    if (now != before || mySummary->text().isEmpty())
-        resizeDocks({ myFindingsDock }, { now }, Qt::Vertical);
+    const int last = myChoices.lastProduct(catalogue);
+    myProducts->setCurrentProduct(last >= 0 ? last : qMax(0, myProducts->firstProduct()));
 }
 
 QString MainWindow::errorText(const LoadError &error)
@@ -261,5 +339,5 @@ void MainWindow::showProduct(int product)
 {
     const CataloguePointer catalogue = mySession.catalogue();
     myType = catalogue->at(product).type;
-    myView->setProduct(catalogue, product);
+    myChoices.show(catalogue, product);
 }

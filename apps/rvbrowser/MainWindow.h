@@ -2,26 +2,35 @@
 #define MAINWINDOW_H
 
 #include "CatalogueSession.h"
+#include "ChoiceKeeper.h"
+#include "RecentFiles.h"
+#include "Settings.h"
 
 #include <QMainWindow>
 
+class FindingsDock;
 class FindingsPanel;
 class LoadProgress;
 class MessageBanner;
 class ProductList;
 class ProductView;
 class QAction;
-class QDockWidget;
 class QLabel;
+class QMenu;
+class QSplitter;
 class QStackedWidget;
+class RecentFilesMenu;
+class StartScreen;
 
-/// Puts the parts together: the products, the chosen one, the findings and the menus. What is loaded is the session's.
+/// Puts the parts together: the products, the chosen one, the findings and the menus. What is loaded is the session's,
+/// and what is remembered from one day to the next is in the settings.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
 
 public:
-    explicit MainWindow(QWidget *parent = nullptr);
+    /// Without a file of settings, the window remembers nothing and is always the same.
+    explicit MainWindow(const QString &settingsFile = QString(), QWidget *parent = nullptr);
 
     CatalogueSession *session() { return &mySession; }
     /// Shows the first product of the type; false where there is none.
@@ -30,34 +39,48 @@ public:
     void beginWith(const RVProductType &type);
 
 protected:
+    void closeEvent(QCloseEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
 
 private:
     void createMenus();
-    void createFindings();
+    QMenu *createFileMenu();
+    QMenu *createEditMenu();
+    QMenu *createViewMenu();
     QWidget *createCentre();
+    QWidget *createProductPages();
+    void restoreState();
+    void showRecentFiles();
+    void forgetEverything();
     void connectSession();
     void chooseFile();
     void showAbout();
     void showCatalogue();
-    void showFindings(const CataloguePointer &catalogue);
+    void showFirst(const LoadedCatalogue &catalogue);
     void showProduct(int product);
     void showConfiguration(const RVCheckConfiguration &configuration);
     void showError(const LoadError &error);
     void showVanished(const QString &fileName);
     static QString errorText(const LoadError &error);
 
+    Settings mySettings;
+    RecentFiles myRecentFiles;
     CatalogueSession mySession;
     ProductList *myProducts;
     ProductView *myView;
-    QStackedWidget *myPages; // the welcome, then the product
+    ChoiceKeeper myChoices;
+    StartScreen *myStart;
+    QSplitter *mySplitter;
+    QStackedWidget *myScreens; // the start, then the catalogue
+    QStackedWidget *myPages; // no product, then the product
     MessageBanner *myBanner;
     FindingsPanel *myFindings;
-    QDockWidget *myFindingsDock;
+    FindingsDock *myFindingsDock;
     QLabel *mySummary;
     LoadProgress *myProgress;
     QAction *myCancel;
+    RecentFilesMenu *myRecentMenu;
     QString myFileName; // whose products are shown
     RVProductType myType; // of the product that is shown
 };

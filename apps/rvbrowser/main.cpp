@@ -25,7 +25,8 @@ QStringList arguments(int argc, char *argv[])
 
 int runWindow(const BrowserOptions &options)
 {
-    MainWindow window;
+    // A picture is the same for everybody.
+    MainWindow window(options.isScreenshot() ? QString() : Settings::usualFileName());
     if (options.size())
         window.resize(*options.size());
     if (options.isScreenshot()) {

@@ -119,7 +119,10 @@ void tst_monkey::playsWithTheWindow()
 
     myWindow = std::make_unique<MainWindow>();
     myWindow->show();
-    reload();
+    // The button of the start screen opens a dialogue, which would wait for an answer.
+    QSignalSpy first(myWindow->session(), &CatalogueSession::catalogueChanged);
+    myWindow->session()->open(QString::fromUtf8(SAMPLE));
+    QVERIFY(first.wait(20000));
     void (tst_monkey::*const games[])() = { &tst_monkey::press, &tst_monkey::press, &tst_monkey::click,
                                             &tst_monkey::click, &tst_monkey::turn };
     for (int i = 0; i < EVENTS; ++i) {

@@ -22,6 +22,7 @@ public:
     void setProduct(const RVCatalogueProduct &product, const AttributeWords &words);
 
 private:
+    void addLine(const QString &label);
     void show(const ProductFacts::Fact &fact, QLabel *text) const;
 
     QFormLayout *myLayout;

@@ -1,8 +1,9 @@
 #include "MessageBanner.h"
 
+#include "ThemeIcon.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QStyle>
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
@@ -15,7 +16,7 @@ MessageBanner::MessageBanner(QWidget *parent) : QFrame(parent), myText(new QLabe
     setBackgroundRole(QPalette::ToolTipBase);
     auto *icon = new QLabel;
     const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
-    icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxCritical).pixmap(size, size));
+    icon->setPixmap(themeIcon("dialog-error", QStyle::SP_MessageBoxCritical).pixmap(size, size));
     myText->setObjectName(u"bannerText"_s);
     myText->setForegroundRole(QPalette::ToolTipText);
     myText->setTextFormat(Qt::PlainText);

@@ -1,6 +1,8 @@
 #include "OptionsPanel.h"
 
 #include "Bill.h"
+#include "ElidedLabel.h"
+#include "FittingScrollArea.h"
 #include "PlainToolTip.h"
 #include "WheelGuard.h"
 
@@ -17,7 +19,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int SHORTEST_LIST = 10; // characters
+constexpr int SHORTEST_LIST = 8; // characters
+constexpr int LONGEST_NAME = 24;
+constexpr int LEAST_LINES = 8; // without scrolling
+constexpr int LINE_SPACING = 4;
 
 QString noteText(const RVCatalogueProduct &product, const RVConfiguredArticleVariant &option,
                  const QString &defaultValue)
@@ -33,16 +38,59 @@ QString noteText(const RVCatalogueProduct &product, const RVConfiguredArticleVar
     return texts.join(u" · "_s);
 }
 
+QComboBox *createValues(const QString &key, const QString &name)
+{
+    auto *values = new QComboBox;
+    values->setObjectName("option "_L1 + key);
+    values->setAccessibleName(name);
+    values->setToolTip(plainToolTip(key));
+    values->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    values->setMinimumContentsLength(SHORTEST_LIST);
+    new WheelGuard(values);
+    return values;
+}
+
+// The name comes from the catalogue, where an ampersand stands for itself.
+QLabel *createLabel(QString name, QComboBox *values)
+{
+    auto *label = new ElidedLabel(name.replace(u'&', "&&"_L1) + u':');
+    label->setMostCharacters(LONGEST_NAME);
+    label->setBuddy(values);
+    return label;
+}
+
+// Lists are of one width, whatever stands beside them.
+QLabel *createNote()
+{
+    auto *note = new ElidedLabel(QString());
+    note->setUsualText(OptionsPanel::tr("default") + u" · "_s + OptionsPanel::tr("not charged"));
+    return note;
+}
+
 }
 
 OptionsPanel::OptionsPanel(QWidget *parent)
     : QGroupBox(tr("Options"), parent),
-      myLayout(new QFormLayout(this)),
-      myNoOptions(new QLabel(tr("There is nothing to choose.")))
+      myArea(new FittingScrollArea),
+      myLayout(new QFormLayout),
+      myNoOptions(new QLabel(tr("This product has no options, so its order lines are empty.")))
 {
+    myLayout->setContentsMargins(0, 0, 0, 0);
+    myLayout->setVerticalSpacing(LINE_SPACING);
     myLayout->setLabelAlignment(Qt::AlignLeft);
     myLayout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     myLayout->addRow(myNoOptions);
+    myNoOptions->setObjectName(u"noOptions"_s);
+    myNoOptions->setWordWrap(true);
+    auto *lines = new QWidget;
+    lines->setLayout(myLayout);
+    myArea->setWidget(lines);
+    // The group box has a background of its own.
+    lines->setAutoFillBackground(false);
+    myArea->viewport()->setAutoFillBackground(false);
+    myArea->setLeastHeight(LEAST_LINES * (QComboBox().sizeHint().height() + LINE_SPACING));
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(myArea);
 }
 
 void OptionsPanel::setProduct(const RVCatalogueProduct &product)
@@ -82,36 +130,23 @@ void OptionsPanel::addLine(const RVCatalogueProduct &product, const RVConfigured
                            const QString &defaultValue)
 {
     const QString key = options.constFirst().key();
-    auto *values = new QComboBox;
+    const QString keyName = options.constFirst().keyName();
+    const QString name = keyName.isEmpty() ? key : keyName;
+    QComboBox *values = createValues(key, name);
     auto *model = new OptionValueModel(options, values);
-    auto *note = new QLabel;
-    note->setTextFormat(Qt::PlainText);
-    const QString name = options.constFirst().keyName().isEmpty() ? key : options.constFirst().keyName();
-    values->setObjectName("option "_L1 + key);
-    values->setAccessibleName(name);
-    values->setToolTip(plainToolTip(key));
-    values->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    values->setMinimumContentsLength(SHORTEST_LIST);
     values->setModel(model);
-    new WheelGuard(values);
     values->setCurrentIndex(model->rowOf(defaultValue));
+    QLabel *note = createNote();
     const auto showNote = [=] {
         note->setText(noteText(product, model->option(values->currentIndex()), defaultValue));
     };
     showNote();
-
     auto *field = new QHBoxLayout;
+    field->setSpacing(myLayout->horizontalSpacing());
     field->addWidget(values, 1);
     field->addWidget(note);
-    // Lists of one width, whatever stands beside them.
-    const QString longest = tr("default") + u" · "_s + tr("not charged");
-    note->setMinimumWidth(note->fontMetrics().horizontalAdvance(longest));
-    // The name comes from the catalogue, where an ampersand stands for itself.
-    auto *label = new QLabel(QString(name).replace(u'&', "&&"_L1) + u':');
-    label->setTextFormat(Qt::PlainText);
-    label->setBuddy(values);
-    myLayout->addRow(label, field);
-    myLines += Line { key, model, values, note };
+    myLayout->addRow(createLabel(name, values), field);
+    myLines += Line { key, model, values };
     connect(values, &QComboBox::currentIndexChanged, this, showNote);
     connect(values, &QComboBox::currentIndexChanged, this, &OptionsPanel::variantsChanged);
 }

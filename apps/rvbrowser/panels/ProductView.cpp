@@ -4,22 +4,35 @@
 #include "CatalogueServices.h"
 #include "DrawingMenu.h"
 #include "DrawingWidget.h"
+#include "LargeFont.h"
 #include "OptionsPanel.h"
 #include "PagePanel.h"
+#include "PaletteColors.h"
+#include "PlainToolTip.h"
 #include "PricesPanel.h"
+#include "ProductFaults.h"
 #include "SpinePanel.h"
 
 #include <QComboBox>
-#include <QFontInfo>
 #include <QLabel>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Order lines that are broken more often than this are hard to read.
+constexpr int LEAST_CHARACTERS = 60;
+/// Nearly all room that is left over is for the drawings; where there are none it stays free.
+constexpr int DRAWING_STRETCH = 100;
+
+}
+
 ProductView::ProductView(QWidget *parent)
-    : QScrollArea(parent),
+    : FittingScrollArea(parent),
       myTitle(new QLabel),
       myNote(new QLabel),
+      myFaults(new QLabel),
       myColumns(new QBoxLayout(QBoxLayout::LeftToRight)),
       myTexts(new QVBoxLayout),
       myDrawings(new QVBoxLayout),
@@ -33,38 +46,15 @@ ProductView::ProductView(QWidget *parent)
     setObjectName(u"productView"_s);
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
-    QFont font = myTitle->font();
-    font.setPointSizeF(QFontInfo(font).pointSizeF() * 1.4); // also where the desktop counts in pixels
-    font.setBold(true);
-    myTitle->setFont(font);
-    myTitle->setObjectName(u"title"_s);
-    myTitle->setTextFormat(Qt::PlainText);
-    myTitle->setWordWrap(true);
-    myTitle->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    myNote->setObjectName(u"note"_s);
-    myNote->setTextFormat(Qt::PlainText);
-    myNote->setWordWrap(true);
-
-    // Texts need no more room than they have; drawings take what there is.
-    myTexts->addWidget(myAttributes);
-    myTexts->addWidget(myOptions);
-    myTexts->addWidget(myOrderLines);
-    myTexts->addWidget(myPrices);
-    myTexts->addStretch(1);
-    myDrawings->addWidget(mySpine);
-    myDrawings->addWidget(myPage);
-    myDrawings->addStretch();
-    myColumns->addLayout(myTexts, 1);
-    myColumns->addLayout(myDrawings, 1);
-    auto *content = new QWidget;
-    auto *layout = new QVBoxLayout(content);
-    layout->addWidget(myTitle);
-    layout->addWidget(myNote);
-    layout->addLayout(myColumns, 1);
-    setWidget(content);
+    prepareHeader();
+    setWidget(createContent());
+    myLabels.add(myOptions->form());
+    myLabels.add(myOrderLines->layout());
+    myLabels.add(myAttributes->layout());
     connect(myOptions, &OptionsPanel::variantsChanged, this, &ProductView::showOrderLines);
-    connect(myOptions, &OptionsPanel::variantsChanged, this, &ProductView::showPrices);
-    connect(mySpine, &SpinePanel::pagesChanged, this, &ProductView::showPrices);
+    connect(myOptions, &OptionsPanel::variantsChanged, this, &ProductView::choiceChanged);
+    connect(mySpine, &SpinePanel::pagesChanged, this, &ProductView::choiceChanged);
+    connect(this, &ProductView::choiceChanged, this, &ProductView::showPrices);
 }
 
 void ProductView::setProduct(const CataloguePointer &catalogue, int product)
@@ -79,10 +69,12 @@ void ProductView::setProduct(const CataloguePointer &catalogue, int product)
     mySpine->setProduct(values, isSold ? CatalogueServices::pageCounts(type) : values.pageCounts());
     myPage->setProduct(values);
     myOptions->setProduct(values);
-    myDrawings->setStretchFactor(mySpine, mySpine->isDrawn() ? 1 : 0);
-    myDrawings->setStretchFactor(myPage, myPage->isDrawn() ? 1 : 0);
+    myLabels.align();
     arrangeTabOrder();
     arrangeColumns();
+    for (QVBoxLayout *column : { myTexts, myDrawings })
+        column->setStretchFactor(mySpine, mySpine->isDrawn() ? DRAWING_STRETCH : 0);
+    myDrawings->setStretchFactor(myPage, myPage->isDrawn() ? DRAWING_STRETCH : 0);
 }
 
 void ProductView::updateProduct(const CataloguePointer &catalogue, int product)
@@ -102,19 +94,77 @@ QList<QMenu *> ProductView::drawingMenus() const
     return result;
 }
 
+ProductChoice ProductView::choice() const
+{
+    return { mySpine->pages(), myOptions->variants() };
+}
+
+void ProductView::setChoice(const ProductChoice &choice)
+{
+    const int before = mySpine->pages();
+    mySpine->setPages(choice.pages);
+    if (mySpine->pages() != choice.pages)
+        mySpine->setPages(before);
+    myOptions->setVariants(choice.variants);
+}
+
 void ProductView::resizeEvent(QResizeEvent *event)
 {
-    QScrollArea::resizeEvent(event);
+    FittingScrollArea::resizeEvent(event);
     arrangeColumns();
+}
+
+void ProductView::prepareHeader()
+{
+    myTitle->setObjectName(u"title"_s);
+    myTitle->setFont(largeFont(myTitle->font(), 1.4));
+    myNote->setObjectName(u"note"_s);
+    myFaults->setObjectName(u"faults"_s);
+    myFaults->setFont(largeFont(myFaults->font(), 1.1));
+    for (QLabel *label : { myTitle, myNote, myFaults }) {
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        label->setMinimumWidth(1); // a word that is wider than the window does not make all else as wide
+    }
+}
+
+QWidget *ProductView::createContent()
+{
+    // Texts need no more room than they have; drawings take what there is.
+    myTexts->addWidget(myOptions);
+    myTexts->addWidget(myOrderLines);
+    myTexts->addWidget(myPrices);
+    myTexts->addWidget(myAttributes);
+    myTexts->addStretch(1);
+    myDrawings->addWidget(mySpine);
+    myDrawings->addWidget(myPage);
+    myDrawings->addStretch(1);
+    myColumns->addLayout(myTexts, 1);
+    myColumns->addLayout(myDrawings, 1);
+    auto *content = new QWidget;
+    auto *layout = new QVBoxLayout(content);
+    layout->addWidget(myTitle);
+    layout->addWidget(myNote);
+    layout->addWidget(myFaults);
+    layout->addLayout(myColumns, 1);
+    return content;
 }
 
 void ProductView::arrangeColumns()
 {
     const QMargins edges = widget()->layout()->contentsMargins();
-    const int needed = edges.left() + myTexts->minimumSize().width() + myColumns->spacing()
-            + myDrawings->minimumSize().width() + edges.right();
+    const int texts = qMax(myTexts->minimumSize().width(), fontMetrics().averageCharWidth() * LEAST_CHARACTERS);
+    const int drawings = qMax(mySpine->minimumSizeHint().width(), myPage->minimumSizeHint().width());
+    const int needed = edges.left() + texts + myColumns->spacing() + drawings + edges.right();
     const bool isWide = needed <= viewport()->width();
-    myColumns->setDirection(isWide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    const auto direction = isWide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom;
+    if (direction == myColumns->direction())
+        return;
+    myColumns->setDirection(direction);
+    // In one column the page count belongs to what is chosen, so it stands below the options.
+    (isWide ? myTexts : myDrawings)->removeWidget(mySpine);
+    (isWide ? myDrawings : myTexts)->insertWidget(isWide ? 0 : 1, mySpine, mySpine->isDrawn() ? DRAWING_STRETCH : 0);
 }
 
 // Options are made for each product, and so they would come last.
@@ -132,6 +182,7 @@ void ProductView::showHeader(const LoadedCatalogue &catalogue, int product)
     const LoadedCatalogue::Entry &entry = catalogue.at(product);
     const QString type = entry.type.orderTxtName();
     myTitle->setText(entry.name.isEmpty() ? type : u"%1 – %2"_s.arg(type, entry.name));
+    myTitle->setToolTip(plainToolTip(myTitle->text()));
     QString note;
     if (catalogue.indexOf(entry.type) != product)
         note = tr("An earlier product has the same type, so this one is never offered.");
@@ -139,6 +190,12 @@ void ProductView::showHeader(const LoadedCatalogue &catalogue, int product)
         note = tr("This product cannot be offered: it needs a type, an article id and valid page counts.");
     myNote->setText(note);
     myNote->setVisible(!note.isEmpty());
+    myFaults->setText(ProductFaults(catalogue, product).text());
+    myFaults->setToolTip(plainToolTip(myFaults->text()));
+    myFaults->setHidden(myFaults->text().isEmpty());
+    QPalette colors = palette();
+    colors.setColor(QPalette::WindowText, PaletteColors(palette()).fault());
+    myFaults->setPalette(colors);
 }
 
 void ProductView::showOrderLines()

@@ -1,10 +1,11 @@
 #ifndef PRODUCTVIEW_H
 #define PRODUCTVIEW_H
 
+#include "FittingScrollArea.h"
+#include "LabelColumn.h"
 #include "LoadedCatalogue.h"
 #include "OrderLinesPanel.h"
-
-#include <QScrollArea>
+#include "ProductChoice.h"
 
 class AttributePanel;
 class OptionsPanel;
@@ -17,7 +18,7 @@ class QVBoxLayout;
 class SpinePanel;
 
 /// All there is to see of one product: in two columns where they have room, in one where they have not.
-class ProductView : public QScrollArea
+class ProductView : public FittingScrollArea
 {
     Q_OBJECT
 
@@ -28,15 +29,24 @@ public:
     void setProduct(const CataloguePointer &catalogue, int product);
     /// The same, but the page count and the options stay as they were chosen, as far as the product still has them.
     void updateProduct(const CataloguePointer &catalogue, int product);
+    ProductChoice choice() const;
+    /// Leaves as it is what the product does not offer.
+    void setChoice(const ProductChoice &choice);
     void copy(OrderLinesPanel::Line line) const { myOrderLines->copy(line); }
     void copyPrices() const;
     /// The menu of each drawing.
     QList<QMenu *> drawingMenus() const;
 
+Q_SIGNALS:
+    /// The page count or an option is another one, also because the product is.
+    void choiceChanged();
+
 protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    QWidget *createContent();
+    void prepareHeader();
     void showHeader(const LoadedCatalogue &catalogue, int product);
     void showOrderLines();
     void showPrices();
@@ -47,6 +57,7 @@ private:
 
     QLabel *myTitle;
     QLabel *myNote;
+    QLabel *myFaults;
     QBoxLayout *myColumns;
     QVBoxLayout *myTexts;
     QVBoxLayout *myDrawings;
@@ -56,6 +67,7 @@ private:
     OptionsPanel *myOptions;
     OrderLinesPanel *myOrderLines;
     PricesPanel *myPrices;
+    LabelColumn myLabels;
     RVConfiguredArticleVariantList myOffered;
 };
 

@@ -1,5 +1,6 @@
 #include "SpinePanel.h"
 
+#include "LargeFont.h"
 #include "PageCountChooser.h"
 #include "SpineCurve.h"
 #include "SpineDrawing.h"
@@ -42,6 +43,7 @@ SpinePanel::SpinePanel(QWidget *parent)
     auto *label = new QLabel(tr("&Page count:"));
     label->setBuddy(myChooser);
     myText->setObjectName(u"spineText"_s);
+    myText->setFont(largeFont(myText->font(), 1.3));
     myText->setTextInteractionFlags(Qt::TextSelectableByMouse);
     myText->setWordWrap(true);
     myRange->setObjectName(u"pageRange"_s);

@@ -1,0 +1,72 @@
+#include "ChoiceKeeper.h"
+
+#include "ProductView.h"
+
+#include <chrono>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+/// Long enough for somebody who goes through a list by holding a key.
+constexpr auto WAIT = 1s;
+
+}
+
+ChoiceKeeper::ChoiceKeeper(ProductView *view, Settings *settings) : myView(view), myMemory(settings)
+{
+    myTimer.setSingleShot(true);
+    myTimer.setInterval(WAIT);
+    connect(&myTimer, &QTimer::timeout, this, &ChoiceKeeper::keep);
+    connect(myView, &ProductView::choiceChanged, this, &ChoiceKeeper::noteChange);
+}
+
+void ChoiceKeeper::show(const CataloguePointer &catalogue, int product)
+{
+    keep();
+    myFileName.clear();
+    myView->setProduct(catalogue, product);
+    setProduct(*catalogue, product);
+    if (myFileName.isEmpty())
+        return;
+    if (const auto choice = myMemory.choice(myFileName, myType))
+        myView->setChoice(*choice);
+    myTimer.stop(); // nothing was chosen that is not remembered
+    myMemory.setLastProduct(myFileName, myType);
+}
+
+void ChoiceKeeper::update(const CataloguePointer &catalogue, int product)
+{
+    keep();
+    myFileName.clear();
+    myView->updateProduct(catalogue, product);
+    setProduct(*catalogue, product);
+}
+
+int ChoiceKeeper::lastProduct(const LoadedCatalogue &catalogue) const
+{
+    return catalogue.indexOf(myMemory.lastProduct(catalogue.fileName()));
+}
+
+void ChoiceKeeper::keep()
+{
+    if (!myTimer.isActive())
+        return;
+    myTimer.stop();
+    myMemory.setChoice(myFileName, myType, myView->choice());
+}
+
+void ChoiceKeeper::noteChange()
+{
+    if (!myFileName.isEmpty())
+        myTimer.start();
+}
+
+void ChoiceKeeper::setProduct(const LoadedCatalogue &catalogue, int product)
+{
+    const RVProductType type = catalogue.at(product).type;
+    if (!type.isValid() || catalogue.indexOf(type) != product)
+        return;
+    myFileName = catalogue.fileName();
+    myType = type;
+}

@@ -1,0 +1,86 @@
+#include "SettingsGroup.h"
+
+#include "Settings.h"
+
+#include <QCryptographicHash>
+#include <QDateTime>
+
+#include <algorithm>
+#include <functional>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int ID_LENGTH = 20; // characters
+constexpr auto USED = "used"_L1;
+
+/// Names of files and products may be long and may have any character, unlike a name in the settings.
+QString idOf(const QStringList &thing)
+{
+    const QByteArray hash = QCryptographicHash::hash(thing.join(u'\n').toUtf8(), QCryptographicHash::Sha256);
+    return QString::fromLatin1(hash.toHex().left(ID_LENGTH));
+}
+
+}
+
+SettingsGroup::SettingsGroup(Settings *settings, const QString &name, int limit)
+    : mySettings(settings),
+      myName(name),
+      myLimit(limit)
+{ }
+
+QVariantMap SettingsGroup::values(const QStringList &thing) const
+{
+    return valuesOf(idOf(thing));
+}
+
+void SettingsGroup::setValues(const QStringList &thing, const QVariantMap &values)
+{
+    const QString id = idOf(thing);
+    const QStringList ids = idsByAge();
+    const qint64 newest = ids.isEmpty() ? 0 : valuesOf(ids.constFirst()).value(USED).toLongLong();
+    // Two things may come in one millisecond, and clocks are put back.
+    const qint64 used = qMax(QDateTime::currentMSecsSinceEpoch(), newest + 1);
+    for (auto value = values.begin(); value != values.end(); ++value)
+        mySettings->setValue(path(id) + u'/' + value.key(), value.value());
+    mySettings->setValue(path(id) + u'/' + USED, used);
+    dropTheOldest();
+}
+
+QList<QVariantMap> SettingsGroup::newest() const
+{
+    QList<QVariantMap> result;
+    for (const QString &id : idsByAge().mid(0, myLimit))
+        result += valuesOf(id);
+    return result;
+}
+
+void SettingsGroup::clear()
+{
+    mySettings->remove(myName);
+}
+
+QVariantMap SettingsGroup::valuesOf(const QString &id) const
+{
+    return mySettings->values(path(id));
+}
+
+QStringList SettingsGroup::idsByAge() const
+{
+    QList<std::pair<qint64, QString>> ages;
+    for (const QString &id : mySettings->groups(myName))
+        ages.emplaceBack(mySettings->value(path(id) + u'/' + USED).toLongLong(), id);
+    std::sort(ages.begin(), ages.end(), std::greater<>());
+    QStringList result;
+    for (const auto &age : std::as_const(ages))
+        result += age.second;
+    return result;
+}
+
+void SettingsGroup::dropTheOldest()
+{
+    for (const QString &id : idsByAge().mid(myLimit))
+        mySettings->remove(path(id));
+}

@@ -1,0 +1,39 @@
+#ifndef SETTINGSGROUP_H
+#define SETTINGSGROUP_H
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <QVariantMap>
+
+class Settings;
+
+/// Things of one kind in the settings, of which only the newest are kept. Each has keys of its own, so windows that
+/// remember different things at once do not overwrite each other.
+class SettingsGroup
+{
+public:
+    /// The settings must live longer.
+    SettingsGroup(Settings *settings, const QString &name, int limit);
+
+    /// The values of the thing; empty where it is not remembered.
+    QVariantMap values(const QStringList &thing) const;
+    /// Makes the thing the newest one. A value that is not mentioned stays as it was.
+    void setValues(const QStringList &thing, const QVariantMap &values);
+    /// All things, the newest first.
+    QList<QVariantMap> newest() const;
+    void clear();
+
+private:
+    QString path(const QString &id) const { return myName + u'/' + id; }
+    QVariantMap valuesOf(const QString &id) const;
+    /// The newest first.
+    QStringList idsByAge() const;
+    void dropTheOldest();
+
+    Settings *mySettings;
+    QString myName;
+    int myLimit;
+};
+
+#endif

@@ -1,0 +1,59 @@
+#include "ElidedLabel.h"
+
+#include "PlainToolTip.h"
+
+#include <QHelpEvent>
+#include <QStyleOption>
+#include <QStylePainter>
+#include <QToolTip>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int LEAST_CHARACTERS = 6;
+
+}
+
+ElidedLabel::ElidedLabel(const QString &text, QWidget *parent) : QLabel(text, parent)
+{
+    setTextFormat(Qt::PlainText);
+}
+
+QSize ElidedLabel::sizeHint() const
+{
+    QSize result = QLabel::sizeHint();
+    if (!myUsualText.isEmpty())
+        result.setWidth(fontMetrics().horizontalAdvance(myUsualText));
+    if (myMostCharacters > 0)
+        result.setWidth(qMin(result.width(), fontMetrics().averageCharWidth() * myMostCharacters));
+    return result;
+}
+
+QSize ElidedLabel::minimumSizeHint() const
+{
+    const QSize wanted = sizeHint();
+    return { qMin(wanted.width(), fontMetrics().averageCharWidth() * LEAST_CHARACTERS), wanted.height() };
+}
+
+bool ElidedLabel::event(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip || !isElided())
+        return QLabel::event(event);
+    // A label with a buddy has an ampersand for its key.
+    const QString whole = buddy() ? text().replace("&&"_L1, "&"_L1) : text();
+    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), plainToolTip(whole), this);
+    return true;
+}
+
+void ElidedLabel::paintEvent(QPaintEvent *event)
+{
+    if (!isElided()) {
+        QLabel::paintEvent(event);
+        return;
+    }
+    QStylePainter painter(this);
+    const int flags = int(alignment()) | (buddy() ? Qt::TextShowMnemonic : 0);
+    const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width(), flags);
+    painter.drawItemText(contentsRect(), flags, palette(), isEnabled(), shown, foregroundRole());
+}

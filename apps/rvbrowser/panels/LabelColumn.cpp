@@ -1,0 +1,70 @@
+#include "LabelColumn.h"
+
+#include <QFormLayout>
+#include <QGridLayout>
+#include <QWidget>
+
+#include <utility>
+
+namespace {
+
+/// Labels in a column of their own, without headings that reach over all columns.
+QList<QLayoutItem *> gridLabels(const QGridLayout &grid)
+{
+    QList<QLayoutItem *> result;
+    for (int i = 0; i < grid.count(); ++i) {
+        int row = 0;
+        int column = 0;
+        int rowSpan = 0;
+        int columnSpan = 0;
+        grid.getItemPosition(i, &row, &column, &rowSpan, &columnSpan);
+        if (column == 0 && columnSpan == 1)
+            result += grid.itemAt(i);
+    }
+    return result;
+}
+
+QList<QLayoutItem *> formLabels(const QFormLayout &form)
+{
+    QList<QLayoutItem *> result;
+    for (int row = 0; row < form.rowCount(); ++row) {
+        if (QLayoutItem *label = form.itemAt(row, QFormLayout::LabelRole))
+            result += label;
+    }
+    return result;
+}
+
+/// True for what was hidden; widgets that are new are not shown yet, but will be.
+bool isHidden(const QWidget &widget)
+{
+    return widget.isHidden() && widget.testAttribute(Qt::WA_WState_ExplicitShowHide);
+}
+
+QList<QWidget *> shownLabels(const QLayout *panel)
+{
+    QList<QLayoutItem *> items;
+    if (const auto *form = qobject_cast<const QFormLayout *>(panel))
+        items = formLabels(*form);
+    else if (const auto *grid = qobject_cast<const QGridLayout *>(panel))
+        items = gridLabels(*grid);
+    QList<QWidget *> result;
+    for (const QLayoutItem *item : std::as_const(items)) {
+        if (item->widget() && !isHidden(*item->widget()))
+            result += item->widget();
+    }
+    return result;
+}
+
+}
+
+void LabelColumn::align() const
+{
+    QList<QWidget *> labels;
+    for (const QLayout *panel : myPanels)
+        labels += shownLabels(panel);
+    int widest = 0;
+    for (const QWidget *label : std::as_const(labels))
+        widest = qMax(widest, label->sizeHint().width());
+    for (QWidget *label : std::as_const(labels))
+        label->setMinimumWidth(widest);
+}
