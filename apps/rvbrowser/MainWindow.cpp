@@ -52,7 +52,6 @@ MainWindow::MainWindow(const QString &settingsFile, QWidget *parent)
       myStart(new StartScreen),
       mySplitter(new QSplitter),
       myScreens(new QStackedWidget),
-      myPages(new QStackedWidget),
       myBanner(new MessageBanner),
       myFindings(new FindingsPanel),
       myFindingsDock(new FindingsDock(tr("Findings"), myFindings, this)),
@@ -123,7 +122,7 @@ QWidget *MainWindow::createCentre()
 {
     mySplitter->setChildrenCollapsible(false);
     mySplitter->addWidget(myProducts);
-    mySplitter->addWidget(createProductPages());
+    mySplitter->addWidget(myView);
     mySplitter->setStretchFactor(0, 1);
     mySplitter->setStretchFactor(1, 3);
     mySplitter->setSizes({ LIST_WIDTH, USUAL_SIZE.width() - LIST_WIDTH });
@@ -137,18 +136,6 @@ QWidget *MainWindow::createCentre()
     layout->addWidget(myBanner);
     layout->addWidget(myScreens, 1);
     return centre;
-}
-
-QWidget *MainWindow::createProductPages()
-{
-    auto *nothing = new QLabel(tr("This catalogue has no products.\nOpen another one with Ctrl+O, or add products to "
-                                  "it: it is loaded again when it changes."));
-    nothing->setObjectName(u"noProducts"_s);
-    nothing->setAlignment(Qt::AlignCenter);
-    nothing->setWordWrap(true);
-    myPages->addWidget(nothing);
-    myPages->addWidget(myView);
-    return myPages;
 }
 
 void MainWindow::restoreState()
@@ -201,8 +188,10 @@ QMenu *MainWindow::createFileMenu()
     for (QMenu *drawing : myView->drawingMenus())
         file->addMenu(drawing);
     file->addSeparator();
-    file->addAction(themeIcon("edit-clear-history"), tr("&Forget everything…"), this, &MainWindow::forgetEverything)
-            ->setEnabled(mySettings.isRemembering());
+    QAction *forget = file->addAction(themeIcon("edit-clear-history"), tr("&Forget everything…"), this,
+                                      &MainWindow::forgetEverything);
+    forget->setObjectName(u"forgetEverything"_s);
+    forget->setEnabled(mySettings.isRemembering());
     file->addSeparator();
     file->addAction(themeIcon("application-exit"), tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), this,
                     &QWidget::close);
@@ -285,7 +274,6 @@ void MainWindow::showCatalogue()
     myProducts->setCatalogue(catalogue);
     if (isStart)
         myProducts->focusSearch();
-    myPages->setCurrentIndex(catalogue->size() > 0 ? 1 : 0);
     if (product < 0) {
         showFirst(*catalogue);
         return;

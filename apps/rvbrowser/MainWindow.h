@@ -49,7 +49,6 @@ private:
     QMenu *createEditMenu();
     QMenu *createViewMenu();
     QWidget *createCentre();
-    QWidget *createProductPages();
     void restoreState();
     void showRecentFiles();
     void forgetEverything();
@@ -73,7 +72,6 @@ private:
     StartScreen *myStart;
     QSplitter *mySplitter;
     QStackedWidget *myScreens; // the start, then the catalogue
-    QStackedWidget *myPages; // no product, then the product
     MessageBanner *myBanner;
     FindingsPanel *myFindings;
     FindingsDock *myFindingsDock;

@@ -31,7 +31,7 @@ void ChoiceKeeper::show(const CataloguePointer &catalogue, int product)
         return;
     if (const auto choice = myMemory.choice(myFileName, myType))
         myView->setChoice(*choice);
-    myTimer.stop(); // nothing was chosen that is not remembered
+    forgetChange(); // nothing was chosen that is not remembered
     myMemory.setLastProduct(myFileName, myType);
 }
 
@@ -50,16 +50,24 @@ int ChoiceKeeper::lastProduct(const LoadedCatalogue &catalogue) const
 
 void ChoiceKeeper::keep()
 {
-    if (!myTimer.isActive())
+    if (!myHasChange)
         return;
-    myTimer.stop();
+    forgetChange();
     myMemory.setChoice(myFileName, myType, myView->choice());
 }
 
 void ChoiceKeeper::noteChange()
 {
-    if (!myFileName.isEmpty())
-        myTimer.start();
+    if (myFileName.isEmpty())
+        return;
+    myHasChange = true;
+    myTimer.start();
+}
+
+void ChoiceKeeper::forgetChange()
+{
+    myHasChange = false;
+    myTimer.stop();
 }
 
 void ChoiceKeeper::setProduct(const LoadedCatalogue &catalogue, int product)

@@ -30,11 +30,13 @@ public:
 
 private:
     void noteChange();
+    void forgetChange();
     void setProduct(const LoadedCatalogue &catalogue, int product);
 
     ProductView *myView;
     ProductMemory myMemory;
-    QTimer myTimer; // runs while there is something to write
+    QTimer myTimer;
+    bool myHasChange = false; // which waits to be written
     QString myFileName; // of the product that is shown; empty where it is not to be remembered
     RVProductType myType;
 };

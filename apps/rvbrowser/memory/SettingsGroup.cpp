@@ -14,6 +14,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int ID_LENGTH = 20; // characters
+constexpr qint64 DAY = 24 * 60 * 60 * 1000; // milliseconds
 constexpr auto USED = "used"_L1;
 
 /// Names of files and products may be long and may have any character, unlike a name in the settings.
@@ -40,12 +41,12 @@ void SettingsGroup::setValues(const QStringList &thing, const QVariantMap &value
 {
     const QString id = idOf(thing);
     const QStringList ids = idsByAge();
-    const qint64 newest = ids.isEmpty() ? 0 : valuesOf(ids.constFirst()).value(USED).toLongLong();
+    const qint64 newest = ids.isEmpty() ? 0 : used(ids.constFirst());
     // Two things may come in one millisecond, and clocks are put back.
-    const qint64 used = qMax(QDateTime::currentMSecsSinceEpoch(), newest + 1);
+    const qint64 now = qMax(QDateTime::currentMSecsSinceEpoch(), newest + 1);
     for (auto value = values.begin(); value != values.end(); ++value)
         mySettings->setValue(path(id) + u'/' + value.key(), value.value());
-    mySettings->setValue(path(id) + u'/' + USED, used);
+    mySettings->setValue(path(id) + u'/' + USED, now);
     dropTheOldest();
 }
 
@@ -71,12 +72,19 @@ QStringList SettingsGroup::idsByAge() const
 {
     QList<std::pair<qint64, QString>> ages;
     for (const QString &id : mySettings->groups(myName))
-        ages.emplaceBack(mySettings->value(path(id) + u'/' + USED).toLongLong(), id);
+        ages.emplaceBack(used(id), id);
     std::sort(ages.begin(), ages.end(), std::greater<>());
     QStringList result;
     for (const auto &age : std::as_const(ages))
         result += age.second;
     return result;
+}
+
+// A time in the future is damaged, or of a clock that was wrong; such a thing goes first.
+qint64 SettingsGroup::used(const QString &id) const
+{
+    const qint64 result = mySettings->value(path(id) + u'/' + USED).toLongLong();
+    return result > QDateTime::currentMSecsSinceEpoch() + DAY ? 0 : result;
 }
 
 void SettingsGroup::dropTheOldest()

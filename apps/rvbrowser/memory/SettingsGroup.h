@@ -29,6 +29,8 @@ private:
     QVariantMap valuesOf(const QString &id) const;
     /// The newest first.
     QStringList idsByAge() const;
+    /// In milliseconds since 1970.
+    qint64 used(const QString &id) const;
     void dropTheOldest();
 
     Settings *mySettings;

@@ -4,6 +4,7 @@
 #include "Settings.h"
 
 #include <QAction>
+#include <QLayout>
 #include <QMainWindow>
 
 using namespace Qt::StringLiterals;
@@ -47,6 +48,9 @@ void FindingsDock::setCatalogue(const CataloguePointer &catalogue)
     stopWaiting();
     myPanel->setCatalogue(catalogue);
     myHasFindings = !catalogue->findings().isEmpty();
+    // What was hidden just now would still keep its room.
+    myPanel->layout()->activate();
+    layout()->activate();
     const bool isChosen = myHasFindings && myHeight > 0;
     myWindow->resizeDocks({ this }, { isChosen ? myHeight : myPanel->sizeHint().height() }, Qt::Vertical);
 }

@@ -2,6 +2,7 @@
 
 #include <QFormLayout>
 #include <QGridLayout>
+#include <QLabel>
 #include <QWidget>
 
 #include <utility>
@@ -40,6 +41,18 @@ bool isHidden(const QWidget &widget)
     return widget.isHidden() && widget.testAttribute(Qt::WA_WState_ExplicitShowHide);
 }
 
+/// The hint of a label is at least its minimum, which may come from other texts.
+int neededWidth(const QWidget &widget)
+{
+    const int hint = widget.sizeHint().width();
+    const auto *label = qobject_cast<const QLabel *>(&widget);
+    if (!label)
+        return hint;
+    const int flags = label->buddy() ? Qt::TextShowMnemonic : 0;
+    const QMargins edges = label->contentsMargins();
+    return qMin(hint, edges.left() + label->fontMetrics().size(flags, label->text()).width() + edges.right());
+}
+
 QList<QWidget *> shownLabels(const QLayout *panel)
 {
     QList<QLayoutItem *> items;
@@ -64,7 +77,7 @@ void LabelColumn::align() const
         labels += shownLabels(panel);
     int widest = 0;
     for (const QWidget *label : std::as_const(labels))
-        widest = qMax(widest, label->sizeHint().width());
+        widest = qMax(widest, neededWidth(*label));
     for (QWidget *label : std::as_const(labels))
         label->setMinimumWidth(widest);
 }
