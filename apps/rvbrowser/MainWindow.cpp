@@ -68,8 +68,6 @@ MainWindow::MainWindow(const QString &settingsFile, QWidget *parent)
     statusBar()->addWidget(myProgress);
     statusBar()->addPermanentWidget(mySummary);
     connectSession();
-    connect(myProducts, &ProductList::productChosen, this, &MainWindow::showProduct);
-    connect(myFindings, &FindingsPanel::productChosen, myProducts, &ProductList::setCurrentProduct);
     resize(USUAL_SIZE);
     restoreState();
 }
@@ -228,6 +226,8 @@ QMenu *MainWindow::createViewMenu()
 
 void MainWindow::connectSession()
 {
+    connect(myProducts, &ProductList::productChosen, this, &MainWindow::showProduct);
+    connect(myFindings, &FindingsPanel::productChosen, myProducts, &ProductList::setCurrentProduct);
     connect(&mySession, &CatalogueSession::started, this, [this](const QString &fileName) {
         myCancel->setEnabled(true);
         myProgress->start(fileName);

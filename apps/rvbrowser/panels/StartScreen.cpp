@@ -40,22 +40,23 @@ StartScreen::StartScreen(QWidget *parent)
     connect(open, &QPushButton::clicked, this, &StartScreen::openRequested);
     setFocusProxy(open);
 
+    prepareList();
+    arrange({ title, hint, open, myRecentTitle, myRecent });
+    setRecentFiles({});
+}
+
+void StartScreen::arrange(const QList<QWidget *> &widgets)
+{
     auto *column = new QVBoxLayout;
-    column->setSpacing(column->spacing() + fontMetrics().height() / 3);
+    column->setSpacing(column->spacing() + fontMetrics().height() / 2);
     column->addStretch(1);
-    column->addWidget(title);
-    column->addWidget(hint);
-    column->addWidget(open, 0, Qt::AlignLeft);
-    column->addSpacing(fontMetrics().height());
-    column->addWidget(myRecentTitle);
-    column->addWidget(myRecent);
+    for (QWidget *widget : widgets)
+        column->addWidget(widget, 0, qobject_cast<QPushButton *>(widget) ? Qt::AlignLeft : Qt::Alignment());
     column->addStretch(2);
     auto *layout = new QHBoxLayout(this);
     layout->addStretch(1);
     layout->addLayout(column, 2);
     layout->addStretch(1);
-    prepareList();
-    setRecentFiles({});
 }
 
 void StartScreen::setRecentFiles(const QStringList &fileNames)

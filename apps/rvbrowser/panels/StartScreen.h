@@ -23,6 +23,7 @@ Q_SIGNALS:
 
 private:
     void prepareList();
+    void arrange(const QList<QWidget *> &widgets);
     void addFile(const QString &fileName);
 
     QLabel *myRecentTitle;
