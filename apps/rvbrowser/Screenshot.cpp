@@ -18,6 +18,7 @@ namespace {
 constexpr int SMALLEST_FILE = 0;
 /// Widgets that have new texts ask for new places one after the other.
 constexpr auto LAYOUT_TIME = 200ms;
+constexpr int LAYOUT_ROUNDS = 20;
 
 }
 
@@ -51,6 +52,9 @@ void Screenshot::take()
 
 void Screenshot::save()
 {
+    // On a machine that is busy, the time may be over before they all have asked.
+    for (int round = 0; round < LAYOUT_ROUNDS; ++round)
+        QApplication::processEvents();
     const QImage picture = myWindow->grab().toImage().convertToFormat(QImage::Format_RGB32);
     if (picture.save(myFileName, "PNG", SMALLEST_FILE))
         QApplication::exit(0);
