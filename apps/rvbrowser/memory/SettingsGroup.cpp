@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int ID_LENGTH = 20; // characters
-constexpr qint64 DAY = 24 * 60 * 60 * 1000; // milliseconds
+constexpr qint64 DAY = qint64(24) * 60 * 60 * 1000; // milliseconds
 constexpr auto USED = "used"_L1;
 
 /// Names of files and products may be long and may have any character, unlike a name in the settings.
