@@ -157,7 +157,10 @@ bool FixRun::diffFile(const QString &fileName, bool *isChanged)
     *isChanged = true;
     if (myOptions.isQuiet)
         return true;
-    const QString error = UnifiedDiff(path, to.fileName(), fileName).write(*myConsole);
+    const auto write = [this](QByteArrayView bytes) {
+        myConsole->write(std::string_view(bytes.data(), std::size_t(bytes.size())));
+    };
+    const QString error = UnifiedDiff(path, to.fileName(), fileName).write(write);
     return error.isEmpty() || fail(fileName, { RVFilePosition(), error });
 }
 

@@ -35,11 +35,6 @@ QString labelOf(const QString &name)
     return u'"' + quoted + u'"';
 }
 
-void pass(const QByteArray &bytes, const Console &console)
-{
-    console.write(std::string_view(bytes.constData(), std::size_t(bytes.size())));
-}
-
 }
 
 UnifiedDiff::UnifiedDiff(const QString &oldPath, const QString &newPath, const QString &shownName)
@@ -48,7 +43,7 @@ UnifiedDiff::UnifiedDiff(const QString &oldPath, const QString &newPath, const Q
       myLabel(labelOf(relative(shownName)))
 { }
 
-QString UnifiedDiff::write(const Console &console) const
+QString UnifiedDiff::write(const std::function<void(QByteArrayView)> &take) const
 {
     QProcess diff;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -59,9 +54,10 @@ QString UnifiedDiff::write(const Console &console) const
     if (!diff.waitForStarted(-1))
         return u"cannot run the program \"diff\": "_s + diff.errorString();
     while (diff.waitForReadyRead(-1))
-        pass(diff.readAllStandardOutput(), console);
+        take(diff.readAllStandardOutput());
     diff.waitForFinished(-1);
-    pass(diff.readAllStandardOutput(), console);
+    if (const QByteArray rest = diff.readAllStandardOutput(); !rest.isEmpty())
+        take(rest);
     if (diff.exitStatus() == QProcess::NormalExit && diff.exitCode() <= 1)
         return QString();
     return u"the program \"diff\" failed: "_s + QString::fromLocal8Bit(diff.readAllStandardError()).simplified();
