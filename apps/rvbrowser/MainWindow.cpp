@@ -1,5 +1,6 @@
 #include "MainWindow.h"
 
+#include "FindingsActions.h"
 #include "FindingsDock.h"
 #include "FindingsPanel.h"
 #include "LoadProgress.h"
@@ -20,7 +21,6 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
-#include <QSignalBlocker>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -164,6 +164,8 @@ void MainWindow::createMenus()
     menuBar()->addMenu(createFileMenu());
     menuBar()->addMenu(createEditMenu());
     menuBar()->addMenu(createViewMenu());
+    const auto *findings = new FindingsActions({ this, &mySession, myFindings, myProducts, myView, myBanner });
+    menuBar()->addMenu(findings->menu());
     QMenu *help = menuBar()->addMenu(tr("&Help"));
     help->addAction(themeIcon("help-about"), tr("&About"), this, &MainWindow::showAbout);
 }
@@ -279,7 +281,7 @@ void MainWindow::showCatalogue()
         return;
     }
     const QSignalBlocker blocker(myProducts);
-    myProducts->setCurrentProduct(product);
+    myProducts->keepCurrentProduct(product);
     myChoices.update(catalogue, product);
 }
 

@@ -1,3 +1,5 @@
+#include "FaultyProducts.h"
+
 #include <LoadedCatalogue.h>
 #include <ProductTreeModel.h>
 
@@ -52,6 +54,7 @@ private Q_SLOTS:
     void search_data();
     void search();
     void indexes();
+    void faultyOnly();
     void nothing();
     void isAModel();
     void searchStays();
@@ -99,6 +102,34 @@ void tst_ProductTreeModel::indexes()
     QCOMPARE(model.shownProductCount(), 2);
     QVERIFY(!model.indexOfProduct(-1).isValid());
     QVERIFY(!model.indexOfProduct(4).isValid());
+}
+
+void tst_ProductTreeModel::faultyOnly()
+{
+    QByteArray content(FAULTY_PRODUCTS);
+    QBuffer buffer(&content);
+    buffer.open(QIODevice::ReadOnly);
+    RVCatalogueReader reader(&buffer);
+    reader.setCheck(RVCatalogueCheck());
+    auto catalogue = std::make_shared<LoadedCatalogue>(QString());
+    catalogue->read(&reader);
+    ProductTreeModel model;
+    model.setFaultyOnly(true);
+    model.setCatalogue(catalogue);
+    QCOMPARE(model.shownProductCount(), 2);
+    QCOMPARE(model.firstProduct(), 0);
+    QCOMPARE(model.mostFindings(), 3);
+    QVERIFY(!model.indexOfProduct(1).isValid()); // it has a note alone
+    const QModelIndex shown = model.indexOfProduct(3).siblingAtColumn(ProductTreeModel::FindingsColumn);
+    QCOMPARE(shown.data().toInt(), 3);
+    QCOMPARE(shown.data(ProductTreeModel::SeverityRole).toInt(), int(RVCatalogueSeverity::Error));
+    model.setSearch(u"ten"_s);
+    QCOMPARE(model.shownProductCount(), 1);
+    model.setFaultyOnly(false);
+    model.setSearch(QString());
+    QCOMPARE(model.shownProductCount(), 4);
+    const QModelIndex faultless = model.indexOfProduct(2).siblingAtColumn(ProductTreeModel::FindingsColumn);
+    QVERIFY(!faultless.data(Qt::AccessibleTextRole).isValid());
 }
 
 void tst_ProductTreeModel::nothing()

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QRandomGenerator>
+#include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -42,7 +43,7 @@ constexpr int EVENTS = 2000;
 constexpr Qt::Key KEYS[] = {
     Qt::Key_A,  Qt::Key_E,    Qt::Key_1,      Qt::Key_Space,    Qt::Key_Backspace, Qt::Key_Down,   Qt::Key_Up,
     Qt::Key_F4, Qt::Key_Left, Qt::Key_Return, Qt::Key_PageDown, Qt::Key_End,       Qt::Key_Delete, Qt::Key_Tab,
-    Qt::Key_F5, Qt::Key_Home, Qt::Key_Right,  Qt::Key_Escape,   Qt::Key_PageUp,
+    Qt::Key_F8, Qt::Key_F5,   Qt::Key_Home,   Qt::Key_Right,    Qt::Key_Escape,    Qt::Key_PageUp,
 };
 
 }
@@ -146,6 +147,10 @@ void tst_monkey::playsWithTheWindow()
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
+    // A double click on a place opens an editor, and nobody wants one here.
+    qputenv("PATH", "");
+    QTemporaryDir settings;
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
     Language language;
     language.speak(QLocale(QLocale::English));
     tst_monkey test;

@@ -58,6 +58,29 @@ QColor PaletteColors::fault() const
     return isDark() ? QColor(0xff, 0x8a, 0x80) : QColor(0xb0, 0x1c, 0x1c);
 }
 
+QColor PaletteColors::good() const
+{
+    return isDark() ? QColor(0x81, 0xc7, 0x84) : QColor(0x1b, 0x6b, 0x20);
+}
+
+QColor PaletteColors::severity(RVCatalogueSeverity severity) const
+{
+    switch (severity) {
+    case RVCatalogueSeverity::Note:
+        return isDark() ? QColor(0xa9, 0xb8, 0xc8) : QColor(0x55, 0x63, 0x72);
+    case RVCatalogueSeverity::Warning:
+        return isDark() ? QColor(0xff, 0xb7, 0x4d) : QColor(0x8f, 0x52, 0x00);
+    case RVCatalogueSeverity::Error:
+        break;
+    }
+    return fault();
+}
+
+QColor PaletteColors::textOnSeverity() const
+{
+    return isDark() ? QColor(0x1e, 0x20, 0x22) : QColor(0xff, 0xff, 0xff);
+}
+
 bool PaletteColors::isDark() const
 {
     return myPalette.color(QPalette::Base).lightness() < MIDDLE_LIGHTNESS;

@@ -1,6 +1,8 @@
 #ifndef PALETTECOLORS_H
 #define PALETTECOLORS_H
 
+#include <RVCatalogueRule.h>
+
 #include <QColor>
 #include <QPalette>
 
@@ -17,6 +19,11 @@ public:
 
     /// A red for what is wrong; readable on the background.
     QColor fault() const;
+    /// A green for what is right; readable on the background.
+    QColor good() const;
+    /// A ground for short texts in textOnSeverity(), on any background.
+    QColor severity(RVCatalogueSeverity severity) const;
+    QColor textOnSeverity() const;
 
     /// The palettes that the program brings for people who want another one than that of their desktop.
     static QPalette light();

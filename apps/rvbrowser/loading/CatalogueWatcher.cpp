@@ -16,12 +16,6 @@ constexpr auto QUIET_TIME = 200ms;
 
 }
 
-FileStamp FileStamp::of(const QString &fileName)
-{
-    const QFileInfo info(fileName);
-    return { info.exists(), info.size(), info.lastModified() };
-}
-
 CatalogueStamp CatalogueStamp::of(const QString &fileName)
 {
     CatalogueStamp result;

@@ -1,30 +1,15 @@
 #ifndef CATALOGUEWATCHER_H
 #define CATALOGUEWATCHER_H
 
-#include <QDateTime>
+#include "FileStamp.h"
+
 #include <QFileSystemWatcher>
 #include <QList>
 #include <QString>
 #include <QStringList>
 #include <QTimer>
 
-/// Enough of a file to see that it was written to.
-struct FileStamp
-{
-    static FileStamp of(const QString &fileName);
-
-    bool exists = false;
-    qint64 size = 0;
-    QDateTime modified;
-
-    friend bool operator==(const FileStamp &a, const FileStamp &b)
-    {
-        return a.exists == b.exists && a.size == b.size && a.modified == b.modified;
-    }
-    friend bool operator!=(const FileStamp &a, const FileStamp &b) { return !(a == b); }
-};
-
-/// The same of a catalogue and of the configuration that it is checked by.
+/// The stamp of a catalogue, and that of the configuration that it is checked by.
 struct CatalogueStamp
 {
     static CatalogueStamp of(const QString &fileName);

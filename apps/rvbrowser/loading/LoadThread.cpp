@@ -8,16 +8,16 @@
 
 void LoadThread::run()
 {
+    const FileStamp stamp = FileStamp::of(myFileName);
     ObservedFile file(myFileName, [this](int percent) { return report(percent); });
     if (!open(&file))
         return;
     RVCatalogueReader reader(&file);
     const RVCheckConfiguration configuration = RVCheckConfiguration::find(myFileName);
-    RVCatalogueCheck check;
-    configuration.apply(&check);
-    reader.setCheck(check);
     const auto catalogue = std::make_shared<LoadedCatalogue>(myFileName);
+    catalogue->setStamp(stamp);
     catalogue->setConfiguration(configuration);
+    reader.setCheck(catalogue->check());
     catalogue->read(&reader);
     if (isInterruptionRequested())
         return;

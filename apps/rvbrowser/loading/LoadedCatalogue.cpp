@@ -37,8 +37,24 @@ void LoadedCatalogue::read(RVCatalogueReader *reader)
                     append(std::move(batch));
                     return true;
                 });
-    myFindings += reader->findings();
+    for (const RVCatalogueFinding &finding : reader->findings())
+        append(finding);
     myTexts.clear();
+}
+
+RVCatalogueCheck LoadedCatalogue::check() const
+{
+    RVCatalogueCheck result;
+    myConfiguration.apply(&result);
+    return result;
+}
+
+QString LoadedCatalogue::typeOf(const RVCatalogueFinding &finding) const
+{
+    if (!finding.productType().isEmpty())
+        return finding.productType();
+    const qint64 product = finding.product();
+    return product >= 0 && product < size() ? at(int(product)).type.orderTxtName() : QString();
 }
 
 RVCatalogueProduct LoadedCatalogue::product(int index) const
@@ -87,10 +103,21 @@ void LoadedCatalogue::append(Batch batch)
     }
     myPacks += std::move(batch.pack);
     for (const RVCatalogueFinding &finding : std::as_const(batch.findings))
-        myFindings += shared(finding);
+        append(finding);
 }
 
-// The window mends nothing, so it does without the fix.
+void LoadedCatalogue::append(const RVCatalogueFinding &finding)
+{
+    const qint64 product = finding.product();
+    if (product >= 0 && product < size()) {
+        Entry &entry = myEntries[product];
+        entry.worst = entry.findings == 0 ? finding.severity() : qMax(entry.worst, finding.severity());
+        ++entry.findings;
+    }
+    myFindingIndex.append(typeOf(finding), finding.text() + u'\n' + finding.rule().name());
+    myFindings += shared(finding);
+}
+
 RVCatalogueFinding LoadedCatalogue::shared(const RVCatalogueFinding &finding)
 {
     RVCatalogueFinding result(finding.rule(), finding.range(), shared(finding.text()), finding.product());
@@ -100,6 +127,10 @@ RVCatalogueFinding LoadedCatalogue::shared(const RVCatalogueFinding &finding)
     for (RVRelatedPlace &place : places)
         place.text = shared(place.text);
     result.setRelatedPlaces(places);
+    QList<RVFileEdit> edits = finding.fix();
+    for (RVFileEdit &edit : edits)
+        edit.text = shared(edit.text);
+    result.setFix(edits);
     return result;
 }
 

@@ -2,9 +2,11 @@
 #define LOADEDCATALOGUE_H
 
 #include "AttributeWords.h"
+#include "FileStamp.h"
 #include "ProductPack.h"
 #include "ProductSearchIndex.h"
 
+#include <RVCatalogueCheck.h>
 #include <RVCatalogueFinding.h>
 #include <RVCatalogueProduct.h>
 #include <RVCheckConfiguration.h>
@@ -37,6 +39,8 @@ public:
         int group = 0; // index into groups()
         int pack = 0;
         int indexInPack = 0;
+        int findings = 0; ///< how many there are about the product
+        RVCatalogueSeverity worst = RVCatalogueSeverity::Note; ///< of them
     };
 
     explicit LoadedCatalogue(const QString &fileName) : myFileName(fileName) { }
@@ -46,6 +50,11 @@ public:
     /// The configuration that the reader checks by, which may be a broken one that it therefore does without.
     void setConfiguration(const RVCheckConfiguration &configuration) { myConfiguration = configuration; }
     const RVCheckConfiguration &configuration() const { return myConfiguration; }
+    /// The check with that configuration, which finds what findings() has.
+    RVCatalogueCheck check() const;
+    /// The state of the file before it was read; that of no file where it was read from somewhere else.
+    void setStamp(const FileStamp &stamp) { myStamp = stamp; }
+    const FileStamp &stamp() const { return myStamp; }
 
     QString fileName() const { return myFileName; }
     int size() const { return int(myEntries.size()); }
@@ -59,6 +68,10 @@ public:
     /// The kinds of article that there are, in the order of the file.
     const QStringList &groups() const { return myGroups; }
     const QList<RVCatalogueFinding> &findings() const { return myFindings; }
+    /// The texts by which findings are found: the type of the product, the text and the name of the rule.
+    const ProductSearchIndex &findingIndex() const { return myFindingIndex; }
+    /// The type of the product that a finding is about, as it stands in the file where it does; empty for none.
+    QString typeOf(const RVCatalogueFinding &finding) const;
     const AttributeWords &words() const { return myWords; }
     /// The memory that all the products need which are packed.
     qsizetype packedBytes() const;
@@ -68,11 +81,13 @@ private:
 
     Batch batch(const QList<RVCatalogueProduct> &products) const;
     void append(Batch batch);
+    void append(const RVCatalogueFinding &finding);
     int groupIndex(const QString &name);
     QString shared(const QString &text) { return *myTexts.insert(text); }
     RVCatalogueFinding shared(const RVCatalogueFinding &finding);
 
     QString myFileName;
+    FileStamp myStamp;
     RVCheckConfiguration myConfiguration;
     AttributeWords myWords;
     QList<Entry> myEntries;
@@ -81,6 +96,7 @@ private:
     QStringList myGroups;
     QHash<RVProductType, int> myIndexes;
     QList<RVCatalogueFinding> myFindings;
+    ProductSearchIndex myFindingIndex;
     QSet<QString> myTexts; // while it is read, so that equal texts need memory but once
 };
 

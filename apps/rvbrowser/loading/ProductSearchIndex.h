@@ -9,8 +9,8 @@
 #include <vector>
 
 /**
- * The texts by which products are found, in one piece of memory, so that a search through 100,000 products is over
- * before the next key is pressed.
+ * The texts by which products, or findings, are found, in one piece of memory, so that a search through 100,000 of them
+ * is over before the next key is pressed.
  *
  * Letter case does not matter, and neither do umlauts: "ü" is found by "ü", "u" and "ue", "ß" by "ss".
  */

@@ -9,22 +9,20 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-QString severityText(RVCatalogueSeverity severity)
+QString FindingsModel::severityText(RVCatalogueSeverity severity)
 {
     switch (severity) {
     case RVCatalogueSeverity::Note:
-        return FindingsModel::tr("Note");
+        return tr("Note");
     case RVCatalogueSeverity::Warning:
-        return FindingsModel::tr("Warning");
+        return tr("Warning");
     case RVCatalogueSeverity::Error:
         break;
     }
-    return FindingsModel::tr("Error");
+    return tr("Error");
 }
 
-QIcon severityIcon(RVCatalogueSeverity severity)
+QIcon FindingsModel::severityIcon(RVCatalogueSeverity severity)
 {
     switch (severity) {
     case RVCatalogueSeverity::Note:
@@ -37,18 +35,51 @@ QIcon severityIcon(RVCatalogueSeverity severity)
     return QApplication::style()->standardIcon(QStyle::SP_MessageBoxCritical);
 }
 
-}
-
 void FindingsModel::setCatalogue(const CataloguePointer &catalogue)
 {
     beginResetModel();
     myCatalogue = catalogue;
+    order();
+    fill();
     endResetModel();
+}
+
+void FindingsModel::setFilter(const FindingFilter &filter)
+{
+    beginResetModel();
+    myFilter = filter;
+    fill();
+    endResetModel();
+}
+
+void FindingsModel::sort(int column, Qt::SortOrder order)
+{
+    beginResetModel();
+    mySortColumn = column;
+    mySortOrder = order;
+    this->order();
+    fill();
+    endResetModel();
+}
+
+void FindingsModel::order()
+{
+    myOrder = myCatalogue ? sortedFindings(*myCatalogue, mySortColumn, mySortOrder) : QList<int>();
+}
+
+void FindingsModel::fill()
+{
+    myRows = myOrder;
+    if (!myCatalogue || myFilter.isEmpty())
+        return;
+    const std::vector<bool> accepted = myFilter.accepted(*myCatalogue);
+    myRows.removeIf([&accepted](int finding) { return !accepted[std::size_t(finding)]; });
 }
 
 int FindingsModel::product(int row) const
 {
-    return int(myCatalogue->findings().at(row).product());
+    const int finding = findingAt(row);
+    return finding < 0 ? -1 : int(myCatalogue->findings().at(finding).product());
 }
 
 int FindingsModel::count(RVCatalogueSeverity severity) const
@@ -62,26 +93,26 @@ int FindingsModel::count(RVCatalogueSeverity severity) const
 
 int FindingsModel::rowCount(const QModelIndex &parent) const
 {
-    return myCatalogue && !parent.isValid() ? int(myCatalogue->findings().size()) : 0;
+    return parent.isValid() ? 0 : int(myRows.size());
 }
 
 int FindingsModel::columnCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : int(COLUMN_COUNT);
+    return parent.isValid() ? 0 : int(FINDING_COLUMN_COUNT);
 }
 
 QVariant FindingsModel::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid())
         return QVariant();
-    const RVCatalogueFinding &finding = myCatalogue->findings().at(index.row());
+    const RVCatalogueFinding &finding = myCatalogue->findings().at(myRows.at(index.row()));
     switch (role) {
     case Qt::DisplayRole:
         return text(finding, index.column());
     case Qt::ToolTipRole:
         return findingToolTip(finding);
     case Qt::DecorationRole:
-        return index.column() == SeverityColumn ? QVariant(severityIcon(finding.severity())) : QVariant();
+        return index.column() == FINDING_SEVERITY ? QVariant(severityIcon(finding.severity())) : QVariant();
     default:
         return QVariant();
     }
@@ -98,17 +129,15 @@ QVariant FindingsModel::headerData(int section, Qt::Orientation orientation, int
 QString FindingsModel::text(const RVCatalogueFinding &finding, int column) const
 {
     switch (column) {
-    case SeverityColumn:
+    case FINDING_SEVERITY:
         return severityText(finding.severity());
-    case ProductColumn:
-        if (!finding.productType().isEmpty())
-            return finding.productType();
-        return finding.product() >= 0 ? myCatalogue->at(int(finding.product())).type.orderTxtName() : QString();
-    case TextColumn:
+    case FINDING_PRODUCT:
+        return myCatalogue->typeOf(finding);
+    case FINDING_TEXT:
         return finding.text();
-    case PlaceColumn:
+    case FINDING_PLACE:
         return u"%1:%2"_s.arg(finding.range().begin.line).arg(finding.range().begin.column);
-    case RuleColumn:
+    case FINDING_RULE:
         return finding.rule().name().toString();
     default:
         return QString();

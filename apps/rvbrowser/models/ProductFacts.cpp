@@ -3,7 +3,6 @@
 #include "AttributeWords.h"
 
 #include <RVCatalogueAttributes.h>
-#include <RVCatalogueCheck.h>
 
 #include <QLocale>
 
@@ -26,7 +25,7 @@ QList<RVCatalogueAttribute> attributes()
 
 }
 
-QList<ProductFacts::Fact> ProductFacts::facts() const
+QList<ProductFacts::Fact> ProductFacts::facts(const RVCatalogueCheck &check) const
 {
     QList<Fact> result {
         { tr("Kind of article"), rvCatalogueAttributeName<RVArticleClass>(), kind(), {} },
@@ -38,13 +37,13 @@ QList<ProductFacts::Fact> ProductFacts::facts() const
     result += Fact { tr("Price class"), "price_class"_L1, myProduct.priceClass().toString(), {} };
     result += Fact { tr("Price class of a package"), "page_price_class"_L1, myProduct.pagePriceClass().toString(), {} };
     result += Fact { tr("Barcodes"), QLatin1StringView(), barcodes(), {} };
-    addFaults(&result);
+    addFaults(&result, check);
     return result;
 }
 
-void ProductFacts::addFaults(QList<Fact> *facts) const
+void ProductFacts::addFaults(QList<Fact> *facts, const RVCatalogueCheck &check) const
 {
-    const QList<RVCatalogueFinding> findings = RVCatalogueCheck().findings(myProduct);
+    const QList<RVCatalogueFinding> findings = check.findings(myProduct);
     for (Fact &fact : *facts) {
         fact.fault = faultOf(fact.attribute, findings);
         if (!fact.fault.isEmpty())

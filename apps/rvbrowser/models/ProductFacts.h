@@ -1,6 +1,7 @@
 #ifndef PRODUCTFACTS_H
 #define PRODUCTFACTS_H
 
+#include <RVCatalogueCheck.h>
 #include <RVCatalogueProduct.h>
 
 #include <QCoreApplication>
@@ -27,8 +28,8 @@ public:
         : myProduct(product),
           myWords(words) { }
 
-    /// Always the same facts in the same order.
-    QList<Fact> facts() const;
+    /// Always the same facts in the same order. The check decides on what is a fault.
+    QList<Fact> facts(const RVCatalogueCheck &check = RVCatalogueCheck()) const;
     /// The words, in lower case, by which a search finds the product besides its type, name and article id. Many
     /// products have the same words.
     QString searchText() const;
@@ -41,7 +42,7 @@ private:
     QString kind() const;
     QString barcodes() const;
     QStringList optionTexts() const;
-    void addFaults(QList<Fact> *facts) const;
+    void addFaults(QList<Fact> *facts, const RVCatalogueCheck &check) const;
     QString faultOf(QLatin1StringView attribute, const QList<RVCatalogueFinding> &findings) const;
 
     RVCatalogueProduct myProduct;

@@ -10,7 +10,6 @@ namespace {
 
 /// The internal id of the items of groups; that of products is their group, counted from 1.
 constexpr quintptr GROUP_ID = 0;
-constexpr int COLUMN_COUNT = 2;
 
 }
 
@@ -18,6 +17,9 @@ void ProductTreeModel::setCatalogue(const CataloguePointer &catalogue)
 {
     beginResetModel();
     myCatalogue = catalogue;
+    myMostFindings = 0;
+    for (int product = 0; product < productCount(); ++product)
+        myMostFindings = qMax(myMostFindings, myCatalogue->at(product).findings);
     fill();
     endResetModel();
 }
@@ -30,10 +32,20 @@ void ProductTreeModel::setSearch(const QString &text)
     endResetModel();
 }
 
+void ProductTreeModel::setFaultyOnly(bool isFaultyOnly)
+{
+    beginResetModel();
+    myIsFaultyOnly = isFaultyOnly;
+    fill();
+    endResetModel();
+}
+
 // Groups come in the order of their first product that is shown.
 void ProductTreeModel::fill()
 {
-    const QList<int> shown = myCatalogue ? myCatalogue->searchIndex().find(mySearch) : QList<int>();
+    QList<int> shown = myCatalogue ? myCatalogue->searchIndex().find(mySearch) : QList<int>();
+    if (myIsFaultyOnly)
+        shown.removeIf([this](int product) { return !isFaulty(product); });
     myShownProducts = int(shown.size());
     myGroups.clear();
     myRowsOfGroups.fill(-1, myCatalogue ? myCatalogue->groups().size() : 0);
@@ -48,6 +60,12 @@ void ProductTreeModel::fill()
         myRows[product] = int(group.products.size());
         group.products += product;
     }
+}
+
+bool ProductTreeModel::isFaulty(int product) const
+{
+    const LoadedCatalogue::Entry &entry = myCatalogue->at(product);
+    return entry.findings > 0 && entry.worst != RVCatalogueSeverity::Note;
 }
 
 QModelIndex ProductTreeModel::indexOfProduct(int product) const
@@ -97,9 +115,13 @@ QVariant ProductTreeModel::data(const QModelIndex &index, int role) const
 
 QVariant ProductTreeModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+    if (orientation != Qt::Horizontal)
         return QVariant();
-    return section == 0 ? tr("Type") : tr("Name");
+    if (section == FindingsColumn) {
+        const bool isText = role == Qt::ToolTipRole || role == Qt::AccessibleTextRole;
+        return isText ? QVariant(tr("Findings")) : QVariant();
+    }
+    return role == Qt::DisplayRole ? QVariant(section == TypeColumn ? tr("Type") : tr("Name")) : QVariant();
 }
 
 QVariant ProductTreeModel::groupData(const Group &group, int column, int role) const
@@ -123,9 +145,11 @@ QVariant ProductTreeModel::groupData(const Group &group, int column, int role) c
 QVariant ProductTreeModel::productData(int product, int column, int role) const
 {
     const LoadedCatalogue::Entry &entry = myCatalogue->at(product);
+    if (role != ProductRole && column == FindingsColumn)
+        return findingsData(entry, role);
     switch (role) {
     case Qt::DisplayRole:
-        return column == 0 ? entry.type.orderTxtName() : entry.name;
+        return column == TypeColumn ? entry.type.orderTxtName() : entry.name;
     case Qt::ToolTipRole:
         return plainToolTip(entry.name);
     case ProductRole:
@@ -133,4 +157,34 @@ QVariant ProductTreeModel::productData(int product, int column, int role) const
     default:
         return QVariant();
     }
+}
+
+QVariant ProductTreeModel::findingsData(const LoadedCatalogue::Entry &entry, int role)
+{
+    if (entry.findings == 0)
+        return QVariant();
+    switch (role) {
+    case Qt::DisplayRole:
+        return entry.findings;
+    case Qt::ToolTipRole:
+    case Qt::AccessibleTextRole:
+        return findingsText(entry);
+    case SeverityRole:
+        return int(entry.worst);
+    default:
+        return QVariant();
+    }
+}
+
+QString ProductTreeModel::findingsText(const LoadedCatalogue::Entry &entry)
+{
+    switch (entry.worst) {
+    case RVCatalogueSeverity::Note:
+        return tr("%n note(s)", nullptr, entry.findings);
+    case RVCatalogueSeverity::Warning:
+        return tr("%n finding(s), the worst of which is a warning", nullptr, entry.findings);
+    case RVCatalogueSeverity::Error:
+        break;
+    }
+    return tr("%n finding(s), the worst of which is an error", nullptr, entry.findings);
 }

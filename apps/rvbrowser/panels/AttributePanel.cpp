@@ -20,14 +20,16 @@ AttributePanel::AttributePanel(QWidget *parent) : QGroupBox(tr("Attributes"), pa
     myLayout->setVerticalSpacing(3);
 }
 
-void AttributePanel::setProduct(const RVCatalogueProduct &product, const AttributeWords &words)
+void AttributePanel::setProduct(const RVCatalogueProduct &product, const AttributeWords &words,
+                                const RVCatalogueCheck &check)
 {
-    const QList<ProductFacts::Fact> facts = ProductFacts(product, words).facts();
-    for (qsizetype i = 0; i < facts.size(); ++i) {
+    myFacts = ProductFacts(product, words).facts(check);
+    for (qsizetype i = 0; i < myFacts.size(); ++i) {
+        const ProductFacts::Fact &fact = myFacts.at(i);
         if (i == myTexts.size())
-            addLine(facts.at(i).label);
-        show(facts.at(i), myTexts.at(i));
-        myLayout->setRowVisible(int(i), !facts.at(i).text.isEmpty() || !facts.at(i).fault.isEmpty());
+            addLine(fact.label);
+        show(fact, myTexts.at(i));
+        myLayout->setRowVisible(int(i), !fact.text.isEmpty() || !fact.fault.isEmpty());
     }
 }
 
@@ -42,6 +44,22 @@ void AttributePanel::addLine(const QString &label)
     text->setMinimumWidth(text->fontMetrics().averageCharWidth() * LEAST_CHARACTERS);
     myLayout->addRow(name, text);
     myTexts += text;
+}
+
+QWidget *AttributePanel::markFault(const QString &attribute, const QString &fault)
+{
+    for (qsizetype i = 0; i < myFacts.size(); ++i) {
+        ProductFacts::Fact fact = myFacts.at(i);
+        if (fact.attribute.isEmpty() || fact.attribute != attribute)
+            continue;
+        if (fact.fault.isEmpty()) { // as with a note, which is none for who only looks at the product
+            fact.fault = fault;
+            show(fact, myTexts.at(i));
+            myLayout->setRowVisible(int(i), true);
+        }
+        return myTexts.at(i);
+    }
+    return nullptr;
 }
 
 // The fault stands below the value, so that it is not the colour alone that tells.

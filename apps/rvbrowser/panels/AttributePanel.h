@@ -19,13 +19,16 @@ class AttributePanel : public QGroupBox
 public:
     explicit AttributePanel(QWidget *parent = nullptr);
 
-    void setProduct(const RVCatalogueProduct &product, const AttributeWords &words);
+    void setProduct(const RVCatalogueProduct &product, const AttributeWords &words, const RVCatalogueCheck &check);
+    /// Shows an attribute as a faulty one, where it is shown at all, and returns what shows it; null otherwise.
+    QWidget *markFault(const QString &attribute, const QString &fault);
 
 private:
     void addLine(const QString &label);
     void show(const ProductFacts::Fact &fact, QLabel *text) const;
 
     QFormLayout *myLayout;
+    QList<ProductFacts::Fact> myFacts;
     QList<QLabel *> myTexts; // one for each fact
 };
 

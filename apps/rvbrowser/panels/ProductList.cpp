@@ -1,5 +1,8 @@
 #include "ProductList.h"
 
+#include "FindingBadge.h"
+
+#include <QCheckBox>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
@@ -14,8 +17,9 @@ using namespace Qt::StringLiterals;
 ProductList::ProductList(QWidget *parent)
     : QWidget(parent),
       mySearch(new QLineEdit),
+      myFaultyOnly(new QCheckBox(tr("F&aulty products only"))),
       myView(new QTreeView),
-      myClear(new QPushButton(tr("Nothing found: &clear the search"))),
+      myClear(new QPushButton),
       myCount(new QLabel)
 {
     mySearch->setObjectName(u"search"_s);
@@ -26,36 +30,40 @@ ProductList::ProductList(QWidget *parent)
     mySearch->installEventFilter(this);
     connect(mySearch, &QLineEdit::textChanged, this, &ProductList::search);
 
-    myView->setObjectName(u"products"_s);
-    myView->setAccessibleName(tr("Products"));
-    myView->setModel(&myModel);
-    myView->setUniformRowHeights(true);
-    myView->setAlternatingRowColors(true);
-    myView->setAllColumnsShowFocus(true);
-    myView->header()->setStretchLastSection(true);
-    connect(myView->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            [this](const QModelIndex &current) {
-                if (myIsSearching)
-                    return;
-                const QVariant product = current.siblingAtColumn(0).data(ProductTreeModel::ProductRole);
-                if (!product.isValid() || product.toInt() < 0 || product.toInt() == myProduct)
-                    return;
-                myProduct = product.toInt();
-                Q_EMIT productChosen(myProduct);
-            });
-
+    myFaultyOnly->setObjectName(u"faultyOnly"_s);
+    myFaultyOnly->setToolTip(tr("Products with an error or a warning"));
+    connect(myFaultyOnly, &QCheckBox::toggled, this, &ProductList::showFaultyOnly);
+    setUpView();
     myClear->setObjectName(u"clearSearch"_s);
     connect(myClear, &QPushButton::clicked, this, [this] {
-        mySearch->clear();
+        clearFilters();
         focusSearch();
     });
     myCount->setObjectName(u"count"_s);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(mySearch);
+    layout->addWidget(myFaultyOnly);
     layout->addWidget(myView);
     layout->addWidget(myClear);
     layout->addWidget(myCount);
     showCount();
+}
+
+void ProductList::setUpView()
+{
+    myView->setObjectName(u"products"_s);
+    myView->setAccessibleName(tr("Products"));
+    myView->setModel(&myModel);
+    myView->setItemDelegateForColumn(ProductTreeModel::FindingsColumn, new FindingBadge(this));
+    myView->setUniformRowHeights(true);
+    myView->setAlternatingRowColors(true);
+    myView->setAllColumnsShowFocus(true);
+    myView->header()->setStretchLastSection(false);
+    myView->header()->setMinimumSectionSize(0);
+    myView->header()->setSectionResizeMode(ProductTreeModel::NameColumn, QHeaderView::Stretch);
+    myView->header()->setSectionResizeMode(ProductTreeModel::FindingsColumn, QHeaderView::Fixed);
+    myView->header()->resizeSection(ProductTreeModel::FindingsColumn, FindingBadge::widthOf(0, fontMetrics()));
+    connect(myView->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &ProductList::choose);
 }
 
 void ProductList::setCatalogue(const CataloguePointer &catalogue)
@@ -63,22 +71,51 @@ void ProductList::setCatalogue(const CataloguePointer &catalogue)
     myProduct = -1;
     myModel.setCatalogue(catalogue);
     showGroups();
-    myView->resizeColumnToContents(0);
-    myView->setColumnWidth(0,
-                           qBound(fontMetrics().averageCharWidth() * 14, myView->columnWidth(0),
-                                  fontMetrics().averageCharWidth() * 22));
+    fitColumns();
     showCount();
+}
+
+void ProductList::fitColumns()
+{
+    myView->resizeColumnToContents(ProductTreeModel::TypeColumn);
+    myView->setColumnWidth(ProductTreeModel::TypeColumn,
+                           qBound(fontMetrics().averageCharWidth() * 14,
+                                  myView->columnWidth(ProductTreeModel::TypeColumn),
+                                  fontMetrics().averageCharWidth() * 22));
+    myView->setColumnHidden(ProductTreeModel::FindingsColumn, myModel.mostFindings() == 0);
+    myView->setColumnWidth(ProductTreeModel::FindingsColumn,
+                           FindingBadge::widthOf(myModel.mostFindings(), fontMetrics()));
+}
+
+void ProductList::choose(const QModelIndex &current)
+{
+    if (myIsSearching)
+        return;
+    const QVariant product = current.siblingAtColumn(0).data(ProductTreeModel::ProductRole);
+    if (!product.isValid() || product.toInt() < 0 || product.toInt() == myProduct)
+        return;
+    myProduct = product.toInt();
+    Q_EMIT productChosen(myProduct);
 }
 
 void ProductList::setCurrentProduct(int product)
 {
     if (product < 0 || product >= myModel.productCount())
         return;
+    if (!myModel.isFaulty(product))
+        myFaultyOnly->setChecked(false);
     if (!myModel.indexOfProduct(product).isValid())
         mySearch->clear();
     const QModelIndex shown = myModel.indexOfProduct(product);
     myView->setCurrentIndex(shown);
     myView->scrollTo(shown);
+}
+
+void ProductList::keepCurrentProduct(int product)
+{
+    const QScopedValueRollback<bool> searching(myIsSearching, true);
+    myProduct = product;
+    showChosen();
 }
 
 void ProductList::focusSearch()
@@ -113,11 +150,31 @@ void ProductList::search(const QString &text)
     const QScopedValueRollback<bool> searching(myIsSearching, true);
     myModel.setSearch(text);
     showGroups();
-    // A chosen product that is hidden stays the chosen one: searching is not choosing.
+    showChosen();
+    showCount();
+}
+
+void ProductList::showFaultyOnly(bool isFaultyOnly)
+{
+    const QScopedValueRollback<bool> searching(myIsSearching, true);
+    myModel.setFaultyOnly(isFaultyOnly);
+    showGroups();
+    showChosen();
+    showCount();
+}
+
+// A chosen product that is hidden stays the chosen one: searching is not choosing.
+void ProductList::showChosen()
+{
     const QModelIndex chosen = myModel.indexOfProduct(myProduct);
     myView->setCurrentIndex(chosen);
     myView->scrollTo(chosen);
-    showCount();
+}
+
+void ProductList::clearFilters()
+{
+    mySearch->clear();
+    myFaultyOnly->setChecked(false);
 }
 
 // Expands the groups one by one: to expand all would make the view remember every product as well.
@@ -135,5 +192,7 @@ void ProductList::showCount()
     const int shown = myModel.shownProductCount();
     myCount->setText(shown == all ? tr("%n product(s)", nullptr, all)
                                   : tr("%1 of %n product(s)", nullptr, all).arg(shown));
+    myClear->setText(mySearch->text().isEmpty() ? tr("No faulty product: &show all")
+                                                : tr("Nothing found: &clear the search"));
     myClear->setVisible(shown == 0 && all > 0);
 }

@@ -5,12 +5,13 @@
 
 #include <QWidget>
 
+class QCheckBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
 class QTreeView;
 
-/// The products of a catalogue, with a line to search them.
+/// The products of a catalogue, with a line to search them and a way to see the faulty ones alone.
 class ProductList : public QWidget
 {
     Q_OBJECT
@@ -20,8 +21,12 @@ public:
 
     /// No product is chosen afterwards; the search stays.
     void setCatalogue(const CataloguePointer &catalogue);
-    /// Chooses a product by its number; a search that hides it is cleared.
+    /// Chooses a product by its number; what hides it is cleared.
     void setCurrentProduct(int product);
+    /// The same product of a catalogue that was loaded again: neither is anybody told, nor is what hides it cleared.
+    void keepCurrentProduct(int product);
+    /// The number of the chosen product; -1 for none.
+    int currentProduct() const { return myProduct; }
     /// The first product that is shown; -1 where there is none.
     int firstProduct() const { return myModel.firstProduct(); }
     void focusSearch();
@@ -34,11 +39,18 @@ protected:
 
 private:
     void search(const QString &text);
+    void showFaultyOnly(bool isFaultyOnly);
+    void setUpView();
+    void choose(const QModelIndex &current);
+    void showChosen();
+    void clearFilters();
+    void fitColumns();
     void showGroups();
     void showCount();
 
     ProductTreeModel myModel;
     QLineEdit *mySearch;
+    QCheckBox *myFaultyOnly;
     QTreeView *myView;
     QPushButton *myClear; // shown where nothing is found
     QLabel *myCount;

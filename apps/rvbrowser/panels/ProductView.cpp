@@ -4,6 +4,7 @@
 #include "CatalogueServices.h"
 #include "DrawingMenu.h"
 #include "DrawingWidget.h"
+#include "FaultPlace.h"
 #include "LargeFont.h"
 #include "OptionsPanel.h"
 #include "PagePanel.h"
@@ -33,6 +34,7 @@ ProductView::ProductView(QWidget *parent)
       myTitle(new QLabel),
       myNote(new QLabel),
       myFaults(new QLabel),
+      myFault(new QLabel),
       myColumns(new QBoxLayout(QBoxLayout::LeftToRight)),
       myTexts(new QVBoxLayout),
       myDrawings(new QVBoxLayout),
@@ -64,7 +66,8 @@ void ProductView::setProduct(const CataloguePointer &catalogue, int product)
     const bool isSold = catalogue->indexOf(type) == product;
     myOffered = values.options();
     showHeader(*catalogue, product);
-    myAttributes->setProduct(values, catalogue->words());
+    myFault->hide();
+    myAttributes->setProduct(values, catalogue->words(), catalogue->check());
     myPrices->setProduct(OrderPrices(*catalogue, product));
     mySpine->setProduct(values, isSold ? CatalogueServices::pageCounts(type) : values.pageCounts());
     myPage->setProduct(values);
@@ -108,6 +111,45 @@ void ProductView::setChoice(const ProductChoice &choice)
     myOptions->setVariants(choice.variants);
 }
 
+void ProductView::showFinding(const LoadedCatalogue &catalogue, const RVCatalogueFinding &finding)
+{
+    const RVCatalogueProduct values = catalogue.product(int(finding.product()));
+    const FaultPlace place = FaultPlace::of(finding, values, catalogue.check());
+    myFault->hide();
+    QWidget *shown = place.attribute.isEmpty() ? nullptr : myAttributes->markFault(place.attribute, finding.text());
+    if (!shown)
+        shown = placeFault(place, finding.text());
+    // Labels that have new texts get their places first.
+    widget()->layout()->activate();
+    ensureWidgetVisible(shown);
+}
+
+QWidget *ProductView::placeFault(const FaultPlace &place, const QString &text)
+{
+    const QStringList pageCounts { u"pages"_s, u"max_pages"_s, u"page_step"_s, u"pieces"_s };
+    for (QVBoxLayout *layout : { myContent, myTexts, myDrawings })
+        layout->removeWidget(myFault);
+    QVBoxLayout *layout = myContent;
+    QWidget *part = myNote;
+    if (place.element == "forms"_L1) {
+        layout = myTexts;
+        part = myOptions;
+    } else if (place.element == "barcodes"_L1) {
+        layout = myDrawings;
+        part = myPage;
+    } else if (place.element == "composition"_L1 || pageCounts.contains(place.attribute)) {
+        layout = myDrawings;
+        part = mySpine;
+    }
+    layout->insertWidget(layout->indexOf(part), myFault);
+    QPalette colors = palette();
+    colors.setColor(QPalette::WindowText, PaletteColors(palette()).fault());
+    myFault->setPalette(colors);
+    myFault->setText(text);
+    myFault->show();
+    return myFault;
+}
+
 void ProductView::resizeEvent(QResizeEvent *event)
 {
     FittingScrollArea::resizeEvent(event);
@@ -121,7 +163,9 @@ void ProductView::prepareHeader()
     myNote->setObjectName(u"note"_s);
     myFaults->setObjectName(u"faults"_s);
     myFaults->setFont(largeFont(myFaults->font(), 1.1));
-    for (QLabel *label : { myTitle, myNote, myFaults }) {
+    myFault->setObjectName(u"fault"_s);
+    myFault->hide();
+    for (QLabel *label : { myTitle, myNote, myFaults, myFault }) {
         label->setTextFormat(Qt::PlainText);
         label->setWordWrap(true);
         label->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -143,11 +187,12 @@ QWidget *ProductView::createContent()
     myColumns->addLayout(myTexts, 1);
     myColumns->addLayout(myDrawings, 1);
     auto *content = new QWidget;
-    auto *layout = new QVBoxLayout(content);
-    layout->addWidget(myTitle);
-    layout->addWidget(myNote);
-    layout->addWidget(myFaults);
-    layout->addLayout(myColumns, 1);
+    myContent = new QVBoxLayout(content);
+    myContent->addWidget(myTitle);
+    myContent->addWidget(myNote);
+    myContent->addWidget(myFaults);
+    myContent->addWidget(myFault);
+    myContent->addLayout(myColumns, 1);
     return content;
 }
 

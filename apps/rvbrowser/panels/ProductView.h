@@ -16,6 +16,7 @@ class QLabel;
 class QMenu;
 class QVBoxLayout;
 class SpinePanel;
+struct FaultPlace;
 
 /// All there is to see of one product: in two columns where they have room, in one where they have not.
 class ProductView : public FittingScrollArea
@@ -32,6 +33,8 @@ public:
     ProductChoice choice() const;
     /// Leaves as it is what the product does not offer.
     void setChoice(const ProductChoice &choice);
+    /// Scrolls to where the product breaks a rule, and shows it in red there.
+    void showFinding(const LoadedCatalogue &catalogue, const RVCatalogueFinding &finding);
     void copy(OrderLinesPanel::Line line) const { myOrderLines->copy(line); }
     void copyPrices() const;
     /// The menu of each drawing.
@@ -47,6 +50,8 @@ protected:
 private:
     QWidget *createContent();
     void prepareHeader();
+    /// Puts the text of a fault above the part of the product that it is about, and returns what shows it.
+    QWidget *placeFault(const FaultPlace &place, const QString &text);
     void showHeader(const LoadedCatalogue &catalogue, int product);
     void showOrderLines();
     void showPrices();
@@ -58,6 +63,8 @@ private:
     QLabel *myTitle;
     QLabel *myNote;
     QLabel *myFaults;
+    QLabel *myFault; // where the finding that was chosen is not one of the attributes
+    QVBoxLayout *myContent; // of all that follows
     QBoxLayout *myColumns;
     QVBoxLayout *myTexts;
     QVBoxLayout *myDrawings;
