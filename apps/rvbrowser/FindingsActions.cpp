@@ -72,16 +72,16 @@ void FindingsActions::connectParts()
     connect(my.findings, &FindingsPanel::selectionChanged, this, &FindingsActions::updateSelected);
     connect(my.findings, &FindingsPanel::findingChosen, this, &FindingsActions::showInProduct);
     connect(my.findings, &FindingsPanel::editRequested, this, &FindingsActions::openInEditor);
-    connect(my.session, &CatalogueSession::catalogueChanged, this, [this] {
-        update();
-        showInProduct(my.findings->currentFinding()); // which may still be there in a file that was loaded again
-    });
+    connect(my.findings, &FindingsPanel::catalogueChanged, this, &FindingsActions::update);
+    // The chosen finding may still be there in a file that was loaded again; the product is shown before.
+    const auto showAgain = [this] { showInProduct(my.findings->currentFinding()); };
+    connect(my.session, &CatalogueSession::catalogueChanged, this, showAgain, Qt::QueuedConnection);
     connect(&myLauncher, &EditorLauncher::failed, my.banner, &MessageBanner::showMessage);
 }
 
 void FindingsActions::update()
 {
-    const CataloguePointer catalogue = my.session->catalogue();
+    const CataloguePointer catalogue = my.findings->catalogue();
     const bool hasFindings = catalogue && !catalogue->findings().isEmpty();
     myNext->setEnabled(hasFindings);
     myPrevious->setEnabled(hasFindings);
@@ -93,7 +93,7 @@ void FindingsActions::update()
 
 void FindingsActions::updateSelected()
 {
-    const QList<int> selected = my.session->catalogue() ? my.findings->selectedFindings() : QList<int>();
+    const QList<int> selected = my.findings->selectedFindings();
     myCopy->setEnabled(!selected.isEmpty());
     myApply->setEnabled(!fixable(selected).isEmpty());
 }
@@ -120,7 +120,7 @@ void FindingsActions::tell(FindingsPanel::Step step, const QString &wrapped)
 
 void FindingsActions::showInProduct(int finding)
 {
-    const CataloguePointer catalogue = my.session->catalogue();
+    const CataloguePointer catalogue = my.findings->catalogue();
     if (!catalogue || finding < 0)
         return;
     const RVCatalogueFinding &shown = catalogue->findings().at(finding);
@@ -130,7 +130,7 @@ void FindingsActions::showInProduct(int finding)
 
 void FindingsActions::copy()
 {
-    const CataloguePointer catalogue = my.session->catalogue();
+    const CataloguePointer catalogue = my.findings->catalogue();
     QStringList lines;
     for (const int finding : my.findings->selectedFindings())
         lines += findingLines(catalogue->fileName(), catalogue->findings().at(finding));
@@ -148,7 +148,7 @@ void FindingsActions::explain(bool isExplained)
 // The finding, unless another product was chosen since; then that product.
 void FindingsActions::openInEditor()
 {
-    const CataloguePointer catalogue = my.session->catalogue();
+    const CataloguePointer catalogue = my.findings->catalogue();
     if (!catalogue)
         return;
     const int product = my.products->currentProduct();
@@ -181,7 +181,7 @@ void FindingsActions::applyAllFixes()
 
 void FindingsActions::applyFixes(const QList<int> &findings)
 {
-    const CataloguePointer catalogue = my.session->catalogue();
+    const CataloguePointer catalogue = my.findings->catalogue();
     if (!catalogue || findings.isEmpty())
         return;
     const auto fail = [this, fileName = catalogue->fileName()](const QString &text) {
@@ -200,7 +200,7 @@ void FindingsActions::applyFixes(const QList<int> &findings)
 
 QList<int> FindingsActions::fixable(const QList<int> &findings) const
 {
-    const CataloguePointer catalogue = my.session->catalogue();
+    const CataloguePointer catalogue = my.findings->catalogue();
     QList<int> result;
     std::copy_if(findings.begin(), findings.end(), std::back_inserter(result),
                  [&catalogue](int finding) { return !catalogue->findings().at(finding).fix().isEmpty(); });
@@ -209,7 +209,7 @@ QList<int> FindingsActions::fixable(const QList<int> &findings) const
 
 QList<int> FindingsActions::allFindings() const
 {
-    const CataloguePointer catalogue = my.session->catalogue();
+    const CataloguePointer catalogue = my.findings->catalogue();
     QList<int> result(catalogue ? catalogue->findings().size() : 0);
     std::iota(result.begin(), result.end(), 0);
     return result;

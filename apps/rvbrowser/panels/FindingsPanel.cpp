@@ -121,6 +121,7 @@ void FindingsPanel::setCatalogue(const CataloguePointer &catalogue)
         keepCurrent(before->findings().at(finding), row);
     showState();
     fitColumns();
+    Q_EMIT catalogueChanged();
 }
 
 // Of equal findings it takes the nearest one.

@@ -31,6 +31,7 @@ public:
     /// When it is the same file again, the chosen finding stays chosen; where it is mended, the next step leads to the
     /// one that came after it. The filter and the order stay.
     void setCatalogue(const CataloguePointer &catalogue);
+    const CataloguePointer &catalogue() const { return myModel.catalogue(); }
     /// "2 errors, 1 warning, 0 notes"
     QString summary() const;
 
@@ -53,6 +54,7 @@ public:
     QSize sizeHint() const override;
 
 Q_SIGNALS:
+    void catalogueChanged();
     void productChosen(int product);
     /// Comes behind productChosen().
     void findingChosen(int finding);
