@@ -199,6 +199,10 @@ void tst_findings::filters()
     QTest::keyClick(text, Qt::Key_Escape);
     QCOMPARE(places(), (QStringList { u"3:70"_s, u"5:118"_s }));
     QCOMPARE(chosen(), u"5:118"_s); // filtering is not choosing
+    QTest::keyClicks(text, u"dun9"_s);
+    QCOMPARE(chosen(), QString());
+    text->clear();
+    QCOMPARE(chosen(), u"5:118"_s);
     QTest::mouseClick(errors, Qt::LeftButton);
     auto *rules = find<QComboBox>(u"findingRule"_s);
     QCOMPARE(rules->count(), 5);

@@ -117,6 +117,7 @@ void FindingsPanel::setCatalogue(const CataloguePointer &catalogue)
     myModel.setFilter(myFilter->filter());
     const bool isReload = before && catalogue && before->fileName() == catalogue->fileName();
     myResumeRow = isReload ? row : 0;
+    myHidden = -1;
     if (isReload && finding >= 0)
         keepCurrent(before->findings().at(finding), row);
     showState();
@@ -147,11 +148,14 @@ void FindingsPanel::fitColumns()
     myView->horizontalHeader()->setSectionResizeMode(FINDING_TEXT, QHeaderView::Stretch);
 }
 
+// A chosen finding that is hidden stays the chosen one: filtering is not choosing.
 void FindingsPanel::applyFilter()
 {
-    const QList<int> selected = selectedFindings();
-    const int current = currentFinding();
+    const bool isHidden = currentFinding() < 0 && myHidden >= 0;
+    const QList<int> selected = isHidden ? QList<int> { myHidden } : selectedFindings();
+    const int current = isHidden ? myHidden : currentFinding();
     myModel.setFilter(myFilter->filter());
+    myHidden = myModel.rowOf(current) < 0 ? current : -1;
     myResumeRow = 0;
     select(selected, current);
     showState();
@@ -298,6 +302,7 @@ QSize FindingsPanel::sizeHint() const
 
 void FindingsPanel::choose(const QModelIndex &index)
 {
+    myHidden = -1;
     const int finding = index.isValid() ? myModel.findingAt(index.row()) : -1;
     const int product = index.isValid() ? myModel.product(index.row()) : -1;
     if (product >= 0)

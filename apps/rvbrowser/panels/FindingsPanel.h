@@ -83,6 +83,7 @@ private:
     QTableView *myView;
     QTextBrowser *myExplanation;
     QSplitter *mySplitter; // of the two above
+    int myHidden = -1; // the chosen finding while the filter hides it
     int myResumeRow = 0; // where the next step leads while nothing is chosen
 };
 
