@@ -224,11 +224,11 @@ void tst_FindingsModel::countsOfProducts()
     const CataloguePointer catalogue = read(FAULTY_PRODUCTS);
     QList<int> counts;
     for (int i = 0; i < catalogue->size(); ++i)
-        counts += catalogue->at(i).findings;
+        counts += catalogue->at(i).findings.count();
     QCOMPARE(counts, (QList<int> { 1, 1, 0, 3 }));
-    QCOMPARE(catalogue->at(0).worst, RVCatalogueSeverity::Error);
-    QCOMPARE(catalogue->at(1).worst, RVCatalogueSeverity::Note);
-    QCOMPARE(catalogue->at(3).worst, RVCatalogueSeverity::Error);
+    QCOMPARE(catalogue->at(0).findings.worst(), RVCatalogueSeverity::Error);
+    QCOMPARE(catalogue->at(1).findings.worst(), RVCatalogueSeverity::Note);
+    QCOMPARE(catalogue->at(3).findings.worst(), RVCatalogueSeverity::Error);
 }
 
 void tst_FindingsModel::keepsFixes()

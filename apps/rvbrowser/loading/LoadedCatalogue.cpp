@@ -109,11 +109,8 @@ void LoadedCatalogue::append(Batch batch)
 void LoadedCatalogue::append(const RVCatalogueFinding &finding)
 {
     const qint64 product = finding.product();
-    if (product >= 0 && product < size()) {
-        Entry &entry = myEntries[product];
-        entry.worst = entry.findings == 0 ? finding.severity() : qMax(entry.worst, finding.severity());
-        ++entry.findings;
-    }
+    if (product >= 0 && product < size())
+        myEntries[product].findings.add(finding.severity());
     myFindingIndex.append(typeOf(finding), finding.text() + u'\n' + finding.rule().name());
     myFindings += shared(finding);
 }

@@ -30,6 +30,24 @@ class RVCatalogueReader;
 class LoadedCatalogue
 {
 public:
+    /// The number of findings about a product, and the worst severity of them, in as little memory as a number.
+    class FindingCount
+    {
+    public:
+        int count() const { return int(myValue / SEVERITIES); }
+        /// A note where there is no finding.
+        RVCatalogueSeverity worst() const { return RVCatalogueSeverity(myValue % SEVERITIES); }
+        void add(RVCatalogueSeverity severity)
+        {
+            myValue = quint32(count() + 1) * SEVERITIES + quint32(qMax(worst(), severity));
+        }
+
+    private:
+        static constexpr quint32 SEVERITIES = quint32(RVCatalogueSeverity::Error) + 1;
+
+        quint32 myValue = 0;
+    };
+
     struct Entry
     {
         RVProductType type;
@@ -39,8 +57,7 @@ public:
         int group = 0; // index into groups()
         int pack = 0;
         int indexInPack = 0;
-        int findings = 0; ///< how many there are about the product
-        RVCatalogueSeverity worst = RVCatalogueSeverity::Note; ///< of them
+        FindingCount findings;
     };
 
     explicit LoadedCatalogue(const QString &fileName) : myFileName(fileName) { }

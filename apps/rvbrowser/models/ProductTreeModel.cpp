@@ -19,7 +19,7 @@ void ProductTreeModel::setCatalogue(const CataloguePointer &catalogue)
     myCatalogue = catalogue;
     myMostFindings = 0;
     for (int product = 0; product < productCount(); ++product)
-        myMostFindings = qMax(myMostFindings, myCatalogue->at(product).findings);
+        myMostFindings = qMax(myMostFindings, myCatalogue->at(product).findings.count());
     fill();
     endResetModel();
 }
@@ -65,7 +65,7 @@ void ProductTreeModel::fill()
 bool ProductTreeModel::isFaulty(int product) const
 {
     const LoadedCatalogue::Entry &entry = myCatalogue->at(product);
-    return entry.findings > 0 && entry.worst != RVCatalogueSeverity::Note;
+    return entry.findings.count() > 0 && entry.findings.worst() != RVCatalogueSeverity::Note;
 }
 
 QModelIndex ProductTreeModel::indexOfProduct(int product) const
@@ -161,16 +161,16 @@ QVariant ProductTreeModel::productData(int product, int column, int role) const
 
 QVariant ProductTreeModel::findingsData(const LoadedCatalogue::Entry &entry, int role)
 {
-    if (entry.findings == 0)
+    if (entry.findings.count() == 0)
         return QVariant();
     switch (role) {
     case Qt::DisplayRole:
-        return entry.findings;
+        return entry.findings.count();
     case Qt::ToolTipRole:
     case Qt::AccessibleTextRole:
         return findingsText(entry);
     case SeverityRole:
-        return int(entry.worst);
+        return int(entry.findings.worst());
     default:
         return QVariant();
     }
@@ -178,13 +178,13 @@ QVariant ProductTreeModel::findingsData(const LoadedCatalogue::Entry &entry, int
 
 QString ProductTreeModel::findingsText(const LoadedCatalogue::Entry &entry)
 {
-    switch (entry.worst) {
+    switch (entry.findings.worst()) {
     case RVCatalogueSeverity::Note:
-        return tr("%n note(s)", nullptr, entry.findings);
+        return tr("%n note(s)", nullptr, entry.findings.count());
     case RVCatalogueSeverity::Warning:
-        return tr("%n finding(s), the worst of which is a warning", nullptr, entry.findings);
+        return tr("%n finding(s), the worst of which is a warning", nullptr, entry.findings.count());
     case RVCatalogueSeverity::Error:
         break;
     }
-    return tr("%n finding(s), the worst of which is an error", nullptr, entry.findings);
+    return tr("%n finding(s), the worst of which is an error", nullptr, entry.findings.count());
 }
