@@ -1,4 +1,5 @@
 #include "CatalogueFile.h"
+#include "ComparedProduct.h"
 #include "DiffWriter.h"
 #include "SubCommands.h"
 
@@ -162,7 +163,8 @@ int diffCommand(const QStringList &arguments, const Console &console)
     const QString problem = refusal(format, isGit, parser.positionalArguments());
     if (!problem.isEmpty())
         return refuseArguments(arguments.constFirst(), problem, console);
-    const auto writer = DiffWriter::create(format, hasColor(when, isGit, console), console);
+    const auto write = [&console](const QString &text) { console.write(text.toStdString()); };
+    const auto writer = DiffWriter::create(format, hasColor(when, isGit, console), write);
     if (isGit)
         return compareForGit(parser.positionalArguments(), writer.get(), parser.isSet(exitCodeOption), console);
     return compareFiles(parser.positionalArguments(), writer.get(), console);

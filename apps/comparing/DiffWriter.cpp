@@ -1,5 +1,8 @@
 #include "DiffWriter.h"
 
+#include "ComparedProduct.h"
+#include "DiffTexts.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -10,53 +13,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qsizetype LINE_WIDTH = 80;
-
-/// Texts of a catalogue may have line ends, and characters that control a terminal.
-QString printable(QString text)
-{
-    for (QChar &character : text) {
-        if (!character.isPrint() && !character.isSurrogate())
-            character = u' ';
-    }
-    return text;
-}
-
-QString summaryText(const RVComparisonCounts &counts)
-{
-    QString text = u"%1 added, %2 removed, %3 changed"_s.arg(counts.added).arg(counts.removed).arg(counts.changed);
-    if (counts.renamed > 0)
-        text += u" (%1 renamed)"_s.arg(counts.renamed);
-    return text + u", %1 equal"_s.arg(counts.equal);
-}
-
-/// The type and the name of a product, and the other type where it was renamed.
-QString productText(const RVProductComparison &product)
-{
-    QString text = product.product().type().orderTxtName();
-    if (product.isRenamed())
-        text = product.oldProduct().type().orderTxtName() + " -> "_L1 + text;
-    const QString name = product.product().name();
-    return printable(name.isEmpty() ? text : text + R"( ")"_L1 + name + u'"');
-}
-
-QString articleText(const RVCatalogueProduct &product)
-{
-    return product.articleId().isValid() ? "article "_L1 + product.articleId().toString() : u"no article"_s;
-}
-
-QChar marker(RVChangeKind kind)
-{
-    switch (kind) {
-    case RVChangeKind::Added:
-        return u'+';
-    case RVChangeKind::Removed:
-        return u'-';
-    case RVChangeKind::Changed:
-    case RVChangeKind::None:
-        break;
-    }
-    return u'~';
-}
 
 /// Fills lines with the words of a text that begins with a marker, the first behind so many blanks; a word that is too
 /// long is broken.
@@ -85,29 +41,29 @@ QStringList wrapped(const QString &text, qsizetype indentation)
 class TextDiffWriter : public DiffWriter
 {
 public:
-    TextDiffWriter(bool hasColor, const Console &console) : DiffWriter(console), myHasColor(hasColor) { }
+    TextDiffWriter(bool hasColor, const Output &output) : DiffWriter(output), myHasColor(hasColor) { }
 
-    void product(const RVProductComparison &product) override
+    void product(const ComparedProduct &product) override
     {
-        const RVChangeKind kind = product.kind();
-        QString text = marker(kind) + u' ' + productText(product);
+        const RVChangeKind kind = product.kind;
+        QString text = DiffTexts::marker(kind) + u' ' + DiffTexts::product(product);
         if (kind != RVChangeKind::Changed)
-            text += ", "_L1 + articleText(product.product());
+            text += ", "_L1 + DiffTexts::article(product.articleId);
         writeLines(wrapped(text, 0), kind, true);
-        for (const RVProductChange &change : product.changes())
+        for (const RVProductChange &change : product.changes)
             writeChange(change);
     }
 
-    void end(const RVComparisonCounts &counts) override { write(summaryText(counts) + u'\n'); }
+    void end(const RVComparisonCounts &counts) override { write(DiffTexts::summary(counts) + u'\n'); }
 
 private:
     void writeChange(const RVProductChange &change) const
     {
         constexpr qsizetype indentation = 2;
         const RVChangeKind kind = change.kind();
-        const QString label = marker(kind) + u' ' + printable(change.label()) + u':';
-        const QString oldText = printable(change.oldValue().text);
-        const QString newText = printable(change.newValue().text);
+        const QString label = DiffTexts::marker(kind) + u' ' + DiffTexts::printable(change.label()) + u':';
+        const QString oldText = DiffTexts::printable(change.oldValue().text);
+        const QString newText = DiffTexts::printable(change.newValue().text);
         if (kind != RVChangeKind::Changed)
             return writeLines(wrapped(label + u' ' + oldText + newText, indentation), kind);
         constexpr auto arrow = " -> "_L1;
@@ -146,7 +102,7 @@ private:
 class JsonDiffWriter : public DiffWriter
 {
 public:
-    explicit JsonDiffWriter(const Console &console) : DiffWriter(console) { }
+    explicit JsonDiffWriter(const Output &output) : DiffWriter(output) { }
 
     void begin(const QString &oldName, const QString &newName) override
     {
@@ -155,7 +111,7 @@ public:
         write(names + R"(,"products":[)"_L1);
     }
 
-    void product(const RVProductComparison &product) override
+    void product(const ComparedProduct &product) override
     {
         write((myIsFirst ? u"\n"_s : u",\n"_s) + json(object(product)));
         myIsFirst = false;
@@ -178,29 +134,28 @@ private:
         return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
     }
 
-    static QJsonObject object(const RVProductComparison &product)
+    static QJsonObject object(const ComparedProduct &product)
     {
-        const RVCatalogueProduct shown = product.product();
         QJsonArray changes;
-        for (const RVProductChange &change : product.changes())
+        for (const RVProductChange &change : product.changes)
             changes += object(change);
-        return { { u"article_id"_s, shown.articleId().isValid() ? shown.articleId().id() : QJsonValue() },
-                 { u"change"_s, rvChangeKindName(product.kind()) },
+        const bool isAdded = product.kind == RVChangeKind::Added;
+        const bool isRemoved = product.kind == RVChangeKind::Removed;
+        return { { u"article_id"_s, product.articleId.isValid() ? product.articleId.id() : QJsonValue() },
+                 { u"change"_s, rvChangeKindName(product.kind) },
                  { u"changes"_s, changes },
-                 { u"name"_s, shown.name() },
-                 { u"new"_s, version(product.newProduct(), product.newPosition()) },
-                 { u"old"_s, version(product.oldProduct(), product.oldPosition()) },
-                 { u"renamed"_s, product.isRenamed() },
-                 { u"type"_s, shown.type().toString() } };
+                 { u"name"_s, product.name },
+                 { u"new"_s, isRemoved ? QJsonValue() : version(product.newType, product.newPosition) },
+                 { u"old"_s, isAdded ? QJsonValue() : version(product.oldType, product.oldPosition) },
+                 { u"renamed"_s, product.isRenamed },
+                 { u"type"_s, product.type().toString() } };
     }
 
-    static QJsonValue version(const RVCatalogueProduct &product, const RVFilePosition &position)
+    static QJsonValue version(const RVProductType &type, const RVFilePosition &position)
     {
-        if (product.isNull())
-            return QJsonValue();
         return QJsonObject { { u"column"_s, position.column },
                              { u"line"_s, position.line },
-                             { u"type"_s, product.type().toString() } };
+                             { u"type"_s, type.toString() } };
     }
 
     static QJsonObject object(const RVProductChange &change)
@@ -219,26 +174,26 @@ private:
 class MarkdownDiffWriter : public DiffWriter
 {
 public:
-    explicit MarkdownDiffWriter(const Console &console) : DiffWriter(console) { }
+    explicit MarkdownDiffWriter(const Output &output) : DiffWriter(output) { }
 
-    void product(const RVProductComparison &product) override
+    void product(const ComparedProduct &product) override
     {
         if (myIsFirst)
             write(u"| Product | What | Old | New |\n| --- | --- | --- | --- |\n"_s);
         myIsFirst = false;
-        const QString name = productText(product);
-        const QString article = articleText(product.product());
-        if (product.kind() == RVChangeKind::Added)
-            writeRow({ name, u"added"_s, QString(), article });
-        if (product.kind() == RVChangeKind::Removed)
-            writeRow({ name, u"removed"_s, article, QString() });
-        for (const RVProductChange &change : product.changes())
+        const QString name = DiffTexts::product(product);
+        const QString article = DiffTexts::article(product.articleId);
+        if (product.kind == RVChangeKind::Added)
+            writeRow({ name, DiffTexts::kind(product), QString(), article });
+        if (product.kind == RVChangeKind::Removed)
+            writeRow({ name, DiffTexts::kind(product), article, QString() });
+        for (const RVProductChange &change : product.changes)
             writeRow({ name, change.label(), change.oldValue().text, change.newValue().text });
     }
 
     void end(const RVComparisonCounts &counts) override
     {
-        write((myIsFirst ? QString() : u"\n"_s) + summaryText(counts) + u'\n');
+        write((myIsFirst ? QString() : u"\n"_s) + DiffTexts::summary(counts) + u'\n');
     }
 
 private:
@@ -246,7 +201,7 @@ private:
     {
         QString row = u"|"_s;
         for (const QString &cell : cells)
-            row += u' ' + escaped(printable(cell)) + " |"_L1;
+            row += u' ' + escaped(DiffTexts::printable(cell)) + " |"_L1;
         write(row + u'\n');
     }
 
@@ -267,14 +222,14 @@ private:
 
 }
 
-std::unique_ptr<DiffWriter> DiffWriter::create(const QString &format, bool hasColor, const Console &console)
+std::unique_ptr<DiffWriter> DiffWriter::create(const QString &format, bool hasColor, const Output &output)
 {
     if (format == "text"_L1)
-        return std::make_unique<TextDiffWriter>(hasColor, console);
+        return std::make_unique<TextDiffWriter>(hasColor, output);
     if (format == "json"_L1)
-        return std::make_unique<JsonDiffWriter>(console);
+        return std::make_unique<JsonDiffWriter>(output);
     if (format == "markdown"_L1)
-        return std::make_unique<MarkdownDiffWriter>(console);
+        return std::make_unique<MarkdownDiffWriter>(output);
     return nullptr;
 }
 
