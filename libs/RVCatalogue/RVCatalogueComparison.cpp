@@ -121,6 +121,7 @@ public:
     void finish();
 
     RVProductComparison next();
+    qint64 remaining() const { return qint64(myRows.size() - myNextRow); }
 
     RVComparisonCounts counts;
     bool hasError = false;
@@ -296,6 +297,11 @@ bool RVCatalogueComparison::hasError() const
 RVProductComparison RVCatalogueComparison::next()
 {
     return d->next();
+}
+
+qint64 RVCatalogueComparison::remaining() const
+{
+    return d->remaining();
 }
 
 RVComparisonCounts RVCatalogueComparison::counts() const

@@ -60,6 +60,8 @@ public:
     /// The next product that differs, in the order of the new catalogue, removed ones behind the product that stood
     /// before them; a null one at the end.
     RVProductComparison next();
+    /// The most products that next() still hands out, so that a program can show how far it is; 0 at the end.
+    qint64 remaining() const;
     /// So far; complete at the end.
     RVComparisonCounts counts() const;
 

@@ -107,6 +107,7 @@ private Q_SLOTS:
     void familiesCount();
     void largeProducts();
     void manyProducts();
+    void remaining();
     void randomCatalogueEqualsItself();
     void oneChangedValue();
 };
@@ -265,6 +266,20 @@ void tst_RVCatalogueComparison::manyProducts()
              (QStringList { u"changed T3 pages.lowest pages.highest pages.counts pages.counts"_s,
                             u"changed T10 pages.lowest pages.highest pages.counts pages.counts"_s }));
     QCOMPARE(result.products.indexOf(u"removed T50"_s), 7);
+}
+
+void tst_RVCatalogueComparison::remaining()
+{
+    CatalogueBuffer oldFile(catalogue({ "A", "B", "C" }));
+    CatalogueBuffer newFile(catalogue({ "C", "D", "E" }));
+    RVCatalogueReader oldReader(&oldFile);
+    RVCatalogueReader newReader(&newFile);
+    RVCatalogueComparison comparison(&oldReader, &newReader);
+    QList<qint64> remaining { comparison.remaining() };
+    while (!comparison.next().isNull())
+        remaining += comparison.remaining();
+    QCOMPARE(remaining, QList<qint64>({ 4, 3, 2, 1, 0 }));
+    QCOMPARE(RVCatalogueComparison(nullptr, nullptr).remaining(), 0);
 }
 
 void tst_RVCatalogueComparison::randomCatalogueEqualsItself()
