@@ -2,46 +2,15 @@
 
 #include "LoadThread.h"
 
-CatalogueLoader::~CatalogueLoader()
+void CatalogueLoader::start(const QString &fileName, const std::shared_ptr<FileCopy> &copy)
 {
-    const auto threads = findChildren<LoadThread *>();
-    for (LoadThread *thread : threads)
-        thread->requestInterruption();
-    for (LoadThread *thread : threads)
-        thread->wait();
+    run(new LoadThread(fileName, copy, this));
 }
 
-void CatalogueLoader::start(const QString &fileName)
+bool CatalogueLoader::take(ReadThread *thread)
 {
-    if (myThread)
-        myThread->requestInterruption();
-    auto *thread = new LoadThread(fileName, this);
-    myThread = thread;
-    connect(thread, &LoadThread::progressed, this, [this, thread](int percent) {
-        if (thread == myThread)
-            Q_EMIT progressed(percent);
-    });
-    connect(thread, &LoadThread::finished, this, [this, thread] { finish(thread); });
-    thread->start();
-}
-
-void CatalogueLoader::cancel()
-{
-    if (myThread)
-        myThread->requestInterruption();
-}
-
-// A thread that another one has taken the place of ends in silence.
-void CatalogueLoader::finish(LoadThread *thread)
-{
-    thread->deleteLater();
-    if (thread != myThread)
-        return;
-    myThread = nullptr;
-    if (thread->catalogue())
-        Q_EMIT loaded(thread->catalogue());
-    else if (const std::optional<LoadError> error = thread->error())
-        Q_EMIT failed(*error);
-    else
-        Q_EMIT cancelled();
+    const CataloguePointer catalogue = static_cast<LoadThread *>(thread)->catalogue();
+    if (catalogue)
+        Q_EMIT loaded(catalogue);
+    return catalogue != nullptr;
 }

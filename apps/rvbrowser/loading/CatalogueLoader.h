@@ -1,41 +1,27 @@
 #ifndef CATALOGUELOADER_H
 #define CATALOGUELOADER_H
 
-#include "LoadError.h"
+#include "FileCopy.h"
 #include "LoadedCatalogue.h"
-
-#include <QObject>
-
-class LoadThread;
+#include "ReadLoader.h"
 
 /// Loads catalogues in a thread of its own, one at a time.
-class CatalogueLoader : public QObject
+class CatalogueLoader : public ReadLoader
 {
     Q_OBJECT
 
 public:
-    using QObject::QObject;
-    /// Gives up what is being loaded.
-    ~CatalogueLoader() override;
+    using ReadLoader::ReadLoader;
 
-    /// Begins to load; gives up without a signal what is being loaded.
-    void start(const QString &fileName);
-    /// Gives up what is being loaded, if anything; cancelled() follows.
-    void cancel();
-    bool isLoading() const { return myThread; }
+    /// Begins to load; gives up without a signal what is being loaded. What is read is copied into @p copy, unless that
+    /// is null.
+    void start(const QString &fileName, const std::shared_ptr<FileCopy> &copy = nullptr);
 
 Q_SIGNALS:
-    /// From 0 to 100.
-    void progressed(int percent);
     void loaded(const CataloguePointer &catalogue);
-    /// The file cannot be read, or not to its end.
-    void failed(const LoadError &error);
-    void cancelled();
 
-private:
-    void finish(LoadThread *thread);
-
-    LoadThread *myThread = nullptr;
+protected:
+    bool take(ReadThread *thread) override;
 };
 
 #endif

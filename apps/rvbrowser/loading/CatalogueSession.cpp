@@ -14,22 +14,34 @@ CatalogueSession::CatalogueSession(QObject *parent) : QObject(parent)
 
 void CatalogueSession::open(const QString &fileName)
 {
-    myFileName = fileName;
-    myStamp = CatalogueStamp::of(fileName);
-    myLoader.start(fileName);
-    Q_EMIT started(fileName);
+    load(fileName, std::make_shared<FileCopy>(fileName));
 }
 
 void CatalogueSession::reload()
 {
     const QString fileName = catalogue() && !isLoading() ? catalogue()->fileName() : myFileName;
-    if (!fileName.isEmpty())
+    if (fileName.isEmpty())
+        return;
+    if (myOriginal && myOriginal->source() == fileName)
+        load(fileName, nullptr);
+    else
         open(fileName);
+}
+
+void CatalogueSession::load(const QString &fileName, const std::shared_ptr<FileCopy> &copy)
+{
+    myFileName = fileName;
+    myStamp = CatalogueStamp::of(fileName);
+    myCopy = copy;
+    myLoader.start(fileName, copy);
+    Q_EMIT started(fileName);
 }
 
 void CatalogueSession::take(const CataloguePointer &catalogue)
 {
     myServices.setCatalogue(catalogue);
+    if (myCopy)
+        myOriginal = std::exchange(myCopy, nullptr);
     myHasMissedChange = false;
     Q_EMIT ended();
     Q_EMIT catalogueChanged();
@@ -38,6 +50,7 @@ void CatalogueSession::take(const CataloguePointer &catalogue)
 
 void CatalogueSession::fail(const LoadError &error)
 {
+    myCopy = nullptr;
     Q_EMIT ended();
     Q_EMIT failed(error);
     // While nothing else is open, this is the file that somebody is mending.
@@ -48,6 +61,7 @@ void CatalogueSession::fail(const LoadError &error)
 
 void CatalogueSession::giveUp()
 {
+    myCopy = nullptr;
     Q_EMIT ended();
     catchUp();
 }

@@ -22,6 +22,8 @@ public:
     bool isLoading() const { return myLoader.isLoading(); }
     /// Null until one was loaded.
     CataloguePointer catalogue() const { return myServices.catalogue(); }
+    /// The open file as it was when it was opened, whatever became of it since; null until one was loaded.
+    std::shared_ptr<const FileCopy> original() const { return myOriginal; }
 
 Q_SIGNALS:
     void started(const QString &fileName);
@@ -34,6 +36,7 @@ Q_SIGNALS:
     void vanished(const QString &fileName);
 
 private:
+    void load(const QString &fileName, const std::shared_ptr<FileCopy> &copy);
     void take(const CataloguePointer &catalogue);
     void fail(const LoadError &error);
     void giveUp();
@@ -45,6 +48,8 @@ private:
     CatalogueWatcher myWatcher;
     QString myFileName; // what was to be loaded last
     CatalogueStamp myStamp; // when loading began
+    std::shared_ptr<FileCopy> myOriginal;
+    std::shared_ptr<FileCopy> myCopy; // of what is being loaded; null while a file is only loaded again
     bool myHasMissedChange = false; // of the open file, while another one was being loaded
 };
 

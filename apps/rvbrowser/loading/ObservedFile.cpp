@@ -1,5 +1,7 @@
 #include "ObservedFile.h"
 
+#include "FileCopy.h"
+
 ObservedFile::ObservedFile(const QString &fileName, const std::function<bool(int)> &progressed)
     : QFile(fileName),
       myProgressed(progressed)
@@ -12,5 +14,7 @@ qint64 ObservedFile::readData(char *data, qint64 maxSize)
         return -1;
     const qint64 count = QFile::readData(data, maxSize);
     myRead += qMax(qint64(0), count);
+    if (myCopy && count > 0)
+        myCopy->append(data, count);
     return count;
 }

@@ -5,11 +5,16 @@
 
 #include <functional>
 
+class FileCopy;
+
 /// A file that tells with every read how far it was read, and that ends for whoever reads it when the answer is false.
 class ObservedFile : public QFile
 {
 public:
     ObservedFile(const QString &fileName, const std::function<bool(int percent)> &progressed);
+
+    /// Gets all that is read from now on; it outlives the file. Null for none.
+    void setCopy(FileCopy *copy) { myCopy = copy; }
 
 protected:
     qint64 readData(char *data, qint64 maxSize) override;
@@ -17,6 +22,7 @@ protected:
 private:
     std::function<bool(int)> myProgressed;
     qint64 myRead = 0;
+    FileCopy *myCopy = nullptr;
 };
 
 #endif

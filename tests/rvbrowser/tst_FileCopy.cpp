@@ -1,0 +1,116 @@
+#include <FileCopy.h>
+#include <ObservedFile.h>
+
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray contentOf(const QString &fileName)
+{
+    QFile file(fileName);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
+}
+
+}
+
+class tst_FileCopy : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void keepsTheBytes();
+    void copiesWhatIsRead();
+    void isPrivate();
+    void goesWithTheObject();
+    void nothingToCopy();
+    void noRoom();
+};
+
+void tst_FileCopy::keepsTheBytes()
+{
+    FileCopy copy(u"source.xml"_s);
+    copy.append("ab\0c", 4);
+    copy.append("", 0);
+    copy.append("d\n", 2);
+    copy.finish();
+    QCOMPARE(contentOf(copy.fileName()), QByteArray("ab\0cd\n", 6));
+    QCOMPARE(copy.source(), u"source.xml"_s);
+    QCOMPARE(copy.errorString(), QString());
+}
+
+// In pieces of any size, and once, though the file changes meanwhile.
+void tst_FileCopy::copiesWhatIsRead()
+{
+    QTemporaryDir folder;
+    const QString fileName = folder.filePath(u"c.xml"_s);
+    const QByteArray content = QByteArray("<products/>\n").repeated(20000);
+    QFile source(fileName);
+    QVERIFY(source.open(QIODevice::WriteOnly) && source.write(content) == content.size());
+    source.close();
+    FileCopy copy(fileName);
+    ObservedFile file(fileName, [](int) { return true; });
+    file.setCopy(&copy);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    for (qint64 size = 1; !file.atEnd(); size = size * 3 + 1)
+        file.read(size);
+    copy.finish();
+    QVERIFY(source.open(QIODevice::WriteOnly) && source.write("another") == 7);
+    source.close();
+    QCOMPARE(contentOf(copy.fileName()), content);
+}
+
+// A catalogue may be nobody else's business.
+void tst_FileCopy::isPrivate()
+{
+    FileCopy copy(u"source.xml"_s);
+    copy.append("a", 1);
+    copy.finish();
+    const QFileDevice::Permissions others = QFileDevice::ReadGroup | QFileDevice::WriteGroup | QFileDevice::ReadOther
+            | QFileDevice::WriteOther;
+    QVERIFY(QFileInfo::exists(copy.fileName()));
+    QCOMPARE(QFile::permissions(copy.fileName()) & others, QFileDevice::Permissions());
+}
+
+void tst_FileCopy::goesWithTheObject()
+{
+    QString fileName;
+    {
+        FileCopy copy(u"source.xml"_s);
+        copy.append("a", 1);
+        copy.finish();
+        fileName = copy.fileName();
+        QVERIFY(QFileInfo::exists(fileName));
+    }
+    QVERIFY(!QFileInfo::exists(fileName));
+}
+
+void tst_FileCopy::nothingToCopy()
+{
+    FileCopy copy(u"source.xml"_s);
+    copy.finish();
+    QCOMPARE(copy.fileName(), QString());
+    QCOMPARE(copy.errorString(), QString());
+}
+
+void tst_FileCopy::noRoom()
+{
+    const QByteArray before = qgetenv("TMPDIR");
+    QTemporaryDir folder;
+    qputenv("TMPDIR", QFile::encodeName(folder.path()));
+    FileCopy copy(u"source.xml"_s);
+    before.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
+    QVERIFY(folder.remove());
+    copy.append("a", 1);
+    QVERIFY(!copy.errorString().isEmpty());
+    copy.append("b", 1);
+    copy.finish();
+    QCOMPARE(copy.fileName(), QString());
+}
+
+QTEST_GUILESS_MAIN(tst_FileCopy)
+#include "tst_FileCopy.moc"
