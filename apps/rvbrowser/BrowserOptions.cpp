@@ -30,6 +30,7 @@ BrowserOptions::BrowserOptions(const QStringList &arguments)
             { { u"h"_s, u"help"_s }, u"Displays this help."_s },
             { u"version"_s, u"Displays the version."_s },
             { u"product"_s, u"Begin with this product type."_s, u"TYPE"_s },
+            { u"compare"_s, u"Show what has changed since this catalogue, which is the old one."_s, u"OLD.xml"_s },
             { u"screenshot"_s, u"Write a picture of the window and end; needs no display."_s, u"OUT.png"_s },
             { u"size"_s, u"Size of the window in pixels, such as 1280x800."_s, u"WxH"_s },
             { u"palette"_s, u"Colours: light or dark; those of the desktop without it."_s, u"NAME"_s },
@@ -59,6 +60,8 @@ QString BrowserOptions::check() const
         return u"there is no language \"%1\"; there are: de, en"_s.arg(language());
     if (myParser.positionalArguments().size() > 1)
         return u"expected at most 1 catalogue, got %1"_s.arg(myParser.positionalArguments().size());
+    if (isComparison() && catalogue().isEmpty() && !isHelp() && !isVersion())
+        return u"a comparison needs a catalogue to compare \"%1\" with"_s.arg(compared());
     if (isScreenshot() && !isPicture(screenshot()))
         return u"a screenshot is a PNG; let the name \"%1\" end in .png"_s.arg(screenshot());
     if (isScreenshot() && catalogue().isEmpty() && !isHelp() && !isVersion())

@@ -23,6 +23,8 @@ public:
 
     bool isScreenshot() const { return myParser.isSet(QStringLiteral("screenshot")); }
     QString screenshot() const { return myParser.value(QStringLiteral("screenshot")); }
+    bool isComparison() const { return myParser.isSet(QStringLiteral("compare")); }
+    QString compared() const { return myParser.value(QStringLiteral("compare")); } ///< The old catalogue.
     QString product() const { return myParser.value(QStringLiteral("product")); }
     QString palette() const { return myParser.value(QStringLiteral("palette")); } ///< "light", "dark" or empty
     QString language() const { return myParser.value(QStringLiteral("language")); } ///< "de", "en" or empty

@@ -1,5 +1,6 @@
 #include "MainWindow.h"
 
+#include "ComparisonActions.h"
 #include "FindingsActions.h"
 #include "FindingsDock.h"
 #include "FindingsPanel.h"
@@ -56,9 +57,10 @@ MainWindow::MainWindow(const QString &settingsFile, QWidget *parent)
       myFindings(new FindingsPanel),
       myFindingsDock(new FindingsDock(tr("Findings"), myFindings, this)),
       mySummary(new QLabel),
-      myProgress(new LoadProgress),
+      myProgress(new LoadProgress(u"progress"_s)),
       myCancel(new QAction(themeIcon("process-stop", QStyle::SP_BrowserStop), tr("&Cancel loading"), this)),
-      myRecentMenu(new RecentFilesMenu(&myRecentFiles, this))
+      myRecentMenu(new RecentFilesMenu(&myRecentFiles, this)),
+      myComparison(new ComparisonActions(&mySession, this))
 {
     setWindowTitle(QApplication::applicationName());
     setAcceptDrops(true);
@@ -67,6 +69,7 @@ MainWindow::MainWindow(const QString &settingsFile, QWidget *parent)
     mySummary->setObjectName(u"summary"_s);
     statusBar()->addWidget(myProgress);
     statusBar()->addPermanentWidget(mySummary);
+    tabifyDockWidget(myFindingsDock, myComparison->dock());
     connectSession();
     resize(USUAL_SIZE);
     restoreState();
@@ -166,6 +169,7 @@ void MainWindow::createMenus()
     menuBar()->addMenu(createViewMenu());
     const auto *findings = new FindingsActions({ this, &mySession, myFindings, myProducts, myView, myBanner });
     menuBar()->addMenu(findings->menu());
+    myComparison->addTo(menuBar());
     QMenu *help = menuBar()->addMenu(tr("&Help"));
     help->addAction(themeIcon("help-about"), tr("&About"), this, &MainWindow::showAbout);
 }
@@ -242,6 +246,9 @@ void MainWindow::connectSession()
     connect(&mySession, &CatalogueSession::catalogueChanged, this, &MainWindow::showCatalogue);
     connect(&mySession, &CatalogueSession::failed, this, &MainWindow::showError);
     connect(&mySession, &CatalogueSession::vanished, this, &MainWindow::showVanished);
+    connect(myComparison, &ComparisonActions::productChosen, myProducts, &ProductList::setCurrentProduct);
+    connect(myComparison, &ComparisonActions::singleProductChosen, this, &MainWindow::showSingleProduct);
+    connect(myComparison, &ComparisonActions::messageChanged, this, &MainWindow::showComparisonMessage);
     connect(myProgress, &LoadProgress::cancelRequested, &mySession, &CatalogueSession::cancel);
 }
 
@@ -323,6 +330,22 @@ void MainWindow::showVanished(const QString &fileName)
 {
     myBanner->showMessage(tr("%1 is gone. It is loaded again when it comes back.").arg(fileName) + u'\n'
                           + tr("What was loaded before is still shown."));
+}
+
+void MainWindow::showSingleProduct(const CataloguePointer &catalogue, int product, const QString &note)
+{
+    myProducts->clearCurrentProduct();
+    myChoices.leave();
+    myView->setSingleProduct(catalogue, product, note);
+}
+
+// What is shown of anything else stays.
+void MainWindow::showComparisonMessage(const QString &text, const QString &before)
+{
+    if (!text.isEmpty())
+        myBanner->showMessage(text);
+    else if (myBanner->text() == before)
+        myBanner->hide();
 }
 
 void MainWindow::showProduct(int product)

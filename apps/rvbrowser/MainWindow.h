@@ -8,6 +8,7 @@
 
 #include <QMainWindow>
 
+class ComparisonActions;
 class FindingsDock;
 class FindingsPanel;
 class LoadProgress;
@@ -33,8 +34,11 @@ public:
     explicit MainWindow(const QString &settingsFile = QString(), QWidget *parent = nullptr);
 
     CatalogueSession *session() { return &mySession; }
+    ComparisonActions *comparison() { return myComparison; }
     /// Shows the first product of the type; false where there is none.
     bool showType(const RVProductType &type);
+    /// The place and the text of an error in one line.
+    static QString errorText(const LoadError &error);
     /// Does so once a catalogue is loaded, and says so where there is none.
     void beginWith(const RVProductType &type);
 
@@ -58,10 +62,11 @@ private:
     void showCatalogue();
     void showFirst(const LoadedCatalogue &catalogue);
     void showProduct(int product);
+    void showSingleProduct(const CataloguePointer &catalogue, int product, const QString &note);
+    void showComparisonMessage(const QString &text, const QString &before);
     void showConfiguration(const RVCheckConfiguration &configuration);
     void showError(const LoadError &error);
     void showVanished(const QString &fileName);
-    static QString errorText(const LoadError &error);
 
     Settings mySettings;
     RecentFiles myRecentFiles;
@@ -79,6 +84,7 @@ private:
     LoadProgress *myProgress;
     QAction *myCancel;
     RecentFilesMenu *myRecentMenu;
+    ComparisonActions *myComparison;
     QString myFileName; // whose products are shown
     RVProductType myType; // of the product that is shown
 };

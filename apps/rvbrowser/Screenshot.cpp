@@ -1,5 +1,6 @@
 #include "Screenshot.h"
 
+#include "ComparisonActions.h"
 #include "MainWindow.h"
 
 #include <QApplication>
@@ -33,6 +34,9 @@ Screenshot::Screenshot(MainWindow *window, const QString &fileName, const RVProd
     // After the window, which shows the catalogue first.
     connect(window->session(), &CatalogueSession::catalogueChanged, this, &Screenshot::take, Qt::QueuedConnection);
     connect(window->session(), &CatalogueSession::failed, this, &Screenshot::failToLoad);
+    const ComparisonSession *comparison = window->comparison()->session();
+    connect(comparison, &ComparisonSession::changed, this, &Screenshot::take, Qt::QueuedConnection);
+    connect(comparison, &ComparisonSession::failed, this, &Screenshot::failToLoad);
 }
 
 void Screenshot::failToLoad(const LoadError &error)
@@ -47,7 +51,9 @@ void Screenshot::take()
         fail(1, u"rvbrowser: the catalogue has no product of type \"%1\""_s.arg(myType.toString()));
         return;
     }
-    myLayoutTimer.start(LAYOUT_TIME);
+    const ComparisonSession *comparison = myWindow->comparison()->session();
+    if (!comparison->isActive() || comparison->comparison())
+        myLayoutTimer.start(LAYOUT_TIME);
 }
 
 void Screenshot::save()

@@ -9,8 +9,8 @@
 class MainWindow;
 struct LoadError;
 
-/// Takes a picture of the window once its catalogue is loaded, and ends the program: with 0, with 1 when the catalogue
-/// has no such product, with 2 when a file cannot be read or written.
+/// Takes a picture of the window once its catalogue is loaded, and compared where that was asked for, and ends the
+/// program: with 0, with 1 when the catalogue has no such product, with 2 when a file cannot be read or written.
 class Screenshot : public QObject
 {
     Q_OBJECT

@@ -1,4 +1,5 @@
 #include "BrowserOptions.h"
+#include "ComparisonActions.h"
 #include "Language.h"
 #include "MainWindow.h"
 #include "PaletteColors.h"
@@ -29,6 +30,8 @@ int runWindow(const BrowserOptions &options)
     MainWindow window(options.isScreenshot() ? QString() : Settings::usualFileName());
     if (options.size())
         window.resize(*options.size());
+    if (options.isComparison())
+        window.comparison()->session()->compareWith(options.compared());
     if (options.isScreenshot()) {
         new Screenshot(&window, options.screenshot(), RVProductType(options.product()));
     } else if (!options.product().isEmpty()) {

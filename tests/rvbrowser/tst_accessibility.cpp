@@ -1,3 +1,4 @@
+#include <ComparisonActions.h>
 #include <Language.h>
 #include <MainWindow.h>
 
@@ -5,6 +6,7 @@
 #include <QApplication>
 #include <QLocale>
 #include <QSignalSpy>
+#include <QTemporaryFile>
 #include <QTest>
 
 #include <memory>
@@ -57,6 +59,7 @@ private Q_SLOTS:
     void cleanup();
     void everyControlHasAName_data();
     void everyControlHasAName();
+    void everyControlOfAComparisonHasAName();
     void drawingsAreDescribed();
 
 private:
@@ -126,6 +129,25 @@ void tst_accessibility::everyControlHasAName()
     walk(window);
     QCOMPARE(myNameless, QStringList());
     QVERIFY2(myControls >= leastControls, qPrintable(QString::number(myControls)));
+}
+
+void tst_accessibility::everyControlOfAComparisonHasAName()
+{
+    QTemporaryFile empty;
+    QVERIFY(empty.open());
+    empty.write("<products/>");
+    empty.close();
+    myWindow = std::make_unique<MainWindow>();
+    myWindow->show();
+    ComparisonSession *session = myWindow->comparison()->session();
+    QSignalSpy changed(session, &ComparisonSession::changed);
+    session->compareWith(empty.fileName());
+    myWindow->session()->open(QString::fromUtf8(SAMPLE));
+    QVERIFY(changed.wait(20000));
+    QVERIFY(session->comparison()->size() > 0);
+    walk(QAccessible::queryAccessibleInterface(myWindow.get()));
+    QCOMPARE(myNameless, QStringList());
+    QVERIFY(myControls > 14);
 }
 
 void tst_accessibility::drawingsAreDescribed()

@@ -1,5 +1,6 @@
 #include "ManyProducts.h"
 
+#include <ComparisonActions.h>
 #include <Language.h>
 #include <MainWindow.h>
 
@@ -30,6 +31,7 @@ private:
     void turn();
     void resize();
     void reload();
+    void compare();
 
     QRandomGenerator myRandom { 260570 };
     std::unique_ptr<MainWindow> myWindow;
@@ -41,9 +43,10 @@ namespace {
 constexpr int EVENTS = 2000;
 
 constexpr Qt::Key KEYS[] = {
-    Qt::Key_A,  Qt::Key_E,    Qt::Key_1,      Qt::Key_Space,    Qt::Key_Backspace, Qt::Key_Down,   Qt::Key_Up,
-    Qt::Key_F4, Qt::Key_Left, Qt::Key_Return, Qt::Key_PageDown, Qt::Key_End,       Qt::Key_Delete, Qt::Key_Tab,
-    Qt::Key_F8, Qt::Key_F5,   Qt::Key_Home,   Qt::Key_Right,    Qt::Key_Escape,    Qt::Key_PageUp,
+    Qt::Key_A,      Qt::Key_E,      Qt::Key_1,    Qt::Key_Space,  Qt::Key_Backspace, Qt::Key_Down,
+    Qt::Key_Up,     Qt::Key_F4,     Qt::Key_Left, Qt::Key_Return, Qt::Key_PageDown,  Qt::Key_End,
+    Qt::Key_Delete, Qt::Key_Tab,    Qt::Key_F8,   Qt::Key_F5,     Qt::Key_Home,      Qt::Key_Right,
+    Qt::Key_Escape, Qt::Key_PageUp, Qt::Key_F6,   Qt::Key_F7,
 };
 
 }
@@ -99,6 +102,24 @@ void tst_monkey::reload()
         QTest::qWait(20);
 }
 
+void tst_monkey::compare()
+{
+    ComparisonSession *session = myWindow->comparison()->session();
+    switch (myRandom.bounded(4)) {
+    case 0:
+        session->swap();
+        break;
+    case 1:
+        session->close();
+        break;
+    case 2:
+        session->compareWithOriginal();
+        break;
+    default:
+        session->compareWith(myFiles.at(myRandom.bounded(int(myFiles.size()))));
+    }
+}
+
 void tst_monkey::playsWithTheWindow()
 {
     QTemporaryDir folder;
@@ -131,6 +152,8 @@ void tst_monkey::playsWithTheWindow()
             reload();
         else if (i % 50 == 49)
             resize();
+        else if (i % 50 == 24)
+            compare();
         else
             (this->*games[myRandom.bounded(int(std::size(games)))])();
         QApplication::processEvents();

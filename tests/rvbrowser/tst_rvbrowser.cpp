@@ -724,7 +724,7 @@ void tst_rvbrowser::cancelsALoad()
     myWindow->session()->open(path(u"big.xml"_s));
     QVERIFY(find<QWidget>(u"progress"_s)->isVisible());
     QVERIFY(progressed.wait(20000));
-    QTest::mouseClick(find<QPushButton>(u"cancel"_s), Qt::LeftButton);
+    QTest::mouseClick(find<QPushButton>(u"progressCancel"_s), Qt::LeftButton);
     QVERIFY(ended.wait(20000));
     QVERIFY(!myWindow->session()->isLoading());
     QVERIFY(!find<QWidget>(u"progress"_s)->isVisible());

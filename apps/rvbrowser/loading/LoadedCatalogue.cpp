@@ -4,6 +4,7 @@
 
 #include <RVCatalogueReader.h>
 
+#include <algorithm>
 #include <numeric>
 #include <utility>
 
@@ -57,10 +58,24 @@ QString LoadedCatalogue::typeOf(const RVCatalogueFinding &finding) const
     return product >= 0 && product < size() ? at(int(product)).type.orderTxtName() : QString();
 }
 
+void LoadedCatalogue::add(const QList<RVCatalogueProduct> &products)
+{
+    append(batch(products));
+}
+
 RVCatalogueProduct LoadedCatalogue::product(int index) const
 {
     const Entry &entry = myEntries.at(index);
     return myPacks.at(entry.pack).product(entry.indexInPack);
+}
+
+int LoadedCatalogue::indexOf(const RVProductType &type, const RVFilePosition &position) const
+{
+    const auto isBefore = [](const Entry &entry, const RVFilePosition &place) { return entry.position < place; };
+    const auto found = std::lower_bound(myEntries.begin(), myEntries.end(), position, isBefore);
+    if (found != myEntries.end() && found->position == position && found->type == type)
+        return int(found - myEntries.begin());
+    return indexOf(type);
 }
 
 qsizetype LoadedCatalogue::packedBytes() const

@@ -64,6 +64,8 @@ public:
 
     /// Adds the products that follow and what the reader finds wrong, all in one pass and on every core.
     void read(RVCatalogueReader *reader);
+    /// Adds products that do not come from the file itself; their places are those that they know.
+    void add(const QList<RVCatalogueProduct> &products);
     /// The configuration that the reader checks by, which may be a broken one that it therefore does without.
     void setConfiguration(const RVCheckConfiguration &configuration) { myConfiguration = configuration; }
     const RVCheckConfiguration &configuration() const { return myConfiguration; }
@@ -82,6 +84,9 @@ public:
     RVCatalogueProduct product(int index) const;
     /// The first product of the type, which is the one that is sold; -1 where there is none.
     int indexOf(const RVProductType &type) const { return myIndexes.value(type, -1); }
+    /// The product whose start tag stands there, if it is of the type, else the first of the type; -1 where there is
+    /// none.
+    int indexOf(const RVProductType &type, const RVFilePosition &position) const;
     /// The kinds of article that there are, in the order of the file.
     const QStringList &groups() const { return myGroups; }
     const QList<RVCatalogueFinding> &findings() const { return myFindings; }

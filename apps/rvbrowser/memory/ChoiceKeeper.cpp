@@ -23,8 +23,7 @@ ChoiceKeeper::ChoiceKeeper(ProductView *view, Settings *settings) : myView(view)
 
 void ChoiceKeeper::show(const CataloguePointer &catalogue, int product)
 {
-    keep();
-    myFileName.clear();
+    leave();
     myView->setProduct(catalogue, product);
     setProduct(*catalogue, product);
     if (myFileName.isEmpty())
@@ -37,10 +36,15 @@ void ChoiceKeeper::show(const CataloguePointer &catalogue, int product)
 
 void ChoiceKeeper::update(const CataloguePointer &catalogue, int product)
 {
-    keep();
-    myFileName.clear();
+    leave();
     myView->updateProduct(catalogue, product);
     setProduct(*catalogue, product);
+}
+
+void ChoiceKeeper::leave()
+{
+    keep();
+    myFileName.clear();
 }
 
 int ChoiceKeeper::lastProduct(const LoadedCatalogue &catalogue) const

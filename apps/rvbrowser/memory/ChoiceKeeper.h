@@ -23,6 +23,8 @@ public:
     void show(const CataloguePointer &catalogue, int product);
     /// Shows what has become of the product that is shown, with what is chosen now.
     void update(const CataloguePointer &catalogue, int product);
+    /// The view shows something that is not to be remembered from now on.
+    void leave();
     /// The number of the product that was shown last in the catalogue; -1 where there is none.
     int lastProduct(const LoadedCatalogue &catalogue) const;
     /// Writes what waits to be written.

@@ -14,14 +14,17 @@ constexpr int BAR_WIDTH = 200;
 
 }
 
-LoadProgress::LoadProgress(QWidget *parent) : QWidget(parent), myText(new QLabel), myBar(new QProgressBar)
+LoadProgress::LoadProgress(const QString &name, QWidget *parent)
+    : QWidget(parent),
+      myText(new QLabel),
+      myBar(new QProgressBar)
 {
-    setObjectName(u"progress"_s);
+    setObjectName(name);
     myText->setTextFormat(Qt::PlainText);
     myBar->setRange(0, 100);
     myBar->setFixedWidth(BAR_WIDTH);
     auto *cancel = new QPushButton(tr("&Cancel"));
-    cancel->setObjectName(u"cancel"_s);
+    cancel->setObjectName(name + "Cancel"_L1);
     connect(cancel, &QPushButton::clicked, this, &LoadProgress::cancelRequested);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -33,7 +36,17 @@ LoadProgress::LoadProgress(QWidget *parent) : QWidget(parent), myText(new QLabel
 
 void LoadProgress::start(const QString &fileName)
 {
-    myText->setText(tr("Loading %1").arg(QFileInfo(fileName).fileName()));
+    startWith(tr("Loading %1").arg(QFileInfo(fileName).fileName()));
+}
+
+void LoadProgress::start(const QString &oldFileName, const QString &newFileName)
+{
+    startWith(tr("Comparing %1 with %2").arg(QFileInfo(oldFileName).fileName(), QFileInfo(newFileName).fileName()));
+}
+
+void LoadProgress::startWith(const QString &text)
+{
+    myText->setText(text);
     myBar->setValue(0);
     show();
 }

@@ -6,21 +6,27 @@
 class QLabel;
 class QProgressBar;
 
-/// How far the loading of a file has come, with a button to give it up. Hidden while nothing is loaded.
+/// How far the reading of files has come, with a button to give it up. Hidden while nothing is read.
 class LoadProgress : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit LoadProgress(QWidget *parent = nullptr);
+    /// The button is called @p name with "Cancel" behind it.
+    explicit LoadProgress(const QString &name, QWidget *parent = nullptr);
 
+    /// Shows that a file is being loaded.
     void start(const QString &fileName);
+    /// Shows that the files are being compared.
+    void start(const QString &oldFileName, const QString &newFileName);
     void setPercent(int percent);
 
 Q_SIGNALS:
     void cancelRequested();
 
 private:
+    void startWith(const QString &text);
+
     QLabel *myText;
     QProgressBar *myBar;
 };

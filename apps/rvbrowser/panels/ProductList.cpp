@@ -118,6 +118,12 @@ void ProductList::keepCurrentProduct(int product)
     showChosen();
 }
 
+void ProductList::clearCurrentProduct()
+{
+    myProduct = -1;
+    myView->setCurrentIndex(QModelIndex());
+}
+
 void ProductList::focusSearch()
 {
     mySearch->setFocus(Qt::ShortcutFocusReason);

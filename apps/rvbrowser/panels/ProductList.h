@@ -27,6 +27,8 @@ public:
     void keepCurrentProduct(int product);
     /// The number of the chosen product; -1 for none.
     int currentProduct() const { return myProduct; }
+    /// No product is chosen, so that each can be chosen again.
+    void clearCurrentProduct();
     /// The first product that is shown; -1 where there is none.
     int firstProduct() const { return myModel.firstProduct(); }
     void focusSearch();

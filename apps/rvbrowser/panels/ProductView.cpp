@@ -61,15 +61,27 @@ ProductView::ProductView(QWidget *parent)
 
 void ProductView::setProduct(const CataloguePointer &catalogue, int product)
 {
-    const RVCatalogueProduct values = catalogue->product(product);
-    const RVProductType type = values.type();
+    const RVProductType type = catalogue->at(product).type;
     const bool isSold = catalogue->indexOf(type) == product;
+    showHeader(*catalogue, product, note(*catalogue, product));
+    showProduct(*catalogue, product,
+                isSold ? CatalogueServices::pageCounts(type) : catalogue->product(product).pageCounts());
+}
+
+void ProductView::setSingleProduct(const CataloguePointer &catalogue, int product, const QString &note)
+{
+    showHeader(*catalogue, product, note);
+    showProduct(*catalogue, product, catalogue->product(product).pageCounts());
+}
+
+void ProductView::showProduct(const LoadedCatalogue &catalogue, int product, const RVPageCountOrganization &pageCounts)
+{
+    const RVCatalogueProduct values = catalogue.product(product);
     myOffered = values.options();
-    showHeader(*catalogue, product);
     myFault->hide();
-    myAttributes->setProduct(values, catalogue->words(), catalogue->check());
-    myPrices->setProduct(OrderPrices(*catalogue, product));
-    mySpine->setProduct(values, isSold ? CatalogueServices::pageCounts(type) : values.pageCounts());
+    myAttributes->setProduct(values, catalogue.words(), catalogue.check());
+    myPrices->setProduct(OrderPrices(catalogue, product));
+    mySpine->setProduct(values, pageCounts);
     myPage->setProduct(values);
     myOptions->setProduct(values);
     myLabels.align();
@@ -222,17 +234,12 @@ void ProductView::arrangeTabOrder()
     }
 }
 
-void ProductView::showHeader(const LoadedCatalogue &catalogue, int product)
+void ProductView::showHeader(const LoadedCatalogue &catalogue, int product, const QString &note)
 {
     const LoadedCatalogue::Entry &entry = catalogue.at(product);
     const QString type = entry.type.orderTxtName();
     myTitle->setText(entry.name.isEmpty() ? type : u"%1 – %2"_s.arg(type, entry.name));
     myTitle->setToolTip(plainToolTip(myTitle->text()));
-    QString note;
-    if (catalogue.indexOf(entry.type) != product)
-        note = tr("An earlier product has the same type, so this one is never offered.");
-    else if (!CatalogueServices::isOffered(entry.type))
-        note = tr("This product cannot be offered: it needs a type, an article id and valid page counts.");
     myNote->setText(note);
     myNote->setVisible(!note.isEmpty());
     myFaults->setText(ProductFaults(catalogue, product).text());
@@ -241,6 +248,17 @@ void ProductView::showHeader(const LoadedCatalogue &catalogue, int product)
     QPalette colors = palette();
     colors.setColor(QPalette::WindowText, PaletteColors(palette()).fault());
     myFaults->setPalette(colors);
+}
+
+/// The reason why nobody can order the product; empty where there is none.
+QString ProductView::note(const LoadedCatalogue &catalogue, int product)
+{
+    const RVProductType &type = catalogue.at(product).type;
+    if (catalogue.indexOf(type) != product)
+        return tr("An earlier product has the same type, so this one is never offered.");
+    if (!CatalogueServices::isOffered(type))
+        return tr("This product cannot be offered: it needs a type, an article id and valid page counts.");
+    return QString();
 }
 
 void ProductView::showOrderLines()

@@ -35,6 +35,8 @@ public:
     void setChoice(const ProductChoice &choice);
     /// Scrolls to where the product breaks a rule, and shows it in red there.
     void showFinding(const LoadedCatalogue &catalogue, const RVCatalogueFinding &finding);
+    /// Of another catalogue than the one that is open, so no application is asked about it. The note says so.
+    void setSingleProduct(const CataloguePointer &catalogue, int product, const QString &note);
     void copy(OrderLinesPanel::Line line) const { myOrderLines->copy(line); }
     void copyPrices() const;
     /// The menu of each drawing.
@@ -52,7 +54,9 @@ private:
     void prepareHeader();
     /// Puts the text of a fault above the part of the product that it is about, and returns what shows it.
     QWidget *placeFault(const FaultPlace &place, const QString &text);
-    void showHeader(const LoadedCatalogue &catalogue, int product);
+    void showProduct(const LoadedCatalogue &catalogue, int product, const RVPageCountOrganization &pageCounts);
+    void showHeader(const LoadedCatalogue &catalogue, int product, const QString &note);
+    static QString note(const LoadedCatalogue &catalogue, int product);
     void showOrderLines();
     void showPrices();
     /// Options first, then what stands below and beside them.

@@ -1,0 +1,63 @@
+#ifndef COMPARISONSESSION_H
+#define COMPARISONSESSION_H
+
+#include "CatalogueSession.h"
+#include "ComparisonLoader.h"
+
+/// The open catalogue is compared with this: with another file, or with itself as it was when it was opened. Both are
+/// compared again whenever one of them changes. While that fails or is cancelled, the comparison before it stays.
+class ComparisonSession : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @p session outlives this.
+    explicit ComparisonSession(CatalogueSession *session, QObject *parent = nullptr);
+
+    /// Compares the file, as the old one, with the open catalogue; once a catalogue is loaded, where none is open.
+    void compareWith(const QString &fileName);
+    void compareWithOriginal();
+    /// The open catalogue becomes the old one, or the new one again.
+    void swap();
+    void close();
+    void cancel() { myLoader.cancel(); }
+
+    bool isComparing() const { return myLoader.isLoading(); }
+    /// True from when a comparison is asked for until it is closed.
+    bool isActive() const { return myKind != Kind::None; }
+    ComparisonPointer comparison() const { return myComparison; } ///< Null until one was made.
+    /// The number of a product of the comparison in the open catalogue; -1 where only the other one has it.
+    int indexInOpen(int product) const;
+
+Q_SIGNALS:
+    void started(const ComparedFiles &files);
+    void progressed(int percent);
+    /// Whatever becomes of it, comparing is over; comes before changed() and failed().
+    void ended();
+    /// There is another comparison; none after it was closed.
+    void changed();
+    void failed(const LoadError &error);
+    /// The other file is gone; it is compared again when it comes back.
+    void vanished(const QString &fileName);
+
+private:
+    enum class Kind { None, File, Original };
+
+    void start();
+    void begin(Kind kind, const QString &fileName);
+    ComparedFile other() const;
+    void take(const ComparisonPointer &comparison);
+    void watch();
+
+    CatalogueSession *mySession;
+    ComparisonLoader myLoader;
+    CatalogueWatcher myWatcher; // of the other file
+    CatalogueStamp myStamp; // when comparing began
+    Kind myKind = Kind::None;
+    QString myFileName; // of the other file
+    bool myIsOpenOld = false; // the open catalogue is the old one
+    bool myIsComparedOpenOld = false; // and was so in the comparison
+    ComparisonPointer myComparison;
+};
+
+#endif
