@@ -12,6 +12,8 @@
 #include <QMenuBar>
 #include <QSaveFile>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -83,9 +85,12 @@ void ComparisonActions::addTo(QMenuBar *menuBar)
 
 void ComparisonActions::connectSession()
 {
+    connect(&mySession, &ComparisonSession::begun, this, [this] {
+        myDock->show();
+        myDock->raise();
+    });
     connect(&mySession, &ComparisonSession::started, this, [this](const ComparedFiles &files) {
         myPanel->progress()->start(files.before.fileName, files.after.fileName);
-        showDock();
     });
     connect(&mySession, &ComparisonSession::progressed, myPanel->progress(), &LoadProgress::setPercent);
     connect(&mySession, &ComparisonSession::ended, myPanel->progress(), &QWidget::hide);
@@ -159,18 +164,18 @@ void ComparisonActions::saveAs(const QString &fileName)
 void ComparisonActions::showComparison()
 {
     myPanel->setComparison(mySession.comparison());
-    myDock->setVisible(mySession.isActive());
+    if (mySession.isActive())
+        fitDock();
+    else
+        myDock->hide();
     say(QString());
 }
 
-// As high as it is useful, unless somebody may have changed that since.
-void ComparisonActions::showDock()
+// As high as it is useful, unless it already was and somebody may have changed it.
+void ComparisonActions::fitDock()
 {
-    const bool wasHidden = myDock->isHidden();
-    myDock->show();
-    myDock->raise();
     const int height = myDock->sizeHint().height();
-    if (wasHidden && myDock->height() < height)
+    if (!std::exchange(myIsDockHigh, true) && myDock->height() < height)
         myWindow->resizeDocks({ myDock }, { height }, Qt::Vertical);
 }
 

@@ -40,7 +40,7 @@ private:
     void save();
     void showComparison();
     void showProduct(int product);
-    void showDock();
+    void fitDock();
     void say(const QString &text);
 
     CatalogueSession *myCatalogues;
@@ -58,6 +58,7 @@ private:
     QAction *myCancel;
     QAction *myClose;
     QString myMessage;
+    bool myIsDockHigh = false;
 };
 
 #endif

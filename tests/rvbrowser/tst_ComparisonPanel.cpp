@@ -63,6 +63,7 @@ private Q_SLOTS:
     void cancelsByKey();
     void closes();
     void closesWhileComparing();
+    void dockStaysHidden();
     void dockIsHighEnough();
     void narrowWindow();
     void screenshot_data();
@@ -515,10 +516,29 @@ void tst_ComparisonPanel::closesWhileComparing()
     QVERIFY(!find<QWidget>(u"comparisonProgress"_s)->isVisible());
 }
 
-void tst_ComparisonPanel::dockIsHighEnough()
+// A file that changes does not get in the way of other work.
+void tst_ComparisonPanel::dockStaysHidden()
 {
     open(NEW_CATALOGUE);
     compareWith(OLD_CATALOGUE);
+    QTest::keyClick(myWindow.get(), Qt::Key_F6);
+    QVERIFY(!changes()->isVisible());
+    QSignalSpy changed(session(), &ComparisonSession::changed);
+    write(u"old.xml"_s, NEW_CATALOGUE);
+    QVERIFY(changed.wait(TIMEOUT));
+    QVERIFY(!myWindow->comparison()->dock()->isVisible());
+    QTest::keyClick(myWindow.get(), Qt::Key_F6);
+    QVERIFY(find<QLabel>(u"comparisonMessage"_s)->isVisible());
+}
+
+// Also where the catalogue has no findings, whose dock needs but one line, and is compared as soon as it is open.
+void tst_ComparisonPanel::dockIsHighEnough()
+{
+    write(u"old.xml"_s, OLD_CATALOGUE);
+    QSignalSpy changed(session(), &ComparisonSession::changed);
+    session()->compareWith(path(u"old.xml"_s));
+    open(manyProducts(3));
+    QVERIFY(!changed.isEmpty() || changed.wait(TIMEOUT));
     QTRY_VERIFY(changes()->viewport()->height() >= 5 * changes()->visualRect(changes()->model()->index(0, 0)).height());
 }
 

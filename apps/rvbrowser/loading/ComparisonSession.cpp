@@ -64,6 +64,7 @@ void ComparisonSession::begin(Kind kind, const QString &fileName)
     myKind = kind;
     myFileName = fileName;
     myIsOpenOld = false;
+    Q_EMIT begun();
     start();
 }
 

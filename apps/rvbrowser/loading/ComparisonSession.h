@@ -30,6 +30,9 @@ public:
     int indexInOpen(int product) const;
 
 Q_SIGNALS:
+    /// Somebody asked for another comparison.
+    void begun();
+    /// Catalogues are being compared, or compared again.
     void started(const ComparedFiles &files);
     void progressed(int percent);
     /// Whatever becomes of it, comparing is over; comes before changed() and failed().

@@ -81,7 +81,7 @@ ComparisonPanel::ComparisonPanel(QWidget *parent)
     layout->addWidget(myProgress);
     layout->addWidget(myView, 1);
     layout->addWidget(myMessage, 1);
-    layout->addWidget(myClear, 0, Qt::AlignCenter);
+    layout->addWidget(myClear, 1, Qt::AlignCenter);
     showParts();
 }
 
