@@ -34,8 +34,8 @@ public:
     QModelIndex indexOfProduct(int product) const;
     /// The next change behind an item, or the one before it; a product that was added or removed is one itself. Invalid
     /// behind the last and before the first one. An invalid item stands before the first and behind the last one.
-    QModelIndex nextChange(const QModelIndex &index) const;
-    QModelIndex previousChange(const QModelIndex &index) const;
+    QModelIndex nextChange(const QModelIndex &current) const;
+    QModelIndex previousChange(const QModelIndex &current) const;
 
     QModelIndex index(int row, int column, const QModelIndex &parent = QModelIndex()) const override;
     QModelIndex parent(const QModelIndex &index) const override;
