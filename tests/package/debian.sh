@@ -1,32 +1,33 @@
 #!/usr/bin/env bash
-# debian.sh CMAKE SOURCES WORK OPTIONS...: makes the Debian packages, unpacks them into a scratch root and builds the
-# examples against that, once by find_package and once by pkg-config alone.
+# debian.sh SOURCES WORK: makes the Debian packages in WORK/packages, asks lintian, looks into each, unpacks them into a scratch
+# root and builds the examples against that, once by find_package and once by pkg-config alone.
 set -euo pipefail
-cmake=$1 sources=$2 work=$3
-shift 3
-build=$work/build root=$work/root
-release=$(sed -nE 's/^ +VERSION ([0-9.]+)$/\1/p' "$sources/CMakeLists.txt")
-version=$release-1
+sources=$1 work=$2
+packages=$work/packages root=$work/root
+version=$(dpkg-parsechangelog --file "$sources/debian/changelog" --show-field Version)
+release=${version%-*}
 
 fail() {
     echo "$*"
     exit 1
 }
 
-field() { dpkg-deb --field "$work"/packages/"$1"_*.deb "$2"; }
+field() { dpkg-deb --field "$packages"/"$1"_*.deb "$2"; }
 
 # depends PACKAGE PATTERN: the package names what it cannot be without.
 depends() { field "$1" Depends | tr ',' '\n' | grep -qE "^ *$2" || fail "$1 does not depend on $2: $(field "$1" Depends)"; }
 
-# holds PACKAGE PATTERN...: the package has a file or link for each pattern; what else it has is not its business.
+# holds PACKAGE PATTERN...: the package has a file or link for each pattern, and nothing but those and what every package has.
 holds() {
-    local package=$1 pattern listing
-    listing=$(dpkg-deb --contents "$work"/packages/"$package"_*.deb | awk '{ print $6 }')
-    for pattern in "${@:2}"; do
+    local package=$1 listing
+    local patterns=("${@:2}" "share/doc/$package/(changelog(\.Debian)?\.gz|copyright)")
+    [[ ! -e $sources/debian/$package.lintian-overrides ]] || patterns+=("share/lintian/overrides/$package")
+    listing=$(dpkg-deb --contents "$packages"/"$package"_*.deb | awk '{ print $6 }')
+    for pattern in "${patterns[@]}"; do
         grep -qE "^\./usr/$pattern\$" <<<"$listing" || fail "$package has no file $pattern"
     done
     listing=$(grep -v '/$' <<<"$listing")
-    for pattern in "${@:2}"; do
+    for pattern in "${patterns[@]}"; do
         listing=$(grep -vE "^\./usr/$pattern\$" <<<"$listing" || true)
     done
     [[ ! $listing ]] || fail "$package should not have: $listing"
@@ -34,9 +35,8 @@ holds() {
 
 rm -rf "$work"
 mkdir -p "$root"
-"$cmake" -S "$sources" -B "$build" -DBUILD_TESTING=OFF -DCMAKE_INSTALL_PREFIX=/usr "$@"
-"$cmake" --build "$build"
-"$(dirname "$cmake")/cpack" --config "$build/CPackConfig.cmake" -B "$work/packages"
+bash "$sources/debian/build.sh" "$packages"
+lintian --allow-root --fail-on error,warning "$packages"/*.changes
 
 lib='lib/[a-z0-9_]+-linux-gnu'
 holds librvproductbase0 \
@@ -44,6 +44,9 @@ holds librvproductbase0 \
 holds librvproductbase-dev \
     "$lib"/lib'RV(Core|XML|ProductBase)\.so' "$lib"/cmake/'RV(TemplateClasses|Core|XML|ProductBase)/RV.*\.cmake' \
     "$lib"/pkgconfig/RVProductBase.pc share/gdb/auto-load/usr/"$lib"/libRVProductBase.so."$release"-gdb.py 'include/RV(TemplateClasses|Core|XML|ProductBase)/RV[A-Za-z]+\.h'
+holds librvproductbase-doc \
+    'share/qt6/doc/RVProductBase\.qch' share/doc-base/librvproductbase-doc.librvproductbase \
+    'share/doc/librvproductbase-doc/html/(index|classRVPriceClass|md_docs_guide_prices)\.html' 'share/doc/librvproductbase-doc/html/.*'
 holds librvcatalogue0 "$lib"/lib'RVCatalogue\.so\.0(\.[0-9]+\.[0-9]+)?' 'share/RVCatalogue/translations/rvcatalogue_de\.qm'
 holds librvcatalogue-dev \
     "$lib"/lib'RVCatalogue\.so' "$lib"/cmake/'RVCatalogue/RVCatalogue.*\.cmake' "$lib"/pkgconfig/RVCatalogue.pc \
@@ -55,15 +58,31 @@ holds rvcatalog \
     'share/doc/rvcatalog/examples/(products|project)\.xml' \
     share/bash-completion/completions/rvcatalog share/zsh/vendor-completions/_rvcatalog \
     share/fish/vendor_completions.d/rvcatalog.fish
-
+metainfo=()
+[[ ! $(compgen -G "$sources/apps/rvbrowser/*.metainfo.xml") ]] || metainfo=('share/metainfo/.*rvbrowser\.metainfo\.xml')
 holds rvbrowser \
-    bin/rvbrowser share/man/man1/rvbrowser.1.gz share/applications/rvbrowser.desktop \
-    share/icons/hicolor/scalable/apps/rvbrowser.svg share/metainfo/localhost.rvproductbase.rvbrowser.metainfo.xml
+    bin/rvbrowser share/man/man1/rvbrowser.1.gz share/applications/rvbrowser.desktop share/mime/packages/rvcatalogue.xml \
+    share/icons/hicolor/scalable/apps/rvbrowser.svg "${metainfo[@]}"
 
-for package in librvproductbase0 librvproductbase-dev librvcatalogue0 librvcatalogue-dev rvcatalog rvbrowser; do
+for package in librvproductbase0 librvproductbase-dev librvproductbase-doc librvcatalogue0 librvcatalogue-dev rvcatalog rvbrowser; do
     [[ $(field "$package" Version) == "$version" ]] || fail "$package has version $(field "$package" Version)"
-    dpkg-deb --extract "$work"/packages/"$package"_*.deb "$root"
+    dpkg-deb --extract "$packages"/"$package"_*.deb "$root"
 done
+# Every package with machine code has its debug symbols beside it, whose files are named by the hash of the code.
+for package in librvproductbase0 librvcatalogue0 rvcatalog rvbrowser; do
+    symbols=$packages/${package}-dbgsym_${version}_$(field "$package" Architecture).deb
+    for hash in $(dpkg-deb --field "$symbols" Build-Ids); do
+        dpkg-deb --contents "$symbols" | grep -q "/\.build-id/${hash:0:2}/${hash:2}\.debug$" || fail "$package lacks symbols"
+    done
+done
+# Libraries and headers of two architectures can be installed side by side; a program or a text is the same for every one.
+for package in librvproductbase0 librvproductbase-dev librvcatalogue0 librvcatalogue-dev; do
+    [[ $(field "$package" Multi-Arch) == same ]] || fail "$package is not co-installable"
+done
+for package in librvproductbase-doc rvcatalog rvbrowser; do
+    [[ $(field "$package" Multi-Arch) == foreign ]] || fail "$package of another architecture satisfies nothing"
+done
+
 depends librvproductbase0 'libqt6core6(t64)? '
 depends librvproductbase0 'libqt6gui6 '
 depends librvproductbase0 'libqt6xml6 '
@@ -85,27 +104,37 @@ depends rvbrowser 'libqt6widgets6 '
 depends rvbrowser 'libqt6svg6'
 depends rvbrowser 'libqt6printsupport6(t64)? '
 depends rvbrowser 'fonts-dejavu-core'
-# provides PACKAGE LIBRARIES...: the linker and other packages are told of the shared libraries.
+
+# provides PACKAGE SINCE SYMBOL LIBRARIES...: the linker and other packages are told of the shared libraries. What uses the symbol
+# needs the release that it came with, and nothing that uses an older one needs this release.
 provides() {
     local package=$1 control=$work/control/$1 library
     mkdir -p "$control"
-    dpkg-deb --control "$work"/packages/"$package"_*.deb "$control"
-    grep -q ldconfig "$control"/postinst || fail "the linker is not told of the new libraries of $package"
-    for library in "${@:2}"; do
+    dpkg-deb --control "$packages"/"$package"_*.deb "$control"
+    grep -qxF 'activate-noawait ldconfig' "$control"/triggers || fail "the linker is not told of the new libraries of $package"
+    for library in "${@:4}"; do
         grep -qxF "$library 0 $package (>= $release)" "$control"/shlibs ||
             fail "packages built against $library cannot find out what they depend on"
+        grep -qxF "$library.so.0 $package #MINVER#" "$control"/symbols || fail "$package does not list the symbols of $library"
     done
+    grep -qxF " $3@Base $2" "$control"/symbols || fail "$3 did not come with $2: $(grep -F " $3@" "$control"/symbols)"
 }
-provides librvproductbase0 libRVCore libRVXML libRVProductBase
-provides librvcatalogue0 libRVCatalogue
+provides librvproductbase0 0.2.0 _ZNK13RVProductType8isAgendaEv libRVCore libRVXML libRVProductBase
+provides librvproductbase0 0.3.0 _ZNK23RVPageCountOrganization10pageCountsEv libRVProductBase
+provides librvcatalogue0 0.4.0 _ZN17RVCatalogueReader4nextEv libRVCatalogue
 
 libdir=$(dirname "$root"/usr/lib/*/libRVProductBase.so)
 export LD_LIBRARY_PATH=$libdir
 if readelf -d "$root/usr/bin/rvcatalog" "$root/usr/bin/rvbrowser" "$libdir"/libRV*.so | grep -E 'RPATH|RUNPATH'; then
     fail "a packaged file searches for libraries where the system does not"
 fi
-"$root/usr/bin/rvcatalog" show "$root/usr/share/doc/rvcatalog/examples/products.xml" | grep '^DUN9 '
-"$root/usr/bin/rvbrowser" --screenshot "$work/screenshot.png" "$root/usr/share/doc/rvcatalog/examples/products.xml"
+for file in "$root/usr/bin/rvcatalog" "$root/usr/bin/rvbrowser" "$libdir"/libRV*.so; do
+    readelf -d "$file" | grep -qF BIND_NOW || fail "$file is not hardened"
+    ! grep -qF "$work" "$file" || fail "$file names the folder that it was built in"
+done
+sample=$root/usr/share/doc/rvcatalog/examples/products.xml
+"$root/usr/bin/rvcatalog" show "$sample" | grep '^DUN9 '
+"$root/usr/bin/rvbrowser" --screenshot "$work/screenshot.png" "$sample"
 file "$work/screenshot.png" | grep 'PNG image data, 1280 x 800'
 
 man_page=$(gzip --decompress --stdout "$root/usr/share/man/man1/rvbrowser.1.gz")
@@ -121,16 +150,9 @@ for command in $("$root/usr/bin/rvcatalog" 2>&1 | sed -n 's/^  \([a-z]\+\) .*/\1
     done
 done
 
-# builds EXAMPLE MODULE ARGUMENTS...: the example finds the library of that name in the packages, and runs.
-builds() {
-    local example=$1 module=$2
-    "$cmake" -S "$sources/examples/$example" -B "$work/$example" "${options[@]}" -DCMAKE_PREFIX_PATH="$root/usr"
-    "$cmake" --build "$work/$example"
-    ldd "$work/$example/$example" | grep -F "lib$module.so.0 => $libdir/"
-    "$work/$example/$example" "${@:3}"
-    bash "$(dirname "${BASH_SOURCE[0]}")/pkgconfig.sh" "${CXX:-c++}" "${CXXFLAGS:-}" "$libdir" "$module" \
-        "$sources/examples/$example/main.cpp" "$work/pkgconfig_$example" "${@:3}"
-}
-options=("$@")
-builds consumer RVProductBase
-builds reader RVCatalogue "$sources/examples/catalogue/products.xml"
+# What the packages are tried with where they are installed does for the scratch root as well.
+mkdir -p "$work/examples"
+cd "$sources"
+AUTOPKGTEST_TMP=$work/examples CMAKE_PREFIX_PATH=$root/usr PKG_CONFIG_PATH=$libdir/pkgconfig debian/tests/build-examples
+ldd "$work/examples/consumer/consumer" | grep -F "libRVProductBase.so.0 => $libdir/"
+ldd "$work/examples/reader/reader" | grep -F "libRVCatalogue.so.0 => $libdir/"
