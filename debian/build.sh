@@ -27,7 +27,7 @@ tar --create --exclude='./build*' --exclude=./.git --exclude=./debian --sort=nam
     xz >"$folder/${source}_$release.orig.tar.xz"
 tar --extract --touch --file "$folder/${source}_$release.orig.tar.xz" --directory "$folder"
 cp -R debian "$copy"
-if ! (cd "$copy" && dpkg-buildpackage --no-sign --jobs-try=auto) >"$log" 2>&1; then
+if ! (cd "$copy" && dpkg-buildpackage --no-sign -sa --jobs-try=auto) >"$log" 2>&1; then
     tail -n 40 "$log" >&2
     echo "The packages could not be built; all of it is in $log" >&2
     exit 1

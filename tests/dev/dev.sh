@@ -17,7 +17,7 @@ stand_in() {
 }
 
 # Programs that the script may call for good.
-for program in bash cat dirname readlink grep nproc sh env; do
+for program in bash cat dirname readlink grep ls nproc sh env; do
     ln -s "$(command -v "$program")" "$tools/$program"
 done
 for program in cmake ctest apt-get; do
@@ -132,6 +132,18 @@ stand_in cmake
 run 2 "$tree/dev" bench --quick
 says 'dev: "bench" takes no argument but --summary'
 not_called 'cmake'
+
+mkdir -p "$tree/debian" "$tree/build/packages"
+touch "$tree/build/packages/librvproductbase0.deb"
+stand_in build.sh
+mv "$tools/build.sh" "$tree/debian"
+run 0 "$tree/dev" package
+says ' debhelper '
+called 'build.sh build/packages$'
+says 'build/packages/librvproductbase0.deb'
+run 2 "$tree/dev" package all
+says 'dev: "package" takes no argument, but got "all"'
+not_called 'build.sh'
 
 run 0 "$tree/dev" help
 [[ $(wc -l <<<"$output") -le 24 ]] || fail "help does not fit one screen of 24 lines"

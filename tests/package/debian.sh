@@ -46,7 +46,7 @@ holds librvproductbase-dev \
     "$lib"/pkgconfig/RVProductBase.pc share/gdb/auto-load/usr/"$lib"/libRVProductBase.so."$release"-gdb.py 'include/RV(TemplateClasses|Core|XML|ProductBase)/RV[A-Za-z]+\.h'
 holds librvproductbase-doc \
     'share/qt6/doc/RVProductBase\.qch' share/doc-base/librvproductbase-doc.librvproductbase \
-    'share/doc/librvproductbase-doc/html/(index|classRVPriceClass|md_docs_guide_prices)\.html' 'share/doc/librvproductbase-doc/html/.*'
+    'share/doc/librvproductbase-doc/html/(index|classRVPriceClass|page_prices)\.html' 'share/doc/librvproductbase-doc/html/.*'
 holds librvcatalogue0 "$lib"/lib'RVCatalogue\.so\.0(\.[0-9]+\.[0-9]+)?' 'share/RVCatalogue/translations/rvcatalogue_de\.qm'
 holds librvcatalogue-dev \
     "$lib"/lib'RVCatalogue\.so' "$lib"/cmake/'RVCatalogue/RVCatalogue.*\.cmake' "$lib"/pkgconfig/RVCatalogue.pc \
