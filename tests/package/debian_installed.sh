@@ -91,7 +91,7 @@ if [[ $1 == --inside ]]; then # the second half, in the bare system
         [[ $(dpkg-query -W -f '${db:Status-Abbrev}${Version}' "$name") == "ii $version" ]] || fail "$name was not upgraded"
         [[ ! $(dpkg --verify "$name") ]] || fail "files of $name are not as they were packed: $(dpkg --verify "$name")"
     done
-    ldconfig -p | grep -qF libRVCatalogue.so.0 || fail "the linker does not find the libraries"
+    ldconfig -p | grep -F libRVCatalogue.so.0 || fail "the linker does not find the libraries"
     try_packages
 
     apt purge "${names[@]}"
