@@ -74,9 +74,12 @@ try_packages() {
 mime_type() { as_user env XDG_CURRENT_DESKTOP=GNOME xdg-mime query filetype "/tmp/tried/work/$1.xml"; }
 
 if [[ $1 == --inside ]]; then # the second half, in the bare system
-    mapfile -t packages < <(ls "$PWD/$2"/*.deb | grep -v -- '-dbgsym_')
+    packages=() names=()
+    for package in "$PWD/$2"/*.deb; do
+        [[ $package != *-dbgsym_* ]] || continue
+        packages+=("$package") names+=("$(dpkg-deb --field "$package" Package)")
+    done
     triplet=$(dpkg-deb --contents "$2"/librvproductbase0_*.deb | sed -nE 's,.*\./usr/lib/([^/]+)/libRVCore\.so\.0 .*,\1,p')
-    mapfile -t names < <(for package in "${packages[@]}"; do dpkg-deb --field "$package" Package; done)
     mkdir /tmp/old
     install_dependencies
     list_files >/tmp/before
