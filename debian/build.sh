@@ -33,3 +33,7 @@ if ! (cd "$copy" && dpkg-buildpackage --no-sign -sa --jobs-try=auto) >"$log" 2>&
     exit 1
 fi
 rm -rf "$copy"
+
+# dpkg-gensymbols shows, as in a diff, what the lists would have to get.
+unlisted=$(sed -nE 's/^\+ (_Z.*)@Base .*/\1/p' "$log" | c++filt)
+[[ ! $unlisted ]] || printf 'New in this release, and not in debian/*.symbols yet:\n%s\n' "$unlisted"

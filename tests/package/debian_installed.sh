@@ -103,10 +103,10 @@ if [[ $1 == --inside ]]; then # the second half, in the bare system
     exit
 fi
 
-sources=$1 packages=$2
+sources=$1 folder=$2
 release=$(sed -n 's/^VERSION_CODENAME=//p' /etc/os-release)
 tested=$sources/build/on/$release/build/tested_packages
 rm -rf "$tested"
 mkdir -p "$tested"
-cp "$packages"/*.deb "$tested"
+cp "$folder"/*.deb "$tested"
 bash "$sources/tests/releases/on.sh" "$release" bash tests/package/debian_installed.sh --inside build/tested_packages
