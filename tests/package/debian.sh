@@ -56,11 +56,9 @@ holds rvcatalog \
     'share/doc/rvcatalog/examples/(products|project)\.xml' \
     share/bash-completion/completions/rvcatalog share/zsh/vendor-completions/_rvcatalog \
     share/fish/vendor_completions.d/rvcatalog.fish
-metainfo=()
-[[ ! $(compgen -G "$sources/apps/rvbrowser/*.metainfo.xml") ]] || metainfo=('share/metainfo/.*rvbrowser\.metainfo\.xml')
 holds rvbrowser \
     bin/rvbrowser share/man/man1/rvbrowser.1.gz share/applications/rvbrowser.desktop share/mime/packages/rvcatalogue.xml \
-    share/icons/hicolor/scalable/apps/rvbrowser.svg "${metainfo[@]}"
+    share/icons/hicolor/scalable/apps/rvbrowser.svg share/metainfo/localhost.rvproductbase.rvbrowser.metainfo.xml
 
 for package in librvproductbase0 librvproductbase-dev librvproductbase-doc librvcatalogue0 librvcatalogue-dev rvcatalog rvbrowser; do
     [[ $(field "$package" Version) == "$version" ]] || fail "$package has version $(field "$package" Version)"

@@ -20,7 +20,7 @@ private Q_SLOTS:
 
 void tst_LoadProgress::showsItself()
 {
-    LoadProgress progress;
+    LoadProgress progress(u"progress"_s);
     QVERIFY(progress.isHidden());
     progress.start(u"/catalogues/<b>products</b>.xml"_s);
     QVERIFY(progress.isVisible());
@@ -33,7 +33,7 @@ void tst_LoadProgress::showsItself()
 
 void tst_LoadProgress::startsOver()
 {
-    LoadProgress progress;
+    LoadProgress progress(u"progress"_s);
     const auto *bar = progress.findChild<QProgressBar *>();
     progress.start(u"a.xml"_s);
     QCOMPARE(bar->value(), 0);
@@ -48,7 +48,7 @@ void tst_LoadProgress::startsOver()
 
 void tst_LoadProgress::asksToCancel()
 {
-    LoadProgress progress;
+    LoadProgress progress(u"progress"_s);
     progress.start(u"a.xml"_s);
     QSignalSpy cancelRequested(&progress, &LoadProgress::cancelRequested);
     QTest::mouseClick(progress.findChild<QPushButton *>(u"cancel"_s), Qt::LeftButton);
