@@ -159,12 +159,12 @@ void FindingsActions::openInEditor()
         if (current.product() < 0 || current.product() == product)
             position = current.range().begin;
     }
-    myLauncher.open(EditorChoice::load().command(), catalogue->fileName(), position);
+    myLauncher.open(EditorChoice::load(*my.settings).command(), catalogue->fileName(), position);
 }
 
 void FindingsActions::chooseEditor()
 {
-    auto *dialog = new EditorDialog(my.window);
+    auto *dialog = new EditorDialog(my.settings, my.window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->open();
 }

@@ -14,6 +14,7 @@ class QAction;
 class QKeySequence;
 class QMainWindow;
 class QMenu;
+class Settings;
 
 /// All that is done with findings: going from one to the next, copying, explaining, editing and mending.
 class FindingsActions : public QObject
@@ -30,6 +31,7 @@ public:
         ProductList *products;
         ProductView *view;
         MessageBanner *banner;
+        Settings *settings;
     };
 
     /// Belongs to the window.

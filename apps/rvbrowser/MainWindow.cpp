@@ -167,7 +167,8 @@ void MainWindow::createMenus()
     menuBar()->addMenu(createFileMenu());
     menuBar()->addMenu(createEditMenu());
     menuBar()->addMenu(createViewMenu());
-    const auto *findings = new FindingsActions({ this, &mySession, myFindings, myProducts, myView, myBanner });
+    const auto *findings = new FindingsActions(
+            { this, &mySession, myFindings, myProducts, myView, myBanner, &mySettings });
     menuBar()->addMenu(findings->menu());
     myComparison->addTo(menuBar());
     QMenu *help = menuBar()->addMenu(tr("&Help"));

@@ -57,7 +57,6 @@ int main(int argc, char *argv[])
     const QApplication application(argc, argv);
     // Qt has taken its own options out of them, such as -style.
     const BrowserOptions options(QApplication::arguments());
-    QApplication::setOrganizationName(u"RVProductBase"_s);
     QApplication::setApplicationName(u"rvbrowser"_s);
     QApplication::setApplicationVersion(QStringLiteral(RVBROWSER_VERSION));
     QApplication::setDesktopFileName(u"rvbrowser"_s);

@@ -1,8 +1,8 @@
 #include <EditorChoice.h>
 #include <EditorLauncher.h>
+#include <Settings.h>
 
 #include <QFile>
-#include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -17,7 +17,6 @@ class tst_EditorLauncher : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void init();
     void cleanup();
     void runs_data();
@@ -38,20 +37,14 @@ private:
     QByteArray content(const QString &name) const;
 
     std::unique_ptr<QTemporaryDir> myFolder;
+    std::unique_ptr<Settings> mySettings;
 };
-
-void tst_EditorLauncher::initTestCase()
-{
-    QCoreApplication::setOrganizationName(u"RVProductBase"_s);
-    QCoreApplication::setApplicationName(u"rvbrowser"_s);
-}
 
 void tst_EditorLauncher::init()
 {
     myFolder = std::make_unique<QTemporaryDir>();
     QVERIFY(myFolder->isValid());
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, path(u"settings"_s));
-    QSettings().clear();
+    mySettings = std::make_unique<Settings>(path(u"settings.ini"_s));
     qputenv("PATH", QFile::encodeName(myFolder->path()));
     qunsetenv("VISUAL");
     qunsetenv("EDITOR");
@@ -59,7 +52,7 @@ void tst_EditorLauncher::init()
 
 void tst_EditorLauncher::cleanup()
 {
-    QSettings().clear();
+    mySettings.reset();
     myFolder.reset();
 }
 
@@ -176,8 +169,8 @@ void tst_EditorLauncher::choices_data()
 void tst_EditorLauncher::choices()
 {
     QFETCH(QString, id);
-    EditorChoice(id, u"mine %f @%l"_s).save();
-    const EditorChoice choice = EditorChoice::load();
+    EditorChoice(id, u"mine %f @%l"_s).save(mySettings.get());
+    const EditorChoice choice = EditorChoice::load(*mySettings);
     QCOMPARE(choice.id(), id);
     QCOMPARE(choice.ownCommand(), u"mine %f @%l"_s);
     QTEST(choice.command().program(), "program");
@@ -187,22 +180,22 @@ void tst_EditorLauncher::choices()
 void tst_EditorLauncher::choosesTheEnvironment()
 {
     qputenv("EDITOR", "nano");
-    QCOMPARE(EditorChoice::load().command().program(), u"nano"_s);
+    QCOMPARE(EditorChoice::load(*mySettings).command().program(), u"nano"_s);
     qputenv("VISUAL", "gvim");
-    QCOMPARE(EditorChoice::load().command().program(), u"gvim"_s);
-    EditorChoice(u"kate"_s, QString()).save();
-    QCOMPARE(EditorChoice::load().command().program(), u"kate"_s);
+    QCOMPARE(EditorChoice::load(*mySettings).command().program(), u"gvim"_s);
+    EditorChoice(u"kate"_s, QString()).save(mySettings.get());
+    QCOMPARE(EditorChoice::load(*mySettings).command().program(), u"kate"_s);
 }
 
 void tst_EditorLauncher::choosesWhatIsInstalled()
 {
-    QVERIFY(EditorChoice::load().command().isEmpty());
+    QVERIFY(EditorChoice::load(*mySettings).command().isEmpty());
     script(u"qtcreator"_s, "exit 0");
-    QCOMPARE(EditorChoice::load().id(), u"qtcreator"_s);
+    QCOMPARE(EditorChoice::load(*mySettings).id(), u"qtcreator"_s);
     script(u"kate"_s, "exit 0");
-    QCOMPARE(EditorChoice::load().id(), u"kate"_s);
-    EditorChoice(u"an editor of tomorrow"_s, QString()).save();
-    QCOMPARE(EditorChoice::load().id(), u"kate"_s);
+    QCOMPARE(EditorChoice::load(*mySettings).id(), u"kate"_s);
+    EditorChoice(u"an editor of tomorrow"_s, QString()).save(mySettings.get());
+    QCOMPARE(EditorChoice::load(*mySettings).id(), u"kate"_s);
 }
 
 QTEST_GUILESS_MAIN(tst_EditorLauncher)

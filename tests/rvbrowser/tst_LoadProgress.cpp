@@ -51,7 +51,7 @@ void tst_LoadProgress::asksToCancel()
     LoadProgress progress(u"progress"_s);
     progress.start(u"a.xml"_s);
     QSignalSpy cancelRequested(&progress, &LoadProgress::cancelRequested);
-    QTest::mouseClick(progress.findChild<QPushButton *>(u"cancel"_s), Qt::LeftButton);
+    QTest::mouseClick(progress.findChild<QPushButton *>(u"progressCancel"_s), Qt::LeftButton);
     QCOMPARE(cancelRequested.size(), 1);
     QVERIFY(progress.isVisible()); // until it has ended
 }

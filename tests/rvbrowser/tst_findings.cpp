@@ -1,12 +1,14 @@
 #include "FaultyProducts.h"
 #include "ManyProducts.h"
 
+#include <EditorChoice.h>
 #include <FixDialog.h>
 #include <Language.h>
 #include <MainWindow.h>
 #include <MessageBanner.h>
 #include <PaletteColors.h>
 #include <ProductTreeModel.h>
+#include <Settings.h>
 
 #include <QAction>
 #include <QApplication>
@@ -22,7 +24,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollArea>
-#include <QSettings>
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QTableView>
@@ -85,6 +86,10 @@ private:
     void activate();
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(myWindow.get(), key, modifiers); }
 
+    QString settingsFile() const { return path(u"settings.ini"_s); }
+    /// Makes a command of one's own the editor.
+    void choose(const QString &command);
+
     std::unique_ptr<QTemporaryDir> myFolder;
     std::unique_ptr<MainWindow> myWindow;
 };
@@ -92,9 +97,7 @@ private:
 void tst_findings::init()
 {
     myFolder = std::make_unique<QTemporaryDir>();
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, path(u"settings"_s));
-    QSettings().clear();
-    myWindow = std::make_unique<MainWindow>();
+    myWindow = std::make_unique<MainWindow>(settingsFile());
     myWindow->show();
     QVERIFY(QTest::qWaitForWindowExposed(myWindow.get()));
     activate();
@@ -103,7 +106,19 @@ void tst_findings::init()
 void tst_findings::cleanup()
 {
     myWindow.reset();
-    QSettings().clear();
+}
+
+void tst_findings::choose(const QString &command)
+{
+    action(u"Editor…"_s)->trigger();
+    auto *dialog = find<QDialog>(u"editorDialog"_s);
+    auto *editors = dialog->findChild<QComboBox *>(u"editors"_s);
+    editors->setCurrentIndex(editors->findText(u"Another command"_s));
+    auto *line = dialog->findChild<QLineEdit *>(u"editorCommand"_s);
+    line->clear();
+    QTest::keyClicks(line, command);
+    dialog->accept();
+    QCoreApplication::sendPostedEvents(dialog, QEvent::DeferredDelete);
 }
 
 void tst_findings::activate()
@@ -520,8 +535,7 @@ void tst_findings::opensTheEditor()
     load();
     write(u"ed it"_s, "#!/bin/sh\nprintf '%s\\n' \"$@\" > \"${0%/*}/part\"; mv \"${0%/*}/part\" \"${0%/*}/log\"\n");
     QFile::setPermissions(path(u"ed it"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    QSettings().setValue(u"editor/name"_s, u"own"_s);
-    QSettings().setValue(u"editor/command"_s, QString(u'"' + path(u"ed it"_s) + u"\" %l %c %f"_s));
+    choose(QString(u'"' + path(u"ed it"_s) + u"\" %l %c %f"_s));
     const auto opened = [this] {
         if (!QTest::qWaitFor([this] { return QFile::exists(path(u"log"_s)); }, 20000))
             return QStringList();
@@ -542,7 +556,7 @@ void tst_findings::opensTheEditor()
     QTest::mouseClick(view()->viewport(), Qt::LeftButton, {}, place);
     QTest::mouseDClick(view()->viewport(), Qt::LeftButton, {}, place);
     QCOMPARE(opened(), (QStringList { u"3"_s, u"70"_s, file }));
-    QSettings().setValue(u"editor/command"_s, u"no-such-editor"_s);
+    choose(u"no-such-editor"_s);
     press(Qt::Key_F2);
     QCOMPARE(myWindow->findChild<MessageBanner *>()->text(),
              u"The editor \"no-such-editor\" is not installed. Choose another one in the menu of the findings."_s);
@@ -563,14 +577,14 @@ void tst_findings::choosesTheEditor()
     command->clear();
     QTest::keyClicks(command, u"ed %f"_s);
     dialog->accept();
-    QCOMPARE(QSettings().value(u"editor/name"_s).toString(), u"own"_s);
-    QCOMPARE(QSettings().value(u"editor/command"_s).toString(), u"ed %f"_s);
+    const EditorChoice choice = EditorChoice::load(Settings(settingsFile()));
+    QCOMPARE(choice.id(), u"own"_s);
+    QCOMPARE(choice.ownCommand(), u"ed %f"_s);
 }
 
 int main(int argc, char *argv[])
 {
     const QApplication application(argc, argv);
-    QApplication::setOrganizationName(u"RVProductBase"_s);
     QApplication::setApplicationName(u"rvbrowser"_s);
     Language language;
     language.speak(QLocale(QLocale::English));

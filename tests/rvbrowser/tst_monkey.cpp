@@ -7,7 +7,6 @@
 #include <QApplication>
 #include <QFile>
 #include <QRandomGenerator>
-#include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -172,8 +171,6 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     // A double click on a place opens an editor, and nobody wants one here.
     qputenv("PATH", "");
-    QTemporaryDir settings;
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
     Language language;
     language.speak(QLocale(QLocale::English));
     tst_monkey test;

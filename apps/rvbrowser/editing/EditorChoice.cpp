@@ -1,6 +1,7 @@
 #include "EditorChoice.h"
 
-#include <QSettings>
+#include "Settings.h"
+
 #include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
@@ -31,17 +32,15 @@ QList<EditorChoice::Editor> EditorChoice::editors()
     };
 }
 
-EditorChoice EditorChoice::load()
+EditorChoice EditorChoice::load(const Settings &settings)
 {
-    const QSettings settings;
     return { settings.value(EDITOR_KEY).toString(), settings.value(COMMAND_KEY).toString() };
 }
 
-void EditorChoice::save() const
+void EditorChoice::save(Settings *settings) const
 {
-    QSettings settings;
-    settings.setValue(EDITOR_KEY, myId);
-    settings.setValue(COMMAND_KEY, myOwnCommand);
+    settings->setValue(EDITOR_KEY, myId);
+    settings->setValue(COMMAND_KEY, myOwnCommand);
 }
 
 QString EditorChoice::id() const

@@ -7,6 +7,8 @@
 #include <QList>
 #include <QString>
 
+class Settings;
+
 /// The editor that somebody chose for catalogues, as the settings keep it.
 class EditorChoice
 {
@@ -27,8 +29,8 @@ public:
 
     EditorChoice() = default; ///< Nothing was chosen.
     EditorChoice(const QString &id, const QString &ownCommand) : myId(id), myOwnCommand(ownCommand) { }
-    static EditorChoice load();
-    void save() const;
+    static EditorChoice load(const Settings &settings);
+    void save(Settings *settings) const;
 
     /// The id of an editor; without a choice that of $VISUAL or $EDITOR where one is set, else of the first editor that
     /// is installed. Empty where there is none.

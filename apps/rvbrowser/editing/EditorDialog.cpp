@@ -9,14 +9,15 @@
 
 using namespace Qt::StringLiterals;
 
-EditorDialog::EditorDialog(QWidget *parent)
+EditorDialog::EditorDialog(Settings *settings, QWidget *parent)
     : QDialog(parent),
+      mySettings(settings),
       myEditors(new QComboBox),
       myCommand(new QLineEdit),
       myHint(new QLabel(
               tr("%f stands for the file, %l for the line, %c for the column and %% for a percent sign. Double "
                  "quotes keep blanks."))),
-      myOwnCommand(EditorChoice::load().ownCommand())
+      myOwnCommand(EditorChoice::load(*mySettings).ownCommand())
 {
     setObjectName(u"editorDialog"_s);
     setWindowTitle(tr("Editor"));
@@ -26,7 +27,7 @@ EditorDialog::EditorDialog(QWidget *parent)
     myHint->setWordWrap(true);
     for (const EditorChoice::Editor &editor : EditorChoice::editors())
         myEditors->addItem(editor.name, editor.id);
-    const int chosen = myEditors->findData(EditorChoice::load().id());
+    const int chosen = myEditors->findData(EditorChoice::load(*mySettings).id());
     myEditors->setCurrentIndex(chosen < 0 ? myEditors->count() - 1 : chosen);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     myOk = buttons->button(QDialogButtonBox::Ok);
@@ -47,7 +48,7 @@ EditorDialog::EditorDialog(QWidget *parent)
 
 void EditorDialog::accept()
 {
-    choice().save();
+    choice().save(mySettings);
     QDialog::accept();
 }
 

@@ -9,6 +9,7 @@ class QComboBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
+class Settings;
 
 /// Asks for the editor that catalogues are opened with, and keeps the answer in the settings.
 class EditorDialog : public QDialog
@@ -16,7 +17,8 @@ class EditorDialog : public QDialog
     Q_OBJECT
 
 public:
-    explicit EditorDialog(QWidget *parent = nullptr);
+    /// The settings must live longer.
+    explicit EditorDialog(Settings *settings, QWidget *parent = nullptr);
 
     void accept() override;
 
@@ -24,6 +26,7 @@ private:
     EditorChoice choice() const;
     void showCommand();
 
+    Settings *mySettings;
     QComboBox *myEditors;
     QLineEdit *myCommand;
     QLabel *myHint;
