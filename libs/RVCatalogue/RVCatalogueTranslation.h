@@ -15,6 +15,8 @@
  *
  * All functions belong to the thread of the application. The translator is deleted with the application.
  *
+ * @par Example
+ * @snippet tst_guide_qt.cpp translation
  * @ingroup qt
  */
 class RVCATALOGUE_EXPORT RVCatalogueTranslation

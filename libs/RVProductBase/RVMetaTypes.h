@@ -20,6 +20,8 @@
  * A text that cannot be read gives the default-constructed value, such as an attribute that is null, and a value that
  * has no text an empty one. From Qt 6.8 on, QVariant::convert() then returns false as well; before, it returns true.
  *
+ * @par Example
+ * @snippet tst_guide_qt.cpp texts
  * @ingroup qt
  */
 class RVPRODUCTBASE_EXPORT RVMetaTypes

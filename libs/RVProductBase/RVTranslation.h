@@ -9,9 +9,6 @@
 /**
  * Has the display texts of the library translated: names of papers and covers, page counts, page types.
  *
- *     QCoreApplication application(argc, argv);
- *     RVTranslation::install(QLocale());
- *
  * The texts in the sources are German, without plural forms: "1 Seiten". So a German program installs its locale as
  * well. There are files for German and English.
  *
@@ -22,6 +19,8 @@
  *
  * All functions belong to the thread of the application. The translator is deleted with the application.
  *
+ * @par Example
+ * @snippet tst_guide_qt.cpp translation
  * @ingroup qt
  */
 class RVPRODUCTBASE_EXPORT RVTranslation

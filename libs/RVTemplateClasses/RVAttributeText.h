@@ -14,6 +14,8 @@
  * as an empty text where it has none; bits without a keyword follow as one hexadecimal number, "0x100000000". Any
  * thread.
  *
+ * @par Example
+ * @snippet tst_guide_qt.cpp RVAttributeText
  * @ingroup templates
  */
 template<typename Attribute>

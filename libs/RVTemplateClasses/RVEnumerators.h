@@ -16,11 +16,8 @@
  * The compiler knows them: g++ and clang do, with any other compiler no enumerator has a name. A combination has none
  * either. Include this header only where names are printed, in a source: it is compiled once for every bit.
  *
- *     QDebug operator<<(QDebug debug, PaperWeightEnum value)
- *     {
- *         return debug << RVEnumerators<PaperWeightEnum>::text(value).constData();
- *     }
- *
+ * @par Example
+ * @snippet tst_guide_qt.cpp attribute
  * @ingroup templates
  */
 template<typename E>

@@ -1,3 +1,4 @@
+//! [includes]
 #include <RVCatalogue/RVCatalogueTranslation.h>
 #include <RVProductBase/RVArticleVariants.h>
 #include <RVProductBase/RVCoverType.h>
@@ -6,6 +7,7 @@
 #include <RVProductBase/RVPageSizeKey.h>
 #include <RVProductBase/RVPriceClass.h>
 #include <RVProductBase/RVTranslation.h>
+#include <RVTemplateClasses/RVAttributeText.h>
 #include <RVTemplateClasses/RVEnumerators.h>
 
 #include <QDataStream>
@@ -18,6 +20,7 @@
 #include <QVariant>
 
 using namespace Qt::StringLiterals;
+//! [includes]
 
 //! [attribute]
 enum PaperWeightEnum : qint32 { PAPER_WEIGHT_LIGHT = 1, PAPER_WEIGHT_HEAVY = 2 };
@@ -82,13 +85,20 @@ void tst_guide_qt::texts()
     QCOMPARE(QVariant(u"softcover"_s).value<RVCoverType>(), RVCoverType(SOFTCOVER));
     QVERIFY(!QVariant(u"leinen"_s).value<RVCoverType>().isValid());
     //! [texts]
+
+    //! [RVAttributeText]
+    const QString text = RVAttributeText<RVCoverType>::write(RVCoverType(HARDCOVER | GIFT));
+    QCOMPARE(text, u"HARDCOVER, GIFT"_s);
+    QVERIFY(RVAttributeText<RVCoverType>::read(text) == RVCoverType(HARDCOVER | GIFT));
+    QVERIFY(!RVAttributeText<RVCoverType>::read(u"leinen"_s));
+    //! [RVAttributeText]
 }
 
 void tst_guide_qt::settings()
 {
+    //! [settings]
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"settings.ini"_s);
-    //! [settings]
     {
         QSettings settings(path, QSettings::IniFormat);
         const RVCoverType cover(HARDCOVER);

@@ -102,8 +102,8 @@ depends rvbrowser 'libqt6svg6'
 depends rvbrowser 'libqt6printsupport6(t64)? '
 depends rvbrowser 'fonts-dejavu-core'
 
-# provides PACKAGE SINCE SYMBOL LIBRARIES...: the linker and other packages are told of the shared libraries. What uses the symbol
-# needs the release that it came with, and nothing that uses an older one needs this release.
+# provides PACKAGE SINCE SYMBOL LIBRARIES...: the linker and other packages are told of the shared libraries, and of the release that
+# a symbol came with. Everything needs 0.6.0, since programs read the index of keywords inline, which has another form since then.
 provides() {
     local package=$1 control=$work/control/$1 library
     mkdir -p "$control"
@@ -112,7 +112,7 @@ provides() {
     for library in "${@:4}"; do
         grep -qxF "$library 0 $package (>= $release)" "$control"/shlibs ||
             fail "packages built against $library cannot find out what they depend on"
-        grep -qxF "$library.so.0 $package #MINVER#" "$control"/symbols || fail "$package does not list the symbols of $library"
+        grep -qxF "$library.so.0 $package (>= 0.6.0~)" "$control"/symbols || fail "$package does not list the symbols of $library"
     done
     grep -qxF " $3@Base $2" "$control"/symbols || fail "$3 did not come with $2: $(grep -F " $3@" "$control"/symbols)"
 }

@@ -173,12 +173,9 @@ void FindingsPanel::sort(int column, Qt::SortOrder order)
 // Says what to do where there is no finding to see.
 void FindingsPanel::showState()
 {
-    const bool isOpen = myModel.catalogue() != nullptr;
     const bool hasFindings = myModel.findingCount() > 0;
     const bool isShown = myModel.rowCount() > 0;
-    if (!isOpen)
-        myNothing->setText(tr("Open a catalogue to see what is wrong with it."));
-    else if (!hasFindings)
+    if (!hasFindings)
         myNothing->setText(tr("Nothing was found.") + u' '
                            + tr("The catalogue is checked again whenever its file changes."));
     else

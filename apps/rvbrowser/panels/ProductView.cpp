@@ -139,27 +139,32 @@ void ProductView::showFinding(const LoadedCatalogue &catalogue, const RVCatalogu
 QWidget *ProductView::placeFault(const FaultPlace &place, const QString &text)
 {
     const QStringList pageCounts { u"pages"_s, u"max_pages"_s, u"page_step"_s, u"pieces"_s };
-    for (QVBoxLayout *layout : { myContent, myTexts, myDrawings })
-        layout->removeWidget(myFault);
-    QVBoxLayout *layout = myContent;
-    QWidget *part = myNote;
-    if (place.element == "forms"_L1) {
-        layout = myTexts;
-        part = myOptions;
-    } else if (place.element == "barcodes"_L1) {
-        layout = myDrawings;
-        part = myPage;
-    } else if (place.element == "composition"_L1 || pageCounts.contains(place.attribute)) {
-        layout = myDrawings;
-        part = mySpine;
-    }
-    layout->insertWidget(layout->indexOf(part), myFault);
+    if (place.element == "forms"_L1)
+        myFaultyPart = myOptions;
+    else if (place.element == "barcodes"_L1)
+        myFaultyPart = myPage;
+    else if (place.element == "composition"_L1 || pageCounts.contains(place.attribute))
+        myFaultyPart = mySpine;
+    else
+        myFaultyPart = myNote;
+    moveFault();
     QPalette colors = palette();
     colors.setColor(QPalette::WindowText, PaletteColors(palette()).fault());
     myFault->setPalette(colors);
     myFault->setText(text);
     myFault->show();
     return myFault;
+}
+
+// Parts go from one column to the other when the window becomes narrower or wider.
+void ProductView::moveFault()
+{
+    for (QVBoxLayout *layout : { myContent, myTexts, myDrawings })
+        layout->removeWidget(myFault);
+    for (QVBoxLayout *layout : { myContent, myTexts, myDrawings }) {
+        if (const int place = layout->indexOf(myFaultyPart); place >= 0)
+            layout->insertWidget(place, myFault);
+    }
 }
 
 void ProductView::resizeEvent(QResizeEvent *event)
@@ -222,6 +227,8 @@ void ProductView::arrangeColumns()
     // In one column the page count belongs to what is chosen, so it stands below the options.
     (isWide ? myTexts : myDrawings)->removeWidget(mySpine);
     (isWide ? myDrawings : myTexts)->insertWidget(isWide ? 0 : 1, mySpine, mySpine->isDrawn() ? DRAWING_STRETCH : 0);
+    if (myFaultyPart)
+        moveFault();
 }
 
 // Options are made for each product, and so they would come last.

@@ -54,6 +54,7 @@ private:
     void prepareHeader();
     /// Puts the text of a fault above the part of the product that it is about, and returns what shows it.
     QWidget *placeFault(const FaultPlace &place, const QString &text);
+    void moveFault();
     void showProduct(const LoadedCatalogue &catalogue, int product, const RVPageCountOrganization &pageCounts);
     void showHeader(const LoadedCatalogue &catalogue, int product, const QString &note);
     static QString note(const LoadedCatalogue &catalogue, int product);
@@ -67,6 +68,7 @@ private:
     QLabel *myTitle;
     QLabel *myNote;
     QLabel *myFaults;
+    QWidget *myFaultyPart = nullptr; // which myFault stands above
     QLabel *myFault; // where the finding that was chosen is not one of the attributes
     QVBoxLayout *myContent; // of all that follows
     QBoxLayout *myColumns;
