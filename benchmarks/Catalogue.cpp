@@ -39,7 +39,7 @@ QString barcodeXml(int product, int page, const QString &unit)
                    .arg(product % 4);
 }
 
-/// Not wider than a book can be bound, in any unit.
+/// A width at which a book can be bound, in any unit.
 QString spineXml(int product)
 {
     const QString unit = pick(UNITS, product);

@@ -15,10 +15,10 @@
 /// Every program adds its benchmarks here; main.cpp runs them.
 void addBenchmarks();
 
-/// From now on allocations are counted, in a pass of their own after the timed ones.
+/// Starts counting allocations, in a separate pass after the timed ones.
 void countAllocations();
 
-/// The part of a benchmark whose allocations count; without meaning in a timed pass.
+/// The part of a benchmark whose allocations count; it has no effect in a timed pass.
 class CountedPart
 {
     Q_DISABLE_COPY_MOVE(CountedPart)
@@ -31,7 +31,7 @@ public:
 /// The number of inputs of a corpus: too many for the branch predictor to learn their order, few enough for the cache.
 constexpr int CORPUS_SIZE = 256;
 
-/// One iteration is a pass over the whole corpus, so what is measured is not the loop.
+/// One iteration is a pass over the whole corpus, so the cost of the loop is negligible.
 template<typename Corpus, typename Operation>
 void measure(benchmark::State &state, const Corpus &corpus, Operation operation)
 {
@@ -47,10 +47,10 @@ void measure(benchmark::State &state, const Corpus &corpus, Operation operation)
 }
 
 /**
- * An operation of the library beside its peers and its floor: "name/ours", "name/peer", "name/floor".
+ * An operation of the library, its peers and its floor: "name/ours", "name/peer", "name/floor".
  *
- * A peer must give the same result for every input of the corpus; where it does not, the program ends before anything
- * is timed.
+ * A peer must give the same result for every input of the corpus; otherwise the program ends before it measures
+ * anything.
  */
 template<typename Corpus, typename Ours>
 class Comparison
@@ -72,7 +72,7 @@ public:
         return againstWithInputs(peerName, myCorpus, std::move(peer), same);
     }
 
-    /// A peer that wants the same inputs in a form of its own.
+    /// A peer that takes the same inputs in its own form.
     template<typename PeerCorpus, typename Peer, typename Same = std::equal_to<>>
     Comparison &againstWithInputs(const char *peerName, const PeerCorpus &corpus, Peer peer, Same same = {})
     {
@@ -88,8 +88,8 @@ public:
         return *this;
     }
 
-    /// The part of the work that nobody can do without, such as one allocation or one look at each letter. Its result
-    /// is not that of the operation, so it is not compared.
+    /// The part of the work that no implementation can avoid, such as one allocation or one look at each letter. Its
+    /// result is not that of the operation, so it is not compared.
     template<typename Inputs, typename Floor>
     Comparison &above(const Inputs &inputs, Floor floor)
     {

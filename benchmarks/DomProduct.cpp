@@ -4,7 +4,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Tenths of a millimetre; the catalogues measured here know no other units.
+/// A length in tenths of a millimetre; the measured catalogues use no other units.
 double unitFactor(const QString &unit)
 {
     return unit == "cm"_L1 ? 100 : 10;

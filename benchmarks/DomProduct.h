@@ -36,7 +36,7 @@ struct DomGeometry
     int highestPages = 0;
     int pageStep = 0;
     int packagesPerBlock = 0;
-    // In tenths of a millimetre.
+    // These lengths are in tenths of a millimetre.
     double baseWidth = 0;
     double blockWidth = 0;
     double additionalWidth = 0;

@@ -43,7 +43,7 @@ ProcessUsage Process::wait()
     if (wait4(myId, &status, 0, &usage) != myId || status != 0)
         fail(myName + " failed");
     const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - myStart;
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-union-access): that is how glibc declares it
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-union-access): glibc declares it like this
     return { elapsed.count(), seconds(usage.ru_utime) + seconds(usage.ru_stime), double(usage.ru_maxrss) / 1024 };
 }
 

@@ -10,21 +10,21 @@
 
 #include <sys/types.h>
 
-/// A program with its path, and its arguments.
+/// A program, with its path and arguments.
 using Command = std::vector<std::string>;
 
 /// The resources that a process used from its start to its end.
 struct ProcessUsage
 {
-    double seconds = 0; ///< On the clock.
-    double processorSeconds = 0; ///< Of all its threads, in the system as well.
+    double seconds = 0; ///< The elapsed time.
+    double processorSeconds = 0; ///< The time of all its threads, in the program and in the system.
     double peakMegabytes = 0;
 };
 
 /**
  * Another program, which reads from one file descriptor and writes to another.
  *
- * The peak of a process is never below that of the one that started it, so whoever measures stays small.
+ * The peak of a process is never below that of its parent, so the measuring program stays small.
  */
 class Process
 {
@@ -34,7 +34,7 @@ public:
     Process(const Command &command, int input, int output);
     ~Process() = default;
 
-    /// Once. Where the program does not end with 0, neither does this one.
+    /// Waits for the end, once. If the program fails, this one fails as well.
     ProcessUsage wait();
 
 private:

@@ -20,7 +20,7 @@
 #include <QString>
 #include <QStringList>
 
-/// Everything that a catalogue says of a product, as the classes of the library have it.
+/// Everything that a catalogue says about a product, in the classes of the library.
 struct TypedProduct
 {
     RVProductType type;
@@ -39,20 +39,20 @@ struct TypedProduct
     bool hasSpine;
     RVBarcodeDefinitionList barcodes;
     RVConfiguredArticleVariantList options;
-    RVPriceClass optionPriceClass; ///< That of the first option.
+    RVPriceClass optionPriceClass; ///< The price class of the first option.
     RVPriceClass priceClass;
     RVPriceClass pagePriceClass;
     QStringList families;
     qint64 number;
-    qint64 line; ///< Of its start tag, which stands on one line.
+    qint64 line; ///< The line of its start tag.
 };
 
-/// A number over the values of many products: two programs that print the same have read the same.
+/// A checksum of the values of many products: two programs that print the same number have read the same values.
 class ProductChecksum
 {
 public:
     void add(const TypedProduct &values);
-    /// One line on the standard output.
+    /// Writes one line to the standard output.
     void print() const;
 
 private:

@@ -56,7 +56,7 @@ TIMES = [
     ("catalogue-time", "rvcatalog show --json, 20,000 products; QDomDocument", "catalogue/ours", "catalogue/dom", 0.4,
      None),
 ]
-# operation, what nobody can do without, benchmark of ours, of that, highest ratio
+# operation, its unavoidable part, benchmark of ours, of that part, highest ratio
 FLOORS = [
     ("decodeCSV, three keywords", "a look at each letter", "decodeCSV/ours", "decodeCSV/floor", None),
     ("encodeCSV, three bits", "one allocation, one copy", "encodeCSV/ours", "encodeCSV/floor", 1.5),
@@ -81,8 +81,8 @@ PROCESSES = [
     ("parse-expat", "a bare pass, libxml2; expat", "parse/libxml2", "parse/expat", 1.0),
 ]
 MOST_MEMORY = 0.05  # peak of the catalogue program, against the peer's
-MOST_MEGABYTES = {"show": 40, "check": 56}  # of the catalogue program with a million products; 26 bytes each to check them
-MOST_DIFF_MEGABYTES = 40  # of the catalogue program with two times 20,000 products, some 300 bytes for each old one
+MOST_MEGABYTES = {"show": 40, "check": 56}  # for the catalogue program with a million products; the check takes 26 bytes for each
+MOST_DIFF_MEGABYTES = 40  # for the catalogue program with two times 20,000 products; some 300 bytes for each old one
 MOST_PRODUCT_ALLOCATIONS = 5  # of the reader for one product, four to keep it, beside those of the parser
 PRODUCTS_READ = 1000  # by bench_reader
 LEAST_THROUGHPUT = 1.9  # of two threads, against one
@@ -149,7 +149,7 @@ def count_instructions(programs, program, seed):
 def measure(programs, folder):
     """For each seed the medians of every benchmark by its name, Google Benchmark's complexity reports, instructions."""
     runs, complexity, instructions = ({seed: {} for seed in SEEDS} for _ in range(3))
-    # The seeds take turns, so that they meet the machine in the same moods.
+    # The seeds take turns, so that both run under the same load of the machine.
     turns = [(program, seed) for program in PROGRAMS for _ in range(ROUNDS.get(program, USUAL_ROUNDS)[0])
              for seed in SEEDS]
     for program, seed in turns:
@@ -191,7 +191,7 @@ def time_rows(medians, name, operation, ours, peer, goal, most_allocations):
     peer_ns = [medians[seed][peer]["ns"] for seed in SEEDS]
     allocations = [medians[seed][ours].get("allocations") for seed in SEEDS]
     text = "" if None in allocations else f"{max(allocations):.3g}" if max(allocations) < 1000 else f"{max(allocations):,.0f}"
-    # Against the peer at its best, which is seed 0.
+    # The ratio is against the peer with seed 0, at which it is fastest.
     yield Row(name, operation, [ns / peer_ns[0] for ns in ours_ns], goal, ours_ns, peer_ns, allocations=text)
     if most_allocations is not None:
         yield Row(name + "-allocations", "… its allocations", allocations, most_allocations)
@@ -227,7 +227,7 @@ def make_rows(results):
     yield Row("catalogue-diff-memory", "rvcatalog diff, two of 20,000 products, peak memory in MB",
               [medians[seed]["diff/ours"]["peak"] for seed in SEEDS], MOST_DIFF_MEGABYTES)
     for name in ("decode", "encode", "normalise"):
-        # The best repetition of each: whatever else runs takes a core away from two threads, but not from one.
+        # The best repetition of each counts: other processes take a core away from two threads, but not from one.
         one, two = ([medians[seed][f"{name}/real_time/threads:{count}"]["best_ns"] for seed in SEEDS]
                     for count in (1, 2))
         yield Row("two-threads-" + name, f"{name} on two threads; throughput of one", [a / b for a, b in zip(one, two)],

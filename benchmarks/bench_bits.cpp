@@ -1,4 +1,4 @@
-// Taking a value apart into its bits, against the loop over all 64 masks that comes to mind first.
+// Splitting a value into its bits, compared with the obvious loop over all 64 masks.
 #include "Comparison.h"
 
 #include <RVPaperType.h>
@@ -10,7 +10,7 @@ namespace {
 
 constexpr RVPaperTypeEnum TOGGLED = FOTOPAPER | PREMIUM | INDIGO;
 
-/// All values of three bits below 2^8, over and over.
+/// All values of three bits below 2^8, repeated.
 QList<RVPaperType> valuesOfThreeBits()
 {
     QList<RVPaperType> result;
@@ -21,7 +21,7 @@ QList<RVPaperType> valuesOfThreeBits()
     return result;
 }
 
-/// As above, and single bits and 0 between them.
+/// The same values, with single bits and 0 between them.
 QList<RVPaperType> valuesOfFewBits()
 {
     QList<RVPaperType> result = valuesOfThreeBits();

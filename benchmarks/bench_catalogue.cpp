@@ -1,5 +1,5 @@
-// One catalogue of 20,000 products, read by whole processes: "rvcatalog" and programs on the library beside xmllint,
-// beside QDomDocument and beside what bare passes of parsers cost.
+// One catalogue of 20,000 products, read by whole processes: "rvcatalog" and programs that use the library, compared
+// with xmllint, with QDomDocument and with bare passes of parsers.
 #include "Catalogue.h"
 #include "Comparison.h"
 #include "Process.h"
@@ -34,7 +34,7 @@ public:
             fail("cannot read what " + command.front() + " wrote");
     }
 
-    /// The next product, empty at the end; what stands around the products is passed over.
+    /// The next product, empty at the end; the text around the products is skipped.
     QJsonObject next()
     {
         while (!myFile.atEnd()) {
@@ -51,7 +51,7 @@ private:
     QFile myFile;
 };
 
-/// Programs that print the same have read the same.
+/// Two programs that print the same have read the same values.
 void requireSameOutput(const QTemporaryDir &folder, const QList<Command> &commands)
 {
     QByteArray expected;
@@ -67,7 +67,7 @@ void requireSameOutput(const QTemporaryDir &folder, const QList<Command> &comman
     }
 }
 
-/// True when everything that the other program has read stands in ours, which knows more. Lengths may differ by
+/// True when our output, which has more values, contains all values of the other program. Lengths may differ by
 /// rounding.
 // NOLINTNEXTLINE(misc-no-recursion): as deep as the JSON of a product
 bool contains(const QJsonValue &ours, const QJsonValue &theirs)
@@ -117,7 +117,7 @@ void add(const char *name, const Command &command)
             ->Unit(benchmark::kMillisecond);
 }
 
-/// Every so many products have a wider spine; none where it is 0.
+/// The distance between products with a wider spine; 0 for none.
 std::string writeCatalogue(const QString &name, int changed = 0)
 {
     QFile file(name);
@@ -145,7 +145,7 @@ void addShow(const QTemporaryDir &folder, const std::string &file)
     add("catalogue/xmllint", { XMLLINT, "--stream", "--noout", file });
 }
 
-/// Neither finds anything.
+/// Neither program finds anything.
 void addCheck(const std::string &file)
 {
     add("check/ours", { RVCATALOG, "check", file });
@@ -161,7 +161,7 @@ void addTyped(const QTemporaryDir &folder, const std::string &file)
     add("typed/readers", readers);
 }
 
-/// Programs that compare end with 1 where they find a difference.
+/// Programs that compare end with 1 if they find a difference.
 Command comparing(const std::string &script, const std::vector<std::string> &files)
 {
     Command command { "/bin/sh", "-c", "{ " + script + "; } || test $? = 1", "sh" };

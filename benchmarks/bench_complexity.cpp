@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Something of size n is made by @p make, then the operation is timed on it.
+/// Measures the operation on an input of size n, which @p make creates.
 template<typename Make, typename Operation>
 void add(const char *name, int smallest, int largest, benchmark::BigO expected, Make make, Operation operation)
 {

@@ -1,4 +1,4 @@
-// Reading and writing keywords, against what Qt and the standard library offer for it.
+// Reading and writing keywords, compared with the means of Qt and the standard library.
 #include "Comparison.h"
 
 #include <RVArticleClass.h>
@@ -51,7 +51,7 @@ QRandomGenerator &random()
     return generator;
 }
 
-/// As people and old catalogues write it.
+/// A keyword as people and old catalogues write it.
 QString inAnyCase(const QString &keyword)
 {
     switch (random().bounded(4)) {
@@ -67,7 +67,7 @@ QString inAnyCase(const QString &keyword)
 /// Three keywords or aliases each, with blanks around some.
 QStringList keywordLists(QStringList keywords)
 {
-    keywords.sort(); // the same corpus, whatever the hash seed
+    keywords.sort(); // the same corpus for every hash seed
     QStringList result;
     for (int i = 0; i < CORPUS_SIZE; ++i) {
         QStringList pieces;
@@ -213,13 +213,13 @@ bool sameKeywords(const QString &ours, QString theirs)
     return keywords == names;
 }
 
-/// One look at each letter, as none can be left out.
+/// One look at each letter, because none can be left out.
 int sumOfLetters(const QString &text)
 {
     return std::accumulate(text.begin(), text.end(), 0, [](int sum, QChar letter) { return sum + letter.unicode(); });
 }
 
-/// Ready texts of one value or several each. Nobody owns the letters, so a copy of a text counts no owners.
+/// Ready texts, each of one value or several. Their letters are static, so a copy of a text counts no owners.
 QStringList encoded(const QList<RVPaperType> &papers)
 {
     static QStringList texts;

@@ -1,4 +1,5 @@
-// The peak of "rvcatalog" at a catalogue that never ends up in a file: it is made while it is read, through a pipe.
+// The peak memory of "rvcatalog" for a catalogue that is not a file: it comes through a pipe and is generated while it
+// is read.
 #include "Comparison.h"
 #include "Process.h"
 

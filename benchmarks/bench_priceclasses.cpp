@@ -1,4 +1,4 @@
-// Asking for a named group of price classes, against writing the set down where it is needed.
+// Getting a named group of price classes, compared with writing the set as a literal.
 #include "Comparison.h"
 
 #include <RVPriceClassSet.h>
@@ -18,7 +18,7 @@ struct Group
     Codes (*literals)();
 };
 
-/// Every group that is handed out as it is stored.
+/// Every group that is returned as it is stored.
 constexpr Group GROUPS[] = {
     { RVPriceClassSet::spotColorGloss,
       [] {

@@ -1,4 +1,4 @@
-// Finding the family of a product code, against a regular expression that is compiled once.
+// Finding the family of a product code, compared with a regular expression that is compiled once.
 #include "Comparison.h"
 
 #include <RVProductType.h>

@@ -1,4 +1,5 @@
-// Typing into the search line of the window with 100,000 products, key by key and painted, against a filter of Qt.
+// Typing into the search line of the window with 100,000 products, key by key and painted, compared with a filter of
+// Qt.
 #include "Comparison.h"
 
 #include <LoadedCatalogue.h>
@@ -21,7 +22,7 @@ namespace {
 
 constexpr int PRODUCTS = 100000;
 
-/// The text of the search line after each key, and behind it back to nothing, which shows all products again.
+/// The text of the search line after each key, and then back to an empty line, which shows all products again.
 QStringList keyPresses()
 {
     QStringList result;
@@ -82,7 +83,7 @@ private:
     QLineEdit *mySearch;
 };
 
-/// A list of the same texts behind Qt's filter, which knows no words and no umlauts.
+/// A list of the same texts with Qt's filter, which does not handle words and umlauts.
 class Peer
 {
     Q_DISABLE_COPY_MOVE(Peer)
@@ -116,7 +117,7 @@ private:
     QListView myView;
 };
 
-/// The program ends with all of its widgets, which may not outlive an application that is destroyed.
+/// The program ends without destroying the application, because its widgets must not outlive it.
 void startApplication()
 {
     static int argc = 1;

@@ -1,4 +1,4 @@
-// Asking the two services for what they know already, against the smallest cache that any thread may ask.
+// Cached results of the two services, compared with the smallest thread-safe cache.
 #include "Comparison.h"
 
 #include <RVPageOrganizationCalculator.h>
@@ -37,7 +37,7 @@ class Cache
 public:
     void insert(const Key &key, const Value &value) { myValues.insert(key, value); }
 
-    /// A call, as that into a library is.
+    /// A real call, like a call into a library.
     Q_NEVER_INLINE Value value(const Key &key) const
     {
         const QMutexLocker locker(&myMutex);

@@ -1,4 +1,5 @@
-// The same work on one thread and on each of two, which share tables but no text. What counts is how much more two do.
+// The same work on one thread and on each of two, which share tables but no text. The figure is the gain by the second
+// one.
 #include "Comparison.h"
 
 #include <RVPaperType.h>
@@ -37,7 +38,7 @@ QStringList codes()
     return result;
 }
 
-/// Each thread makes a corpus of its own.
+/// Each thread makes its own corpus.
 template<typename MakeCorpus, typename Operation>
 void add(const char *name, MakeCorpus makeCorpus, Operation operation)
 {

@@ -1,4 +1,4 @@
-// Reading the options of a project file, against Qt's class for texts of keys and values.
+// Reading the options of a project file, compared with Qt's class for texts of keys and values.
 #include "Comparison.h"
 
 #include <RVArticleVariants.h>
@@ -38,7 +38,7 @@ QHash<QString, QString> readWithUrlQuery(const QString &text)
     return result;
 }
 
-/// Keys and values that are there already, put into a hash of their own.
+/// Existing keys and values, inserted into a new hash.
 QHash<QString, QString> copied(const QHash<QString, QString> &options)
 {
     QHash<QString, QString> result;

@@ -1,4 +1,4 @@
-// Reading one product element of a catalogue, against asking the element for each attribute by name.
+// Reading one product element of a catalogue, compared with reading each attribute by name.
 #include "Catalogue.h"
 #include "Comparison.h"
 #include "DomProduct.h"
@@ -80,7 +80,7 @@ struct Attribute
     QString name;
 };
 
-/// Every attribute of an element and of what stands in it.
+/// Every attribute of an element and of the elements in it.
 QList<Attribute> attributesOf(const QDomElement &element)
 {
     QList<Attribute> result;
@@ -92,7 +92,7 @@ QList<Attribute> attributesOf(const QDomElement &element)
     return result;
 }
 
-/// Asks for each attribute, and makes nothing of it.
+/// Reads each attribute without converting it.
 qsizetype countLetters(const QList<Attribute> &attributes)
 {
     return std::accumulate(attributes.begin(), attributes.end(), qsizetype(0),

@@ -1,6 +1,6 @@
 // usage: catalogue_dom CATALOGUE [--json]
-// What one writes without the library: loads the whole catalogue into one QDomDocument and reads of every product what
-// "rvcatalog show" does. It writes the values only when asked to, so that they can be compared.
+// The usual code without the library: loads the whole catalogue into one QDomDocument and reads the same values of
+// every product as "rvcatalog show". It writes the values only with --json, so that they can be compared.
 #include "DomProduct.h"
 
 #include <QDomDocument>

@@ -1,5 +1,5 @@
 // usage: catalogue_readers CATALOGUE
-// Reads every value of every product out of one QDomDocument, with the readers and attribute classes of RVProductBase,
+// Reads every value of every product from one QDomDocument, with the readers and attribute classes of RVProductBase,
 // and prints their checksum.
 #include "TypedProduct.h"
 
@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Null where the attribute is missing.
+/// The value; null if the attribute is missing.
 template<typename T>
 T keywords(const QDomElement &product, const QString &name, const T &missing = T())
 {

@@ -1,5 +1,5 @@
 // usage: catalogue_stream PRODUCTS FORMS
-// Writes a catalogue to the standard output as it is made, so that it may be larger than any disk.
+// Writes a catalogue to the standard output while it is generated, so that it may be larger than any disk.
 #include "Catalogue.h"
 
 #include <cstdio>

@@ -16,7 +16,8 @@ void countOne() noexcept
         allocations.fetch_add(1, std::memory_order_relaxed);
 }
 
-// Nothing is marked "override", since Google Benchmark 1.7 has both kinds of Stop() and 1.9 only that with a reference.
+// The functions are not marked "override", because Google Benchmark 1.7 has both kinds of Stop() and 1.9 only the one
+// with a reference.
 class AllocationCounter : public benchmark::MemoryManager
 {
 public:
@@ -36,8 +37,8 @@ public:
 
 }
 
-// Qt's strings and lists take their memory from malloc and realloc, and so does operator new. These stand in front of
-// glibc's for the whole process and hand over to it.
+// Qt's strings and lists take their memory from malloc and realloc, and so does operator new. These functions replace
+// those of glibc in the whole process and call them.
 extern "C" {
 // NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp): the names are glibc's
 void *__libc_malloc(std::size_t size);

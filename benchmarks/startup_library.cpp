@@ -27,7 +27,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Takes nothing of the list but its classes, so the library of catalogues is not loaded.
+/// Uses only the classes of the list, so the library of catalogues is not loaded.
 template<typename... Attributes>
 void useKeywords(const std::tuple<RVCatalogueAttributeRow<Attributes>...> *)
 {

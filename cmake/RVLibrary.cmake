@@ -1,4 +1,4 @@
-# The common parts of the libraries: their headers are included and installed alike.
+# The common parts of the libraries: their headers are included and installed in the same way.
 
 if(RV_INSTALL)
     include(CMakePackageConfigHelpers)
@@ -6,8 +6,8 @@ if(RV_INSTALL)
 endif()
 
 # rv_add_shared_library(RVName SOURCES... HEADERS... LOCAL_SYMBOLS map)
-# Makes the shared library libRVName.so with the export macro of RVNameExport.h; the target is RV::Name. The map tells the
-# linker what is nobody's interface.
+# Makes the shared library libRVName.so with the export macro of RVNameExport.h; the target is RV::Name. The map lists
+# the symbols that the linker hides.
 function(rv_add_shared_library name)
     cmake_parse_arguments(arg "" "LOCAL_SYMBOLS" "SOURCES;HEADERS" ${ARGN})
     if(NOT arg_LOCAL_SYMBOLS)
@@ -50,8 +50,8 @@ function(rv_add_headers name scope)
 endfunction()
 
 # rv_install_library(RVName)
-# The CMake package RVName finds what RVNameConfig.cmake.in names. What programs run with is the install component RVName,
-# what they are built with is RVNameDevelopment.
+# The CMake package RVName finds the dependencies in RVNameConfig.cmake.in. The install component RVName has the files
+# for running programs, and RVNameDevelopment those for building them.
 function(rv_install_library name)
     set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/${name})
     set(development ${name}Development)
@@ -94,8 +94,8 @@ function(rv_find_translations name)
 endfunction()
 
 # rv_install_pkg_config(RVName)
-# The pkg-config file RVName.pc, made of RVName.pc.in. The installed tree can be moved: the file finds its prefix from its
-# own place.
+# Installs the pkg-config file RVName.pc, made from RVName.pc.in. The installed tree can be moved: the file computes its
+# prefix from its own place.
 function(rv_install_pkg_config name)
     if(NOT RV_INSTALL)
         return()

@@ -1,5 +1,5 @@
-# The headers of Qt that nearly every source here reads, parsed once. A source still includes what it uses: "./dev lint" reads
-# each without this, and so does a test of the package.
+# The headers of Qt that nearly every source here reads, parsed once. A source still includes the headers that it uses:
+# "./dev lint" and a test of the package compile without this.
 add_library(rv_precompiled OBJECT ${CMAKE_CURRENT_LIST_DIR}/precompiled.cpp)
 set_target_properties(rv_precompiled PROPERTIES POSITION_INDEPENDENT_CODE ON)
 target_link_libraries(rv_precompiled PRIVATE Qt6::Core Qt6::Xml)
@@ -16,8 +16,8 @@ target_precompile_headers(rv_precompiled PRIVATE
     <QStringList>
 )
 
-# rv_use_precompiled(target precompiled): a compiler takes what it has precompiled only for code that is independent of its
-# position in the same way. That of a shared library has to be, so that of a program is, too.
+# rv_use_precompiled(target precompiled): a precompiled header needs the same setting of position-independent code in
+# all targets. Shared libraries need such code, so programs have it, too.
 function(rv_use_precompiled target precompiled)
     target_precompile_headers(${target} REUSE_FROM ${precompiled})
     if(UNIX)

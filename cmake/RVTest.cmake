@@ -1,4 +1,4 @@
-# A test program looks at the libraries, which are optimised as ever; the program itself is compiled quickly.
+# A test program uses the libraries, which are optimised as usual; the program itself is compiled fast.
 set(RV_TEST_OPTIONS "$<$<AND:$<CXX_COMPILER_ID:GNU,Clang>,$<CONFIG:RelWithDebInfo,Release>>:-O1;-g1>")
 
 # Qt6::Test also defines the folders of the test that links it, and a precompiled header holds only for the same definitions.
@@ -23,16 +23,16 @@ target_precompile_headers(rv_test_precompiled PRIVATE
 )
 
 # rv_add_test_program(name NOT_PRECOMPILED SOURCE file LIBRARIES... DEFINITIONS... OPTIONS... PROGRAMS...)
-# Builds a test program from one file, <name>.cpp if no other is given, which includes what moc makes of it. It may run
-# other programs of the tree. Where options or libraries give the headers of Qt another meaning, it is NOT_PRECOMPILED.
+# Builds a test program from one file, <name>.cpp if no other is given, which includes the output of moc. It may run
+# other programs of the tree. It is NOT_PRECOMPILED if options or libraries change the headers of Qt.
 function(rv_add_test_program name)
     cmake_parse_arguments(arg "NOT_PRECOMPILED" "SOURCE" "LIBRARIES;DEFINITIONS;OPTIONS;PROGRAMS" ${ARGN})
     if(NOT arg_SOURCE)
         set(arg_SOURCE ${name}.cpp)
     endif()
 
-    # moc itself rather than AUTOMOC, which costs three more processes and a source a program; as a target, so that it can run
-    # before the libraries are built.
+    # The build calls moc itself, because AUTOMOC costs three more processes and a source for each program. It is a
+    # target, so that it can run before the libraries are built.
     cmake_path(GET arg_SOURCE STEM source_name)
     set(moc_folder ${CMAKE_CURRENT_BINARY_DIR}/moc/${name})
     qt_generate_moc(${arg_SOURCE} ${moc_folder}/${source_name}.moc)
@@ -53,7 +53,7 @@ function(rv_add_test_program name)
 endfunction()
 
 # rv_add_test(name ... LABELS... WORKING_DIRECTORY folder)
-# The same, and the test of that name.
+# Does the same, and adds the test with that name.
 function(rv_add_test name)
     cmake_parse_arguments(arg "" "WORKING_DIRECTORY" "LABELS" ${ARGN})
     rv_add_test_program(${name} ${arg_UNPARSED_ARGUMENTS})
@@ -64,7 +64,7 @@ function(rv_add_test name)
 endfunction()
 
 # rv_add_run(name command... LABELS...)
-# A test that runs a program, without a screen and for five minutes at most.
+# Adds a test that runs a program, without a screen and for at most five minutes.
 function(rv_add_run name)
     cmake_parse_arguments(arg "" "" "LABELS" ${ARGN})
     add_test(NAME ${name} COMMAND ${arg_UNPARSED_ARGUMENTS})

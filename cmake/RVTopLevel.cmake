@@ -1,4 +1,4 @@
-# Settings that hold only where this tree is built for itself, and not as a part of another project.
+# Settings that apply only if this tree is built on its own, not as a part of another project.
 
 get_property(RV_MULTI_CONFIG GLOBAL PROPERTY GENERATOR_IS_MULTI_CONFIG)
 if(NOT RV_MULTI_CONFIG AND NOT CMAKE_BUILD_TYPE)
@@ -8,13 +8,13 @@ endif()
 add_compile_options(
     "$<$<CXX_COMPILER_ID:GNU,Clang,AppleClang>:-Wall;-Wextra;-Wpedantic;-Wshadow;-Wnon-virtual-dtor;-Woverloaded-virtual>"
 )
-# clang leaves it to the program to bring in what the sanitizers need.
+# clang links the runtime of the sanitizers only into programs.
 if(UNIX AND NOT APPLE AND NOT RV_FUZZ)
     add_link_options(LINKER:--no-undefined)
 endif()
 
-# ccache is used where it is found, unless -DCMAKE_CXX_COMPILER_LAUNCHER=… says otherwise. What a precompiled header defines
-# is part of that header, which ccache compares, and nothing here asks for the time.
+# ccache is used if it is found, unless -DCMAKE_CXX_COMPILER_LAUNCHER=… is given. ccache compares precompiled headers
+# with all their definitions, and no source uses the time of the build.
 find_program(CCACHE_PROGRAM ccache)
 mark_as_advanced(CCACHE_PROGRAM)
 if(CCACHE_PROGRAM AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
@@ -24,7 +24,7 @@ if(CCACHE_PROGRAM AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
     add_compile_options($<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
 endif()
 
-# An installed program finds the libraries beside it, wherever the package was unpacked; in /usr the system finds them.
+# An installed program finds the libraries beside it in every prefix; in /usr the system finds them.
 include(GNUInstallDirs)
 if(APPLE)
     set(CMAKE_INSTALL_RPATH "@loader_path/../${CMAKE_INSTALL_LIBDIR}")

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # usage: build.sh FOLDER [QHELPGENERATOR]
 # Writes the documentation to FOLDER/html and, with the program that makes Qt help files, to FOLDER/RVProductBase.qch.
-# A public name without a text is an error.
+# A public name without documentation is an error.
 set -euo pipefail
 FOLDER="$(realpath -m "$1")"
 cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/.."
@@ -12,7 +12,7 @@ rm -rf "$FOLDER/html" "$FOLDER/RVProductBase.qch"
 mkdir -p "$FOLDER"
 doxygen docs/Doxyfile
 docs/site.py "$FOLDER/html"
-# doxygen passes over an enumerator without a text, but leaves it without a link.
+# doxygen does not report an enumerator without a text, but leaves it without a link.
 if grep -ohE '<b>[A-Z0-9_]+</b>' "$FOLDER"/html/group__*.html; then
   echo "build.sh: these enumerators have no text" >&2
   exit 1

@@ -20,7 +20,7 @@ import textwrap
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 GUIDE = ROOT / "docs/guide"
-# The order in which the pages are read. A page that is not there is passed over.
+# The order of the pages for reading. A missing page is skipped.
 PAGES = [
     "first-program",
     "reading-a-catalogue",

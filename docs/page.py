@@ -13,7 +13,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 LINK = re.compile(r"(!?)\[([^\]]*)\]\(([^)\s]+)\)")
 # The languages that doxygen colours.
 LANGUAGES = {"cpp": "{.cpp}", "xml": "{.xml}"}
-# The first page has these below it; main.dox has what is below the last two.
+# The first page has these below it; main.dox has the pages below the last two.
 BELOW_README = ["page_guide", "page_catalogues", "page_maintainers"]
 
 

@@ -11,7 +11,7 @@ import pathlib
 import re
 import sys
 
-# Words that stand in every text find nothing.
+# Words that occur in every text are not searched.
 COMMON = set("""
     about above after again all also and any are because before behind below between both but can does each else even every
     first for from has have here how into its itself last like made make many may more most must need next not nothing once

@@ -5,7 +5,7 @@
 #include <QString>
 #include <QStringList>
 
-/// A file in memory, which goes with the process.
+/// A file in memory, which disappears with the process.
 class MemoryFile
 {
     Q_DISABLE_COPY_MOVE(MemoryFile)
@@ -24,8 +24,8 @@ private:
     int myDescriptor;
 };
 
-/// Runs rvcatalog with these arguments, the first of which is a command, and returns its exit code. What it writes goes
-/// nowhere; it must report something, with a place in a file, exactly when it does not end well.
+/// Runs rvcatalog with these arguments, the first of which is a command, and returns its exit code. The output is
+/// discarded. The command must report a problem, with a place in a file, exactly when it fails.
 int runQuietly(const QStringList &arguments);
 
 #endif

@@ -9,7 +9,8 @@
 #include <cstdint>
 #include <limits>
 
-/// Takes the bytes of the fuzzer apart: text in UTF-8, one piece a line, so that seeds can be read and written by hand.
+/// Splits the bytes of the fuzzer: text in UTF-8 with one piece on each line, so that seeds can be read and written by
+/// hand.
 class Input
 {
 public:
@@ -19,7 +20,7 @@ public:
 
     bool atEnd() const { return myPosition >= myBytes.size(); }
 
-    /// All bytes that are left.
+    /// The remaining bytes.
     QByteArray rest()
     {
         const QByteArray result = myBytes.mid(myPosition);
@@ -35,16 +36,16 @@ public:
         return QString::fromUtf8(line());
     }
 
-    /// The next line as a number, within the limits of 64 bits; 0 for what is none.
+    /// The next line as a number, within the limits of 64 bits; 0 if it is none.
     qint64 number() { return line().trimmed().toLongLong(); }
-    /// The next line as a number, within the limits of an int; 0 for what is none.
+    /// The next line as a number, within the limits of an int; 0 if it is none.
     int integer()
     {
         constexpr qint64 lowest = std::numeric_limits<int>::min();
         constexpr qint64 highest = std::numeric_limits<int>::max();
         return int(qBound(lowest, number(), highest));
     }
-    /// The next line as a real number, "nan" and "inf" included; 0 for what is none.
+    /// The next line as a real number, "nan" and "inf" included; 0 if it is none.
     qreal real() { return line().trimmed().toDouble(); }
 
 private:

@@ -65,7 +65,7 @@ void checkCopies(const T &value, const T &other)
     CHECK(moved == other);
 }
 
-/// At most one of two values comes before the other, and neither where they are equal.
+/// At most one of two values comes before the other, and neither if they are equal.
 template<typename T>
 void checkOrder(const T &a, const T &b)
 {
@@ -75,7 +75,7 @@ void checkOrder(const T &a, const T &b)
     CHECK((a == b) == (b == a));
 }
 
-/// Exactly one of <, == and > holds, and <= and >= go with them.
+/// Exactly one of <, == and > holds, and <= and >= agree with them.
 template<typename T>
 void checkTotalOrder(const T &a, const T &b)
 {

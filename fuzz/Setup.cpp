@@ -4,12 +4,12 @@
 
 namespace {
 
-// The library reports what it cannot read, which is most of what comes from a fuzzer.
+// The library reports texts that it cannot read, which are most inputs of a fuzzer.
 void swallow(QtMsgType, const QMessageLogContext &, const QString &) { }
 
 }
 
-// An input behaves in every run as it did in the first one, whatever follows the order of a hash.
+// A fixed hash seed makes an input behave the same in every run, also where the order of a hash matters.
 extern "C" int LLVMFuzzerInitialize(int *, char ***)
 {
     QHashSeed::setDeterministicGlobalSeed();

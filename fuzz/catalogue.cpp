@@ -1,4 +1,4 @@
-// A catalogue, read product by product as programs read it, and as rvcatalog shows and checks it.
+// A catalogue, read product by product as applications do, and shown and checked by rvcatalog.
 #include "CommandRunner.h"
 #include "Properties.h"
 
@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Hands out a few bytes at a time, as a pipe does.
+/// Returns a few bytes at a time, as a pipe does.
 class Drops : public QBuffer
 {
 public:
@@ -27,7 +27,7 @@ protected:
     qint64 readData(char *data, qint64 maxSize) override { return QBuffer::readData(data, qMin(maxSize, qint64(3))); }
 };
 
-/// The answers of the reader to a file.
+/// The results of the reader for a file.
 struct Reading
 {
     QStringList products;
@@ -84,7 +84,7 @@ QStringList productsOf(const QDomNode &parent)
     return result;
 }
 
-/// True for what may be a name with a colon elsewhere than between two parts, which Qt refuses and XML does not.
+/// True for a file that may have a name with a colon in a wrong place, which Qt refuses and XML does not.
 bool hasOddColon(QByteArray xml)
 {
     static const QRegularExpression oddColon(u":[^\\s=/>]*:|:[\\s=/>]|[</\\s]:"_s);
@@ -92,7 +92,7 @@ bool hasOddColon(QByteArray xml)
     return oddColon.match(QString::fromLatin1(xml)).hasMatch();
 }
 
-/// The document that Qt reads; a null one, with a good reason, where it reads none.
+/// The document that Qt reads; a null one, with a reason, if it reads none.
 QDomDocument documentOf(const QByteArray &xml)
 {
     QDomDocument document;
@@ -112,7 +112,8 @@ void checkOptions(const RVCatalogueProduct &product, const QDomElement &document
     }
 }
 
-// The product must go through its text unchanged, and say what the readers of the library say of its element.
+// The product must stay the same after it was written and read, and must have the values that the readers of the
+// library give for its element.
 void checkProduct(const RVCatalogueProduct &product)
 {
     QByteArray xml = product.toXml();
@@ -132,7 +133,7 @@ void checkProduct(const RVCatalogueProduct &product)
     checkOptions(product, element);
 }
 
-// Findings come in the order of the file, on one line each, and of known rules.
+// Findings come in the order of the file, each on one line and with a known rule.
 void addFindings(const QList<RVCatalogueFinding> &findings, Reading *reading)
 {
     RVFilePosition last;
@@ -162,7 +163,7 @@ void addEnd(const RVCatalogueReader &reader, Reading *reading)
     reading->errorPlace = text(reader.errorPosition());
 }
 
-/// One product after the other.
+/// Reads one product after the other.
 Reading readProducts(QIODevice *device)
 {
     device->open(QIODevice::ReadOnly);
@@ -184,7 +185,7 @@ Reading readProducts(QIODevice *device)
     return result;
 }
 
-/// On several threads.
+/// Reads on several threads.
 Reading mapProducts(QIODevice *device)
 {
     device->open(QIODevice::ReadOnly);

@@ -1,4 +1,4 @@
-// A configuration file. Its first line is its name, whose end chooses the format; all else is its content.
+// A configuration file. Its first line is its name, whose suffix selects the format; the rest is its content.
 #include "Input.h"
 #include "Properties.h"
 
@@ -24,7 +24,7 @@ void checkPosition(const RVCheckConfiguration &configuration, const QByteArray &
     CHECK(position->line <= text.count('\n') + 1);
 }
 
-/// A configuration that is broken changes nothing, and one that is not can be applied twice.
+/// A broken configuration changes nothing, and a valid one can be applied twice.
 void checkApplying(const RVCheckConfiguration &configuration)
 {
     RVCatalogueCheck check;

@@ -20,7 +20,7 @@
 
 namespace {
 
-/// The answers of a comparison.
+/// The results of a comparison.
 struct Result
 {
     RVComparisonCounts counts;
@@ -66,7 +66,7 @@ Result compare(const QByteArray &before, const QByteArray &after)
     return result;
 }
 
-// Every product equals itself, also when it was written and read again.
+// Every product equals itself, also after it was written and read again.
 void checkSame(const QByteArray &xml)
 {
     const Result same = compare(xml, xml);
@@ -86,7 +86,7 @@ void checkSame(const QByteArray &xml)
     }
 }
 
-/// Runs rvcatalog; returns its exit code and what it wrote.
+/// Runs rvcatalog; returns its exit code and its output.
 std::pair<int, QByteArray> runDiff(const MemoryFile &before, const MemoryFile &after, const QString &format)
 {
     static MemoryFile output;
@@ -101,7 +101,7 @@ std::pair<int, QByteArray> runDiff(const MemoryFile &before, const MemoryFile &a
     return { exitCode, output.read() };
 }
 
-// The output is whole, or there is none.
+// The output is complete or empty.
 void checkCommand(const Result &expected, const QByteArray &before, const QByteArray &after)
 {
     static MemoryFile oldFile;
@@ -123,7 +123,7 @@ void checkCommand(const Result &expected, const QByteArray &before, const QByteA
     }
 }
 
-// A product that was added one way was removed the other way.
+// A product that is added in one direction is removed in the other.
 void checkMirrored(const Result &there, const Result &back)
 {
     CHECK_EQUAL(there.hasError, back.hasError);

@@ -39,7 +39,7 @@ Checked check(const QByteArray &bytes)
     return result;
 }
 
-/// The edits that an editor takes, in the order of the file.
+/// The edits that an editor accepts, in the order of the file.
 std::map<RVFilePosition, RVFileEdit> addFixes(const QList<RVCatalogueFinding> &findings, RVFileEditor *editor)
 {
     std::map<RVFilePosition, RVFileEdit> result;
@@ -64,7 +64,7 @@ QString edited(QString text, const std::map<RVFilePosition, RVFileEdit> &edits)
     return text;
 }
 
-// Texts that are UTF-8 and have no byte order mark are edited here as texts; they are most of those that are read.
+// Texts in UTF-8 without a byte order mark are edited here as texts; most readable inputs are like this.
 void checkBytes(const QByteArray &bytes, const QByteArray &mended, const std::map<RVFilePosition, RVFileEdit> &edits)
 {
     const QString text = QString::fromUtf8(bytes);

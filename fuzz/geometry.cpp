@@ -129,7 +129,7 @@ void checkSpine(const Numbers &numbers)
     CHECK(spine.spineMaxFontHeigth(few, QString()) > 0);
 
     const RVDistance distance(numbers.real[3], RVDistanceUnit(code));
-    // Below that a double has fewer digits than equality takes into account.
+    // Smaller doubles have fewer digits than equality compares.
     if (std::isfinite(distance.value()) && (distance.value() == 0 || qAbs(distance.value()) > 1e-290))
         CHECK(RVDistance(distance.value(RVDistanceUnit(code)), RVDistanceUnit(code)) == distance);
     CHECK(!(distance < distance));

@@ -1,4 +1,4 @@
-// Three numbers; two order ids and a session; two lists of price classes; what is left is JSON.
+// Three numbers; two order ids and a session; two lists of price classes; the rest is JSON.
 #include "Input.h"
 #include "Properties.h"
 
@@ -26,7 +26,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The texts that come back of those that a value writes to a binary stream.
+/// The texts that are read back after a value was written to a binary stream.
 template<typename T>
 QString readBack(const T &value)
 {

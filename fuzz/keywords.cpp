@@ -47,7 +47,7 @@ bool isAscii(const QString &text)
     return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() > 0 && c.unicode() < 128; });
 }
 
-/// A name leads to the value that bears it. A name that is not ASCII reaches the table of names in another spelling.
+/// A name gives the value that has it. A name that is not ASCII reaches the table of names with other letters.
 template<typename T>
 void checkName(const QString &name, const T &otherwise)
 {
@@ -78,7 +78,7 @@ void checkBits(const T &value)
     CHECK_EQUAL(value.isNull(), value == E(0));
 }
 
-/// A value that is written reads back, unless a bit has no keyword of its own.
+/// A written value reads back, unless a bit has no keyword of its own.
 template<typename T>
 void checkWriting(const T &value)
 {

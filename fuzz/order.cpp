@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The project whose order has nothing but defaults in it, for the first product of the catalogue.
+/// The project whose order has only defaults, for the first product of the catalogue.
 QByteArray defaultProject(QByteArray catalogue)
 {
     QBuffer buffer(&catalogue);

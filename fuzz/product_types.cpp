@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Refuses what is no calendar, as a shop for calendars does.
+/// Refuses every product that is no calendar, as a shop for calendars does.
 class CalendarChecker : public RVProductChecker
 {
 public:
@@ -37,7 +37,7 @@ void checkType(const QString &code)
     CHECK(!type.isAgenda() || type.isCalendar());
     CHECK(code.contains(type.toString()));
 
-    // Nothing stands behind the family of a book, and whatever does makes no difference.
+    // A book has no text behind its family, and additional text makes no difference.
     static const QRegularExpression family(u"^DUNS?\\d+"_s);
     static const QRegularExpression familyOnly(u"^DUNS?\\d+$"_s);
     if (type.toString().contains(family)) {
@@ -63,7 +63,7 @@ void checkPair(const RVProductType &a, const RVProductType &b)
     CHECK_EQUAL(a == b, b == a);
     CHECK(!(a == b) || qHash(a, 7) == qHash(b, 7));
     CHECK(a.toString() != b.toString() || a == b);
-    // Codes that differ in their letter case alone are equal should their hashes be the same, and ordered all the same.
+    // Codes that differ only in letter case would be equal if their hashes were equal; their order is still defined.
     CHECK_EQUAL(int(a < b) + int(b < a) + int(a.toString() == b.toString()), 1);
 }
 

@@ -1,4 +1,4 @@
-// A products XML; every reader is asked about every element of it.
+// A products XML; every reader reads every element of it.
 #include "Properties.h"
 
 #include <RVArticleClass.h>
@@ -23,10 +23,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// An input of a few kilobytes has no more elements than that, unless it has nothing else.
+/// The limit of elements. An input of a few kilobytes has more only if it has nothing else.
 constexpr int MOST_ELEMENTS = 200;
 
-/// Asks both for an attribute: they know the same.
+/// Compares both results for an attribute.
 template<typename Id>
 Id readId(const QDomElement &element, const QString &name)
 {
@@ -56,7 +56,7 @@ void checkIds(const QDomElement &element)
     CHECK(RVArticleId::fromIdAttribute(element) == id);
 }
 
-/// A width may be infinite in tenths of a millimetre. It is equal to no other one then, as the difference is none.
+/// A width may be infinite in tenths of a millimetre. Then it equals no other width, because the difference is NaN.
 bool hasFiniteWidths(const QDomElement &product)
 {
     const QDomElement composition = product.firstChildElement(u"composition"_s);
@@ -133,7 +133,7 @@ QDomElement following(const QDomElement &element)
     return QDomElement();
 }
 
-/// Reading leaves the element as it is, and a copy of it says the same.
+/// Reading does not change the element, and a copy of it gives the same values.
 void checkAgain(const QDomElement &element)
 {
     const QDomElement copy = element.cloneNode().toElement();

@@ -27,7 +27,7 @@ std::vector<fs::path> filesOf(const fs::path &path)
     return result;
 }
 
-/// Hands the input over in memory of its own, so that a sanitizer sees every read beyond its end.
+/// Passes the input in separate memory, so that a sanitizer sees every read beyond its end.
 bool replay(const fs::path &path)
 {
     std::ifstream file(path, std::ios::binary);
@@ -44,7 +44,7 @@ bool replay(const fs::path &path)
 
 }
 
-/// Runs the target once for every file, and for every file of a folder: what a build without libFuzzer does.
+/// Runs the target once for every file, and for every file of a folder, in builds without libFuzzer.
 int main(int argc, char *argv[])
 {
     LLVMFuzzerInitialize(&argc, &argv);

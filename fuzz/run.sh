@@ -6,7 +6,7 @@ build="$(readlink -f "$1")/fuzz"
 seconds="$2"
 cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")"
 
-# Runs one target. What it learns stays in the build folder, so that the next run goes on from there.
+# Runs one target. Its new inputs stay in the build folder, so that the next run continues with them.
 run_target() {
   local target="$1"
   local work="$build/inputs/$target"

@@ -1,5 +1,5 @@
 // Options in their text forms: one in the project-file form, one as a pair of key and value, a list of the catalogue's
-// options as a text, key and value of one of them, its other texts, and what is left is JSON.
+// options as a text, key and value of one of them, and its other texts; the rest is JSON.
 #include "Input.h"
 #include "Properties.h"
 
@@ -171,7 +171,7 @@ void checkOptions(const RVConfiguredArticleVariantList &options, const RVConfigu
     CHECK(shown(options).startsWith("RVConfiguredArticleVariantList: ["_L1));
 }
 
-/// An option as the products XML gives it, with the same text wherever a text is read.
+/// An option of the products XML, with the same text in every text attribute.
 RVConfiguredArticleVariant fromXml(const QString &key, const QString &value, const QString &text)
 {
     QDomDocument document;

@@ -37,7 +37,7 @@ QStringList wrapped(const QString &text, qsizetype indentation)
     return lines;
 }
 
-/// One product after the other, and what has changed of it, in lines that fit on a terminal.
+/// Writes each product and its changes in lines that fit on a terminal.
 class TextDiffWriter : public DiffWriter
 {
 public:
@@ -98,7 +98,7 @@ private:
     bool myHasColor;
 };
 
-/// One object: the products one a line, then the sums. No text in it depends on the language.
+/// Writes one object: the products, one on each line, then the sums. No text in it depends on the language.
 class JsonDiffWriter : public DiffWriter
 {
 public:
@@ -170,7 +170,7 @@ private:
     bool myIsFirst = true;
 };
 
-/// A table for a comment in a review.
+/// Writes a table for a comment in a review.
 class MarkdownDiffWriter : public DiffWriter
 {
 public:

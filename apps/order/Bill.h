@@ -6,8 +6,8 @@
 #include <QList>
 #include <QMap>
 
-/// The price classes that an order of one product is billed by: that of the product, that of its packages above the
-/// lowest page count, and those of its options. What has no price class is not billed.
+/// The price classes on the bill of an order of one product: that of the product, that of its packages above the lowest
+/// page count, and those of its options. A part without a price class is not billed.
 class Bill
 {
 public:
@@ -16,12 +16,12 @@ public:
     struct Item
     {
         Subject subject;
-        RVPriceClass priceClass; ///< always valid, though it may be free
-        int count; ///< 1 but for packages
+        RVPriceClass priceClass; ///< always valid, but may be free of charge
+        int count; ///< 1, except for packages
         RVConfiguredArticleVariant option; ///< not valid where the subject is no option
     };
 
-    /// @p packages are those above the lowest count. @p variants are all options that are ordered, with the defaults.
+    /// @p packages are those above the lowest count. @p variants are all ordered options, including the defaults.
     Bill(const RVCatalogueProduct &product, int packages, const RVArticleVariants &variants);
 
     /// The product, its packages, then its options by their keys.
@@ -29,7 +29,7 @@ public:
     /// All packages and options of a product may share one price class, so the sum may be larger than an int.
     QMap<RVPriceClass, qint64> counts() const;
 
-    /// False for an option that is free of charge, whatever its price class.
+    /// False for an option that is free of charge, with any price class.
     static bool isCharged(const RVConfiguredArticleVariant &option);
 
 private:

@@ -4,7 +4,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A text of a file may be long, and have letters that spoil a line.
+/// A text of a file may be long, and may have letters that break a line.
 QString onOneLine(const QString &text)
 {
     constexpr qsizetype longest = 80;

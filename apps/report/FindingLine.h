@@ -5,11 +5,11 @@
 
 #include <QString>
 
-/// The pieces of a finding that people read, as the formats for people put them together.
+/// The pieces of a finding in the formats for people.
 /// @{
 /// "file:line:column".
 QString placeText(const QString &fileName, const RVFilePosition &position);
-/// The type of the product, ": " and the text; the text alone where there is no type. One line.
+/// The type of the product, ": " and the text; only the text if there is no type. One line.
 QString typedText(const RVCatalogueFinding &finding);
 /// The file of a related place of a finding in @p fileName.
 QString fileOf(const RVRelatedPlace &place, const QString &fileName);

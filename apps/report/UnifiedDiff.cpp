@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The path from where the program runs, as far as it is below: other programs refuse the others.
+/// The path relative to the current folder, if it is below: other programs refuse other paths.
 QString relative(const QString &name)
 {
     const QDir folder = QDir::current();
@@ -18,8 +18,8 @@ QString relative(const QString &name)
     return below.startsWith("../"_L1) ? QDir::cleanPath(name) : below;
 }
 
-/// The name such that "patch" and "git apply" read it: with a tabulator behind it where it has blanks, and in quotes
-/// where it has letters that would end the line or the name.
+/// The name in the form that "patch" and "git apply" read: with a tab behind it if it has blanks, and in quotes if it
+/// has letters that would end the line or the name.
 QString labelOf(const QString &name)
 {
     const auto isSpecial = [](QChar letter) { return letter < u' ' || letter == u'"' || letter == u'\\'; };

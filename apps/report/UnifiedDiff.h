@@ -7,11 +7,11 @@
 #include <functional>
 
 /// The difference of two files in the unified format, as "diff" makes it and "patch" reads it. Lines are written byte
-/// by byte as they stand in the files, whatever their encoding is.
+/// by byte as in the files, in any encoding.
 class UnifiedDiff
 {
 public:
-    /// Both paths lead to files that can be read; the diff calls them by one name, a path from where the program runs.
+    /// Both paths are readable files; the diff uses one name for them, a path relative to the current folder.
     UnifiedDiff(const QString &oldPath, const QString &newPath, const QString &shownName);
 
     /// Hands over the diff in pieces, none of which is empty. Returns the reason where that is impossible; empty

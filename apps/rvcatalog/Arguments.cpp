@@ -28,7 +28,7 @@ QString parserProblem(const QCommandLineParser &parser)
     return suggestion.isEmpty() ? text : text.chopped(text.endsWith(u'.') ? 1 : 0) + suggestion;
 }
 
-/// The reason why a value of an option is none of those that its help lists; empty where there is none.
+/// The message that a value of an option is not in the list of its help; empty if there is none.
 QString valueProblem(const QCommandLineParser &parser, const HelpText &help)
 {
     for (const HelpOption &option : help.options()) {
@@ -45,7 +45,7 @@ QString valueProblem(const QCommandLineParser &parser, const HelpText &help)
     return QString();
 }
 
-/// The reason why the arguments are not those that the command takes; empty where they are.
+/// The message that the arguments do not fit the command; empty if they do.
 QString argumentProblem(const QStringList &arguments, int least, int most)
 {
     if (arguments.size() < least || arguments.size() > most)
@@ -55,7 +55,7 @@ QString argumentProblem(const QStringList &arguments, int least, int most)
     return QString();
 }
 
-/// Adds what every command understands: the help, and the short form of a format.
+/// Adds the options of every command: the help, and the short form of a format.
 void addCommonOptions(QCommandLineParser *parser)
 {
     const HelpText help(parser->helpText());
@@ -66,7 +66,7 @@ void addCommonOptions(QCommandLineParser *parser)
     parser->setApplicationDescription(filledParagraphs(parser->applicationDescription()));
 }
 
-/// Parses the arguments, the short form of a format as the format. A format that is given counts more.
+/// Parses the arguments, with the short form of a format as the format. An explicit format takes precedence.
 bool parse(QCommandLineParser *parser, const QStringList &arguments, const HelpText &help)
 {
     if (!parser->parse(arguments))
@@ -96,7 +96,7 @@ bool parseArguments(QCommandLineParser &parser, const QStringList &arguments, in
         return false;
     }
     if (parser.isSet(u"help"_s)) {
-        // The parser names the program as it was started, and knows of no sub-command.
+        // The parser uses the name by which the program was started, and does not know sub-commands.
         QTextStream(console.output) << parser.helpText().replace(QCoreApplication::arguments().constFirst(), command);
         *exitCode = EXIT_FINE;
         return false;

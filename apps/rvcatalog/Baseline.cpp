@@ -28,7 +28,7 @@ constexpr auto TEXT = "text"_L1;
 constexpr auto COUNT = "count"_L1;
 
 constexpr int THIS_VERSION = 1;
-/// More findings than anybody mends one by one.
+/// The largest file. It has more findings than can be mended one by one.
 constexpr qint64 LARGEST_FILE = 1 << 28;
 
 RVFilePosition positionAt(const QByteArray &text, qsizetype offset)
@@ -121,7 +121,7 @@ qint64 Baseline::size() const
     return result;
 }
 
-// A baseline says the same on every machine, whatever folder the program runs in.
+// A baseline is the same on every machine and in every working folder.
 QString Baseline::name(const QString &catalogue) const
 {
     if (catalogue == "-"_L1)
@@ -167,7 +167,7 @@ QStringList Baseline::key(const RVCatalogueFinding &finding) const
     return { finding.rule().name(), finding.productType(), text };
 }
 
-// Returns what is wrong with it; empty where nothing is. Equal entries, as a merge leaves them, count together.
+// Returns the fault of an entry; empty if there is none. Equal entries, which a merge can leave, count together.
 QString Baseline::readEntry(const QJsonObject &entry)
 {
     for (const QLatin1StringView key : { FILE_KEY, RULE, TEXT }) {

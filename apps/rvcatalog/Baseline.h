@@ -12,32 +12,32 @@ class RVCatalogueCheck;
 class RVCatalogueFinding;
 
 /**
- * The findings of an old catalogue that are known, so that only new ones count. A finding is known by its file, rule,
- * product type and text, wherever in the file it stands; two that are the same need to be known twice.
+ * The known findings of an old catalogue, so that only new ones count. A finding is known by its file, rule, product
+ * type and text, at any place in the file; two equal findings must be known twice.
  *
- * The file is JSON with a line for each finding, sorted, and names catalogues from its own folder on.
+ * The file is JSON with a line for each finding, sorted. Its names of catalogues are relative to its folder.
  */
 class Baseline
 {
 public:
-    /// Without a file nothing is known.
+    /// A baseline without known findings.
     explicit Baseline(const QString &fileName = QString());
 
-    /// Reads the file. False, with a message, where that is impossible.
+    /// Reads the file. False, with a message, if that is impossible.
     bool read(const Console &console);
-    /// Writes the file and puts it in the place of the one before. False, with a message, where that is impossible.
+    /// Writes the file and replaces the old one. False, with a message, if that is impossible.
     bool write(const Console &console) const;
 
-    /// Adds a finding of a catalogue to those that are known.
+    /// Adds a finding of a catalogue to the known ones.
     void add(const QString &catalogue, const RVCatalogueFinding &finding);
-    /// True for a finding that is known, as often as it is.
+    /// True for a known finding, as many times as it is known.
     bool take(const QString &catalogue, const RVCatalogueFinding &finding);
-    /// All findings of the catalogue were taken. Those that are left are mended, unless their rule is off.
+    /// Ends a catalogue. Its findings that were not taken are mended, unless their rule is off.
     void finish(const QString &catalogue, const RVCatalogueCheck &check);
 
     QString fileName() const { return myFileName; }
-    qint64 size() const; ///< All that are known.
-    qint64 mended() const { return myMended; } ///< In the catalogues that are finished.
+    qint64 size() const; ///< The number of known findings.
+    qint64 mended() const { return myMended; } ///< The number of mended findings in the finished catalogues.
 
 private:
     struct Count
@@ -45,7 +45,7 @@ private:
         qint64 known = 0;
         qint64 left = 0;
     };
-    /// By rule, product type and text.
+    /// The findings by rule, product type and text.
     using Counts = QMap<QStringList, Count>;
 
     QString name(const QString &catalogue) const;

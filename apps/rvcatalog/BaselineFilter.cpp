@@ -61,7 +61,7 @@ int BaselineFilter::end(int exitCode, const Console &console) const
     return exitCode;
 }
 
-// Half a baseline would let what is missing in it fail later on.
+// The findings that an incomplete baseline lacks would fail later.
 int BaselineFilter::write(int exitCode, const Console &console) const
 {
     if (exitCode != EXIT_FINE || std::ferror(console.output) != 0) {

@@ -3,11 +3,11 @@
 
 #include "Baseline.h"
 
-/// Leaves the findings out that a baseline knows, or all of them where a baseline is to be written.
+/// Leaves out the findings that a baseline knows, or all of them when it writes a baseline.
 class BaselineFilter
 {
 public:
-    /// The files that a command names; each is empty where it names none. Only one of them may be named.
+    /// The files on the command line; each is empty if it is not given. Only one of them may be given.
     struct Choice
     {
         QString fileName; ///< to compare with
@@ -17,14 +17,14 @@ public:
 
     explicit BaselineFilter(const Choice &choice);
 
-    /// Reads the baseline, if any. False, with a message, where that is impossible.
+    /// Reads the baseline, if any. False, with a message, if that is impossible.
     bool begin(const Console &console);
-    /// True for a finding that is to be left out.
+    /// True for a finding to leave out.
     bool isKnown(const QString &catalogue, const RVCatalogueFinding &finding);
-    /// The catalogue was read to its end, by this check.
+    /// Ends a catalogue that was read to its end with this check.
     void finish(const QString &catalogue, const RVCatalogueCheck &check);
-    /// Writes the baseline, if any, and tells what there is to be told of it. @p exitCode is that of the program
-    /// without a baseline; the result is that with it.
+    /// Writes the baseline, if any, and reports about it. @p exitCode is that of the program without a baseline; the
+    /// result is that with it.
     int end(int exitCode, const Console &console) const;
 
 private:

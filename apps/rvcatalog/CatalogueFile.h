@@ -7,7 +7,7 @@
 
 #include <memory>
 
-/// A catalogue that the command line names; "-" is the input of the console.
+/// A catalogue on the command line; "-" is the input of the console.
 class CatalogueFile
 {
     Q_DISABLE_COPY_MOVE(CatalogueFile)
@@ -15,18 +15,18 @@ class CatalogueFile
 public:
     CatalogueFile(const QString &name, const Console &console);
 
-    const QString &name() const { return myName; } ///< As the command line has it.
+    const QString &name() const { return myName; } ///< The name on the command line.
     RVCatalogueReader &reader() { return myReader; }
     /// True, with a message, when the file could not be opened or read on.
     bool reportError() const;
-    /// Reads on to the end. False, with a message, where that is impossible.
+    /// Reads on to the end. False, with a message, if that is impossible.
     bool finish();
     void report(const Problem &problem) const { myConsole.report(myName, problem); }
 
 private:
     QString myName;
     const Console &myConsole;
-    std::unique_ptr<QIODevice> myInput; // none for a file
+    std::unique_ptr<QIODevice> myInput; // null for a file
     RVCatalogueReader myReader;
 };
 

@@ -16,8 +16,8 @@ namespace {
 struct JsonLines
 {
     QList<RVProductType> types; // of all of them
-    qint64 count = 0; // of those that are shown
-    std::string text; // each line begins with the comma behind the one before
+    qint64 count = 0; // of the shown products
+    std::string text; // each line begins with the comma that ends the previous one
     QList<Problem> problems;
 };
 
@@ -38,7 +38,7 @@ JsonLines jsonLines(const QList<RVCatalogueProduct> &products, const ProductFilt
     return result;
 }
 
-/// The writers of several threads, which keep what they know from one call to the next.
+/// The writers of several threads, which keep their caches from one call to the next.
 class JsonWriters
 {
 public:

@@ -3,8 +3,8 @@
 
 #include "ShowReport.h"
 
-/// Writes the products of a catalogue that are chosen as a JSON array, each product on a line of its own, on every core
-/// of the machine. What is wrong with them goes to the report.
+/// Writes the selected products of a catalogue as a JSON array, each product on a line of its own, on every core of the
+/// machine. Their findings go to the report.
 void writeCatalogueJson(CatalogueFile &file, const ProductFilter &filter, ShowReport *report, const Console &console);
 
 #endif

@@ -17,7 +17,7 @@ constexpr struct
 {
     QLatin1StringView name;
     QLatin1StringView description;
-    QLatin1StringView value; // empty where the option has none
+    QLatin1StringView value; // empty if the option has none
 } OPTIONS[] = {
     { "format"_L1, "Write text, json, sarif (version 2.1.0), github or junit."_L1, "text|json|sarif|github|junit"_L1 },
     { "select"_L1, "Check these rules alone. Commas separate them."_L1, "RULES"_L1 },
@@ -37,7 +37,7 @@ constexpr struct
 };
 // clang-format on
 
-/// Reads a number from 1, if there is one. Returns the reason where it is none.
+/// Reads a number from 1, if there is one. Returns the reason if it is no such number.
 template<typename Number>
 QString readNumber(const QCommandLineParser &parser, const QString &option, Number *number)
 {
@@ -51,7 +51,7 @@ QString readNumber(const QCommandLineParser &parser, const QString &option, Numb
     return QString();
 }
 
-/// The rules that an option names. Returns the reason where one of them is not known, or where there is none.
+/// Reads the rules of an option. Returns the reason if one of them is unknown, or if there is none.
 QString findRules(const QCommandLineParser &parser, const QString &option, QList<RVCatalogueRule> *rules)
 {
     const QStringList values = parser.values(option);
@@ -108,7 +108,7 @@ QString CheckOptions::readNumbers(const QCommandLineParser &parser)
     return refusal.isEmpty() ? readNumber(parser, u"max-findings"_s, &mostFindings) : refusal;
 }
 
-// Rules are left out last, so that nothing else brings them back.
+// Rules are left out last, so that no other option enables them again.
 QString CheckOptions::readRules(const QCommandLineParser &parser)
 {
     QList<RVCatalogueRule> selected;

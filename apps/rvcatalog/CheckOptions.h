@@ -13,26 +13,26 @@
 
 class QCommandLineParser;
 
-/// The wishes of the command line of "check".
+/// The options of "check" on the command line.
 struct CheckOptions
 {
     QStringList fileNames;
-    QString format; ///< One of FindingWriter.
+    QString format; ///< One of the formats of FindingWriter.
     QString color; ///< One of the choices of Appearance.
-    RVCatalogueCheck check; ///< Without what a configuration file says.
+    RVCatalogueCheck check; ///< The check without the configuration file.
     Configurations::Choice configuration;
     BaselineFilter::Choice baseline;
-    int threads = 0; ///< 0 leaves it to the reader.
-    qint64 mostFindings = std::numeric_limits<qint64>::max(); ///< That are written; all are counted.
+    int threads = 0; ///< The number of threads; 0 for the default of the reader.
+    qint64 mostFindings = std::numeric_limits<qint64>::max(); ///< The limit of written findings; all are counted.
     bool isQuiet = false;
     bool isSummary = false;
-    bool listsRules = false; ///< Instead of checking anything.
+    bool listsRules = false; ///< Lists the rules and checks nothing.
     bool fixes = false; ///< Mends the files before they are checked.
-    bool showsFixes = false; ///< Instead of mending and checking them.
+    bool showsFixes = false; ///< Shows the changes, and neither mends nor checks.
 
-    /// Tells a parser the options that there are.
+    /// Adds the options to a parser.
     static void addTo(QCommandLineParser *parser);
-    /// Takes what the parser has read. Returns the reason where it makes no sense; empty otherwise.
+    /// Takes the options from the parser. Returns the reason if they make no sense; empty otherwise.
     QString read(const QCommandLineParser &parser);
 
 private:

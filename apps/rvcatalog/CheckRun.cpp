@@ -97,7 +97,7 @@ void CheckRun::read(CatalogueFile *file, const QString &fileName)
         myBaseline->finish(fileName, catalogueCheck);
 }
 
-// All findings pass here, so this is where some of them are left out.
+// All findings pass here, so the known ones are left out here.
 void CheckRun::write(const QString &fileName, const QList<RVCatalogueFinding> &findings)
 {
     if (findings.isEmpty())

@@ -20,7 +20,7 @@ struct CheckOptions;
 struct Console;
 struct Problem;
 
-/// Checks files one after the other. An interruption ends it as if what follows were not there.
+/// Checks files one after the other. An interruption ends the run as if the rest did not exist.
 class CheckRun
 {
     Q_DISABLE_COPY_MOVE(CheckRun)
@@ -30,13 +30,13 @@ public:
     CheckRun(FindingWriter *writer, const CheckOptions &options, const Configurations &configurations,
              BaselineFilter *baseline, const Console &console);
 
-    /// Checks them until something ends the run.
+    /// Checks the files until an interruption or the end of the output.
     void check(const QStringList &fileNames);
-    /// Writes what comes last, and returns the exit code of the program.
+    /// Writes the end of the output, and returns the exit code of the program.
     int end();
 
 private:
-    /// False where going on has no use: somebody interrupts, or nobody takes what is written.
+    /// False if the run must stop: a signal came, or the output has no reader.
     bool goesOn() const;
     int exitCode() const;
     void read(CatalogueFile *file, const QString &fileName);

@@ -23,9 +23,9 @@ struct CheckSummary
     qint64 errors = 0;
     qint64 warnings = 0;
     qint64 notes = 0;
-    qint64 omitted = 0; ///< Of all these, findings that were not written because there were too many.
-    QMap<QLatin1StringView, RuleCount> rules; ///< Those that were broken, by name.
-    int signal = 0; ///< The one that ended the run before its end; 0 where none did.
+    qint64 omitted = 0; ///< The findings among them that were too many to write.
+    QMap<QLatin1StringView, RuleCount> rules; ///< The broken rules, by name.
+    int signal = 0; ///< The signal that ended the run early; 0 without one.
 
     /// Counts a finding.
     void count(const RVCatalogueFinding &finding);

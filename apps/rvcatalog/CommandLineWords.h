@@ -6,23 +6,23 @@
 #include <QString>
 #include <QStringList>
 
-/// The words of a command line behind the command, of which the last one is not complete: what has been given so far,
-/// and which option or argument the last word belongs to.
+/// The words of a command line behind the command. The last word is not complete; the class finds the option or
+/// argument that it belongs to.
 class CommandLineWords
 {
 public:
     CommandLineWords(const QStringList &words, const HelpText &help);
 
-    /// True where the last word begins an option.
+    /// True if the last word begins an option.
     bool isOption() const { return myIsOption; }
-    /// The option whose value the last word is; empty where it is none.
+    /// The option whose value the last word is; empty if it is none.
     const HelpOption &option() const { return myOption; }
     /// The complete arguments in front of the last word, without options.
     const QStringList &arguments() const { return myArguments; }
-    /// The argument that the last word is, as the usage names it, without brackets and dots; empty where no more are
-    /// taken.
+    /// The name of the argument that the last word is, as in the usage, without brackets and dots; empty if the command
+    /// takes no more.
     QString placeholder() const;
-    /// The letters in front of the value: "--format=" where that stands in the same word.
+    /// The letters in front of the value: "--format=" if that stands in the same word.
     const QString &prefix() const { return myPrefix; }
     const QString &value() const { return myValue; } ///< The letters of the value, or of the option.
 

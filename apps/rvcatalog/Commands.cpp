@@ -47,7 +47,7 @@ int withOutput(int exitCode, const Console &console)
     return EXIT_UNREADABLE;
 }
 
-/// The reason why there is no such command, and what was probably meant.
+/// The message that there is no such command, with the one that was probably meant.
 QString refusal(const QString &name)
 {
     if (!name.startsWith(u'-'))
@@ -59,7 +59,7 @@ QString refusal(const QString &name)
     return u"there is no option \"%1\" in front of a command%2"_s.arg(name, suggestion);
 }
 
-/// Runs the command of that name; the exit code of wrong usage, with a message, where there is none.
+/// Runs the command with that name; the exit code of wrong usage, with a message, if there is none.
 int runNamed(const QString &name, const QStringList &arguments, const Console &console)
 {
     for (const auto &command : COMMANDS) {
@@ -73,7 +73,7 @@ int runNamed(const QString &name, const QStringList &arguments, const Console &c
     return EXIT_UNREADABLE;
 }
 
-/// The help of the program, or of the command that is named.
+/// The help of the program, or of the named command.
 int help(const QStringList &names, const Console &console)
 {
     if (!names.isEmpty())

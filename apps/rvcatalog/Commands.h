@@ -11,12 +11,12 @@ enum ExitCode {
     EXIT_UNREADABLE = 2,
 };
 
-/// Does what the arguments of rvcatalog say, which begin with a command: { "show", "products.xml" }. Returns the exit
-/// code. Needs a QGuiApplication, since fonts are measured; the file "-" is the input of the console.
+/// Runs rvcatalog with these arguments, which begin with a command: { "show", "products.xml" }. Returns the exit code.
+/// It needs a QGuiApplication for measuring fonts. The file "-" is the input of the console.
 int runCommand(const QStringList &arguments, const Console &console = Console());
 
-QStringList commandNames(); ///< In the order of the usage.
-/// One line on a command; empty where there is none of that name.
+QStringList commandNames(); ///< The names of the commands, in the order of the usage.
+/// One line about a command; empty if there is none with that name.
 QString commandSummary(const QString &name);
 
 #endif

@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// One line, without the signs that separate words and descriptions.
+/// A text on one line, without the signs that separate words and descriptions.
 QString line(const QString &text)
 {
     return text.simplified();
@@ -15,8 +15,8 @@ QString line(const QString &text)
 
 }
 
-// A word and a tab and its description a line; ":files" where the shell is to add the names of files. The first
-// argument is "--", so that Qt leaves alone what looks like an option of its own.
+// Each line of the output has a word, a tab and its description; the line ":files" asks the shell to add the names of
+// files. The first argument is "--", so that Qt ignores words that look like its own options.
 int completeCommand(const QStringList &words, const Console &console)
 {
     const Completion completion = complete(words.value(0) == "--"_L1 ? words.mid(1) : words);

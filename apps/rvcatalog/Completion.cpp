@@ -90,7 +90,7 @@ Candidates keywords(const RVCatalogueAttribute &attribute, const QString &text)
     return result;
 }
 
-/// The products of the catalogue that a command line names; none where it is none, or the standard input.
+/// The products of the catalogue on a command line; none for an unreadable one and for the standard input.
 Candidates types(const QString &catalogueName)
 {
     Candidates result;
@@ -162,7 +162,7 @@ Completion completeProgram(const QString &word)
     return { result, false };
 }
 
-/// Leaves the candidates that go on from what was written, letter case aside, and puts in front what stands there.
+/// Keeps the candidates that continue the written letters, ignoring letter case, and adds the text in front.
 Completion fitting(const Completion &completion, const QString &prefix, const QString &value)
 {
     Completion result { {}, completion.areFilesMeant };

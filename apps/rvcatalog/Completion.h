@@ -9,10 +9,10 @@
 struct CompletionCandidate
 {
     QString word;
-    QString description; ///< one line; empty where the word says all
+    QString description; ///< one line; empty if the word needs none
 };
 
-/// The ways in which the last word of a command line may go on.
+/// The possible completions of the last word of a command line.
 struct Completion
 {
     QList<CompletionCandidate> candidates;
@@ -20,9 +20,9 @@ struct Completion
 };
 
 /**
- * Completes the words behind the name of the program, of which the last one is not complete and may be empty. What the
- * options and arguments of a command are is asked from its own help, so there is nothing that a new command has to add.
- * The product types are those of the catalogue that is named already.
+ * Completes the words behind the name of the program. The last word is not complete and may be empty. The options and
+ * arguments of a command come from its help, so a new command needs no code here. The product types are those of the
+ * catalogue on the command line.
  */
 Completion complete(const QStringList &words);
 

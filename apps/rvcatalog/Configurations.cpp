@@ -23,7 +23,7 @@ bool Configurations::read(const QStringList &catalogues, const Console &console)
     return broken.isEmpty();
 }
 
-// The command line has the last word.
+// The command line takes precedence.
 RVCatalogueCheck Configurations::check(const QString &catalogue) const
 {
     RVCatalogueCheck result = myCheck;
@@ -35,7 +35,7 @@ RVCatalogueCheck Configurations::check(const QString &catalogue) const
     return result;
 }
 
-// The standard input has the folder where the program runs, as a file of that name would.
+// The standard input belongs to the current folder, as a file with that name would.
 RVCheckConfiguration Configurations::found(const QString &catalogue) const
 {
     if (myChoice.isNone)

@@ -10,21 +10,21 @@
 #include <QString>
 #include <QStringList>
 
-/// Finds the check that each catalogue has to pass: that of the configuration file which belongs to it, without the
-/// rules that the command line leaves out.
+/// Finds the check of each catalogue: that of its configuration file, without the rules that the command line leaves
+/// out.
 class Configurations
 {
 public:
-    /// The file that a command names for all catalogues, or none of any kind.
+    /// The configuration file for all catalogues on the command line, or the wish to use none.
     struct Choice
     {
-        QString fileName; ///< empty where each catalogue has the one that is found for it
+        QString fileName; ///< empty if each catalogue uses the file in its folder or above
         bool isNone = false;
     };
 
     Configurations(const Choice &choice, const RVCatalogueCheck &check) : myChoice(choice), myCheck(check) { }
 
-    /// Reads the configurations of these catalogues. False, with a message for each, where some are broken.
+    /// Reads the configurations of these catalogues. False, with a message for each broken one.
     bool read(const QStringList &catalogues, const Console &console);
     /// The check of a catalogue whose configuration was read.
     RVCatalogueCheck check(const QString &catalogue) const;

@@ -39,8 +39,8 @@ std::unique_ptr<QIODevice> Console::openInput(const QString &fileName) const
     const QFileInfo info(fileName);
     if (!info.exists() || info.isFile() || info.isDir())
         return nullptr;
-    // Otherwise it would wait here for someone who writes, and be deaf to interruptions.
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): so is the function declared
+    // Otherwise it would wait here for a writer, and would not notice interruptions.
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): the function is declared like this
     const int descriptor = ::open(QFile::encodeName(fileName).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     return descriptor < 0 ? nullptr : std::make_unique<PipeInput>(descriptor, PipeInput::Owned);
 }

@@ -26,16 +26,17 @@ struct Console
 
     /// The input, open for reading.
     std::unique_ptr<QIODevice> openInput() const;
-    /// The input where the name is "-", or a pipe of that name, open for reading; null for files, which others open.
+    /// The input if the name is "-", or a pipe with that name, open for reading; null for files, which the caller
+    /// opens.
     std::unique_ptr<QIODevice> openInput(const QString &fileName) const;
     void write(std::string_view text) const;
     /// Writes "file:line:column: text" to the messages.
     void report(const QString &fileName, const Problem &problem) const;
-    /// Writes "file: text" to the messages, for what has no place.
+    /// Writes "file: text" to the messages, for problems without a place.
     void report(const QString &fileName, const QString &text) const;
 };
 
-/// True where the stream goes to a person at a terminal.
+/// True if the stream is a terminal.
 bool isTerminal(std::FILE *stream);
 
 #endif

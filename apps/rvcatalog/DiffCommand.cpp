@@ -15,8 +15,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The arguments that git gives to a diff driver: path, old file, its hash and mode, new file, its hash and mode. Where
-/// the file was renamed, the new path and the headers of git follow. A file that could not be merged is its path alone.
+/// The arguments that git gives to a diff driver: path, old file, its hash and mode, new file, its hash and mode. If
+/// the file was renamed, the new path and the headers of git follow. A file that could not be merged has only its path.
 constexpr int GIT_ARGUMENTS = 7;
 constexpr int MOST_GIT_ARGUMENTS = 9;
 
@@ -26,7 +26,7 @@ struct Side
     QString fileName;
     QString shownName;
 
-    /// Null for a file that git says is not there.
+    /// Null for a file that does not exist for git.
     std::unique_ptr<CatalogueFile> open(const Console &console) const
     {
         return fileName.isEmpty() ? nullptr : std::make_unique<CatalogueFile>(fileName, console);
@@ -47,7 +47,7 @@ class DiffRun
 public:
     DiffRun(DiffWriter *writer, const Console &console) : myWriter(writer), myConsole(console) { }
 
-    /// False, with a message at @p messages, where one cannot be read.
+    /// False, with a message at @p messages, if one cannot be read.
     bool compare(const Side &before, const Side &after, const Console &messages)
     {
         const std::unique_ptr<CatalogueFile> oldFile = before.open(myConsole);
@@ -77,7 +77,7 @@ private:
     bool myIsDifferent = false;
 };
 
-/// True where colours are wanted and seen. Git shows what its drivers write with a program that understands colours.
+/// True if colours are wanted and visible. Git shows the output of its drivers with a program that understands colours.
 bool hasColor(const QString &when, bool isGit, const Console &console)
 {
     if (when != "auto"_L1)
@@ -101,8 +101,8 @@ Side gitSide(const QString &fileName, const QString &shownName)
     return fileName == nothing ? Side { QString(), nothing } : Side { fileName, shownName };
 }
 
-/// Git takes any other exit code than that for "equal" for a crash, which ends the whole "git diff", unless it was told
-/// otherwise. So what is wrong with a catalogue stands where its differences would.
+/// Git treats every exit code other than that for "equal" as a crash and ends the whole "git diff", unless it is
+/// configured otherwise. So the error of a catalogue is written in place of its differences.
 int compareForGit(const QStringList &arguments, DiffWriter *writer, bool hasExitCode, const Console &console)
 {
     const QString &path = arguments.constFirst();
@@ -119,7 +119,7 @@ int compareForGit(const QStringList &arguments, DiffWriter *writer, bool hasExit
     return hasExitCode && (!isRead || run.isDifferent()) ? EXIT_PROBLEMS : EXIT_FINE;
 }
 
-/// The reason why the arguments cannot be understood; empty where they can.
+/// The reason why the arguments cannot be understood; empty if they can.
 QString refusal(const QString &format, bool isGit, const QStringList &names)
 {
     if (isGit && format == "json"_L1)

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The same for all names of a file; the name itself of what is no file.
+/// A key that is the same for all names of a file; the name itself if there is no file.
 QString identity(const QString &fileName)
 {
     const QString path = fileName == "-"_L1 ? QString() : QFileInfo(fileName).canonicalFilePath();

@@ -5,8 +5,8 @@
 
 #include <QStringList>
 
-/// The files without those that were named before, also by another path; a message says so of each of them. Two links
-/// to one file are the same, and so is "-" with itself.
+/// The files without repeated ones, also by another path; a message names each of those. Two links to one file are the
+/// same, and so are two "-".
 QStringList distinctFiles(const QStringList &fileNames, const Console &console);
 
 #endif

@@ -24,7 +24,7 @@ struct Cell
     int end() const { return column + width; }
 };
 
-/// Letters that are not shown, or that turn the direction of others, get a sign in their place.
+/// Letters that are invisible, or that change the direction of others, are replaced by a sign.
 Cell shown(char32_t letter, int column)
 {
     if (letter == U'\t') {
@@ -54,7 +54,7 @@ QList<Cell> cellsOf(const QString &line, qint64 begin, qint64 end)
     return result;
 }
 
-/// The cells that fit into so many columns, of which the first marked one is among them.
+/// The cells that fit into a number of columns and contain the first marked one.
 QList<Cell> cut(const QList<Cell> &cells, int width)
 {
     const int total = cells.isEmpty() ? 0 : cells.constLast().end();
@@ -82,7 +82,7 @@ Excerpt excerptOf(const QString &line, const RVFileRange &range)
 {
     constexpr int numberWidth = 5;
     const QString gutter = QString::number(range.begin.line).rightJustified(numberWidth) + " | "_L1;
-    // A piece that ends in another line is marked to the end of this one.
+    // A range that ends in another line is marked to the end of this one.
     const qint64 end = range.end.line == range.begin.line ? range.end.column : line.size() + 1;
     const QList<Cell> cells = cellsOf(line, range.begin.column, qMax(end, range.begin.column + 1));
     Excerpt result { gutter, QString(gutter.size() - 2, u' ') + "| "_L1, u"^"_s };

@@ -14,7 +14,7 @@ namespace {
 
 using Rules = QList<RVCatalogueRule>;
 
-/// Every rule on one line: name, severity and why it matters.
+/// Lists every rule on one line: name, severity and the reason why it matters.
 QString listOf(const Rules &rules)
 {
     qsizetype width = 0;

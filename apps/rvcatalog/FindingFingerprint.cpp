@@ -15,7 +15,7 @@ QString findingTextWithoutLines(const RVCatalogueFinding &finding)
 
 QByteArray findingFingerprint(const RVCatalogueFinding &finding)
 {
-    constexpr QChar separator = u'\0'; // no XML has it
+    constexpr QChar separator = u'\0'; // XML cannot have it
     const QString identity = finding.rule().name() + separator + finding.productType() + separator
             + findingTextWithoutLines(finding);
     return QCryptographicHash::hash(identity.toUtf8(), QCryptographicHash::Sha256).toHex();

@@ -6,12 +6,12 @@
 
 class RVCatalogueFinding;
 
-/// The text of a finding without the numbers of lines that it names.
+/// The text of a finding without its line numbers.
 QString findingTextWithoutLines(const RVCatalogueFinding &finding);
 
 /// The identity of a finding from one version of a catalogue to the next, as 64 hexadecimal digits: of its rule, the
-/// type of its product and its text. Lines that the text names do not count, nor does its own place, so that it stays
-/// the same when products are put in above it. Two findings in one product may have the same.
+/// type of its product and its text. Line numbers in the text and the place do not count, so it stays the same when
+/// products are inserted above. Two findings in one product may have the same identity.
 QByteArray findingFingerprint(const RVCatalogueFinding &finding);
 
 #endif

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Says nothing.
+/// Writes nothing.
 class QuietWriter : public FindingWriter
 {
 public:

@@ -14,14 +14,14 @@
 
 struct CheckOptions;
 
-/// A file that could not be read to its end, and why.
+/// A file that could not be read to its end, and the reason.
 struct UnreadableFile
 {
     QString fileName;
     Problem problem;
 };
 
-/// Writes findings to the output of a console, in one of several formats, as they come.
+/// Writes findings to the output of a console, in one of several formats, as soon as they come.
 class FindingWriter
 {
     Q_DISABLE_COPY_MOVE(FindingWriter)
@@ -29,14 +29,14 @@ class FindingWriter
 public:
     /// The names of the formats.
     static QStringList formats();
-    /// The writer that the options ask for.
+    /// The writer for the options.
     static std::unique_ptr<FindingWriter> create(const CheckOptions &options, const Console &console);
     virtual ~FindingWriter();
 
     virtual void begin() { }
     virtual void beginFile(const QString &) { }
     virtual void finding(const QString &fileName, const RVCatalogueFinding &finding) = 0;
-    /// A file could not be read to its end.
+    /// Reports a file that could not be read to its end.
     virtual void unreadable(const QString &, const Problem &) { }
     virtual void endFile(const QString &) { }
     /// @p exitCode is that of the program.

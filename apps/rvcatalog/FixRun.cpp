@@ -164,7 +164,7 @@ bool FixRun::diffFile(const QString &fileName, bool *isChanged)
     return error.isEmpty() || fail(fileName, { RVFilePosition(), error });
 }
 
-/// Adds what mends the findings in a file. Returns the problem where it cannot be read.
+/// Adds the edits that mend the findings in a file. Returns the problem if the file cannot be read.
 std::optional<Problem> FixRun::collect(RVCatalogueReader *reader, const QString &fileName, RVFileEditor *editor,
                                        qint64 *findings)
 {

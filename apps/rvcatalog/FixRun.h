@@ -15,7 +15,7 @@ class RVCatalogueReader;
 class RVFileEditor;
 struct CheckOptions;
 
-/// Mends files before they are checked, or shows what that would change.
+/// Mends files before they are checked, or shows the changes.
 class FixRun
 {
     Q_DISABLE_COPY_MOVE(FixRun)
@@ -25,9 +25,9 @@ public:
     FixRun(const CheckOptions &options, const Configurations &configurations, Console *console);
     ~FixRun();
 
-    /// Mends the files, and tells how many findings that were. It says nothing of files that cannot be read, as the
-    /// check behind it does. The input goes mended to the output; from then on the console reads it from a copy, and
-    /// what is written to the output goes to the messages. Returns the exit code, unless the check has a worse one.
+    /// Mends the files, and reports the number of mended findings. It does not report unreadable files, because the
+    /// check afterwards does. The mended input goes to the output. From then on the console reads it from a copy, and
+    /// further output goes to the messages. Returns the exit code, unless the check has a worse one.
     int mend();
     /// Writes the changes as a unified diff, and returns the exit code of the program.
     int diff();
@@ -53,7 +53,7 @@ private:
     const Configurations &myConfigurations;
     Console *myConsole;
     ProgressBar myProgressBar;
-    std::unique_ptr<QTemporaryFile> myInputCopy; // none before it is needed
+    std::unique_ptr<QTemporaryFile> myInputCopy; // null until it is needed
     std::unique_ptr<std::FILE, CloseFile> myInput; // the same, as the console reads it
 };
 

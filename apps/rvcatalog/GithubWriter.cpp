@@ -27,7 +27,7 @@ QString number(QLatin1StringView name, qint64 value)
     return u",%1=%2"_s.arg(name).arg(value);
 }
 
-/// GitHub takes columns only where the range is on one line.
+/// GitHub accepts columns only if the range is on one line.
 QString place(const QString &fileName, const RVFileRange &range)
 {
     QString result = "file="_L1 + property(fileName) + number("line"_L1, range.begin.line);
@@ -58,7 +58,7 @@ void GithubWriter::unreadable(const QString &fileName, const Problem &problem)
                   .toStdString());
 }
 
-// The lines of a log that are no commands are for people.
+// Log lines that are no commands are for people.
 void GithubWriter::end(const CheckSummary &summary, int)
 {
     write((summary.text() + u'\n').toStdString());

@@ -3,7 +3,7 @@
 
 #include "FindingWriter.h"
 
-/// The commands in the log of a workflow by which GitHub puts findings beside the lines of a change.
+/// Writes the log commands of a workflow by which GitHub shows findings beside the lines of a change.
 class GithubWriter : public FindingWriter
 {
 public:

@@ -9,28 +9,28 @@
 struct HelpOption
 {
     QStringList names; ///< with their dashes: { "-h", "--help" }
-    QString valueName; ///< empty where it takes no value
+    QString valueName; ///< empty if it takes no value
     QString description;
 
-    /// The values that there are, where the name of the value lists them: "text|json".
+    /// The possible values, if the name of the value lists them: "text|json".
     QStringList values() const;
 };
 
 /**
- * The options and arguments that a command takes, read out of the help that QCommandLineParser makes of them, since it
- * tells them in no other way. So there is one place where an option is described, which is the command itself.
+ * The options and arguments of a command, parsed from the help of QCommandLineParser, which makes them available in no
+ * other form. So only the command itself describes its options.
  */
 class HelpText
 {
 public:
-    HelpText() = default; ///< Of a command that takes nothing.
+    HelpText() = default; ///< The help of a command without options and arguments.
     explicit HelpText(const QString &text);
 
     const QList<HelpOption> &options() const { return myOptions; }
-    /// The option of that name, dashes included; one without names where there is none.
+    /// The option with that name, dashes included; one without names if there is none.
     HelpOption option(const QString &name) const;
-    QStringList optionNames() const; ///< Those of more than a letter, with their dashes.
-    /// As the usage writes them: { "CATALOGUE.xml", "[TYPE...]" }.
+    QStringList optionNames() const; ///< The long names, with their dashes.
+    /// The arguments as in the usage: { "CATALOGUE.xml", "[TYPE...]" }.
     const QStringList &arguments() const { return myArguments; }
 
 private:

@@ -16,11 +16,11 @@ namespace {
 constexpr int SIGNALS[] = { SIGINT, SIGTERM };
 constexpr std::size_t READ_END = 0;
 constexpr std::size_t WRITE_END = 1;
-/// Programs that end a group of processes often send the signal to each of them, and to the group as well. So what
-/// comes within that many milliseconds is the same request, and not an impatient second one.
+/// The milliseconds in which a second signal counts as the same request. Programs that end a group of processes often
+/// send the signal to each of them, and to the group as well.
 constexpr qint64 ONE_REQUEST = 400;
 
-/// All that the process has of it, since signals are the process's.
+/// The state of the interruption, one for the whole process, because signals go to the process.
 struct State
 {
     QBasicMutex mutex;
@@ -32,7 +32,7 @@ struct State
 };
 State theState;
 
-/// Milliseconds of a clock that nobody sets.
+/// The milliseconds of a monotonic clock.
 qint64 now()
 {
     timespec time = {};

@@ -3,9 +3,9 @@
 
 #include <QtGlobal>
 
-/// While one exists, SIGINT and SIGTERM do not end the process but ask it to stop: what is written can be brought to a
-/// clean end. Such a signal that comes 0.4 seconds later, or still later, ends it at once. A signal that the process
-/// ignores stays so. Any thread.
+/// Lets SIGINT and SIGTERM ask the process to stop, while an object exists, so that it can complete its output. A
+/// further signal ends the process at once if it comes 0.4 seconds later or more. Ignored signals stay ignored. Any
+/// thread.
 class Interruption
 {
     Q_DISABLE_COPY_MOVE(Interruption)
@@ -14,11 +14,11 @@ public:
     Interruption();
     ~Interruption();
 
-    /// The signal that came; 0 while none did.
+    /// The signal that came; 0 without one.
     static int signal();
     /// The exit code that shells use for a program which @p signal has ended.
     static constexpr int exitCode(int signal) { return 128 + signal; }
-    /// Can be read from once a signal came; -1 while there is no interruption.
+    /// A file descriptor that becomes readable when a signal comes; -1 without an Interruption object.
     static int descriptor();
 };
 

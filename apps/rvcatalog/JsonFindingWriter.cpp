@@ -57,8 +57,8 @@ void writeRelated(JsonWriter *json, const QString &fileName, const RVCatalogueFi
     json->endArray();
 }
 
-/// The number and the type of the product, or null where the finding is about the file. A product whose element is
-/// misspelt has no number, but a type.
+/// The number and the type of the product, or null if the finding concerns the file. A product with a misspelt element
+/// has no number, but a type.
 void writeProduct(JsonWriter *json, const RVCatalogueFinding &finding)
 {
     json->key("product"_L1);

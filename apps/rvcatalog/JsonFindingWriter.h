@@ -5,7 +5,7 @@
 
 #include <vector>
 
-/// One object: the findings one a line, then the files that could not be read, then the sums.
+/// Writes one object: the findings, one on each line, then the files that could not be read, then the sums.
 class JsonFindingWriter : public FindingWriter
 {
 public:

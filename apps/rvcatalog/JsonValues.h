@@ -11,9 +11,9 @@
 #include <RVCatalogueProduct.h>
 
 /// The JSON that several commands write, so that it looks the same in all of them: lengths in millimetres under keys
-/// that end in "_mm", null for what is missing, keys in their order. The schema describes each of them.
+/// that end in "_mm", null for missing values, keys in their order. The schema describes each of them.
 /// @{
-void writeText(JsonWriter &json, const QString &text); ///< Null where it is empty.
+void writeText(JsonWriter &json, const QString &text); ///< Null if it is empty.
 void writeTexts(JsonWriter &json, const QStringList &texts);
 void writePlace(JsonWriter &json, const QString &fileName, const RVFilePosition &position);
 void writeProblem(JsonWriter &json, const QString &fileName, const Problem &problem);
@@ -23,7 +23,7 @@ void writeBarcodes(JsonWriter &json, const RVBarcodeDefinitionList &barcodes);
 void writeOption(JsonWriter &json, const ProductOption &option);
 /// @}
 
-/// Null where the id is invalid.
+/// Writes the id; null if it is invalid.
 template<typename T>
 void writeId(JsonWriter &json, const T &id)
 {

@@ -9,7 +9,7 @@
 
 /**
  * Writes JSON piece by piece, without blanks, in the notation of QJsonDocument: the same escapes and the same numbers.
- * The rest of what QJsonDocument does stays with the caller, namely to sort the keys of an object.
+ * The caller has to sort the keys of an object, which QJsonDocument does itself.
  */
 class JsonWriter
 {
@@ -24,7 +24,7 @@ public:
     void value(bool boolean);
     void value(int number) { value(qint64(number)); }
     void value(qint64 number);
-    void value(double number); ///< Null where it is infinite or not a number.
+    void value(double number); ///< Writes null if it is infinite or not a number.
     void value(QStringView text);
     void value(QLatin1StringView text);
     void value(const QString &text) { value(QStringView(text)); }
@@ -32,7 +32,7 @@ public:
 
     /// The blanks and commas between values that the caller separates.
     void separator(std::string_view text);
-    /// All that was written since the last call.
+    /// The text written since the last call.
     std::string take();
 
 private:

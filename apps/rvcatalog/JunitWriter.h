@@ -12,14 +12,14 @@ struct JunitCase
 {
     QString group;
     QString name;
-    QString element; ///< "failure" or "error"; empty where it passed.
+    QString element; ///< "failure" or "error"; empty if it passed.
     QString message;
     QString text;
 };
 
-/// The XML of JUnit that build servers read: a suite for each file, with a failed case for each error and warning. A
-/// file without them has one case, which passed; notes are the output of their suite. A suite tells first how much is
-/// in it, so it is written when its file was read.
+/// Writes the XML of JUnit for build servers: a suite for each file, with a failed case for each error and warning. A
+/// file without them has one case that passed; notes are the output of their suite. A suite begins with its numbers, so
+/// it is written after its file was read.
 class JunitWriter : public FindingWriter
 {
 public:

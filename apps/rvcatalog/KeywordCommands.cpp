@@ -19,7 +19,7 @@ QStringList attributeNames()
     return names;
 }
 
-/// The attribute of that name; null, with a message, where there is none.
+/// The attribute with that name; null, with a message, if there is none.
 RVCatalogueAttribute findAttribute(const QString &name, const Console &console)
 {
     const RVCatalogueAttribute attribute = RVCatalogueAttribute::find(name);
@@ -42,7 +42,7 @@ QStringList givenTexts(const QString &text, const Console &console)
     return result;
 }
 
-/// Names the pieces that are no keywords; the exit code.
+/// Names the pieces that are no keywords, and returns the exit code.
 int reportUnknown(const RVCatalogueAttribute &attribute, const QList<KeywordDecoding> &decodings,
                   const Console &console)
 {

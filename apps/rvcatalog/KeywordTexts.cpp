@@ -97,7 +97,7 @@ void writeDecoding(JsonWriter &json, const RVCatalogueAttribute &attribute, cons
     json.endObject();
 }
 
-/// An array of what @p write writes for each element, one a line.
+/// Writes an array, with the output of @p write for each element, one on each line.
 template<typename Element, typename Write>
 std::string linesJson(const QList<Element> &elements, Write write)
 {

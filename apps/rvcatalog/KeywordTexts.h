@@ -16,7 +16,7 @@ struct KeywordDecoding
     RVCatalogueAttributeDecoding meaning;
 };
 
-/// Writes the keywords of attributes for people, or makes JSON of them, without the names that depend on the language.
+/// Writes the keywords of attributes for people, or as JSON without the names that depend on the language.
 /// @{
 void writeKeywords(const QList<RVCatalogueAttribute> &attributes, const Console &console);
 std::string keywordsJson(const QList<RVCatalogueAttribute> &attributes);

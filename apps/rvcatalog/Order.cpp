@@ -10,7 +10,7 @@ Order::Order(const RVCatalogueProject &project, const RVCatalogueProduct &produc
       myOptions(product.options())
 { }
 
-/// Empty where the catalogue offers the option.
+/// The problem of an option; empty if the catalogue offers it.
 QString Order::wrongOption(const QString &key, const QString &value) const
 {
     const RVConfiguredArticleVariantList offered = myOptions.filter(key);

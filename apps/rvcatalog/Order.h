@@ -10,24 +10,24 @@
 #include <QList>
 #include <QMap>
 
-/// A project, and what the catalogue offers for it.
+/// A project, and the product and options of the catalogue for it.
 class Order
 {
 public:
     Order(const RVCatalogueProject &project, const RVCatalogueProduct &product);
 
-    /// Reasons why this cannot be ordered, each with its place in the project file.
+    /// The reasons why this cannot be ordered, each with its place in the project file.
     QList<Problem> problems() const;
 
-    /// The order, with what the catalogue adds; for an order without problems.
+    /// The order with the additions of the catalogue, for an order without problems.
     /// @{
     const ProductValues &values() const { return myValues; }
-    int pages() const; ///< The lowest count where the project says nothing.
-    int packages() const; ///< Above the lowest count.
-    RVArticleVariants variants() const; ///< With the defaults.
+    int pages() const; ///< The page count; the lowest one if the project has none.
+    int packages() const; ///< The packages above the lowest count.
+    RVArticleVariants variants() const; ///< The options, including the defaults.
     QList<ProductOption> options() const; ///< The chosen ones and the defaults, in the order of the catalogue.
-    QStringList chosenKeys() const; ///< Sorted; the others have a default that is added.
-    QMap<RVPriceClass, qint64> priceClasses() const; ///< Those that are billed, and how often.
+    QStringList chosenKeys() const; ///< The keys of the project, sorted; the others have an added default.
+    QMap<RVPriceClass, qint64> priceClasses() const; ///< The billed price classes and their counts.
     /// @}
 
 private:
@@ -39,7 +39,7 @@ private:
 
     RVCatalogueProject myProject;
     ProductValues myValues;
-    RVConfiguredArticleVariantList myOptions; // all that are offered
+    RVConfiguredArticleVariantList myOptions; // all offered options
 };
 
 #endif

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The project of a file, or of the input of the console; nothing, with a message, where it cannot be read.
+/// The project of a file, or of the input of the console; nothing, with a message, if it cannot be read.
 std::optional<RVCatalogueProject> readProject(const QString &fileName, const Console &console)
 {
     RVCatalogueProject project = fileName == "-"_L1 ? RVCatalogueProject::read(console.openInput().get())
@@ -57,7 +57,7 @@ void writeOrder(const Order &order, const Console &console)
     out << "Order text      " << variants.toOrderTxt() << '\n';
 }
 
-/// The wishes of the user.
+/// The options of the user.
 struct Request
 {
     QString catalogueName;

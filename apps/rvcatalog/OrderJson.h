@@ -5,14 +5,14 @@
 
 #include <string>
 
-/// The files that an order was made of, as the command line names them.
+/// The files of an order, as named on the command line.
 struct OrderFiles
 {
     QString catalogue;
     QString project;
 };
 
-/// A JSON object with an order and its problems, one line. @p order is null where there are problems.
+/// A JSON object with an order and its problems, on one line. @p order is null if there are problems.
 std::string orderJson(const Order *order, const OrderFiles &files, const QList<Problem> &problems);
 
 #endif

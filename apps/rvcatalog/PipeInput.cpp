@@ -11,7 +11,7 @@ namespace {
 
 constexpr int FOREVER = -1;
 
-/// True where there is something to read, or where there never will be again.
+/// True if there is data to read, or if no more data will come.
 bool hasInput(int descriptor, int milliseconds)
 {
     pollfd inputs[] = { { descriptor, POLLIN, 0 }, { Interruption::descriptor(), POLLIN, 0 } };

@@ -3,8 +3,8 @@
 
 #include <QIODevice>
 
-/// The input from a pipe or a terminal, as soon as it is there: a reading takes what there is and waits only where
-/// there is nothing. An interruption ends the waiting like the end of the input.
+/// The input from a pipe or a terminal as soon as it arrives: a read returns the available data and waits only if there
+/// is none. An interruption ends the waiting like the end of the input.
 class PipeInput : public QIODevice
 {
     Q_DISABLE_COPY_MOVE(PipeInput)
@@ -12,13 +12,13 @@ class PipeInput : public QIODevice
 public:
     enum Ownership { Borrowed, Owned };
 
-    /// An owned @p descriptor is closed at the end.
+    /// An owned @p descriptor is closed by the destructor.
     PipeInput(int descriptor, Ownership ownership);
     ~PipeInput() override;
 
     bool isSequential() const override { return true; }
     bool atEnd() const override;
-    /// True where a reading would not wait.
+    /// True if a read would not wait.
     bool waitForReadyRead(int milliseconds) override;
 
 protected:

@@ -78,7 +78,7 @@ QString unknownAttribute(const QString &name)
             + (suggestion.isEmpty() ? "; they have: "_L1 + known.join(", "_L1) : suggestion);
 }
 
-// A wildcard stops at the "/" of a path, but names of products are no paths.
+// A wildcard would stop at the "/" of a path, but names of products are no paths.
 QString withoutPaths(QString text)
 {
     return text.replace(u'/', QChar::ObjectReplacementCharacter);
@@ -179,7 +179,7 @@ ProductCondition::Test ProductCondition::textTest(const QString &name, const QSt
     const QRegularExpression pattern(QRegularExpression::wildcardToRegularExpression(withoutPaths(value)),
                                      QRegularExpression::CaseInsensitiveOption
                                              | QRegularExpression::DotMatchesEverythingOption);
-    pattern.optimize(); // now, and not in the threads that share it
+    pattern.optimize(); // here instead of in the threads that share it
     if (!pattern.isValid())
         myProblem = u"\"%1\" is no pattern: %2"_s.arg(value, pattern.errorString());
     return [texts, pattern](const RVCatalogueProduct &product) {

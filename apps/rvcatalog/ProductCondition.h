@@ -12,19 +12,19 @@
  * A condition on products, such as "cover_type=HARDCOVER", "name=*Mini*" or "max_pages>=100".
  *
  * Keywords compare by their values: a product meets a list of them when it has all of their bits. Texts may have the
- * wildcards "*", "?" and "[...]", and are compared without letter case. Numbers know "<", ">", "<=" and ">=" as well; a
- * product without the number meets none of these. Nothing behind "=" asks for products without the attribute. "!="
- * turns the result round.
+ * wildcards "*", "?" and "[...]", and are compared without letter case. Numbers may have "<", ">", "<=" and ">=" as
+ * well; a product without the number meets none of these. A missing value after "=" selects products without the
+ * attribute. "!=" negates the result.
  */
 class ProductCondition
 {
 public:
-    /// The names that may stand in front, those of keywords first.
+    /// The names of attributes, those with keywords first.
     static QStringList attributeNames();
 
     explicit ProductCondition(const QString &text);
 
-    /// The reason why the text is no condition; empty where it is one. No product meets one that has a problem.
+    /// The reason why the text is no condition; empty if it is one. No product meets an invalid condition.
     const QString &problem() const { return myProblem; }
     /// Any thread may ask.
     bool isMetBy(const RVCatalogueProduct &product) const;

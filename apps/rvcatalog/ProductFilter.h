@@ -7,15 +7,15 @@
 #include <QList>
 #include <QStringList>
 
-/// Chooses products: by their types, where some are named, and by conditions that all have to be met.
+/// Selects products by types, if some are given, and by conditions that all have to be met.
 class ProductFilter
 {
 public:
     ProductFilter(const QStringList &types, const QStringList &conditions);
 
-    /// The reason why one of the conditions is none; empty where all are.
+    /// The reason why one of the conditions is invalid; empty if all are valid.
     QString problem() const;
-    bool isEmpty() const { return myTypes.isEmpty() && myConditions.isEmpty(); } ///< Chooses every product.
+    bool isEmpty() const { return myTypes.isEmpty() && myConditions.isEmpty(); } ///< True if it selects every product.
     /// Any thread may ask.
     bool chooses(const RVCatalogueProduct &product) const;
 

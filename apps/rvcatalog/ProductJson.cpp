@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Makes room for a further value; a file in which nothing repeats must not fill the memory.
+/// Makes room for a further value; a file without repetitions must not fill the memory.
 template<typename Cache>
 void limit(Cache *cache)
 {
@@ -39,7 +39,7 @@ std::string attributeJson(const T &attribute)
 
 }
 
-/// A key of the object of a product, and what writes its value.
+/// A key of the object of a product, and the function that writes its value.
 struct ProductJson::Member
 {
     QLatin1StringView key;
@@ -136,7 +136,7 @@ void ProductJson::writeOptions(const RVCatalogueProduct &product)
     myJson.endArray();
 }
 
-// The size depends on nothing but the width without the sides.
+// The size depends only on the width without the sides.
 int ProductJson::fontSize(const ProductValues &values, int pages)
 {
     const RVDistance width = values.spineWidth(pages) - values.spine.additionalSpineWidth() * 2.0;

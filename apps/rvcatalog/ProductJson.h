@@ -19,8 +19,8 @@ struct RVCatalogueAttributeRow;
 /**
  * Describes products as JSON, one object each, with sorted keys.
  *
- * Keywords of attributes and font sizes repeat from product to product, so they are kept, up to some thousand of them.
- * For one thread at a time.
+ * Keywords of attributes and font sizes repeat from product to product, so some thousand of them are cached. Only one
+ * thread at a time may use an object.
  */
 class ProductJson
 {

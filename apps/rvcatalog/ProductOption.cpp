@@ -4,7 +4,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The form, or the next one behind it, that has a key and a value, as a product has no option of any other.
+/// The form, or the next one behind it, that has a key and a value; other forms are no options of a product.
 RVCatalogueElement complete(RVCatalogueElement form)
 {
     while (!form.isNull() && (form.utf8("key"_L1).isEmpty() || form.utf8("value"_L1).isEmpty()))

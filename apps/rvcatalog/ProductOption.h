@@ -5,15 +5,15 @@
 
 #include <QList>
 
-/// An option of a product, with what the catalogue says of it besides.
+/// An option of a product, with its other data in the catalogue.
 struct ProductOption
 {
     RVConfiguredArticleVariant option;
     QString formName; ///< "name" of the form
     RVPriceClass priceClass;
-    bool isDefault = false; ///< chosen of its key where the customer chooses nothing
+    bool isDefault = false; ///< the choice for its key if the customer chooses nothing
 
-    /// "#rrggbb", or "#aarrggbb" where it can be seen through; empty without a colour.
+    /// The colour as "#rrggbb", or "#aarrggbb" if it is not opaque; empty without a colour.
     QString colorText() const;
 
     /// The valid options of a product, in the order of the file.

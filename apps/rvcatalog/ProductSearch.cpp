@@ -4,7 +4,7 @@
 
 using namespace Qt::StringLiterals;
 
-// With more than half of its letters changed, a code is another code.
+// A code with more than half of its letters changed is a different code.
 WantedType::WantedType(const RVProductType &type)
     : myType(type),
       myNearest(type.toString(), int(type.toString().size() + 1) / 2)

@@ -8,15 +8,15 @@
 
 #include <optional>
 
-/// A type that is looked for among all that a catalogue has.
+/// The search for a type among all types of a catalogue.
 class WantedType
 {
 public:
     explicit WantedType(const RVProductType &type);
 
-    /// One of the types of the catalogue; true where it is the one that is looked for.
+    /// Takes one of the types of the catalogue; true if it is the wanted one.
     bool offer(const RVProductType &type);
-    /// That there is no such type, and which was probably meant; empty where there is.
+    /// The message that there is no such type, with the one that was probably meant; empty if there is.
     QString problem() const;
 
 private:
@@ -28,12 +28,12 @@ private:
 /// The result of a search for a product.
 struct ProductSearch
 {
-    RVCatalogueProduct product; ///< the first of the type; null where there is none
-    QString problem; ///< that there is none, and which type was probably meant; empty where there is one
+    RVCatalogueProduct product; ///< the first of the type; null if there is none
+    QString problem; ///< the message that there is none; empty if there is one
 };
 
 /// Looks for a product by its type. Reads the catalogue to its end, so that a broken one is noticed; nothing, with a
-/// message, where that is impossible.
+/// message, if that is impossible.
 std::optional<ProductSearch> findProduct(const QString &catalogueName, const RVProductType &type,
                                          const Console &console);
 

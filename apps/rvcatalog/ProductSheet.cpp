@@ -57,7 +57,7 @@ void ProductSheet::writeLine(const QString &label, const QString &text)
 {
     QString left = label;
     for (const QString &line : wrapped(text, TERMINAL_WIDTH - LABEL_WIDTH)) {
-        // A label that needs more room gets it, and still stands apart.
+        // A longer label gets more room, and is still followed by blanks.
         *myOut << QString("  "_L1 + left + "  "_L1).leftJustified(LABEL_WIDTH) << line << '\n';
         left.clear();
     }

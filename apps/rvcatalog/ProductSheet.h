@@ -5,7 +5,7 @@
 
 #include <QTextStream>
 
-/// Everything that the catalogue says about a product, one line a subject.
+/// Writes everything that the catalogue says about a product, one line for each subject.
 class ProductSheet
 {
 public:

@@ -10,12 +10,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Wide enough for the codes and counts of a catalogue; the table is written before its last row is known.
+// The columns are wide enough for usual codes and counts, because the table is written before its last row is known.
 constexpr int COLUMN_WIDTHS[] = { 9, 17, 7, 12, 8, 0 };
 constexpr int INDENT = COLUMN_WIDTHS[0];
 constexpr int NAME_COLUMN = 53; // behind the others
 
-/// Ends every piece but the last with a sign, so that they can be told apart: "class book;", "cover HARDCOVER".
+/// Ends every piece except the last with a sign that separates them: "class book;", "cover HARDCOVER".
 QStringList separated(QStringList pieces, QChar sign)
 {
     for (qsizetype i = 0; i + 1 < pieces.size(); ++i)
@@ -49,7 +49,7 @@ QString valueText(const ProductOption &option)
     return result;
 }
 
-/// The options of a product, one list a key: "alcolor:", "black* (LEZ1),", "red (LEZ2)".
+/// The options of a product, one list for each key: "alcolor:", "black* (LEZ1),", "red (LEZ2)".
 QList<QStringList> optionPieces(const RVCatalogueProduct &product)
 {
     QMap<QString, QStringList> valuesByKey;

@@ -5,7 +5,7 @@
 
 #include <QTextStream>
 
-/// Products as a table for a terminal: page counts, spine and name in columns, what else there is in lines below.
+/// Writes products as a table for a terminal: page counts, spine and name in columns, the rest in lines below.
 class ProductTable
 {
 public:

@@ -6,7 +6,7 @@
 
 #include <RVCatalogueProduct.h>
 
-/// A product, and what is asked of it more than once, which takes longer than to keep it.
+/// A product, and a cache of values that are used more than once and take long to compute.
 struct ProductValues
 {
     explicit ProductValues(const RVCatalogueProduct &product_)
@@ -23,7 +23,7 @@ struct ProductValues
     RVSpineConfig spine;
     bool hasSpine;
 
-    /// A catalogue may give a negative count, which has the spine of none.
+    /// A catalogue may have a negative count, which has the spine of 0 pages.
     /// @{
     RVDistance spineWidth(int pages) const { return spine.spineWidth(unsigned(qMax(0, pages))); }
     /// The largest of SpineFont that fits, in points.

@@ -6,8 +6,7 @@
 
 #include <cstdio>
 
-/// Shows how far the reading of a file has come, among the messages where they go to a terminal, and not before the
-/// user has waited a second.
+/// Shows the progress of reading a file, if the messages go to a terminal, and after the user has waited a second.
 class ProgressBar
 {
     Q_DISABLE_COPY_MOVE(ProgressBar)
@@ -16,9 +15,9 @@ public:
     explicit ProgressBar(std::FILE *terminal);
     ~ProgressBar() { hide(); }
 
-    /// @p total is 0 where nobody knows how much there is.
+    /// @p total is 0 if the size is unknown.
     void show(const QString &fileName, qint64 done, qint64 total);
-    /// Makes room for something else on the terminal.
+    /// Clears the bar for other output on the terminal.
     void hide();
 
 private:

@@ -3,7 +3,7 @@
 
 #include "FindingWriter.h"
 
-/// No findings, but how many there are of each rule, the most frequent first, and the summary.
+/// Writes the number of findings of each rule, the most frequent first, and the summary, but no findings.
 class RuleCountWriter : public FindingWriter
 {
 public:

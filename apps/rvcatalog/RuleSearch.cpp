@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 
 QString noRuleText(const QString &name)
 {
-    constexpr int limit = 4; // changes that nobody takes for a slip
+    constexpr int limit = 4; // more changes are no typing mistake
     RVNearestText nearest(name, limit);
     for (const RVCatalogueRule rule : RVCatalogueRule::all())
         nearest.offer(rule.name());

@@ -5,7 +5,7 @@
 
 #include <QString>
 
-/// The message that there is no rule of that name, with the one that was probably meant.
+/// The message that there is no rule with that name, and the one that was probably meant.
 QString noRuleText(const QString &name);
 
 #endif

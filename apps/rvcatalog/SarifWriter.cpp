@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A file that is named from where the program runs stays so; a colon in its first part would be a scheme.
+/// A path relative to the current folder stays relative; a colon in its first part would be a scheme.
 QString uri(const QString &fileName)
 {
     if (QDir::isAbsolutePath(fileName))

@@ -11,7 +11,7 @@
 
 class JsonWriter;
 
-/// The Static Analysis Results Interchange Format, version 2.1.0, with one run, and each result on a line of its own.
+/// Writes the Static Analysis Results Interchange Format, version 2.1.0, with one run, and each result on its own line.
 class SarifWriter : public FindingWriter
 {
 public:

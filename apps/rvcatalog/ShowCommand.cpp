@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Writes the products that are chosen with a ProductTable or a ProductSheet.
+/// Writes the selected products with a ProductTable or a ProductSheet.
 template<typename Writer>
 void writeProducts(CatalogueFile &file, const ProductFilter &filter, Writer *writer, ShowReport *report)
 {
@@ -46,7 +46,7 @@ void writeSheets(CatalogueFile &file, const ProductFilter &filter, ShowReport *r
 
 using Write = void (*)(CatalogueFile &file, const ProductFilter &filter, ShowReport *report, const Console &console);
 
-/// The way to write a format; everything is in JSON in any case.
+/// The function that writes a format; JSON always has everything.
 Write writer(const QString &format, bool isLong)
 {
     if (format == "json"_L1)
@@ -56,7 +56,7 @@ Write writer(const QString &format, bool isLong)
 
 int show(const QString &fileName, const ProductFilter &filter, Write write, const Console &console)
 {
-    // A signal leaves whole JSON. The reading from a pipe would not notice it, and waits for who knows how long.
+    // A signal leaves whole JSON. Reading from a pipe would not notice the signal, and could wait for any time.
     std::optional<Interruption> interruption;
     if (write == writeCatalogueJson && QFileInfo(fileName).isFile())
         interruption.emplace();

@@ -5,8 +5,7 @@
 #include "ProductFilter.h"
 #include "ProductValues.h"
 
-/// Reports what is wrong with the products of a catalogue that are shown, and which of the wanted ones it does not
-/// have.
+/// Reports the findings of the shown products of a catalogue, and the wanted products that it does not have.
 class ShowReport
 {
 public:
@@ -15,11 +14,11 @@ public:
     /// The findings about a product. Any thread may ask.
     static QList<Problem> problems(const ProductValues &values);
 
-    /// Products of the catalogue, be they shown or not.
+    /// Counts products of the catalogue, shown or not.
     void addTypes(const QList<RVProductType> &types);
-    /// Some products that are shown, and what is wrong with them.
+    /// Takes some shown products and their findings.
     void addShown(qint64 count, const QList<Problem> &problems);
-    /// Reports what is known at the end of the catalogue; the exit code.
+    /// Reports the missing products at the end of the catalogue, and returns the exit code.
     int end() const;
 
 private:
@@ -27,7 +26,7 @@ private:
 
     const CatalogueFile &myFile;
     QList<WantedType> myWantedTypes;
-    bool myIsEmpty = true; // the catalogue
+    bool myIsEmpty = true; // as long as the catalogue has no products
     qint64 myShownCount = 0;
     bool myHasProblems = false;
 };

@@ -64,14 +64,14 @@ bool SourceLines::readLine()
     return true;
 }
 
-/// The end of the line that begins; negative where the line is too long.
+/// The end of the current line; negative if the line is too long.
 qsizetype SourceLines::findEnd()
 {
     qsizetype end = myBegin;
     while (true) {
         while (end < myText.size() && myText[end] != u'\n' && myText[end] != u'\r')
             ++end;
-        // Behind a carriage return may follow a line feed that belongs to it.
+        // A line feed that follows a carriage return belongs to it.
         if (end + 1 < myText.size() || (end < myText.size() && myText[end] == u'\n'))
             return end;
         if (end - myBegin > LONGEST_LINE)

@@ -5,7 +5,7 @@
 #include <QString>
 #include <QStringDecoder>
 
-/// The lines of a text file, read again to show a place in it. It is quick where lines are asked for in their order.
+/// The lines of a text file, read again to show a place in it. Access in the order of the lines is fast.
 class SourceLines
 {
     Q_DISABLE_COPY_MOVE(SourceLines)
@@ -13,8 +13,8 @@ class SourceLines
 public:
     explicit SourceLines(const QString &fileName);
 
-    /// The line of that number, from 1, without its end; null where the file has none, cannot be read twice because it
-    /// is a pipe, or has an encoding that Qt does not know, or a line of a million letters.
+    /// The line with that number, from 1, without its end. Null if the file has no such line, cannot be read twice
+    /// because it is a pipe, has an encoding that Qt does not know, or has a line of a million letters.
     QString line(qint64 number);
 
 private:
@@ -25,8 +25,8 @@ private:
 
     QFile myFile;
     QStringDecoder myDecoder;
-    QString myText; // that was read
-    qsizetype myBegin = 0; // of what follows the line
+    QString myText; // the text that was read
+    qsizetype myBegin = 0; // of the text behind the line
     QString myLine;
     qint64 myNumber = 0; // of the line
 };

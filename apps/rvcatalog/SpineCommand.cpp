@@ -44,13 +44,13 @@ std::optional<Problem> problem(const ProductValues &values)
     return std::nullopt;
 }
 
-/// A number that needs more room gets it, and still stands apart.
+/// A longer number gets more room, and is still preceded by a blank.
 void writeCell(QTextStream &out, int width, const QString &text)
 {
     out << ' ' << text.rightJustified(width - 1);
 }
 
-/// False where the output is gone, say because the reader of a pipe has enough.
+/// False if the output is gone, for example because the reader of a pipe has ended.
 bool writeTable(const SpineTable &table, const Console &console)
 {
     QTextStream out(console.output);
@@ -70,7 +70,7 @@ bool writeTable(const SpineTable &table, const Console &console)
     return out.status() == QTextStream::Ok;
 }
 
-/// False where the output is gone.
+/// Writes the JSON; false if the output is gone.
 bool writeJson(const QString &catalogueName, const ProductValues &values, const SpineTable &table,
                const Console &console)
 {
@@ -116,7 +116,7 @@ bool writePlot(const QString &fileName, const SpineTable &table, const QString &
     return failure.isNull();
 }
 
-/// The wishes of the user.
+/// The options of the user.
 struct Request
 {
     QString catalogueName;

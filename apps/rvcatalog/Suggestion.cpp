@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 
 QString didYouMean(const QString &wanted, const QStringList &candidates, const QString &prefix)
 {
-    // With more than half of its letters changed, a word is another word.
+    // A word with more than half of its letters changed is a different word.
     RVNearestText nearest(wanted, int(wanted.size() + 1) / 2);
     for (const QString &candidate : candidates)
         nearest.offer(candidate);

@@ -7,7 +7,7 @@
 
 #include <memory>
 
-/// A line for each finding, as compilers write them, and a summary.
+/// Writes a line for each finding, as compilers do, and a summary.
 class TextWriter : public FindingWriter
 {
 public:
@@ -29,7 +29,7 @@ private:
 
     Appearance myAppearance;
     SourceFile myFile; // of the findings, which are in the order of the lines
-    SourceFile myRelatedFile; // the places of which are not
+    SourceFile myRelatedFile; // of related places, which are not in order
 };
 
 #endif

@@ -4,7 +4,7 @@
 #include <QString>
 #include <QStringList>
 
-/// The letters of a line on a terminal that nobody has made wider.
+/// The number of letters in a line of a default terminal.
 constexpr qsizetype TERMINAL_WIDTH = 80;
 
 /// Fills lines of the given width with pieces, a blank between two of them. A piece that is longer than a line is

@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Asked for before the locale is changed, and also understood where the system has no such locale.
+// The language is read before the locale is changed, and works even if the system has no such locale.
 QLocale userLocale()
 {
     for (const char *variable : { "LC_ALL", "LC_MESSAGES", "LANG" }) {
@@ -29,7 +29,7 @@ QLocale userLocale()
     return QLocale::c();
 }
 
-// The program's files and texts are UTF-8 whatever the terminal's locale.
+// The program's files and texts are UTF-8 in every locale of the terminal.
 void useUtf8()
 {
     std::setlocale(LC_ALL, "");
@@ -37,8 +37,7 @@ void useUtf8()
         qputenv("LC_ALL", "C.UTF-8");
 }
 
-// If the program was started without an input, the first file that it opens would stand for it. This one cannot be
-// read.
+// Without a standard input, the first opened file would take its place. So this opens a file that cannot be read.
 void keepInputApart()
 {
     struct stat status = {};
@@ -47,7 +46,8 @@ void keepInputApart()
     [[maybe_unused]] auto *const apart = std::freopen("/dev/null", "w", stdin);
 }
 
-// Display names are in the user's language where there is a translation, else in German, the language of the catalogue.
+// Display names are in the user's language if there is a translation, otherwise in German, the language of the
+// catalogue.
 void loadTranslation(QTranslator *translator, const QLocale &locale)
 {
     const QString folder = u":/translations"_s;
@@ -71,11 +71,11 @@ int main(int argc, char *argv[])
     keepInputApart();
     const QLocale locale = userLocale();
     useUtf8();
-    // Options come out in the order of a hash; with a fixed seed every run writes the same.
+    // Options are written in the order of a hash; with a fixed seed every run writes the same.
     QHashSeed::setDeterministicGlobalSeed();
     // Fonts are measured, and plots are drawn to files, but nothing is shown, so no display is needed.
     qputenv("QT_QPA_PLATFORM", "minimal:enable_fonts");
-    // Without a desktop session Qt warns of a missing run-time directory, which nothing here uses.
+    // Qt warns of a missing run-time directory without a desktop session, but the program does not use it.
     QLoggingCategory::defaultCategory()->setEnabled(QtWarningMsg, false);
     QGuiApplication application(argc, argv);
     QLoggingCategory::defaultCategory()->setEnabled(QtWarningMsg, true);

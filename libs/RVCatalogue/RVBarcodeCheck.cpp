@@ -20,11 +20,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Barcodes are measured in tenths of a millimetre. No printer prints three metres.
+/// Barcodes are measured in tenths of a millimetre. The longest page has three metres, because no press prints longer
+/// ones.
 constexpr double TENTHS_PER_MILLIMETRE = 10;
 constexpr double SQUARE_CENTIMETRE = 10000;
 constexpr int LONGEST_PAGE = 30000;
-/// Nothing is printed that is longer and slimmer, width by height.
+/// The slimmest and the widest page that is printed, width by height.
 constexpr double SLIMMEST = 0.1;
 constexpr double WIDEST = 10;
 
@@ -57,14 +58,14 @@ struct OrientationRatios
     PageRatios ratios;
 };
 
-/// The proportions by which RVOrientation tells orientations apart.
+/// The proportions by which RVOrientation distinguishes orientations.
 constexpr OrientationRatios USUAL_RATIOS[] = {
     { ORIENTATION_PORTRAIT, { 0.5, 0.9 } },        { ORIENTATION_LANDSCAPE, { 1.1, 2 } },
     { ORIENTATION_SQUARE, { 0.9, 1.1 } },          { ORIENTATION_PORTRAIT_SLIM, { SLIMMEST, 0.5 } },
     { ORIENTATION_LANDSCAPE_SLIM, { 2, WIDEST } },
 };
 
-/// From the slimmest to the widest of all orientations that a product has; nothing where it has none.
+/// The proportions from the slimmest to the widest of all orientations of a product; none if it has no orientation.
 std::optional<PageRatios> usualRatios(const RVOrientation &orientation)
 {
     std::optional<PageRatios> result;
@@ -90,7 +91,7 @@ QString millimetres(double tenths)
     return QString::number(tenths / 10, 'f', QLocale::FloatingPointShortest);
 }
 
-/// The attribute that says how many pages there may be; the start tag where that is the default.
+/// The attribute that sets the highest page count; the start tag if that is the default.
 RVRelatedPlace placeOfHighest(const RVCatalogueElement &product)
 {
     return rvPlaceOf(product, product.hasAttribute("max_pages"_L1) ? "max_pages"_L1 : "pages"_L1,
@@ -104,7 +105,7 @@ bool overlap(const QRect &a, const QRect &b)
 
 }
 
-/// Of the size of a page nothing is known but its size class and its orientation, unless the print house says it.
+/// The page of a product. Only its size class and its orientation are known, unless the configuration has its size.
 struct RVBarcodeCheck::PageSize
 {
     PageSize(const RVCatalogueProduct &product, const RVCatalogueCheck &check)
@@ -114,15 +115,15 @@ struct RVBarcodeCheck::PageSize
           exact(check.pageSize(product.type()))
     { }
 
-    /// True where no page is so large. Of the largest class hardly any page is too large, and the usual area of a class
-    /// may belong to the next one.
+    /// True if no page is so large. Pages of the largest class have hardly any limit, and the usual area of a class may
+    /// belong to the next one.
     bool isBelow(const QRect &area) const
     {
         return area.right() > LONGEST_PAGE || area.bottom() > LONGEST_PAGE || isAboveClass(area, ratios);
     }
-    /// True where no page with the proportions of its orientation is so large.
+    /// True if no page with the proportions of its orientation is so large.
     bool isBelowUsual(const QRect &area) const { return usual && isAboveClass(area, *usual); }
-    /// The attribute that is mended first where it is.
+    /// The attribute that is mended first if the barcode is outside.
     QLatin1StringView wrongSide(const QRect &area) const
     {
         const bool isWide = area.right() / std::sqrt(usual->most) > area.bottom() * std::sqrt(usual->least);
@@ -148,7 +149,7 @@ struct RVBarcodeCheck::PageSize
     RVSpaceMagnitude magnitude;
     PageRatios ratios;
     std::optional<PageRatios> usual;
-    QSizeF exact; // in millimetres; invalid where it is unknown
+    QSizeF exact; // in millimetres; invalid if it is unknown
 };
 
 void RVBarcodeCheck::check(const RVCatalogueProduct &product)
@@ -175,7 +176,7 @@ void RVBarcodeCheck::check(const RVCatalogueProduct &product)
     }
 }
 
-/// Finds what a barcode needs, though it has defaults.
+/// Finds attributes that a barcode needs, though they have defaults.
 void RVBarcodeCheck::checkMissing(const RVCatalogueElement &element)
 {
     constexpr auto page = "pageNr"_L1;
@@ -200,7 +201,7 @@ void RVBarcodeCheck::checkMissing(const RVCatalogueElement &element)
                                         "write the page that it is on"));
 }
 
-/// Nothing where a number cannot be read.
+/// Reads a barcode; nothing if a number cannot be read.
 std::optional<RVBarcodeCheck::Barcode> RVBarcodeCheck::read(const RVCatalogueElement &element,
                                                             const RVDistanceUnit &unit)
 {
@@ -244,7 +245,7 @@ void RVBarcodeCheck::checkArea(const Barcode &barcode, const PageSize &pageSize)
     myPlaced += barcode;
 }
 
-/// False where the barcode leaves the page.
+/// False if the barcode leaves the page.
 bool RVBarcodeCheck::checkEdges(const Barcode &barcode, const PageSize &pageSize)
 {
     const QRect &area = barcode.area;
@@ -274,7 +275,7 @@ bool RVBarcodeCheck::checkEdges(const Barcode &barcode, const PageSize &pageSize
     return false;
 }
 
-/// False where the barcode leaves a page of known size.
+/// False if the barcode leaves a page of known size.
 bool RVBarcodeCheck::checkExactPage(const Barcode &barcode, const PageSize &pageSize)
 {
     const std::optional<QLatin1StringView> side = pageSize.sideBeyondExact(barcode.area);
@@ -291,7 +292,7 @@ bool RVBarcodeCheck::checkExactPage(const Barcode &barcode, const PageSize &page
                          millimetres(page.height() * TENTHS_PER_MILLIMETRE)));
 }
 
-/// False, as the barcode leaves the page.
+/// Reports a barcode that leaves the page, and returns false.
 bool RVBarcodeCheck::addOutside(const Barcode &barcode, QLatin1StringView attribute, const QString &text)
 {
     myReport->add(RVCatalogueRuleId::BarcodeOutsidePage, barcode.element, attribute, text);

@@ -14,7 +14,7 @@ class RVCatalogueProduct;
 class RVFindingReport;
 struct RVCheckedPageCounts;
 
-/// Barcodes of a product, their unit, and where they are on its pages. A check is for one product.
+/// Checks the barcodes of a product, their unit, and their places on its pages. An object checks one product.
 class RVBarcodeCheck
 {
 public:
@@ -46,7 +46,7 @@ private:
 
     RVFindingReport *myReport;
     const RVCheckedPageCounts &myPageCounts;
-    QVarLengthArray<Barcode, 4> myPlaced; // those before, as far as they are on a page
+    QVarLengthArray<Barcode, 4> myPlaced; // the earlier barcodes that are on a page
 };
 
 #endif

@@ -21,7 +21,7 @@ struct Barcode
     bool isMatched = false;
 };
 
-/// Lengths in the terms of the catalogue: the lower edge, on which the barcode stands.
+/// The fields in the terms of the catalogue, with the lower edge, on which the barcode stands.
 RVDistance tenths(qint64 length)
 {
     return RVDistance(qreal(length));
@@ -56,7 +56,7 @@ std::vector<Barcode> barcodesOf(const RVBarcodeDefinitionList &definitions)
     return result;
 }
 
-/// Texts that are the same for barcodes that belong together: where they are equal, on one page, and anywhere.
+/// Keys that are the same for barcodes that belong together: equal barcodes, barcodes on one page, and any barcodes.
 /// @{
 QString identity(const RVBarcodeDefinition &barcode)
 {
@@ -102,7 +102,7 @@ void beginItem(const Barcode &barcode, RVProductChanges *changes)
                        QJsonObject { { u"number"_s, barcode.number }, { u"page"_s, page } });
 }
 
-/// Each barcode belongs to one of the other product at most.
+/// Each barcode belongs to at most one of the other product.
 class BarcodeMatching
 {
 public:

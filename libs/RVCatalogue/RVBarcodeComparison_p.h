@@ -4,8 +4,8 @@
 class RVCatalogueProduct;
 class RVProductChanges;
 
-/// Adds what differs in the barcodes. Those that are the same belong together; of the others the first on a page and
-/// the first on that page, and so on; then the first of what is left.
+/// Adds the differences of the barcodes. Equal barcodes belong together. Of the others, the first on a page belongs to
+/// the first on the same page, and so on. The remaining ones belong together in their order.
 void rvCompareBarcodes(const RVCatalogueProduct &before, const RVCatalogueProduct &after, RVProductChanges *changes);
 
 #endif

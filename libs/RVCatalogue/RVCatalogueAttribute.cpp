@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <array>
 
-/// Everything that differs from attribute to attribute.
+/// The functions of one attribute.
 struct RVCatalogueAttributeFunctions
 {
     QLatin1StringView name;
@@ -67,7 +67,7 @@ QString displayName(const RVSpaceMagnitude &value)
     return RVSpaceMagnitude::names().names.value(value);
 }
 
-/// The other attributes have no names.
+/// The other attributes have no display names.
 template<typename E>
 QString displayName(const RVEnumWrapper<E> &)
 {

@@ -17,7 +17,7 @@
 #include <type_traits>
 
 /// An attribute whose values are written as keywords: its class, its name in the products XML, its label for people,
-/// and how a product tells it; null where it is no attribute of products.
+/// and the function of a product that returns it, which is null if it is no attribute of products.
 /// @par Example
 /// @snippet tst_examples_catalogues.cpp RVCatalogueAttributeRow
 /// @ingroup catalogues
@@ -28,7 +28,7 @@ struct RVCatalogueAttributeRow
     using Value = T (RVCatalogueProduct::*)() const; ///< The function of a product that returns it.
     using DisplayName = QString (T::*)() const; ///< The function that returns the name of a value for people.
 
-    /// The members in their order; without a value the attribute is none of products.
+    /// The members in their order; an attribute without a value is no attribute of products.
     /// @{
     constexpr RVCatalogueAttributeRow(QLatin1StringView name_, const char *label_) : name(name_), label(label_) { }
     constexpr RVCatalogueAttributeRow(QLatin1StringView name_, const char *label_, Value value_,
@@ -44,19 +44,18 @@ struct RVCatalogueAttributeRow
     { }
     /// @}
 
-    QLatin1StringView name; ///< In the products XML.
-    const char *label; ///< In English; RVCatalogueAttribute::label() translates it.
+    QLatin1StringView name; ///< The name in the products XML.
+    const char *label; ///< The label in English; RVCatalogueAttribute::label() translates it.
     bool isOfProducts = false; ///< True where product elements may have it.
     Value value = nullptr; ///< Null where it is no attribute of products.
-    const char *shortLabel = nullptr; ///< In English, for a line of many attributes.
-    DisplayName displayName = nullptr; ///< Null also where display names are but parts of words.
-    bool hasBareKeywords = false; ///< True where keywords are numbers, so that people need the display name.
+    const char *shortLabel = nullptr; ///< A short label in English, for a line of many attributes.
+    DisplayName displayName = nullptr; ///< Null also if display names are only parts of words.
+    bool hasBareKeywords = false; ///< True if keywords are numbers, so that people need the display name.
 };
 
 /**
- * Every attribute whose values are written as keywords, those of products first. Everything that goes through the
- * attributes walks this list, with std::apply() where it needs their classes and with RVCatalogueAttribute::all() where
- * it does not.
+ * Every attribute whose values are written as keywords, those of products first. All code that iterates over the
+ * attributes uses this list: std::apply() if it needs their classes, and RVCatalogueAttribute::all() otherwise.
  *
  * @ingroup catalogues
  */

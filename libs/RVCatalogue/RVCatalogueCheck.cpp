@@ -26,7 +26,7 @@ class RVCatalogueCheckData : public QSharedData
 {
 public:
     std::bitset<RV_CATALOGUE_RULE_COUNT> disabled;
-    QHash<RVCatalogueRuleId, RVCatalogueSeverity> severities; // that were set
+    QHash<RVCatalogueRuleId, RVCatalogueSeverity> severities; // only those that were set
     QSet<QString> foreignNames;
     QStringList priceClasses; // sorted
     QHash<quint64, QSizeF> pageSizes; // by the hash of the type
@@ -48,7 +48,7 @@ RVCatalogueCheckData *writable(QSharedDataPointer<RVCatalogueCheckData> *data)
 
 }
 
-// Without data nothing is disabled.
+// A check without data has no disabled rules.
 RVCatalogueCheck::RVCatalogueCheck() = default;
 RVCatalogueCheck::RVCatalogueCheck(const RVCatalogueCheck &other) = default;
 RVCatalogueCheck::RVCatalogueCheck(RVCatalogueCheck &&other) noexcept = default;

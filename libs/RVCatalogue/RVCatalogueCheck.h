@@ -16,11 +16,11 @@ class RVCatalogueProduct;
 class RVProductType;
 
 /**
- * The rules that a catalogue is checked by, which are all of them, unless some are disabled, and what a print house
- * has of its own. RVCatalogueReader takes one along and gives every product its findings.
+ * The rules that a catalogue is checked by, and the additions of a print house. By default no rule is disabled.
+ * RVCatalogueReader uses a check to give every product its findings.
  *
- * Fonts are measured to find spines that are too narrow for any text, for which the program needs a QGuiApplication;
- * without one no spine is found to be.
+ * The check for spines that are too narrow for any text measures fonts. It needs a QGuiApplication and finds no such
+ * spine without one.
  *
  * @par Example
  * @snippet tst_examples_catalogues.cpp RVCatalogueCheck
@@ -37,15 +37,15 @@ public:
     RVCatalogueCheck &operator=(RVCatalogueCheck &&other) noexcept;
     ~RVCatalogueCheck();
 
-    /// From now on the rule finds nothing.
+    /// Disables the rule from now on.
     void disable(RVCatalogueRule rule);
     bool isEnabled(RVCatalogueRule rule) const; ///< True unless the rule was disabled.
-    /// From now on findings of the rule have this severity, and the rule is enabled.
+    /// Sets the severity of the rule's findings from now on, and enables the rule.
     void setSeverity(RVCatalogueRule rule, RVCatalogueSeverity severity);
-    RVCatalogueSeverity severity(RVCatalogueRule rule) const; ///< Of the findings of a rule; its own unless it was set.
+    RVCatalogueSeverity severity(RVCatalogueRule rule) const; ///< That of its findings; its own unless set.
 
-    /// Names of attributes and elements that other programs read, so that they are no misspelt ones. Letter case
-    /// counts.
+    /// Names of attributes and elements that other programs read, so that they do not count as misspelt. Letter case
+    /// matters.
     /// @{
     void addForeignNames(const QStringList &names);
     bool isForeign(const QString &name) const;
@@ -53,9 +53,9 @@ public:
     /// Price classes of add-ons that are billed besides those of RVPriceClassSet.
     /// @{
     void addPriceClasses(const QStringList &codes);
-    QStringList priceClasses() const; ///< Sorted.
+    QStringList priceClasses() const; ///< The price classes, sorted.
     /// @}
-    /// The page of a product in millimetres; an invalid size where nobody said it.
+    /// The page of a product in millimetres; an invalid size if it was not set.
     /// @{
     void setPageSize(const RVProductType &type, const QSizeF &size);
     QSizeF pageSize(const RVProductType &type) const;
@@ -68,7 +68,7 @@ public:
 private:
     friend class RVCatalogueReaderPrivate;
 
-    QList<RVCatalogueFinding> allFindings(const RVCatalogueProduct &product) const; // also those that are silenced
+    QList<RVCatalogueFinding> allFindings(const RVCatalogueProduct &product) const; // silenced ones included
 
     QSharedDataPointer<RVCatalogueCheckData> d;
 };

@@ -15,7 +15,7 @@ namespace {
 
 constexpr int NONE = -1;
 
-/// All that is needed of a product to find its other version, and to see whether that is the same.
+/// The facts of a product that find its other version and tell if the two are equal.
 struct Facts
 {
     explicit Facts(const RVCatalogueProduct &product)
@@ -28,7 +28,7 @@ struct Facts
 
     RVFilePosition position() const { return { line, column }; }
 
-    quint64 type; // a type is known by its hash
+    quint64 type; // the hash of the type
     RVProductFingerprint fingerprint;
     int articleId;
     quint32 line;
@@ -38,15 +38,15 @@ struct Facts
 struct OldProduct
 {
     Facts facts;
-    int newNumber = NONE; // of the product that it has become
+    int newNumber = NONE; // the number of its new version
 };
 
 /// A new product that is not known to be equal.
 struct NewProduct
 {
     Facts facts;
-    int number; // in its catalogue
-    int oldNumber; // of the product that it was
+    int number; // the number in its catalogue
+    int oldNumber; // the number of its old version
 };
 
 /// Products that were read together, and their facts.
@@ -67,11 +67,11 @@ ReadProducts<Products> readProducts(const QList<RVCatalogueProduct> &products)
     return result;
 }
 
-/// Numbers of products by something that several of them may share.
+/// Numbers of products by a key that several of them may share.
 class Queues
 {
 public:
-    /// Puts a number in front of those with the same key.
+    /// Adds a number in front of those with the same key.
     void prepend(quint64 key, int number)
     {
         if (std::size_t(number) >= myNext.size())
@@ -82,7 +82,7 @@ public:
         else
             myNext[std::size_t(number)] = std::exchange(*first, number);
     }
-    /// Takes the first out; NONE where there is none.
+    /// Removes and returns the first number; NONE if there is none.
     int take(quint64 key)
     {
         const auto found = myFirst.find(key);
@@ -96,12 +96,12 @@ private:
     std::vector<int> myNext;
 };
 
-/// A product to tell of: where it stands, and its two versions.
+/// A product of the output: its place and its two versions.
 struct Row
 {
-    int newNumber; // of a removed one, that of the product before it
-    int oldNumber; // NONE for one that was added
-    int different; // among the new ones that differ; NONE for one that was removed
+    int newNumber; // for a removed product, the number of the product before it
+    int oldNumber; // NONE for an added product
+    int different; // its index among the new products that differ; NONE for a removed one
 
     friend bool operator<(const Row &a, const Row &b)
     {
@@ -117,7 +117,7 @@ class RVCatalogueComparisonPrivate
 public:
     void readOld(RVCatalogueReader *reader);
     void readNew(RVCatalogueReader *reader);
-    /// Once both were read.
+    /// Called after both files were read.
     void finish();
 
     RVProductComparison next();
@@ -199,7 +199,7 @@ void RVCatalogueComparisonPrivate::finish()
     sortRows();
 }
 
-// An article whose type is gone and has come under another one.
+// An article whose type changed belongs together with its old version.
 void RVCatalogueComparisonPrivate::findRenamed()
 {
     Queues articles;

@@ -15,11 +15,11 @@ class RVCatalogueReader;
 /// @ingroup catalogues
 struct RVComparisonCounts
 {
-    qint64 added = 0; ///< Only in the new catalogue.
-    qint64 removed = 0; ///< Only in the old one.
-    qint64 changed = 0; ///< In both, with other values; also those that were renamed.
-    qint64 renamed = 0; ///< Those of the changed ones that have another type.
-    qint64 equal = 0; ///< In both, with the same values.
+    qint64 added = 0; ///< Products only in the new catalogue.
+    qint64 removed = 0; ///< Products only in the old catalogue.
+    qint64 changed = 0; ///< Products in both with different values, including renamed ones.
+    qint64 renamed = 0; ///< The changed products that have a new type.
+    qint64 equal = 0; ///< Products in both with the same values.
 };
 
 /**
@@ -33,12 +33,12 @@ struct RVComparisonCounts
  *     qDebug() << product.product().type().toString() << product.changes().size();
  * @endcode
  *
- * Products are found by their types, after photo book codes are reduced to their family; of several with one type, the
- * first belongs to the first. Of those that are left, two with the same article id are one product that was renamed. A
- * product that only moved is equal.
+ * Products with the same type belong together, after photo book codes are reduced to their family; of several with one
+ * type, the first belongs to the first. Among the remaining ones, two with the same article id are one product that was
+ * renamed. A product that only moved is equal.
  *
- * Both files are read once, on every core. Of the old products and of those that differ, some hundred bytes each are
- * kept. For one thread at a time.
+ * Both files are read once, on every core. The comparison keeps some hundred bytes of each old product and of each
+ * product that differs. Only one thread at a time may use it.
  *
  * @par Example
  * @snippet tst_examples_catalogues.cpp RVCatalogueComparison
@@ -50,15 +50,15 @@ class RVCATALOGUE_EXPORT RVCatalogueComparison
     Q_DISABLE_COPY_MOVE(RVCatalogueComparison)
 
 public:
-    /// Reads all products that follow in both, and nothing of the new catalogue where the old one cannot be read. The
-    /// readers are not needed afterwards. A null reader has no products.
+    /// Reads all remaining products of both readers. If the old catalogue cannot be read, it does not read the new one.
+    /// The readers are not needed afterwards. A null reader has no products.
     RVCatalogueComparison(RVCatalogueReader *oldCatalogue, RVCatalogueReader *newCatalogue);
     ~RVCatalogueComparison();
 
-    /// True where one of the readers has an error; nothing is compared then.
+    /// True if one of the readers has an error; then nothing is compared.
     bool hasError() const;
-    /// The next product that differs, in the order of the new catalogue, removed ones behind the product that stood
-    /// before them; a null one at the end.
+    /// The next product that differs, in the order of the new catalogue; a removed product follows the product that
+    /// stood before it. A null one at the end.
     RVProductComparison next();
     /// The most products that next() still hands out, so that a program can show how far it is; 0 at the end.
     qint64 remaining() const;

@@ -24,7 +24,7 @@ const RVCatalogueRows::Attribute *findAttribute(const RVCatalogueRows &rows, con
     return found == end ? nullptr : found;
 }
 
-/// The place in a start tag, so many bytes behind its begin.
+/// The place in a start tag at a number of bytes behind its begin.
 RVFilePosition place(const RVCatalogueRows &rows, const RVCatalogueRows::Element &element, quint32 offset)
 {
     const QByteArrayView tag = rows.view(element.tag);
@@ -32,7 +32,7 @@ RVFilePosition place(const RVCatalogueRows &rows, const RVCatalogueRows::Element
     return rvAdvanced(element.position, tag.first(offset), next);
 }
 
-/// A piece of a start tag, between two places so many bytes behind its begin.
+/// A piece of a start tag between two numbers of bytes behind its begin.
 RVFileRange piece(const RVCatalogueRows &rows, const RVCatalogueRows::Element &element, quint32 begin, quint32 end)
 {
     const QByteArrayView tag = rows.view(element.tag);

@@ -14,14 +14,14 @@ class RVCatalogueProductData;
 
 /**
  * A product element as it stands in the file, or an element in it: its attributes as texts, its child elements, and the
- * places of both. It is for what RVCatalogueProduct has no function for, and for who judges the text rather than the
- * value.
+ * places of both. It is for data without a function in RVCatalogueProduct, and for code that needs the text rather than
+ * the value.
  *
- * An element is a view of a product and small enough to be passed by value. It is valid as long as the product that it
- * came from, or a copy of that product, is there. The default element is null: it has no name, no attributes and no
- * children, and neither has the missing child or sibling of another one, so calls can be chained.
+ * An element is a view of a product and small enough to be passed by value. It is valid as long as its product, or a
+ * copy of that product, exists. The default element is null: it has no name, no attributes and no children. The same
+ * holds for a missing child or sibling, so calls can be chained.
  *
- * Names are compared exactly, prefixes included. Any thread may ask.
+ * Names are compared exactly, prefixes included. Any thread may call the functions.
  *
  * @par Example
  * @snippet tst_examples_catalogues.cpp RVCatalogueElement
@@ -33,35 +33,34 @@ class RVCATALOGUE_EXPORT RVCatalogueElement
 public:
     RVCatalogueElement() = default;
 
-    bool isNull() const noexcept { return !d; } ///< True for the default element, and where there was none to return.
-    QString name() const; ///< With its prefix; empty for a null element.
+    bool isNull() const noexcept { return !d; } ///< True for the default element and for a missing one.
+    QString name() const; ///< The name with its prefix; empty for a null element.
     QByteArrayView utf8Name() const noexcept; ///< The same in UTF-8 and without a copy.
 
-    bool hasAttribute(QLatin1StringView name) const noexcept; ///< Also where its value is empty.
-    /// The value as XML reads it, entities resolved; null where the attribute is missing, empty where its text is.
+    bool hasAttribute(QLatin1StringView name) const noexcept; ///< True even if its value is empty.
+    /// The value as XML reads it, with resolved entities; null if the attribute is missing, empty if its text is empty.
     QString attribute(QLatin1StringView name) const;
     /// The same in UTF-8 and without a copy; its size is 0 in both cases.
     QByteArrayView utf8(QLatin1StringView name) const noexcept;
-    /// In the order of the file.
+    /// The attributes in the order of the file.
     QStringList attributeNames() const;
-    int attributeCount() const noexcept; ///< 0 for a null element.
-    /// The name of one of them, from 0 to attributeCount() - 1, in UTF-8 and without a copy.
+    int attributeCount() const noexcept; ///< The number of attributes; 0 for a null element.
+    /// The name of an attribute by its index, from 0 to attributeCount() - 1, in UTF-8 and without a copy.
     QByteArrayView attributeName(int index) const noexcept;
 
-    RVFilePosition position() const; ///< Of the "<" of the start tag.
+    RVFilePosition position() const; ///< The place of the "<" of the start tag.
     RVFileRange range() const; ///< The start tag, from "<" to ">".
-    /// The attribute from the first letter of its name to the quote behind its value; the start tag where it is
-    /// missing.
+    /// The attribute from the first letter of its name to the quote behind its value; the start tag if it is missing.
     /// @{
     RVFileRange attributeRange(QLatin1StringView name) const;
     RVFileRange attributeRange(int index) const;
     /// @}
-    /// A piece of a value, @p length UTF-16 code units from @p from on, which is read where it stands. Nothing where
-    /// the value has no such piece, where references or line ends make XML read something else than what stands in the
-    /// file, and where the attribute is not in the file.
+    /// The place of a piece of a value, @p length UTF-16 code units from @p from on. None if the value has no such
+    /// piece, if XML reads it differently from its text in the file because of references or line ends, or if the
+    /// attribute is not in the file.
     std::optional<RVFileRange> valueRange(QLatin1StringView name, qsizetype from, qsizetype length) const;
 
-    /// The first child, or the next sibling, of that name; of any name where it is empty. Texts and comments do not
+    /// The first child, or the next sibling, with that name; with any name if it is empty. Texts and comments do not
     /// count.
     /// @{
     RVCatalogueElement firstChildElement(QLatin1StringView name = {}) const noexcept;

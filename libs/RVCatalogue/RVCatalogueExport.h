@@ -3,7 +3,7 @@
 
 #include <QtGlobal>
 
-/// Marks what the library offers to others.
+/// Marks the symbols that the library exports.
 #ifdef RVCATALOGUE_LIBRARY
 #    define RVCATALOGUE_EXPORT Q_DECL_EXPORT
 #else

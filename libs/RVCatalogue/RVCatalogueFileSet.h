@@ -10,8 +10,8 @@
 class RVDuplicates;
 
 /**
- * Files that are checked together, because the ordering application reads all of them: no type and no article id may
- * come twice in any of them.
+ * Files that are checked together, because the ordering application reads all of them: types and article ids must
+ * differ among all of them.
  *
  * @code
  * RVCatalogueFileSet files;
@@ -36,7 +36,7 @@ class RVCATALOGUE_EXPORT RVCatalogueFileSet
     Q_DISABLE_COPY_MOVE(RVCatalogueFileSet)
 
 public:
-    RVCatalogueFileSet(); ///< Without files.
+    RVCatalogueFileSet(); ///< A set without files.
     ~RVCatalogueFileSet();
 
 private:

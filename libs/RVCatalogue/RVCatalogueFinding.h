@@ -14,8 +14,8 @@
 class RVCatalogueFindingData;
 
 /**
- * One place of a catalogue where something is to be mended, or could be written better. Copies share their data until
- * one of them is changed, also between threads. The default finding is null: it breaks no rule.
+ * One place of a catalogue that needs mending, or could be written better. Copies share their data until one of them is
+ * changed, also between threads. The default finding is null: it breaks no rule.
  *
  * @par Example
  * @snippet tst_examples_catalogues.cpp RVCatalogueFinding
@@ -26,7 +26,8 @@ class RVCATALOGUE_EXPORT RVCatalogueFinding
 {
 public:
     RVCatalogueFinding();
-    /// @p product is its number in the file from 0, or -1 for the file as a whole. The severity is that of the rule.
+    /// @p product is the number of the product in the file from 0, or -1 for the file as a whole. The severity is that
+    /// of the rule.
     RVCatalogueFinding(RVCatalogueRule rule, const RVFileRange &range, const QString &text, qint64 product = -1);
     RVCatalogueFinding(const RVCatalogueFinding &other);
     RVCatalogueFinding(RVCatalogueFinding &&other) noexcept;
@@ -35,19 +36,18 @@ public:
     ~RVCatalogueFinding();
 
     bool isNull() const noexcept { return !d; } ///< True for the default one.
-    RVCatalogueRule rule() const; ///< The one that is broken.
-    RVCatalogueSeverity severity() const; ///< That of the rule, unless it was set.
-    RVFileRange
-    range() const; ///< The attribute that is wrong; the start tag of the element where it is not one attribute.
+    RVCatalogueRule rule() const; ///< The broken rule.
+    RVCatalogueSeverity severity() const; ///< The severity of the rule, unless it was set.
+    RVFileRange range() const; ///< The wrong attribute; the start tag of the element if it is not one attribute.
     QString text() const; ///< One line, without a full stop, in the language of the program.
-    qint64 product() const; ///< Its number in the file from 0; -1 for the file as a whole.
-    QString productType() const; ///< As it stands in the file; empty where the product has none.
-    QList<RVRelatedPlace> relatedPlaces() const; ///< The other places that it is about; none for most.
-    /// The changes of the file that mend it, where there is one safe answer; none otherwise. All of them belong
+    qint64 product() const; ///< The number of the product in the file from 0; -1 for the file as a whole.
+    QString productType() const; ///< The type as it stands in the file; empty if the product has none.
+    QList<RVRelatedPlace> relatedPlaces() const; ///< The other places that the finding concerns; usually none.
+    /// The changes of the file that mend the finding, if there is one safe answer; none otherwise. All of them belong
     /// together.
     QList<RVFileEdit> fix() const;
 
-    /// None of these does anything to a null finding.
+    /// The setters do nothing to a null finding.
     /// @{
     void setSeverity(RVCatalogueSeverity severity);
     void setProductType(const QString &type);

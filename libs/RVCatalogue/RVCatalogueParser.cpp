@@ -48,7 +48,7 @@ void RVCatalogueParser::comment(const RVXmlComment &comment)
     myWaiting.push_back(*std::move(suppression));
 }
 
-// No element follows them in the same parent.
+// These comments have no following element in the same parent.
 void RVCatalogueParser::closeWaiting()
 {
     if (myWaiting.empty())
@@ -86,7 +86,7 @@ void RVCatalogueParser::openScope()
     myScope = new RVSuppressionScope(std::exchange(myWaiting, {}), myScope, myGroups.size());
 }
 
-// No product means a finding for the root element alone.
+// A file without products has a finding for the root element only.
 void RVCatalogueParser::closeScope()
 {
     RVCatalogueRuleSet broken;
@@ -122,7 +122,7 @@ void RVCatalogueParser::closeGroup()
         closeScope();
 }
 
-// Copies, since they are exactly as large as the product, while the rows keep their room for the next one.
+// A copy is exactly as large as the product, and the rows keep their room for the next one.
 void RVCatalogueParser::finishProduct()
 {
     auto *data = new RVCatalogueProductData;

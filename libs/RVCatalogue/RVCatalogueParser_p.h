@@ -11,7 +11,7 @@
 
 #include <vector>
 
-/// Makes products of the elements of a catalogue.
+/// Makes products from the elements of a catalogue.
 class RVCatalogueParser : public RVXmlHandler
 {
 public:
@@ -19,14 +19,14 @@ public:
     void endElement() override;
     void comment(const RVXmlComment &comment) override;
     bool isInPiece() const override { return !myOpenElements.empty(); }
-    /// The file has come to its end.
+    /// Called at the end of the file.
     void end() { closeWaiting(); }
 
-    /// The products that have come to their end since the last call.
+    /// The products that have ended since the last call.
     QList<RVCatalogueProduct> take();
     /// The groups with comments in front of them that were closed since the last call, inner ones before outer ones.
     std::vector<RVSuppressionScope::Pointer> takeClosedScopes();
-    /// True where a comment in front of the root element says that the file need not have products.
+    /// True if a comment in front of the root element says that the file need not have products.
     bool isMissingSilenced() const { return myIsMissingSilenced; }
 
     const RVStrayElements &strayElements() const { return myStrayElements; }
@@ -40,12 +40,12 @@ private:
     void closeScope();
     void closeWaiting();
 
-    RVCatalogueRows myRows; // of the product that has begun
+    RVCatalogueRows myRows; // of the current product
     std::vector<quint32> myOpenElements; // of the product
     std::vector<bool> myGroups; // around the product; true for those with a name
     QStringList myFamilies;
-    std::vector<RVSuppression> myWaiting; // for the next element in the same parent
-    std::vector<RVSuppression> mySuppressions; // of the product that has begun
+    std::vector<RVSuppression> myWaiting; // the comments for the next element in the same parent
+    std::vector<RVSuppression> mySuppressions; // of the current product
     RVSuppressionScope::Pointer myScope; // the innermost
     std::vector<RVSuppressionScope::Pointer> myClosedScopes;
     bool myIsMissingSilenced = false;

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// An attribute of keywords; what the product does not say of itself is null, though an empty text may be another
+/// An attribute of keywords. It is null if the product does not have it, though an empty text may stand for another
 /// value.
 template<typename T>
 T keywords(const RVCatalogueElement &product, const T &missing = T())
@@ -21,7 +21,7 @@ T keywords(const RVCatalogueElement &product, const T &missing = T())
     return product.hasAttribute(name) ? T(product.attribute(name)) : missing;
 }
 
-/// The unit of the lengths in an element; millimetres where it names none.
+/// The unit of the lengths in an element; millimetres if it names none.
 RVDistanceUnit unit(const RVCatalogueElement &element)
 {
     return RVDistanceUnit(element.attribute("units"_L1));
@@ -70,7 +70,7 @@ RVPageCountOrganization pictureBoxCounts(const RVCatalogueElement &product)
                                    rvIntValue(product, "page_step"_L1).value_or(1));
 }
 
-/// A value that the document type gives, as it is written between quotes.
+/// A value from the document type, written for use between quotes.
 QByteArray quotedValue(QByteArrayView value)
 {
     QString text = QString::fromUtf8(value).toHtmlEscaped();
@@ -78,7 +78,7 @@ QByteArray quotedValue(QByteArrayView value)
     return '"' + text.toUtf8() + '"';
 }
 
-/// Appends a start tag, with the attributes that only the document type gives to it.
+/// Appends a start tag, including the attributes that only the document type gives.
 void appendTag(QByteArray *xml, const RVCatalogueRows &rows, const RVCatalogueRows::Element &element)
 {
     const QByteArrayView tag = rows.view(element.tag);
@@ -177,7 +177,7 @@ bool RVCatalogueProduct::isPhotoBox() const
     return rvBoolValue(element(), "photo_box"_L1).value_or(false);
 }
 
-// The page counts of a box do not count here, as a box has no spine.
+// The page counts of a box are not used here, because a box has no spine.
 RVSpineConfig RVCatalogueProduct::spine() const
 {
     const RVCatalogueElement composition = element().firstChildElement("composition"_L1);

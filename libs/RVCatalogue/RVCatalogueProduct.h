@@ -29,13 +29,13 @@
 /**
  * A product of a catalogue: the `product` element of the products XML with everything in it.
  *
- * RVCatalogueReader hands products out. They never change, so copies share their data, also between threads. A product
- * keeps the text of its element; every function below reads its value out of that, which takes some ten nanoseconds for
- * an id and some microseconds for all options. What is asked for often is better kept.
+ * RVCatalogueReader returns products. They never change, so copies share their data, also between threads. A product
+ * keeps the text of its element, and every function below reads its value from that text. This takes some ten
+ * nanoseconds for an id and some microseconds for all options. Keep values that you need often.
  *
- * The values are those that the `createFromProductsXML` readers of the library give for the same element: what is
- * missing or cannot be read stands for its default. An attribute that a product does not have is null, though an empty
- * text may stand for something. The default product is null and has nothing but defaults.
+ * The values are those that the `createFromProductsXML` readers of the library give for the same element: a value that
+ * is missing or cannot be read has its default. An attribute that a product does not have is null, though an empty text
+ * may stand for a value. The default product is null, and all its values are defaults.
  *
  * @par Example
  * @snippet tst_examples_catalogues.cpp RVCatalogueProduct
@@ -61,38 +61,38 @@ public:
     RVCoverType coverType() const; ///< "cover_type"
     RVPageBinding pageBinding() const; ///< "page_binding"
     RVPaperType paperType() const; ///< "paper_type"
-    /// "foto_paper_type"; where it is missing the default of the article class, which only photo prints have.
+    /// "foto_paper_type"; if it is missing the default of the article class, which only photo prints have.
     RVFotoPaperType fotoPaperType() const;
     RVOrientation orientation() const; ///< "orientation"
     RVSpaceMagnitude spaceMagnitude() const; ///< "space_magnitude"
-    RVShippingGroupId shippingGroup() const; ///< "shipping_group"; that of the article class where it is missing.
+    RVShippingGroupId shippingGroup() const; ///< "shipping_group"; that of the article class if it is missing.
 
-    /// "pages", "max_pages", "page_step" and "pieces"; those of a box of photos where "photo_box" is true.
+    /// "pages", "max_pages", "page_step" and "pieces"; those of a box of photos if "photo_box" is true.
     RVPageCountOrganization pageCounts() const;
-    bool isPhotoBox() const; ///< "photo_box"; false where it is missing.
-    RVSpineConfig spine() const; ///< Of "spine" in the first "composition".
+    bool isPhotoBox() const; ///< "photo_box"; false if it is missing.
+    RVSpineConfig spine() const; ///< "spine" in the first "composition".
     bool hasSpine() const; ///< True when the spine has some width at the highest page count.
     RVBarcodeDefinitionList barcodes() const; ///< The valid ones of the first "barcodes".
 
     /// The valid options of the first "forms", in the order of the file, with their names, editor names, preview images
     /// and colours.
     RVConfiguredArticleVariantList options() const;
-    RVPriceClass priceClass() const; ///< "price_class"; what the product itself is billed by.
-    RVPriceClass pagePriceClass() const; ///< "page_price_class"; what a package above the lowest count is billed by.
-    /// The billing code of the first option with that key and value; empty if it is not billed or not there.
+    RVPriceClass priceClass() const; ///< "price_class": the billing code of the product.
+    RVPriceClass pagePriceClass() const; ///< "page_price_class": the billing code of a package above the lowest count.
+    /// The billing code of the first option with that key and value; empty if it is missing or not billed.
     RVPriceClass optionPriceClass(const QString &key, const QString &value) const;
 
     /// The "name" of each element around the product that has one, from the outermost inwards.
     QStringList families() const;
-    qint64 number() const; ///< Products of a file count from 0; -1 for a null product.
+    qint64 number() const; ///< The number in the file, from 0; -1 for a null product.
     RVFileRange range() const; ///< The start tag.
     RVCatalogueElement element() const; ///< The product as it stands in the file.
     /// Findings about the product, in the order of the file; none if the reader was given no check.
     QList<RVCatalogueFinding> findings() const;
 
-    /// The elements and attributes of the product in UTF-8, without comments and texts between tags, to be kept and
-    /// read again by an RVCatalogueReader; empty for a null product. So nothing silences findings of what is read
-    /// again.
+    /// The elements and attributes of the product in UTF-8, without comments and texts between tags, for storing and
+    /// reading again with an RVCatalogueReader; empty for a null product. Without comments, no finding of the new
+    /// product is silenced.
     QByteArray toXml() const;
 
 private:

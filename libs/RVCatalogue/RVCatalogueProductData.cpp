@@ -6,7 +6,7 @@
 
 namespace {
 
-/// Goes through the attributes of a start tag that is known to be well-formed.
+/// Iterates over the attributes of a start tag that is known to be well-formed.
 class TagWalker
 {
 public:
@@ -56,7 +56,7 @@ private:
     qsizetype myAt;
 };
 
-/// Name spaces are attributes in the tag, but none to the parser.
+/// Name space declarations are attributes in the tag, but not for the parser.
 bool isNameSpace(QByteArrayView name)
 {
     return name == "xmlns" || name.startsWith("xmlns:");
@@ -76,7 +76,7 @@ void RVCatalogueRows::append(const RVXmlTag &tag)
             { piece, quint32(tag.name.size()), firstAttribute, quint32(attributes.size()), index + 1, tag.position });
 }
 
-// XML reads references, tabs and line ends in a value as other letters. Such a value comes behind the tag.
+// XML reads references, tabs and line ends in a value as other letters. Such a value is stored behind the tags.
 void RVCatalogueRows::appendGiven(const RVXmlTag &tag, quint32 begin)
 {
     TagWalker walker(tag);

@@ -15,8 +15,9 @@
 
 struct RVXmlTag;
 
-/// The elements of a product: all start tags as they stand in the file, one behind the other, and rows that say what is
-/// where in them. So a value costs no copy, and the place of an attribute can be told whenever somebody asks for it.
+/// The elements of a product: the text of all its start tags in the file, one behind the other, and rows with the
+/// offsets of their parts. So a value costs no copy, and the place of an attribute is computed only when a caller needs
+/// it.
 struct RVCatalogueRows
 {
     struct Piece
@@ -27,7 +28,7 @@ struct RVCatalogueRows
     struct Attribute
     {
         Piece name;
-        Piece value; // in the tag, or behind all tags where XML reads something else than what stands there
+        Piece value; // in the tag, or behind all tags if XML reads other letters than the file has
         quint32 end; // of the quote behind the value
     };
     struct Element
@@ -40,7 +41,7 @@ struct RVCatalogueRows
         RVFilePosition position;
     };
 
-    /// Appends an element, without children so far.
+    /// Appends an element without children.
     void append(const RVXmlTag &tag);
 
     QByteArrayView view(const Piece &piece) const noexcept
@@ -67,7 +68,7 @@ public:
     RVCatalogueRows rows;
     QStringList families;
     std::vector<RVSuppression> suppressions; // in the product and in front of it, in the order of the file
-    RVSuppressionScope::Pointer scope; // of the groups around it; null where no comment stands in front of them
+    RVSuppressionScope::Pointer scope; // of the groups around it; null if no comment stands in front of them
     QList<RVCatalogueFinding> findings;
     qint64 number = 0;
 };

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Keeps the start tag of the root element; all else only has to be well-formed.
+/// Keeps the start tag of the root element; the rest of the file only has to be well-formed.
 class RootHandler : public RVXmlHandler
 {
 public:

@@ -29,7 +29,7 @@ int mostThreads()
     return std::clamp(QThread::idealThreadCount(), 1, most);
 }
 
-/// Products that a thread works on, and what becomes of them.
+/// Products that a thread works on, and their result.
 class Order
 {
 public:
@@ -43,7 +43,7 @@ public:
         myResult = myWork(std::exchange(myProducts, {}));
         myIsDone.release();
     }
-    /// Waits for it.
+    /// Waits for the result.
     std::shared_ptr<void> result()
     {
         myIsDone.acquire();
@@ -57,7 +57,7 @@ private:
     QSemaphore myIsDone;
 };
 
-/// The orders that no thread has taken yet.
+/// The orders that wait for a thread.
 class OrderQueue
 {
     Q_DISABLE_COPY_MOVE(OrderQueue)
@@ -71,7 +71,7 @@ public:
         myOrders.push_back(order);
         mySize.release();
     }
-    /// Waits for one; null ends a thread.
+    /// Waits for an order; null ends a thread.
     std::shared_ptr<Order> take()
     {
         mySize.acquire();
@@ -80,7 +80,7 @@ public:
         myOrders.pop_front();
         return first;
     }
-    /// Drops what waits and ends so many threads.
+    /// Drops the waiting orders and ends this number of threads.
     void end(int threads)
     {
         const QMutexLocker locker(&myMutex);
@@ -94,7 +94,7 @@ private:
     QSemaphore mySize;
 };
 
-/// Does one order after the other.
+/// Executes one order after the other.
 class Worker : public QRunnable
 {
 public:
@@ -110,14 +110,14 @@ private:
     OrderQueue *myQueue;
 };
 
-/// The threads of one reading, as many as there is use for.
+/// The threads of one reading, at most as many as are useful.
 class Workers
 {
     Q_DISABLE_COPY_MOVE(Workers)
 
 public:
     explicit Workers(int most) : myMost(most) { myPool.setMaxThreadCount(most); }
-    /// Waits for the orders that have begun; the others are dropped.
+    /// Drops the waiting orders and waits for the running ones.
     ~Workers() { myQueue.end(myThreads); }
 
     void add(const std::shared_ptr<Order> &order)
@@ -131,7 +131,7 @@ public:
 
 private:
     OrderQueue myQueue;
-    QThreadPool myPool; // goes first, and waits for its threads
+    QThreadPool myPool; // is destroyed first, and waits for its threads
     const int myMost;
     int myThreads = 0;
 };
@@ -151,21 +151,21 @@ public:
     }
     explicit RVCatalogueReaderPrivate(QIODevice *device) : myDevice(device) { }
 
-    /// Without @p files the file is checked alone.
+    /// The file is checked alone if @p files is null.
     void setCheck(const RVCatalogueCheck &check, RVCatalogueFileSet *files, const QString &fileName);
 
     void setThreadCount(int count) { myThreadCount = qMax(count, 1); }
     int threadCount() const { return myThreadCount; }
 
-    /// True when a product follows. Asks @p beforeWaiting, if there is one, before it waits for more of a pipe, and
-    /// goes on where that says true.
+    /// True when a product follows. Calls @p beforeWaiting, if there is one, before it waits for more data from a pipe,
+    /// and continues if that returns true.
     bool fill(const std::function<bool()> &beforeWaiting = nullptr);
-    /// The products that follow and were parsed together; none at the end.
+    /// The next products that were parsed together; none at the end.
     QList<RVCatalogueProduct> read();
-    /// True when no product follows; false where it would have to wait to find out.
+    /// True when no product follows; false if it would have to wait to find out.
     bool isAtEnd();
     RVCatalogueProduct next();
-    /// Gives the products their findings, which may be done on any thread.
+    /// Gives the products their findings, on any thread.
     void check(const QList<RVCatalogueProduct> &products) const;
     QList<RVCatalogueFinding> findings();
 
@@ -190,17 +190,17 @@ private:
     RVXmlScanner myScanner { myDevice, &myParser };
     std::optional<RVCatalogueCheck> myCheck;
     std::optional<RVGroupSilence> myGroupSilence;
-    std::unique_ptr<RVCatalogueFileSet> myOwnFiles; // none where the file is checked with others
+    std::unique_ptr<RVCatalogueFileSet> myOwnFiles; // null if the file is checked with others
     RVDuplicates *myDuplicates = nullptr;
     QString myFileName; // for findings in other files
-    bool myIsFileBegun = false; // of the duplicates
+    bool myIsFileBegun = false; // for the search of duplicates
     int myThreadCount = mostThreads();
-    QList<RVCatalogueProduct> myProducts; // that were parsed
-    qsizetype myNext = 0; // the first of them that was not handed out
+    QList<RVCatalogueProduct> myProducts; // the parsed products
+    qsizetype myNext = 0; // the index of the next product to return
     bool myHasProducts = false;
 };
 
-// A device that cannot tell counts as one that waits, which costs time and nothing else.
+// A device without that information counts as one that waits, which only costs time.
 bool RVCatalogueReaderPrivate::wouldWait() const
 {
     return myDevice->isSequential() && myDevice->bytesAvailable() == 0 && !myDevice->waitForReadyRead(0);
@@ -228,7 +228,7 @@ bool RVCatalogueReaderPrivate::fill(const std::function<bool()> &beforeWaiting)
     return !isExhausted();
 }
 
-/// False when there is nothing more to parse.
+/// Parses on; false at the end.
 bool RVCatalogueReaderPrivate::scan()
 {
     const bool goesOn = myScanner.scan();
@@ -280,7 +280,7 @@ RVCatalogueProduct RVCatalogueReaderPrivate::next()
     return product;
 }
 
-// Types and article ids come twice in the order of the file, so this is done before the products go their ways.
+// Duplicates are found in the order of the file, so this happens before the products go to several threads.
 void RVCatalogueReaderPrivate::findDuplicates(const RVCatalogueProduct &product)
 {
     if (!myCheck)
@@ -331,7 +331,7 @@ bool RVCatalogueReaderPrivate::isMissing() const
     return myScanner.isAtEnd() && errorString().isEmpty() && !myHasProducts;
 }
 
-// An error stands behind the products that were parsed before it.
+// An error is reported after the products that were parsed before it.
 QString RVCatalogueReaderPrivate::errorString() const
 {
     if (!myOpenError.isEmpty())
@@ -442,7 +442,7 @@ void RVCatalogueReader::mapAny(const std::function<AnyResult(const QList<RVCatal
         return take(result);
     };
     bool goesOn = true;
-    // Results that are there are not kept back while the input of a pipe is not.
+    // Finished results are not held back while a pipe has no input.
     const auto takeAll = [&] {
         while (goesOn && !orders.empty())
             goesOn = takeFirst();
@@ -450,7 +450,7 @@ void RVCatalogueReader::mapAny(const std::function<AnyResult(const QList<RVCatal
     };
     while (goesOn && d->fill(takeAll)) {
         orders.push_back(std::make_shared<Order>(d->read(), checkedWork));
-        // Of a small catalogue all is done before a thread would have begun.
+        // A small catalogue is finished before a thread would have started.
         if (orders.size() == 1 && d->isAtEnd())
             orders.front()->run();
         else

@@ -31,12 +31,12 @@ class RVCatalogueReaderPrivate;
  *     qWarning() << reader.errorPosition().line << reader.errorString();
  * @endcode
  *
- * Elements named `product` count wherever they stand, and a `product` in a `product` belongs to the outer one. A file
- * that cannot be opened, is not well-formed, ends too early, is not written in the encoding that it declares, declares
+ * Elements named `product` count at any depth, and a `product` in a `product` belongs to the outer one. A file that
+ * cannot be opened, is not well-formed, ends too early, is not written in the encoding that it declares, declares
  * entities, nests elements deeper than 256 levels, or has a product, text, comment or declaration larger than 1 MiB
- * ends the reading with one error; the products before it stand.
+ * ends the reading with one error; the products before it remain valid.
  *
- * A reader belongs to one thread; the products that it hands out may go anywhere.
+ * A reader belongs to one thread; its products may be used on any thread.
  *
  * @par Example
  * @snippet tst_examples_catalogues.cpp RVCatalogueReader
@@ -52,15 +52,15 @@ public:
 
     /// Opens the file; one that cannot be opened is a catalogue with an error and without products.
     explicit RVCatalogueReader(const QString &fileName);
-    /// @p device is open for reading, stays the caller's and outlives the reader. It is read from where it stands.
+    /// @p device is open for reading, stays the caller's and outlives the reader. It is read from its current position.
     explicit RVCatalogueReader(QIODevice *device);
     ~RVCatalogueReader();
 
-    /// From now on products have findings, and so has the file. Before the first product is read.
+    /// Sets the check that gives findings to the products and the file. Call it before the first product is read.
     /// @{
     void setCheck(const RVCatalogueCheck &check);
-    /// Products of @p files, which outlive the reader, are found to be the same, too. @p fileName is what findings in
-    /// the files behind this one call it; by default the one that was opened.
+    /// Duplicates of products in @p files, which outlive the reader, are found as well. @p fileName is the name of this
+    /// file in findings of later files; by default the name of the opened file.
     void setCheck(const RVCatalogueCheck &check, RVCatalogueFileSet *files, const QString &fileName = QString());
     /// @}
 
@@ -73,40 +73,39 @@ public:
     /// @}
     /// All products that follow.
     QList<RVCatalogueProduct> readAll();
-    /// The next product of that type; a null one where there is none. What stands behind it is not read.
+    /// The next product of that type; a null one if there is none. The file is not read beyond it.
     RVCatalogueProduct find(const RVProductType &type);
-    /// Reads on to the end; false where the rest cannot be read. Findings of the products that are passed over are
-    /// lost.
+    /// Reads on to the end; false if the rest cannot be read. Findings of the skipped products are lost.
     bool finish();
 
     /**
-     * Reads to the end on as many threads as setThreadCount() says: @p work turns some products that follow one another
+     * Reads to the end on the number of threads that setThreadCount() sets: @p work turns some consecutive products
      * into a result, and
      * @p take gets the results in the order of the file, until it returns false.
      *
-     * `Result work(const QList<RVCatalogueProduct> &)` is called on several threads at once and therefore changes
-     * nothing that they share; `bool take(Result)` is called on the caller's thread. No more products are on their way
-     * than fit into some hundred kilobytes for each thread.
+     * `Result work(const QList<RVCatalogueProduct> &)` is called on several threads at once, so it must not change
+     * shared data. `bool take(Result)` is called on the caller's thread. The products in work take at most some hundred
+     * kilobytes for each thread.
      */
     template<typename Work, typename Take>
     void map(Work work, Take take);
 
-    /// The most threads that map() works on besides the caller's, at least 1. By default one for each core of the
-    /// machine, but not more than 8, since more would wait for the reading one. Before map() is called.
+    /// The highest number of threads that map() uses besides the caller's, at least 1. By default one for each core of
+    /// the machine, but at most 8, because more would wait for the reading thread. Call it before map().
     void setThreadCount(int count);
 
     /// Findings about the file as a whole, about elements outside of products, and about comments in front of groups of
-    /// products; complete once everything was read. In the order of the file.
+    /// products, in the order of the file. They are complete after the whole file was read.
     QList<RVCatalogueFinding> findings() const;
 
     /// True when no product follows, also after an error.
     bool atEnd();
-    bool hasError() const; ///< Not before the products that stand in front of it were read.
+    bool hasError() const; ///< True only after the products in front of the error were read.
     QString
     errorString() const; ///< One line, without a full stop, in the language of the program; empty without an error.
-    RVFilePosition errorPosition() const; ///< The begin of the file without an error.
-    qint64 bytesRead() const; ///< So far, to show how far it is.
-    qint64 size() const; ///< Of the file in bytes; 0 where nobody can tell, say of a pipe.
+    RVFilePosition errorPosition() const; ///< The place of the error; the begin of the file without an error.
+    qint64 bytesRead() const; ///< The bytes read so far, for showing progress.
+    qint64 size() const; ///< The size of the file in bytes; 0 if it is unknown, as for a pipe.
 
 private:
     using AnyResult = std::shared_ptr<void>;
@@ -123,7 +122,7 @@ private:
 class RVCatalogueReader::Iterator
 {
 public:
-    /// For the standard library.
+    /// Types for the standard library.
     /// @{
     using iterator_category = std::input_iterator_tag;
     using value_type = RVCatalogueProduct;

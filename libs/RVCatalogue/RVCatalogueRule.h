@@ -8,7 +8,7 @@
 #include <QList>
 #include <QString>
 
-/// The severity of a finding: a note is good to know, a warning is probably a mistake, an error certainly is.
+/// The severity of a finding: a note is good to know, a warning is probably a mistake, and an error is certainly one.
 /// @ingroup catalogues
 enum class RVCatalogueSeverity {
     Note,
@@ -34,23 +34,23 @@ public:
 
     /// Every rule, grouped by subject.
     static QList<RVCatalogueRule> all();
-    /// The rule of that name; null where there is none.
+    /// The rule with that name; null if there is none.
     static RVCatalogueRule find(QAnyStringView name);
 
     bool isNull() const noexcept { return !myRow; } ///< True for the default one.
-    QLatin1StringView name() const; ///< Such as "keyword-unknown"; it stays the same from version to version.
-    RVCatalogueSeverity severity() const; ///< Of its findings.
-    QString reason() const; ///< One sentence on why it matters, in the language of the program.
+    QLatin1StringView name() const; ///< A name such as "keyword-unknown", the same in every version.
+    RVCatalogueSeverity severity() const; ///< The severity of its findings.
+    QString reason() const; ///< One sentence about why it matters, in the language of the program.
     QByteArray example() const; ///< A catalogue in UTF-8 that breaks this rule and no other.
     QByteArray mendedExample() const; ///< The same catalogue without its fault; it breaks no rule.
-    /// The reason, both examples, and how to silence it, in the language of the program: the one text that
-    /// programs, pages and reports have of a rule. No line feed at the end; empty for the null rule.
+    /// The explanation of a rule in the language of the program: the reason, both examples, and the way to silence it.
+    /// Programs, pages and reports use this text. It has no line feed at the end, and is empty for the null rule.
     /// @{
-    QString explanation() const; ///< As plain text, examples set in by four blanks.
-    QString explanationAsMarkdown() const; ///< Without a heading.
+    QString explanation() const; ///< Plain text; examples are indented by four blanks.
+    QString explanationAsMarkdown() const; ///< Markdown without a heading.
     /// @}
 
-    /// By identity; null ones are equal.
+    /// Compares the identity; null rules are equal.
     /// @{
     friend bool operator==(RVCatalogueRule a, RVCatalogueRule b) noexcept { return a.myRow == b.myRow; }
     friend bool operator!=(RVCatalogueRule a, RVCatalogueRule b) noexcept { return !(a == b); }

@@ -60,15 +60,15 @@ enum class RVCatalogueRuleId {
     PriceClassUnknown,
     SuppressionUnused,
     SuppressionUnknown,
-    Count, // stays the last
+    Count, // the number of rules; stays the last
 };
 constexpr auto RV_CATALOGUE_RULE_COUNT = std::size_t(RVCatalogueRuleId::Count);
 
-/// All that is said of a rule.
+/// The properties and texts of a rule.
 struct RVCatalogueRuleRow
 {
     static RVCatalogueRule rule(RVCatalogueRuleId id);
-    /// The row of a rule; null for a null one.
+    /// The row of a rule; null for a null rule.
     static const RVCatalogueRuleRow *of(RVCatalogueRule rule) { return rule.myRow; }
 
     RVCatalogueRuleId id;

@@ -10,8 +10,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Most numbers of a catalogue are of this kind, which needs no more than Qt's parser of bytes. A longer number may not
-/// fit its type.
+/// Most numbers of a catalogue are short, and Qt's parser of bytes is enough for them. A longer number may not fit its
+/// type.
 bool isPlainNumber(QByteArrayView text)
 {
     constexpr qsizetype longest = 9;
@@ -20,7 +20,7 @@ bool isPlainNumber(QByteArrayView text)
            });
 }
 
-/// The answer of the reader that all others use; nothing where it is the default, whatever that is.
+/// The result of the reader that all others use; nothing if it is the default, for any default.
 template<typename Read>
 auto unlessDefault(const RVCatalogueElement &element, QLatin1StringView name, Read read)
         -> std::optional<decltype(read(QDomElement(), QString(), true))>

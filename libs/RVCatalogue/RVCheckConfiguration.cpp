@@ -38,7 +38,7 @@ constexpr QLatin1StringView FILE_NAMES[] = { "rvcatalog.toml"_L1, "rvcatalog.jso
 bool isThere(const QString &fileName)
 {
     const QFileInfo info(fileName);
-    return info.exists() || info.isSymLink(); // one that points nowhere is no file, but was meant to be one
+    return info.exists() || info.isSymLink(); // a link without a target is no file, but was meant to be one
 }
 
 }
@@ -89,7 +89,7 @@ std::optional<RVConfigurationFault> RVCheckConfigurationData::interpret(const QB
     return reader.fault();
 }
 
-// Without data it says nothing.
+// A configuration without data is null and changes nothing.
 RVCheckConfiguration::RVCheckConfiguration() = default;
 RVCheckConfiguration::RVCheckConfiguration(const RVCheckConfiguration &other) = default;
 RVCheckConfiguration::RVCheckConfiguration(RVCheckConfiguration &&other) noexcept = default;
@@ -127,7 +127,7 @@ RVCheckConfiguration RVCheckConfiguration::find(const QString &catalogueFileName
     if (found.size() > 1)
         data->fail(RVCheckConfigurationData::tr("%1 lies in the same folder, and only one of them can count")
                            .arg(QFileInfo(found.constLast()).fileName()));
-    else if (info.exists() && !info.isFile()) // a pipe would wait for whoever writes into it
+    else if (info.exists() && !info.isFile()) // a pipe would wait for its writer
         data->fail(RVCheckConfigurationData::tr("it is no regular file"));
     else
         data->read();

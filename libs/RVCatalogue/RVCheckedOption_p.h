@@ -14,15 +14,16 @@ struct RVCheckedOption
     RVCatalogueElement form;
     QByteArrayView key;
     QByteArrayView value;
-    bool hasMismatch; ///< between the numbers of keys and values
+    bool hasMismatch; ///< true if the numbers of keys and values differ
     bool isPreselected;
-    bool isReadable; ///< whether it is preselected
+    bool isReadable; ///< true if the mark for a default can be read
 };
 
-/// The forms of a product, in the order of the file. A product has some few.
+/// The forms of a product, in the order of the file. Most products have few.
 using RVCheckedOptions = QVarLengthArray<RVCheckedOption, 12>;
 
-/// Those with a key, by key and value in the order of rvCompareSpellings(), and of equal ones in the order of the file.
+/// The forms with a key, sorted by key and value in the order of rvCompareSpellings(); equal ones in the order of the
+/// file.
 using RVOptionsByKey = QVarLengthArray<const RVCheckedOption *, 12>;
 
 #endif

@@ -19,7 +19,7 @@ bool isColor(const QString &text)
     return QColor::fromString(text).isValid();
 }
 
-/// The colour that a text certainly means which is none: "#1a1a1a" for "1a1a1a"; null where there is none.
+/// The colour that an invalid text certainly means: "#1a1a1a" for "1a1a1a"; null if there is none.
 QString meantColor(const QString &text)
 {
     static const QRegularExpression theHexadecimal(u"^(?:0[xX])?((?:[0-9a-fA-F]{2}){3,4})$"_s);
@@ -31,7 +31,7 @@ QString meantColor(const QString &text)
     return match.hasMatch() ? u'#' + match.captured(1) : QString();
 }
 
-/// On a text that begins with "#".
+/// The advice for a text that begins with "#".
 QString digitsAdvice(const QString &text)
 {
     static const QRegularExpression theOthers(u"[^0-9a-fA-F]"_s);

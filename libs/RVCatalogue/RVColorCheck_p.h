@@ -5,7 +5,7 @@
 
 class RVFindingReport;
 
-/// The colour of an option.
+/// Checks the colour of an option.
 class RVColorCheck
 {
 public:

@@ -18,14 +18,14 @@ constexpr auto PAGE_SIZES = "page_sizes"_L1;
 constexpr auto WIDTH = "width"_L1;
 constexpr auto HEIGHT = "height"_L1;
 
-/// No press prints a longer page, so a larger number is none of millimetres.
+/// The longest page in millimetres. No press prints longer ones, so a larger number is not in millimetres.
 constexpr qreal LONGEST_PAGE = 10000;
 
 constexpr auto OFF = "off"_L1;
 constexpr RVCatalogueSeverity SEVERITIES[] = { RVCatalogueSeverity::Note, RVCatalogueSeverity::Warning,
                                                RVCatalogueSeverity::Error };
 
-/// The text that was probably meant; null where none is near.
+/// The text that was probably meant; null if none is near.
 QString nearest(const QString &wanted, const QStringList &known)
 {
     RVNearestText result(wanted, qBound(2, int(wanted.size() + 1) / 2, 4));
@@ -100,7 +100,7 @@ void RVConfigurationReader::readForeignNames()
     myValues.foreignNames = texts({ FOREIGN }, myTree.root.value(FOREIGN));
 }
 
-// A list, or groups of them, whose names are for people.
+// The price classes are a list, or groups of lists with names for people.
 void RVConfigurationReader::readPriceClasses()
 {
     const QJsonValue value = myTree.root.value(PRICE_CLASSES);
@@ -173,7 +173,7 @@ QStringList RVConfigurationReader::texts(const QStringList &path, const QJsonVal
     return result;
 }
 
-// In millimetres.
+// Reads a length in millimetres.
 std::optional<qreal> RVConfigurationReader::length(const QStringList &path, const QJsonObject &values)
 {
     const QJsonValue value = values.value(path.constLast());
@@ -232,7 +232,7 @@ void RVConfigurationReader::refuseType(const QStringList &path, const QJsonValue
     refuseValue(path, tr("%1 must be %2, but is %3").arg(dotted(path), wanted, found));
 }
 
-// The first in the file counts; where no place is known, the first that was found.
+// The first fault in the file counts; if no place is known, the first that was found.
 void RVConfigurationReader::refuse(const std::optional<RVFilePosition> &position, const QString &text)
 {
     if (!myFault || (position && myFault->position && *position < *myFault->position))

@@ -19,7 +19,7 @@ struct RVConfigurationValues
     struct Rule
     {
         RVCatalogueRule rule;
-        std::optional<RVCatalogueSeverity> severity; ///< none where the rule is off
+        std::optional<RVCatalogueSeverity> severity; ///< none if the rule is off
     };
     struct PageSize
     {
@@ -33,7 +33,7 @@ struct RVConfigurationValues
     QList<PageSize> pageSizes;
 };
 
-/// Finds out what a configuration file means, and whether it says what cannot be meant.
+/// Interprets a configuration file, and finds its faults.
 class RVConfigurationReader
 {
     Q_DECLARE_TR_FUNCTIONS(RVCheckConfiguration)
@@ -42,9 +42,9 @@ public:
     /// The tree outlives the reader.
     explicit RVConfigurationReader(const RVConfigurationTree &tree) : myTree(tree) { }
 
-    /// Empty as far as there are faults.
+    /// The contents; parts with faults are empty.
     RVConfigurationValues read();
-    /// The first fault in the file; none where all is well.
+    /// The first fault in the file; none if there is no fault.
     std::optional<RVConfigurationFault> fault() const;
 
 private:

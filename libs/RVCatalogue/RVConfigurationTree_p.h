@@ -15,16 +15,16 @@
 struct RVConfigurationFault
 {
     QString text; ///< one line, without a full stop
-    std::optional<RVFilePosition> position; ///< none where the reader does not know it
+    std::optional<RVFilePosition> position; ///< none if the parser does not know it
 };
 
 /**
- * A configuration file before anybody asks what it means: tables, lists, texts, numbers and booleans, whatever the
- * format is. All else, say a date, is null, and so is whatever lies deeper than a configuration ever does.
+ * A parsed configuration file before its interpretation, in either format: tables, lists, texts, numbers and booleans.
+ * Other values, such as dates, are null, and so are values that are nested deeper than any valid entry.
  */
 struct RVConfigurationTree
 {
-    /// The places of an entry, with columns that count letters of the encoded text.
+    /// The places of entries, with columns that count letters of the encoded text.
     struct Places
     {
         RVFilePosition key;
@@ -32,27 +32,27 @@ struct RVConfigurationTree
     };
 
     QJsonObject root;
-    /// By the names from the root on, where the number of an item of a list is its name; without those of unknown
-    /// places.
+    /// The places by the names from the root on; the name of an item of a list is its index. Entries with unknown
+    /// places are missing.
     QHash<QStringList, Places> places;
-    /// The file with other letters than those of ASCII as percent encoding has them, but for the mark.
+    /// The text of the file, with letters beyond ASCII in a percent encoding that uses the mark instead of "%".
     QByteArray encodedText;
 
-    /// The position in the file of one in the encoded text.
+    /// The position in the file for a position in the encoded text.
     RVFilePosition inFile(const RVFilePosition &position) const;
 };
 
-/// The mark of letters in the encoded text. It is allowed in texts and comments, as they are, and nowhere else. A text
-/// that has it escaped as "\u007E", and two hexadecimal digits behind it, is read as another one.
+/// The mark of encoded letters. TOML allows it in the same places as those letters: in texts and comments. A text that
+/// has it escaped as "\u007E", followed by two hexadecimal digits, is read as a different one.
 constexpr char RV_CONFIGURATION_MARK = '~';
 
-/// Entries lie no deeper than this, so that all others can be left out: page_sizes, a type, a width, and what is there
-/// by mistake.
+/// The greatest depth of entries, beyond which all others can be left out: page_sizes, a type, a width, and a value
+/// that is there by mistake.
 constexpr qsizetype RV_CONFIGURATION_DEPTH = 4;
 
-/// Reads TOML. The result is the reason why it is none.
+/// Reads TOML. The result is the fault if the text is no TOML.
 std::optional<RVConfigurationFault> rvReadToml(const QByteArray &text, RVConfigurationTree *tree);
-/// Reads JSON. The result is the reason why it is none, or no object.
+/// Reads JSON. The result is the fault if the text is no JSON, or no object.
 std::optional<RVConfigurationFault> rvReadJson(const QByteArray &text, RVConfigurationTree *tree);
 
 #endif

@@ -13,7 +13,7 @@ namespace {
 constexpr auto TYPE = "type"_L1;
 constexpr auto ARTICLE_ID = "article_id"_L1;
 
-/// @p line says where the other product is.
+/// @p line is the place of the other product.
 QString typeText(const QString &type, const QString &family, const QString &line)
 {
     if (type == family)

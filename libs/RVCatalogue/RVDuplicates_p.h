@@ -18,7 +18,7 @@ class RVFindingReport;
 class RVDuplicates
 {
 public:
-    /// @p name is shown where a product of another file has the same id.
+    /// @p name appears in findings if a product of another file has the same id.
     void beginFile(const QString &name);
 
     /// Findings about ids that an earlier product has. Call it once for each product, in the order of the file.

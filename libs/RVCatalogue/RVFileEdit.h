@@ -6,8 +6,8 @@
 #include <QString>
 
 /**
- * A change of a text file: a piece of it, and the text that comes in its place. An empty piece is a place where the
- * text is put in; an empty text takes the piece out.
+ * A change of a text file: a piece of it, and the text that replaces it. An empty piece is a place where the text is
+ * inserted; an empty text removes the piece.
  *
  * @par Example
  * @snippet tst_examples_catalogues.cpp RVFileEdit
@@ -16,10 +16,10 @@
  */
 struct RVFileEdit
 {
-    RVFileRange range; ///< The piece that goes.
-    QString text; ///< As it is to stand in the file; XML is escaped already.
+    RVFileRange range; ///< The piece that is replaced.
+    QString text; ///< The new text; XML is escaped already.
 
-    /// By piece and text.
+    /// Compares piece and text.
     /// @{
     friend bool operator==(const RVFileEdit &a, const RVFileEdit &b) noexcept
     {

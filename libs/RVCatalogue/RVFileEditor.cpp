@@ -32,8 +32,7 @@ bool isEmpty(const RVFileRange &range)
     return range.begin == range.end;
 }
 
-/// True for pieces that have something in common. A place where text is put in has something in common with a piece
-/// that begins or ends there.
+/// True for pieces that overlap. A place where text is inserted overlaps a piece that begins or ends there.
 bool touch(const RVFileRange &a, const RVFileRange &b)
 {
     if (isEmpty(a) || isEmpty(b))
@@ -41,11 +40,11 @@ bool touch(const RVFileRange &a, const RVFileRange &b)
     return a.begin < b.end && b.begin < a.end;
 }
 
-/// Edits in the order of the file, none of which touches another one.
+/// Edits in the order of the file, without overlaps.
 class Edits
 {
 public:
-    /// All or none.
+    /// Adds all edits or none.
     bool add(const QList<RVFileEdit> &fix)
     {
         std::vector<RVFilePosition> added;
@@ -95,13 +94,13 @@ private:
     std::map<RVFilePosition, RVFileEdit> myEdits;
 };
 
-/// Finds how many bytes of UTF-8 stand in front of places, which come in the order of the file.
+/// Finds the number of bytes of UTF-8 in front of each place. The places come in the order of the file.
 class PlaceFinder
 {
 public:
     explicit PlaceFinder(const std::vector<RVFilePosition> &places) : myPlaces(places) { }
 
-    /// Looks through the next piece of the text; an empty one ends it. False when nothing is left to look for.
+    /// Searches the next piece of the text; an empty one ends it. False when no place is left.
     bool look(const QByteArray &text)
     {
         myText += text;
@@ -125,7 +124,7 @@ public:
     }
 
     const std::vector<qint64> &offsets() const { return myOffsets; }
-    /// The first that is not in the text; null where all are.
+    /// The first place that is not in the text; null if all are.
     const RVFilePosition *missing() const
     {
         return myOffsets.size() < myPlaces.size() ? &myPlaces[myOffsets.size()] : nullptr;
@@ -133,7 +132,7 @@ public:
 
 private:
     bool isLooking() const { return myIsPossible && myOffsets.size() < myPlaces.size(); }
-    /// The begin of the last letter, the rest of which may follow, as the line feed behind a carriage return may.
+    /// The begin of the last letter, whose rest may follow, such as the line feed behind a carriage return.
     qsizetype lastLetter() const
     {
         constexpr int continuationBits = 0xc0;
@@ -145,18 +144,18 @@ private:
     }
 
     const std::vector<RVFilePosition> &myPlaces;
-    std::vector<qint64> myOffsets; // of the first places
-    QByteArray myText; // that was not looked through
+    std::vector<qint64> myOffsets; // of the places that were found
+    QByteArray myText; // the text that was not searched yet
     RVFilePosition myPosition; // of its begin
     qint64 myOffset = 0; // the same
     bool myIsPossible = true;
 };
 
-/// Tells where XML reads a reference: not in comments, instructions and CDATA sections.
+/// Finds the places where XML reads a reference: outside of comments, instructions and CDATA sections.
 class ReferenceJudge
 {
 public:
-    /// @p text goes from the begin of the file to the place that is asked about, which is behind the last one.
+    /// @p text is the file up to the place in question, which is behind the last one.
     bool isRead(QByteArrayView text)
     {
         while (true) {
@@ -181,7 +180,7 @@ private:
         return text.startsWith("<?") ? QByteArrayView("?>") : QByteArrayView();
     }
 
-    qsizetype myPlace = 0; // up to which nothing is open
+    qsizetype myPlace = 0; // no comment, instruction or section is open up to here
 };
 
 }
@@ -221,13 +220,13 @@ private:
     bool readBack(QIODevice *to);
     bool replace(const QString &target, QFile *from, QTemporaryFile *to);
 
-    QByteArray myEncoding; // as iconv knows it; empty for UTF-8
+    QByteArray myEncoding; // a name for iconv; empty for UTF-8
     qint64 myMarkSize = 0;
     std::vector<qint64> myOffsets; // of begin and end of each edit, in the text in UTF-8
     std::vector<RVEncodedText> myTexts; // of each edit
-    QCryptographicHash myText { QCryptographicHash::Blake2b_256 }; // as it is to be read back
+    QCryptographicHash myText { QCryptographicHash::Blake2b_256 }; // of the text that must be read back
     qint64 myBytesRead = 0;
-    QByteArray myPending; // is not written yet
+    QByteArray myPending; // bytes that are not written yet
 };
 
 bool RVFileEditorPrivate::apply(QIODevice *from, QIODevice *to)
@@ -267,7 +266,7 @@ bool RVFileEditorPrivate::encode(QIODevice *from)
     return !hasReferences || checkReferences(from);
 }
 
-// The whole text is needed to know where a comment began.
+// The begin of a comment is known only from the whole text.
 bool RVFileEditorPrivate::checkReferences(QIODevice *from)
 {
     from->seek(0);
@@ -309,13 +308,13 @@ bool RVFileEditorPrivate::write(QIODevice *from, QIODevice *to)
     return myBytesRead == from->size() || fail(tr("cannot read on: %1").arg(from->errorString()));
 }
 
-/// Copies so much of the text; passes it over where there is nothing to write to.
+/// Copies this much of the text, or skips it if there is no output device.
 bool RVFileEditorPrivate::writePiece(RVTextBytes *bytes, qint64 size, QIODevice *to)
 {
     while (size > 0) {
         const RVTextPiece piece = bytes->take(size);
         if (piece.isEmpty())
-            return true; // what is missing is noticed at the end
+            return true; // missing text is noticed at the end
         size -= piece.text.size();
         myBytesRead += piece.bytes.size();
         if (!to)
@@ -334,7 +333,7 @@ bool RVFileEditorPrivate::writeBytes(const QByteArray &bytes, QIODevice *to)
     return myPending.size() < piece || writePending(to);
 }
 
-// Of a disk that becomes full some bytes are written first, and the reason is known only behind them.
+// A disk that becomes full accepts some bytes first, and gives the reason only after them.
 bool RVFileEditorPrivate::writePending(QIODevice *to)
 {
     QByteArrayView rest = myPending;
@@ -384,7 +383,7 @@ bool RVFileEditorPrivate::save()
     if (!target.isWritable())
         return fail(tr("the file is write-protected"));
     QTemporaryFile to(target.path() + "/.mended-XXXXXX"_L1);
-    // The editor has a buffer of its own, which loses no reason of an error.
+    // The editor has its own buffer, so that the reason of an error is not lost.
     if (!static_cast<QIODevice &>(to).open(QIODevice::ReadWrite | QIODevice::Unbuffered))
         return fail(tr("cannot write a new file beside the old one: %1").arg(to.errorString()));
     return apply(&from, &to) && replace(target.filePath(), &from, &to);
@@ -393,7 +392,7 @@ bool RVFileEditorPrivate::save()
 // The new file is complete on the disk before it gets the name of the old one.
 bool RVFileEditorPrivate::replace(const QString &target, QFile *from, QTemporaryFile *to)
 {
-    // A file that others could read is not replaced by one that they cannot.
+    // A file that others can read must not be replaced by one that they cannot.
     if (!stamp.giveAccess(from->handle(), to->handle()) || ::fsync(to->handle()) != 0)
         return fail(tr("cannot write: %1").arg(qt_error_string(errno)));
     if (RVFileStamp(fileName) != stamp)

@@ -29,9 +29,9 @@ class RVFileEditorPrivate;
  *     qWarning() << editor.errorString();
  * @endcode
  *
- * New text is written in the encoding of the file; a letter that it does not have becomes a reference such as
- * `&#x20AC;`, where XML reads one. The result is read back: it must have exactly the wanted text and be well-formed,
- * or nothing is changed and there is an error.
+ * New text is written in the encoding of the file; a letter that the encoding lacks becomes a reference such as
+ * `&#x20AC;`, in places where XML reads references. The result is read back. If it does not have exactly the wanted
+ * text, or is not well-formed, the file stays unchanged and there is an error.
  *
  * An editor belongs to one thread. Memory grows with the edits and not with the file.
  *
@@ -45,30 +45,32 @@ class RVCATALOGUE_EXPORT RVFileEditor
     Q_DISABLE_COPY_MOVE(RVFileEditor)
 
 public:
-    RVFileEditor(); ///< For apply().
-    /// For save(). Create it before the file is read, so that it notices when somebody else changes the file later.
+    RVFileEditor(); ///< An editor for apply().
+    /// An editor for save(). Create it before the file is read, so that it notices later changes by another program.
     explicit RVFileEditor(const QString &fileName);
     ~RVFileEditor();
 
-    /// Adds edits that belong together: all of them are made, or none. False, and none is, where there are none, where
-    /// one ends in front of its begin, or where one touches a piece that was to be changed already. An edit that is
-    /// there already is made once.
+    /// Adds edits that belong together: all of them are made, or none. Returns false and adds none if the list is
+    /// empty, if an edit ends in front of its begin, or if one overlaps an edit that was added before. An edit that was
+    /// added already is made once.
     bool add(const QList<RVFileEdit> &fix);
-    qsizetype count() const; ///< Fixes that were added.
-    /// Fixes that touch others. They are to be looked for again in the file as it is then.
+    qsizetype count() const; ///< The number of added fixes.
+    /// The number of fixes that overlap others. Find them again after the file was changed.
     qsizetype leftOut() const;
 
-    /// Replaces the file at once: who opens it gets the old one or the new one, also when the program or the machine
-    /// goes down or the disk is full. Permissions stay, and where the program may set them owner, group and extended
-    /// attributes. A symbolic link stays one; of hard links only this name gets the new text. Without fixes nothing is
-    /// written.
+    /// Replaces the file in one step: a program that opens it gets the old one or the new one, even if this program or
+    /// the machine goes down or the disk is full. Permissions stay, and so do owner, group and extended attributes if
+    /// the program may set them. A symbolic link stays a link; of several hard links, only this name gets the new text.
+    /// A call without fixes does not write the file.
     ///
-    /// False where the file is not an ordinary one, is write-protected or was changed, or cannot be written beside.
+    /// Returns false if the file is not an ordinary one, is write-protected or was changed, or if its folder cannot be
+    /// written to.
     bool save();
     /// Reads a file from its begin, and writes it with the edits. @p from is open for reading, and not sequential;
-    /// @p to is open for reading and writing, not sequential, and empty. False leaves some of the text in it.
+    /// @p to is open for reading and writing, not sequential, and empty. If it returns false, @p to may have a part of
+    /// the text.
     bool apply(QIODevice *from, QIODevice *to);
-    /// The bytes of a file with the edits; null where that is impossible.
+    /// The bytes of a file with the edits; null if that is impossible.
     QByteArray apply(const QByteArray &bytes);
 
     QString errorString() const; ///< One line, without a full stop, in the language of the program; empty without one.

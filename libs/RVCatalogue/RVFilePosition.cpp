@@ -15,7 +15,7 @@ int columns(char byte)
     return bits >= 0xf0 ? 2 : 1;
 }
 
-/// The first end of a line, behind which the next one begins; null where there is none.
+/// The first end of a line, behind which the next one begins; null if there is none.
 const char *lineEnd(const char *begin, const char *end, char next)
 {
     if (begin == end)
@@ -61,7 +61,7 @@ qsizetype rvAdvance(RVFilePosition *position, const RVFilePosition &target, QByt
     };
     while (place != text.end() && position->column < target.column && !isLineEnd(place))
         position->column += columns(*place++);
-    // The rest of the last letter.
+    // These bytes are the rest of the last letter.
     while (place != text.end() && columns(*place) == 0)
         ++place;
     return place - text.begin();

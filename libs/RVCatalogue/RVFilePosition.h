@@ -4,8 +4,8 @@
 #include <QtGlobal>
 
 /**
- * A place in a text file, as editors count: line and column begin with 1, and a column is a UTF-16 code unit whatever
- * the encoding of the file. A byte order mark is no column. Lines end with a line feed, a carriage return or both.
+ * A place in a text file, as editors count: line and column begin with 1, and a column is a UTF-16 code unit in every
+ * encoding of the file. A byte order mark is no column. Lines end with a line feed, a carriage return or both.
  *
  * @par Example
  * @snippet tst_examples_catalogues.cpp RVFilePosition
@@ -17,7 +17,7 @@ struct RVFilePosition
     qint64 line = 1; ///< From 1.
     qint64 column = 1; ///< From 1.
 
-    /// By line and column.
+    /// Compares line and column.
     /// @{
     friend constexpr bool operator==(const RVFilePosition &a, const RVFilePosition &b) noexcept
     {
@@ -25,7 +25,7 @@ struct RVFilePosition
     }
     friend constexpr bool operator!=(const RVFilePosition &a, const RVFilePosition &b) noexcept { return !(a == b); }
     /// @}
-    /// By the order in the file.
+    /// Compares the order in the file.
     friend constexpr bool operator<(const RVFilePosition &a, const RVFilePosition &b) noexcept
     {
         return a.line != b.line ? a.line < b.line : a.column < b.column;

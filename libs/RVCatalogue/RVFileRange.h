@@ -17,7 +17,7 @@ struct RVFileRange
     RVFilePosition begin; ///< The place of the first letter.
     RVFilePosition end; ///< The place behind the last letter.
 
-    /// By both places.
+    /// Compares both places.
     /// @{
     friend constexpr bool operator==(const RVFileRange &a, const RVFileRange &b) noexcept
     {

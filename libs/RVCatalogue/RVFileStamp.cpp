@@ -50,8 +50,8 @@ bool RVFileStamp::isOrdinary() const
     return S_ISREG(myState.st_mode);
 }
 
-// The owner goes first, since a new one takes some permissions away. Who may not give the file away may still give it
-// to another group of his.
+// The owner is set first, because a new owner removes some permissions. A user who may not give the file away may still
+// give it to another of the user's groups.
 bool RVFileStamp::giveAccess(int from, int to) const
 {
     if (::fchown(to, myState.st_uid, myState.st_gid) != 0) {

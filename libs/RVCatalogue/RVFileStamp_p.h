@@ -5,19 +5,20 @@
 
 #include <sys/stat.h>
 
-/// The state of a file: which one it is, its size, and when it was changed. Another state means another content.
+/// The state of a file: its identity, its size, and the time of its last change. A different state means different
+/// content.
 class RVFileStamp
 {
 public:
-    RVFileStamp() = default; ///< That of no file.
-    /// That of no file where there is none, or none that may be looked at. Symbolic links are followed.
+    RVFileStamp() = default; ///< The stamp of no file.
+    /// The stamp of a file; that of no file if it does not exist or cannot be examined. Symbolic links are followed.
     explicit RVFileStamp(const QString &fileName);
     explicit RVFileStamp(int descriptor);
 
     bool isOrdinary() const; ///< False for folders, pipes and devices, and for no file.
-    /// Gives the file @p to owner, group, permissions and extended attributes, which access control lists are, of this
-    /// one, which is open as @p from; owner, group and attributes as far as the program may and the file system can.
-    /// False where the permissions cannot be given, with the reason in errno.
+    /// Gives the file @p to the owner, group, permissions and extended attributes of this file, which is open as
+    /// @p from. Access control lists are extended attributes. Owner, group and attributes are set as far as the program
+    /// may and the file system can. False if the permissions cannot be set, with the reason in errno.
     [[nodiscard]] bool giveAccess(int from, int to) const;
 
     friend bool operator==(const RVFileStamp &a, const RVFileStamp &b)

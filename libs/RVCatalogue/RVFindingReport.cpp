@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The text as it stands in a value between quotes.
+/// The text, escaped for a value between quotes.
 QString escaped(const QString &text)
 {
     QString result = text.toHtmlEscaped();

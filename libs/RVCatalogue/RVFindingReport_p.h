@@ -11,7 +11,7 @@
 class RVCatalogueCheck;
 class RVCatalogueProduct;
 
-/// Other places that a finding is about, and what mends it.
+/// The other places of a finding, and the edits that mend it.
 struct RVFindingDetails
 {
     // NOLINTBEGIN(readability-redundant-member-init): without it the compiler warns of what a list leaves out
@@ -36,16 +36,17 @@ public:
     /// Adds a finding at the start tag, for faults that are not in a single attribute.
     void add(RVCatalogueRuleId rule, const RVCatalogueElement &element, const QString &text,
              const RVFindingDetails &details = {});
-    /// At the attribute; at the start tag where the attribute is missing. A missing one that was meant is no finding.
+    /// Adds a finding at the attribute, or at the start tag if the attribute is missing. An attribute that is present
+    /// under another name gives no finding.
     void add(RVCatalogueRuleId rule, const RVCatalogueElement &element, QLatin1StringView attribute,
              const QString &text, const RVFindingDetails &details = {});
-    /// At any place.
+    /// Adds a finding at any place.
     void add(RVCatalogueRuleId rule, const RVFileRange &range, const QString &text,
              const RVFindingDetails &details = {});
 
-    /// Something that is there under a wrong name or at a wrong place, which a finding of @p rule says already. Nothing
-    /// calls it missing then, unless that finding is switched off or a mere note: an attribute of this element, an
-    /// attribute of the elements of a name, or an element.
+    /// Records a part with a wrong name or at a wrong place that a finding of @p rule reports already: an attribute of
+    /// this element, an attribute of the elements with a name, or an element. Later checks do not call it missing,
+    /// unless that finding is switched off or a note.
     /// @{
     void addMeant(RVCatalogueRuleId rule, const RVCatalogueElement &element, QLatin1StringView attribute);
     void addMeant(RVCatalogueRuleId rule, QLatin1StringView elementName, QLatin1StringView attribute = {});
@@ -53,13 +54,13 @@ public:
     bool isMeant(QLatin1StringView elementName) const;
     /// @}
 
-    /// In the order of the file; those of one place as they were added.
+    /// The findings in the order of the file; those of one place in the order of their addition.
     QList<RVCatalogueFinding> sorted() const;
 
 private:
     struct Meant
     {
-        RVFilePosition position; // of the element, where it has no name here
+        RVFilePosition position; // of the element, if it has no name here
         QLatin1StringView elementName;
         QLatin1StringView attribute; // empty for the element itself
     };
@@ -77,11 +78,11 @@ void rvSort(QList<RVCatalogueFinding> *findings);
 
 /// The start tag of an element as the other place of a finding.
 RVRelatedPlace rvPlaceOf(const RVCatalogueElement &element, const QString &text);
-/// An attribute as the other place; the start tag where it is missing.
+/// An attribute as the other place; the start tag if it is missing.
 RVRelatedPlace rvPlaceOf(const RVCatalogueElement &element, QLatin1StringView attribute, const QString &text);
 
-/// The edit that puts a text in the place of some letters of a value: escaped, and nothing where XML reads other
-/// letters than stand in the file, where the attribute is not in the file, or where the text is null.
+/// The edit that replaces some letters of a value by a text, which is escaped. None if XML reads other letters than the
+/// file has, if the attribute is not in the file, or if the text is null.
 QList<RVFileEdit> rvReplaced(const RVCatalogueElement &element, QLatin1StringView attribute, qsizetype from,
                              qsizetype length, const QString &text);
 /// The same for the whole value.

@@ -4,7 +4,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// With a link such as "%1 or %2" between the last two.
+/// Joins the texts with commas, and the last two with a link such as "%1 or %2".
 QString joined(QStringList texts, const QString &link)
 {
     if (texts.isEmpty())

@@ -9,12 +9,11 @@
 #include <vector>
 
 /**
- * The place where each number was seen first, in as little memory as a million of them need. KEY is an unsigned
- * integer; a place is a number of RVPackedPlaces,
- * which has 56 bits.
+ * The place where each number was seen first, in a form that needs little memory for a million numbers. KEY is an
+ * unsigned integer; a place is a number of RVPackedPlaces, which has 56 bits.
  *
  * Numbers are spread over buckets, each of which is sorted and grows by an eighth when it is full. So hardly any memory
- * is without use, and never more than one bucket is copied.
+ * is unused, and only one bucket is copied at a time.
  */
 template<typename KEY>
 class RVFirstPlaces
@@ -22,7 +21,7 @@ class RVFirstPlaces
 public:
     RVFirstPlaces() : myBuckets(BUCKETS) { }
 
-    /// The place where @p key was seen before; 0 when it was not, from now on @p place.
+    /// The place where @p key was seen first; 0 if it is new, and then @p place becomes its place.
     quint64 insert(KEY key, quint64 place)
     {
         std::vector<Entry> &bucket = myBuckets[bucketOf(key)];
@@ -38,7 +37,7 @@ public:
         return 0;
     }
 
-    /// In use and in reserve.
+    /// The bytes in use and in reserve.
     std::size_t bytes() const
     {
         std::size_t result = myBuckets.size() * sizeof(myBuckets.front());
@@ -56,7 +55,7 @@ private:
     template<std::size_t SIZE>
     using Bytes = std::array<quint8, SIZE>;
 
-    /// Key and place in bytes, so that one stands behind the other without a gap.
+    /// Key and place as bytes, so that the entries have no gaps.
     struct Entry
     {
         Bytes<sizeof(KEY)> key;
@@ -83,7 +82,7 @@ private:
 
     static std::size_t bucketOf(KEY key)
     {
-        constexpr quint64 goldenRatio = 0x9e37'79b9'7f4a'7c15; // a part of 2^64; spreads what differs in few bits
+        constexpr quint64 goldenRatio = 0x9e37'79b9'7f4a'7c15; // spreads keys that differ in few bits
         return std::size_t(quint64(key) * goldenRatio >> (64 - BUCKET_BITS));
     }
 

@@ -53,7 +53,7 @@ bool isInvisible(char32_t letter)
     }
 }
 
-/// The ASCII that a letter beyond it looks like; null where it looks like none.
+/// The ASCII text that a letter beyond ASCII looks like; null if it looks like none.
 QString plainOf(char32_t letter)
 {
     const auto *found = std::find_if(std::begin(LOOK_ALIKES), std::end(LOOK_ALIKES),

@@ -12,7 +12,7 @@ void RVGroupSilence::add(const std::vector<RVSuppressionScope::Pointer> &closed)
         const bool isJudged = scope->isJudged();
         if (isJudged)
             judge(*scope);
-        // A scope that waits for a product that nobody has any more, since it was passed over, waits forever.
+        // A scope waits forever if one of its products was skipped.
         else if (scope->ref.loadRelaxed() > 1)
             waiting.push_back(scope);
         scope.reset();

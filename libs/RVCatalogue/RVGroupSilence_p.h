@@ -9,23 +9,23 @@
 
 #include <vector>
 
-/// Finds the comments in front of groups that silence nothing, once all products of a group were checked. It keeps no
-/// group longer than that.
+/// Finds the comments in front of groups that silence nothing, once all products of a group were checked. It keeps a
+/// group no longer than that.
 class RVGroupSilence
 {
 public:
     explicit RVGroupSilence(const RVCatalogueCheck &check) : myCheck(check) { }
 
-    /// Takes groups that were closed, inner ones before outer ones, and judges those that can be.
+    /// Takes groups that were closed, inner ones before outer ones, and judges those that are complete.
     void add(const std::vector<RVSuppressionScope::Pointer> &closed);
-    /// About the groups that were judged, in the order of the file.
+    /// The findings about the judged groups, in the order of the file.
     QList<RVCatalogueFinding> findings() const;
 
 private:
     void judge(const RVSuppressionScope &scope);
 
     RVCatalogueCheck myCheck;
-    std::vector<RVSuppressionScope::Pointer> myClosed; // and not judged so far
+    std::vector<RVSuppressionScope::Pointer> myClosed; // closed groups that are not judged yet
     QList<RVCatalogueFinding> myFindings;
 };
 

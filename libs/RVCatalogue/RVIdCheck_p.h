@@ -6,7 +6,7 @@
 class RVCatalogueProduct;
 class RVFindingReport;
 
-/// Type, article id and shipping group of a product.
+/// Checks type, article id and shipping group of a product.
 class RVIdCheck
 {
 public:

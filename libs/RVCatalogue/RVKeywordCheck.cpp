@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// All keywords where they are few and short, else the command that lists them.
+/// All keywords if they are few and short, otherwise the command that lists them.
 QString listOf(const RVKeywordVocabulary &vocabulary)
 {
     constexpr qsizetype most = 8;

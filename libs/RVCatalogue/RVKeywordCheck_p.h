@@ -4,7 +4,7 @@
 class RVCatalogueProduct;
 class RVFindingReport;
 
-/// Keyword lists of a product.
+/// Checks the keyword lists of a product.
 class RVKeywordCheck
 {
 public:

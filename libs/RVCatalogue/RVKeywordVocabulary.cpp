@@ -11,10 +11,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A list has no more pieces than this in earnest.
+/// The highest number of pieces; a real list has fewer.
 constexpr qsizetype MOST_FAULTS = 100;
 
-/// In the letter case of a piece that is all lower case, else as it is.
+/// The keyword in lower case if the piece is in lower case, otherwise unchanged.
 QString spelledLike(const QString &piece, const QString &keyword)
 {
     return piece == piece.toLower() ? keyword.toLower() : keyword;
@@ -25,8 +25,8 @@ bool isNumber(const QString &keyword)
     return std::all_of(keyword.begin(), keyword.end(), [](QChar letter) { return letter.isDigit(); });
 }
 
-/// The keywords of an attribute in lower case, each with the one that is written for its value. Where that is a bare
-/// number an alias tells more, and is as good.
+/// The keywords of an attribute in lower case, each with the main keyword of its value. If that is only a number, an
+/// alias is clearer and counts as a main keyword.
 QHash<QString, QString> mainKeywords(RVCatalogueAttribute attribute)
 {
     QHash<QString, QString> result;
@@ -38,7 +38,7 @@ QHash<QString, QString> mainKeywords(RVCatalogueAttribute attribute)
     return result;
 }
 
-/// The one to write for a value.
+/// The keyword to write for a value.
 QString writtenKeyword(const RVCatalogueAttributeValue &value)
 {
     return isNumber(value.keyword) && !value.aliases.isEmpty() ? value.aliases.first() : value.keyword;
@@ -51,14 +51,14 @@ QString foldedName(const QString &name)
     return (word.endsWith(u'-') ? word.chopped(1) : word).normalized(QString::NormalizationForm_C).toCaseFolded();
 }
 
-/// In lower case, and without what separates words.
+/// The text in lower case, without separators of words.
 QString squeezed(const QString &text)
 {
     static const QRegularExpression theSeparators(u"[\\s_-]+"_s);
     return text.toLower().remove(theSeparators);
 }
 
-/// Those of other lists than of keywords.
+/// The separators of other lists.
 const QRegularExpression &otherSeparators()
 {
     static const QRegularExpression theSeparators(u"[;|/+&]"_s);
@@ -206,7 +206,7 @@ qsizetype RVKeywordVocabulary::countKeywords(const QStringList &pieces) const
                          [this](const QString &piece) { return myMainKeywords.contains(piece.toLower()); });
 }
 
-/// Keywords that differ in blanks, dashes and letters that look alike only.
+/// Keywords that differ only in blanks, dashes and letters of the same look.
 bool RVKeywordVocabulary::explainSpelling(const QString &plain, RVKeywordFault *fault) const
 {
     const QStringList keywords = mySqueezed.value(squeezed(plain));
@@ -240,7 +240,7 @@ bool RVKeywordVocabulary::explainMistake(const QString &plain, RVKeywordFault *f
         nearest.offer(keyword);
     if (nearest.texts().isEmpty())
         return false;
-    // Of keywords that are further away than one letter the first is as good a guess as any other.
+    // If the keywords are more than one letter away, the first guess is as good as any other.
     guess(plain, nearest.distance() > 1 ? nearest.texts().first(1) : nearest.texts(), fault);
     if (nearest.distance() > 1 || !fault->letters.isEmpty())
         fault->mended = QString();
@@ -266,7 +266,7 @@ void RVKeywordVocabulary::guess(const QString &plain, const QStringList &keyword
         fault->meaning = fault->mended;
 }
 
-/// The main keyword of one that is in lower case, in the letter case of the piece where that is the main one.
+/// The main keyword of a keyword in lower case; in the letter case of the piece if that is the main keyword.
 QString RVKeywordVocabulary::faultless(const QString &piece, const QString &keyword) const
 {
     const QString mainKeyword = myMainKeywords[keyword];

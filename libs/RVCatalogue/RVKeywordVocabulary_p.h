@@ -21,22 +21,22 @@ struct RVKeywordFault
         Empty,
         Separated, ///< several keywords, not separated by commas
         Named, ///< the display name of a value
-        Mistyped, ///< like a keyword
-        Unknown, ///< like none
+        Mistyped, ///< near a keyword
+        Unknown, ///< near no keyword
     };
 
     Kind kind = Unknown;
     QString piece; ///< as it was written, without blanks around it; may be empty
     qsizetype from = 0; ///< its place in the list
-    /// The main keyword of an alias; the pieces of a separated one with commas, where all are keywords; the keywords
-    /// that have the name, or are most like the piece. In lower case where the piece is.
+    /// The main keyword of an alias; the pieces of a separated one with commas, if all are keywords; the keywords that
+    /// have the name, or are nearest to the piece. They are in lower case if the piece is.
     QStringList betterKeywords;
-    QString meaning; ///< the main keyword of the only better one, where that is an alias
-    QString letters; ///< on a letter of the piece that looks like another one, or like none; empty where there is none
-    QString mended; ///< the text to put in the place of the piece; null where there is not one safe answer
+    QString meaning; ///< the main keyword of the only better one, if that is an alias
+    QString letters; ///< about a letter that looks like another one or is invisible; empty without one
+    QString mended; ///< the text that replaces the piece; null without one safe answer
 };
 
-/// The keywords of one attribute, to judge lists of them. It never changes, so any thread may ask.
+/// The keywords of one attribute, for checking lists of them. It never changes, so any thread may use it.
 class RVKeywordVocabulary
 {
 public:
@@ -46,14 +46,13 @@ public:
     explicit RVKeywordVocabulary(RVCatalogueAttribute attribute);
 
     QLatin1StringView attributeName() const { return myAttribute.name(); }
-    /// One keyword of every value, by their numbers; aliases for bare numbers.
+    /// One keyword of every value, ordered by the values; an alias instead of a keyword that is only a number.
     const QStringList &keywords() const { return myKeywords; }
 
-    /// True where each piece of a list in UTF-8 is certainly a keyword without a fault. Of some lists with letters
-    /// beyond ASCII only faults() tells.
+    /// True if each piece of a list in UTF-8 is certainly a keyword without a fault. For some lists with letters beyond
+    /// ASCII, only faults() is certain.
     bool hasAll(QByteArrayView list) const;
-    /// The pieces that the attribute does not know, and those that it reads for the sake of old files; the first
-    /// hundred.
+    /// The unknown pieces, and the aliases that are only read from old files; the first hundred.
     QList<RVKeywordFault> faults(const QString &list) const;
 
 private:
@@ -74,7 +73,7 @@ private:
     QStringList myGuesses; // all keywords, main ones first, both by the alphabet
     QStringList myKeywords;
     QHash<QString, QStringList> myKeywordsOfNames; // of display names, which are folded
-    QHash<QString, QStringList> mySqueezed; // the keywords in lower case, of what they are without blanks and dashes
+    QHash<QString, QStringList> mySqueezed; // the keywords in lower case, by their texts without blanks and dashes
 };
 
 #endif

@@ -16,9 +16,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Everything may have a name, so it belongs everywhere.
+/// Every element may have a name, so this attribute belongs everywhere.
 constexpr auto NAME = "name"_L1;
-/// Words that no other program would use by chance, besides all that are put together with an underscore.
+/// Words that other programs would not use by chance, in addition to all words with an underscore.
 constexpr QLatin1StringView DISTINCTIVE[] = { "pageNr"_L1, "units"_L1, "pages"_L1, "pieces"_L1, "preselected"_L1 };
 
 bool isDistinctive(QByteArrayView name)
@@ -44,7 +44,7 @@ QVarLengthArray<const RVKnownElement *, 2> ownersOf(QByteArrayView attribute, co
     return result;
 }
 
-/// The elements that an attribute may have been meant for: neighbours, or all of them where none is.
+/// The elements that an attribute may have been meant for: the neighbours, or all elements if there are no neighbours.
 QString namesOf(const QVarLengthArray<const RVKnownElement *, 2> &owners, const RVKnownElement &element)
 {
     QStringList names;
@@ -66,7 +66,7 @@ QVarLengthArray<QLatin1StringView, 4> childrenOf(const RVKnownElement &parent)
     return result;
 }
 
-/// The known element whose name differs in letter case and signs between words only; empty where there is none.
+/// The known element whose name differs only in letter case and signs between words; empty if there is none.
 QLatin1StringView sameName(QByteArrayView name)
 {
     for (const RVKnownElement &element : RV_KNOWN_ELEMENTS) {
@@ -101,7 +101,7 @@ QString didYouMean(const QString &name, const RVNameGuess &guess)
             .arg(rvQuotedName(name), rvQuotedName(guess.names[0]), rvQuotedName(guess.names[1]));
 }
 
-/// The change of an attribute's name alone.
+/// The edit that renames an attribute.
 QList<RVFileEdit> renamed(const RVFileRange &attribute, const QString &name, QLatin1StringView better)
 {
     RVFileRange range = attribute;
@@ -148,7 +148,7 @@ void RVNameCheck::checkAttributes(const RVCatalogueElement &element, const RVKno
     }
 }
 
-/// True for an attribute that another element has, whether or not it was meant for that one.
+/// True for an attribute of another element, even if it was not meant for that one.
 bool RVNameCheck::checkPlace(const Attribute &attribute)
 {
     const auto owners = ownersOf(attribute.name, attribute.known);
@@ -172,7 +172,7 @@ bool RVNameCheck::checkPlace(const Attribute &attribute)
     return true;
 }
 
-/// @p mended are the attributes that earlier ones are renamed to.
+/// @p mended are the new names of earlier attributes.
 void RVNameCheck::checkSpelling(const Attribute &attribute, Names *mended)
 {
     RVNameGuess guess = rvGuessName(attribute.name, attribute.known.attributes);
@@ -182,7 +182,7 @@ void RVNameCheck::checkSpelling(const Attribute &attribute, Names *mended)
     const auto isThere = [&](QLatin1StringView each) {
         return attribute.element.hasAttribute(each) || std::find(mended->begin(), mended->end(), each) != mended->end();
     };
-    // Of several that are equally near, the one that is missing was meant.
+    // The missing one of several equally near names was meant.
     if (guess.names.size() > 1)
         guess.names.erase(std::remove_if(guess.names.begin(), guess.names.end(), isThere), guess.names.end());
     if (guess.names.isEmpty() || myReport->check().isForeign(name) || isOtherAttribute(name))

@@ -11,11 +11,11 @@ class RVCatalogueProduct;
 class RVFindingReport;
 
 /**
- * Names of elements and attributes of a product that are not read, though they were probably meant to be: misspelt
- * ones, and known ones at a wrong place. What is like no known name is foreign, and so is everything in a foreign
- * element. Attributes with a prefix are foreign, too.
+ * Checks the names of elements and attributes of a product that are not read, though they were probably meant to be:
+ * misspelt ones, and known ones at a wrong place. A name that is near no known name is foreign, and so is everything in
+ * a foreign element. Attributes with a prefix are foreign, too.
  *
- * It goes first, since whatever it finds is missing elsewhere.
+ * It runs first, because the parts that it finds are missing elsewhere.
  */
 class RVNameCheck
 {

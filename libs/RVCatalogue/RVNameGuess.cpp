@@ -13,14 +13,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// In letters; a longer name is none of the vocabulary.
+/// The longest name in letters; a longer one is not in the vocabulary.
 constexpr qsizetype LONGEST = 40;
 /// Known names from this length on may need two changes.
 constexpr int LONG_NAME = 10;
 constexpr qsizetype SHORT_NAME = 4;
-/// Words up to this length may need one change, however long the name is.
+/// Words up to this length may need one change, even in a long name.
 constexpr qsizetype SHORT_WORD = 5;
-/// Words that are near a known name by chance: `height`, `preview`, `base_width`, `composition` and `product`.
+/// Words that are near these known names by chance: `height`, `preview`, `base_width`, `composition` and `product`.
 constexpr QLatin1StringView OTHER_WORDS[] = { QLatin1StringView("weight"), QLatin1StringView("review"),
                                               QLatin1StringView("case_width"), QLatin1StringView("competition"),
                                               QLatin1StringView("produce") };
@@ -37,7 +37,7 @@ char lowerCase(char letter)
     return letter >= 'A' && letter <= 'Z' ? char(letter - 'A' + 'a') : letter;
 }
 
-/// The letters of a name, whatever their order, by which nearly all foreign names are told from the known ones.
+/// The letters of a name in any order; they distinguish nearly all foreign names from the known ones.
 class LetterSet
 {
 public:
@@ -53,7 +53,7 @@ public:
     }
 
     int size() const { return mySize; }
-    /// False where more changes than these, and "ph" for "f", are needed to make one of the other.
+    /// False if one cannot become the other with this number of changes and "ph" for "f".
     bool mayBe(const LetterSet &known, int changes) const
     {
         constexpr quint32 interchangeable = 1U << ('p' - 'a') | 1U << ('h' - 'a') | 1U << ('f' - 'a');
@@ -68,7 +68,7 @@ private:
     bool myIsAscii = true;
 };
 
-/// A name without what does not count.
+/// A name without the parts that do not count.
 QString folded(QByteArrayView name)
 {
     QString result = QString::fromUtf8(name).toCaseFolded();
@@ -76,7 +76,7 @@ QString folded(QByteArrayView name)
     return result;
 }
 
-/// The changes that make one of the other, "ph" and "f" being the same or not; the limit where it takes so many.
+/// The number of changes that turn one into the other, with or without "ph" as "f"; at most the limit.
 int distanceBetween(QString name, QString known, int limit)
 {
     RVNearestText nearest(name, limit);
@@ -86,7 +86,7 @@ int distanceBetween(QString name, QString known, int limit)
     return nearestSound.distance();
 }
 
-/// True where letters beyond ASCII stand in the place of others, up to half of them.
+/// True if letters beyond ASCII replace up to half of the letters.
 bool looksLike(const QString &name, const QString &known)
 {
     if (name.size() != known.size())
@@ -101,7 +101,7 @@ bool looksLike(const QString &name, const QString &known)
     return others * 2 <= name.size();
 }
 
-/// True for two texts that differ by a letter that was replaced rather than added, removed or swapped.
+/// True for two texts that differ by a replaced letter, not by an added, removed or swapped one.
 bool isReplaced(QString a, QString b)
 {
     std::sort(a.begin(), a.end());
@@ -109,7 +109,7 @@ bool isReplaced(QString a, QString b)
     return a.size() == b.size() && a != b;
 }
 
-/// The words of a name in small letters. Signs and capital letters behind small ones begin one.
+/// The words of a name in lower case. A sign, or a capital letter behind a small one, begins a word.
 QStringList words(QByteArrayView name)
 {
     QString text;
@@ -136,7 +136,7 @@ bool isExtended(QStringList words, const QStringList &knownWords)
     return words.first(knownWords.size()) == knownWords || words.last(knownWords.size()) == knownWords;
 }
 
-/// False where a short word is another one.
+/// False if a short word differs too much.
 bool areLikeWords(const QStringList &words, const QStringList &knownWords)
 {
     if (words.size() != knownWords.size() || words.size() == 1)
@@ -160,7 +160,7 @@ bool isOtherName(QByteArrayView name, QLatin1StringView known, int changes)
             || (changes > 1 && !areLikeWords(ours, theirs));
 }
 
-/// The changes that make a known name of a name.
+/// The number of changes that turn a name into a known name.
 int changesTo(QLatin1StringView known, QByteArrayView name, const LetterSet &letters)
 {
     const QByteArrayView knownName(known.data(), known.size());

@@ -9,7 +9,7 @@
 #include <cstring>
 #include <iterator>
 
-/// True where the UTF-8 of a file is this name.
+/// True if a text of a file in UTF-8 is this name.
 inline bool rvIsName(QByteArrayView text, QLatin1StringView name)
 {
     return text.size() == name.size() && std::memcmp(text.data(), name.data(), std::size_t(text.size())) == 0;
@@ -35,7 +35,7 @@ struct RVNameList
     const QLatin1StringView *last = nullptr;
 };
 
-/// Looks up names that come in about the order of the list, as most files have them.
+/// Looks up names fast if they come in about the order of the list, as in most files.
 class RVNameFinder
 {
 public:
@@ -63,7 +63,7 @@ private:
     const QLatin1StringView *myNext;
 };
 
-/// An element that is read: where it stands, and which attributes are read of it.
+/// An element that is read: its parent and the attributes that are read.
 struct RVKnownElement
 {
     QLatin1StringView name;
@@ -127,7 +127,7 @@ inline constexpr QLatin1StringView RV_FORM_ATTRIBUTES[] = {
     QLatin1StringView("price_class"),
 };
 
-/// All that is read of a catalogue.
+/// All elements that are read.
 inline constexpr RVKnownElement RV_KNOWN_ELEMENTS[] = {
     { QLatin1StringView("product"),     QLatin1StringView(),              false, RV_PRODUCT_ATTRIBUTES },
     { QLatin1StringView("barcodes"),    QLatin1StringView("product"),     true,  RV_BARCODES_ATTRIBUTES },
@@ -139,7 +139,7 @@ inline constexpr RVKnownElement RV_KNOWN_ELEMENTS[] = {
 };
 // clang-format on
 
-/// The element of that name; null where there is none.
+/// The element with that name; null if there is none.
 inline const RVKnownElement *rvKnownElement(QByteArrayView name)
 {
     const auto *found = std::find_if(std::begin(RV_KNOWN_ELEMENTS), std::end(RV_KNOWN_ELEMENTS),

@@ -9,8 +9,8 @@ namespace {
 
 constexpr qsizetype LONGEST = 64;
 
-/// The distances between the first letters of one text, which are as many as the row has in front of it, and the first
-/// letters of another one.
+/// One row of the table of distances: those between the first letters of one text, as many as there are rows in front,
+/// and the first letters of another text.
 using Row = std::array<int, LONGEST + 1>;
 
 bool isSwapped(QStringView a, qsizetype i, QStringView b, qsizetype j)

@@ -7,12 +7,12 @@
 
 #include <limits>
 
-/// All texts that could be meant by a mistyped one: those that need the fewest changes, in the order in which they were
-/// offered. None where half of the letters differ, or where it is too long to be a slip of the fingers.
+/// All texts that a mistyped text could mean: those that need the fewest changes, in the order in which they were
+/// offered. None if half of the letters differ, or if the text is too long for a typing mistake.
 class RVNearestTexts
 {
 public:
-    /// Texts that need @p limit changes or more are passed over, too.
+    /// Texts that need @p limit changes or more are skipped, too.
     explicit RVNearestTexts(const QString &wanted, int limit = std::numeric_limits<int>::max())
         : mySize(wanted.size()),
           myLimit(mySize > LONGEST_GUESS ? 0 : qMin(limit, int(mySize + 1) / 2)),
@@ -23,7 +23,7 @@ public:
     {
         if (qAbs(text.size() - mySize) >= myLimit)
             return;
-        RVNearestText nearest = myWanted; // which nothing was offered to
+        RVNearestText nearest = myWanted; // without offered texts
         nearest.offer(text);
         if (nearest.text().isNull() || nearest.distance() >= myLimit || myTexts.contains(text))
             return;
@@ -35,7 +35,8 @@ public:
     }
 
     const QStringList &texts() const { return myTexts; }
-    int distance() const { return myDistance; } ///< The changes that they need; the largest number where there is none.
+    /// The number of changes that they need; the largest int if there is none.
+    int distance() const { return myDistance; }
 
 private:
     static constexpr qsizetype LONGEST_GUESS = 40;

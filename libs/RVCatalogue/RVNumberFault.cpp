@@ -24,7 +24,7 @@ bool isMatch(const QString &text, const QRegularExpression &pattern)
     return pattern.match(text).hasMatch();
 }
 
-/// The whole number that a text with a point or an exponent stands for; null where it is none, or does not fit.
+/// The whole number that a text with a point or an exponent stands for; null if it is none, or does not fit.
 QString wholeNumber(const QString &text)
 {
     bool isNumber = false;
@@ -82,7 +82,7 @@ bool RVNumberFault::isBeyondRange(const QString &text)
     return true;
 }
 
-/// Digits in groups of three. One comma may be a decimal one as well, which only people know.
+/// Digits in groups of three. A single comma may also be a decimal comma; only people can decide that.
 bool RVNumberFault::hasGroups(const QString &text)
 {
     static const QRegularExpression theGroups(u"^[+-]?[1-9]\\d{0,2}(?:([., '])\\d{3})(?:\\1\\d{3})*$"_s);
@@ -106,7 +106,8 @@ bool RVNumberFault::hasGroups(const QString &text)
     return true;
 }
 
-/// A comma for the point, a whole number with a point or an exponent, or a blank beside a sign or a point.
+/// Faults with a known number: a comma for the point, a whole number with a point or an exponent, or a blank beside a
+/// sign or a point.
 bool RVNumberFault::isOtherwiseWritten(const QString &text)
 {
     static const QRegularExpression theBlankBetweenDigits(u"\\d\\s+\\d"_s);

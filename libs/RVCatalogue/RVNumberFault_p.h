@@ -4,7 +4,7 @@
 #include <QString>
 #include <QStringView>
 
-/// The reason why a text that should be a number is none to RVXMLParser, and what to write instead.
+/// The reason why RVXMLParser cannot read a text as a number, and the text to write instead.
 class RVNumberFault
 {
 public:
@@ -19,12 +19,12 @@ public:
         TooSmall, ///< below the least number
     };
 
-    /// @p text is no number of that type. Of one that is, there is nothing to say.
+    /// @p text is no number of that type. For a valid number all texts are empty.
     RVNumberFault(const QString &text, Type type);
 
     Reason reason() const { return myReason; }
     QString advice() const { return myAdvice; } ///< "write 8.5"; in the language of the program.
-    QString mended() const { return myMended; } ///< The number to write; null where there is not one safe answer.
+    QString mended() const { return myMended; } ///< The number to write; null without one safe answer.
 
 private:
     void judge(const QString &text);

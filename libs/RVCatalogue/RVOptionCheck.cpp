@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// True where keys that are chosen together have not one value each.
+/// True if keys that are chosen together do not have one value each.
 bool isMismatch(const RVCatalogueElement &form, QByteArrayView key, QByteArrayView value)
 {
     return (key.contains(';') || value.contains(';'))

@@ -6,7 +6,7 @@
 class RVCatalogueProduct;
 class RVFindingReport;
 
-/// Options of a product.
+/// Checks the options of a product.
 class RVOptionCheck
 {
 public:

@@ -16,13 +16,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// An option, and what the product says of it besides.
+/// An option and its other data in the product.
 struct Option
 {
     RVConfiguredArticleVariant variant;
     QString name;
     QString priceClass;
-    int number = 0; // among those of the same key and value
+    int number = 0; // the number among the options with the same key and value
 };
 
 /// The options of a product, found by key, value and number.
@@ -42,7 +42,7 @@ public:
     }
 
     const std::vector<Option> &all() const { return myOptions; }
-    /// Null where there is none.
+    /// The option; null if there is none.
     const Option *find(const Option &other) const
     {
         const auto found = myIndexes.constFind({ other.variant.key(), other.variant.value(), other.number });
@@ -108,7 +108,7 @@ void beginItem(const Option &option, RVProductChanges *changes)
     changes->beginItem(label, itemOf(option));
 }
 
-/// An option that only one product has, with all that it says.
+/// Adds an option that only one product has, with all its data.
 RVComparedValue compared(const Option &option)
 {
     const RVConfiguredArticleVariant &variant = option.variant;
@@ -159,7 +159,7 @@ void compareTexts(const Option &before, const Option &after, RVProductChanges *c
 /// The defaults of all keys before and after.
 using Defaults = RVVersions<RVArticleVariants>;
 
-/// A flag that does not change the default of its key would otherwise not be told.
+/// A mark that does not change the default of its key would otherwise not be reported.
 bool isHiddenDefault(const Option &option, const Defaults &defaults)
 {
     const QString key = option.variant.key();

@@ -13,7 +13,8 @@ namespace {
 
 using Iterator = RVOptionsByKey::const_iterator;
 
-/// True for what the customer is offered, and for what cannot be offered but was meant to be the default.
+/// True for an option that is offered to the customer, and for one that cannot be offered but was meant to be the
+/// default.
 bool counts(const RVCheckedOption &option)
 {
     return option.isPreselected || (!option.value.isEmpty() && !option.hasMismatch);
@@ -24,7 +25,7 @@ const RVCheckedOption *earlier(const RVCheckedOption *a, const RVCheckedOption *
     return !a || std::less<>()(b, a) ? b : a;
 }
 
-/// True where it can be told which options are preselected.
+/// True if the preselected options can be determined.
 bool isCertain(const RVCheckedOptions &options)
 {
     return std::all_of(options.begin(), options.end(), [](const RVCheckedOption &option) {
@@ -38,7 +39,7 @@ bool hasPreselected(const RVOptionsByKey &options)
                        [](const RVCheckedOption *option) { return option->isPreselected; });
 }
 
-/// Of the defaults that have not one value for each key: how many semicolons stand between the values; sorted.
+/// The numbers of semicolons between the values of the defaults that do not have one value for each key; sorted.
 QVarLengthArray<qsizetype, 4> mismatches(const RVCheckedOptions &options)
 {
     QVarLengthArray<qsizetype, 4> result;
@@ -50,7 +51,7 @@ QVarLengthArray<qsizetype, 4> mismatches(const RVCheckedOptions &options)
     return result;
 }
 
-/// Calls visit(option, isDuplicate) with those that count; a duplicate has the value of an earlier one.
+/// Calls visit(option, isDuplicate) for each option that counts; a duplicate has the value of an earlier one.
 template<typename Visitor>
 void visitCounting(Iterator begin, Iterator end, Visitor visit)
 {
@@ -65,7 +66,7 @@ void visitCounting(Iterator begin, Iterator end, Visitor visit)
 
 }
 
-/// The options of one key, as far as they count.
+/// The options of one key that count.
 struct RVOptionDefaultCheck::Key
 {
     Key(Iterator begin, Iterator end)
@@ -76,7 +77,7 @@ struct RVOptionDefaultCheck::Key
             if (option->isPreselected)
                 preselected = earlier(preselected, option);
         });
-        // An option that stands there twice is a mistake of its own.
+        // A duplicate option is a mistake of its own.
         visitCounting(begin, end, [this](const RVCheckedOption *option, bool isDuplicate) {
             if (option->isPreselected && !isDuplicate && option != preselected)
                 preselectedToo = earlier(preselectedToo, option);
@@ -86,7 +87,7 @@ struct RVOptionDefaultCheck::Key
     const RVCheckedOption *first = nullptr;
     const RVCheckedOption *preselected = nullptr;
     const RVCheckedOption *preselectedToo = nullptr;
-    qsizetype values = 0; // that differ
+    qsizetype values = 0; // the number of different values
 };
 
 void RVOptionDefaultCheck::check(const RVCheckedOptions &options, const RVOptionsByKey &byKey)
@@ -98,7 +99,7 @@ void RVOptionDefaultCheck::check(const RVCheckedOptions &options, const RVOption
         Iterator end = std::find_if(begin, byKey.end(),
                                     [begin](const RVCheckedOption *option) { return option->key != (*begin)->key; });
         const Key key(begin, end);
-        // Of two spellings of a key that is one mistake, the default of one is meant for both.
+        // Two spellings of a key are one mistake, so the default of one is meant for both.
         const bool isSpeltTwice = (begin != byKey.begin() && rvIsOtherSpelling((*begin)->key, (*(begin - 1))->key))
                 || (end != byKey.end() && rvIsOtherSpelling((*begin)->key, (*end)->key));
         begin = end;

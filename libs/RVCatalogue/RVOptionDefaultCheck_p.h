@@ -5,7 +5,7 @@
 
 class RVFindingReport;
 
-/// Which options of a product are preselected.
+/// Checks the preselected options of a product.
 class RVOptionDefaultCheck
 {
 public:

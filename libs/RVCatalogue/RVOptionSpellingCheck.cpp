@@ -33,7 +33,7 @@ bool isSeparator(char letter)
     return letter == ',' || letter == ':';
 }
 
-/// True for a blank of ASCII, and for a byte of a letter that may be another one, or invisible.
+/// True for a blank of ASCII, and for a byte of a letter that may look like another one or be invisible.
 bool mayBeBlank(char letter)
 {
     return uchar(letter) <= ' ' || uchar(letter) >= 0x80;
@@ -54,7 +54,7 @@ bool isUnseen(QChar letter)
     return isBlank(letter) || isInvisible(letter);
 }
 
-/// Of a key or a value with blanks, or with letters that nobody sees; without the two.
+/// The text about a key or a value with blanks or invisible letters; its placeholders are not filled in.
 QString faultText(const QString &text, bool hasBlankInside)
 {
     if (hasBlankInside)
@@ -63,7 +63,7 @@ QString faultText(const QString &text, bool hasBlankInside)
                                                           : RVFindingText::tr("the %1 %2 is not what it looks like");
 }
 
-/// The earliest in the file.
+/// The earliest option in the file.
 const RVCheckedOption *earliest(Iterator begin, Iterator end)
 {
     return *std::min_element(begin, end, std::less<>());
@@ -130,7 +130,7 @@ void RVOptionSpellingCheck::check(const RVOptionsByKey &options)
     for (const RVCheckedOption *option : options) {
         const bool isDuplicate = previous && option->key == previous->key && option->value == previous->value;
         previous = option;
-        // An option that stands there twice, or whose values are not equally many, is one mistake.
+        // A duplicate option, or one with a different number of values, is a mistake already.
         if (isDuplicate || option->hasMismatch)
             continue;
         checkLetters(*option, "key"_L1);
@@ -160,7 +160,7 @@ void RVOptionSpellingCheck::checkLetters(const RVCheckedOption &option, QLatin1S
     checkUnseen(option.form, attribute, text);
 }
 
-/// Blanks, and letters that nobody sees.
+/// Finds blanks and invisible letters.
 void RVOptionSpellingCheck::checkUnseen(const RVCatalogueElement &form, QLatin1StringView attribute,
                                         const QString &text)
 {
@@ -177,7 +177,7 @@ void RVOptionSpellingCheck::checkUnseen(const RVCatalogueElement &form, QLatin1S
                   { {}, hasBlankInside ? QList<RVFileEdit>() : rvReplaced(form, attribute, seen) });
 }
 
-/// Judges the options whose keys differ in letter case only.
+/// Checks the options whose keys differ only in letter case.
 void RVOptionSpellingCheck::checkKeys(Iterator begin, Iterator end)
 {
     if ((*begin)->key != (*(end - 1))->key) {
@@ -195,7 +195,7 @@ void RVOptionSpellingCheck::checkKeys(Iterator begin, Iterator end)
     }
 }
 
-/// Of one key.
+/// Checks the values of one key.
 void RVOptionSpellingCheck::checkValues(Iterator begin, Iterator end)
 {
     for (Iterator it = begin; it != end;) {
@@ -221,7 +221,7 @@ void RVOptionSpellingCheck::addLetterCase(const RVCheckedOption &option, const R
                   { { rvPlaceOf(other.form, attribute, RVFindingText::tr("the other spelling")) }, {} });
 }
 
-/// Of one key.
+/// Checks the names of one key.
 void RVOptionSpellingCheck::checkKeyNames(Iterator begin, Iterator end)
 {
     const auto isOther = [begin](const RVCheckedOption *option) { return keyNameOf(option) != keyNameOf(*begin); };

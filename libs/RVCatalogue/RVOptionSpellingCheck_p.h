@@ -5,13 +5,13 @@
 
 class RVFindingReport;
 
-/// The order of keys, and of values: first without regard to letter case and blanks around them, then byte by byte. So
-/// the spellings of one text are neighbours.
+/// The order of keys and of values: first without letter case and surrounding blanks, then byte by byte. So the
+/// spellings of one text are neighbours.
 int rvCompareSpellings(QByteArrayView a, QByteArrayView b);
 /// True for texts that differ, but only in letter case and blanks around them.
 bool rvIsOtherSpelling(QByteArrayView a, QByteArrayView b);
 
-/// Keys and values of options that are legal, but surely not meant.
+/// Checks keys and values of options that are valid, but surely not meant.
 class RVOptionSpellingCheck
 {
 public:

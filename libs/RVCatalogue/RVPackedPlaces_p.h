@@ -9,13 +9,13 @@
 #include <vector>
 
 /**
- * Places of attributes in files that are read one after the other, each of them in one number of 56 bits that is
- * not 0. The begin is kept; the end where the attribute ends in its first line and has at most 63 letters, and
- * otherwise it is the begin. Behind 2^30 lines, in all files together, every place is taken to be in the last of them.
+ * Places of attributes in files that are read one after the other, each as a number of 56 bits that is not 0. The begin
+ * is kept. The end is kept if the attribute ends in its first line and has at most 63 letters; otherwise it is the
+ * begin. After 2^30 lines in all files together, every place is in the last of them.
  *
  * Places are counted from the begin of a page. A file begins one, and so does a product that stands far to the right in
- * its line, so that a column fits into 20 bits also where a whole catalogue is one line. Rows go on from page to page,
- * and so tell the page.
+ * its line, so that a column fits into 20 bits also where a whole catalogue is one line. Rows continue from page to
+ * page, so they identify the page.
  */
 class RVPackedPlaces
 {
@@ -27,7 +27,7 @@ public:
     };
 
     void beginFile();
-    /// Before the attributes of a product; @p position is its begin.
+    /// Call it before the attributes of a product; @p position is the begin of the product.
     void beginProduct(const RVFilePosition &position);
 
     /// @p range lies in the start tag of the product that was begun last.
@@ -40,7 +40,7 @@ private:
     static constexpr quint64 LARGEST_LENGTH = (quint64(1) << LENGTH_BITS) - 1;
     static constexpr quint64 LARGEST_ROW = (quint64(1) << 30) - 1;
     static constexpr quint64 LARGEST_COLUMN = (quint64(1) << COLUMN_BITS) - 1;
-    /// The largest tag, which has 64 KiB, still fits behind it.
+    /// The largest tag has 64 KiB and still fits behind this column.
     static constexpr qint64 LARGEST_COLUMN_OF_PRODUCT = qint64(LARGEST_COLUMN / 2);
 
     struct Page

@@ -9,16 +9,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The widths at so many page counts are compared.
+/// The number of page counts at which widths are compared.
 constexpr qint64 MOST_COUNTS = 10000;
 
-/// Page counts that follow one another, with the same two widths.
+/// Consecutive page counts with the same two widths.
 struct Widths
 {
     RVPageCountRange counts;
     RVVersions<RVDistance> widths;
 
-    /// False where other widths begin.
+    /// Adds a page count; false if its widths differ.
     bool extend(qint64 pages, const RVVersions<RVDistance> &at)
     {
         if (!rvSameLength(widths.before, at.before) || !rvSameLength(widths.after, at.after))

@@ -4,7 +4,7 @@
 class RVCatalogueProduct;
 class RVProductChanges;
 
-/// Adds what differs in page counts and in the spine.
+/// Adds the differences of page counts and of the spine.
 /// @{
 void rvComparePages(const RVCatalogueProduct &before, const RVCatalogueProduct &after, RVProductChanges *changes);
 void rvCompareSpines(const RVCatalogueProduct &before, const RVCatalogueProduct &after, RVProductChanges *changes);

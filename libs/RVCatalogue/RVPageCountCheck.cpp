@@ -11,10 +11,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The books with the most page counts have some hundred, and boxes of single photos some more.
+/// The highest usual number of page counts. Books have some hundred at most, and boxes of single photos some more.
 constexpr qint64 MOST_COUNTS = 1000;
 
-/// The number of page counts of an organisation that is valid and has a step.
+/// The number of page counts of a valid organisation with a step.
 qint64 numberOfCounts(const RVPageCountOrganization &counts)
 {
     return (qint64(counts.maxPages()) - counts.minPages()) / counts.pageIncrement() + 1;
@@ -31,7 +31,7 @@ QString noStepText()
                              "package has");
 }
 
-/// The counts next to a highest one that is none of them; the higher one only where there is such a number.
+/// The counts next to a highest count that the steps miss; the higher one only if it is an int.
 QString missText(const RVPageCountOrganization &counts)
 {
     const qint64 below = counts.pageCounts().last();
@@ -84,7 +84,7 @@ bool RVPageCountCheck::checkValidity(const RVCatalogueElement &product, const RV
     return counts.pageIncrement() == 0 || checkSteps(product, counts);
 }
 
-/// False where the highest page count is probably not the one that was meant.
+/// False if the highest page count is probably not the one that was meant.
 bool RVPageCountCheck::checkSteps(const RVCatalogueElement &product, const RVPageCountOrganization &counts)
 {
     constexpr auto maxPages = "max_pages"_L1;
@@ -111,7 +111,7 @@ bool RVPageCountCheck::checkSteps(const RVCatalogueElement &product, const RVPag
     return true;
 }
 
-/// False, as the page counts are invalid.
+/// Reports invalid page counts, and returns false.
 bool RVPageCountCheck::addInvalid(const RVCatalogueElement &product, QLatin1StringView attribute, const QString &text)
 {
     myReport->add(RVCatalogueRuleId::PageCountsInvalid, product, attribute, text);

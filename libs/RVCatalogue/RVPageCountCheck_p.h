@@ -8,14 +8,14 @@
 class RVCatalogueProduct;
 class RVFindingReport;
 
-/// The page counts of a product, and whether anything else can be judged by them.
+/// The page counts of a product, and a mark that other checks can rely on them.
 struct RVCheckedPageCounts
 {
     RVPageCountOrganization counts;
     bool areValid = false;
 };
 
-/// Page counts of a product.
+/// Checks the page counts of a product.
 class RVPageCountCheck
 {
 public:

@@ -10,7 +10,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The number that times @p factor leaves 1 when divided by @p modulus, with which it has no divisor in common.
+/// The modular inverse of @p factor: its product with @p factor leaves 1 when divided by @p modulus. The two have no
+/// common divisor.
 qint64 inverse(qint64 factor, qint64 modulus)
 {
     qint64 last = 0;
@@ -55,7 +56,7 @@ QJsonObject RVPageCountRange::json() const
     return { { u"from"_s, from }, { u"step"_s, size() > 1 ? step : 0 }, { u"to"_s, to } };
 }
 
-// The Chinese remainder theorem, for two steps. None of them is 0, which linters do not see.
+// The Chinese remainder theorem gives the result for two steps. Neither is 0, which linters do not see.
 RVPageCountRange rvCommonCounts(const RVPageCountRange &a, const RVPageCountRange &b)
 {
     if (a.isEmpty() || b.isEmpty())

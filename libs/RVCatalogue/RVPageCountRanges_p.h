@@ -11,7 +11,7 @@
 struct RVPageCountRange
 {
     qint64 from = 0;
-    qint64 to = -1; ///< Is one of them; below the first where there are none.
+    qint64 to = -1; ///< The last count; below the first if there are none.
     qint64 step = 1; ///< Above 0.
 
     static RVPageCountRange of(const RVPageCounts &counts);
@@ -24,7 +24,7 @@ struct RVPageCountRange
 
 /// The counts that are in both.
 RVPageCountRange rvCommonCounts(const RVPageCountRange &a, const RVPageCountRange &b);
-/// The counts of @p a that are not in @p b, in as few ranges as there are steps or gaps.
+/// The counts of @p a that are not in @p b, with one range for each step or gap.
 QList<RVPageCountRange> rvCountsWithout(const RVPageCountRange &a, const RVPageCountRange &b);
 
 #endif

@@ -24,7 +24,7 @@ void RVPartCheck::checkInnerProducts(const RVCatalogueElement &product)
                       { { rvPlaceOf(product, RVFindingText::tr("the outer product")) } });
 }
 
-/// Finds those of that name that follow the first.
+/// Finds the elements with that name after the first one.
 void RVPartCheck::checkOthers(const RVCatalogueElement &first, QLatin1StringView name)
 {
     for (auto other = first.nextSiblingElement(name); !other.isNull(); other = other.nextSiblingElement(name))

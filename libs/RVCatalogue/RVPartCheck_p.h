@@ -6,7 +6,7 @@
 class RVCatalogueProduct;
 class RVFindingReport;
 
-/// Elements of a product that are not read, because only the first of their kind is.
+/// Finds elements of a product that are not read, because only the first of their kind is.
 class RVPartCheck
 {
 public:

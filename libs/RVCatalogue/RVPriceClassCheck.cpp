@@ -40,7 +40,7 @@ RVPriceClassSet knownPriceClasses()
     return result;
 }
 
-/// In UTF-8, as catalogues have them, so that no text is converted to find one; sorted.
+/// The codes in UTF-8, as in catalogues, so that a search converts no text; sorted.
 const QList<QByteArray> &knownCodes()
 {
     static const QList<QByteArray> theCodes = [] {
@@ -53,7 +53,7 @@ const QList<QByteArray> &knownCodes()
     return theCodes;
 }
 
-/// False also for some that are in the list, where they have rare letters.
+/// False also for some codes in the list that have rare letters.
 bool isQuicklyFoundIn(const QStringList &codes, QByteArrayView code)
 {
     const QAnyStringView wanted = QUtf8StringView(code);
@@ -78,7 +78,7 @@ QString withoutBlanks(const QString &text)
     return result.removeIf([](QChar letter) { return letter.isSpace(); });
 }
 
-/// Blanks do not count where a code is nothing else without them.
+/// Blanks do not count if the code without them is known.
 RVNearestTexts nearestCodes(const QString &text, const QStringList &codes)
 {
     RVNearestTexts result(text);
@@ -90,7 +90,7 @@ RVNearestTexts nearestCodes(const QString &text, const QStringList &codes)
     return result.distance() != 0 && closed.distance() == 0 ? closed : result;
 }
 
-/// The codes that could be meant: the nearest ones, or where none is near, those that begin like that.
+/// The codes that could be meant: the nearest ones, or if none is near, those with the same begin.
 QStringList meantCodes(const QString &text, const QStringList &codes, const RVNearestTexts &nearest)
 {
     constexpr qsizetype shortest = 3;
@@ -129,7 +129,7 @@ void RVPriceClassCheck::addUnknown(const RVCatalogueElement &element, QLatin1Str
     const QString advice = meant.isEmpty()
             ? RVFindingText::tr("write one of a group, or one that begins with 0 for what is not billed")
             : RVFindingText::tr("did you mean %1?").arg(rvOneOf(meant));
-    // Codes that differ in more than letter case and blanks are other codes.
+    // Codes that differ in more than letter case and blanks are different codes.
     const bool isCertain = nearest.texts().size() == 1 && nearest.distance() == 0;
     const QString text = RVFindingText::tr("the price class %1 belongs to no known group").arg(rvQuoted(code));
     myReport->add(RVCatalogueRuleId::PriceClassUnknown, element, name,

@@ -7,7 +7,7 @@
 
 class RVFindingReport;
 
-/// Price class of an add-on.
+/// Checks the price class of an add-on.
 class RVPriceClassCheck
 {
 public:

@@ -8,9 +8,9 @@
 
 namespace {
 
-/// More of it takes noticeably longer, and less of it saves no time.
+/// The level of compression. A higher one takes noticeably longer, and a lower one saves no time.
 constexpr int EFFORT = 1;
-/// A reader accepts larger ones in parts, but a tag may be larger here than it was in the file.
+/// A reader accepts larger products in parts, but a tag may be larger here than in the file.
 constexpr qsizetype LARGEST = qsizetype(32) * 1024;
 
 /// The product in groups with the names of its families.

@@ -9,8 +9,8 @@
 
 #include <vector>
 
-/// Some products in as little memory as they can be read again from. Those of a catalogue resemble one another, so
-/// together they need far less than one by one.
+/// Some products in a compressed form that can be read again. Products of a catalogue resemble one another, so together
+/// they need far less memory than one by one.
 class RVProductPack
 {
 public:
@@ -19,21 +19,21 @@ public:
 
     qint64 size() const { return ends.size(); }
 
-    QByteArray elements; ///< One behind the other, compressed; each with the groups around it.
-    QList<int> ends; ///< Of each product in them.
-    QHash<qint64, RVCatalogueProduct> large; ///< Kept as they are, since they might be too large to be read again.
+    QByteArray elements; ///< The products one behind the other, compressed; each with the groups around it.
+    QList<int> ends; ///< The end of each product in the elements.
+    QHash<qint64, RVCatalogueProduct> large; ///< Not compressed, because they may be too large to be read.
 };
 
-/// Products that are kept until they are asked for, by their numbers from 0.
+/// Products that are stored by their numbers from 0.
 class RVProductArchive
 {
 public:
-    /// Takes products that follow those that are there.
+    /// Appends products.
     void append(const RVProductPack &pack);
 
     qint64 size() const { return mySize; }
-    /// Read again in every call, with its families, but its number and place are not to be relied on. Products that are
-    /// asked for in their order are found quickest.
+    /// The product with a number, read again in every call, with its families. Its own number and place are not those
+    /// of the file. Access in the order of the numbers is fastest.
     RVCatalogueProduct product(qint64 number) const;
 
 private:
@@ -47,7 +47,7 @@ private:
 
     std::vector<Place> myPacks;
     qint64 mySize = 0;
-    mutable QByteArray myUnpacked; // the elements of the pack that was asked last
+    mutable QByteArray myUnpacked; // the elements of the pack that was used last
     mutable std::size_t myUnpackedPack = std::size_t(-1);
 };
 

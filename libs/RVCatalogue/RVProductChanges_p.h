@@ -30,16 +30,16 @@ struct RVVersions
 class RVProductChanges
 {
 public:
-    /// The next changes belong to this one of several: @p prefix comes before their labels.
+    /// Sets the item of the next changes; @p prefix comes before their labels.
     void beginItem(const QString &prefix, const QJsonObject &item);
     void endItem();
 
-    /// Adds nothing where the values are equal. An empty text is one that is not there.
+    /// Adds a change unless the values are equal. An empty text counts as missing.
     void addText(QLatin1StringView subject, const QString &label, const RVVersions<QString> &texts);
     void addNumber(QLatin1StringView subject, const QString &label, const RVVersions<int> &numbers);
     void addBoolean(QLatin1StringView subject, const QString &label, const RVVersions<bool> &booleans);
     void addLength(QLatin1StringView subject, const QString &label, const RVVersions<RVDistance> &lengths);
-    /// Values that are known to differ.
+    /// Adds values that are known to differ.
     void add(QLatin1StringView subject, const QString &label, const RVVersions<RVComparedValue> &values);
 
     QList<RVProductChange> take() { return std::exchange(myChanges, {}); }
@@ -54,9 +54,9 @@ private:
 RVComparedValue rvComparedText(const QString &text);
 RVComparedValue rvComparedNumber(int number);
 
-/// As RVDistance compares them, but infinite lengths are equal to themselves, and so is what is no number.
+/// True for lengths that RVDistance calls equal; infinite lengths and NaN are equal to themselves as well.
 bool rvSameLength(const RVDistance &a, const RVDistance &b);
-/// Both in millimetres, with as many digits as it takes to tell one from the other.
+/// Both lengths in millimetres, with enough digits to distinguish them.
 RVVersions<RVComparedValue> rvComparedLengths(const RVVersions<RVDistance> &lengths);
 QString rvMillimetres(const RVDistance &length);
 

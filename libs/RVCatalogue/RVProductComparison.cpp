@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// True where people read the name, since keywords are numbers.
+/// True if people read the name, because the keywords are numbers.
 bool hasBareKeywords(const RVCatalogueAttribute &attribute)
 {
     return std::apply(

@@ -11,7 +11,7 @@
 
 namespace {
 
-// XML has none of these characters, so nothing else looks alike.
+// XML has none of these characters, so they are unambiguous.
 constexpr char ELEMENT_BEGIN = '\1';
 constexpr char ELEMENT_END = '\2';
 constexpr char TEXT_END = '\0';
@@ -21,7 +21,7 @@ bool isBefore(QByteArrayView a, QByteArrayView b)
     return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end());
 }
 
-/// Writes the elements of a product in a form that is the same for all ways to write them.
+/// Writes the elements of a product in a canonical form.
 class CanonicalText
 {
 public:

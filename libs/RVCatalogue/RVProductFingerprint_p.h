@@ -7,12 +7,12 @@
 
 class RVCatalogueProduct;
 
-/// Products with equal fingerprints have equal elements, attributes and families, however their attributes are ordered
-/// and whatever stands between the tags. Products with unequal ones may still have the same values.
+/// Products with equal fingerprints have equal elements, attributes and families, in any order of the attributes and
+/// with any text between the tags. Products with different fingerprints may still have the same values.
 class RVProductFingerprint
 {
 public:
-    RVProductFingerprint() = default; ///< That of no product.
+    RVProductFingerprint() = default; ///< The fingerprint of no product.
     explicit RVProductFingerprint(const RVCatalogueProduct &product);
 
     friend bool operator==(const RVProductFingerprint &a, const RVProductFingerprint &b)

@@ -15,11 +15,11 @@
  */
 struct RVRelatedPlace
 {
-    RVFileRange range; ///< The piece of the file that is meant.
-    QString text; ///< One line on what stands there, without a full stop, in the language of the program.
-    QString fileName; ///< Empty where it is the file of the finding.
+    RVFileRange range; ///< The piece of the file.
+    QString text; ///< One line about the place, without a full stop, in the language of the program.
+    QString fileName; ///< Empty for the file of the finding.
 
-    /// By all three.
+    /// Compares all three members.
     /// @{
     friend bool operator==(const RVRelatedPlace &a, const RVRelatedPlace &b) noexcept
     {

@@ -14,12 +14,12 @@ class RVCatalogueCheck;
 class RVCatalogueProductData;
 
 /**
- * Leaves out the findings of a product that comments silence: those in the product, in front of it, and in front of the
- * groups around it. A comment is of use where there is a finding in its element, even if another comment silences it,
+ * Removes the findings of a product that comments silence: comments in the product, in front of it, and in front of the
+ * groups around it. A comment has an effect if there is a finding in its element, even if another comment silences it,
  * too.
  *
- * It goes through elements and findings together, in the order of the file, with the comments whose elements are open.
- * It is made for one call of either function.
+ * It walks through elements and findings together, in the order of the file, with the comments whose elements are open.
+ * An object serves one call of either function.
  */
 class RVSilencer
 {
@@ -27,13 +27,13 @@ public:
     /// Both outlive the silencer.
     RVSilencer(const RVCatalogueCheck &check, const RVCatalogueProduct &product);
 
-    /// True where there is any such comment; without one nothing has to be done.
+    /// True if there is any such comment; otherwise there is nothing to do.
     static bool isNeeded(const RVCatalogueProduct &product);
 
-    /// Those of the findings, which are in the order of the file, that are not silenced.
+    /// The findings that are not silenced. The given findings are in the order of the file.
     QList<RVCatalogueFinding> audible(const QList<RVCatalogueFinding> &findings);
-    /// The same with what is wrong with the comments, also in the order of the file. The groups around the product are
-    /// told, so this is done once for each product.
+    /// The same with the findings about the comments, also in the order of the file. It reports to the groups around
+    /// the product, so call it once for each product.
     QList<RVCatalogueFinding> judged(const QList<RVCatalogueFinding> &findings);
 
 private:
@@ -54,7 +54,7 @@ private:
     const RVCatalogueProduct &myProduct;
     const RVCatalogueProductData &myData;
     bool myJudgesComments = false;
-    std::size_t myNext = 0; // the first comment whose element was not reached
+    std::size_t myNext = 0; // the first comment whose element was not reached yet
     std::vector<OpenComment> myOpen;
     RVCatalogueRuleSet myBroken; // in all of the product
     QList<RVCatalogueFinding> myAudible;

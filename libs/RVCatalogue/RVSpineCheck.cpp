@@ -16,7 +16,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// In millimetres. Industrial perfect binders, which make the thickest books, take blocks of at most about that.
+/// The widest spine in millimetres. Industrial perfect binders make the thickest books, and take blocks of at most
+/// about this width.
 constexpr qreal WIDEST_SPINE = 80;
 constexpr qreal TENTHS_PER_MILLIMETRE = 10;
 
@@ -110,7 +111,7 @@ void RVSpineCheck::checkWidths(const Spine &spine)
     checkWidest(spine);
 }
 
-/// Finds widths that say nothing without another one.
+/// Finds widths that have no effect without another one.
 void RVSpineCheck::checkParts(const Spine &spine)
 {
     constexpr auto base = "base_width"_L1;
@@ -165,7 +166,7 @@ bool RVSpineCheck::isFinite(const Spine &spine) const
             && qIsFinite(spine.config.spineWidth(pageCount(myPageCounts.counts.maxPages())).value());
 }
 
-/// True only where nothing else is wrong with the spine.
+/// True only if the spine has no other fault.
 bool RVSpineCheck::shrinksTooFar(const Spine &spine) const
 {
     const bool onlyGrowthIsNegative = !spine.negative.contains("base_width"_L1)

@@ -5,7 +5,7 @@ class RVCatalogueProduct;
 class RVFindingReport;
 struct RVCheckedPageCounts;
 
-/// The spine of a product and the unit of its widths.
+/// Checks the spine of a product and the unit of its widths.
 class RVSpineCheck
 {
 public:

@@ -36,7 +36,7 @@ RVStrayElement stray(const RVXmlTag &tag, RVCatalogueRuleId rule, QLatin1StringV
              {} };
 }
 
-// A comment in front of it is of use, whether it turns out to be a fault or not.
+// A comment in front of it has an effect, even if the element turns out to be no fault.
 void setScope(RVStrayElement *element, const RVSuppressionScope::Pointer &scope)
 {
     if (!scope)

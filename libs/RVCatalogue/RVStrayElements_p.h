@@ -19,7 +19,7 @@ struct RVXmlTag;
 /// An element outside of products that was probably meant to be read.
 struct RVStrayElement
 {
-    RVCatalogueRuleId rule; ///< that it breaks
+    RVCatalogueRuleId rule; ///< the broken rule
     RVFileRange range; ///< the start tag
     QString name;
     QLatin1StringView meant; ///< the known element
@@ -29,30 +29,30 @@ struct RVStrayElement
 
 /**
  * Finds elements outside of products that were probably meant to be read: products whose name is misspelt or has a
- * prefix, and parts of products that stand beside one. Elements that group products may have any name, so an element
- * with a product in it is none of the former, and what stands in a group without products of its own is foreign.
+ * prefix, and parts of products that stand beside one. Elements that group products may have any name. So an element
+ * with a product in it is no misspelt product, and elements in a group without products of its own are foreign.
  *
  * The first thousand of a file are kept.
  */
 class RVStrayElements
 {
 public:
-    /// An element outside of products, which is no product, begins. @p scope silences rules for it; may be null.
+    /// Starts an element outside of products that is no product. @p scope silences rules for it; may be null.
     void startGroup(const RVXmlTag &tag, const RVSuppressionScope::Pointer &scope);
     void endGroup();
-    void startProduct(); ///< In the group that began last.
+    void startProduct(); ///< Starts a product in the current group.
 
-    /// The findings about them, in any order. Only those in groups that have ended.
+    /// The findings about the elements in groups that have ended, in any order.
     QList<RVCatalogueFinding> findings(const RVCatalogueCheck &check) const;
-    /// True where one of these findings, and no mere note, says that a product is not read.
+    /// True if one of these findings, other than a note, says that a product is not read.
     static bool haveProduct(const QList<RVCatalogueFinding> &findings);
 
 private:
     struct Group
     {
-        std::optional<RVStrayElement> product; // that the group was meant to be
+        std::optional<RVStrayElement> product; // the product that the group was meant to be
         std::vector<RVStrayElement> parts; // of products, directly in the group
-        qsizetype firstInside = 0; // of those that are kept
+        qsizetype firstInside = 0; // the index of the first kept element inside
         bool hasProducts = false; // directly
         bool hasInnerProducts = false; // at any depth
     };

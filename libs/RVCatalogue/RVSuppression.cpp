@@ -14,7 +14,7 @@ constexpr auto PROGRAM = "rvcatalog"_L1;
 constexpr auto VERB = "ignore"_L1;
 constexpr qsizetype MOST_UNKNOWN_NAMES = 100;
 
-/// A comment in its parts.
+/// The parts of a comment.
 struct Words
 {
     QString program;
@@ -38,7 +38,7 @@ bool mayBeMeant(QByteArrayView comment)
     return text.startsWith('r') || text.startsWith('R');
 }
 
-/// True for a word that is the program's name, or would be but for a slip of the keyboard.
+/// True for a word that is the program's name, also with a typing mistake.
 bool isNearProgram(const QString &word)
 {
     constexpr int tooFar = 3;
@@ -47,7 +47,7 @@ bool isNearProgram(const QString &word)
     return !nearest.text().isNull();
 }
 
-/// Without letter case; nothing for a comment that begins with another word.
+/// Splits a comment, ignoring letter case; nothing for a comment that begins with another word.
 std::optional<Words> wordsOf(QByteArrayView comment)
 {
     static const QRegularExpression form(uR"(^\s*(r\w{1,11})\s*([:-]?)\s*(\w*)\s*:?(.*)$)"_s,
@@ -60,7 +60,8 @@ std::optional<Words> wordsOf(QByteArrayView comment)
                    match.captured(4).split(separator, Qt::SkipEmptyParts) };
 }
 
-/// True for what would silence a rule if it were spelled well. Other people's sentences about the program are not.
+/// True for a comment that would silence a rule with the right spelling. Ordinary sentences about the program are
+/// different.
 bool isMisspelt(const Words &words)
 {
     return words.isForProgram() ? words.hasColon || words.namesRule() : words.isVerbRight() || words.namesRule();

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// True where the rule can find anything: it is not disabled, and the program has what it needs.
+/// True if the rule can have findings: it is not disabled, and the program can check it.
 bool isJudged(const RVCatalogueCheck &check, RVCatalogueRule rule)
 {
     const bool needsFonts = RVCatalogueRuleRow::of(rule)->id == RVCatalogueRuleId::SpineFontTooSmall;
@@ -19,7 +19,7 @@ bool isJudged(const RVCatalogueCheck &check, RVCatalogueRule rule)
     return check.isEnabled(rule) && (hasFonts || !needsFonts);
 }
 
-/// The rules of the comment that could have found something, and did not.
+/// The rules of the comment that could have findings, but have none.
 QStringList unusedRules(const RVSuppression &comment, const RVCatalogueRuleSet &broken, const RVCatalogueCheck &check)
 {
     QStringList result;
@@ -31,7 +31,7 @@ QStringList unusedRules(const RVSuppression &comment, const RVCatalogueRuleSet &
     return result;
 }
 
-/// None where half of the letters differ.
+/// The nearest rule; none if half of the letters differ.
 QString nearestRule(const QString &name)
 {
     RVNearestText nearest(name, int(name.size() + 1) / 2);

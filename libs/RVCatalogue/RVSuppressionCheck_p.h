@@ -5,14 +5,14 @@
 
 class RVFindingReport;
 
-/// Finds comments that silence nothing, and names of rules that there are not.
+/// Finds comments that silence nothing, and names of unknown rules.
 class RVSuppressionCheck
 {
 public:
     /// @p report outlives the check.
     explicit RVSuppressionCheck(RVFindingReport *report) : myReport(report) { }
 
-    /// @p broken are the rules that something in the element of the comment breaks.
+    /// @p broken are the rules that are broken in the element of the comment.
     void check(const RVSuppression &comment, const RVCatalogueRuleSet &broken);
 
 private:

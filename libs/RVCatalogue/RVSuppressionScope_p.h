@@ -10,9 +10,9 @@
 #include <vector>
 
 /**
- * A group of products, or the root element, that comments silence rules for. The parser and the products of the group
- * share it. It is judged once it is closed and all that was expected in it was judged; only then it is known which of
- * its comments silence nothing.
+ * A group of products, or the root element, with comments that silence rules. The parser and the products of the group
+ * share it. It is judged after it was closed and all its products and scopes were judged. Only then the comments that
+ * silence nothing are known.
  */
 class RVSuppressionScope : public QSharedData
 {
@@ -28,25 +28,25 @@ public:
     const std::vector<RVSuppression> &comments() const { return myComments; }
     const Pointer &outer() const { return myOuter; }
     std::size_t level() const { return myLevel; }
-    /// True where a comment of this scope, or of one around it, names the rule.
+    /// True if a comment of this scope, or of one around it, names the rule.
     bool silences(RVCatalogueRuleId rule) const;
 
-    /// A product or a scope in it will be judged, or the end of the group is to come.
+    /// Announces a product or a scope in the group, or the end of the group.
     void expect();
-    /// One of those was, and broke these rules. Any thread.
+    /// Marks one of those as judged, with the rules that it broke. Any thread.
     void judge(const RVCatalogueRuleSet &broken);
-    /// Something else in the group broke these rules. Any thread.
+    /// Adds rules that another part of the group broke. Any thread.
     void addBroken(const RVCatalogueRuleSet &broken);
 
     bool isJudged() const; ///< True when nothing more is expected.
-    RVCatalogueRuleSet broken() const; ///< In the group so far, silenced or not.
+    RVCatalogueRuleSet broken() const; ///< The rules broken in the group so far, silenced or not.
 
 private:
     std::vector<RVSuppression> myComments;
     Pointer myOuter;
     std::size_t myLevel;
     RVCatalogueRuleSet myRules; // of all comments
-    mutable QMutex myMutex; // for what follows
+    mutable QMutex myMutex; // protects the members below
     RVCatalogueRuleSet myBroken;
     qint64 myExpected = 0;
 };

@@ -9,10 +9,10 @@
 namespace {
 
 constexpr qint64 PIECE = qint64(64) * 1024;
-/// Letters are converted one by one within so many bytes of UTF-8 in front of the end of a piece: no letter, and no two
-/// that are written as one, has more.
+/// The number of bytes of UTF-8 before the end of a piece in which letters are converted one by one: no letter, and no
+/// two that are written as one, have more.
 constexpr qint64 MARGIN = 16;
-/// No letter has more bytes in any encoding, with what switches to its alphabet.
+/// The most bytes of a letter in any encoding, including the switch to its alphabet.
 constexpr qsizetype LONGEST_LETTER = 16;
 
 }
@@ -29,10 +29,10 @@ public:
             ::iconv_close(myHandle);
     }
 
-    // NOLINTNEXTLINE(performance-no-int-to-ptr): so is the error defined
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the error is defined like this
     bool isKnown() const { return myHandle != iconv_t(-1); }
 
-    /// Converts from the begin of @p bytes on until the text has so many bytes.
+    /// Converts from the begin of @p bytes on until the text has this number of bytes.
     RVTextPiece convert(QByteArrayView bytes, qint64 room) const
     {
         QByteArray text(room, Qt::Uninitialized);
@@ -56,7 +56,7 @@ public:
         return text;
     }
 
-    /// True where a letter comes out only with the one behind it.
+    /// True if a letter is converted only together with the next one.
     bool keeps(QByteArrayView letter) const
     {
         const RVTextPiece converted = convert(letter, MARGIN);
@@ -96,7 +96,8 @@ RVTextPiece RVTextBytes::take(qint64 size)
     return piece.isEmpty() ? takeLetter() : piece;
 }
 
-// A letter that comes out late belongs behind the piece, and so does one that came out together with the last of it.
+// A letter that is returned late belongs behind the piece, and so does one that was returned together with the last
+// one.
 RVTextPiece RVTextBytes::takeExactly(qint64 size)
 {
     RVTextPiece taken;
@@ -114,7 +115,7 @@ RVTextPiece RVTextBytes::takeExactly(qint64 size)
     return taken += { QByteArray(), last.text.first(missing) };
 }
 
-// As few bytes as iconv takes.
+// The smallest number of bytes that iconv accepts.
 RVTextPiece RVTextBytes::takeLetter()
 {
     for (qsizetype size = 1; size <= LONGEST_LETTER; ++size) {

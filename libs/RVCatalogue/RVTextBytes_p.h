@@ -7,7 +7,7 @@
 
 class QIODevice;
 
-/// Some letters of a file: the bytes that stand there, and the same in UTF-8.
+/// Some letters of a file: their bytes, and the same in UTF-8.
 struct RVTextPiece
 {
     QByteArray bytes;
@@ -23,24 +23,24 @@ struct RVTextPiece
 };
 
 /**
- * The bytes of a text file, taken by the size that they have in UTF-8. So a place in the text is found in the file,
- * whatever its encoding is: iconv stops where the text would become larger.
+ * The bytes of a text file, read by the size that they have in UTF-8. So a place in the text is found in the file in
+ * every encoding: iconv stops before the text becomes larger.
  *
- * Some encodings write one letter as two that follow one another. iconv looks at the second before it hands out the
- * first, so near the end of a piece the letters are converted one by one.
+ * Some encodings write one letter as two that follow one another. iconv reads the second before it returns the first,
+ * so near the end of a piece the letters are converted one by one.
  */
 class RVTextBytes
 {
     Q_DISABLE_COPY_MOVE(RVTextBytes)
 
 public:
-    /// @p device outlives the object and stands behind the byte order mark. @p encoding is a name that iconv knows, or
-    /// empty for UTF-8.
+    /// @p device outlives the object and is positioned behind the byte order mark. @p encoding is a name that iconv
+    /// knows, or empty for UTF-8.
     RVTextBytes(QIODevice *device, const QByteArray &encoding);
     ~RVTextBytes();
 
-    /// The next letters; @p size, which is above 0, is that of their text at most. An empty piece at the end of the
-    /// file, and where the bytes are no letters or cannot be read.
+    /// The next letters, with at most @p size bytes of text, which is above 0. An empty piece at the end of the file,
+    /// and if the bytes are no letters or cannot be read.
     RVTextPiece take(qint64 size);
 
 private:
@@ -55,9 +55,9 @@ private:
     QIODevice *myDevice;
     std::unique_ptr<Converter> myConverter; // none for UTF-8
     std::unique_ptr<Converter> myProbe; // for single letters
-    QByteArray myBytes; // that were read
-    qsizetype myPlace = 0; // of the first of them that was not converted
-    RVTextPiece myAhead; // was converted, and belongs behind the piece that was taken last
+    QByteArray myBytes; // the bytes that were read
+    qsizetype myPlace = 0; // of the first byte that was not converted
+    RVTextPiece myAhead; // converted letters that belong behind the last piece
 };
 
 #endif

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// No letter has more bytes in any encoding, with what switches to its alphabet.
+/// The most bytes of a letter in any encoding, including the switch to its alphabet.
 constexpr std::size_t LONGEST_LETTER = 16;
 
 QByteArray referenceTo(char32_t letter)
@@ -24,7 +24,7 @@ RVTextEncoder::RVTextEncoder(const QByteArray &encoding)
 
 RVTextEncoder::~RVTextEncoder()
 {
-    // NOLINTNEXTLINE(performance-no-int-to-ptr): so is the error defined
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the error is defined like this
     if (myHandle && myHandle != iconv_t(-1))
         ::iconv_close(myHandle);
 }
@@ -49,11 +49,11 @@ RVEncodedText RVTextEncoder::encode(const QString &text) const
     return result;
 }
 
-/// False where the encoding does not have the letter. Null for a letter ends the text: the bytes switch back to the
-/// first alphabet.
+/// False if the encoding does not have the letter. A null letter ends the text: the bytes switch back to the first
+/// alphabet.
 bool RVTextEncoder::append(QByteArray *bytes, QByteArrayView letter) const
 {
-    // NOLINTNEXTLINE(performance-no-int-to-ptr): so is the error defined
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the error is defined like this
     if (myHandle == iconv_t(-1))
         return false;
     std::array<char, LONGEST_LETTER * LONGEST_LETTER> buffer {};
@@ -61,7 +61,7 @@ bool RVTextEncoder::append(QByteArray *bytes, QByteArrayView letter) const
     auto left = std::size_t(letter.size());
     char *to = buffer.data();
     auto room = buffer.size();
-    // Above 0 are letters that would come back as others.
+    // A result above 0 means letters that would be read back as others.
     if (::iconv(myHandle, letter.isNull() ? nullptr : &from, &left, &to, &room) != 0)
         return false;
     bytes->append(buffer.data(), to - buffer.data());

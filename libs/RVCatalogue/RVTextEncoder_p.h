@@ -5,14 +5,15 @@
 
 #include <QString>
 
-/// A text as it is written into a file.
+/// A text in the encoding of a file.
 struct RVEncodedText : RVTextPiece
 {
-    /// The first letter that the encoding cannot write, for which a reference is written; 0 where there is none.
+    /// The first letter that the encoding lacks, for which a reference is written; 0 if there is none.
     char32_t reference = 0;
 };
 
-/// Writes texts of XML in the encoding of a file: what the encoding cannot write becomes a reference as "&#x20AC;".
+/// Writes texts of XML in the encoding of a file: a letter that the encoding lacks becomes a reference such as
+/// "&#x20AC;".
 class RVTextEncoder
 {
     Q_DISABLE_COPY_MOVE(RVTextEncoder)

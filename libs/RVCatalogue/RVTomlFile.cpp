@@ -1,13 +1,13 @@
 #include "RVConfigurationTree_p.h"
 
-// Exceptions stay off, and all of the library stays in this file, which alone includes it.
+// Exceptions are off. Only this file includes toml++, so all of it stays here.
 #define TOML_HEADER_ONLY 1
 #define TOML_EXCEPTIONS 0
 #define TOML_ENABLE_FORMATTERS 0
 #define TOML_ENABLE_UNRELEASED_FEATURES 0
 #define TOML_MAX_NESTED_VALUES 16
-// Some of its assertions do not hold for a broken file, which it refuses right behind them. Without NDEBUG it takes
-// them for assertions, not for what the compiler may rely on.
+// Some assertions of toml++ fail for a broken file, which it refuses right after them. With this setting they are
+// assertions, not assumptions for the compiler.
 #undef NDEBUG
 #define TOML_ASSERT(expression) static_cast<void>(0)
 #include <toml++/toml.h>
@@ -22,8 +22,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// More dots would nest tables so deeply in one line that the library, which descends into each of them, would need
-/// more stack than a thread has.
+/// The most dots in a line. More of them would nest tables so deeply that toml++, which recurses into each table, would
+/// need more stack than a thread has.
 constexpr qsizetype MOST_DOTS = 256;
 
 class RVTomlFile
@@ -44,8 +44,8 @@ private:
     RVConfigurationTree *myTree;
 };
 
-/// The text with other letters than those of ASCII encoded, and without the byte order mark. The library looks for
-/// blanks among them in a way that only compilers of good will take well.
+/// The text without the byte order mark, and with all letters beyond ASCII encoded. toml++ searches such letters for
+/// blanks in a way that is undefined behaviour.
 QByteArray encoded(QByteArray text)
 {
     static const QByteArray plain = [] {
@@ -80,7 +80,7 @@ bool isForeign(const QByteArray &line)
     return !QByteArrayView(line).isValidUtf8();
 }
 
-/// The first line of that kind, as a fault; none where no line is of it.
+/// The first line with too many dots, as a fault; none if there is no such line.
 std::optional<RVConfigurationFault> lineFault(const QByteArray &text, bool (*isOfKind)(const QByteArray &),
                                               const QString &fault)
 {
@@ -117,7 +117,7 @@ RVConfigurationFault RVTomlFile::faultOf(const toml::parse_error &error) const
     return { tr("this is no TOML: %1").arg(description), position };
 }
 
-// NOLINTBEGIN(misc-no-recursion): it goes no deeper than an entry may lie
+// NOLINTBEGIN(misc-no-recursion): the depth is limited to that of an entry
 
 QJsonObject RVTomlFile::converted(const toml::table &table, const QStringList &path)
 {

@@ -35,7 +35,7 @@ const QList<Unit> &units()
     return theUnits;
 }
 
-/// Without blanks and invisible letters, in lower case.
+/// The text without blanks and invisible letters, in lower case.
 QString squeezed(const QString &text)
 {
     QString result = RVForeignLetters(text).plain().toLower();
@@ -61,7 +61,7 @@ QStringList rvUnits()
 QString rvMeantUnit(const QString &text)
 {
     const QString wanted = squeezed(text);
-    // A tenth of a millimetre is no slip of the fingers for another part of another unit.
+    // Another part of another unit is no typing mistake for a tenth of a millimetre.
     const bool hasDigit = std::any_of(wanted.begin(), wanted.end(), [](QChar letter) { return letter.isDigit(); });
     RVNearestTexts nearest(wanted, hasDigit ? 0 : 2);
     for (const Unit &unit : units()) {

@@ -4,13 +4,13 @@
 #include <QString>
 #include <QStringList>
 
-/// True for the texts that "units" may have.
+/// True for the valid texts of "units".
 bool rvIsUnit(const QString &text);
 
-/// All of them.
+/// All valid texts.
 QStringList rvUnits();
 
-/// The unit that a text means which is none: "mm" for "Millimeter" and "MM"; null where it may mean several or none.
+/// The unit that an invalid text means: "mm" for "Millimeter" and "MM"; null if it may mean several or none.
 QString rvMeantUnit(const QString &text);
 
 #endif

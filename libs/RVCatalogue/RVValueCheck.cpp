@@ -27,7 +27,7 @@ constexpr BooleanText BOOLEAN_TEXTS[] = {
     { QLatin1StringView("1"), true },    { QLatin1StringView("0"), false },
 };
 
-/// The boolean that a text means which is none: "true" for " true" and "ture"; null where it may mean both, or none.
+/// The boolean that an invalid text means: "true" for " true" and "ture"; null if it may mean both, or none.
 QString meantBoolean(const QString &text)
 {
     const QString plain = RVForeignLetters(text).plain().trimmed();

@@ -7,8 +7,8 @@
 
 class RVFindingReport;
 
-/// Reads a value and reports it where it cannot be read. Returns @p missing where there is no such attribute, and
-/// nothing where it cannot be read, or where it is there under another name.
+/// Reads a value and reports it if it cannot be read. Returns @p missing if there is no such attribute, and nothing if
+/// it cannot be read or has another name.
 /// @{
 std::optional<int> rvCheckedInt(const RVCatalogueElement &element, QLatin1StringView name, int missing,
                                 RVFindingReport *report);
@@ -18,10 +18,10 @@ std::optional<bool> rvCheckedBool(const RVCatalogueElement &element, QLatin1Stri
                                   RVFindingReport *report);
 /// @}
 
-/// Reports "units" where there is no such unit. True where it is missing, too, unless it is there under another name.
+/// Reports "units" if there is no such unit. True also if the attribute is missing, unless it has another name.
 bool rvCheckUnit(const RVCatalogueElement &element, RVFindingReport *report);
 
-/// True where the attribute is missing, empty, or white space.
+/// True if the attribute is missing, empty, or white space.
 bool rvIsBlank(const RVCatalogueElement &element, QLatin1StringView name);
 
 #endif

@@ -20,15 +20,15 @@ namespace {
 
 constexpr int DEEPEST_LEVEL = 256;
 constexpr qint64 LARGEST_PIECE = qint64(1024) * 1024;
-/// The parser compares each attribute of a tag with all others, so a tag has to end while that takes no time.
+/// The largest tag. The parser compares each attribute of a tag with all others, so the limit keeps that fast.
 constexpr qint64 LARGEST_TAG = qint64(64) * 1024;
-/// The parser is given so much at once, and looks at a tag when it has come to its end.
+/// The number of bytes that the parser gets at once. It handles a tag when the tag is complete.
 constexpr qsizetype BITE = qsizetype(16) * 1024;
 
-/// The text is in UTF-8, whatever its first line says, and references come as the letters that they stand for.
+/// The options of the parser: the text is in UTF-8, even if its first line says otherwise, and references are resolved.
 constexpr int OPTIONS = XML_PARSE_NONET | XML_PARSE_IGNORE_ENC | XML_PARSE_NOENT;
 
-/// Errors of the parser in words for people; %1 is the name that the parser tells.
+/// The errors of the parser as clear messages; %1 is the name from the parser.
 struct ErrorText
 {
     int code;
@@ -63,21 +63,21 @@ using ParserError = const xmlError *;
 using ParserError = xmlError *;
 #endif
 
-/// The letter at the begin of a text in UTF-8; nothing where there is none.
+/// The letter at the begin of a text in UTF-8; nothing if there is none.
 std::optional<char32_t> letterIn(QByteArrayView text)
 {
     constexpr qsizetype longestLetter = 4;
     for (qsizetype size = 1; size <= qMin(text.size(), longestLetter); ++size) {
         if (!QUtf8StringView(text.data(), size).isValidUtf8())
             continue;
-        // A byte order mark is a letter here.
+        // A byte order mark counts as a letter here.
         QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
         return QString(decoder(text.first(size))).toUcs4().value(0);
     }
     return std::nullopt;
 }
 
-/// True for a letter that no XML file may hold.
+/// True for a letter that XML forbids.
 bool isForbidden(std::optional<char32_t> letter)
 {
     const bool isControl = letter && *letter < 0x20 && (*letter == 0 || !std::strchr("\t\r\n", int(*letter)));
@@ -106,21 +106,21 @@ QByteArrayView nameOf(QByteArrayView tag)
     return tag.sliced(1).first(end - tag.begin() - 1);
 }
 
-/// The place of the last such letter; 0 where there is none.
+/// The place of the last such letter; 0 if there is none.
 qsizetype lastPlace(char letter, QByteArrayView text)
 {
     const void *found = ::memrchr(text.data(), letter, std::size_t(text.size()));
     return found ? static_cast<const char *>(found) - text.data() : 0;
 }
 
-/// The place of the last "<"; 0 where there is none.
+/// The place of the last "<"; 0 if there is none.
 qsizetype lastTag(QByteArrayView text)
 {
     return lastPlace('<', text);
 }
 
 /// The place of the last "<!--", of which there is one; no comment has another one in it, as "--" is not allowed there.
-/// Commented-out elements have many a "<" and "-", but hardly an exclamation mark.
+/// Commented-out elements have many "<" and "-", but hardly any exclamation marks.
 qsizetype lastComment(QByteArrayView text)
 {
     qsizetype mark = lastPlace('!', text);
@@ -187,7 +187,7 @@ struct RVXmlScanner::Events
 
 void RVXmlScanner::FreeParser::operator()(_xmlParserCtxt *parser) const
 {
-    xmlFreeDoc(parser->myDoc); // the parser makes one for a document type
+    xmlFreeDoc(parser->myDoc); // the parser creates one for a document type
     xmlFreeParserCtxt(parser);
 }
 
@@ -237,7 +237,7 @@ void RVXmlScanner::bite(QByteArrayView text)
         failAt(tr("a tag is larger than 64 KiB"), parsed());
 }
 
-// Nothing but blanks stands in front of the first "<". The parser would complain of whatever else it is.
+// Only blanks may stand in front of the first "<". The parser's message about other letters would be unclear.
 bool RVXmlScanner::isXml(QByteArrayView text)
 {
     const auto *visible = std::find_if_not(text.begin(), text.end(), [](char letter) {
@@ -264,7 +264,7 @@ void RVXmlScanner::startElement(const unsigned char *const *attributes, int give
 {
     if (!myError.isEmpty())
         return;
-    // No letter of a tag is "<" but its first.
+    // Only the first letter of a tag is "<".
     const qint64 end = parsed();
     moveTo(myWindowBegin + lastTag(textBefore(end)));
     const QByteArrayView text = QByteArrayView(myWindow).sliced(myEvent);
@@ -307,7 +307,7 @@ void RVXmlScanner::comment()
     myHandler->comment({ comment.sliced(begin).chopped(end), { myPosition, position(behind) } });
 }
 
-// Something that is no product has come to its end.
+// An element that is no product has ended.
 void RVXmlScanner::passOver()
 {
     if (!myError.isEmpty())
@@ -332,7 +332,7 @@ void RVXmlScanner::refuseUnknownEntity(const QString &name, QByteArrayView befor
     failAt(tr("the entity \"%1\" is not declared; write the letter itself").arg(name), myWindowBegin + reference);
 }
 
-/// So many bytes of the text the parser has behind it.
+/// The number of bytes that the parser has processed.
 qint64 RVXmlScanner::parsed() const
 {
     return xmlByteConsumed(myParser.get());
@@ -388,7 +388,7 @@ void RVXmlScanner::failAt(const QString &error, qint64 index)
     fail(error, position(qBound(myWindowBegin + myEvent, index, myWindowBegin + myWindow.size())));
 }
 
-// An error at the end of the file means that the file is cut off, whatever the parser calls it.
+// An error at the end of the file means that the file is cut off, even if the parser calls it something else.
 void RVXmlScanner::failEarly()
 {
     if (myOpenElements.empty())
@@ -429,7 +429,7 @@ QString RVXmlScanner::wrongEnd(QByteArrayView text) const
             .arg(shown(nameOf(tag)), shown(innermostName()), QString::number(open.line));
 }
 
-/// The message about a letter that XML does not allow; nothing for any other letter.
+/// The message about a letter that XML forbids; empty for any other letter.
 std::optional<QString> RVXmlScanner::wrongLetter(QByteArrayView text) const
 {
     const std::optional<char32_t> letter = letterIn(text);

@@ -26,8 +26,8 @@ struct RVXmlTag
     QByteArrayView text; ///< as it stands in the file, in UTF-8, from "<" to ">"
     QByteArrayView name;
     const unsigned char *const *attributes; ///< five pointers each; name spaces are not among them
-    int givenAttributes; ///< so many of them stand in the tag, in the same order
-    int allAttributes; ///< with those that only the document type gives
+    int givenAttributes; ///< the number of those in the tag, in the same order
+    int allAttributes; ///< the number with those that only the document type gives
     RVFilePosition position;
 
     /// An attribute as the parser reads it.
@@ -55,15 +55,16 @@ public:
 
     virtual void startElement(const RVXmlTag &tag) = 0;
     virtual void endElement() = 0;
-    /// Passed over by default.
+    /// Handles a comment; the default does nothing.
     virtual void comment(const RVXmlComment &comment);
     /// True while the events belong to one piece of the file, which may have at most 1 MiB.
     virtual bool isInPiece() const = 0;
 };
 
 /**
- * Finds the elements of an XML file, piece by piece. It refuses what is not well-formed, and for the sake of memory and
- * patience entities, deep nesting and large pieces. libxml2 parses; the wording and the places of errors are ours.
+ * Finds the elements of an XML file, piece by piece. It refuses files that are not well-formed. To limit memory and
+ * time, it also refuses entities, deep nesting and large pieces. libxml2 parses; this class makes the texts and the
+ * places of errors.
  */
 class RVXmlScanner
 {
@@ -78,11 +79,11 @@ public:
     /// The message about a file that could not be opened.
     static QString openError(const QIODevice &file);
 
-    /// Parses the next piece of the file; false when there was none, and after an error.
+    /// Parses the next piece of the file; false at the end and after an error.
     bool scan();
 
-    bool isAtEnd() const { return myIsAtEnd; } ///< Also after an error.
-    QString errorString() const { return myError; } ///< Empty while there is none.
+    bool isAtEnd() const { return myIsAtEnd; } ///< True also after an error.
+    QString errorString() const { return myError; } ///< Empty without an error.
     RVFilePosition errorPosition() const { return myErrorPosition; }
     qint64 bytesRead() const { return mySource.bytesRead(); }
 
@@ -126,7 +127,7 @@ private:
     RVXmlSource mySource;
     RVXmlHandler *myHandler;
     std::unique_ptr<_xmlParserCtxt, FreeParser> myParser;
-    QByteArray myWindow; // the text from the last event of the piece before on
+    QByteArray myWindow; // the text since the last event of the previous piece
     qint64 myWindowBegin = 0; // in the whole text
     qsizetype myEvent = 0; // the last one, in the window
     RVFilePosition myPosition; // of the last event
@@ -136,7 +137,7 @@ private:
     QByteArray myOpenNames; // of all of them, one behind the other
     QString myError;
     RVFilePosition myErrorPosition;
-    qint64 myFed = 0; // so much of the text was given to the parser
+    qint64 myFed = 0; // the number of bytes given to the parser
     bool myHasMarkup = false;
     bool myHasElements = false;
     bool myIsEnding = false;

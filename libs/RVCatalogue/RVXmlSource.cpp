@@ -14,10 +14,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qint64 PIECE = qint64(64) * 1024;
-/// A declaration is shorter than this.
+/// The limit of a declaration, which is always shorter.
 constexpr qint64 LONGEST_DECLARATION = 1024;
 
-/// An encoding that the first bytes give away: by a byte order mark, or by the letter "<".
+/// An encoding that the first bytes identify: by a byte order mark, or by the letter "<".
 struct Beginning
 {
     QByteArrayView bytes;
@@ -25,7 +25,7 @@ struct Beginning
     bool isMark;
 };
 
-// The longer ones first: the mark of UTF-32 begins with that of UTF-16.
+// The longer marks come first, because the mark of UTF-32 begins with that of UTF-16.
 const Beginning BEGINNINGS[] = {
     { QByteArrayView("\x00\x00\xfe\xff", 4), "UTF-32BE", true },
     { QByteArrayView("\xff\xfe\x00\x00", 4), "UTF-32LE", true },
@@ -38,7 +38,7 @@ const Beginning BEGINNINGS[] = {
     { QByteArrayView("<\x00", 2), "UTF-16LE", false },
 };
 
-/// True where a declaration would have come to its end, in any encoding, so that a pipe need not give more.
+/// True if a declaration would have ended, in any encoding, so that a pipe need not deliver more.
 bool hasWholeDeclaration(QByteArrayView bytes)
 {
     constexpr qsizetype largestLetter = 4;
@@ -54,7 +54,7 @@ bool isDeclaration(QByteArrayView text)
             && text[begin.size()] != '\0';
 }
 
-/// The name in the declaration; empty where the text has no declaration, or one without an encoding.
+/// The name in the declaration; empty if the text has no declaration, or one without an encoding.
 QByteArray declaredEncoding(QByteArrayView text)
 {
     const qsizetype end = text.indexOf("?>");
@@ -83,13 +83,13 @@ bool isUtf8(const QByteArray &encoding)
     return encoding.compare("UTF-8", Qt::CaseInsensitive) == 0 || encoding.compare("UTF8", Qt::CaseInsensitive) == 0;
 }
 
-/// The name without the order of the bytes, which the first of them tell.
+/// The name without the byte order, which the first bytes show.
 QByteArray familyOf(const QByteArray &found)
 {
     return isUtf8(found) ? found : found.chopped(2);
 }
 
-/// True where a text in the one encoding may call it by the other name.
+/// True if a text in the first encoding may declare the other name.
 bool isSameFamily(const QByteArray &found, const QByteArray &declared)
 {
     if (isUtf8(found))
@@ -113,10 +113,10 @@ public:
             ::iconv_close(myHandle);
     }
 
-    // NOLINTNEXTLINE(performance-no-int-to-ptr): so is the error defined
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the error is defined like this
     bool isKnown() const { return myHandle != iconv_t(-1); }
 
-    /// Appends what can be converted; the bytes that are left over. False where they are wrong.
+    /// Appends the converted bytes to @p text and leaves the others in @p bytes. False if the bytes are wrong.
     bool convert(QByteArray *bytes, QByteArray *text) const
     {
         char *from = bytes->data();
@@ -136,7 +136,7 @@ public:
         return isRight;
     }
 
-    /// Forgets the alphabet that was switched to, and a letter that waits for the one behind it.
+    /// Resets the current alphabet, and a letter that waits for the next one.
     void reset() const { ::iconv(myHandle, nullptr, nullptr, nullptr, nullptr); }
 
 private:
@@ -149,7 +149,7 @@ RVXmlSource::~RVXmlSource() = default;
 
 QByteArray RVXmlSource::read()
 {
-    // A piece may be but a part of a letter.
+    // A piece may be only a part of a letter.
     while (myFault.isEmpty()) {
         const QByteArray bytes = myHasBegun ? readDevice(PIECE) : readBegin();
         QByteArray text = myConverter ? converted(myRest + bytes) : bytes;
@@ -177,7 +177,7 @@ QByteArray RVXmlSource::readDevice(qint64 size)
 {
     QByteArray bytes(size, Qt::Uninitialized);
     const qint64 read = myDevice->read(bytes.data(), size);
-    // A device that has come to its end may say so in this way too.
+    // A device at its end may also report this.
     if (read < 0 && !myDevice->atEnd())
         myFault = tr("cannot read on: %1").arg(myDevice->errorString());
     bytes.truncate(qMax(read, qint64(0)));
@@ -199,7 +199,7 @@ QByteArray RVXmlSource::readBegin()
     decideOnEncoding(&bytes);
     if (!myFault.isEmpty())
         return QByteArray();
-    myFault = deviceFault; // behind what was read
+    myFault = deviceFault; // after the bytes that were read
     return bytes;
 }
 
@@ -215,7 +215,7 @@ void RVXmlSource::decideOnEncoding(QByteArray *bytes)
     beginAs(found->encoding, *bytes);
 }
 
-// The letters of the declaration are those of ASCII, so it can be read before its encoding is known.
+// The declaration has only letters of ASCII, so it can be read before its encoding is known.
 void RVXmlSource::beginAsDeclared(const QByteArray &bytes)
 {
     const QByteArray declared = declaredEncoding(bytes.first(qMin(bytes.size(), LONGEST_DECLARATION)));
@@ -232,7 +232,7 @@ void RVXmlSource::beginAsDeclared(const QByteArray &bytes)
                           .arg(QString::fromLatin1(myEncoding));
 }
 
-// The declaration may say so too, but nothing else.
+// The declaration may name this encoding too, but no other.
 void RVXmlSource::beginAs(const QByteArray &encoding, const QByteArray &bytes)
 {
     myEncoding = encoding;

@@ -10,11 +10,11 @@
 class QIODevice;
 
 /**
- * The text of an XML file, in UTF-8 whatever the file is written in. A byte order mark or the declaration in its first
- * line says what that is, UTF-8 otherwise; iconv does the rest.
+ * The text of an XML file, converted to UTF-8 from every encoding. A byte order mark or the declaration in the first
+ * line names the encoding, which otherwise is UTF-8; iconv converts.
  *
- * UTF-8 goes through as it is, for the parser to judge. Bytes that no letter has in another encoding end the text,
- * after all that stands before them.
+ * UTF-8 passes unchanged, and the parser checks it. In other encodings, invalid bytes end the text, after everything
+ * before them.
  */
 class RVXmlSource
 {
@@ -26,23 +26,23 @@ public:
     explicit RVXmlSource(QIODevice *device);
     ~RVXmlSource();
 
-    /// The next piece of the text without the byte order mark; empty at the end, and when there is a fault.
+    /// The next piece of the text without the byte order mark; empty at the end and after a fault.
     QByteArray read();
-    /// The reason why the text ended before the file did; empty while it did not.
+    /// The reason why the text ended before the file; empty without a fault.
     QString fault() const { return myFault; }
     /// The message about a text that is not written in its encoding.
     QString wrongEncodingText() const;
     qint64 bytesRead() const { return myBytesRead; }
-    /// Both are known once something was read.
+    /// Both are known after the first read.
     /// @{
     /// The encoding by a name that iconv knows; empty for UTF-8.
     QByteArray encoding() const { return myConverter ? myEncoding : QByteArray(); }
-    qint64 markSize() const { return myMarkSize; } ///< Of the byte order mark in bytes; 0 where there is none.
+    qint64 markSize() const { return myMarkSize; } ///< The size of the byte order mark in bytes; 0 if there is none.
     /// @}
 
 private:
     class Converter;
-    /// The source from which the encoding is known.
+    /// The source that shows the encoding.
     enum class Origin {
         Default,
         Declaration,
@@ -61,7 +61,7 @@ private:
     std::unique_ptr<Converter> myConverter; // none for UTF-8
     QByteArray myEncoding; // as declared, or as found
     Origin myOrigin = Origin::Default;
-    QByteArray myRest; // a letter that has not come to its end
+    QByteArray myRest; // the bytes of an incomplete letter
     QString myFault;
     qint64 myBytesRead = 0;
     qint64 myMarkSize = 0;

@@ -13,7 +13,7 @@ public:
     /// @p degrees may be negative or beyond a full turn.
     constexpr RVAngle(qreal degrees = 0) noexcept : myDegrees(degrees) { }
 
-    /// True for 0, including what arithmetic left of it: up to 1e-12 degrees to either side.
+    /// True for 0, including rounding errors of up to 1e-12 degrees to either side.
     constexpr bool isNull() const noexcept { return qFuzzyIsNull(myDegrees); }
 
 private:

@@ -7,7 +7,7 @@ template class RVSingleton<RVDirectoryConfig>;
 
 QString RVDirectoryConfig::resource(const QString &relativePath, bool) const
 {
-    if (relativePath.isEmpty()) // or else the first directory itself would be found
+    if (relativePath.isEmpty()) // otherwise the result would be the first directory itself
         return relativePath;
     const QReadLocker locker(&myLock);
     for (const QString &directory : mySearchDirectories) {

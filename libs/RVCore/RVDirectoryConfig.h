@@ -18,10 +18,10 @@ extern template class RVCORE_EXPORT RVSingleton<RVDirectoryConfig>;
 class RVCORE_EXPORT RVDirectoryConfig : public RVSingleton<RVDirectoryConfig>
 {
 public:
-    /// The path of a resource: under the first search directory that has it, else the relative path unchanged. The
+    /// The path of a resource under the first search directory that has it, otherwise the relative path unchanged. The
     /// second argument has no effect.
     QString resource(const QString &relativePath, bool) const;
-    /// Adds a directory behind those that are searched already.
+    /// Adds a directory to the end of the search path.
     void addSearchDirectory(const QString &path);
 
 private:

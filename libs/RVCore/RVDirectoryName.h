@@ -17,14 +17,14 @@ enum RVDirectoryNameEnum : qint32 {
     DIRECTORY_TEMPLATES = 131072, ///< "templates"
 };
 
-/// One of the directories that downloaded design content goes to. 0 is no directory.
+/// One of the directories for downloaded design content. 0 is no directory.
 /// @par Example
 /// @snippet tst_examples_platform.cpp RVDirectoryName
 /// @ingroup platform
 class RVCORE_EXPORT RVDirectoryName
 {
 public:
-    /// Any value, also one that has no name.
+    /// Any value, also one without a name.
     constexpr RVDirectoryName(RVDirectoryNameEnum value) noexcept : myValue(value) { }
 
     constexpr RVDirectoryNameEnum value() const noexcept { return myValue; } ///< The value that it was made from.

@@ -24,10 +24,10 @@ public:
 
     /// The length in the base unit, a tenth of a millimetre.
     constexpr qreal value() const noexcept { return myValue; }
-    /// The length in @p unit; unconverted, with a warning in the message log, where the unit is unknown.
+    /// The length in @p unit; unconverted, with a warning in the message log, if the unit is unknown.
     constexpr qreal value(const RVDistanceUnit &unit) const { return myValue / unit.units2Pixels(1.0); }
 
-    /// Calculates with the lengths, whatever units they were given in.
+    /// Calculates with the lengths, independent of their units.
     /// @{
     constexpr RVDistance &operator+=(RVDistance other) noexcept
     {
@@ -46,7 +46,7 @@ public:
     }
     /// @}
 
-    /// Calculates with the lengths, whatever units they were given in.
+    /// Calculates with the lengths, independent of their units.
     /// @{
     friend constexpr RVDistance operator+(RVDistance a, RVDistance b) noexcept { return a += b; }
     friend constexpr RVDistance operator-(RVDistance a, RVDistance b) noexcept { return a -= b; }
@@ -63,7 +63,7 @@ public:
     friend bool operator==(RVDistance a, RVDistance b) noexcept { return qFuzzyCompare(a.myValue, b.myValue); }
     friend bool operator!=(RVDistance a, RVDistance b) noexcept { return !(a == b); }
     /// @}
-    /// By the stored length, exactly.
+    /// Compares the stored lengths exactly.
     friend constexpr bool operator<(RVDistance a, RVDistance b) noexcept { return a.myValue < b.myValue; }
 
     /// Writes and reads the length in tenths of a millimetre as a double.

@@ -35,7 +35,7 @@ RVDistanceUnitEnum unitOf(const QString &text)
 
 RVDistanceUnit::RVDistanceUnit(const QString &text) : RVDistanceUnit(unitOf(text)) { }
 
-// The context is what log filters of the application know this message by.
+// Log filters of the application recognise this message by its context.
 void RVDistanceUnit::warnUnsupported() const
 {
     QMessageLogger("libs/RVCore/RVDistanceUnit", 101, "constexpr qreal RVDistanceUnit::units2Pixels(qreal) const")

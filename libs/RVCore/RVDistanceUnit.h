@@ -6,7 +6,7 @@
 class QDebug;
 class QString;
 
-/// The units and their codes, each with the text that stands for it. @ingroup platform
+/// The units and their codes, each with its text. @ingroup platform
 enum RVDistanceUnitEnum : qint32 {
     DISTANCE_UNIT_TENTH_MILLIMETRE = 1, ///< "0.1mm", the base unit
     DISTANCE_UNIT_MILLIMETRE = 2, ///< "mm"
@@ -29,10 +29,10 @@ public:
     /// From "mm", "cm", "inch" or "in", "pt" or "point", "0.1mm"; any other text is millimetres.
     RVDistanceUnit(const QString &text);
 
-    constexpr int code() const noexcept { return myCode; } ///< As RVDistanceUnitEnum has it, or the unknown code.
+    constexpr int code() const noexcept { return myCode; } ///< The code in RVDistanceUnitEnum, or the unknown code.
 
-    /// @p units of this unit in the base unit. With an unknown code they come back as they are, with a warning in the
-    /// message log.
+    /// @p units of this unit in the base unit. With an unknown code the number is returned unchanged, with a warning in
+    /// the message log.
     constexpr qreal units2Pixels(qreal units) const
     {
         switch (myCode) {

@@ -10,7 +10,7 @@ class RVFontCreator;
 
 extern template class RVCORE_EXPORT RVSingleton<RVFontCreator>;
 
-/// Makes the fonts in which texts of a product are set. Any thread; measuring a font needs a QGuiApplication.
+/// Creates the fonts for the texts of a product. Any thread; measuring a font needs a QGuiApplication.
 /// @par Example
 /// @snippet tst_examples_platform.cpp RVFontCreator
 /// @ingroup platform

@@ -6,7 +6,7 @@
 class QColor;
 class QString;
 
-/// How a colour is shown in rich text.
+/// The representation of a colour in rich text.
 /// @par Example
 /// @snippet tst_examples_platform.cpp RVNamedColor
 /// @ingroup platform

@@ -3,7 +3,7 @@
 
 #include <QRegularExpression>
 
-/// A regular expression without pattern options that is compiled when it is built, not on the first match; for
+/// A regular expression without pattern options. It is compiled in the constructor, not on the first match, for
 /// patterns that live as long as the process. Matching is thread-safe.
 /// @par Example
 /// @snippet tst_examples_platform.cpp RVRegularExpression
@@ -13,7 +13,7 @@ class RVRegularExpression : public QRegularExpression
 public:
     /// An invalid pattern matches nothing.
     RVRegularExpression(const QString &pattern) : QRegularExpression(pattern) { optimize(); }
-    // Without moves, which leave an expression that must not be asked.
+    // Moves are missing, because a moved-from expression must not be used.
     RVRegularExpression(const RVRegularExpression &) = default;
     RVRegularExpression &operator=(const RVRegularExpression &) = default;
 };

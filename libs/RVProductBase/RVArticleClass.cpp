@@ -84,7 +84,7 @@ constexpr RVKeyword<RVArticleClassEnum> KEYWORDS[] = {
 
 constexpr RVArticleClassEnum WALL_DECOR = ARTICLE_CLASS_DEKO | ARTICLE_CLASS_CANVAS;
 
-/// Of these one is enough. The colour of the fly-leaf is the only later add-on that is not among them.
+/// One of these classes is enough. Among the later add-ons, only the colour of the fly-leaf is missing.
 constexpr RVArticleClassEnum ORDERED_ONCE = ARTICLE_CLASS_SLIPCASE | ARTICLE_CLASS_SPOT_COLOR_ADD_ON
         | ARTICLE_CLASS_FRAME_ADD_ON | ARTICLE_CLASS_FRAME_CONSTRUCTION | ARTICLE_CLASS_ADD_ON_BIT_29
         | ARTICLE_CLASS_ADD_ON_BIT_30 | ARTICLE_CLASS_WALLHOLDER_ADD_ON | ARTICLE_CLASS_ENVELOPE_ADD_ON
@@ -116,7 +116,7 @@ constexpr RVArticleClassEnum IMPORTANCE[] = {
     ARTICLE_CLASS_GIFT_BOX_SERVICE_CALENDAR_ADD_ON,
 };
 
-/// A category of projects, for every class that has one of the bits unless an earlier row has one too.
+/// A category of projects, for every class that has one of the bits and no bit of an earlier row.
 struct Category
 {
     RVArticleClassEnum bits;
@@ -136,8 +136,8 @@ constexpr Category CATEGORIES[] = {
 
 constexpr Category OTHER = { ARTICLE_CLASS_NONE, "other"_L1, QT_TRANSLATE_NOOP("QObject", "Fotogeschenke") };
 
-/// A topic of the help, for every class that has one of the bits unless an earlier row has one too. The start page of
-/// exactly the class has the same name.
+/// A topic of the help, for every class that has one of the bits and no bit of an earlier row. The start page of
+/// exactly that class has the same name.
 struct Topic
 {
     RVArticleClassEnum bits;

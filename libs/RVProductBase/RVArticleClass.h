@@ -85,10 +85,10 @@ RV_DECLARE_ENUM_OPERATORS(RVArticleClassEnum)
 extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVArticleClassEnum>;
 
 /**
- * What kind of article something in the catalogue is: a book, a calendar, a photo print, a fee, an add-on. 0 is no
- * class.
+ * The kind of an article in the catalogue: a book, a calendar, a photo print, a fee or an add-on. 0 is no class.
  *
- * Read from and written to keywords such as "book"; the shop cart, the start page and the help use the words below.
+ * It is read from and written to keywords such as "book"; the shop cart, the start page and the help use the words
+ * below.
  *
  * @par Example
  * @snippet tst_examples_attributes.cpp RVArticleClass
@@ -112,9 +112,9 @@ public:
     QString toPHProjectCategory() const;
     /// The category as the customer reads it, translated; the first that has a bit here, gifts for anything else.
     QString toHumanReadable() const;
-    /// The name of the start page of exactly this class as a text; the number 1 where it has none.
+    /// The name of the start page of exactly this class as a text; the number 1 if it has none.
     QVariant toStartPageId() const;
-    /// The first help topic that has a bit here; a null text where there is none.
+    /// The first help topic that has a bit here; a null text if there is none.
     QString toHelpTopic() const;
     /// "3 Fotos" for exactly a picture box or a nature bundle, "3 Seiten" for exactly a book, in the customer's
     /// language; empty for anything else. Plural forms come from a translation, also the German ones: while none is
@@ -122,10 +122,10 @@ public:
     QString morePagesText(int n) const;
     /// True for photo prints.
     bool canModifyABK() const;
-    /// 1 for what is ordered once at most, else the largest int.
+    /// 1 for articles that can be ordered only once, otherwise the largest int.
     int maxAmount() const;
 
-    /// The order of add-ons in the shop cart. Exact values count; what has no place there comes first, in any order.
+    /// The order of add-ons in the shop cart, by exact values. Classes without a place there come first, in any order.
     static bool lessThanShopCart(const RVArticleClassEnum &a, const RVArticleClassEnum &b);
 
     /// Appends an element "type" for each bit, in no particular order; none for "printfun". A bit without a keyword is

@@ -16,7 +16,7 @@ public:
     /// From keywords separated by ","; a keyword that stands for no class is left out.
     static RVArticleClassList parseArticleClasses(const QString &text);
 
-    /// Those that have a bit of @p articleClass.
+    /// The elements that have a bit of @p articleClass.
     RVArticleClassList filter(const RVArticleClass &articleClass) const;
 };
 

@@ -15,10 +15,11 @@ class QDomNamedNodeMap;
 class QJsonObject;
 
 /**
- * The number of an article, the one thing in the catalogue that can be ordered. 0 is no article, and what every reader
- * gives that finds no number.
+ * The number of an article, the one thing in the catalogue that can be ordered. 0 is no article; every reader that
+ * finds no number returns it.
  *
- * Read from the products XML, project files and JSON under "id", "art_id" or "article_id"; written under the first two.
+ * It is read from the products XML, project files and JSON under "id", "art_id" or "article_id", and written under the
+ * first two.
  *
  * @par Example
  * @snippet tst_examples_articles.cpp RVArticleId
@@ -54,7 +55,7 @@ public:
     static RVArticleId fromArticleIdAttribute(const QDomElement &element);
     static RVArticleId fromArticleIdAttribute(const QDomNamedNodeMap &attributes);
     /// @}
-    /// From "art_id" where that is valid, else from "id".
+    /// From "art_id" if that is valid, otherwise from "id".
     static RVArticleId findId(const QDomElement &element);
 
     /// The number itself, valid or not.
@@ -68,7 +69,7 @@ public:
     /// "id", the name under which most documents keep the number.
     static QString defaultKey();
 
-    QString toString() const; ///< In decimal.
+    QString toString() const; ///< The number in decimal.
     /// Sets the attribute @p name, "id" or "art_id".
     /// @{
     void toAttribute(QDomElement &element, const QString &name) const;
@@ -87,7 +88,7 @@ public:
     RVPRODUCTBASE_EXPORT friend QDataStream &operator>>(QDataStream &stream, RVArticleId &articleId);
     /// @}
 
-    /// By number.
+    /// Compares the numbers.
     /// @{
     friend constexpr bool operator==(RVArticleId a, RVArticleId b) noexcept { return a.myId == b.myId; }
     friend constexpr bool operator==(RVArticleId a, int b) noexcept { return a.myId == b; }
@@ -105,7 +106,7 @@ private:
 
 Q_DECLARE_TYPEINFO(RVArticleId, Q_RELOCATABLE_TYPE);
 
-/// By number. @relates RVArticleId
+/// Hashes the number. @relates RVArticleId
 inline std::size_t qHash(const RVArticleId &articleId, std::size_t seed = 0) noexcept
 {
     return qHash(articleId.id(), seed);

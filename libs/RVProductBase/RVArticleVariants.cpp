@@ -20,11 +20,11 @@ constexpr bool isSeparator(char16_t letter)
     return letter == u':' || letter == u'|' || letter == u'+';
 }
 
-/// True for most letters that are nothing but part of a key or a value; false for digits, which are looked at closer.
-/// A lambda, so that the compiler inlines it into a search.
+/// True for most letters that can only be part of a key or a value; false for digits, which need a closer look. It is a
+/// lambda, so that the compiler inlines it into a search.
 constexpr auto isOrdinary = [](QChar letter) { return letter > u':' && letter < u'|'; };
 
-/// Piece by piece, each with a regular expression, which does not search in broken UTF-16.
+/// Reads piece by piece, each with a regular expression, which does not search in broken UTF-16.
 RVArticleVariants readPieces(const QString &text)
 {
     RVArticleVariants result;
@@ -66,7 +66,8 @@ RVArticleVariants::RVArticleVariants(const QJsonArray &parameters)
 
 RVArticleVariants::~RVArticleVariants() = default;
 
-// In one go what readPieces() does, which takes over where there are surrogates, since they may be broken.
+// Does the same as readPieces() in one pass. readPieces() takes over for texts with surrogates, because they may be
+// broken.
 RVArticleVariants RVArticleVariants::createFromKTX(const QString &text)
 {
     RVArticleVariants result;

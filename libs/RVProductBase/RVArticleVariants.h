@@ -15,11 +15,11 @@ class QJsonArray;
 /**
  * The options that configure an article, key to value: {"alcolor" = "red", "coverphoto" = "yes"}.
  *
- * Read from project files, JSON and XML attributes, written to project files, order texts and order transfer; malformed
- * pieces of a text are skipped without a message. Without an option it is invalid.
+ * They are read from project files, JSON and XML attributes, and written to project files, order texts and order
+ * transfer. Malformed pieces of a text are skipped without a message. An object without an option is invalid.
  *
  * A composite option has several keys joined with ";" and as many values: {"a;b" = "x;y"}. toXTCI() and toOrderTxt()
- * expand it, everything else treats it as one option. The options have no order: values(), toKTX() and toOrderTxt()
+ * expand it; all other functions treat it as one option. The options have no order: values(), toKTX() and toOrderTxt()
  * follow the hash.
  *
  * @par Example
@@ -32,13 +32,13 @@ class RVPRODUCTBASE_EXPORT RVArticleVariants
 public:
     /// No option.
     RVArticleVariants() = default;
-    /// One option; none where key or value is empty.
+    /// One option; none if the key or the value is empty.
     RVArticleVariants(const QString &key, const QString &value);
     /// One option from a text such as "alcolor:red", "alcolor|red" or "alcolor+red"; key or value may be empty. None
     /// unless the text has exactly one separator.
     RVArticleVariants(const QString &text);
     /// One option from the attributes "key" and "value"; a missing attribute counts as empty. So the result is valid
-    /// even where there is neither.
+    /// even if both are missing.
     RVArticleVariants(const QDomElement &element);
     /// One option for each element such as "form_parameter-alcolor:red"; later ones win.
     RVArticleVariants(const QJsonArray &parameters);
@@ -64,13 +64,13 @@ public:
     static QString cutoutKeyName(); ///< "cutout"
     static QString pxwGiftBoxKeyName(); ///< "variant"
 
-    /// The value of the key, @p defaultValue where the key is absent.
+    /// The value of the key, @p defaultValue if the key is absent.
     QString value(const QString &key, const QString &defaultValue = {}) const;
     /// All keys, sorted.
     QStringList keys() const;
     /// All values, in no particular order.
     QStringList values() const;
-    /// True when there is an option for the cover colour, the fly-leaf colour, the cut-out, whatever its value.
+    /// True when there is an option for the cover colour, the fly-leaf colour or the cut-out, with any value.
     /// @{
     bool hasCoverColor() const;
     bool hasFlyLeafColor() const;
@@ -92,8 +92,8 @@ public:
     void insert(const QString &key, const QString &value);
     /// Adds every option of @p other, which wins on equal keys.
     void insert(const RVArticleVariants &other);
-    /// Adds the single options of a composite one. Nothing where key and value have different numbers of pieces; empty
-    /// pieces do not count, so ("a;;b", "1;2") adds {"a" = "1"} and {"b" = "2"}.
+    /// Adds the single options of a composite one. Adds nothing if key and value have different numbers of pieces.
+    /// Empty pieces do not count, so ("a;;b", "1;2") adds {"a" = "1"} and {"b" = "2"}.
     void splitForProduction(const QString &key, const QString &value);
 
     /// The project-file form; options with an empty key or value are left out. A comma, ":", "|" or "+" in a key or a
@@ -101,14 +101,14 @@ public:
     /// becomes "a:x:y", which it skips.
     QString toKTX() const;
     /// The order-transfer form: composite options come out as single ones, by splitForProduction() in ascending order
-    /// of the keys, so that a later one replaces an earlier one with the same key. An option is dropped where its key
-    /// or its value is empty, and where they have different numbers of pieces, such as {"a" = "x;y"}.
+    /// of the keys, so that a later one replaces an earlier one with the same key. An option is dropped if its key or
+    /// its value is empty, or if they have different numbers of pieces, such as {"a" = "x;y"}.
     RVArticleVariants toXTCI() const;
-    /// The order-text form, such as "a:x;b:y": composite options come out as single ones. Drops the same options as
-    /// toXTCI(), but replaces none: a key can come twice.
+    /// The order-text form, such as "a:x;b:y": composite options come out as single ones. It drops the same options as
+    /// toXTCI(), but replaces none: a key can occur twice.
     QString toOrderTxt() const;
 
-    /// By keys and values; letter case counts.
+    /// Compares keys and values; letter case matters.
     /// @{
     bool operator==(const RVArticleVariants &other) const { return myVariants == other.myVariants; }
     bool operator!=(const RVArticleVariants &other) const { return !(*this == other); }

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The length that the attribute gives; 1 of the unit where it is missing.
+/// The length in the attribute; 1 of the unit if it is missing.
 RVDistance readLength(const QDomElement &element, const QString &name, const RVDistanceUnit &unit)
 {
     return RVXMLParser::readDistance(element, name, 1.0, unit);

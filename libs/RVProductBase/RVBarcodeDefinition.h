@@ -12,10 +12,11 @@ class QDomElement;
 class RVDistance;
 
 /**
- * Where the production barcode of a product goes: a rectangle in tenths of a millimetre on one page, and the
+ * The place of the production barcode of a product: a rectangle in tenths of a millimetre on one page, and the
  * placeholder image that the editor shows there.
  *
- * Read from the products XML. By default an invalid definition: an empty rectangle on page 0 without an image.
+ * It is read from the products XML. The default is an invalid definition: an empty rectangle on page 0 without an
+ * image.
  *
  * @par Example
  * @snippet tst_examples_geometry.cpp RVBarcodeDefinition
@@ -25,7 +26,7 @@ class RVDistance;
 class RVPRODUCTBASE_EXPORT RVBarcodeDefinition
 {
 public:
-    /// The placeholder of a barcode that names none.
+    /// The default placeholder.
     static const QString DEFAULT_IMAGE_NAME;
 
     RVBarcodeDefinition(); ///< The invalid definition.
@@ -41,27 +42,27 @@ public:
     /// "pageNr" (0). "position_y" is the lower edge; the barcode stands on it. At 20 mm, 10 mm high, it is
     /// in the tenths 100 to 199.
     static RVBarcodeDefinition createFromProductsXML(const QDomElement &element, const RVDistanceUnit &unit);
-    /// The same from what stands in the attributes: left and lower edge, width and height.
+    /// The same from the values of the attributes: left and lower edge, width and height.
     static RVBarcodeDefinition createFromLengths(const RVDistance &x, const RVDistance &y, const RVDistance &width,
                                                  const RVDistance &height, int pageNr, const QString &imageName);
 
-    QRect rect() const noexcept { return myRect; } ///< In tenths of a millimetre.
-    int pageNr() const noexcept { return myPageNr; } ///< As the catalogue counts pages.
-    /// Joined to "icons/picjolly/" as it is, so a name with ".." can leave that directory.
+    QRect rect() const noexcept { return myRect; } ///< The rectangle in tenths of a millimetre.
+    int pageNr() const noexcept { return myPageNr; } ///< The page number of the catalogue.
+    /// The name joined to "icons/picjolly/" without a check, so a name with ".." can leave that directory.
     QString imageName() const { return myImageName; }
-    /// The placeholder, loaded when it is first asked for; null where it cannot be loaded. Copies share it afterwards.
-    /// One thread at a time.
+    /// The placeholder; null if it cannot be loaded. The first call loads it, and copies share it afterwards. Only one
+    /// thread at a time may call it.
     QImage image() const;
     /// True for a rectangle that is not empty, with the name of an image.
     bool isValid() const noexcept;
 
-    /// The image itself does not count, only its name.
+    /// Compares the name of the image, not the image itself.
     /// @{
     bool operator==(const RVBarcodeDefinition &other) const;
     bool operator!=(const RVBarcodeDefinition &other) const { return !(*this == other); }
     /// @}
-    /// No strict order: true as soon as one of left, top, width, height and page is smaller here, whatever came before;
-    /// then by the name of the image.
+    /// This is no strict order: true if any of left, top, width, height and page is smaller here, even if an earlier
+    /// one is larger; otherwise by the name of the image.
     bool operator<(const RVBarcodeDefinition &other) const;
 
 private:

@@ -12,7 +12,7 @@
 class RVPRODUCTBASE_EXPORT RVBleedMargin
 {
 public:
-    /// In the unit of the page size.
+    /// Both amounts in the unit of the page size.
     RVBleedMargin(int horizontal, int vertical) noexcept : myHorizontal(horizontal), myVertical(vertical) { }
     RVBleedMargin(const RVBleedMargin &) noexcept = default;
     RVBleedMargin(RVBleedMargin &&) noexcept = default;
@@ -20,11 +20,11 @@ public:
     RVBleedMargin &operator=(RVBleedMargin &&) noexcept = default;
     virtual ~RVBleedMargin();
 
-    int horizontal() const noexcept { return myHorizontal; } ///< Of the left and of the right edge.
-    int vertical() const noexcept { return myVertical; } ///< Of the top and of the bottom edge.
+    int horizontal() const noexcept { return myHorizontal; } ///< The bleed of the left and of the right edge.
+    int vertical() const noexcept { return myVertical; } ///< The bleed of the top and of the bottom edge.
     bool isNull() const noexcept { return myHorizontal == 0 && myVertical == 0; } ///< True when both are 0.
 
-    /// By both amounts.
+    /// Compares both amounts.
     /// @{
     friend bool operator==(const RVBleedMargin &a, const RVBleedMargin &b) noexcept
     {

@@ -12,7 +12,7 @@ struct RVOptionPair
 };
 
 /// The single options of a composite one, whose key and value are lists of the same length joined with ";". Empty
-/// pieces do not count. Nothing comes out where the lengths differ.
+/// pieces do not count. The result is empty if the lengths differ.
 inline QList<RVOptionPair> rvExpandComposite(const QString &key, const QString &value)
 {
     const QStringList keys = key.split(u';', Qt::SkipEmptyParts);

@@ -21,7 +21,7 @@ QString textAttribute(const QDomElement &element, const QString &name)
     return RVXMLParser::attribute(element, name, u""_s, true);
 }
 
-/// The colour of a text such as "#8c1c2b", in which nearly all colours of a catalogue are written.
+/// The colour of a text such as "#8c1c2b", the form of nearly all colours of a catalogue.
 std::optional<QColor> parseHexColor(QStringView text)
 {
     if (text.size() != 7 || text.front() != u'#')
@@ -47,7 +47,7 @@ QColor colorAttribute(const QDomElement &element, const QString &name)
     return color ? *color : QColor::fromString(text);
 }
 
-// Field by field, so that every text is moved into its place.
+// The fields are set one by one, so that every text is moved into its place.
 RVConfiguredArticleVariantImpl *readOption(const QDomElement &element)
 {
     auto option = std::make_unique<RVConfiguredArticleVariantImpl>();

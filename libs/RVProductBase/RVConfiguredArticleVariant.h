@@ -13,11 +13,11 @@ class RVArticleVariants;
 class RVSpotColor;
 
 /**
- * One option of the catalogue with all that is needed to show it: key and value, their display names, the preview
- * image, the swatch colour, whether it is the default choice and whether it is charged for.
+ * One option of the catalogue with everything that is needed to show it: key and value, their display names, the
+ * preview image, the swatch colour, and the marks for a default choice and for an option that is not charged for.
  *
- * Read from a "form" element of the products XML. Valid when both key and value are non-empty. Copies share their
- * data, and what was moved from is a valid object. An option that does not come from XML counts as a default choice.
+ * It is read from a "form" element of the products XML. It is valid when key and value are not empty. Copies share
+ * their data, and a moved-from object is valid. An option that does not come from XML counts as a default choice.
  *
  * @par Example
  * @snippet tst_examples_articles.cpp RVConfiguredArticleVariant
@@ -35,9 +35,9 @@ public:
     RVConfiguredArticleVariant(const QString &text);
     /// From the attributes of a "form" element.
     RVConfiguredArticleVariant(const QDomElement &element);
-    /// From its fields, for code that reads them in another way.
+    /// From the fields, for code that reads them in another way.
     explicit RVConfiguredArticleVariant(const RVConfiguredArticleVariantImpl &fields);
-    // Moves share the data as copies do, so that every object has some.
+    // Moves share the data as copies do, so that every object has data.
     RVConfiguredArticleVariant(const RVConfiguredArticleVariant &) = default;
     RVConfiguredArticleVariant &operator=(const RVConfiguredArticleVariant &) = default;
 
@@ -47,12 +47,12 @@ public:
     /// The value as the customer reads it; a null text for an invalid option.
     QString visibleName() const;
     QString editorName() const; ///< The value as the editor shows it.
-    /// Name of the preview image; options such as the spiral colour have a stock one where none is given.
+    /// The name of the preview image; options such as the spiral colour have a stock image if none is given.
     QString preview() const;
     /// The swatch colour; invalid when none is given or the text is no colour.
     QColor color() const;
     bool isDefault() const; ///< True for a default choice of its key.
-    bool isNotAccountable() const; ///< True for what is not charged for.
+    bool isNotAccountable() const; ///< True for an option that is not charged for.
     bool isValid() const; ///< True with a key and a value.
     /// True when the value is the keyword of the spot colour.
     bool isSpotColor(const RVSpotColor &spotColor) const;
@@ -60,7 +60,7 @@ public:
     /// without a key name. The names come as they are, so markup in them is markup.
     QString describe() const;
 
-    /// Takes preview and colour from @p other and keeps all else.
+    /// Takes preview and colour from @p other and keeps the other fields.
     void merge(const RVConfiguredArticleVariant &other);
 
     /// The option alone; empty for an invalid option.
@@ -68,7 +68,7 @@ public:
     /// "key:value"; a null text for an invalid option.
     QString toString() const;
 
-    /// By key and value only.
+    /// Compares key and value only.
     /// @{
     bool operator==(const RVConfiguredArticleVariant &other) const;
     bool operator!=(const RVConfiguredArticleVariant &other) const { return !(*this == other); }
@@ -77,9 +77,9 @@ public:
         return qHashMulti(seed, variant.key(), variant.value());
     }
     /// @}
-    /// By the key's display name alone. Options whose key names are equal are unordered among themselves, whatever
-    /// their keys and values: so are all that do not come from XML, as they have none. Options that are `==` can still
-    /// be ordered, by different key names.
+    /// Compares the display name of the key only. Options with equal key names are unordered among themselves, with any
+    /// keys and values. So are all options that do not come from XML, because they have no key name. Options that are
+    /// `==` can still be ordered by different key names.
     bool operator<(const RVConfiguredArticleVariant &other) const;
 
 private:

@@ -7,7 +7,7 @@
 #include <QSharedData>
 #include <QString>
 
-/// The shared data of RVConfiguredArticleVariant; the fields stand beside the XML attributes they are read from.
+/// The shared data of RVConfiguredArticleVariant; each field has the name of its XML attribute beside it.
 /// @par Example
 /// @snippet tst_examples_articles.cpp RVConfiguredArticleVariantImpl
 /// @ingroup articles
@@ -23,7 +23,8 @@ public:
 
     /// True with a key and a value.
     bool isValid() const { return !key.isEmpty() && !value.isEmpty(); }
-    /// The preview image name for @p optionValue where the catalogue has a stock one for this key, else #preview.
+    /// The name of the stock preview image for @p optionValue if the catalogue has one for this key, otherwise
+    /// #preview.
     QString previewNameFallbacked(const QString &optionValue) const;
 
     QString key; ///< "key"

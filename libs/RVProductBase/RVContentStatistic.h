@@ -8,8 +8,8 @@
 
 class RVPriceClassSet;
 
-/// What a project contains that costs extra: its map and video areas, and the add-ons that were bought, with their
-/// quantities. The editor fills it when a project is priced; it comes from no file.
+/// The contents of a project that cost extra: its map and video areas, and the add-ons that were bought, with their
+/// quantities. The editor fills it when it prices a project; it is not read from a file.
 /// @par Example
 /// @snippet tst_examples_articles.cpp RVContentStatistic
 /// @ingroup articles
@@ -29,21 +29,21 @@ public:
     int countVideoAreas() const noexcept { return myCountVideoAreas; } ///< The videos that the project links.
     /// The quantities of all add-ons, by billing code.
     QMap<RVPriceClass, int> boughtAdditionalContent() const { return myBoughtAdditionalContent; }
-    /// The quantity of an add-on; 0 where it was not bought.
+    /// The quantity of an add-on; 0 if it was not bought.
     int count(const RVPriceClass &priceClass) const;
     /// True when an add-on of @p priceClasses was bought, even if its quantity is 0.
     bool isPriceClassAddOnApplied(const RVPriceClassSet &priceClasses) const;
 
-    /// Sets the quantity; an earlier one is replaced, not added to.
+    /// Sets the quantity and replaces an earlier one.
     void addAddOn(const RVPriceClass &priceClass, int quantity);
-    void removeAddOn(const RVPriceClass &priceClass); ///< Whatever its quantity.
-    /// Moves a quantity above 0 from one add-on to another, and removes the first in any case: an add-on that replaces
-    /// itself is gone.
+    void removeAddOn(const RVPriceClass &priceClass); ///< Removes it with its whole quantity.
+    /// Moves a quantity above 0 from one add-on to another, and removes the first in any case. So an add-on that
+    /// replaces itself is removed.
     void replaceAddOn(const RVPriceClass &from, const RVPriceClass &to);
-    /// Sets every quantity to 10 for a project that becomes a vario one, to 1 for one that no longer is.
+    /// Sets every quantity to 10 for a project that becomes a vario project, and to 1 for one that stops being one.
     void adaptFromOrToVario(bool fromVario, bool toVario);
 
-    /// By areas and add-ons.
+    /// Compares areas and add-ons.
     /// @{
     friend bool operator==(const RVContentStatistic &a, const RVContentStatistic &b)
     {

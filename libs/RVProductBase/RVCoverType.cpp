@@ -54,7 +54,7 @@ constexpr RVKeyword<RVCoverTypeEnum> KEYWORDS[] = {
     { u"wire-o", WIRE_O },
 };
 
-/// CERAMICS has no name on purpose; an empty one is a name all the same.
+/// CERAMICS has no name on purpose; an empty name counts as a name.
 constexpr RVDisplayText<RVCoverTypeEnum> NAMES[] = {
     { HARDCOVER, QT_TRANSLATE_NOOP("RVBinding", "Hardcover") },
     { SOFTCOVER, QT_TRANSLATE_NOOP("RVBinding", "Softcover") },

@@ -58,9 +58,10 @@ public:
     /// From a keyword list such as "hardcover, canvas"; unknown keywords add nothing.
     RVCoverType(const QString &text);
 
-    /// The value of a display name, German or in the application's language; none for an unknown name. Only what
-    /// bindingNames() held when it was built is found, so ask in the same language, and nothing with letters beyond
-    /// ASCII; see RVDisplayNames::value(). Many covers have the empty name; it stands for GIFT, the lowest of them.
+    /// The value of a display name, German or in the application's language; none for an unknown name. It finds only
+    /// the names that bindingNames() had when it was built, so use the same language. It finds no name with letters
+    /// beyond ASCII; see RVDisplayNames::value(). Many covers have the empty name; it stands for GIFT, the lowest of
+    /// them.
     static RVCoverType createFromHumanReadable(const QString &name);
 
     /// True for every valid cover but exactly WIRE_O.
@@ -71,8 +72,8 @@ public:
     /// planner, a gift or an agenda, but no table calendar.
     bool isSimplex() const;
 
-    /// The name that the customer reads for exactly this value: empty for most kinds, and "unbekannter Bindungstyp"
-    /// where there is no name, such as for CERAMICS.
+    /// The name that the customer reads for exactly this value: empty for most kinds, and "unbekannter Bindungstyp" if
+    /// there is no name, such as for CERAMICS.
     QString humanReadableName() const;
     /// The description that the customer reads of exactly this value, else "unbekannter Bindungstyp".
     QString toolTip() const;

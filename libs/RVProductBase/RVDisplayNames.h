@@ -9,12 +9,12 @@
 #include <utility>
 
 /**
- * What people read for the values of one attribute class T: a name for each value that has one, and what stands for all
+ * The display names of the values of one attribute class T: a name for each value that has one, and a default for all
  * others.
  *
- * The names are in the language that the application speaks when the table is built, which is when it is first asked
- * for; a later change of language does not change them. The tables of the attribute classes live as long as the
- * process. Every lookup is by the exact value, not by bits.
+ * The names are in the language of the application when the table is built, on its first use; a later change of
+ * language does not change them. The tables of the attribute classes live as long as the process. Every look-up
+ * compares the exact value, not bits.
  *
  * @par Example
  * @snippet tst_examples_attributes.cpp RVDisplayNames
@@ -27,9 +27,9 @@ class RVDisplayNames
 public:
     /// The names of all values that have one, in the order of the values.
     QMap<T, QString> names;
-    /// The value that a name stands for which no value has.
+    /// The value for unknown names.
     T defaultValue;
-    /// The name of a value that has none.
+    /// The name for values without a name.
     QString unknownName;
 
     /// @p context is the translation context of the names; it must outlive the table.
@@ -40,14 +40,14 @@ public:
           myContext(context)
     { }
 
-    /// The name of exactly this value, else unknownName.
+    /// The name of exactly this value, otherwise unknownName.
     QString name(const T &value) const { return names.value(value, unknownName); }
 
-    /// The lowest value of that name, else the default value. Only a name that the table held when it was built is
-    /// found, after @p name has passed through the translation that is loaded now. While that is English, as it was
-    /// when the table was built, "Leder" and "Leather" both mean LEATHER. After a change of language the two do not fit
-    /// together: a German table finds neither once English is loaded, and an English table finds "Leather" alone once
-    /// it is unloaded.
+    /// The lowest value with that name, otherwise the default value. @p name is translated with the translation that is
+    /// loaded now, and then compared with the names of the table. If the loaded translation is English, as it was when
+    /// the table was built, "Leder" and "Leather" both mean LEATHER. After a change of language, table and translation
+    /// do not match: a German table finds neither name while English is loaded, and an English table finds only
+    /// "Leather" after English is unloaded.
     ///
     /// The translator gets the name as Latin-1 bytes and reads them as UTF-8, so umlauts and all other letters beyond
     /// ASCII are lost: "Fotopapier Glänzend" is never found.

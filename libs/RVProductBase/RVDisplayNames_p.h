@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <utility>
 
-/// One row of a table of display texts. The text is German, and the source text of its translations.
+/// One row of a table of display texts. The text is German, and is the source text of its translations.
 template<typename E>
 struct RVDisplayText
 {
@@ -23,7 +23,7 @@ QMap<T, QString> rvTranslated(const char *context, const RVDisplayText<E> (&rows
     return result;
 }
 
-/// The names on the heap. Nothing deletes them, so they outlive every object with static storage.
+/// The names on the heap. They are never deleted, so they outlive every object with static storage.
 template<typename T>
 const RVDisplayNames<T> *rvForever(RVDisplayNames<T> names)
 {

@@ -30,7 +30,7 @@ constexpr RVKeyword<RVDlpTypeEnum> KEYWORDS[] = {
     { u"style_v2_innerpage", DLP_TYPE_STYLE_V2_INNERPAGE },
 };
 
-/// With the note to translators that comes with every plural form.
+/// A text with the note to translators that every plural form has.
 struct CountedText
 {
     const char *text;
@@ -59,7 +59,7 @@ constexpr struct
       QT_TRANSLATE_N_NOOP3("RVDlpType", "%n Vorlagen", "Bitte jede Pluralform ausschreiben!!!") },
 };
 
-/// 0 where content of the type has no directory. Masks go to the cliparts.
+/// The directory for content of the type; 0 if it has none. Masks go to the cliparts.
 RVDirectoryNameEnum directory(RVDlpTypeEnum type, bool alternative)
 {
     switch (type) {
@@ -100,7 +100,7 @@ QString RVDlpType::visibleName(int n) const
         return QString();
     if (n == -1)
         return QCoreApplication::translate("RVDlpType", row->text);
-    // The translator fills in no negative number.
+    // The translator does not fill in negative numbers.
     return QCoreApplication::translate("RVDlpType", row->counted.text, row->counted.comment, n)
             .replace("%n"_L1, QString::number(n));
 }

@@ -17,7 +17,7 @@ enum RVDlpTypeEnum : qint32 {
     DLP_TYPE_STORYBOOK = 64, ///< "storybook"
     DLP_TYPE_FORM_PARAMETER_DATA = 128, ///< "form_parameter_data"
     DLP_TYPE_PREDEFINED_PROJECT = 256, ///< "predefined_project"
-    DLP_TYPE_FILTER_LINNEN_CAPABLE = 512, ///< "filter_linnen_capable": goes with a type, is none itself
+    DLP_TYPE_FILTER_LINNEN_CAPABLE = 512, ///< "filter_linnen_capable": added to a type, no type itself
     DLP_TYPE_STYLE_V2_COVERPAGE = 1024, ///< "style_v2_coverpage"
     DLP_TYPE_STYLE_V2_INNERPAGE = 2048, ///< "style_v2_innerpage"
 };
@@ -25,7 +25,7 @@ RV_DECLARE_ENUM_OPERATORS(RVDlpTypeEnum)
 
 extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVDlpTypeEnum>;
 
-/// A kind of design content that the application downloads. 0 is none. Names, directories and queries take no notice of
+/// A kind of design content that the application downloads. 0 is none. Names, directories and queries ignore
 /// DLP_TYPE_FILTER_LINNEN_CAPABLE.
 /// @par Example
 /// @snippet tst_examples_attributes.cpp RVDlpType
@@ -38,9 +38,9 @@ public:
     /// From a keyword list such as "clipart, mask".
     RVDlpType(const QString &text);
 
-    /// The name that the customer reads for exactly this type, or for styles and book templates together. Without a
-    /// number for -1, else with @p n in the plural form that belongs to it: "3 Cliparts". Plural forms come from a
-    /// translation, also the German ones: while none is loaded, it is "1 Cliparts". A null text where there is no name.
+    /// The name that the customer reads for exactly this type, or for styles and book templates together. For -1 it has
+    /// no number, otherwise @p n with the matching plural form: "3 Cliparts". Plural forms come from a translation,
+    /// also the German ones: while none is loaded, it is "1 Cliparts". A null text if there is no name.
     QString visibleName(int n) const;
     /// The name of the directory for exactly this type; designs have an alternative one. A null text where there is
     /// none.
@@ -49,7 +49,7 @@ public:
     bool dlpButtonForbidden() const;
     /// The keyword in a query: "style_v2" with any bit of a style or a book template, else that of exactly this type.
     QString queryValue() const;
-    /// For logs, such as "9 | background, clipart".
+    /// A text for logs, such as "9 | background, clipart".
     QString describe() const;
 
     void fillTable(RVEnumToStringTable<RVDlpTypeEnum> *table) const override;

@@ -35,10 +35,10 @@ public:
     /// The surface for exactly one class of photo print; none for any other class, and for several at once.
     static RVFotoPaperType defaultFor(const RVArticleClass &articleClass);
     /// From the paper field of an order transfer, a decimal number: GLOSSY and MATT for 0, GLOSSY for 1, MATT for 2,
-    /// nothing for anything else.
+    /// none for any other text.
     static QList<RVFotoPaperType> createFromXTCI(const QString &code);
 
-    /// The name that the customer reads for exactly this value; a null text where there is no name.
+    /// The name that the customer reads for exactly this value; a null text if there is no name.
     QString humanReadableName() const;
     /// "1" or "2" for exactly one surface, else empty.
     QString encodeForProduction() const;

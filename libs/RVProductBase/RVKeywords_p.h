@@ -16,7 +16,7 @@ struct RVKeyword
     E value;
 };
 
-/// Inserts the rows in their order. Like every QStringLiteral, the keywords stay where the compiler put them.
+/// Inserts the rows in their order. Like every QStringLiteral, the keywords stay in static memory.
 template<typename E, std::size_t N>
 void rvInsertKeywords(RVEnumToStringTable<E> *table, const RVKeyword<E> (&rows)[N])
 {
@@ -24,7 +24,7 @@ void rvInsertKeywords(RVEnumToStringTable<E> *table, const RVKeyword<E> (&rows)[
         table->insert(QString::fromRawData(row.keyword.data(), row.keyword.size()), row.value);
 }
 
-/// The same, and assigns the defaults, whatever they were before.
+/// Does the same, and assigns the defaults in any case.
 template<typename E, std::size_t N>
 void rvFillTable(RVEnumToStringTable<E> *table, const RVKeyword<E> (&rows)[N],
                  const QString &defaultKeyword = QString(), E defaultValue = E(0))

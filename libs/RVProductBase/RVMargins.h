@@ -11,9 +11,10 @@
 class QDebug;
 
 /**
- * The bleed around a page: what is printed beyond each of its four edges and cut away, in the unit of the page size.
+ * The bleed around a page: the margin that is printed beyond each of its four edges and cut away, in the unit of the
+ * page size.
  *
- * It never changes, so copies share their data, also between threads. An object that is moved from has no margins.
+ * It never changes, so copies share their data, also between threads. A moved-from object has no margins.
  *
  * @par Example
  * @snippet tst_examples_geometry.cpp RVMargins
@@ -24,7 +25,7 @@ class RVPRODUCTBASE_EXPORT RVMargins
 {
 public:
     RVMargins(); ///< All margins 0.
-    /// In the unit of the page size; @p vertical is for top and bottom, @p horizontal for left and right.
+    /// The margins in the unit of the page size; @p vertical is for top and bottom, @p horizontal for left and right.
     /// @{
     RVMargins(int top, int bottom, int left, int right);
     RVMargins(int vertical, int horizontal);
@@ -46,7 +47,7 @@ public:
     QSize totalMarginWH() const noexcept { return data().totalMarginWH(); }
     bool allNull() const noexcept { return data().allNull(); } ///< True without any bleed.
 
-    /// By all four margins.
+    /// Compares all four margins.
     /// @{
     bool operator==(const RVMargins &other) const noexcept { return d == other.d || data() == other.data(); }
     bool operator!=(const RVMargins &other) const noexcept { return !(*this == other); }

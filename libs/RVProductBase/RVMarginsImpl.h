@@ -14,7 +14,7 @@
 class RVPRODUCTBASE_EXPORT RVMarginsImpl : public QSharedData
 {
 public:
-    /// As RVMargins has them.
+    /// The operations of RVMargins.
     /// @{
     RVMarginsImpl(int top = 0, int bottom = 0, int left = 0, int right = 0) noexcept;
 

@@ -7,7 +7,7 @@
 #include "RVPriceClassSet.h"
 #include "RVProductBaseExport.h"
 
-/// What a project contains that costs extra, together with the add-ons that its product model offers.
+/// The contents of a project that cost extra, together with the add-ons that its product model offers.
 /// @par Example
 /// @snippet tst_examples_articles.cpp RVModelAddOnStatistic
 /// @ingroup articles
@@ -34,21 +34,21 @@ public:
     int count(const RVPriceClass &priceClass) const { return myContentStatistic.count(priceClass); }
     /// @}
 
-    RVPriceClass videoAddOn() const { return myVideoAddOn; } ///< Empty where there is none.
-    RVPriceClass spotColorAddOn() const { return mySpotColorAddOn; } ///< Empty where there is none.
+    RVPriceClass videoAddOn() const { return myVideoAddOn; } ///< Empty if there is none.
+    RVPriceClass spotColorAddOn() const { return mySpotColorAddOn; } ///< Empty if there is none.
     RVPriceClass flyLeafAddOn() const { return myFlyLeafAddOn; } ///< Empty until it is set.
     /// The options that were chosen with the fly-leaf.
     RVArticleVariants flyLeafVariants() const { return myFlyLeafVariants; }
     RVPriceClassSet designStyleAddOns() const { return myDesignStyleAddOns; } ///< Empty until they are set.
     RVPriceClass panoPagesAddOn() const { return myPanoPagesAddOn; } ///< Empty until it is set.
 
-    /// Changes what the project contains, see RVContentStatistic.
+    /// Changes the contents of the project, see RVContentStatistic.
     /// @{
     void addAddOn(const RVPriceClass &priceClass, int quantity) { myContentStatistic.addAddOn(priceClass, quantity); }
     void removeAddOn(const RVPriceClass &priceClass) { myContentStatistic.removeAddOn(priceClass); }
     /// @}
 
-    /// Changes what the product model offers.
+    /// Changes the add-ons of the product model.
     /// @{
     void setVideoAddOn(const RVPriceClass &priceClass);
     void setSpotColorAddOn(const RVPriceClass &priceClass);
@@ -57,7 +57,7 @@ public:
     void setPanoPagesAddOn(const RVPriceClass &priceClass);
     /// @}
 
-    /// By what the project contains and what the model offers.
+    /// Compares the contents of the project and the add-ons of the model.
     /// @{
     RVPRODUCTBASE_EXPORT friend bool operator==(const RVModelAddOnStatistic &a, const RVModelAddOnStatistic &b);
     friend bool operator!=(const RVModelAddOnStatistic &a, const RVModelAddOnStatistic &b) { return !(a == b); }

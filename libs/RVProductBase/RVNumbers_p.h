@@ -8,7 +8,7 @@
 #include <limits>
 #include <optional>
 
-/// A whole number in decimal. QString::toInt() would stop at a null character and overlook what stands behind it.
+/// A whole number in decimal. QString::toInt() would stop at a null character and ignore the text behind it.
 inline std::optional<int> rvToInt(const QString &text)
 {
     bool isNumber = false;
@@ -16,8 +16,8 @@ inline std::optional<int> rvToInt(const QString &text)
     return isNumber && !text.contains(QChar::Null) ? std::optional(number) : std::nullopt;
 }
 
-/// A whole number of JSON. A value that was not parsed but set may be infinite or NaN, for which QJsonValue::toInt()
-/// has no firm answer.
+/// A whole number of JSON. A value that was set and not parsed may be infinite or NaN, for which QJsonValue::toInt()
+/// has no defined result.
 inline std::optional<int> rvToInt(const QJsonValue &value)
 {
     using Limits = std::numeric_limits<int>;

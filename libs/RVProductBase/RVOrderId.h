@@ -18,8 +18,8 @@ class RVPRODUCTBASE_EXPORT RVOrderId
 {
 public:
     RVOrderId(); ///< No order.
-    RVOrderId(const QString &id); ///< The text as it stands.
-    // An id that is moved from keeps its text, one that is assigned from takes the other's.
+    RVOrderId(const QString &id); ///< The id with this text.
+    // A moved-from id keeps its text after a move construction, and takes the other's text after a move assignment.
     RVOrderId(const RVOrderId &) = default;
     RVOrderId &operator=(const RVOrderId &) = default;
     /// Exchanges the two texts.
@@ -31,11 +31,11 @@ public:
     virtual ~RVOrderId();
 
     bool isValid() const noexcept { return !myId.isNull(); } ///< True also for an empty text that is not null.
-    void clear(); ///< Makes it no order.
+    void clear(); ///< Makes it invalid.
 
-    /// The id; fit for a file name, with "_" for every "-", where @p replaceDashes is true.
+    /// The id. If @p replaceDashes is true, it has "_" for every "-" and is fit for a file name.
     QString toString(bool replaceDashes = false) const;
-    /// Writes toString(): the order is on the left, the stream on the right.
+    /// Writes toString(). The order is on the left of the operator, the stream on the right.
     QDataStream &operator<<(QDataStream &stream) const;
     /// The same with the stream on the left, for a QVariant or a QList of ids, and its reader.
     /// @{
@@ -43,8 +43,8 @@ public:
     RVPRODUCTBASE_EXPORT friend QDataStream &operator>>(QDataStream &stream, RVOrderId &orderId);
     /// @}
 
-    /// By text; letter case counts. A null and an empty text are equal, so no order equals the order with the empty id,
-    /// though only the latter is valid.
+    /// Compares the texts; letter case matters. A null and an empty text are equal. So the invalid id equals the order
+    /// with the empty id, though only the latter is valid.
     /// @{
     friend bool operator==(const RVOrderId &a, const RVOrderId &b) noexcept { return a.myId == b.myId; }
     friend bool operator!=(const RVOrderId &a, const RVOrderId &b) noexcept { return a.myId != b.myId; }

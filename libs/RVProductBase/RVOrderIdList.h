@@ -13,7 +13,7 @@
 class RVPRODUCTBASE_EXPORT RVOrderIdList : public QList<RVOrderId>
 {
 public:
-    /// The valid ids joined with ","; empty where there are none.
+    /// The valid ids joined with ","; empty if there are none.
     QString toString() const;
 };
 

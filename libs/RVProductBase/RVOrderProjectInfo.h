@@ -28,22 +28,22 @@ public:
     RVOrderProjectInfo &operator=(RVOrderProjectInfo &&) = default;
     virtual ~RVOrderProjectInfo();
 
-    /// The one that asks for deletion; it is not valid. The request does not survive a stream.
+    /// An info that asks for deletion; it is not valid. The request is not written to streams.
     static RVOrderProjectInfo createDeletingProjetInfo();
 
     QString xtciSession() const { return myXtciSession; } ///< The name of the session of the order transfer.
     RVOrderId orderId() const { return myOrderId; } ///< The order that the project was sent with.
-    int orderPosition() const noexcept { return myOrderPosition; } ///< Negative where it is unknown.
-    /// True only for the one that asks for deletion.
+    int orderPosition() const noexcept { return myOrderPosition; } ///< Negative if it is unknown.
+    /// True only for an info that asks for deletion.
     bool deleteProjectInfo() const noexcept { return myDeleteProjectInfo; }
     /// True with a valid order, a known position and a session that is not null.
     bool isValid() const noexcept;
 
-    void setOrderId(const RVOrderId &orderId); ///< Everything else stays as it is.
+    void setOrderId(const RVOrderId &orderId); ///< Sets the order id only.
 
-    /// Writes the order id, the position as a 32-bit integer and the session: the info is on the left, the stream on
-    /// the right. deleteProjectInfo() is not written: what is read back of an info that asks for deletion asks for
-    /// none.
+    /// Writes the order id, the position as a 32-bit integer and the session. The info is on the left of the operator,
+    /// the stream on the right. deleteProjectInfo() is not written, so an info that is read back never asks for
+    /// deletion.
     QDataStream &operator<<(QDataStream &stream) const;
     /// The same with the stream on the left, for a QVariant or a QList of them, and its reader.
     /// @{
@@ -51,7 +51,7 @@ public:
     RVPRODUCTBASE_EXPORT friend QDataStream &operator>>(QDataStream &stream, RVOrderProjectInfo &info);
     /// @}
 
-    /// By all four values.
+    /// Compares all four values.
     /// @{
     friend bool operator==(const RVOrderProjectInfo &a, const RVOrderProjectInfo &b) noexcept
     {

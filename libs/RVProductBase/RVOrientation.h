@@ -25,9 +25,9 @@ RV_DECLARE_ENUM_OPERATORS(RVOrientationEnum)
 
 extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVOrientationEnum>;
 
-/// Whether a page or a product is upright, wide, square, or slim. 0 is none; a value without a keyword is written as
+/// The shape of a page or a product: upright, wide, square, or slim. 0 is none; a value without a keyword is written as
 /// "portrait". 0 has the keyword "none", but only encode() writes it: encodeCSV() writes "portrait", which is read as
-/// such.
+/// ORIENTATION_PORTRAIT.
 /// @par Example
 /// @snippet tst_examples_attributes.cpp RVOrientation
 /// @ingroup attributes
@@ -40,16 +40,17 @@ public:
     RVOrientation(const QString &text);
     /// From a page size, see fromSize().
     RVOrientation(const QSizeF &size);
-    /// From a keyword list; from the size where that gives none.
+    /// From a keyword list; from the size if the list gives none.
     RVOrientation(const QString &text, const QSizeF &size);
 
     /// From a page size, see fromSize().
     static RVOrientation createFromSize(const QSizeF &size);
-    /// A page that is not tilted is landscape, every other one is portrait.
+    /// A page that is not tilted is landscape; a tilted page is portrait.
     static RVOrientation createFromPageTilt(const RVAngle &tilt);
 
-    /// By width / height: from 2 slim landscape, up to 0.5 slim portrait, up to 0.9 portrait, up to 1.1 square, else
-    /// landscape. None where a side is negative or not a number, or both are 0. The object's own value does not count.
+    /// The orientation by width / height: from 2 slim landscape, up to 0.5 slim portrait, up to 0.9 portrait, up to 1.1
+    /// square, otherwise landscape. None if a side is negative or not a number, or if both are 0. The object's own
+    /// value does not count.
     RVOrientationEnum fromSize(const QSizeF &size) const;
 
     /// True with one of the bits, slim or not.
@@ -62,11 +63,11 @@ public:
     RVOrientation reduceToBasics() const;
 
     /// The German adjective for exactly this value, translated, ready to stand before a product's name: "Panorama-" or
-    /// "quadratische " with a blank. Empty where there is none.
+    /// "quadratische " with a blank. Empty if there is none.
     QString humanReadable() const;
     /// "portrait", "landscape", "square" or "unknown"; the first that applies.
     QString previewFileNamePrefix() const;
-    /// The usual width / height of exactly this value; 1 where there is none.
+    /// The usual width / height of exactly this value; 1 if there is none.
     double defaultWidthHeightRatio() const;
     /// The fold margin of a folded product as a part of its length, by reduceToBasics(); 0 for none.
     double foldMarginFactor() const;

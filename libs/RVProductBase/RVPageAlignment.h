@@ -20,7 +20,7 @@ RV_DECLARE_ENUM_OPERATORS(RVPageAlignmentEnum)
 
 extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVPageAlignmentEnum>;
 
-/// The place of a page in the spread, or of an element on its page. 0 is nowhere; an unknown keyword stands for the
+/// The place of a page in the spread, or of an element on its page. 0 is no place; an unknown keyword stands for the
 /// left, and so do "cover" and "coverpage".
 /// @par Example
 /// @snippet tst_examples_attributes.cpp RVPageAlignment
@@ -33,12 +33,12 @@ public:
     /// From a keyword list such as "left, top"; an empty one is the left.
     RVPageAlignment(const QString &text);
 
-    /// The German words for exactly this value, translated; empty where there are none.
+    /// The German words for exactly this value, translated; empty if there are none.
     QString describe() const;
-    /// The end of the name of a production PDF: "_left.pdf" and "_right.pdf" for exactly these pages where the
-    /// output is split by page, else "_center.pdf".
+    /// The end of the name of a production PDF: "_left.pdf" and "_right.pdf" for exactly these pages if the output is
+    /// split by page, otherwise "_center.pdf".
     QString pdfPostFix(bool split) const;
-    /// The path with pdfPostFix() for every ".pdf" in it, in whatever letter case.
+    /// The path with pdfPostFix() for every ".pdf" in it, in any letter case.
     QString modifyProductionPath(const QString &path, bool split) const;
 
     void fillTable(RVEnumToStringTable<RVPageAlignmentEnum> *table) const override;

@@ -33,7 +33,7 @@ public:
     /// From a keyword list such as "glued"; unknown keywords add nothing.
     RVPageBinding(const QString &text);
 
-    /// The name that the customer reads for exactly this value; empty where there is no name, such as for SPIRAL.
+    /// The name that the customer reads for exactly this value; empty if there is no name, such as for SPIRAL.
     QString humanReadableName() const;
     /// The table behind humanReadableName(). Its reverse look-up never finds "Rückstichbindung", which has an umlaut.
     static const RVDisplayNames<RVPageBinding> &pageBindingNames();

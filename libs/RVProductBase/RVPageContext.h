@@ -5,15 +5,15 @@
 #include "RVPageType.h"
 #include "RVProductBaseExport.h"
 
-/// What a page of a product is: its type and its place in the spread. Both may hold several bits and then stand for
-/// each of them.
+/// The context of a page in a product: its type and its place in the spread. Both may hold several bits and then stand
+/// for each of them.
 /// @par Example
 /// @snippet tst_examples_geometry.cpp RVPageContext
 /// @ingroup geometry
 class RVPRODUCTBASE_EXPORT RVPageContext
 {
 public:
-    /// Either may hold several bits.
+    /// The page type and the alignment, each with any number of bits.
     RVPageContext(const RVPageType &pageType, const RVPageAlignment &alignment) noexcept;
     RVPageContext(const RVPageContext &) noexcept = default;
     RVPageContext(RVPageContext &&) noexcept = default;
@@ -35,7 +35,7 @@ public:
     /// The keywords of alignment and page type, with a blank between them.
     QString dump() const;
 
-    /// By exact values.
+    /// Compares exact values.
     /// @{
     bool operator==(const RVPageContext &other) const;
     bool operator!=(const RVPageContext &other) const { return !(*this == other); }
@@ -44,7 +44,7 @@ public:
         return qHashMulti(seed, context.myPageType, context.myAlignment);
     }
     /// @}
-    /// By page type, then by alignment.
+    /// Compares the page type, then the alignment.
     bool operator<(const RVPageContext &other) const;
 
 private:

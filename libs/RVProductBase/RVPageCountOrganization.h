@@ -12,9 +12,10 @@ class QString;
 /**
  * The page counts that a product may have: from a lowest to a highest count in steps of the page increment. A photo
  * book with 26 to 154 pages in steps of 4 is ([26, 154], 4); an increment of 0 means a fixed count. The default, [0, 0]
- * with increment 0, is invalid. Boxes of prints count photos in the same way. Read from the products XML.
+ * with increment 0, is invalid. Boxes of prints count photos in the same way. The page counts are read from the
+ * products XML.
  *
- * Page counts are pages; a package is what one increment adds. Results stay within the int limits.
+ * Page counts are pages; a package is the group of pages that one increment adds. Results stay within the int limits.
  *
  * @par Example
  * @snippet tst_examples_geometry.cpp RVPageCountOrganization
@@ -39,53 +40,54 @@ public:
     /// [3, 3], fixed.
     static RVPageCountOrganization createForCardWithInsertedFoto();
     /// Reads "pages" (1), "max_pages" ("pages"), both multiplied by "pieces" (1), and "page_step" (0) of a product
-    /// element. What was read is not checked; ask isValid().
+    /// element. The values are not checked; call isValid().
     static RVPageCountOrganization createFromProductsXML(const QDomElement &product);
     /// The same for a box of prints: "pages" (1), "max_pages" ("pages" + 29) and "page_step" (1).
     static RVPageCountOrganization createFromProductsXMLForPictureBox(const QDomElement &product);
 
     RVIntRange range() const { return myRange; } ///< From the lowest to the highest count.
     int minPages() const noexcept { return myRange.min; } ///< The lowest count.
-    int maxPages() const noexcept { return myRange.max; } ///< The highest count; the increments need not meet it.
+    int maxPages() const noexcept { return myRange.max; } ///< The highest count; steps from the lowest may miss it.
     int pageIncrement() const noexcept { return myPageIncrement; } ///< The pages of one package.
 
-    /// True from the lowest to the highest count, whether the increments meet it or not.
+    /// True for every count from the lowest to the highest, also between the steps.
     bool inRange(int pages) const noexcept;
     /// True for one count that is not 0, or for several with a positive increment.
     bool isValid() const noexcept;
-    /// True for a count in range that is a whole number of packages above the lowest; any in range without increment.
+    /// True for a count in range that is a whole number of packages above the lowest; without increment for any count
+    /// in range.
     bool isValidPageCount(int pages) const noexcept;
     /// True when it is valid and the increments meet the highest count.
     bool isConsistent() const noexcept;
-    /// True when fewer than two pages are enough.
+    /// True when the product can have fewer than two pages.
     bool isOnePageProduct() const noexcept { return minPages() < 2; }
 
     /// The counts that can be chosen, ascending: 26, 30, … 154 for ([26, 154], 4), and 3 alone for ([3, 3], 0). They
     /// are the rows of RVPageCountOrganizationListModel, and isValidPageCount() accepts each of them.
     ///
-    /// Ask isValid() first: of an invalid organisation they are the lowest count at most, such as 0 by default and 10
-    /// for the range ([10, 20], 0). There are none where the lowest count is above the highest.
+    /// Call isValid() first. An invalid organisation offers at most the lowest count, such as 0 by default and 10 for
+    /// the range ([10, 20], 0). It offers none if the lowest count is above the highest.
     RVPageCounts pageCounts() const noexcept;
-    /// The lowest count and @p n packages.
+    /// The lowest count plus @p n packages.
     int pagesWithNExtraPackages(int n) const noexcept;
-    /// Whole packages above the lowest count; 0 at or below it, and without increment.
+    /// The whole packages above the lowest count; 0 at or below it, and without increment.
     int countPackages(int pages) const noexcept;
     /// The number of counts that can be chosen; 1 without increment. Below 1 only for an invalid organisation.
     int numberOfPackages() const noexcept;
-    /// The lowest count of a product with panorama pages: the lowest count and two packages.
+    /// The lowest count of a product with panorama pages: the lowest count plus two packages.
     int minPagesWithPano() const noexcept;
-    /// The count to take where @p pages are wanted. If isConsistent() is true, that is the next allowed count from
-    /// @p pages on, or the highest where there is none: 38 for 35 and 154 for 200 of ([26, 154], 4).
+    /// The nearest possible count for @p pages. If isConsistent() is true, that is the next allowed count from @p pages
+    /// on, or the highest if there is none: for ([26, 154], 4), 35 becomes 38 and 200 becomes 154.
     ///
-    /// Otherwise it can be a count that isValidPageCount() denies. Rounding up is not clamped, and clamping is not
-    /// rounded: of ([26, 29], 4), 28 becomes 30 and 200 becomes 29. Without increment a count in range becomes the
-    /// lowest, even if that is less: of ([10, 20], 0), 15 becomes 10 and 30 becomes 20.
+    /// Otherwise it can be a count that isValidPageCount() rejects. Rounding up is not clamped, and clamping is not
+    /// rounded: for ([26, 29], 4), 28 becomes 30 and 200 becomes 29. Without increment a count in range becomes the
+    /// lowest, even if that is less: for ([10, 20], 0), 15 becomes 10 and 30 becomes 20.
     int constrain(int pages) const noexcept;
 
-    /// With the lowest count raised to what constrain() makes of @p pages, so that no smaller count is offered.
-    /// Unchanged where @p pages is not above the lowest. Invalid where constrain() rounds up above the highest count.
+    /// A copy with the lowest count raised to constrain() of @p pages, so that it offers no smaller count. It is
+    /// unchanged if @p pages is not above the lowest, and invalid if constrain() rounds up above the highest count.
     RVPageCountOrganization adaptedTo(int pages) const;
-    /// A copy; with @p minOnly the lowest count is the only one.
+    /// A copy; with @p minOnly it has only the lowest count.
     RVPageCountOrganization clone(bool minOnly = false) const;
 
     /// Lowers both counts by @p pages, unless the lowest would fall below 1. Returns a copy of the result.
@@ -94,7 +96,7 @@ public:
     /// "min: 26; max: 154; increment: 4"
     QString dump() const;
 
-    /// By range and increment.
+    /// Compares range and increment.
     /// @{
     friend bool operator==(const RVPageCountOrganization &a, const RVPageCountOrganization &b)
     {

@@ -29,9 +29,9 @@ public:
     /// Resets the model to these counts; until then it has one row of 0.
     void setPageOrganization(const RVPageCountOrganization &organization);
 
-    /// RVPageCountOrganization::numberOfPackages(), whatever the parent.
+    /// RVPageCountOrganization::numberOfPackages(), for every parent.
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
-    int columnCount(const QModelIndex &parent = QModelIndex()) const override; ///< 1.
+    int columnCount(const QModelIndex &parent = QModelIndex()) const override; ///< Always 1.
     using QObject::parent;
     QModelIndex parent(const QModelIndex &index) const override; ///< The invalid index.
     /// The text of the row for the display role, pagesAtIndex() for PagesRole; an invalid value for any other role.

@@ -7,13 +7,13 @@
 #include <iterator>
 
 /**
- * The page counts that can be chosen of a product, ascending. Made by RVPageCountOrganization::pageCounts(); empty by
- * default.
+ * The page counts that a product offers, ascending. RVPageCountOrganization::pageCounts() returns them; the default is
+ * empty.
  *
  *     for (int pages : organization.pageCounts())
  *         list->addItem(QString::number(pages));
  *
- * The counts are computed while they are asked for, so two billion of them need no memory. For a list of them, write
+ * The counts are computed on access, so two billion of them need no memory. For a list of them, write
  * `QList<int>(counts.begin(), counts.end())`.
  *
  * @par Example
@@ -30,7 +30,7 @@ public:
     class const_iterator
     {
     public:
-        /// For the standard library.
+        /// Types for the standard library.
         /// @{
         using iterator_category = std::input_iterator_tag; // it makes its values
         using iterator_concept = std::forward_iterator_tag;
@@ -40,10 +40,10 @@ public:
         using reference = int;
         /// @}
 
-        constexpr const_iterator() noexcept = default; ///< Belongs to no counts.
+        constexpr const_iterator() noexcept = default; ///< An iterator without counts.
 
         constexpr int operator*() const noexcept { return int(myPages); } ///< The count.
-        /// Goes on to the next count.
+        /// Moves to the next count.
         /// @{
         constexpr const_iterator &operator++() noexcept
         {
@@ -58,7 +58,7 @@ public:
         }
         /// @}
 
-        /// By place; both must belong to the same counts.
+        /// Compares the places; both must belong to the same counts.
         /// @{
         friend constexpr bool operator==(const_iterator a, const_iterator b) noexcept { return a.myPages == b.myPages; }
         friend constexpr bool operator!=(const_iterator a, const_iterator b) noexcept { return !(a == b); }
@@ -72,7 +72,7 @@ public:
         qint64 myPages = 0; // behind the last one it may be no int
         qint64 myIncrement = 1;
     };
-    /// For the standard library.
+    /// Types for the standard library.
     /// @{
     using iterator = const_iterator;
     using value_type = int;
@@ -98,7 +98,7 @@ public:
     constexpr int first() const noexcept { return at(0); } ///< The lowest; 0 without any count.
     constexpr int last() const noexcept { return at(mySize - 1); } ///< The highest; 0 without any count.
 
-    /// By the counts that they hold, however they were made.
+    /// Compares the counts themselves, not the ranges that they were made from.
     /// @{
     friend constexpr bool operator==(const RVPageCounts &a, const RVPageCounts &b) noexcept
     {
@@ -110,7 +110,7 @@ public:
 private:
     friend class RVPageCountOrganization;
 
-    /// At least one; the increment is above 0 where there are several.
+    /// The counts from @p lowest on, at least one; the increment is above 0 if there are several.
     constexpr RVPageCounts(int lowest, int increment, qint64 size) noexcept
         : myLowest(lowest),
           myIncrement(size > 1 ? increment : 1),

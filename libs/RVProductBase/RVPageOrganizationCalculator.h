@@ -15,9 +15,10 @@ class RVPRODUCTBASE_EXPORT RVPageOrganizationCalculator
 public:
     virtual ~RVPageOrganizationCalculator();
 
-    /// Called under the manager's lock, so by one thread at a time. It may ask the manager for other product types; for
-    /// @p type itself the manager would call it again, without end. It must not replace itself, nor ask
-    /// RVProductCheckerRegistry where a checker asks the manager: two threads would wait for each other.
+    /// Returns the page counts of the type. The manager calls it under its lock, so from one thread at a time. It may
+    /// ask the manager for other product types; a request for @p type itself would cause an endless recursion. It must
+    /// not replace itself. It must not ask RVProductCheckerRegistry if a checker asks the manager, because two threads
+    /// would then wait for each other.
     virtual RVPageCountOrganization calculate(const RVProductType &type) = 0;
 };
 

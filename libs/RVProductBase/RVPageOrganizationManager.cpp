@@ -13,8 +13,8 @@ template class RVSingleton<RVPageOrganizationManager>;
 
 namespace {
 
-/// Callers keep the pointers they were given, so an organisation that was handed out is never deleted. Holding on to
-/// it here tells it from a leak.
+/// Callers keep the pointers that they got, so a returned organisation is never deleted. This list keeps it, so that it
+/// is no leak.
 void keepForever(RVPageCountOrganization *organization)
 {
     static QBasicMutex mutex;
@@ -25,7 +25,7 @@ void keepForever(RVPageCountOrganization *organization)
 
 }
 
-// The thread that asks first may end soon, and would take with it what connections to clearCache() are delivered by.
+// The thread of the first caller may end soon, and connections to clearCache() would then no longer be delivered.
 RVPageOrganizationManager::RVPageOrganizationManager()
 {
     if (const auto *application = QCoreApplication::instance())
@@ -55,7 +55,7 @@ RVPageCountOrganization *RVPageOrganizationManager::organization(const RVProduct
 
 RVPageCountOrganization *RVPageOrganizationManager::calculate(const RVProductType &type)
 {
-    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): a calculator may change what the caller asked about.
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): a calculator may change the caller's object.
     const RVProductType key = type;
     RVPageCountOrganization *const created = createPageOrganization(type);
     keepForever(created);

@@ -16,12 +16,12 @@ class RVPageOrganizationManager;
 extern template class RVPRODUCTBASE_EXPORT RVSingleton<RVPageOrganizationManager>;
 
 /**
- * Knows the page counts of every product type: asks the application's calculator once per type and remembers the
- * answer until clearCache().
+ * The page counts of every product type. The manager calls the application's calculator once for each type and caches
+ * the result until clearCache().
  *
  * Any thread may call; one lock serialises all operations. Without a calculator every type has the empty, invalid
- * organisation. Whichever thread asks first, the QObject belongs to the thread of the application, if there is one by
- * then.
+ * organisation. The QObject belongs to the thread of the application if there is one on first use; otherwise to the
+ * calling thread.
  *
  * @par Example
  * @snippet tst_guide_services.cpp pagecounts
@@ -33,25 +33,25 @@ class RVPRODUCTBASE_EXPORT RVPageOrganizationManager : public QObject, public RV
     Q_OBJECT
 
 public:
-    /// Without a calculator. Applications take instance() instead.
+    /// A manager without a calculator. Applications use instance() instead.
     RVPageOrganizationManager();
     ~RVPageOrganizationManager() override;
 
-    /// Takes ownership and deletes the previous calculator; null removes it. Empties the cache, also when
-    /// @p calculator is the one that is set already.
+    /// Takes ownership and deletes the previous calculator; null removes it. Empties the cache, even if @p calculator
+    /// is already set.
     void setCalculator(RVPageOrganizationCalculator *calculator);
 
-    /// The page counts of the type, never null. The object lives as long as the process, even when the cache or the
-    /// manager forgets it; nobody may delete it. Leave it unchanged: a change through the pointer shows in every answer
-    /// for the type until the cache is emptied, and nothing synchronises it with threads that read.
+    /// The page counts of the type, never null. The object lives as long as the process, even after the cache drops it;
+    /// do not delete it. Do not change it either: a change through the pointer affects every result for the type until
+    /// the cache is emptied, and is not synchronised with threads that read.
     RVPageCountOrganization *organization(const RVProductType &type);
-    /// A copy of what organization() points to, free to be changed.
+    /// A copy of the result of organization(), which the caller may change.
     RVPageCountOrganization pageCountOrganzation(const RVProductType &type);
-    /// Asks the calculator, past the cache; the caller owns the result.
+    /// Calls the calculator and bypasses the cache; the caller owns the result.
     RVPageCountOrganization *createPageOrganization(const RVProductType &type) const;
 
 public Q_SLOTS:
-    /// Forgets every answer, for instance after the catalogue was reloaded.
+    /// Empties the cache, for instance after the catalogue was reloaded.
     void clearCache();
 
 private:

@@ -4,7 +4,7 @@
 #include "RVPageContext.h"
 #include "RVProductBaseExport.h"
 
-/// What the size of a page depends on: what page it is, and how many pages the product has. The application keeps page
+/// The key of a page size: the context of the page, and the number of pages of the product. The application stores page
 /// sizes under it.
 /// @par Example
 /// @snippet tst_examples_geometry.cpp RVPageSizeKey
@@ -12,7 +12,7 @@
 class RVPRODUCTBASE_EXPORT RVPageSizeKey
 {
 public:
-    /// Stands for every alignment.
+    /// A key for every alignment.
     RVPageSizeKey(const RVPageType &pageType, int pageCount) noexcept;
     RVPageSizeKey(const RVPageSizeKey &) noexcept = default;
     RVPageSizeKey(RVPageSizeKey &&) noexcept = default;
@@ -22,7 +22,7 @@ public:
 
     RVPageContext pageContext() const noexcept { return myPageContext; } ///< The page and its place in the spread.
     RVPageType pageType() const noexcept { return myPageContext.pageType(); } ///< The kind of page.
-    RVPageAlignment alignment() const noexcept { return myPageContext.alignment(); } ///< Every alignment there is.
+    RVPageAlignment alignment() const noexcept { return myPageContext.alignment(); } ///< All alignments together.
     int pageCount() const noexcept { return myPageCount; } ///< The number of pages that the product has.
     /// True with a valid context and a page count that is not negative.
     bool isValid() const { return myPageContext.isValid() && myPageCount >= 0; }
@@ -30,7 +30,7 @@ public:
     /// The page context and the page count, with a blank between them.
     QString dump() const;
 
-    /// By page count and context.
+    /// Compares the page count and the context.
     /// @{
     bool operator==(const RVPageSizeKey &other) const;
     bool operator!=(const RVPageSizeKey &other) const { return !(*this == other); }

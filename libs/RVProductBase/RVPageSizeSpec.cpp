@@ -28,7 +28,7 @@ bool RVPageSizeSpec::operator==(const RVPageSizeSpec &other) const noexcept
     return myUsableSize == other.myUsableSize && myBleedMargins == other.myBleedMargins;
 }
 
-// The brace stays open, as log readers have always seen it.
+// The brace stays open, because log readers rely on this form.
 QDebug operator<<(QDebug debug, const RVPageSizeSpec &spec)
 {
     return debug << "{ usable=" << spec.usableSize() << ", 4Scaling" << spec.usableSlipcaseCoverSize();

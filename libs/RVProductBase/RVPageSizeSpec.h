@@ -10,8 +10,8 @@
 
 class QDebug;
 
-/// The size of a page: the part that can be used, the bleed around it, and the usable size of the slipcase cover where
-/// the product has one. All in the same unit. What was moved from is a valid object.
+/// The size of a page: the part that can be used, the bleed around it, and the usable size of the slipcase cover if the
+/// product has one. All sizes have the same unit. A moved-from object is valid.
 /// @par Example
 /// @snippet tst_examples_geometry.cpp RVPageSizeSpec
 /// @ingroup geometry
@@ -20,7 +20,7 @@ class RVPRODUCTBASE_EXPORT RVPageSizeSpec
 public:
     /// A page of invalid size without bleed.
     RVPageSizeSpec() = default;
-    /// Without a slipcase cover.
+    /// A page without a slipcase cover.
     RVPageSizeSpec(const QSize &usableSize, const RVMargins &bleedMargins);
 
     QSize usableSize() const noexcept { return myUsableSize; } ///< The part that remains when the bleed is cut away.
@@ -29,16 +29,17 @@ public:
     QPoint topLeftOffsetOfUsablePrintArea() const noexcept { return myBleedMargins.topLeft(); }
     /// The usable size with the bleed.
     QSize totalSize() const noexcept;
-    /// (-1, -1) until it is set.
+    /// The usable size of the slipcase cover; (-1, -1) until it is set.
     QSize usableSlipcaseCoverSize() const noexcept { return myUsableSlipcaseCoverSize; }
-    /// Moves the slipcase cover to the middle of the page's height, never sideways. (0, 0) where it has no size.
+    /// The offset that moves the slipcase cover to the middle of the page's height, never sideways; (0, 0) if it has no
+    /// size.
     QPointF slipcaseTranslationPoint() const noexcept;
 
-    void setUsableSize(const QSize &size) { myUsableSize = size; } ///< The bleed stays as it is.
-    /// A negative width or height stands for no slipcase cover.
+    void setUsableSize(const QSize &size) { myUsableSize = size; } ///< Sets the usable size only.
+    /// Sets the usable size of the slipcase cover; a negative width or height means that there is none.
     void setUsableSlipcaseCoverSize(const QSize &size) { myUsableSlipcaseCoverSize = size; }
 
-    /// The size of the slipcase cover does not count.
+    /// Compares all but the size of the slipcase cover.
     /// @{
     bool operator==(const RVPageSizeSpec &other) const noexcept;
     bool operator!=(const RVPageSizeSpec &other) const noexcept { return !(*this == other); }

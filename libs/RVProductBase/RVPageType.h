@@ -44,7 +44,7 @@ enum RVPageTypeEnum : qint32 {
     PAGE_TYPE_SLIPCASECOVER = PAGE_TYPE_SLIPCASEFRONTCOVER | PAGE_TYPE_SLIPCASEBACKCOVER, ///< "slipcasecover"
     /// "slipcasepages": the four faces of a slipcase.
     PAGE_TYPE_SLIPCASEPAGES = PAGE_TYPE_SLIPCASESPINE | PAGE_TYPE_SLIPCASEEMPTYSPINE | PAGE_TYPE_SLIPCASECOVER,
-    /// "cover": whatever encloses a product, its slipcase included.
+    /// "cover": every part that encloses a product, its slipcase included.
     PAGE_TYPE_COVER = PAGE_TYPE_SPINE | PAGE_TYPE_FULLCOVER | PAGE_TYPE_CALENDARCOVERFRONT | PAGE_TYPE_CALENDARCOVERBACK
             | PAGE_TYPE_CROMOLINEN | PAGE_TYPE_LEATHER | PAGE_TYPE_SLIPCASEPAGES,
     /// "all": every cover and the pages of a book; no cards, no panoramas.
@@ -72,17 +72,17 @@ public:
 
     /// The way in which exactly this page is rendered for production: 0, 1 or 2.
     int productionRenderingRule() const;
-    /// The page number that an order gives to exactly this page; else 0 with a bit of spine, full cover, linen or
-    /// leather, -1 for any other.
+    /// The page number of exactly this page in an order; otherwise 0 with a bit of spine, full cover, linen or leather,
+    /// and -1 for any other.
     int explicitOrderPageNumber() const;
-    /// Which templates exactly this page accepts: 0, 3 or 7.
+    /// The templates that exactly this page accepts: 0, 3 or 7.
     int acceptTemplateRule() const;
-    /// Which photos exactly this page accepts: 0 or 3.
+    /// The photos that exactly this page accepts: 0 or 3.
     int acceptFotoRule() const;
     /// True when the page can have all these spot colours, so always for an empty list. Linen and leather take neither
     /// gloss nor silver ink; other pages take silver ink only with a card front or a full cover. Each element of the
-    /// list counts as a whole: gloss and gold combined in one is not gloss. The caller includes RVSpotColor.h, also to
-    /// write `isSpotColorAllowed({})`.
+    /// list counts as a whole: an element that combines gloss and gold is not gloss. The caller must include
+    /// RVSpotColor.h, even for `isSpotColorAllowed({})`.
     bool isSpotColorAllowed(const QList<RVSpotColor> &colors) const;
 
     void fillTable(RVEnumToStringTable<RVPageTypeEnum> *table) const override;

@@ -32,7 +32,7 @@ constexpr RVKeyword<RVPaperTypeEnum> KEYWORDS[] = {
     { u"digital_printing_recycled", DIGITAL_PRINTING_RECYCLED },
 };
 
-/// The key is fixed; the text is what the customer reads.
+/// The key is fixed; the text is for the customer.
 constexpr struct
 {
     QLatin1StringView key;

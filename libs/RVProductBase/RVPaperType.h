@@ -38,16 +38,16 @@ public:
     /// From a keyword list such as "glossy"; an empty one is INDIGO.
     RVPaperType(const QString &text);
 
-    /// The value of a display name, German or in the application's language; INDIGO for an unknown name. Only what
-    /// paperTypeNames() held when it was built is found, so ask in the same language, and nothing with letters beyond
-    /// ASCII: "Fotopapier Glänzend" gives INDIGO, not FOTOPAPER_GLOSSY. See RVDisplayNames::value().
+    /// The value of a display name, German or in the application's language; INDIGO for an unknown name. It finds only
+    /// the names that paperTypeNames() had when it was built, so use the same language. It finds no name with letters
+    /// beyond ASCII: "Fotopapier Glänzend" gives INDIGO, not FOTOPAPER_GLOSSY. See RVDisplayNames::value().
     static RVPaperType createFromHumanReadable(const QString &name);
 
-    /// The name that the customer reads for exactly this value, else "unbekannter Papiertyp".
+    /// The name that the customer reads for exactly this value, otherwise "unbekannter Papiertyp".
     QString humanReadableName() const;
     static const RVDisplayNames<RVPaperType> &paperTypeNames(); ///< The table behind humanReadableName().
 
-    /// From a fixed key, which is German and has no umlauts, to the text that the customer reads. The two may differ.
+    /// The map from a fixed key, which is German and has no umlauts, to the text for the customer. The two may differ.
     static QHash<QString, QString> translatedPaperTypes();
 
     void fillTable(RVEnumToStringTable<RVPaperTypeEnum> *table) const override;
@@ -58,7 +58,7 @@ private:
 
 Q_DECLARE_TYPEINFO(RVPaperType, Q_RELOCATABLE_TYPE);
 
-/// Prints the class and encodeCSV(): RVPaperType(indigo) for INDIGO and for 0 alike. @relates RVPaperType
+/// Prints the class and encodeCSV(): RVPaperType(indigo) for INDIGO and for 0. @relates RVPaperType
 RVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const RVPaperType &paperType);
 /// Prints the names of the enumerators, such as INDIGO|INDIGO_GLOSSY, and all other bits as a number.
 /// @relates RVPaperType

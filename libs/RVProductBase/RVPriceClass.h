@@ -22,7 +22,7 @@ class RVPRODUCTBASE_EXPORT RVPriceClass
 {
 public:
     RVPriceClass() = default; ///< No price class.
-    RVPriceClass(const QString &code); ///< The code as it stands, blanks included.
+    RVPriceClass(const QString &code); ///< The code unchanged, blanks included.
 
     /// The same as the constructor.
     static RVPriceClass create(const QString &code);
@@ -34,7 +34,7 @@ public:
 
     QString toString() const { return myCode; } ///< The code as it was given.
 
-    /// By code; letter case counts.
+    /// Compares the codes; letter case matters.
     /// @{
     friend bool operator==(const RVPriceClass &a, const RVPriceClass &b) noexcept { return a.myCode == b.myCode; }
     friend bool operator!=(const RVPriceClass &a, const RVPriceClass &b) noexcept { return a.myCode != b.myCode; }
@@ -53,7 +53,7 @@ private:
 
 Q_DECLARE_TYPEINFO(RVPriceClass, Q_RELOCATABLE_TYPE);
 
-/// By code. @relates RVPriceClass
+/// Hashes the code. @relates RVPriceClass
 inline size_t qHash(const RVPriceClass &priceClass, size_t seed = 0) noexcept
 {
     return seed ^ qHash(priceClass.toString(), 0);

@@ -14,8 +14,7 @@ class RVSpotColor;
 /**
  * A set of price classes, and the groups of them that the catalogue knows by name.
  *
- * A named group is built once and handed out as a shared copy; any thread may ask. The composite ones are put together
- * on every call.
+ * A named group is built once and returned as a shared copy, to any thread. Composite groups are built on every call.
  *
  * @par Example
  * @snippet tst_examples_articles.cpp RVPriceClassSet
@@ -28,8 +27,8 @@ public:
     RVPriceClassSet() = default; ///< The empty set.
     /// Shares the data of @p priceClasses.
     RVPriceClassSet(const QSet<RVPriceClass> &priceClasses);
-    RVPriceClassSet(const RVPriceClass &priceClass); ///< The set of this one, also of the empty one.
-    RVPriceClassSet(std::initializer_list<QString> codes); ///< Doubles count once.
+    RVPriceClassSet(const RVPriceClass &priceClass); ///< The set of this price class, which may be the empty one.
+    RVPriceClassSet(std::initializer_list<QString> codes); ///< Duplicates count once.
     RVPriceClassSet(const RVPriceClassSet &) = default;
     RVPriceClassSet(RVPriceClassSet &&) = default;
     RVPriceClassSet &operator=(const RVPriceClassSet &) = default;

@@ -6,7 +6,8 @@
 
 class QDebug;
 
-/// The bit 2 is left out: it has neither a name nor a keyword. @ingroup attributes
+/// The values of RVProductArrangement, each with its main keyword. The bit 2 is missing, because it has neither a name
+/// nor a keyword. @ingroup attributes
 enum RVProductArrangementEnum : qint32 {
     PRODUCT_ARRANGEMENT_TRIVIAL = 1, ///< "trivial"
     PRODUCT_ARRANGEMENT_GIFT = 4, ///< "gift"
@@ -18,7 +19,7 @@ RV_DECLARE_ENUM_OPERATORS(RVProductArrangementEnum)
 
 extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVProductArrangementEnum>;
 
-/// How products are grouped where they are presented. 0 is no group.
+/// The group in which a product is presented. 0 is no group.
 /// @par Example
 /// @snippet tst_examples_attributes.cpp RVProductArrangement
 /// @ingroup attributes

@@ -3,7 +3,7 @@
 
 #include <QtGlobal>
 
-/// Marks what the library offers to others.
+/// Marks the symbols that the library exports.
 #ifdef RVPRODUCTBASE_LIBRARY
 #    define RVPRODUCTBASE_EXPORT Q_DECL_EXPORT
 #else

@@ -52,7 +52,7 @@ bool RVProductCheckerRegistry::isValid(const RVProductType &type, RVProductCheck
 
 bool RVProductCheckerRegistry::ask(const RVProductType &type, RVProductCheckerType kinds) const
 {
-    // A checker may change the object that the caller asked about.
+    // A checker may change the caller's object.
     const std::pair key(type, kinds);
     const bool result = isValidWorker(type, kinds);
     myCache.insert(key, result);

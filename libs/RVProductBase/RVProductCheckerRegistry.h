@@ -17,20 +17,19 @@ class RVProductCheckerRegistry;
 extern template class RVPRODUCTBASE_EXPORT RVSingleton<RVProductCheckerRegistry>;
 
 /**
- * Asks all checkers of the application whether a product may be offered: it may when none of those that take part in
- * one of the kinds of check refuses. Without such a checker everything may be offered.
+ * Asks all checkers of the application whether a product may be offered. It may be offered unless a checker that takes
+ * part in one of the kinds of check refuses it. Without such a checker every product may be offered.
  *
- * Any thread may call isValid(), also a checker that is being asked: its lock is recursive, and the checkers run under
- * it. If a checker asks RVPageOrganizationManager there, whose calculator asks this registry, two threads that come
- * from the two sides wait for each other for ever.
+ * Any thread may call isValid(), and so may a running checker: the lock is recursive, and the checkers run under it. A
+ * deadlock is possible if a checker asks RVPageOrganizationManager and the calculator there asks this registry.
  *
- * Everything else takes no lock. isValidWorker() and isValidBoxStyle() ask the checkers from several threads at once.
- * registerChecker(), unregisterChecker() and clearCaches() crash beside isValid() in another thread: call them while no
- * other thread asks, typically when the application starts and ends.
+ * All other functions take no lock. isValidWorker() and isValidBoxStyle() may call the checkers from several threads at
+ * once. registerChecker(), unregisterChecker() and clearCaches() can crash while isValid() runs in another thread: call
+ * them while no other thread uses the registry, typically when the application starts and ends.
  *
- * A checker may call them too, but a question goes to those that were registered when it was asked. One that is
- * unregistered meanwhile is still called once, so it must live until then. One that is registered meanwhile is not
- * called, and isValid() remembers the answer all the same: clear the caches when the question is answered.
+ * A checker may call them too, but a running query uses the checkers that were registered at its start. A checker that
+ * is unregistered during a query is still called once, so it must live until then. A checker that is registered during
+ * a query is not called, but isValid() caches the result: clear the caches after the query.
  *
  * @par Example
  * @snippet tst_guide_services.cpp registry
@@ -40,24 +39,24 @@ extern template class RVPRODUCTBASE_EXPORT RVSingleton<RVProductCheckerRegistry>
 class RVPRODUCTBASE_EXPORT RVProductCheckerRegistry : public RVSingleton<RVProductCheckerRegistry>
 {
 public:
-    /// Without checkers. Applications take instance() instead.
+    /// A registry without checkers. Applications use instance() instead.
     RVProductCheckerRegistry();
     virtual ~RVProductCheckerRegistry();
 
-    /// Adds a checker, which stays the caller's; one that is registered twice is asked twice. Null adds nothing.
-    /// Empties the cache.
+    /// Adds a checker, which the caller keeps owning. A checker that is registered twice is called twice. Null adds
+    /// nothing. Empties the cache.
     void registerChecker(RVProductChecker *checker);
-    /// Removes a checker however often it is registered. Empties the cache.
+    /// Removes all registrations of a checker. Empties the cache.
     void unregisterChecker(RVProductChecker *checker);
-    /// Forgets every answer. Takes no lock, so it crashes beside isValid() in another thread.
+    /// Empties the cache. It takes no lock, so it can crash while isValid() runs in another thread.
     void clearCaches();
 
-    /// True unless a checker refuses. The answer for the type and exactly these kinds is remembered.
+    /// True unless a checker refuses. The result is cached for the type and exactly these kinds.
     bool isValid(const RVProductType &type, RVProductCheckerType kinds) const;
-    /// The same, past the cache and without the lock: asks the checkers in the order of their registration, up to the
-    /// first refusal.
+    /// The same without the cache and the lock: calls the checkers in the order of their registration, up to the first
+    /// refusal.
     bool isValidWorker(const RVProductType &type, RVProductCheckerType kinds) const;
-    /// True unless a checker refuses the type with these options. Nothing is remembered, and no lock is taken.
+    /// True unless a checker refuses the type with these options. The result is not cached, and no lock is taken.
     bool isValidBoxStyle(const RVProductType &type, const RVArticleVariants &variants,
                          RVProductCheckerType kinds) const;
 

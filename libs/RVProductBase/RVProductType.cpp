@@ -13,7 +13,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Is never destroyed and so keeps what its copies share: destructors of static objects may still search with one.
+/// The expression is never destroyed and so keeps the data that its copies share: destructors of static objects may
+/// still search with a copy.
 const RVRegularExpression &bookPattern()
 {
     static const auto &pattern = *new RVRegularExpression(u"((DUN|DUNS)\\d+).*"_s);
@@ -25,7 +26,7 @@ constexpr bool isDigit(QChar letter)
     return letter >= u'0' && letter <= u'9';
 }
 
-/// Finds what myBookRegExp captures, without the cost of an expression; empty where it does not match.
+/// Finds the text that myBookRegExp captures, without the cost of a regular expression; empty if it does not match.
 QStringView bookFamily(QStringView code)
 {
     constexpr QStringView LETTERS = u"DUN";
@@ -36,7 +37,7 @@ QStringView bookFamily(QStringView code)
         if (*digits == u'S')
             ++digits;
         const QChar *end = std::find_if_not(digits, code.end(), isDigit);
-        // An expression does not search broken UTF-16.
+        // A regular expression does not search broken UTF-16.
         if (end != digits)
             return code.isValidUtf16() ? QStringView(family, end) : QStringView();
     }

@@ -15,8 +15,8 @@ class QDomElement;
 class RVPriceClass;
 
 /**
- * The catalogue's code for a kind of product, such as "DUN9" for a photo book family or "VIR29" for an agenda. The
- * key under which page counts and product checks are cached. An empty code is the unknown type.
+ * The catalogue's code for a kind of product, such as "DUN9" for a photo book family or "VIR29" for an agenda. It is
+ * the key under which page counts and product checks are cached. An empty code is the unknown type.
  *
  * Photo book codes are reduced to their family, so every size and variant of one book is one type: "DUN9_30" is
  * "DUN9".
@@ -29,7 +29,7 @@ class RVPriceClass;
 class RVPRODUCTBASE_EXPORT RVProductType
 {
 public:
-    /// Finds the family in a photo book code. For applications that search texts; the constructor reads the same
+    /// Finds the family in a photo book code, for applications that search texts. The constructor finds the same family
     /// faster.
     static const RVRegularExpression myBookRegExp;
 
@@ -39,7 +39,7 @@ public:
 
     RVProductType(const RVProductType &) = default;
     RVProductType &operator=(const RVProductType &) = default;
-    /// The type that is moved from becomes the unknown one, or the one that was assigned to.
+    /// A moved-from type becomes the unknown type, or after a move assignment the other type.
     /// @{
     RVProductType(RVProductType &&other) noexcept { swap(other); }
     RVProductType &operator=(RVProductType &&other) noexcept
@@ -63,7 +63,7 @@ public:
     bool isUnknown() const noexcept { return myName.isEmpty(); } ///< True without a code.
     bool isValid() const noexcept { return !myName.isEmpty(); } ///< True with a code, known or not.
     bool isAgenda() const; ///< True for exactly "VIR29" and "VIR30".
-    /// True for every code that begins with "VIR", so also for an agenda.
+    /// True for every code that begins with "VIR", including agendas.
     bool isCalendar() const;
     /// The stored hash; 0 for the unknown type.
     std::size_t calcHashValue() const noexcept { return myHashValue; }
@@ -73,7 +73,7 @@ public:
     /// The code; "UNKNOWN" for the unknown type.
     QString orderTxtName() const;
 
-    /// Names compare case-insensitively, but only where the case-sensitive hashes are equal: "dun" and "DUN" differ.
+    /// Compares the names case-insensitively, but only if the case-sensitive hashes are equal: "dun" and "DUN" differ.
     /// @{
     friend bool operator==(const RVProductType &a, const RVProductType &b)
     {
@@ -81,7 +81,7 @@ public:
     }
     friend bool operator!=(const RVProductType &a, const RVProductType &b) { return !(a == b); }
     /// @}
-    /// By hash, then by name: the same order in every run, but none to show.
+    /// Compares the hash, then the name. The order is the same in every run, but of no use for display.
     RVPRODUCTBASE_EXPORT friend bool operator<(const RVProductType &a, const RVProductType &b);
 
     /// Writes and reads toString().
@@ -91,7 +91,7 @@ public:
     /// @}
 
 private:
-    /// True for copies of one type, with which the caches are asked as a rule.
+    /// True for copies of one type; these are the usual keys of the caches.
     bool sharesTextOf(const RVProductType &other) const
     {
         return myName.constData() == other.myName.constData() && myName.size() == other.myName.size();
@@ -104,7 +104,7 @@ private:
 
 Q_DECLARE_TYPEINFO(RVProductType, Q_RELOCATABLE_TYPE);
 
-/// By calcHashValue(). @relates RVProductType
+/// Returns calcHashValue(). @relates RVProductType
 inline std::size_t qHash(const RVProductType &type, std::size_t seed = 0) noexcept
 {
     return seed ^ type.calcHashValue();

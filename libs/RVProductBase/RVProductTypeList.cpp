@@ -42,7 +42,7 @@ bool RVProductTypeList::containsNotOnlyCalendars() const
 void RVProductTypeList::addWithoutDoubles(const RVProductType &type)
 {
     if (type.isUnknown()) {
-        // The context is what log filters of the application know this message by.
+        // Log filters of the application recognise this message by its context.
         QMessageLogger("libs/RVProductBase/RVProductTypeList", 97,
                        "void RVProductTypeList::addWithoutDoubles(const RVProductType&)")
                         .warning()

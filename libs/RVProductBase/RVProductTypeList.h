@@ -19,10 +19,10 @@ public:
     RVProductTypeList() = default; ///< The empty list.
     /// Shares the data of @p types.
     RVProductTypeList(const QList<RVProductType> &types);
-    /// From codes; empty ones are skipped, doubles are kept.
+    /// From codes; empty ones are skipped, duplicates are kept.
     RVProductTypeList(const QList<QString> &codes);
 
-    /// From codes separated by commas; empty ones are skipped, doubles are kept. A blank belongs to its code: "DUN9,
+    /// From codes separated by commas; empty ones are skipped, duplicates are kept. A blank belongs to its code: "DUN9,
     /// DUN3" has the type " DUN3".
     static RVProductTypeList buildFromCSV(const QString &csv);
 
@@ -31,9 +31,9 @@ public:
     /// True when some element is no calendar; false for an empty list.
     bool containsNotOnlyCalendars() const;
 
-    /// Appends a type that the list does not hold yet. An unknown type is refused with a warning in the message log.
+    /// Appends a type that is not in the list yet. An unknown type is refused with a warning in the message log.
     void addWithoutDoubles(const RVProductType &type);
-    /// Adds each type of @p types. Cost grows with the product of the sizes.
+    /// Adds each type of @p types. The cost grows with the product of the sizes.
     void addWithoutDoubles(const RVProductTypeList &types);
 
     QStringList toStringList() const; ///< The codes, in their order.

@@ -5,7 +5,7 @@
 
 #include <limits>
 
-/// Catalogue arithmetic is done in 64 bits and brought back by these, so that no input can overflow.
+/// Catalogue arithmetic is done in 64 bits, and these functions saturate the results, so that no input can overflow.
 constexpr int rvSaturated(qint64 value) noexcept
 {
     constexpr qint64 lowest = std::numeric_limits<int>::min();

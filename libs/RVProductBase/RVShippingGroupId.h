@@ -13,10 +13,10 @@ class QDomNamedNodeMap;
 class QJsonObject;
 
 /**
- * The number of a shipping group: articles that carry the same one are shipped together. -1 is no group, and what every
- * reader gives that finds no number; 0 is the combined transfer group.
+ * The number of a shipping group: articles that carry the same one are shipped together. -1 is no group; every reader
+ * that finds no number returns it. 0 is the combined transfer group.
  *
- * Read from and written to the products XML and JSON under "id".
+ * The number is read from and written to the products XML and JSON under "id".
  *
  * @par Example
  * @snippet tst_examples_articles.cpp RVShippingGroupId
@@ -52,10 +52,11 @@ public:
     /// "id", the name under which every document keeps the number.
     static QString defaultKey();
 
-    QString toString() const; ///< In decimal.
+    QString toString() const; ///< The number in decimal.
     void toXML(QDomElement &element) const; ///< Sets the attribute "id".
     void toJSON(QJsonObject &object) const; ///< Sets "id" to the number.
-    /// Writes toString(): the group is on the left, the stream on the right. createFrom() reads it back.
+    /// Writes toString(). The group is on the left of the operator, the stream on the right. createFrom() reads it
+    /// back.
     QDataStream &operator<<(QDataStream &stream) const;
     /// The same with the stream on the left, for a QVariant or a QList of groups, and its reader. What is no decimal
     /// number is read as -1 and sets the stream's status to QDataStream::ReadCorruptData.
@@ -64,7 +65,7 @@ public:
     RVPRODUCTBASE_EXPORT friend QDataStream &operator>>(QDataStream &stream, RVShippingGroupId &shippingGroupId);
     /// @}
 
-    /// By number.
+    /// Compares the numbers.
     /// @{
     friend constexpr bool operator==(RVShippingGroupId a, RVShippingGroupId b) noexcept { return a.myId == b.myId; }
     friend constexpr bool operator==(RVShippingGroupId a, int b) noexcept { return a.myId == b; }

@@ -16,14 +16,14 @@ public:
     RVShippingGroupIdList() = default; ///< The empty list.
     /// Shares the data of @p ids.
     RVShippingGroupIdList(const QList<RVShippingGroupId> &ids);
-    RVShippingGroupIdList(const QList<int> &ids); ///< One group a number.
+    RVShippingGroupIdList(const QList<int> &ids); ///< One group for each number.
     RVShippingGroupIdList(const RVShippingGroupIdList &) = default;
     RVShippingGroupIdList(RVShippingGroupIdList &&) = default;
     RVShippingGroupIdList &operator=(const RVShippingGroupIdList &) = default;
     RVShippingGroupIdList &operator=(RVShippingGroupIdList &&) = default;
     virtual ~RVShippingGroupIdList();
 
-    /// All occurrences of @p id, or everything else where @p equal is false.
+    /// All occurrences of @p id, or all others if @p equal is false.
     RVShippingGroupIdList filter(const RVShippingGroupId &id, bool equal) const;
 };
 

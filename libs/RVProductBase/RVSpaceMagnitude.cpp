@@ -45,7 +45,7 @@ constexpr RVKeyword<RVSpaceMagnitudeEnum> KEYWORDS[] = {
 };
 // clang-format on
 
-/// One size class, and what page layout makes of it.
+/// One size class and its values for page layout.
 struct SizeClass
 {
     RVSpaceMagnitudeEnum value;
@@ -55,7 +55,7 @@ struct SizeClass
     int fontSize; ///< in points
     double fotos; ///< that look best on one page
     double fotosOnPortrait; ///< that look best on one that is upright
-    const char *name; ///< null where there is none
+    const char *name; ///< null if there is none
 };
 
 // clang-format off
@@ -76,7 +76,7 @@ constexpr SizeClass SIZE_CLASSES[] = {
 };
 // clang-format on
 
-/// Layout of anything that is not exactly one size class.
+/// The layout of any value that is not exactly one size class.
 constexpr SizeClass NO_SIZE_CLASS = { RVSpaceMagnitudeEnum(0), 0, 0, 1, 12, 2.1, 2.1, nullptr };
 
 const SizeClass &sizeClass(RVSpaceMagnitudeEnum value)
@@ -163,7 +163,7 @@ QFont RVSpaceMagnitude::adaptFont(const QFont &font, const RVSpaceMagnitude &tar
     QFont result = font;
     if (factor == 1.0)
         return result;
-    // A combination has no area to scale by; a font without a size would be none.
+    // A combination has no area to scale by, and a font without a size would be invalid.
     if (font.pointSizeF() == -1) {
         const int pixelSize = rvSaturated(std::floor(font.pixelSize() * factor));
         if (pixelSize > 0)

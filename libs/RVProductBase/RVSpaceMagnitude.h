@@ -9,7 +9,7 @@ class QDebug;
 class QFont;
 class RVOrientation;
 
-/// Named after their keywords, which give an area in cm². What a class measures by norm may differ.
+/// The values are named after their keywords, which give an area in cm². The normative size of a class may differ.
 /// @ingroup attributes
 enum RVSpaceMagnitudeEnum : qint32 {
     SPACE_MAGNITUDE_50CM2 = 1, ///< "50cm2"
@@ -37,8 +37,8 @@ RV_DECLARE_ENUM_OPERATORS(RVSpaceMagnitudeEnum)
 extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVSpaceMagnitudeEnum>;
 
 /**
- * The size class of a printable area, and what page layout makes of it. 0 is no size; an unknown keyword stands for
- * every size, and a value without a keyword is written as "any". So 0, once written, is read as every size.
+ * The size class of a printable area, and its values for page layout. 0 is no size; an unknown keyword stands for every
+ * size, and a value without a keyword is written as "any". So 0, once written, is read as every size.
  *
  * @par Example
  * @snippet tst_examples_attributes.cpp RVSpaceMagnitude
@@ -48,8 +48,9 @@ extern template class RVPRODUCTBASE_EXPORT RVEnumWrapper<RVSpaceMagnitudeEnum>;
 class RVPRODUCTBASE_EXPORT RVSpaceMagnitude : public RVEnumWrapper<RVSpaceMagnitudeEnum>
 {
 public:
-    /// A value or several combined; none by default. The number 0 does not come here: `RVSpaceMagnitude(0)` and
-    /// `setValue(0)` take it for a null text, which is every size (4095). Write `RVSpaceMagnitude()`.
+    /// A value or several combined; none by default. The number 0 does not select this constructor:
+    /// `RVSpaceMagnitude(0)` and `setValue(0)` treat it as a null text, which is every size (4095). Write
+    /// `RVSpaceMagnitude()`.
     RVSpaceMagnitude(RVSpaceMagnitudeEnum value = RVSpaceMagnitudeEnum(0)) noexcept;
     /// From a keyword list such as "A4, A5"; an empty one is every size. The keyword "XL" stands for 900 and 2000 cm²,
     /// the display name "XL" for 900 cm² alone.
@@ -59,26 +60,27 @@ public:
     static RVSpaceMagnitude fromSquareCentimeters(int area);
     /// The size class of 30 / @p x cm², truncated; none for 0.
     static RVSpaceMagnitude estimateByAreaSizes(double x);
-    /// The size class of a display name, German or in the application's language; none for an unknown name. Only what
-    /// names() held when it was built is found, so ask in the same language, and nothing with letters beyond ASCII;
-    /// see RVDisplayNames::value().
+    /// The size class of a display name, German or in the application's language; none for an unknown name. It finds
+    /// only the names that names() had when it was built, so use the same language. It finds no name with letters
+    /// beyond ASCII; see RVDisplayNames::value().
     static RVSpaceMagnitude createFromHumanReadable(const QString &name);
 
-    /// The most images that one page takes; 1 for anything but exactly one size class that is known to take more.
+    /// The highest number of images on one page; 1 for any value except exactly one size class that can have more.
     int maxReasonableImagesPerPage() const;
     /// A font size in points that suits exactly this size class, from 12 to 32; 12 for anything else.
     int suitableFontSizeInPoints() const;
     /// The area of exactly this size class in cm²; 0 for anything else.
     int normativeSize() const;
-    /// The other area divided by this one; 1 where one of the two is 0. A combination has no area, so with one the
-    /// factor is 0, infinite or not a number.
+    /// The other area divided by this one; 1 if one of the two is 0. A combination has no area, so with one the factor
+    /// is 0, infinite or not a number.
     double scaleFactorForArea(const RVSpaceMagnitude &other) const;
-    /// The square root of that, for lengths.
+    /// The square root of the factor above, for lengths.
     double scaleFactorPerDimension(const RVSpaceMagnitude &other) const;
     /// The number of photos that look best on a page of exactly this size class, from 1.5 to 4; 2.1 for anything else.
     double optimumFotosPerPage(const RVOrientation &orientation) const;
     /// The font scaled from this size class to another; a size in pixels is rounded down. A point size stays as it is
-    /// where the new one would be infinite or not above 0, a size in pixels where it would be below 1.
+    /// if the new one would be infinite or not above 0. A size in pixels stays as it is if the new one would be below
+    /// 1.
     QFont adaptFont(const QFont &font, const RVSpaceMagnitude &target) const;
 
     /// The name that the customer reads for exactly this value; "Undefiniert" for combinations, 0 and 50 cm².

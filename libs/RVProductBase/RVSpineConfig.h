@@ -14,12 +14,12 @@ class QString;
  *
  *     base width + block width × whole blocks of added packages + 2 × additional width
  *
- * With 26 pages at least, an increment of 4, 2 packages a block, 8 mm base, 1 mm block and 0.5 mm additional width, the
- * spine has 9 mm at 26 and 30 pages and 10 mm at 34 and 38.
+ * A spine has 9 mm at 26 and 30 pages and 10 mm at 34 and 38 with a lowest count of 26 pages, an increment of 4, 2
+ * packages per block, 8 mm base, 1 mm block and 0.5 mm additional width.
  *
- * Read from the products XML; by default without growth and all widths 0. It never changes, so copies share their
- * data, also between threads; moving one to a new object shares it as well. Moving one to an object that is there
- * exchanges the two.
+ * It is read from the products XML. By default it does not grow, and all widths are 0. It never changes, so copies
+ * share their data, also between threads. A move construction shares the data as well; a move assignment exchanges the
+ * two objects.
  *
  * @par Example
  * @snippet tst_examples_geometry.cpp RVSpineConfig
@@ -29,7 +29,7 @@ class QString;
 class RVPRODUCTBASE_EXPORT RVSpineConfig
 {
 public:
-    RVSpineConfig(); ///< Invalid, without any width.
+    RVSpineConfig(); ///< An invalid spine without any width.
     /// @p packagesPerBlock packages of pages make one block of growth; 0 for a spine that does not grow.
     RVSpineConfig(const RVPageCountOrganization &pageCountOrganization, int packagesPerBlock,
                   const RVDistance &baseWidth, const RVDistance &blockWidth, const RVDistance &additionalWidth);
@@ -57,17 +57,18 @@ public:
     RVDistance spineWidth(unsigned pages) const;
     /// The extra width on each side of the spine.
     RVDistance additionalSpineWidth() const;
-    /// The length by which the cover is smaller, in whole tenths of a millimetre: the additional width, truncated.
+    /// The reduction of the cover, in whole tenths of a millimetre: the additional width, truncated.
     int coverReduceSize() const;
     /// The largest of the editor's font sizes, in points, whose line spacing in pixels is at most 85 % of the spine
-    /// width without its sides, in tenths of a millimetre. At least the smallest size; 0 where there are no sizes.
-    /// An empty family is the default one. Without a QGuiApplication fonts cannot be measured: the smallest size.
+    /// width without its sides, in tenths of a millimetre. The result is at least the smallest size, and 0 if there are
+    /// no sizes. An empty family is the default one. Without a QGuiApplication fonts cannot be measured, so the result
+    /// is the smallest size.
     int spineMaxFontHeigth(unsigned pages, const QString &fontFamily) const;
-    /// True where the smallest of the editor's font sizes fits the spine by that measure. Also true where nothing can
-    /// be measured: without sizes, or without a QGuiApplication.
+    /// True if the smallest of the editor's font sizes fits the spine by that measure. Also true if nothing can be
+    /// measured: without sizes, or without a QGuiApplication.
     bool hasRoomForText(unsigned pages, const QString &fontFamily = QString()) const;
 
-    /// By page counts, blocks and widths; widths compare as RVDistance does.
+    /// Compares page counts, blocks and widths; widths as RVDistance does.
     /// @{
     bool operator==(const RVSpineConfig &other) const;
     bool operator!=(const RVSpineConfig &other) const { return !(*this == other); }

@@ -25,7 +25,7 @@ bool canMeasureFonts()
     return qobject_cast<QGuiApplication *>(QCoreApplication::instance()) != nullptr;
 }
 
-/// Without a family, that of the default font.
+/// The line spacing in pixels; an empty family is that of the default font.
 int lineSpacing(const QString &fontFamily, int pointSize)
 {
     const RVFontCreator *const fonts = RVFontCreator::instance();
@@ -95,7 +95,7 @@ int RVSpineConfigImpl::spineMaxFontHeigth(unsigned pages, const QString &fontFam
     const QList<int> sizes = RVFontSizeManager::instance()->defaultFontSizes();
     if (sizes.isEmpty())
         return 0;
-    // The first size is never measured: it is the answer even where it is too tall itself.
+    // The first size is never measured: it is the result even if it is too tall itself.
     if (!canMeasureFonts())
         return sizes.first();
     const int limit = highestLine(pages);

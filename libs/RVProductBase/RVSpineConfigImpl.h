@@ -17,7 +17,7 @@ class QString;
 class RVPRODUCTBASE_EXPORT RVSpineConfigImpl : public QSharedData
 {
 public:
-    /// As RVSpineConfig has them.
+    /// The operations of RVSpineConfig.
     /// @{
     RVSpineConfigImpl() = default;
     RVSpineConfigImpl(const RVPageCountOrganization &pageCountOrganization, int packagesPerBlock,
@@ -32,7 +32,7 @@ public:
     /// @}
     /// The width that the pages above the lowest count add to the spine.
     RVDistance additionalWithForPages(unsigned pages) const;
-    /// As RVSpineConfig has them.
+    /// The operations of RVSpineConfig.
     /// @{
     RVDistance spineWidth(unsigned pages) const;
     RVDistance additionalSpineWidth() const { return additionalWidth; }
@@ -51,7 +51,7 @@ public:
     RVDistance additionalWidth; ///< on each side of the spine
 
 private:
-    /// In tenths of a millimetre.
+    /// The highest line that fits, in tenths of a millimetre.
     int highestLine(unsigned pages) const;
 };
 

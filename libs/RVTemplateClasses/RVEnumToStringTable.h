@@ -33,7 +33,7 @@
  *
  * Several keywords may stand for one value (aliases); the first one inserted encodes it. A value is a single bit or a
  * named combination of bits. RVEnumWrapper keeps one table per enumeration for the whole process, which is filled once
- * and read by any number of threads afterwards; a table of one's own can be made and filled just as well.
+ * and read by any number of threads afterwards; applications can also create and fill tables of their own.
  *
  * Decoding ignores letter case and white space around a keyword.
  *
@@ -54,35 +54,36 @@ public:
     /// Marks a failed look-up, so no enumeration may use it.
     static constexpr ENUM NOT_FOUND = ENUM(-260570);
 
-    /// Written by encoding where a value has no keyword, also for an empty value. Empty until assigned.
+    /// The text that encoding writes for a value without a keyword, also for an empty value. Empty until assigned.
     QString defaultKeyword;
-    /// Returned by decoding where a keyword is not known. 0 until assigned.
+    /// The value that decoding returns for an unknown keyword. 0 until assigned.
     ENUM defaultValue = ENUM(0);
 
-    /// Without keywords.
+    /// A table without keywords.
     RVEnumToStringTable() = default;
-    // A table that is moved from stays whole, which a move of its members one by one would not leave it.
+    // A moved-from table stays consistent. A move of its members one by one would break that.
     RVEnumToStringTable(const RVEnumToStringTable &) = default;
     RVEnumToStringTable &operator=(const RVEnumToStringTable &) = default;
 
     /// The value of one keyword, @p fallback for an unknown or empty one.
     ENUM decode(const QString &keyword, ENUM fallback) const { return decodePiece(keyword, fallback); }
 
-    /// The value of one keyword, else the default value. An unknown keyword that is not empty is reported in the
-    /// message log where @p warn is true.
+    /// The value of one keyword, otherwise the default value. If @p warn is true, the message log reports an unknown
+    /// keyword that is not empty.
     ENUM decodeOneElement(const QString &keyword, bool warn) const;
 
     /// All values of a comma-separated list combined. An unknown keyword and an empty piece stand for the default
     /// value, so an empty text gives the default value.
     ENUM decodeCSV(const QString &text) const;
 
-    /// The keyword of exactly this value, a bit or a named combination, else the default keyword.
+    /// The keyword of exactly this value, a bit or a named combination, otherwise the default keyword.
     QString encode(ENUM value) const { return encoding(value); }
 
-    /// One keyword a set bit, lowest bit first; the default keyword for a bit that has none. Empty for a value below 1.
+    /// One keyword for each set bit, lowest bit first; the default keyword for a bit that has none. Empty for a value
+    /// below 1.
     QStringList encodeAsList(ENUM value) const;
 
-    /// encodeAsList() joined with ", "; the default keyword where that is empty.
+    /// encodeAsList() joined with ", "; the default keyword if that is empty.
     QString encodeCSV(ENUM value) const;
 
     /// The keyword and the aliases of exactly this value, lower case, sorted.
@@ -104,12 +105,12 @@ public:
     bool isUntouched() const;
 
     /// Adds a keyword. The first keyword of a value encodes it, in the letter case given here; a keyword that is
-    /// inserted again takes the new value, but goes on encoding the old one. White space around it is kept, so that
-    /// decoding never finds it.
+    /// inserted again decodes to the new value, but still encodes the old one. White space around a keyword is kept, so
+    /// decoding never finds such a keyword.
     void insert(const QString &keyword, ENUM value);
 
-    /// Makes look-ups faster, their results stay the same. To be called once the table is filled; a keyword that is
-    /// inserted later undoes it.
+    /// Makes look-ups faster without changing their results. Call it after the table was filled; inserting another
+    /// keyword undoes it.
     void optimize();
 
 private:
@@ -129,7 +130,7 @@ private:
         return isIndexed ? myBitKeywords[qCountTrailingZeroBits(bits)] : findEncoding(value);
     }
     const QString &findEncoding(ENUM value) const;
-    // Hidden, since a copy of it for each visitor would be part of the binary interface.
+    // The function is hidden, because otherwise a copy of it for each visitor would be part of the binary interface.
     template<typename Visitor>
     Q_DECL_HIDDEN static void visitBits(ENUM value, Visitor visit);
     Q_DECL_HIDDEN static QChar *copy(const QString &keyword, QChar *to);
@@ -141,8 +142,8 @@ private:
     QString myBitKeywords[sizeof(ENUM) * 8]; // of the indexed bits, by their numbers
 };
 
-// A keyword that the index cannot judge, say a text with a no-break space around it or with a Kelvin sign for a "k", is
-// trimmed and put into lower case by the rules of Unicode.
+// A keyword that the index does not cover is trimmed and converted to lower case by the rules of Unicode, for example a
+// text with a no-break space around it or with a Kelvin sign for a "k".
 template<typename ENUM>
 ENUM RVEnumToStringTable<ENUM>::decodeUnindexed(QStringView piece, ENUM fallback) const
 {
@@ -206,7 +207,7 @@ QString RVEnumToStringTable<ENUM>::encodeCSV(ENUM value) const
         size += keyword.size() + SEPARATOR.size();
         keywords[count++] = &keyword;
     });
-    if (size == 0) // one keyword, and an empty one: as null as the text of an empty list
+    if (size == 0) // a single empty keyword gives a null text, as an empty list does
         return QString();
     QString result(size, Qt::Uninitialized);
     QChar *end = copy(*keywords[0], result.data());
@@ -217,8 +218,8 @@ QString RVEnumToStringTable<ENUM>::encodeCSV(ENUM value) const
     return result;
 }
 
-// Returns the place behind the copy. Four letters a step, the last four maybe twice: keywords are so short that a call
-// of memcpy for each would take as long as the rest of encodeCSV().
+// Returns the place behind the copy. It copies four letters in each step, and may copy the last four twice. Keywords
+// are so short that a call of memcpy for each would take as long as the rest of encodeCSV().
 template<typename ENUM>
 QChar *RVEnumToStringTable<ENUM>::copy(const QString &keyword, QChar *to)
 {
@@ -298,9 +299,9 @@ void RVEnumToStringTable<ENUM>::optimize()
     }
 }
 
-// Log filters of the application know this message by its context, which therefore stays as it is whatever compiler
-// built the library and wherever these lines move. A name in no namespace, as those of all attributes are, is spelt the
-// same without run-time type information.
+// Log filters of the application recognise this message by its context. So the context does not depend on the compiler
+// or on the place of these lines. A name outside of namespaces, such as that of every attribute, is the same without
+// run-time type information.
 template<typename ENUM>
 void RVEnumToStringTable<ENUM>::warnUndecodable(const QString &keyword)
 {

@@ -27,8 +27,8 @@
  * Values compare as signed numbers. Distinct objects may be used in distinct threads; the shared table is built under
  * a lock by the first object that needs it.
  *
- * So that an application and its plug-ins share one table, the shared library that owns E declares
- * `extern template class EXPORT RVEnumWrapper<E>;` in its header and instantiates it in one source.
+ * An application and its plug-ins share one table if the shared library that owns E declares `extern template class
+ * EXPORT RVEnumWrapper<E>;` in its header and instantiates it in one source.
  *
  * @par Example
  * @snippet tst_examples_platform.cpp RVEnumWrapper
@@ -90,12 +90,12 @@ public:
     virtual bool isValid() const { return bits() != 0; }
 
     /// Fills the table of E: every attribute class inserts its keywords and assigns the defaults. Runs once in the
-    /// process, under the lock of the table, so it must not ask for the table itself. The plain wrapper knows no
-    /// keywords and leaves the table as it is.
+    /// process, under the lock of the table, so it must not ask for the table itself. The plain wrapper has no keywords
+    /// and leaves the table as it is.
     virtual void fillTable(RVEnumToStringTable<E> *) const { }
 
     E value() const noexcept { return myValue; } ///< All bits together.
-    bool isNull() const noexcept { return bits() == 0; } ///< True for 0, whatever isValid() says.
+    bool isNull() const noexcept { return bits() == 0; } ///< True for 0, independent of isValid().
     /// True when the value is exactly @p value.
     bool hasValue(const E &value) const noexcept { return myValue == value; }
     /// True when at least one bit is common; never for 0.
@@ -130,12 +130,12 @@ public:
     /// The single bits, lowest first; empty for a value below 1.
     QList<E> splitToBitsSorted() const { return enumToStringTable()->splitToBitsSorted(myValue); }
 
-    /// The keyword of exactly this value, else the default keyword.
+    /// The keyword of exactly this value, otherwise the default keyword.
     QString encode() const { return enumToStringTable()->encode(myValue); }
-    /// One keyword a set bit, lowest first, joined with ", "; the default keyword for a bit without one, which may be
-    /// empty, and for a value below 1. A keyword of 0 or of a combination is never written.
+    /// One keyword for each set bit, lowest first, joined with ", ". The default keyword, which may be empty, stands
+    /// for a bit without a keyword and for a value below 1. A keyword of 0 or of a combination is never written.
     QString encodeCSV() const { return enumToStringTable()->encodeCSV(myValue); }
-    /// One keyword a set bit, lowest first.
+    /// One keyword for each set bit, lowest first.
     QStringList encodeBits() const { return enumToStringTable()->encodeAsList(myValue); }
     /// Reads a comma-separated keyword list without storing it; unknown keywords stand for the default value.
     E decodeCSV(const QString &text) const { return enumToStringTable()->decodeCSV(text); }
@@ -151,7 +151,8 @@ public:
     /// The keyword and the aliases of every set bit, lowest bit first, sorted within a bit.
     QStringList allPossibleKeywords() const { return enumToStringTable()->allPossibleKeywords(myValue); }
 
-    /// The table of E, filled by the class of the first object that asks. It lives as long as the process. Any thread.
+    /// The table of E, filled by the class of the first object that needs it. It lives as long as the process. Any
+    /// thread.
     const RVEnumToStringTable<E> *enumToStringTable() const
     {
         const RVEnumToStringTable<E> *table = myTable.load(std::memory_order_acquire);
@@ -178,7 +179,7 @@ private:
     using Bits = std::make_signed_t<std::underlying_type_t<E>>;
 
     Bits bits() const noexcept { return Bits(myValue); }
-    /// The same, for questions about single bits: they build the table, as those about keywords do.
+    /// The same, for functions about single bits: they build the table, as functions about keywords do.
     Bits preparedBits() const
     {
         enumToStringTable();
@@ -230,7 +231,7 @@ QSet<E> RVEnumWrapper<E>::splitToBits() const
     return QSet<E>(sorted.begin(), sorted.end());
 }
 
-// Stands for the whole process, so it belongs to the one library that instantiates E.
+// The static exists once in the process, so it belongs to the library that instantiates E.
 template<typename E>
 std::atomic<const RVEnumToStringTable<E> *> RVEnumWrapper<E>::myTable { nullptr };
 
@@ -245,7 +246,7 @@ const RVEnumToStringTable<E> *RVEnumWrapper<E>::makeTable() const
     auto table = std::make_unique<RVEnumToStringTable<E>>();
     fillTable(table.get());
     // A plain wrapper, such as a temporary made from a bare value, must not leave the process without keywords. Without
-    // run-time type information every class that inserts nothing is taken for one.
+    // run-time type information, every class that inserts nothing counts as a plain wrapper.
 #ifdef __cpp_rtti
     const bool isPlain = typeid(*this) == typeid(RVEnumWrapper);
 #else

@@ -9,13 +9,13 @@
 #include <algorithm>
 
 /**
- * Keywords in the form in which they are found fastest: those of one length together, in lower case. The values are
- * those of any enumeration.
+ * Keywords in the form that is fastest to search: grouped by length, in lower case. The values are those of any
+ * enumeration.
  *
- * A part of RVEnumToStringTable, which applications ask instead.
+ * It is a part of RVEnumToStringTable; applications use the table instead.
  *
- * Letter case and white space around a keyword are ignored, and nothing is allocated to find one. It knows ASCII
- * keywords of up to LONGEST letters only; covers() tells for which texts "not found" is the last word.
+ * A search ignores letter case and white space around a keyword, and allocates nothing. The index has only ASCII
+ * keywords of up to LONGEST letters; covers() says for which texts "not found" is final.
  *
  * @par Example
  * @snippet tst_examples_platform.cpp RVKeywordIndex
@@ -25,19 +25,19 @@
 class RVKeywordIndex
 {
 public:
-    /// In UTF-16 code units.
+    /// The length in UTF-16 code units.
     static constexpr qsizetype LONGEST = 32;
 
-    /// Without keywords.
+    /// An index without keywords.
     RVKeywordIndex() = default;
-    /// The keywords that it covers, which may be in any letter case but not differ in it alone.
+    /// The covered keywords, in any letter case; two of them must not differ only in letter case.
     template<typename ENUM>
     explicit RVKeywordIndex(const QHash<QString, ENUM> &keywords);
 
-    /// The value of the keyword; null for one that it does not know. Any number of threads may ask.
+    /// The value of the keyword; null for an unknown one. Any number of threads may call it.
     const qint64 *find(QStringView keyword) const noexcept;
 
-    /// True for ASCII texts of up to LONGEST letters; for none where it was made without keywords.
+    /// True for ASCII texts of up to LONGEST letters; always false for an index without keywords.
     bool covers(QStringView keyword) const noexcept;
 
 private:
@@ -85,7 +85,7 @@ inline bool RVKeywordIndex::covers(QStringView keyword) const noexcept
             && std::all_of(keyword.begin(), keyword.end(), [](QChar letter) { return letter.unicode() < 0x80; });
 }
 
-// As many letters as the keyword has.
+// The number of letters is that of the keyword.
 inline bool RVKeywordIndex::Keyword::matches(const QChar *letters) const noexcept
 {
     return std::equal(text.begin(), text.end(), letters,
@@ -103,7 +103,7 @@ inline QStringView RVKeywordIndex::trimmed(QStringView text) noexcept
     return text;
 }
 
-// Letters beyond ASCII stay, so they match none of a keyword.
+// Letters beyond ASCII stay as they are, so they match no letter of a keyword.
 inline char16_t RVKeywordIndex::lowerCase(QChar letter) noexcept
 {
     return letter >= u'A' && letter <= u'Z' ? char16_t(letter.unicode() + 0x20) : letter.unicode();

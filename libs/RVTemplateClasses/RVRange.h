@@ -37,12 +37,12 @@ public:
     // isValid() and contains(value), so a subclass that redefines those two changes them too.
     virtual ~RVRange() = default;
 
-    /// By both bounds.
+    /// Compares both bounds.
     /// @{
     virtual bool operator==(const RVRange &other) const { return min == other.min && max == other.max; }
     virtual bool operator!=(const RVRange &other) const { return !(*this == other); }
     /// @}
-    /// By lower bound, then by upper bound; invalid ranges sort after all valid ones.
+    /// Compares the lower bound, then the upper bound; invalid ranges sort after all valid ones.
     virtual bool operator<(const RVRange &other) const;
     /// Grows just enough to contain @p value. [0, 0] counts as empty and becomes [value, value]. An invalid range is
     /// not repaired: at most one bound moves, the upper one first.

@@ -8,10 +8,10 @@
 /**
  * Gives the deriving class T one instance for the whole process, reached through T::instance().
  *
- * The instance is made with T's default constructor on first access, by whichever thread comes first, and is never
- * deleted: it outlives every object with static storage. The shared library that owns T declares
- * `extern template class EXPORT RVSingleton<T>;` in its header and instantiates it in one source, so that an
- * application and its plug-ins reach the same instance.
+ * The first thread that accesses the instance creates it with T's default constructor. It is never deleted, so it
+ * outlives every object with static storage. The shared library that owns T declares `extern template class EXPORT
+ * RVSingleton<T>;` in its header and instantiates it in one source, so that an application and its plug-ins reach the
+ * same instance.
  *
  * @par Example
  * @snippet tst_examples_platform.cpp RVSingleton
@@ -28,8 +28,8 @@ public:
     /// The instance; the process owns it. Any thread.
     static T *instance();
 
-    /// Called once on the new instance before anyone else sees it; a class that has something to set up hides it with
-    /// its own. It runs under the lock of instance(), so it must not call that.
+    /// Sets up the new instance, once and before any other thread can access it. A class with something to set up hides
+    /// this function with its own. It runs under the lock of instance(), so it must not call instance().
     void setupInstance() { }
 
 protected:
@@ -37,7 +37,8 @@ protected:
     ~RVSingleton() = default;
 };
 
-// Not inline: the two statics stand for the whole process, so they belong to the one library that instantiates T.
+// The function is not inline: its two statics exist once in the process, so they belong to the library that
+// instantiates T.
 template<typename T>
 T *RVSingleton<T>::instance()
 {

@@ -3,7 +3,7 @@
 
 #include <QtGlobal>
 
-/// Marks what the library offers to others.
+/// Marks the symbols that the library exports.
 #ifdef RVXML_LIBRARY
 #    define RVXML_EXPORT Q_DECL_EXPORT
 #else

@@ -25,7 +25,7 @@ constexpr QLatin1StringView FALSE_TEXTS[] = {
     QLatin1StringView("off"),
 };
 
-// Most texts are written as in the table, and plain equality is quicker to tell.
+// Most texts are written as in the table, and plain equality is the faster test.
 template<typename Texts>
 bool isOneOf(const Texts &texts, const QString &text)
 {
@@ -35,7 +35,7 @@ bool isOneOf(const Texts &texts, const QString &text)
     });
 }
 
-/// The number that a short ASCII text is, as nearly all numbers of a catalogue are; the others are Qt's to judge.
+/// The number in a short ASCII text, the form of nearly all numbers of a catalogue; Qt parses the others.
 template<typename Number>
 std::optional<Number> parsed(QStringView text) noexcept
 {

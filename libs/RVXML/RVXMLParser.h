@@ -9,10 +9,10 @@ class QDomNamedNodeMap;
 class QString;
 
 /**
- * Reads attributes of XML elements, with a default for what is missing.
+ * Reads attributes of XML elements, with a default for missing ones.
  *
- * A null element has no attributes. An attribute that is present and empty is an empty text, and no number. A number
- * that is not finite or does not fit its type counts as not a number, so the default stands. Nothing is reported.
+ * A null element has no attributes. An empty attribute is an empty text and no number. A number that is not finite or
+ * does not fit its type is no number either, so the result is the default. Errors are not reported.
  *
  * @par Example
  * @snippet tst_examples_platform.cpp RVXMLParser
@@ -22,7 +22,7 @@ class QString;
 class RVXML_EXPORT RVXMLParser
 {
 public:
-    /// The text as it stands. The last argument has no effect.
+    /// The text of the attribute, unchanged. The last argument has no effect.
     /// @{
     static QString attribute(const QDomElement &element, const QString &name, const QString &defaultValue,
                              bool = false);
@@ -39,7 +39,7 @@ public:
     /// True for "true", "1", "yes" and "on", false for "false", "0", "no" and "off", in any letter case.
     static bool boolAttribute(const QDomElement &element, const QString &name, bool defaultValue);
 
-    /// A decimal number with a point, whatever the locale.
+    /// A decimal number with a point, in every locale.
     static qreal doubleAttribute(const QDomElement &element, const QString &name, qreal defaultValue);
 
     /// A number of @p unit as a length; the default is in the same unit.

@@ -15,7 +15,7 @@ public:
     }
 };
 
-/// The same, as a slow device that hands out one byte at a time.
+/// The same, as a slow device that returns one byte at a time.
 class OneByteFile : public CatalogueBuffer
 {
 public:

@@ -15,7 +15,7 @@
 
 using namespace Qt::StringLiterals;
 
-/// A catalogue with what is found of it.
+/// A catalogue with its findings.
 class CheckedCatalogue
 {
 public:
@@ -34,7 +34,7 @@ public:
 
     const QList<RVCatalogueFinding> &findings() const { return myFindings; }
 
-    /// Each as "PLACE: RULE", where the place is the attribute as it stands in the file, or "<name>" for a start tag.
+    /// The findings as "PLACE: RULE"; the place is the attribute as it stands in the file, or "<name>" for a start tag.
     QStringList rules() const
     {
         QStringList result;

@@ -5,8 +5,8 @@
 #include <QList>
 #include <QRandomGenerator>
 
-/// Makes up products with nothing to find, as many kinds of print houses write them: with attributes and elements of
-/// their own, and names with prefixes.
+/// Generates products without findings, as different print houses write them: with foreign attributes and elements, and
+/// names with prefixes.
 class CleanCatalogue
 {
 public:

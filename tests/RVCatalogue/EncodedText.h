@@ -12,7 +12,7 @@
 #include <map>
 #include <optional>
 
-/// The text in an encoding of iconv; nothing where the system does not have it.
+/// The text in an encoding of iconv; nothing if the system does not have it.
 inline std::optional<QByteArray> encoded(const QString &text, const QByteArray &encoding)
 {
     const iconv_t handle = ::iconv_open(encoding.constData(), "UTF-8");

@@ -25,7 +25,7 @@ inline QList<RVCatalogueFinding> findingsOf(const QByteArray &file, const RVCata
     return result;
 }
 
-/// "error keyword-unknown: ..." for each.
+/// The findings, each as "error keyword-unknown: ...".
 inline QStringList textsOf(const QList<RVCatalogueFinding> &findings)
 {
     QStringList result;
@@ -68,13 +68,13 @@ inline QByteArray mended(const QByteArray &file, const QList<RVCatalogueFinding>
     return text.toUtf8();
 }
 
-/// A catalogue of one product with that in its start tag, and that in it.
+/// A catalogue of one product with these attributes and this content.
 inline QByteArray productWith(const QByteArray &attributes, const QByteArray &content = QByteArray())
 {
     return "<products>\n<product type='A' article_id='1' " + attributes + ">\n" + content + "</product>\n</products>\n";
 }
 
-/// The same with an article id of its own.
+/// The same with its own article id.
 inline QByteArray articleWith(const QByteArray &attributes)
 {
     return "<products>\n<product type='A' " + attributes + "/>\n</products>\n";

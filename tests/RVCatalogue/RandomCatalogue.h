@@ -9,7 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-/// Makes up products whose attributes hold what catalogues hold, and what they should not.
+/// Generates products with valid and invalid attributes.
 class RandomCatalogue
 {
 public:
@@ -59,7 +59,7 @@ private:
     int below(qsizetype limit) { return myRandom.bounded(int(limit)); }
     const QString &one(const QStringList &list) { return list.at(below(list.size())); }
 
-    /// Some of the attributes; most are there.
+    /// A random selection with most of the attributes.
     QString attributes(const QStringList &names, const QStringList &values)
     {
         QString result;

@@ -1,7 +1,7 @@
 #ifndef SAMPLEPRODUCT_H
 #define SAMPLEPRODUCT_H
 
-/// A catalogue with nothing to find, each element on a line of its own.
+/// A catalogue without findings, with each element on its own line.
 constexpr char CLEAN_CATALOGUE[] =
         "<products>\n"
         "<product type='DUN9' article_id='1' article_class='book' cover_type='hardcover' page_binding='glue' "

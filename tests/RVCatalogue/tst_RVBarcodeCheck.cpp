@@ -15,7 +15,7 @@ QByteArray barcode(const QByteArray &attributes, const QByteArray &attributesOfT
             + "><barcodes units='mm'><barcode " + attributes + "/></barcodes></product></p>";
 }
 
-/// A barcode of 38 by 10 mm that ends there.
+/// A barcode of 38 by 10 mm that ends at this place.
 QByteArray endingAt(const QByteArray &right, const QByteArray &bottom, const QByteArray &orientation,
                     const QByteArray &magnitude)
 {

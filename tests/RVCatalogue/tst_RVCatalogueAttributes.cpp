@@ -1,4 +1,5 @@
-// Nothing forgets an attribute: neither the list itself, nor what describes catalogues to people and to their editors.
+// No attribute is missing: neither in the list itself, nor in the descriptions of catalogues for people and for
+// editors.
 #include <RVCatalogueAttribute.h>
 #include <RVCatalogueAttributes.h>
 #include <RVCatalogueReader.h>
@@ -66,7 +67,7 @@ QDomElement named(const QDomElement &parent, const QString &tag, const QString &
     return child;
 }
 
-/// Those attributes of a product in the schema whose type is the list of keywords of their name.
+/// The attributes of a product in the schema whose type is the list of keywords with their name.
 QStringList keywordAttributesOfSchema()
 {
     QDomDocument schema;
@@ -100,7 +101,7 @@ QStringList keywordAttributesOfFormat()
 
 }
 
-// Those of the list file of RVProductBase, and the one of the platform.
+// The classes in the list file of RVProductBase, and the one of the platform.
 void tst_RVCatalogueAttributes::everyClassOfTheLibraries()
 {
     QStringList found = classNames();
@@ -132,7 +133,7 @@ void tst_RVCatalogueAttributes::sample_data()
         QTest::newRow(attribute.name().data()) << attribute;
 }
 
-// Some product of the sample catalogue says it of itself, with a keyword that is one.
+// A product of the sample catalogue has the attribute, with a valid keyword.
 void tst_RVCatalogueAttributes::sample()
 {
     QFETCH(const RVCatalogueAttribute, attribute);

@@ -73,7 +73,7 @@ Checked check(QByteArray file, const QStringList &disabledRules = {})
     return result;
 }
 
-/// The text from one place to the other, in a file of ASCII. Of a start tag only its name and its last letter.
+/// The text from one place to the other, in a file of ASCII; only the name and the last letter of a start tag.
 QString textAt(const QByteArray &file, const RVFileRange &range)
 {
     const QList<QByteArray> lines = file.split('\n');
@@ -110,7 +110,7 @@ QByteArray withSecondProduct(const QByteArray &product)
     return changed("<product type='FOT1' article_id='2' article_class='foto' foto_paper_type='matt'/>", product);
 }
 
-/// A product of its own with these options, the first of them in line 2.
+/// A product with these options, the first of them in line 2.
 QByteArray withOptions(const QByteArray &options)
 {
     return "<products><product type='A' article_id='1'><forms>\n" + options + "</forms></product></products>";
@@ -141,7 +141,7 @@ QStringList keywordFindings(RVCatalogueAttribute attribute, const QString &list)
     return result;
 }
 
-/// A mistake, and what is found of it: the piece of the file, and the finding with its line.
+/// A mistake and its finding: the piece of the file, and the finding with its line.
 struct Mistake
 {
     const char *situation;
@@ -662,7 +662,7 @@ void tst_RVCatalogueCheck::mendedExamples_data()
     examples_data();
 }
 
-// One piece of the example is another one, and nothing else.
+// Only one piece of the example differs.
 void tst_RVCatalogueCheck::mendedExamples()
 {
     QFETCH(QString, rule);
@@ -686,7 +686,7 @@ void tst_RVCatalogueCheck::mendedExamples()
     QVERIFY2(qMax(before.size(), after.size()) <= mostLines, mended.constData());
 }
 
-// The rules in the table of the page, in its order.
+// The table of the page has the rules in its order.
 void tst_RVCatalogueCheck::documentation()
 {
     static const QRegularExpression row(u"^\\| `([a-z]+(?:-[a-z]+)+)` \\| "_s, QRegularExpression::MultilineOption);
@@ -831,7 +831,7 @@ void tst_RVCatalogueCheck::shrinkingSpines_data()
                };
 }
 
-// Only where nothing else is wrong the font is measured.
+// The font is measured only if there is no other fault.
 void tst_RVCatalogueCheck::shrinkingSpines()
 {
     QFETCH(QByteArray, file);
@@ -921,7 +921,7 @@ void tst_RVCatalogueCheck::copies()
     QVERIFY(copy.isEnabled(RVCatalogueRule::find(u"spine-negative")));
 }
 
-// The check itself puts what it finds in the order of the file.
+// The check sorts its findings in the order of the file.
 void tst_RVCatalogueCheck::withoutAReader()
 {
     QByteArray file = "<p><product page_step='x' article_id='0' cover_type='foo' type=''/></p>";
@@ -993,7 +993,7 @@ void tst_RVCatalogueCheck::findingsBeforeAnError()
     QCOMPARE(check("<p>").texts(), QStringList());
 }
 
-// A finding stays one line of moderate length whatever the catalogue says.
+// A finding is one line of moderate length for every content of the catalogue.
 void tst_RVCatalogueCheck::longTexts()
 {
     const QByteArray file = changed("cover_type='hardcover'", "cover_type='a&#10;" + QByteArray(60000, 'x') + '\'');
@@ -1039,7 +1039,7 @@ void tst_RVCatalogueCheck::duplicatesFarApart()
                     u"20003 error article-id-duplicate: the article id 1000000 is already that of the product in line 2; write another, or take out one"_s }));
 }
 
-// Of two products that have none, the second has no other type or article than the first.
+// Two products without type and article id are no duplicates.
 void tst_RVCatalogueCheck::missingIdsAreNoDuplicates()
 {
     const QByteArray product = "<product type=' ' article_id='0'/>\n";
@@ -1070,7 +1070,7 @@ void tst_RVCatalogueCheck::everyKeyword()
     }
 }
 
-// Pieces that the check calls unknown are those that the attribute does not decode.
+// The pieces that the check calls unknown are those that the attribute does not decode.
 void tst_RVCatalogueCheck::unknownAsDecoded()
 {
     QRandomGenerator random(20261121);
@@ -1137,7 +1137,7 @@ void tst_RVCatalogueCheck::guesses()
     QCOMPARE(keywordFindings(RVCatalogueAttribute::find(attribute), piece), QStringList { finding });
 }
 
-// A value is called unreadable exactly when the library's reader falls back to its default.
+// A value is unreadable exactly when the library's reader uses its default.
 void tst_RVCatalogueCheck::numbersAsTheLibraryReadsThem()
 {
     QStringList texts = { u"true"_s,       u"TRUE"_s,  u"false"_s, u"False"_s, u"yes"_s,    u"no"_s,

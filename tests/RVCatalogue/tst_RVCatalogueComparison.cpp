@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The answers of a comparison, a line for each product: its kind, its types and the subjects that changed.
+/// The results of a comparison, one line for each product: its kind, its types and the changed subjects.
 struct Result
 {
     QStringList products;
@@ -55,7 +55,7 @@ QByteArray text(const RVComparisonCounts &counts)
             .toUtf8();
 }
 
-/// Products of these types, one a line, in one group.
+/// Products of these types, one on each line, in one group.
 QByteArray catalogue(const QByteArrayList &types)
 {
     QByteArray result = "<products>\n";
@@ -64,7 +64,7 @@ QByteArray catalogue(const QByteArrayList &types)
     return result + "</products>";
 }
 
-/// Random products, each with a type of its own.
+/// Random products, each with its own type.
 class RandomProducts
 {
 public:
@@ -237,7 +237,7 @@ void tst_RVCatalogueComparison::familiesCount()
     QCOMPARE(text(compare(before, before).counts), "0 added, 0 removed, 0 changed, 0 renamed, 1 equal");
 }
 
-// A document type gives attributes to tags, which are then larger than a file may have them.
+// A document type adds attributes to tags, which are then larger than the limit for files.
 void tst_RVCatalogueComparison::largeProducts()
 {
     const QByteArray image(60000, 'i');
@@ -296,7 +296,7 @@ void tst_RVCatalogueComparison::randomCatalogueEqualsItself()
     QCOMPARE(result.counts.equal, 500);
 }
 
-// Texts are read as they stand, and no product has this number.
+// Texts are read literally, and no product has this number.
 void tst_RVCatalogueComparison::oneChangedValue()
 {
     static const QRegularExpression attribute(u" (name|price_class|page_price_class|article_id|shipping_group|pages|"
@@ -310,7 +310,7 @@ void tst_RVCatalogueComparison::oneChangedValue()
         QList<QRegularExpressionMatch> matches;
         for (auto match = attribute.globalMatch(product.first(product.indexOf(u'>'))); match.hasNext();)
             matches += match.next();
-        // Page counts that pieces make too large for a number may be the same afterwards.
+        // Page counts that are too large for a number because of "pieces" may become equal.
         if (matches.isEmpty() || product.contains(u" pieces="_s))
             continue;
         const QRegularExpressionMatch match = matches.at(numbers.bounded(int(matches.size())));

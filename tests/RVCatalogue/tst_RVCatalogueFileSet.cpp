@@ -16,7 +16,7 @@ QString describe(const RVFileRange &range)
     return u"%1:%2-%3:%4"_s.arg(range.begin.line).arg(range.begin.column).arg(range.end.line).arg(range.end.column);
 }
 
-/// The place and the text of a finding, and behind "<-" the other place with its text.
+/// The place and the text of a finding, followed by "<-" and the other place with its text.
 QString describe(const RVCatalogueFinding &finding)
 {
     QString result = describe(finding.range()) + u' ' + finding.text();
@@ -44,7 +44,7 @@ RVCatalogueCheck without(const QString &rule)
     return check;
 }
 
-/// Of each file, which are called "1.xml", "2.xml" and so on.
+/// The findings of each file; their names are "1.xml", "2.xml" and so on.
 QList<QStringList> findingsIn(const QList<QByteArray> &contents)
 {
     RVCatalogueFileSet files;
@@ -183,7 +183,7 @@ void tst_RVCatalogueFileSet::namesOfFiles()
                     + TYPE_IS_THERE });
 }
 
-// Files are one after the other in the order in which they are read, whenever their readers were made.
+// The order of the files is that of reading, not that of creating the readers.
 void tst_RVCatalogueFileSet::readersThatWait()
 {
     RVCatalogueFileSet files;

@@ -85,7 +85,7 @@ RVBarcodeDefinitionList barcodes(const QDomElement &product)
     return RVBarcodeDefinitionList::createFromProductsXML(parent, parent.attribute(u"units"_s));
 }
 
-/// The attribute of a document's element; what is missing is null, but for the paper of photo prints.
+/// The attribute of a document's element; a missing one is null, except for the paper of photo prints.
 template<typename T>
 T keywords(const QDomElement &product, QLatin1StringView name)
 {

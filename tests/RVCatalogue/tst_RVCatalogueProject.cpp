@@ -54,7 +54,7 @@ void tst_RVCatalogueProject::emptyType()
     QVERIFY(RVCatalogueProject::read(&file).type().isUnknown());
 }
 
-// Only the start of the root element is kept, so what is in it may be of any size.
+// Only the start of the root element is kept, so its content may have any size.
 void tst_RVCatalogueProject::largeContent()
 {
     CatalogueBuffer file("<project pages='3'>" + QByteArray("<page a='b'/>\n").repeated(200000) + "</project>");

@@ -36,7 +36,7 @@ protected:
     }
 };
 
-/// A pipe that someone writes into from time to time: what there is to read was read already.
+/// A pipe with a slow writer: all available data was read already.
 class SlowPipe : public QIODevice
 {
 public:
@@ -690,7 +690,7 @@ void tst_RVCatalogueReader::threadCount()
     QTEST(int(threads.size()), "threads");
 }
 
-// Somebody who writes a catalogue into a pipe sees at once what is in its begin.
+// The findings of the first products come while the rest is still written into a pipe.
 void tst_RVCatalogueReader::mapDoesNotWait()
 {
     QStringList events;

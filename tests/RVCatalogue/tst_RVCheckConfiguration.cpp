@@ -310,7 +310,7 @@ void tst_RVCheckConfiguration::faults()
     writeFile(path(u"rvcatalog.json"_s), json);
     const RVCheckConfiguration ofJson = RVCheckConfiguration::read(path(u"rvcatalog.json"_s));
     QTEST(ofJson.errorString(), "error");
-    QCOMPARE(placeOf(ofJson), QString()); // JSON does not tell
+    QCOMPARE(placeOf(ofJson), QString()); // JSON gives no place
     QVERIFY(ofJson.hasError());
 }
 
@@ -393,7 +393,7 @@ void tst_RVCheckConfiguration::unreadable()
     const RVCheckConfiguration configuration = RVCheckConfiguration::read(path(name));
     QVERIFY2(configuration.errorString().startsWith(error), qPrintable(configuration.errorString()));
     QVERIFY(!configuration.errorString().contains(u'\n'));
-    // Which letter of the line it is depends on the version of the reader.
+    // The column depends on the version of the parser.
     QVERIFY(configuration.errorPosition());
     QFETCH(int, line);
     QCOMPARE(configuration.errorPosition()->line, line);

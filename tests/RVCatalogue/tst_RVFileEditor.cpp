@@ -32,7 +32,7 @@ RVFileEdit edit(qint64 column, qint64 endColumn, const QString &text)
     return edit(1, column, 1, endColumn, text);
 }
 
-/// An encoding, letters that it has, and how a file in it begins.
+/// An encoding, its letters, and the begin of a file in it.
 struct Encoding
 {
     const char *row;
@@ -92,7 +92,7 @@ QStringList namesIn(const QString &folder)
     return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
 }
 
-/// Cannot be written beyond some bytes, as a disk that is full.
+/// A device that cannot be written beyond some bytes, like a full disk.
 class FullFile : public QBuffer
 {
 public:
@@ -111,7 +111,7 @@ private:
     qint64 myRoom;
 };
 
-/// Hands out a text that ends early when it is read for the second time.
+/// A device whose text ends early when it is read for the second time.
 class BrokenFile : public CatalogueBuffer
 {
 public:
@@ -351,7 +351,7 @@ void tst_RVFileEditor::countsEachFix()
     QCOMPARE(editor.apply("<a b='1,1'/>"), QByteArray("<a b='2,3'/>"));
 }
 
-// The first edit of a fix is taken back when the second one cannot be made.
+// The first edit of a fix is removed when the second one cannot be made.
 void tst_RVFileEditor::refusedFixLeavesNothing()
 {
     RVFileEditor editor;
@@ -366,14 +366,14 @@ void tst_RVFileEditor::encodings_data()
     int known = 0;
     for (std::size_t i = 0; i < ENCODINGS.size(); ++i) {
         if (!encoded(u"a"_s, ENCODINGS[i].name))
-            continue; // the system has those of its packages
+            continue; // the system lacks this encoding
         QTest::newRow(ENCODINGS[i].row) << int(i);
         ++known;
     }
     QVERIFY(known >= 10);
 }
 
-// Texts are long enough for several pieces, and letters of all lengths come to stand at the ends of pieces and edits.
+// The texts have several pieces, with letters of all lengths at the ends of pieces and edits.
 void tst_RVFileEditor::encodings()
 {
     QFETCH(int, index);
@@ -386,7 +386,7 @@ void tst_RVFileEditor::encodings()
         QString expected = text;
         RVFileEditor editor;
         for (int i = 0; i < 40; ++i) {
-            // Nothing but letters may be replaced, or the file would be no XML.
+            // Only letters of texts may be replaced, or the file would be no XML.
             const QString kept = textOf(letters, random.bounded(count), &random);
             text += kept + u'|';
             expected += kept + u'|';
@@ -449,7 +449,7 @@ void tst_RVFileEditor::unwritableLetters()
     QTEST(editor.errorString(), "error");
 }
 
-// Bytes mean letters of the alphabet that was switched to last: an edit must not change those behind it.
+// Bytes belong to the current alphabet of the encoding, so an edit must not change the meaning of later bytes.
 void tst_RVFileEditor::statefulEncoding()
 {
     const QString declaration = u"<?xml version='1.0' encoding='ISO-2022-JP'?>\n"_s;
@@ -497,7 +497,7 @@ void tst_RVFileEditor::fullDevice()
     QCOMPARE(to.data(), QByteArray("<a b='2'/>"));
 }
 
-// A text that is cut off by an error would be a file that is well-formed.
+// A text that an error cuts off here would be well-formed.
 void tst_RVFileEditor::brokenDevice()
 {
     RVFileEditor editor;
@@ -546,7 +546,7 @@ void tst_RVFileEditor::savePermissions()
     }
 }
 
-// A user who may give files away keeps the owner; anybody else owns what he has written.
+// A user who may give files away keeps the owner; any other user becomes the owner.
 void tst_RVFileEditor::saveOwner()
 {
     const QString path = write(u"a.xml"_s, "<a b='1'/>");
@@ -562,7 +562,7 @@ void tst_RVFileEditor::saveOwner()
     QCOMPARE(state.st_gid, group);
 }
 
-// If the file system has none, the file has none before and behind.
+// If the file system has none, the file has none before and after.
 void tst_RVFileEditor::saveExtendedAttributes()
 {
     const QByteArray path = QFile::encodeName(write(u"a.xml"_s, "<a b='1'/>"));

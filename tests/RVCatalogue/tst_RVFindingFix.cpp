@@ -52,7 +52,7 @@ QStringList mistyped(const QString &text)
     return result;
 }
 
-/// The values that have a keyword at most that many letters away from a text.
+/// The values with a keyword at most this number of letters away from a text.
 QSet<qint64> valuesNear(const QList<RVCatalogueAttributeValue> &values, const QString &text, int distance)
 {
     QSet<qint64> result;
@@ -214,7 +214,7 @@ void tst_RVFindingFix::noSafeAnswer()
     QCOMPARE(findings.first().fix(), QList<RVFileEdit>());
 }
 
-// All at once, as every fix changes its own piece.
+// All fixes are made at once, because each changes its own piece.
 void tst_RVFindingFix::severalInOneList()
 {
     const QByteArray file = with("cover_type", "hardcovr,  soft,Leder;Leinen, leather;agenda ,Leder");
@@ -255,7 +255,7 @@ void tst_RVFindingFix::typingMistakes_data()
         QTest::newRow(attribute.name().data()) << attribute.name().toString();
 }
 
-// A mistyped keyword of three letters or more is mended exactly where it can be no other one.
+// A mistyped keyword of three letters or more is mended exactly if it can be no other one.
 void tst_RVFindingFix::typingMistakes()
 {
     QFETCH(QString, attribute);
@@ -264,7 +264,7 @@ void tst_RVFindingFix::typingMistakes()
     check.disable(RVCatalogueRule::find(u"spine-missing"));
     int count = 0;
     for (const RVCatalogueAttributeValue &value : values) {
-        // Of a number, an alias is as good and can be mistyped.
+        // An alias of a number is a valid keyword and can be mistyped.
         const QString keyword = (value.keyword.size() > 1 ? value.keyword : value.aliases.value(0)).toLower();
         for (const QString &text : mistyped(keyword)) {
             if (text.size() < 3 || text.contains(u' ') || isName(values, text)
@@ -295,7 +295,7 @@ void tst_RVFindingFix::ownPriceClass()
     QCOMPARE(ambiguous.first().fix(), QList<RVFileEdit>());
 }
 
-// A full-width ampersand looks like one that XML reads as the begin of a reference.
+// A full-width ampersand looks like the one that begins a reference in XML.
 void tst_RVFindingFix::escaped()
 {
     RVCatalogueCheck check;

@@ -38,13 +38,13 @@ private Q_SLOTS:
 
 namespace {
 
-/// "name='" + value + "'", with the letters escaped that XML reads as something else.
+/// The attribute "name='" + value + "'", with escaped letters where XML needs them.
 QByteArray attribute(const QString &name, const QString &value)
 {
     return (name + u"=\""_s + value.toHtmlEscaped() + u'"').toUtf8();
 }
 
-/// The texts of a product with that attribute; those of several findings in lines.
+/// The texts about a product with this attribute, one on each line.
 QString textOf(const QString &name, const QString &value)
 {
     QStringList result;
@@ -612,7 +612,7 @@ void tst_RVFindingText::places_data()
                                                           u"block_width='-2' in line 4: below 0"_s };
 }
 
-// The rule of the only finding, and what it says of other places.
+// The rule of the only finding, and its texts about other places.
 void tst_RVFindingText::places()
 {
     QFETCH(QByteArray, file);

@@ -22,7 +22,7 @@ namespace {
 
 constexpr quint64 GOLDEN_RATIO = 0x9e37'79b9'7f4a'7c15;
 
-/// As good as random, as the hashes of texts are, and never the same for two numbers.
+/// A pseudo-random number, like the hash of a text, but never the same for two numbers.
 quint64 scattered(quint32 number)
 {
     const quint64 mixed = number * GOLDEN_RATIO;
@@ -83,7 +83,7 @@ void tst_RVFirstPlaces::spacedOut_data()
     QTest::newRow("the same low bits") << 4096U;
 }
 
-// Places are found again whatever the keys have in common, in whatever order they came.
+// Places are found again for keys with common bits, in any order.
 void tst_RVFirstPlaces::spacedOut()
 {
     QFETCH(quint32, step);
@@ -96,7 +96,7 @@ void tst_RVFirstPlaces::spacedOut()
         QCOMPARE(places.insert(keyOf(number), count + number), number);
 }
 
-// Both maps that a file needs, and no step of their growth.
+// The memory of both maps of a file, without a step of their growth.
 void tst_RVFirstPlaces::memoryOfAMillion()
 {
     constexpr quint32 count = 1000000;

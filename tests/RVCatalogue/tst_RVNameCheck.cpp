@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A product with these attributes behind type and article id, and this content.
+/// A product with type, article id, these attributes and this content.
 QByteArray product(const QByteArray &attributes, const QByteArray &content = QByteArray())
 {
     return "<products><product type='A' article_id='1' " + attributes + '>' + content + "</product></products>";
@@ -385,7 +385,7 @@ void tst_RVNameCheck::oneMistake_data()
                                                      u"peices='1': attribute-misspelt"_s };
 }
 
-// An attribute that is there under a wrong name is not called missing as well.
+// An attribute with a wrong name is not reported as missing as well.
 void tst_RVNameCheck::oneMistake()
 {
     QFETCH(QByteArray, file);
@@ -393,7 +393,7 @@ void tst_RVNameCheck::oneMistake()
     QTEST(CheckedCatalogue(file).rules(), "findings");
 }
 
-// Each name of a clean catalogue, misspelt alone, is the one finding.
+// One misspelt name in a clean catalogue gives exactly one finding.
 void tst_RVNameCheck::everyAttributeOfTheCleanCatalogue()
 {
     static const QRegularExpression attribute(u" ([a-zA-Z_]+)='[^']*'"_s);
@@ -520,7 +520,7 @@ void tst_RVNameCheck::fixes()
     QCOMPARE(catalogue.mended(), QString::fromUtf8(mended));
 }
 
-// Such an attribute stands nowhere in the product.
+// Such an attribute may stand nowhere in the product.
 void tst_RVNameCheck::attributesOfTheDocumentType()
 {
     const CheckedCatalogue catalogue(
@@ -539,7 +539,7 @@ void tst_RVNameCheck::foreignNames()
     QCOMPARE(CheckedCatalogue(file, check).rules(), QStringList { u"Page='1': attribute-misspelt"_s });
 }
 
-// Without the finding about the name the other one stands, since one of them must.
+// The other finding appears if the one about the name is disabled, because one of them must.
 void tst_RVNameCheck::switchedOff()
 {
     const QByteArray file = product("").replace("article_id", "article_ib");
@@ -559,7 +559,7 @@ void tst_RVNameCheck::switchedOff()
     QCOMPARE(withoutProduct.findings().first().rule().name(), "products-missing"_L1);
 }
 
-// Elements outside of products are findings about the file, in its order, and tell the type that they have.
+// Elements outside of products give findings about the file, in its order, with their type.
 void tst_RVNameCheck::aboutTheFile()
 {
     const QByteArray file = "<products>\n<forms/>\n<f><prodcut type='B'><a/></prodcut></f>\n"

@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A product with these options, one a line, the first of them in line 2.
+/// A product with these options, one on each line, the first of them in line 2.
 QByteArray options(const QByteArrayList &forms)
 {
     QByteArray result = "<p><product type='A' article_id='1'><forms>\n";
@@ -216,7 +216,7 @@ void tst_RVOptionSpellingCheck::fixes_data()
     QTest::newRow("comma") << QByteArray("key='a' value='b, c'") << QByteArray("key='a' value='b, c'");
 }
 
-// A blank around is taken away where the file has the letters that XML reads.
+// A surrounding blank is removed if the file has the letters that XML reads.
 void tst_RVOptionSpellingCheck::fixes()
 {
     QFETCH(QByteArray, form);
@@ -224,7 +224,7 @@ void tst_RVOptionSpellingCheck::fixes()
     QCOMPARE(CheckedCatalogue(options({ form })).mended(), QString::fromUtf8(options({ mended })));
 }
 
-// As many as a product may have are judged in no time.
+// The most options that a product may have are checked fast.
 void tst_RVOptionSpellingCheck::manyOptions()
 {
     QByteArrayList forms;

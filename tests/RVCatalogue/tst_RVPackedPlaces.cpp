@@ -70,7 +70,7 @@ void tst_RVPackedPlaces::severalFiles()
     QList<quint64> packed;
     for (int file = 0; file < count; ++file) {
         places.beginFile();
-        if (file % 3 == 0) // nothing is known of it
+        if (file % 3 == 0) // a file without places
             packed += 0;
         else
             packed += places.pack(range(file, 2, file, 5));
@@ -84,7 +84,7 @@ void tst_RVPackedPlaces::severalFiles()
     }
 }
 
-// A catalogue of one line needs a page now and then, and the line behind it none.
+// A catalogue on one line needs several pages, and the line behind it none.
 void tst_RVPackedPlaces::largeColumns()
 {
     constexpr qint64 count = 100000;

@@ -11,7 +11,7 @@ QByteArray product(const QByteArray &attributes)
     return "<p><product type='A' article_id='1' " + attributes + "/></p>";
 }
 
-/// With a barcode on page 100.
+/// A product with a barcode on page 100.
 QByteArray withBarcode(const QByteArray &attributes)
 {
     return "<p><product type='A' article_id='1' " + attributes

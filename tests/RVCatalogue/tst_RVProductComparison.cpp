@@ -63,7 +63,7 @@ QByteArray forms(const QByteArray &content)
     return book("", "<forms>" + content + "</forms>");
 }
 
-/// The same text with one value instead of another, which is in it once.
+/// The same text with one value replaced, which occurs once.
 QByteArray replaced(QByteArray text, const QByteArray &from, const QByteArray &to)
 {
     Q_ASSERT(text.count(from) == 1);
@@ -476,7 +476,7 @@ void tst_RVProductComparison::randomProductsEqualThemselves()
     }
 }
 
-// The ranges of page counts together are what sets of single counts give.
+// The ranges of page counts together equal the sets of single counts.
 void tst_RVProductComparison::everyPageCount()
 {
     QRandomGenerator random(31);
@@ -518,7 +518,7 @@ void tst_RVProductComparison::everyPageCount()
     }
 }
 
-// Every subject stands in the table, and only those.
+// The table has every subject and no other.
 void tst_RVProductComparison::documentedSubjects()
 {
     QFile file(QStringLiteral(DOCS) + "/comparing.md"_L1);

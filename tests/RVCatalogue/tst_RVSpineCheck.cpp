@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A bound product of 26 to 154 pages, which are 32 packages, in millimetres.
+/// A bound product of 26 to 154 pages, which are 32 packages, with widths in millimetres.
 QByteArray spine(const QByteArray &attributes, const QByteArray &unit = "mm", const QByteArray &maxPages = "154")
 {
     return "<p><product type='A' article_id='1' page_binding='glue' pages='26' max_pages='" + maxPages

@@ -58,7 +58,7 @@ QList<RVCatalogueFinding> findingsIn(const QByteArray &content, const RVCatalogu
     return findingsIn(&file, check);
 }
 
-/// The same on many threads.
+/// The same findings on many threads.
 QList<RVCatalogueFinding> mappedFindingsIn(const QByteArray &content)
 {
     CatalogueBuffer file(content);
@@ -91,7 +91,7 @@ QByteArray ignoring(const QByteArray &rules)
     return "<!-- rvcatalog: ignore " + rules + " -->";
 }
 
-/// Two lines of a product without anything else to find, with these lines in it.
+/// A product without other findings, with these lines in it.
 QByteArray product(const QByteArray &content, const QByteArray &attributes = {})
 {
     return "<p><product type='A' article_id='1'" + attributes + ">\n" + content + "</product></p>\n";
@@ -188,7 +188,7 @@ void tst_RVSuppression::reading_data()
     row("blank", " \n ", other);
 }
 
-// In front of a product without faults every rule is of no use.
+// A comment in front of a product without faults has no effect with any rule.
 void tst_RVSuppression::reading()
 {
     QFETCH(QByteArray, comment);
@@ -434,7 +434,7 @@ void tst_RVSuppression::places()
     QTEST(describe(findingsIn(&device)), "findings");
 }
 
-// A rule that finds nothing anyway need not be silenced, and that is no fault of the comment.
+// A disabled rule has no findings to silence, but its comment is no fault.
 void tst_RVSuppression::disabledRules()
 {
     const QByteArray one = "<p>" + ignoring("keyword-legacy, type-missing")
@@ -477,7 +477,7 @@ void tst_RVSuppression::typeOfTheProduct()
     QCOMPARE(findings.at(1).product(), qint64(-1));
 }
 
-// The check alone knows which findings are silenced, but not whether a comment is of no use.
+// The check alone removes silenced findings, but does not report comments without effect.
 void tst_RVSuppression::withoutAReader()
 {
     CatalogueBuffer file("<p>" + ignoring("keyword-legacy, type-duplicate") + "<g>" + ignoring("boolean-invalid")
@@ -490,7 +490,7 @@ void tst_RVSuppression::withoutAReader()
     QCOMPARE(brief(RVCatalogueCheck().findings(products.first())), QStringList { u"1 type-missing"_s });
 }
 
-// Nobody knows what is wrong with products that were passed over.
+// The faults of skipped products are unknown.
 void tst_RVSuppression::passedOver()
 {
     const QByteArray content = "<p>" + ignoring("keyword-legacy") + "<g><product type='A' article_id='1'/></g>"
@@ -503,7 +503,7 @@ void tst_RVSuppression::passedOver()
     QCOMPARE(findingsIn(content).size(), qsizetype(2));
 }
 
-// Of a group that was cut off nobody knows either.
+// The faults in a group that was cut off are unknown as well.
 void tst_RVSuppression::brokenFile()
 {
     QCOMPARE(brief(findingsIn("<p>" + ignoring("type-missing") + "\n<g/>" + ignoring("type-missing")
@@ -544,7 +544,7 @@ void tst_RVSuppression::manyGroups()
 
 namespace {
 
-/// A catalogue of elements that are nested at random, and what is to be found in it by the plain rule.
+/// A catalogue of randomly nested elements, and its findings by the plain rule.
 class RandomNesting
 {
 public:
@@ -580,7 +580,7 @@ private:
     struct Comment
     {
         int line;
-        int end; // of its element
+        int end; // the end of its element
     };
 
     // Only the first "forms" of a product is read, so the children of others have no faults.
@@ -634,7 +634,7 @@ private:
 
     QRandomGenerator myRandom;
     QByteArray myText;
-    int myLine = 1; // the next
+    int myLine = 1; // the number of the next line
     QList<int> myFaults;
     QList<Comment> myComments;
     QStringList myFindings;

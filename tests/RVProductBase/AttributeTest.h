@@ -10,7 +10,7 @@
 #include <future>
 #include <type_traits>
 
-/// One value, as the keyword table of an attribute class has it. The first keyword encodes it.
+/// One value of the keyword table of an attribute class. The first keyword encodes it.
 struct KeywordRow
 {
     qint64 value;
@@ -24,7 +24,7 @@ auto onAnotherThread(Function function)
     return std::async(std::launch::async, function).get();
 }
 
-/// An attribute that says the opposite of the truth when it is asked whether it is valid.
+/// An attribute whose isValid() returns the opposite.
 template<typename Attribute>
 class LyingAttribute : public Attribute
 {
@@ -51,7 +51,7 @@ public:
           myDefaults(defaults)
     { }
 
-    /// Call from a test function.
+    /// Checks the table; call it from a test function.
     void check() const
     {
         QStringList allKeywords;
@@ -123,7 +123,7 @@ private:
     Defaults myDefaults;
 };
 
-/// "name=text" of every child element, sorted.
+/// The child elements as "name=text", sorted.
 inline QStringList childTexts(const QDomElement &parent)
 {
     QStringList result;

@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Each entry as "key=value".
+/// The entries, each as "key=value".
 RVArticleVariants variants(const QStringList &entries)
 {
     RVArticleVariants result;

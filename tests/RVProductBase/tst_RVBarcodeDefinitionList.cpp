@@ -22,7 +22,7 @@ RVBarcodeDefinitionList list(const QList<RVBarcodeDefinition> &definitions)
     return result;
 }
 
-/// "x/page/image" of every definition.
+/// The definitions, each as "x/page/image".
 QStringList texts(const RVBarcodeDefinitionList &definitions)
 {
     QStringList result;
@@ -102,7 +102,7 @@ void tst_RVBarcodeDefinitionList::readsNameSpaces_data()
     QTest::newRow("prefix, parsed without name spaces") << u"<shop:barcode/>"_s << false << 0;
 }
 
-// A prefix makes it another element, whatever name space it stands for.
+// A prefix makes it a different element, in any name space.
 void tst_RVBarcodeDefinitionList::readsNameSpaces()
 {
     QFETCH(QString, barcode);

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Each text as "key:value", invalid ones included.
+/// The options, each as "key:value", invalid ones included.
 RVConfiguredArticleVariantList list(const QStringList &texts)
 {
     RVConfiguredArticleVariantList result;
@@ -35,7 +35,7 @@ QStringList texts(const RVConfiguredArticleVariant &option)
     return { option.key() + u':' + option.value() };
 }
 
-/// Sorted by key.
+/// The options, sorted by key.
 QStringList entries(const RVArticleVariants &variants)
 {
     QStringList result;
@@ -207,7 +207,7 @@ void tst_RVConfiguredArticleVariantList::createsFromXml()
     QTEST(texts(list), "expected");
 }
 
-// Prefixes do not count where the document was parsed with name spaces.
+// Prefixes do not count if the document was parsed with name spaces.
 void tst_RVConfiguredArticleVariantList::createsFromXmlWithNameSpaces()
 {
     const QDomDocument document = parseWithNameSpaces(

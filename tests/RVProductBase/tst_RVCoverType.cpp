@@ -142,7 +142,7 @@ void tst_RVCoverType::predicates()
     QTEST(coverType(value).isRegularCover(), "regular");
     QTEST(coverType(value).isFullCover(), "fullCover");
     QTEST(coverType(value).isSimplex(), "simplex");
-    // A cover of the application's own may have its own idea of what is valid, which counts for regular covers only.
+    // A cover class of an application may redefine isValid(), which affects only the query for regular covers.
     const LyingCover lying { RVCoverTypeEnum(value) };
     QCOMPARE(lying.isRegularCover(), value == 0);
     QTEST(lying.isFullCover(), "fullCover");

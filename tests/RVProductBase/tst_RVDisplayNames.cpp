@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Knows one word of one context.
+/// A translator with one word of one context.
 class Translator : public QTranslator
 {
 public:

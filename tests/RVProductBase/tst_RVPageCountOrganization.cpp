@@ -194,7 +194,7 @@ void tst_RVPageCountOrganization::counts_data()
     QTest::newRow("below the middle of all") << all << -1 << true << true << INT_HIGHEST << -1;
     QTest::newRow("highest of all") << all << INT_HIGHEST << true << true << INT_HIGHEST << INT_HIGHEST;
 
-    // The pages above the lowest count are more than an int holds, and have another remainder there.
+    // The pages above the lowest count are more than an int holds, and would have a different remainder as an int.
     const RVPageCountOrganization thirds = organization(INT_LOWEST, INT_HIGHEST, 3);
     QTest::newRow("every third of all, highest") << thirds << INT_HIGHEST << true << true << 1431655765 << INT_HIGHEST;
     QTest::newRow("every third of all, between")

@@ -22,7 +22,7 @@ RVPageCountOrganization organization(int min, int max, int increment)
     return RVPageCountOrganization(RVIntRange(min, max), increment);
 }
 
-/// Makes indexes that the model itself would not give out.
+/// Creates indexes that the model itself would not return.
 class OpenModel : public RVPageCountOrganizationListModel
 {
 public:
@@ -30,7 +30,7 @@ public:
     using RVPageCountOrganizationListModel::RVPageCountOrganizationListModel;
 };
 
-/// The model as list views see it: they ask for the rows below the invalid index only.
+/// The model as list views use it: they ask only for the rows below the invalid index.
 class FlatModel : public RVPageCountOrganizationListModel
 {
 public:
@@ -291,7 +291,7 @@ void tst_RVPageCountOrganizationListModel::indexesBeyondTheRows()
     QVERIFY(!model.data(model.createIndex(0, -1), Qt::DisplayRole).isValid());
 }
 
-// A proxy may hand on an index of its own: the row alone counts.
+// A proxy may pass its own index: only the row counts.
 void tst_RVPageCountOrganizationListModel::indexesOfAnotherModel()
 {
     RVPageCountOrganizationListModel model(false);

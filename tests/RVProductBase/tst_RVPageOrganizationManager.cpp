@@ -34,14 +34,14 @@ RVPageCountOrganization organization(int min, int max, int increment)
     return RVPageCountOrganization(RVIntRange(min, max), increment);
 }
 
-/// The questions to a calculator, and the number of those deleted. It outlives the calculator.
+/// The calls of a calculator, and the number of deleted calculators. It outlives the calculator.
 struct Log
 {
     QStringList asked;
     int deleted = 0;
 };
 
-/// Counts how many of its kind are destroyed.
+/// Counts the destroyed objects of its class.
 class WatchedOrganization : public RVPageCountOrganization
 {
 public:
@@ -50,7 +50,7 @@ public:
     static inline int destroyed = 0;
 };
 
-/// Puts a watched organisation in the place of another one.
+/// Replaces an organisation by a watched one.
 void watch(RVPageCountOrganization *organization)
 {
     static_assert(sizeof(WatchedOrganization) == sizeof(RVPageCountOrganization));
@@ -84,7 +84,7 @@ Rule always(int min, int max, int increment)
 
 const int threadCount = 8;
 
-/// Runs the function in several threads that set off together.
+/// Runs the function in several threads that start together.
 void inThreads(const std::function<void(int)> &function)
 {
     std::atomic<int> waiting = threadCount;
@@ -101,7 +101,7 @@ void inThreads(const std::function<void(int)> &function)
         thread.join();
 }
 
-/// Asks the manager once more when it goes.
+/// Calls the manager once more in its destructor.
 class PartingCalculator : public RVPageOrganizationCalculator
 {
 public:
@@ -158,7 +158,7 @@ private Q_SLOTS:
     void threadsClearAndReplace();
 };
 
-// Has to come first: afterwards the instance exists.
+// This test must run first, because the instance exists afterwards.
 void tst_RVPageOrganizationManager::instanceForManyThreads()
 {
     RVPageOrganizationManager *seen[threadCount] = {};
@@ -173,7 +173,7 @@ void tst_RVPageOrganizationManager::instanceForManyThreads()
     QCOMPARE(seen[0]->pageCountOrganzation(RVProductType(u"VIR29"_s)), organization(0, 0, 0));
 }
 
-// The threads that asked first have ended.
+// The threads of the first calls have ended.
 void tst_RVPageOrganizationManager::instanceBelongsToTheApplication()
 {
     RVPageOrganizationManager *const manager = RVPageOrganizationManager::instance();
@@ -260,7 +260,7 @@ void tst_RVPageOrganizationManager::handsOutCopies()
     QCOMPARE(log.asked, QStringList { u"DUN9"_s });
 }
 
-// Wherever another thread could come in, one changes the organisation.
+// Another thread changes the organisation at every point where it can.
 void tst_RVPageOrganizationManager::copiesUnderTheLock()
 {
     Log log;
@@ -442,7 +442,7 @@ void tst_RVPageOrganizationManager::neverFreesOrganizations()
     const RVProductType type(u"DUN9"_s);
     RVPageCountOrganization *own = manager->createPageOrganization(type);
     watch(own);
-    delete own; // belongs to the one who asked
+    delete own; // the caller owns it
     QCOMPARE(std::exchange(WatchedOrganization::destroyed, 0), 1);
     watch(manager->organization(type));
     manager->clearCache();
@@ -470,7 +470,7 @@ void tst_RVPageOrganizationManager::calculatorAsksTheManager()
     QCOMPARE(log.asked, QStringList({ u"top"_s, u"middle"_s, u"base"_s }));
 }
 
-// The answer is remembered for the type that was asked about, not for what the object has become.
+// The result is cached for the type of the call, not for the changed object.
 void tst_RVPageOrganizationManager::calculatorChangesTheType()
 {
     Log log;

@@ -88,7 +88,7 @@ void tst_RVPageSizeKey::compares()
 
 void tst_RVPageSizeKey::dumps()
 {
-    // Every alignment together has no keyword.
+    // The combination of all alignments has no keyword.
     QCOMPARE(key(0x20, 24).dump(), u" fullcover 24"_s);
     QCOMPARE(key(0x20, 1000).dump(), u" fullcover 1000"_s);
     QString debug;

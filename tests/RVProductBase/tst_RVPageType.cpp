@@ -12,7 +12,7 @@ RVPageType pageType(int value)
     return RVPageType(RVPageTypeEnum(value));
 }
 
-/// Remembers the last call of the operation through which page types grow.
+/// Records the last call of the operation that adds bits to page types.
 class WatchedPageType : public RVPageType
 {
 public:

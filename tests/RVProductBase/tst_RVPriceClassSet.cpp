@@ -172,7 +172,7 @@ private Q_SLOTS:
     void debugOutputOfSeveral();
 };
 
-// Has to come first: afterwards every group is built.
+// This test must run first, because every group is built afterwards.
 void tst_RVPriceClassSet::firstUseByManyThreads()
 {
     constexpr int threadCount = 8;
@@ -273,7 +273,7 @@ void tst_RVPriceClassSet::spotColors()
     QCOMPARE(sortedCodes(set), sorted(codes));
 }
 
-// Every call changes the one set that is stored, and no copy is left here that it would have to leave alone.
+// Every call changes the stored set in place, because no copy of it exists here.
 void tst_RVPriceClassSet::designIsOneSet()
 {
     const RVPriceClass *first = firstElement(RVPriceClassSet::designPriceClasses());

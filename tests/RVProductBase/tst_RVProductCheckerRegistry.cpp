@@ -18,7 +18,7 @@ namespace {
 
 constexpr int THREADS = 8;
 
-/// Answers as it is told, and notes in a common list that it was asked.
+/// Returns a given answer, and records the call in a common list.
 class Checker : public RVProductChecker
 {
 public:
@@ -48,7 +48,7 @@ private:
     QStringList *myAsked;
 };
 
-/// Asks the registry about another type and another kind before it answers.
+/// Calls the registry with another type and another kind before it returns.
 class AskingChecker : public RVProductChecker
 {
 public:
@@ -65,7 +65,7 @@ private:
     RVProductCheckerRegistry *myRegistry;
 };
 
-/// Changes the type that it is asked about, and refuses.
+/// Changes the type of the call, and refuses.
 class ChangingChecker : public RVProductChecker
 {
 public:
@@ -83,7 +83,7 @@ private:
     RVProductType *myType;
 };
 
-/// Does not answer about the type "slow" until it may.
+/// Blocks the result for the type "slow" until it is released.
 class SlowChecker : public RVProductChecker
 {
 public:
@@ -102,7 +102,7 @@ public:
     mutable QSemaphore mayAnswer;
 };
 
-/// Counts the questions and accepts even numbers.
+/// Counts the calls and accepts even numbers.
 class CountingChecker : public RVProductChecker
 {
 public:
@@ -292,7 +292,7 @@ void tst_RVProductCheckerRegistry::checkersMayCallBack()
     QVERIFY(registry.isValid(u"other"_s, 1));
 }
 
-// The answer is remembered for the type of the question.
+// The result is cached for the type of the call.
 void tst_RVProductCheckerRegistry::checkersMayChangeTheType()
 {
     RVProductCheckerRegistry registry;
@@ -346,7 +346,7 @@ void tst_RVProductCheckerRegistry::othersNeedNotWait_data()
     row("box style", [](RVProductCheckerRegistry *registry) { registry->isValidBoxStyle(u"A"_s, {}, 1); });
 }
 
-// Only a question waits for the answer to another one; nothing else takes the lock.
+// Only isValid() waits for a running isValid(); the other functions take no lock.
 void tst_RVProductCheckerRegistry::othersNeedNotWait()
 {
     QFETCH(Operation, operation);
@@ -400,7 +400,7 @@ void tst_RVProductCheckerRegistry::otherQuestionsWait()
     QVERIFY(done);
 }
 
-// The registry may be older than the checker: it finds the operations by their place alone.
+// The registry may be older than the checker, so it finds the operations only by their slots.
 void tst_RVProductCheckerRegistry::slotOrder()
 {
     struct Slots

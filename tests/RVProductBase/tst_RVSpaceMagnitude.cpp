@@ -199,7 +199,7 @@ void tst_RVSpaceMagnitude::scaleFactors()
     QTEST(magnitude(from).scaleFactorPerDimension(magnitude(to)), "dimension");
 }
 
-// A size class of the application's own may have its own idea of what is valid.
+// A size class of an application may redefine isValid().
 void tst_RVSpaceMagnitude::scaleFactorsOfTheInvalid()
 {
     const LyingAttribute<RVSpaceMagnitude> invalidA4(SPACE_MAGNITUDE_600CM2);

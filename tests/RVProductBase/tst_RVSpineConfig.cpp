@@ -27,7 +27,7 @@ RVDistance millimetres(qreal amount)
     return RVDistance(amount, DISTANCE_UNIT_MILLIMETRE);
 }
 
-/// 26 to 154 pages in steps of 4; 8 mm, 1 mm a block of 2 packages, 0.5 mm on each side.
+/// A spine for 26 to 154 pages in steps of 4: 8 mm, 1 mm for each block of 2 packages, 0.5 mm on each side.
 RVSpineConfig photoBook()
 {
     return RVSpineConfig(RVPageCountOrganization(RVIntRange(26, 154), 4), 2, millimetres(8), millimetres(1),
@@ -98,7 +98,7 @@ void tst_RVSpineConfig::defaultConstruction()
     QVERIFY(photoBook().isValid());
 }
 
-// Base and growth, then the sides: every other order ends with another digit here.
+// The sum is base and growth, then the sides: every other order gives a different last digit here.
 void tst_RVSpineConfig::addsInOneOrder()
 {
     const RVSpineConfig config(RVPageCountOrganization(RVIntRange(26, 154), 4), 1, RVDistance(0.2), RVDistance(0.3),
@@ -246,7 +246,7 @@ void tst_RVSpineConfig::reads()
                              RVDistance()));
 }
 
-// Prefixes do not count where the document was parsed with name spaces.
+// Prefixes do not count if the document was parsed with name spaces.
 void tst_RVSpineConfig::readsNameSpaces()
 {
     const QString xml = u"<product xmlns:shop='urn:shop'><shop:composition units='cm'><shop:spine base_width='2'/>"
@@ -339,10 +339,10 @@ void tst_RVSpineConfig::fontSizesRoundTheLimit()
 {
     const QString family = u"DejaVu Sans"_s;
     const int spacing = lineSpacing(family, 20);
-    // So close that 85.01 % would not do.
+    // The width is so close to the limit that 85.01 % would fail.
     QCOMPARE(spineFor(spacing - 0.50001).spineMaxFontHeigth(26, family), 12);
     QCOMPARE(spineFor(spacing - 0.49999).spineMaxFontHeigth(26, family), 20);
-    // Nothing is left of a base that the sides swallow.
+    // The sides take the whole base.
     const RVSpineConfig swallowed(RVPageCountOrganization(RVIntRange(26, 26), 0), 0, RVDistance(1000), RVDistance(),
                                   RVDistance(1e20));
     QCOMPARE(swallowed.spineMaxFontHeigth(26, family), 6);

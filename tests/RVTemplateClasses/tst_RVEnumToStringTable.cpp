@@ -256,7 +256,7 @@ void tst_RVEnumToStringTable::encodes()
     QVERIFY(Table().encodeCSV(FINISH_MATT).isNull());
 }
 
-// Letters that differ tell whether each is in its place, and a neighbour behind them whether there are too many.
+// Different letters show that each is in its place, and a neighbour behind them shows that there are not too many.
 void tst_RVEnumToStringTable::encodesKeywordsOfAnyLength()
 {
     const QString letters = u"abcdefghijklmnopqrstuvwxyz"_s;

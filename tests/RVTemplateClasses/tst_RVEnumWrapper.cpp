@@ -67,7 +67,7 @@ public:
     static inline std::atomic<int> fillings { 0 };
 };
 
-/// Inserts nothing into the table, and counts how often it is asked to.
+/// Inserts nothing into the table, and counts the calls.
 class Silent : public RVEnumWrapper<SilentEnum>
 {
 public:
@@ -105,7 +105,7 @@ struct Fresh
     enum Enum : qint32 { };
 };
 
-/// Each N has a table of its own, which nobody asked for before.
+/// Each N has its own table, which was not used before.
 template<int N>
 class FreshWrapper : public RVEnumWrapper<typename Fresh<N>::Enum>
 {
@@ -121,7 +121,7 @@ public:
     static inline int fillings = 0;
 };
 
-/// Notes which virtual operation was called last.
+/// Records the virtual operation that was called last.
 class Watched : public Finish
 {
 public:
@@ -184,7 +184,7 @@ private Q_SLOTS:
     void assigns();
 };
 
-// First of all, as the table is still missing.
+// This comes first, because the table is still missing.
 void tst_RVEnumWrapper::plainWrapperKeepsTheTableFree()
 {
     const RVEnumWrapper<FinishEnum> plain(FINISH_MATT);

@@ -27,7 +27,7 @@ public:
     bool contains(const int &value) const override { return value % 2 == 0 && Range::contains(value); }
 };
 
-/// Notes which values it was asked for.
+/// Records the values of its calls.
 class WatchedRange : public Range
 {
 public:

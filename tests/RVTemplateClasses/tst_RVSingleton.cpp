@@ -14,7 +14,7 @@ class Plain : public RVSingleton<Plain>
 {
 };
 
-/// Counts how often it is made and set up.
+/// Counts its constructions and its set-ups.
 class Counted : public RVSingleton<Counted>
 {
 public:
@@ -38,7 +38,7 @@ public:
     static inline std::atomic<int> destructions { 0 };
 };
 
-/// Made before the first instance, so it goes after all that is destroyed when the process ends.
+/// An object that is created before the first instance, so it is destroyed last when the process ends.
 struct LastOne
 {
     ~LastOne()
@@ -48,7 +48,7 @@ struct LastOne
     }
 } lastOne;
 
-/// A class of its own for each N, so that there are many first accesses to meet at.
+/// A separate class for each N, so that there are many first accesses to race for.
 template<int N>
 class Raced : public RVSingleton<Raced<N>>
 {

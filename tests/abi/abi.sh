@@ -2,18 +2,18 @@
 # abi.sh check|accept LIBRARIES HEADERS WORK
 # Compares the binary interface of the shared libraries below LIBRARIES with the baseline beside this script, by exported
 # symbols and by abidiff. Applications were compiled against the baseline, so a removed symbol and a changed size, offset
-# or virtual slot fail; what is new is shown. "accept" makes today's interface the baseline.
+# or virtual slot fail; new symbols are shown. "accept" makes the current interface the baseline.
 #
-# A library that the baseline does not have has promised nothing yet; it is named, and passes.
+# A library that is not in the baseline has promised nothing yet; it is named, and passes.
 #
-# Which inline functions a library exports depends on the compiler and on the headers of Qt. Where they are not those of
-# the baseline, only what does not depend on them is compared: the sizes of the tables of virtual functions.
+# The exported inline functions of a library depend on the compiler and on the headers of Qt. If they are not those of
+# the baseline, only the sizes of the tables of virtual functions are compared, which do not depend on them.
 set -euo pipefail
 mode=$1 libraries=$2 headers=$3 work=$4
 baseline="$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/baseline"
 names=(RVCore RVXML RVProductBase RVCatalogue)
 
-# One line a symbol; a table of virtual functions with its size.
+# Prints one line for each symbol; a table of virtual functions has its size.
 symbols() {
     nm -D --defined-only --format=posix "$1" |
         awk '$1 ~ /^_Z/ { print $1 ($1 ~ /^_ZTV/ ? " of size 0x" $4 : "") }' | LC_ALL=C sort
@@ -29,7 +29,7 @@ built_with() {
     echo "$compiler, Qt $qt, $machine"
 }
 
-# The tables of virtual functions that the baseline and this build both have, but not with the same size.
+# The tables of virtual functions whose sizes in the baseline and in this build differ.
 resized_tables() {
     LC_ALL=C join <(grep ' of size ' "$baseline/$1.symbols") <(symbols "$libraries/$1/lib$1.so" | grep ' of size ') |
         awk '$4 != $7 { print $1 " is of size " $7 " instead of " $4 }' | c++filt

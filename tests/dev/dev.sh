@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# dev.sh DEV WORK: the script DEV works from any directory and in a folder with a blank in its name, says what it installs
-# before it does, and installs nothing when nothing is missing. Stand-ins record what would have been called.
+# dev.sh DEV WORK: the script DEV works from any directory and in a folder with a blank in its name, names the packages
+# before it installs them, and installs nothing when nothing is missing. Stand-ins record the calls.
 set -euo pipefail
 dev=$1 work=$2
 tree="$work/a clone" tools="$work/tools" calls="$work/calls"
@@ -10,7 +10,7 @@ mkdir -p "$tree" "$tools"
 cp "$dev" "$tree/dev"
 ln -s "$tree/dev" "$work/link to dev"
 
-# stand_in NAME [SCRIPT]: a program that records how it was called, and then does as the script says.
+# stand_in NAME [SCRIPT]: a program that records its call, and then runs the script.
 stand_in() {
     printf '#!/bin/sh\necho "%s $*" >>"%s"\n%s\n' "$1" "$calls" "${2:-}" >"$tools/$1"
     chmod +x "$tools/$1"
@@ -25,7 +25,7 @@ for program in cmake ctest apt-get; do
 done
 stand_in flock 'shift; exec "$@"'
 stand_in sudo 'exec "$@"'
-# Everything is installed but what $MISSING names.
+# All packages are installed except those in $MISSING.
 stand_in dpkg-query 'for last; do :; done; [ "$last" != "${MISSING-}" ] && echo installed || echo not-installed'
 printf '#!/bin/sh\necho "${USER_ID:-0}"\n' >"$tools/id"
 chmod +x "$tools/id"
@@ -35,7 +35,7 @@ fail() {
     exit 1
 }
 
-# run EXIT_CODE COMMAND...: runs it from the root directory, keeps what it printed and what it called.
+# run EXIT_CODE COMMAND...: runs it from the root directory, and keeps its output and its calls.
 run() {
     local expected=$1 code=0
     shift
@@ -61,7 +61,7 @@ says 'dev: installing ninja-build'
 called 'flock /var/lib/dpkg apt-get update'
 called 'apt-get install .*--no-install-recommends.* ninja-build$'
 not_called 'sudo'
-# The message about an installation comes before anything is called for it.
+# The message about an installation comes before its first call.
 stand_in apt-get 'echo apt-get was called; exit 100'
 run 100 "$tree/dev" translations
 [[ $output == "dev: installing ninja-build"$'\n'"apt-get was called" ]] || fail "the order is wrong"
@@ -92,7 +92,7 @@ run 2 "$tree/dev" run fast
 says 'dev: "run" takes no argument, but got "fast"'
 not_called 'cmake'
 
-# Only the program that is shown is built.
+# Only the shown program is built.
 mkdir -p "$tree/build/release/bin"
 stand_in rvcatalog 'echo "the sample"'
 mv "$tools/rvcatalog" "$tree/build/release/bin"
@@ -104,7 +104,7 @@ says 'the sample'
 says "export PATH=\"$tree/build/release/bin:\$PATH\""
 not_called 'ctest'
 
-# "test" leaves out what takes long; "test --all" runs each test once, and then the sanitizers.
+# "test" leaves out the slow tests; "test --all" runs each test once, and then the sanitizers.
 run 0 "$tree/dev" test
 called 'ctest --test-dir build/release .*--label-exclude slow$'
 [[ $(grep -c '^ctest' "$calls") == 1 ]] || fail "more than the quick tests were run"
@@ -124,7 +124,7 @@ mv "$tools/bench.py" "$tree/benchmarks"
 run 0 "$tree/dev" bench
 called 'cmake --build build/release --target benchmarks'
 called 'bench.py build/release/benchmarks build/bench$'
-# The build may talk, but not where the lines are read from.
+# The build may print messages, but not to the standard output, whose lines are parsed.
 stand_in cmake 'echo building'
 [[ $(env -i PATH="$tools" "$tree/dev" bench --summary 2>/dev/null) == "the table" ]] || fail "not only the table came out"
 called 'bench.py build/release/benchmarks build/bench --summary$'

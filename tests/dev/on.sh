@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# on.sh TREE WORK: "./dev on" says what is wrong with its arguments, takes Debian from the mirror in apt's configuration,
-# keeps a bare system only when it is finished, and leaves none of its copies behind. Apt reads a configuration made for
-# this test; stand-ins take the place of what needs root and a network.
+# on.sh TREE WORK: "./dev on" reports wrong arguments, takes Debian from the mirror in apt's configuration, keeps a bare
+# system only when it is finished, and leaves none of its copies behind. Apt reads a configuration made for this test;
+# stand-ins replace the programs that need root and a network.
 set -euo pipefail
 tree=$1 work=$2
 clone="$work/a clone" tools="$work/tools" calls="$work/calls" apt="$work/apt"
@@ -12,7 +12,7 @@ mkdir -p "$clone/tests/releases" "$tools" "$apt/"{conf,sources,lists}
 cp "$tree/dev" "$clone"
 cp "$tree/tests/releases/on.sh" "$clone/tests/releases"
 
-# stand_in NAME [SCRIPT]: a program that records how it was called, and then does as the script says.
+# stand_in NAME [SCRIPT]: a program that records its call, and then runs the script.
 stand_in() {
     printf '#!/bin/sh\necho "%s $*" >>"%s"\n%s\n' "$1" "$calls" "${2:-}" >"$tools/$1"
     chmod +x "$tools/$1"
@@ -55,7 +55,7 @@ fail() {
     exit 1
 }
 
-# run EXIT_CODE COMMAND...: keeps what it printed and what it called.
+# run EXIT_CODE COMMAND...: keeps its output and its calls.
 run() {
     local expected=$1 code=0
     shift
@@ -108,7 +108,7 @@ called "unshare --mount bash .*/on.sh --inside $on ./dev run\$"
 settings=$(<"$on/bare/etc/apt/apt.conf.d/90host")
 [[ $settings == *'Acquire::http::Proxy "http://proxy.test:3128";'* ]] || fail "the bare system has no proxy: $settings"
 
-# The second time it is there. The exit code is that of the command.
+# The second run finds the system. The exit code is that of the command.
 stand_in unshare 'exit 7'
 run 7 "$clone/dev" on trixie false
 not_called 'debootstrap'

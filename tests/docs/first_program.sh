@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# first_program.sh PAGE WORK PREFIX CMAKE ARGUMENTS...: does what the first page of the guide says. Its files are copied from
-# the page itself into a new folder, and what the program writes must be what the page shows.
+# first_program.sh PAGE WORK PREFIX CMAKE ARGUMENTS...: follows the first page of the guide. The files are copied from
+# the page itself into a new folder, and the output of the program must be the one on the page.
 set -euo pipefail
 page=$1 work=$2 prefix=$3 cmake=$4
 shift 4

@@ -14,7 +14,7 @@ fail() {
 
 field() { dpkg-deb --field "$packages"/"$1"_*.deb "$2"; }
 
-# depends PACKAGE PATTERN: the package names what it cannot be without.
+# depends PACKAGE PATTERN: the package names this dependency.
 depends() { field "$1" Depends | tr ',' '\n' | grep -qE "^ *$2" || fail "$1 does not depend on $2: $(field "$1" Depends)"; }
 
 # holds PACKAGE PATTERN...: the package has a file or link for each pattern, and nothing but those and what every package has.

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# pkgconfig.sh COMPILER FLAGS LIBDIR MODULE SOURCE PROGRAM ARGUMENTS...: builds the program with nothing but pkg-config, and
+# pkgconfig.sh COMPILER FLAGS LIBDIR MODULE SOURCE PROGRAM ARGUMENTS...: builds the program with pkg-config alone, and
 # runs it.
 set -euo pipefail
 compiler=$1 flags=$2 libdir=$3 module=$4 source=$5 program=$6

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# symbols.sh NM LIBRARY SYMBOL CLASSES OTHERS: the library defines SYMBOL, and nothing for others but CLASSES, and functions
-# on them; what matches OTHERS is that of another library.
+# symbols.sh NM LIBRARY SYMBOL CLASSES OTHERS: the library defines SYMBOL, and exports only CLASSES and functions on
+# them; symbols that match OTHERS belong to another library.
 set -euo pipefail
 nm=$1 library=$2 symbol=$3 classes=$4 others=$5
 

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # system_platform.sh CMAKE SOURCES BUILD LIBDIR OPTIONS...: the libraries build on a platform layer installed in LIBDIR,
-# which has nothing but that, and are linked with it. Every source includes what it uses, as nothing is precompiled here.
+# which has only that layer, and are linked with it. Every source includes the headers that it uses, because there are
+# no precompiled headers here.
 set -euo pipefail
 cmake=$1 sources=$2 build=$3 libdir=$(realpath "$4")
 shift 4

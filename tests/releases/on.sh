@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# on.sh RELEASE COMMAND...: runs a command at the top of this tree in a bare Debian of that name, as root.
+# on.sh RELEASE COMMAND...: runs a command at the top of this tree in a bare Debian with that name, as root.
 #
-# build/on/RELEASE keeps the bare system, the packages it has fetched and a build folder of its own, which stands in for
-# build/ while the command runs. Each command starts from a new copy of the bare system, so what it needs it must install.
-# Mounts are made in a namespace of their own, so none is left behind, however the command ends.
+# build/on/RELEASE keeps the bare system, its downloaded packages and its own build folder, which replaces build/ while
+# the command runs. Each command starts from a new copy of the bare system, so it must install the packages that it
+# needs. Mounts are made in a separate namespace, so none is left behind in any case.
 set -euo pipefail
 tree="$(dirname "$(dirname "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")")")"
 
@@ -12,7 +12,7 @@ fail() {
     exit 2
 }
 
-# The mirror that apt takes this system's Debian from. Apt knows whose packages they are once it has fetched its lists.
+# The mirror from which apt gets this system's Debian. Apt knows the origin of packages after it has fetched its lists.
 find_mirror() {
     apt-get indextargets --format '$(ORIGIN) $(LABEL) $(RELEASE) $(COMPONENT) $(REPO_URI)' 'Created-By: Packages' |
         sed -nE 's/^Debian Debian [a-z]+ main //p' | grep -m 1 .
@@ -37,7 +37,7 @@ bootstrap() {
     apt-config dump | grep -E '^Acquire::(https?::|Check-|Retries|Languages)' >"$etc/apt/apt.conf.d/90host" || true
     echo force-unsafe-io >"$etc/dpkg/dpkg.cfg.d/unsafe-io" # a copy lives as long as its command
     [[ $mirror != https:* ]] || cp /etc/ssl/certs/ca-certificates.crt "$etc/ssl/certs/"
-    printf '[safe]\n\tdirectory = *\n' >"$etc/gitconfig" # whoever owns the clone
+    printf '[safe]\n\tdirectory = *\n' >"$etc/gitconfig" # for every owner of the clone
     rm -f "$home"/bare.unfinished/var/cache/apt/archives/*.deb
     mv "$home/bare.unfinished" "$home/bare"
 }

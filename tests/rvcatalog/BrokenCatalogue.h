@@ -1,7 +1,7 @@
 #ifndef BROKENCATALOGUE_H
 #define BROKENCATALOGUE_H
 
-/// Two of its findings can be mended.
+/// A catalogue with findings, two of which can be mended.
 constexpr char BROKEN_CATALOGUE[] = "<products>\n"
                                     "<!-- 8,5 is glued -->\n"
                                     "<product type='A'   article_id=\"1\" page_binding='glued'>\n"
@@ -10,7 +10,7 @@ constexpr char BROKEN_CATALOGUE[] = "<products>\n"
                                     "<product type='B' article_id='x'/>\n"
                                     "</products>\n";
 
-/// The same without these.
+/// The same catalogue after mending.
 constexpr char MENDED_CATALOGUE[] = "<products>\n"
                                     "<!-- 8,5 is glued -->\n"
                                     "<product type='A'   article_id=\"1\" page_binding='glue'>\n"

@@ -10,7 +10,7 @@
 #include <cstdio>
 #include <memory>
 
-/// A command of rvcatalog that has run in the process of the test, and what it wrote.
+/// A command of rvcatalog that has run in the process of the test, and its output.
 class CommandRun
 {
 public:

@@ -11,7 +11,7 @@
 /// The result of another program.
 struct ProgramRun
 {
-    int exitCode = -1; ///< -1 where it crashed or did not end.
+    int exitCode = -1; ///< The exit code; -1 if it crashed or did not end.
     QString output;
     QString messages;
 };

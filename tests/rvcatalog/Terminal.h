@@ -25,9 +25,9 @@ public:
         ::close(myProgram);
     }
 
-    /// The side of a program; negative where there is no terminal.
+    /// The side of a program; negative if there is no terminal.
     int descriptor() const { return myProgram; }
-    /// All that was written so far. The terminal hands it on in pieces of its own.
+    /// The output so far. The terminal splits it into its own pieces.
     QByteArray shown()
     {
         char piece[4096];

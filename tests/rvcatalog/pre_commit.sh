@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# pre_commit.sh HOOKS RVCATALOG WORK: pre-commit runs the hook of the file HOOKS on what git is to commit: a broken catalogue is
-# refused, and taken where a configuration or a baseline says so.
+# pre_commit.sh HOOKS RVCATALOG WORK: pre-commit runs the hook of the file HOOKS on the files of a commit: a broken
+# catalogue is refused, and accepted if a configuration or a baseline allows it.
 set -euo pipefail
 hooks=$1 rvcatalog=$2 work=$3
 
@@ -39,9 +39,9 @@ repos:
 TEXT
 pre-commit install >/dev/null
 
-# commits WHAT: git takes what is staged.
+# commits WHAT: git commits the staged files.
 commits() { git commit -q -m "$1" >"$work/log" 2>&1 || fail "git refuses $1: $(<"$work/log")"; }
-# refuses WHAT TEXT: git does not, and somebody is told why.
+# refuses WHAT TEXT: git does not commit them, and the output has the reason.
 refuses() {
     ! git commit -q -m "$1" >"$work/log" 2>&1 || fail "git takes $1"
     grep -qF -- "$2" "$work/log" || fail "nobody is told of $2: $(<"$work/log")"

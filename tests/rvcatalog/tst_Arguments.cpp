@@ -126,7 +126,7 @@ void tst_Arguments::formatCountsMore()
     const CommandRun text = run({ u"decode"_s, u"orientation"_s, u"square"_s });
     QCOMPARE(run({ u"decode"_s, u"--json"_s, u"--format=text"_s, u"orientation"_s, u"square"_s }).output, text.output);
     QCOMPARE(run({ u"decode"_s, u"--format=text"_s, u"--json"_s, u"orientation"_s, u"square"_s }).output, text.output);
-    // Behind "--" there are no options.
+    // Words behind "--" are no options.
     QCOMPARE(run({ u"decode"_s, u"orientation"_s, u"--"_s, u"--json"_s }).messages,
              u"rvcatalog: \"--json\" is no keyword of orientation; it stands for the default value\n"_s);
 }

@@ -255,7 +255,7 @@ void tst_Baseline::quietly()
     QCOMPARE(mended.exitCode, 0);
 }
 
-// No more findings are counted than are new.
+// Only new findings are counted.
 void tst_Baseline::mostFindings()
 {
     QCOMPARE(CommandRun({ u"check"_s, u"--write-baseline"_s, u"b.json"_s, u"c.xml"_s }).exitCode, 0);
@@ -274,7 +274,7 @@ void tst_Baseline::severalCatalogues()
     QCOMPARE(entries.first().toObject().value("file"_L1).toString(), u"a/d.xml"_s);
     QCOMPARE(entries.last().toObject().value("file"_L1).toString(), u"c.xml"_s);
 
-    // A catalogue that is not looked at has nothing mended.
+    // A catalogue that is not checked has no mended findings.
     const CommandRun one({ u"check"_s, u"--baseline"_s, u"b.json"_s, u"c.xml"_s });
     QCOMPARE(one.messages, QString());
     QCOMPARE(one.exitCode, 0);
@@ -298,7 +298,7 @@ void tst_Baseline::anotherFolder()
     QCOMPARE(run.exitCode, 0);
 }
 
-// As where a product stands in two catalogues.
+// A product in two catalogues has the same finding in both.
 void tst_Baseline::nameOfAnotherCatalogue()
 {
     const QString path = QDir::current().filePath(u"a/d.xml"_s);
@@ -324,7 +324,7 @@ void tst_Baseline::standardInput()
     QCOMPARE(CommandRun({ u"check"_s, u"--baseline"_s, u"b.json"_s, u"c.xml"_s }).exitCode, 1);
 }
 
-// Findings that nobody looks for are not mended.
+// Findings of disabled rules do not count as mended.
 void tst_Baseline::ruleThatIsOff()
 {
     QCOMPARE(CommandRun({ u"check"_s, u"--write-baseline"_s, u"b.json"_s, u"c.xml"_s }).exitCode, 0);

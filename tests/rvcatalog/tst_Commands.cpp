@@ -23,7 +23,7 @@ const char CATALOGUE[] = "<products>\n"
                          "<product type='VIR1' article_id='2' pages='13'/>\n"
                          "</products>\n";
 
-/// A product with so many page counts.
+/// A product with this number of page counts.
 QByteArray withCounts(int count)
 {
     return "<p>\n<product type='X' pages='2' page_step='1' max_pages='" + QByteArray::number(count + 1)
@@ -219,7 +219,7 @@ void tst_Commands::oneCountTooMany()
     QVERIFY(!QFile::exists(u"x.svg"_s));
 }
 
-// More than fit into one batch, so that several threads write.
+// The products need more than one batch, so that several threads write.
 void tst_Commands::jsonOfManyProducts()
 {
     constexpr int count = 20000;

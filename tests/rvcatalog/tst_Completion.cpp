@@ -122,13 +122,13 @@ void tst_Completion::descriptions()
     QCOMPARE(describe({ u"keyw"_s }), u"list the keywords of the attributes"_s);
     QCOMPARE(describe({ u"show"_s, u"c.xml"_s, u"DUN9"_s }), u"Big"_s);
     QCOMPARE(describe({ u"show"_s, u"--h"_s }), u"Displays this help."_s);
-    // In one line, though the help needs two.
+    // The description is on one line, though the help needs two.
     QCOMPARE(
             describe({ u"show"_s, u"--whe"_s }),
             u"Only products that meet this, such as cover_type=HARDCOVER. Of several conditions, all have to be met."_s);
 }
 
-// Everything that the program takes can be completed, so this needs no row for a new command or option.
+// Every word of the program can be completed, so a new command or option needs no row here.
 void tst_Completion::everyCommandAndOption()
 {
     QCOMPARE(words(complete({ QString() })), commandNames() + QStringList { u"help"_s });

@@ -140,7 +140,7 @@ void tst_Excerpt::widths_data()
     QTest::newRow("letters") << QString(300, u'a');
 }
 
-// Wherever the place is, the lines fit, and the first letter of the place is there.
+// The lines fit and show the first letter of the place, for every place.
 void tst_Excerpt::widths()
 {
     QFETCH(QString, line);

@@ -28,7 +28,7 @@ private Q_SLOTS:
     void identity();
 };
 
-// Files keep them from version to version.
+// Files store fingerprints, so these must stay the same in every version.
 void tst_FindingFingerprint::values_data()
 {
     QTest::addColumn<RVCatalogueFinding>("finding");

@@ -28,7 +28,7 @@ RVCatalogueFinding finding(QAnyStringView rule, const QString &text, const QStri
     return result;
 }
 
-/// One with all that a finding can have.
+/// A finding with all possible parts.
 RVCatalogueFinding wholeFinding()
 {
     RVCatalogueFinding result = finding(u"option-duplicate", u"50 % of \"x\", or: all"_s, u"A&B"_s);
@@ -178,7 +178,7 @@ void tst_FindingWriter::textWithExcerpts()
                         "0 products in 0 files: 1 error, 1 warning, 0 notes\n"));
 }
 
-// A type may be any text, and yet a finding is one line.
+// A type may be any text, but a finding is still one line.
 void tst_FindingWriter::types_data()
 {
     QTest::addColumn<QString>("type");
@@ -220,7 +220,7 @@ void tst_FindingWriter::json()
                         R"("text":"50 % of \"x\", or: all"})"));
 }
 
-/// A misspelt product is no product that has a number, but its type is known.
+/// A misspelt product has no number, but its type is known.
 void tst_FindingWriter::typeWithoutProduct()
 {
     RVCatalogueFinding stray(RVCatalogueRule::find(u"element-misspelt"), { { 3, 12 }, { 3, 25 } }, u"text"_s);
@@ -379,7 +379,7 @@ void tst_FindingWriter::interrupted()
 
 namespace {
 
-/// Runs with all that a document can have, for each of them the changes that make it.
+/// Runs with all possible parts of a document, each with the changes that make it.
 void addRuns()
 {
     QTest::addColumn<QString>("fileName");

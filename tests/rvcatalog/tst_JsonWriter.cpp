@@ -81,7 +81,7 @@ void tst_JsonWriter::pieces()
     QCOMPARE(json.take(), "7");
 }
 
-// Each code unit alone, which for a surrogate is a broken text, and between others.
+// The texts have each code unit alone and between others; a surrogate alone is a broken text.
 void tst_JsonWriter::everyCharacter()
 {
     for (int unit = 0; unit <= 0xffff; ++unit) {

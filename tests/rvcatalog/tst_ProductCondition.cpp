@@ -144,7 +144,7 @@ void tst_ProductCondition::problems()
     QVERIFY(!tested.isMetBy(product("cover_type='hard' pages='26' name='b'")));
 }
 
-// Each name can be asked for.
+// Each name can stand in a condition.
 void tst_ProductCondition::attributeNames()
 {
     const QStringList names = ProductCondition::attributeNames();

@@ -115,7 +115,7 @@ QJsonValue idJson(const Id &id)
     return id.isValid() ? QJsonValue(id.id()) : QJsonValue();
 }
 
-/// Every value of a product, by Qt's JSON classes.
+/// Every value of a product, written with Qt's JSON classes.
 QJsonObject toJson(const RVCatalogueProduct &product)
 {
     return {
@@ -179,7 +179,7 @@ void tst_ProductJson::asQtWritesIt()
     QCOMPARE(written, count);
 }
 
-// Every product has a spine of another width, and one without sides that no product before it had.
+// Every product has a spine with a new width, also without its sides.
 void tst_ProductJson::moreThanIsKept()
 {
     QByteArray file = "<products>";

@@ -41,8 +41,8 @@ QStringList propertyNames(const QJsonObject &object)
     return object.keys();
 }
 
-/// Checks what the format requires of a location, and returns "uri:line:column", with "-line:column" behind it where
-/// the end is told.
+/// Checks the requirements of the format for a location, and returns "uri:line:column", followed by "-line:column" if
+/// it has an end.
 QString location(const QJsonValue &value)
 {
     const QJsonArray locations = value.toArray();
@@ -238,7 +238,7 @@ void tst_check::unreadable()
     QCOMPARE(cut.exitCode, 2);
 }
 
-// A report that looks whole and is not would let a broken catalogue pass.
+// An incomplete report that looks complete would let a broken catalogue pass.
 void tst_check::fullDisk()
 {
     for (const QString &format : { u"text"_s, u"json"_s, u"sarif"_s, u"github"_s, u"junit"_s }) {
@@ -318,7 +318,7 @@ void tst_check::jsonOfUnreadable()
     QCOMPARE(unreadable.at(1).toObject().value("file"_L1).toString(), u"missing.xml"_s);
 }
 
-// The properties that SARIF 2.1.0 requires of each object that is written, and the values that it allows.
+// The properties that SARIF 2.1.0 requires of each written object, and their allowed values.
 void tst_check::compareSarif(const QString &output, bool isSuccessful, int exitCode, const QStringList &results,
                              const QStringList &notifications)
 {
@@ -521,7 +521,7 @@ void tst_check::maxFindingsInJson()
     QCOMPARE(sums.value("warnings"_L1).toInt(), 1);
 }
 
-// The numbers of the rules are whole whatever is left out of the findings, which nobody would see anyway.
+// The numbers of the rules include the findings that are not written.
 void tst_check::maxFindingsOfSummary()
 {
     const Run run = check({ u"--max-findings=1"_s, u"--summary"_s, u"faults.xml"_s });
@@ -628,7 +628,7 @@ void tst_check::wrongUsage()
 
 namespace {
 
-/// So many products that the check of a slow input takes longer than a second.
+/// The number of products for which the check of a slow input takes longer than a second.
 void writeSlowly(QProcess *process)
 {
     process->write("<p>");
@@ -668,7 +668,7 @@ void tst_check::progressOnATerminal()
     writeSlowly(&process);
     QVERIFY(process.waitForFinished(60000));
     QCOMPARE(process.readAllStandardOutput(), "30000 products in 1 file: 0 errors, 0 warnings, 0 notes\n");
-    // The terminal hands on what was written in pieces of its own.
+    // The terminal splits the output into its own pieces.
     QByteArray shown;
     const auto readMore = [&] {
         char piece[4096];

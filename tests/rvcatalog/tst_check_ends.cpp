@@ -26,10 +26,10 @@ const char FIRST_PRODUCT[] = "<p>\n<product type='A' article_id='0'/>\n";
 const char FIRST_LINE[] =
         "pipe:2:19: error: A: the article id \"0\" is no whole number above 0; write 1 or more [article-id-invalid]\n";
 
-/// In a file that takes a while.
+/// Checks a file that takes some time.
 constexpr int ALL_FINDINGS = 500;
 
-/// The program, which checks a pipe that somebody writes into.
+/// The program, which checks a pipe while the test writes into it.
 class PipedCheck
 {
     Q_DISABLE_COPY_MOVE(PipedCheck)
@@ -41,8 +41,8 @@ public:
         ::mkfifo(pipe.toUtf8().constData(), 0600);
         process.setWorkingDirectory(folder);
         process.start(QStringLiteral(RVCATALOG), QStringList { u"check"_s } + arguments + QStringList { u"pipe"_s });
-        // For reading as well, as it would wait here otherwise, while the program waits for somebody to take its
-        // output.
+        // The pipe is opened for reading as well. Otherwise the test would wait here, while the program waits for a
+        // reader of its output.
         myPipe = ::open(pipe.toUtf8().constData(), O_RDWR | O_CLOEXEC);
     }
     ~PipedCheck() { closePipe(); }
@@ -57,13 +57,13 @@ public:
             ::close(myPipe);
         myPipe = -1;
     }
-    /// True when the program has taken all that was written.
+    /// True when the program has read everything that was written.
     bool isRead() const
     {
         int size = -1;
         return ::ioctl(myPipe, FIONREAD, &size) == 0 && size == 0;
     }
-    /// Waits for so much output; all of it so far.
+    /// Waits for this amount of output, and returns the output so far.
     QByteArray output(qsizetype size)
     {
         while (myOutput.size() < size && process.waitForReadyRead(20000))
@@ -84,14 +84,14 @@ private:
     QByteArray myOutput;
 };
 
-/// True for a pipe that takes no more.
+/// True for a full pipe.
 bool isFull(int descriptor)
 {
     pollfd pipe = { descriptor, POLLOUT, 0 };
     return ::poll(&pipe, 1, 0) == 0;
 }
 
-/// A check that has filled a pipe, which nobody reads yet, with findings, and has more of them.
+/// A check that has filled a pipe without a reader with findings, and has more of them.
 class FullPipeCheck
 {
     Q_DISABLE_COPY_MOVE(FullPipeCheck)
@@ -114,7 +114,7 @@ public:
             ::close(end);
     }
 
-    /// Waits until it waits to write on.
+    /// Waits until the program waits for space in the pipe.
     bool isWaiting()
     {
         const bool isFilled = process.waitForStarted() && QTest::qWaitFor([this] { return isFull(myEnds[1]); }, 20000);
@@ -138,7 +138,7 @@ private:
     int myEnds[2] = { -1, -1 };
 };
 
-/// A good document of the format, with so many findings in it.
+/// Checks a valid document of the format with this number of findings.
 bool isWhole(const QString &format, const QByteArray &text, int findings)
 {
     if (format == "junit"_L1) {
@@ -198,7 +198,7 @@ void tst_check_ends::findingsComeAtOnce_data()
                           << QByteArray("{\"findings\":[\n{\"column\":19,\"end_column\":33,");
 }
 
-// Long before the file ends.
+// This is long before the end of the file.
 void tst_check_ends::findingsComeAtOnce()
 {
     QFETCH(QStringList, arguments);
@@ -276,7 +276,7 @@ void tst_check_ends::interruptedInALargeFile_data()
         QTest::newRow(qPrintable(format)) << format;
 }
 
-// A file is not waited for, so it takes another way.
+// A file needs no waiting, so its reading stops in another way.
 void tst_check_ends::interruptedInALargeFile()
 {
     QFETCH(QString, format);
@@ -307,8 +307,8 @@ void tst_check_ends::writeLargeFile()
     file.write("</p>\n");
 }
 
-// Once for the process and once for its group, as the program "timeout" sends it. The pipe is full, so the first signal
-// alone ends nothing.
+// The signal comes once for the process and once for its group, as the program "timeout" sends it. The pipe is full, so
+// the first signal alone ends nothing.
 void tst_check_ends::signalThatComesTwice()
 {
     FullPipeCheck check(myFolder.path());
@@ -323,7 +323,7 @@ void tst_check_ends::signalThatComesTwice()
     QCOMPARE(check.process.exitCode(), 143);
 }
 
-// Somebody who presses the keys twice means it.
+// A user who presses the keys twice wants an immediate end.
 void tst_check_ends::secondSignal()
 {
     FullPipeCheck check(myFolder.path());
@@ -336,7 +336,7 @@ void tst_check_ends::secondSignal()
     QCOMPARE(check.process.exitCode(), SIGINT);
 }
 
-// As in the background of a shell.
+// A shell ignores the signal like this for programs in the background.
 void tst_check_ends::ignoredSignal()
 {
     int ends[2] = { -1, -1 };
@@ -403,7 +403,7 @@ void tst_check_ends::closedPipe_data()
         QTest::newRow(qPrintable(format)) << format;
 }
 
-// As "| head -1" does it: the program ends at once and without a word, as shells expect.
+// The reader ends as "| head -1" does: the program ends at once without a message, as shells expect.
 void tst_check_ends::closedPipe()
 {
     QFETCH(QString, format);

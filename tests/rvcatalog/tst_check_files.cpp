@@ -1,4 +1,4 @@
-// Several files that are checked together, and comments that silence rules in them.
+// Several files that are checked together, with comments that silence rules.
 #include <Commands.h>
 
 #include <QDir>
@@ -39,11 +39,11 @@ private:
 struct Run
 {
     int exitCode = -1;
-    QStringList findings; // "file:line:column rule", and behind it where the other product is
+    QStringList findings; // "file:line:column rule", followed by the place of the other product
     QString messages;
 };
 
-/// "in line 7 of a.xml"; empty where a finding says nothing of the kind.
+/// The place "in line 7 of a.xml"; empty if a finding has none.
 QString otherPlace(const QString &finding)
 {
     const auto begin = finding.indexOf(" in line "_L1);

@@ -85,7 +85,7 @@ QByteArray tst_check_terminal::shownBy(const QStringList &arguments, const Envir
     process.closeWriteChannel();
     if (terminal.descriptor() < 0)
         return "no terminal";
-    // A terminal holds only so much that its user has not seen.
+    // A terminal buffers only a limited amount of unread output.
     while (process.state() != QProcess::NotRunning && !process.waitForFinished(10))
         terminal.shown();
     return terminal.shown().replace("\r\n", "\n");
@@ -158,7 +158,7 @@ void tst_check_terminal::severalInOneLine()
     QCOMPARE(shown.count("\n      |                   \033[1;31m^~~~~~~~~~~~~~\033[0m\n"), 1);
 }
 
-// Programs read them, wherever they go.
+// Programs read these formats, also from a terminal.
 void tst_check_terminal::otherFormats()
 {
     for (const QString &format : { u"json"_s, u"sarif"_s, u"github"_s, u"junit"_s }) {

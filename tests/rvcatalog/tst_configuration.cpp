@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A note, a warning and an error.
+/// A catalogue with a note, a warning and an error.
 const char CATALOGUE[] = "<products>\n"
                          "  <product type='DUN9' article_id='1' cover_type='hard'/>\n"
                          "  <product type='DUN5' article_id='2' page_price_class='TAS1'/>\n"
@@ -244,7 +244,7 @@ void tst_configuration::contradictions()
     QCOMPARE(run.exitCode, 2);
 }
 
-// The list of a command does not depend on what is checked.
+// The list of rules does not depend on the catalogue.
 void tst_configuration::otherCommands_data()
 {
     QTest::addColumn<QStringList>("arguments");

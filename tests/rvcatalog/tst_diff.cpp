@@ -30,7 +30,7 @@ const QString DIFFERENCES = u"~ DUN9 \"Fotobuch\"\n"
                             "+ TOS1, article 5\n"
                             "1 added, 1 removed, 2 changed (1 renamed), 1 equal\n"_s;
 
-/// The cells of the first table of a document, a line for each row.
+/// The cells of the first table of a document, one line for each row.
 QStringList tableOf(const QString &markdown)
 {
     QTextDocument document;
@@ -374,7 +374,7 @@ void tst_diff::help()
         QVERIFY2(run.output.contains(word), qPrintable(word));
 }
 
-// Both files are larger than what is left of them.
+// Both files are larger than the allowed memory.
 void tst_diff::memory()
 {
 #ifdef __SANITIZE_ADDRESS__
@@ -383,7 +383,7 @@ void tst_diff::memory()
     constexpr long limit = 64;
 #endif
     constexpr int count = 20000;
-    // The program's peak is never below that of the test, which therefore stays small.
+    // The program's peak is never below that of the test, so the test stays small.
     for (const QByteArray &pages : { QByteArray("26"), QByteArray("27") }) {
         QFile file(myFolder.filePath(pages == "26" ? u"large.xml"_s : u"dear.xml"_s));
         QVERIFY(file.open(QIODevice::WriteOnly));

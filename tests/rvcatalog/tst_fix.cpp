@@ -54,20 +54,20 @@ const char DIFF[] = "--- a.xml\n"
 
 const char NOT_WELL_FORMED[] = "<products><product type='A' article_id='1' page_binding='glued'/>";
 
-/// The finding that nothing mends.
+/// The finding that cannot be mended.
 bool isOneLeft(const QByteArray &report, const QByteArray &fileName)
 {
     return report.startsWith(fileName + ":6:19: error: ") && report.count('\n') == 2
             && report.endsWith("\n2 products in 1 file: 1 error, 0 warnings, 0 notes\n");
 }
 
-/// The super user may write what is write-protected, unless he gives that up.
+/// The super user may write protected files, unless the process drops that right.
 void obeyPermissions()
 {
     ::prctl(PR_CAPBSET_DROP, CAP_DAC_OVERRIDE, 0, 0, 0);
 }
 
-/// No file grows beyond this, as on a disk that is full.
+/// The limit of file sizes, which acts like a full disk.
 void limitFiles()
 {
     constexpr rlim_t size = 4096;
@@ -249,7 +249,7 @@ void tst_fix::nothingLeft()
     QCOMPARE(run.exitCode, 0);
 }
 
-// A file that is not changed is not written, so that nobody has to look at it.
+// An unchanged file is not written, so that its time stamp stays the same.
 void tst_fix::nothingToMend()
 {
     const QFileInfo before(write(u"b.xml"_s, CLEAN_CATALOGUE));
@@ -369,7 +369,7 @@ void tst_fix::quiet()
     QCOMPARE(check({ u"--diff"_s, u"--quiet"_s, u"a.xml"_s }).exitCode, 0);
 }
 
-// It is left to the check, as it could not be read again.
+// The check reads it, because it could not be read twice.
 void tst_fix::pipe()
 {
     const Run mended = check({ u"--fix"_s, u"/dev/stdin"_s }, BROKEN_CATALOGUE);
@@ -465,7 +465,7 @@ void tst_fix::random_data()
     }
 }
 
-// After mending, nothing that can be mended is left, and all else is as it was.
+// After mending, no mendable finding is left, and the rest of the file is unchanged.
 void tst_fix::random()
 {
     QFETCH(QByteArray, encoding);

@@ -99,7 +99,7 @@ void tst_fix_patches::patches_data()
     row("hyphen before the name", u"-b.xml"_s, BROKEN_CATALOGUE, MENDED_CATALOGUE);
 }
 
-// The programs that read differences make of the old file the same as --fix does.
+// Programs that apply patches turn the old file into the same file as --fix does.
 void tst_fix_patches::patches()
 {
     QFETCH(QString, name);
@@ -112,7 +112,7 @@ void tst_fix_patches::patches()
     QCOMPARE(exitCode(QStringLiteral(GIT), { u"apply"_s, u"-p0"_s }, diff), 0);
     QCOMPARE(read(name), after);
 
-    // patch 2.8 and newer take no line end in a name.
+    // patch 2.8 and newer accept no line end in a name.
     if (!name.contains(u'\n')) {
         write(name, before);
         QCOMPARE(exitCode(QStringLiteral(PATCH), { u"--binary"_s, u"-p0"_s }, diff), 0);

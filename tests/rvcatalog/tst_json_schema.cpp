@@ -24,7 +24,7 @@ CommandRun run(const QStringList &arguments, const QByteArray &input = QByteArra
 const QString SAMPLE_CATALOGUE = QString::fromUtf8(SAMPLES "/products.xml");
 const QString SAMPLE_PROJECT = QString::fromUtf8(SAMPLES "/project.xml");
 
-/// The reasons why this is none of the JSON that a definition of the schema describes; empty where it is.
+/// The reasons why this JSON does not fit a definition of the schema; empty if it fits.
 QString validate(const QString &definition, const QByteArray &json)
 {
     QProcess process;
@@ -162,7 +162,7 @@ void tst_json_schema::randomSpinesAndOrders()
     QCOMPARE(validate(u"order..."_s, '[' + orders.join(',') + ']'), QString());
 }
 
-// The same key has the same value, whichever command writes it.
+// The same key has the same value in every command.
 void tst_json_schema::sameValuesLookTheSame()
 {
     const auto json = [](const QStringList &arguments) {
@@ -191,7 +191,7 @@ void tst_json_schema::sameValuesLookTheSame()
     QCOMPARE(decoded.value("value"_L1), cover.value("value"_L1));
 }
 
-// Programs must not depend on the language of who runs them.
+// Programs must not depend on the language of the user.
 void tst_json_schema::noDisplayNames()
 {
     for (const QStringList &arguments :

@@ -18,7 +18,7 @@ struct Run
     QString messages;
 };
 
-// By default without a run-time directory, UTF-8 and a display.
+// Runs the program, by default without a run-time directory, UTF-8 and a display.
 Run rvcatalog(const QStringList &arguments, const QString &folder = QString(), const QString &locale = u"C"_s)
 {
     QProcess process;
@@ -413,7 +413,7 @@ void tst_rvcatalog::order()
     QCOMPARE(rvcatalog({ u"order"_s, u"c.xml"_s, u"p.xml"_s }, myFolder.path()).output, run.output);
 }
 
-// A project that says nothing is the smallest photo book with the default options.
+// An empty project is the smallest photo book with the default options.
 void tst_rvcatalog::orderDefaults()
 {
     write(u"p.xml"_s, "<project/>");
@@ -508,7 +508,7 @@ void tst_rvcatalog::orderSeveralProblems()
     QCOMPARE(run.exitCode, 1);
 }
 
-// The project is asked for another product, if it names one.
+// The message asks for another product if the project names one.
 void tst_rvcatalog::orderOfWrongPageCounts()
 {
     write(u"bad.xml"_s, "<p><product type='DUN9' pages='20' max_pages='10' page_step='2'/></p>");

@@ -189,7 +189,7 @@ void tst_rvcatalog_spine::largeNumbersStandApart()
     QCOMPARE(cells.mid(0, 4), (QStringList { u"2147483647"_s, u"0"_s, u"0"_s, u"12345678901.00"_s }));
 }
 
-// A reader that has enough ends the program.
+// The program ends when the reader of its output ends.
 void tst_rvcatalog_spine::closedPipe()
 {
     write(u"long.xml"_s,
@@ -220,7 +220,7 @@ void tst_rvcatalog_spine::png()
     QCOMPARE(image.dotsPerMeterY(), 11811);
     for (const QPoint corner : { QPoint(0, 0), QPoint(1889, 0), QPoint(0, 1180), QPoint(1889, 1180) })
         QCOMPARE(image.pixelColor(corner), QColor(Qt::white));
-    // In each part of the picture there is something: title, axes, curve.
+    // Each part of the picture has marks: title, axes, curve.
     const auto darkPixels = [&image](const QRect &part) {
         int count = 0;
         for (int y = part.top(); y <= part.bottom(); ++y) {

@@ -35,7 +35,7 @@ private:
     QTemporaryDir myFolder;
 };
 
-/// Asks xmllint, which tells a file that the schema refuses from one that it cannot check.
+/// Runs xmllint, which distinguishes a file that the schema refuses from one that it cannot check.
 bool tst_schema::isValid(const QByteArray &content)
 {
     constexpr int valid = 0;
@@ -174,7 +174,8 @@ void tst_schema::keywords_data()
         QTest::newRow(attribute.name().data()) << attribute.name().toString();
 }
 
-// The schema offers what "check" has nothing to say of: the main keywords, and the words where those are numbers.
+// The schema offers the keywords that "check" accepts without a finding: the main keywords, and words for those that
+// are numbers.
 void tst_schema::keywords()
 {
     QFETCH(QString, attribute);

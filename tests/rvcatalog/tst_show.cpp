@@ -153,7 +153,7 @@ void tst_show::fitsTheTerminal()
                                  + QStringList { QString::fromUtf8(SAMPLES "/products.xml") });
     QCOMPARE(shown.exitCode, 0);
     for (const QString &line : shown.output.split(u'\n')) {
-        // The place of the sample is where the tree is.
+        // The path of the sample depends on the place of the tree.
         if (!line.contains("Place"_L1) && !line.contains("products.xml"_L1))
             QVERIFY2(line.size() <= 80, qPrintable(line));
     }
@@ -181,7 +181,7 @@ void tst_show::choice()
     QTEST(types(shown), "chosen");
     QCOMPARE(shown.messages, QString());
     QCOMPARE(shown.exitCode, 0);
-    // The other ways to write it choose the same.
+    // The other spellings select the same products.
     const CommandRun table = run(QStringList { u"show"_s, u"c.xml"_s } + arguments);
     const CommandRun sheets = run(QStringList { u"show"_s, u"--long"_s, u"c.xml"_s } + arguments);
     for (const QString &type : { u"DUN9"_s, u"VIR1"_s, u"BOX1"_s }) {
@@ -234,7 +234,7 @@ void tst_show::wrongCondition()
     QCOMPARE(shown.exitCode, 2);
 }
 
-// The part before the break is whole, and so is the JSON.
+// The products before the break are complete, and so is the JSON.
 void tst_show::brokenCatalogue()
 {
     const CommandRun shown = run({ u"show"_s, u"--json"_s, u"-"_s },

@@ -11,12 +11,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// So many that the program needs a while.
+/// The number of products for which the program needs some time.
 constexpr int PRODUCTS = 300000;
 
 }
 
-/// The end of "show" where something else than the end of the catalogue brings it.
+/// The end of "show" before the end of the catalogue.
 class tst_show_ends : public QObject
 {
     Q_OBJECT

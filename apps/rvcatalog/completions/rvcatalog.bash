@@ -1,10 +1,10 @@
-# Completes command lines of rvcatalog in bash. The program itself knows how they go on: "rvcatalog complete -- WORD..."
-# writes a word, a tab and what it means a line, and ":files" where file names are meant.
+# Completes command lines of rvcatalog in bash. The program itself computes the completions: "rvcatalog complete --
+# WORD..." writes lines with a word, a tab and a description, and ":files" for names of files.
 
 _rvcatalog() {
     local words=() word is_glued='' current=${COMP_WORDS[COMP_CWORD]//[\\\"\']/}
-    # Bash splits words at "=" as well; the program wants "--format=json" in one piece. They are what was typed, so
-    # backslashes and quotes are taken away.
+    # Bash splits words at "=" as well; the program needs "--format=json" in one piece. The words are as typed, so
+    # backslashes and quotes are removed.
     for word in "${COMP_WORDS[@]:1:COMP_CWORD}"; do
         word=${word//[\\\"\']/}
         if [[ ${#words[@]} -gt 0 && ($is_glued || $word == =) ]]; then
@@ -24,7 +24,7 @@ _rvcatalog() {
         if [[ $word == :files ]]; then
             compopt -o default 2>/dev/null
         else
-            # Commas mean something in braces only.
+            # Commas have a meaning only in braces.
             printf -v word %q "${word#"$prefix"}"
             COMPREPLY+=("${word//\\,/,}")
         fi

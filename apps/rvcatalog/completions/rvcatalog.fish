@@ -1,5 +1,5 @@
-# Completes command lines of rvcatalog in fish. The program itself knows how they go on: "rvcatalog complete -- WORD..."
-# writes a word, a tab and what it means a line, and ":files" where file names are meant.
+# Completes command lines of rvcatalog in fish. The program itself computes the completions: "rvcatalog complete --
+# WORD..." writes lines with a word, a tab and a description, and ":files" for names of files.
 
 function __rvcatalog_complete
     set -l words (commandline -opc)

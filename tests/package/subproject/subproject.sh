@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# subproject.sh CMAKE TREE BUILD OPTIONS...: a project that takes the tree in gets the libraries and nothing else: no other
-# target, test or installed file, and nothing in its cache.
+# subproject.sh CMAKE TREE BUILD OPTIONS...: a project that includes the tree gets only the libraries: no other target,
+# test or installed file, and no entry in its cache.
 set -euo pipefail
 cmake=$1 tree=$2 build=$3
 shift 3
@@ -14,7 +14,7 @@ configure() {
     "$cmake" --fresh -S "$(dirname "${BASH_SOURCE[0]}")" -B "$build" -G Ninja -DRV_TREE="$tree" -DRV_TAKE_IN="$1" "${@:2}"
 }
 
-# Without the marks that every project() and FetchContent_Declare() leaves behind.
+# The cache without the entries of every project() and FetchContent_Declare().
 cache() {
     grep -E '^[A-Za-z_]' "$build/CMakeCache.txt" |
         grep -vE '^(RV_TAKE_IN|CMAKE_NUMBER_OF_MAKEFILES|RVProductBase_(BINARY_DIR|SOURCE_DIR|IS_TOP_LEVEL)|FETCHCONTENT_[A-Z_]+)[:-]' |
@@ -26,7 +26,7 @@ targets() {
     "$cmake" --build "$build" --target help | sed -n 's/^\([^/ ]*\): phony$/\1/p' | grep -v _autogen | LC_ALL=C sort
 }
 
-# Without RVTemplateClasses, which is nothing but headers.
+# The libraries without RVTemplateClasses, which has only headers.
 libraries=(
     RVCatalogue RVCore RVProductBase RVXML libRVCatalogue.so libRVCore.so libRVProductBase.so libRVXML.so rv_precompiled
 )
