@@ -179,7 +179,7 @@ public:
     void product(const ComparedProduct &product) override
     {
         if (myIsFirst)
-            write(u"| Product | What | Old | New |\n| --- | --- | --- | --- |\n"_s);
+            writeHead();
         myIsFirst = false;
         const QString name = DiffTexts::product(product);
         const QString article = DiffTexts::article(product.articleId);
@@ -197,6 +197,12 @@ public:
     }
 
 private:
+    void writeHead() const
+    {
+        writeRow({ DiffTexts::tr("Product"), DiffTexts::tr("What"), DiffTexts::tr("Old"), DiffTexts::tr("New") });
+        write(u"| --- | --- | --- | --- |\n"_s);
+    }
+
     void writeRow(const QStringList &cells) const
     {
         QString row = u"|"_s;

@@ -52,7 +52,7 @@ QString UnifiedDiff::write(const std::function<void(QByteArrayView)> &take) cons
     diff.start(u"diff"_s, { u"-a"_s, u"-u"_s, u"-L"_s, myLabel, u"-L"_s, myLabel, myOldPath, myNewPath });
     diff.closeWriteChannel();
     if (!diff.waitForStarted(-1))
-        return u"cannot run the program \"diff\": "_s + diff.errorString();
+        return tr("cannot run the program \"diff\": %1").arg(diff.errorString());
     while (diff.waitForReadyRead(-1))
         take(diff.readAllStandardOutput());
     diff.waitForFinished(-1);
@@ -60,5 +60,5 @@ QString UnifiedDiff::write(const std::function<void(QByteArrayView)> &take) cons
         take(rest);
     if (diff.exitStatus() == QProcess::NormalExit && diff.exitCode() <= 1)
         return QString();
-    return u"the program \"diff\" failed: "_s + QString::fromLocal8Bit(diff.readAllStandardError()).simplified();
+    return tr("the program \"diff\" failed: %1").arg(QString::fromLocal8Bit(diff.readAllStandardError()).simplified());
 }

@@ -2,6 +2,7 @@
 #define UNIFIEDDIFF_H
 
 #include <QByteArrayView>
+#include <QCoreApplication>
 #include <QString>
 
 #include <functional>
@@ -10,6 +11,8 @@
 /// by byte as in the files, in any encoding.
 class UnifiedDiff
 {
+    Q_DECLARE_TR_FUNCTIONS(UnifiedDiff)
+
 public:
     /// Both paths are readable files; the diff uses one name for them, a path relative to the current folder.
     UnifiedDiff(const QString &oldPath, const QString &newPath, const QString &shownName);
