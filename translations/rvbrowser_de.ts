@@ -32,6 +32,464 @@
     </message>
 </context>
 <context>
+    <name>ComparisonActions</name>
+    <message>
+        <source>Changes</source>
+        <translation>Änderungen</translation>
+    </message>
+    <message>
+        <source>Compare &amp;with…</source>
+        <translation>Vergleichen &amp;mit …</translation>
+    </message>
+    <message>
+        <source>Changes since &amp;opening</source>
+        <translation>Änderungen seit dem Ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Swap old and new</source>
+        <translation>Alt und neu &amp;tauschen</translation>
+    </message>
+    <message>
+        <source>&amp;Next change</source>
+        <translation>&amp;Nächste Änderung</translation>
+    </message>
+    <message>
+        <source>&amp;Previous change</source>
+        <translation>&amp;Vorherige Änderung</translation>
+    </message>
+    <message>
+        <source>&amp;Copy changes</source>
+        <translation>Änderungen &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>Save changes &amp;as…</source>
+        <translation>Änderungen &amp;speichern unter …</translation>
+    </message>
+    <message>
+        <source>Cancel c&amp;omparing</source>
+        <translation>Vergleich abbre&amp;chen</translation>
+    </message>
+    <message>
+        <source>C&amp;lose comparison</source>
+        <translation>Vergleich sch&amp;ließen</translation>
+    </message>
+    <message>
+        <source>&amp;Compare</source>
+        <translation>&amp;Vergleichen</translation>
+    </message>
+    <message>
+        <source>Show c&amp;hanges</source>
+        <translation>Änderungen &amp;zeigen</translation>
+    </message>
+    <message>
+        <source>The changes that were found before are still shown.</source>
+        <translation>Gezeigt werden weiter die Änderungen, die zuvor gefunden wurden.</translation>
+    </message>
+    <message>
+        <source>Nothing was compared.</source>
+        <translation>Es wurde nichts verglichen.</translation>
+    </message>
+    <message>
+        <source>%1 is gone. It is compared again when it comes back.</source>
+        <translation>%1 ist nicht mehr da. Die Datei wird wieder verglichen, sobald sie zurück ist.</translation>
+    </message>
+    <message>
+        <source>Compare with an older catalogue</source>
+        <translation>Mit einem älteren Katalog vergleichen</translation>
+    </message>
+    <message>
+        <source>Catalogues (*.xml);;All files (*)</source>
+        <translation>Kataloge (*.xml);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Save the changes</source>
+        <translation>Änderungen speichern</translation>
+    </message>
+    <message>
+        <source>Text (*.txt);;Markdown (*.md);;JSON (*.json)</source>
+        <translation>Text (*.txt);;Markdown (*.md);;JSON (*.json)</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 lässt sich nicht schreiben: %2</translation>
+    </message>
+    <message>
+        <source>The open catalogue does not have this product; this is the one of %1.</source>
+        <translation>Der geöffnete Katalog hat dieses Produkt nicht; gezeigt wird das aus %1.</translation>
+    </message>
+</context>
+<context>
+    <name>ComparisonFilter</name>
+    <message>
+        <source>Kind of change</source>
+        <translation>Art der Änderung</translation>
+    </message>
+    <message>
+        <source>All changes</source>
+        <translation>Alle Änderungen</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Hinzugefügt</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>Entfernt</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Geändert</translation>
+    </message>
+    <message>
+        <source>Renamed</source>
+        <translation>Umbenannt</translation>
+    </message>
+    <message>
+        <source>Search changes</source>
+        <translation>Änderungen suchen</translation>
+    </message>
+    <message>
+        <source>Search product, change, value</source>
+        <translation>Produkt, Änderung, Wert suchen</translation>
+    </message>
+</context>
+<context>
+    <name>ComparisonModel</name>
+    <message>
+        <source>Product</source>
+        <translation>Produkt</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Änderung</translation>
+    </message>
+    <message>
+        <source>Old</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Neu</translation>
+    </message>
+</context>
+<context>
+    <name>ComparisonPanel</name>
+    <message>
+        <source>Nothing found: show &amp;all changes</source>
+        <translation>Nichts gefunden: all&amp;e Änderungen zeigen</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Änderungen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>The catalogues do not differ.</source>
+        <translation>Die Kataloge unterscheiden sich nicht.</translation>
+    </message>
+    <message>
+        <source>Nothing is compared.</source>
+        <translation>Es wird nichts verglichen.</translation>
+    </message>
+</context>
+<context>
+    <name>ComparisonSession</name>
+    <message>
+        <source>no copy of the file could be kept when it was opened: %1</source>
+        <translation>beim Öffnen ließ sich keine Kopie der Datei anlegen: %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2 Uhr</translation>
+    </message>
+</context>
+<context>
+    <name>DiffTexts</name>
+    <message>
+        <source>added</source>
+        <translation>hinzugefügt</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>entfernt</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>geändert</translation>
+    </message>
+    <message>
+        <source>equal</source>
+        <translation>gleich</translation>
+    </message>
+    <message>
+        <source>renamed</source>
+        <translation>umbenannt</translation>
+    </message>
+    <message>
+        <source>article %1</source>
+        <translation>Artikel %1</translation>
+    </message>
+    <message>
+        <source>no article</source>
+        <translation>ohne Artikelnummer</translation>
+    </message>
+    <message>
+        <source>%1 added, %2 removed, %3 changed</source>
+        <translation>%1 hinzugefügt, %2 entfernt, %3 geändert</translation>
+    </message>
+    <message>
+        <source>(%1 renamed)</source>
+        <translation>(%1 umbenannt)</translation>
+    </message>
+    <message>
+        <source>%1 equal</source>
+        <translation>%1 gleich</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <translation>Produkt</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Änderung</translation>
+    </message>
+    <message>
+        <source>Old</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Neu</translation>
+    </message>
+</context>
+<context>
+    <name>DrawingMenu</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Save as…</source>
+        <translation>&amp;Speichern unter …</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>&amp;Drucken …</translation>
+    </message>
+    <message>
+        <source>Print pre&amp;view…</source>
+        <translation>Druck&amp;vorschau …</translation>
+    </message>
+    <message>
+        <source>The drawing was not saved</source>
+        <translation>Die Zeichnung wurde nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>%1 lässt sich nicht schreiben: %2.</translation>
+    </message>
+    <message>
+        <source>Save the drawing</source>
+        <translation>Zeichnung speichern</translation>
+    </message>
+    <message>
+        <source>SVG drawing (*.svg)</source>
+        <translation>SVG-Zeichnung (*.svg)</translation>
+    </message>
+    <message>
+        <source>PDF page (*.pdf)</source>
+        <translation>PDF-Seite (*.pdf)</translation>
+    </message>
+    <message>
+        <source>PNG picture (*.png)</source>
+        <translation>PNG-Bild (*.png)</translation>
+    </message>
+</context>
+<context>
+    <name>DrawingWidget</name>
+    <message>
+        <source>Copy, save or print this drawing</source>
+        <translation>Diese Zeichnung kopieren, speichern oder drucken</translation>
+    </message>
+    <message>
+        <source>Copy, save or print: %1</source>
+        <translation>Kopieren, speichern oder drucken: %1</translation>
+    </message>
+</context>
+<context>
+    <name>EditorChoice</name>
+    <message>
+        <source>The editor of $VISUAL or $EDITOR</source>
+        <translation>Editor aus $VISUAL oder $EDITOR</translation>
+    </message>
+    <message>
+        <source>Another command</source>
+        <translation>Anderer Befehl</translation>
+    </message>
+</context>
+<context>
+    <name>EditorDialog</name>
+    <message>
+        <source>%f stands for the file, %l for the line, %c for the column and %% for a percent sign. Double quotes keep blanks.</source>
+        <translation>%f steht für die Datei, %l für die Zeile, %c für die Spalte und %% für ein Prozentzeichen. In doppelten Anführungszeichen bleiben Leerzeichen erhalten.</translation>
+    </message>
+    <message>
+        <source>Editor</source>
+        <translation>Editor</translation>
+    </message>
+    <message>
+        <source>Open files &amp;with:</source>
+        <translation>Dateien ö&amp;ffnen mit:</translation>
+    </message>
+    <message>
+        <source>&amp;Command:</source>
+        <translation>&amp;Befehl:</translation>
+    </message>
+</context>
+<context>
+    <name>EditorLauncher</name>
+    <message>
+        <source>There is no editor to open the file with. Choose one in the menu of the findings.</source>
+        <translation>Es gibt keinen Editor, mit dem sich die Datei öffnen lässt. Bitte im Menü „Befunde“ einen wählen.</translation>
+    </message>
+    <message>
+        <source>The editor &quot;%1&quot; is not installed. Choose another one in the menu of the findings.</source>
+        <translation>Der Editor „%1“ ist nicht installiert. Bitte im Menü „Befunde“ einen anderen wählen.</translation>
+    </message>
+    <message>
+        <source>The editor &quot;%1&quot; needs a terminal, and none is installed.</source>
+        <translation>Der Editor „%1“ braucht ein Terminal, es ist aber keines installiert.</translation>
+    </message>
+    <message>
+        <source>The editor &quot;%1&quot; cannot be run: %2</source>
+        <translation>Der Editor „%1“ lässt sich nicht starten: %2</translation>
+    </message>
+    <message>
+        <source>The editor &quot;%1&quot; crashed.</source>
+        <translation>Der Editor „%1“ ist abgestürzt.</translation>
+    </message>
+    <message>
+        <source>The editor &quot;%1&quot; ended at once with the exit code %2.</source>
+        <translation>Der Editor „%1“ endete sofort mit dem Rückgabewert %2.</translation>
+    </message>
+</context>
+<context>
+    <name>FindingFilterBar</name>
+    <message>
+        <source>Filter by product, text, rule</source>
+        <translation>Nach Produkt, Text, Regel filtern</translation>
+    </message>
+    <message>
+        <source>Filter findings</source>
+        <translation>Befunde filtern</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>Regel</translation>
+    </message>
+    <message numerus="yes">
+        <source>Show %n error(s)</source>
+        <translation>
+            <numerusform>%n Fehler zeigen</numerusform>
+            <numerusform>%n Fehler zeigen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Show %n warning(s)</source>
+        <translation>
+            <numerusform>%n Warnung zeigen</numerusform>
+            <numerusform>%n Warnungen zeigen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Show %n note(s)</source>
+        <translation>
+            <numerusform>%n Hinweis zeigen</numerusform>
+            <numerusform>%n Hinweise zeigen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All rules</source>
+        <translation>Alle Regeln</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n finding(s)</source>
+        <translation>
+            <numerusform>%1 von %n Befund</numerusform>
+            <numerusform>%1 von %n Befunden</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FindingsActions</name>
+    <message>
+        <source>F&amp;indings</source>
+        <translation>Bef&amp;unde</translation>
+    </message>
+    <message>
+        <source>&amp;Next finding</source>
+        <translation>&amp;Nächster Befund</translation>
+    </message>
+    <message>
+        <source>&amp;Previous finding</source>
+        <translation>&amp;Vorheriger Befund</translation>
+    </message>
+    <message>
+        <source>Open in &amp;editor</source>
+        <translation>Im &amp;Editor öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy findings</source>
+        <translation>Befunde &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>E&amp;xplain</source>
+        <translation>E&amp;rklären</translation>
+    </message>
+    <message>
+        <source>&amp;Apply fix…</source>
+        <translation>Berichtigung &amp;anwenden …</translation>
+    </message>
+    <message>
+        <source>App&amp;ly all fixes…</source>
+        <translation>A&amp;lle Berichtigungen anwenden …</translation>
+    </message>
+    <message>
+        <source>E&amp;ditor…</source>
+        <translation>E&amp;ditor …</translation>
+    </message>
+    <message>
+        <source>That was the last finding; this is the first one.</source>
+        <translation>Das war der letzte Befund; dies ist der erste.</translation>
+    </message>
+    <message>
+        <source>That was the first finding; this is the last one.</source>
+        <translation>Das war der erste Befund; dies ist der letzte.</translation>
+    </message>
+    <message>
+        <source>The filter hides all findings.</source>
+        <translation>Der Filter verbirgt alle Befunde.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>Es wurde nichts geändert.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n fix(es) applied.</source>
+        <translation>
+            <numerusform>%n Berichtigung angewendet.</numerusform>
+            <numerusform>%n Berichtigungen angewendet.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>FindingsModel</name>
     <message>
         <source>Note</source>
@@ -97,6 +555,70 @@
             <numerusform>%n Hinweise</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Clear the &amp;filter</source>
+        <translation>Fil&amp;ter leeren</translation>
+    </message>
+    <message>
+        <source>Explanation of the finding</source>
+        <translation>Erklärung des Befunds</translation>
+    </message>
+    <message>
+        <source>Open a catalogue to see what is wrong with it.</source>
+        <translation>Öffnen Sie einen Katalog, um zu sehen, was an ihm nicht stimmt.</translation>
+    </message>
+    <message>
+        <source>The catalogue is checked again whenever its file changes.</source>
+        <translation>Der Katalog wird erneut geprüft, sobald sich seine Datei ändert.</translation>
+    </message>
+    <message>
+        <source>No finding matches the filter.</source>
+        <translation>Kein Befund passt zum Filter.</translation>
+    </message>
+</context>
+<context>
+    <name>FixDialog</name>
+    <message>
+        <source>Apply fixes</source>
+        <translation>Berichtigungen anwenden</translation>
+    </message>
+    <message>
+        <source>Lines that change</source>
+        <translation>Zeilen, die sich ändern</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n fix(es) change the file %1 like this:</source>
+        <translation>
+            <numerusform>%n Berichtigung ändert die Datei %1 so:</numerusform>
+            <numerusform>%n Berichtigungen ändern die Datei %1 so:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more touch the same places; apply them afterwards.</source>
+        <translation>
+            <numerusform>%n weitere betrifft dieselben Stellen; bitte danach anwenden.</numerusform>
+            <numerusform>%n weitere betreffen dieselben Stellen; bitte danach anwenden.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Only the first changes are shown.</source>
+        <translation>Gezeigt werden nur die ersten Änderungen.</translation>
+    </message>
+</context>
+<context>
+    <name>FixPlan</name>
+    <message>
+        <source>the file was changed since it was loaded; load it again with F5</source>
+        <translation>die Datei wurde geändert, seit sie geladen wurde; bitte mit F5 neu laden</translation>
+    </message>
+    <message>
+        <source>cannot open the file: %1</source>
+        <translation>die Datei lässt sich nicht öffnen: %1</translation>
+    </message>
+    <message>
+        <source>cannot write: %1</source>
+        <translation>kann nicht schreiben: %1</translation>
+    </message>
 </context>
 <context>
     <name>LoadProgress</name>
@@ -108,20 +630,16 @@
         <source>Loading %1</source>
         <translation>%1 wird geladen</translation>
     </message>
+    <message>
+        <source>Comparing %1 with %2</source>
+        <translation>%1 wird mit %2 verglichen</translation>
+    </message>
 </context>
 <context>
     <name>LoadThread</name>
     <message>
         <source>there is no product in this file</source>
         <translation>in dieser Datei ist kein Produkt</translation>
-    </message>
-    <message>
-        <source>cannot open the file: %1</source>
-        <translation>die Datei lässt sich nicht öffnen: %1</translation>
-    </message>
-    <message>
-        <source>it is no regular file</source>
-        <translation>sie ist keine gewöhnliche Datei</translation>
     </message>
 </context>
 <context>
@@ -133,10 +651,6 @@
     <message>
         <source>&amp;Cancel loading</source>
         <translation>Laden abbre&amp;chen</translation>
-    </message>
-    <message>
-        <source>Open a catalogue with Ctrl+O, or drop one here.</source>
-        <translation>Öffnen Sie einen Katalog mit Strg+O, oder legen Sie einen hier ab.</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -232,6 +746,22 @@ Zeigt Kataloge von Druckprodukten.</translation>
         <source>The catalogue was checked without this configuration.</source>
         <translation>Der Katalog wurde ohne diese Konfiguration geprüft.</translation>
     </message>
+    <message>
+        <source>Forget the recent catalogues, what was chosen for products, and where the windows and their parts were?</source>
+        <translation>Die zuletzt geöffneten Kataloge vergessen, ebenso was für Produkte gewählt wurde und wo die Fenster und ihre Teile waren?</translation>
+    </message>
+    <message>
+        <source>Forget everything</source>
+        <translation>Alles vergessen</translation>
+    </message>
+    <message>
+        <source>&amp;Forget everything…</source>
+        <translation>&amp;Alles vergessen …</translation>
+    </message>
+    <message>
+        <source>Copy price &amp;classes</source>
+        <translation>Preis&amp;klassen kopieren</translation>
+    </message>
 </context>
 <context>
     <name>MessageBanner</name>
@@ -259,8 +789,8 @@ Zeigt Kataloge von Druckprodukten.</translation>
         <translation>Optionen</translation>
     </message>
     <message>
-        <source>There is nothing to choose.</source>
-        <translation>Es gibt nichts zu wählen.</translation>
+        <source>This product has no options, so its order lines are empty.</source>
+        <translation>Dieses Produkt hat keine Optionen, deshalb sind seine Bestellzeilen leer.</translation>
     </message>
 </context>
 <context>
@@ -295,6 +825,29 @@ Zeigt Kataloge von Druckprodukten.</translation>
     </message>
 </context>
 <context>
+    <name>OrderPrices</name>
+    <message>
+        <source>This product cannot be ordered: it has no type.</source>
+        <translation>Dieses Produkt lässt sich nicht bestellen: Es hat keinen Typ.</translation>
+    </message>
+    <message>
+        <source>This product cannot be ordered: an earlier one has the same type.</source>
+        <translation>Dieses Produkt lässt sich nicht bestellen: Ein früheres hat denselben Typ.</translation>
+    </message>
+    <message>
+        <source>This product cannot be ordered: its page counts are not valid.</source>
+        <translation>Dieses Produkt lässt sich nicht bestellen: Seine Seitenzahlen sind ungültig.</translation>
+    </message>
+    <message>
+        <source>product</source>
+        <translation>Produkt</translation>
+    </message>
+    <message>
+        <source>pages above the lowest count</source>
+        <translation>Seiten über der kleinsten Seitenzahl</translation>
+    </message>
+</context>
+<context>
     <name>PageCountChooser</name>
     <message>
         <source>Page count</source>
@@ -304,12 +857,12 @@ Zeigt Kataloge von Druckprodukten.</translation>
 <context>
     <name>PageDrawing</name>
     <message>
-        <source>%1 mm</source>
-        <translation>%1 mm</translation>
+        <source>P&amp;age</source>
+        <translation>&amp;Seite</translation>
     </message>
     <message>
-        <source>Page with bleed, usable area and barcodes, drawn to scale</source>
-        <translation>Seite mit Beschnitt, nutzbarer Fläche und Barcodes, maßstäblich gezeichnet</translation>
+        <source>Page with bleed, trim and barcodes, drawn to scale</source>
+        <translation>Seite mit Beschnitt, Endformat und Barcodes, maßstäblich gezeichnet</translation>
     </message>
 </context>
 <context>
@@ -327,12 +880,70 @@ Zeigt Kataloge von Druckprodukten.</translation>
         <translation>Gezeichnet wird eine Seite mit einer Größenklasse und einer Ausrichtung; dieses Produkt hat sie nicht.</translation>
     </message>
     <message>
-        <source>Nominal size by size class and orientation, with %1 mm bleed.</source>
-        <translation>Nenngröße nach Größenklasse und Ausrichtung, mit %1 mm Beschnitt.</translation>
-    </message>
-    <message>
         <source>A barcode lies outside of it (red).</source>
         <translation>Ein Barcode liegt außerhalb (rot).</translation>
+    </message>
+    <message>
+        <source>The page size is assumed: the catalogue tells only size class and orientation.</source>
+        <translation>Die Seitengröße ist angenommen: Der Katalog nennt nur Größenklasse und Ausrichtung.</translation>
+    </message>
+</context>
+<context>
+    <name>PagePicture</name>
+    <message>
+        <source>barcode %1 × %2 mm at %3, %4</source>
+        <translation>Barcode %1 × %2 mm bei %3 / %4</translation>
+    </message>
+    <message>
+        <source>%1, outside of the trim</source>
+        <translation>%1, außerhalb des Endformats</translation>
+    </message>
+    <message>
+        <source>trim %1 × %2 mm, assumed</source>
+        <translation>Endformat %1 × %2 mm, angenommen</translation>
+    </message>
+    <message>
+        <source>bleed %1 mm, assumed</source>
+        <translation>Beschnitt %1 mm, angenommen</translation>
+    </message>
+    <message>
+        <source>%1 page</source>
+        <translation>%1 Seite</translation>
+    </message>
+    <message>
+        <source>%1 page %2</source>
+        <translation>%1 Seite %2</translation>
+    </message>
+    <message>
+        <source>%1, scale 1 : %2</source>
+        <translation>%1, Maßstab 1 : %2</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+</context>
+<context>
+    <name>PricesPanel</name>
+    <message>
+        <source>%1 (free)</source>
+        <translation>%1 (kostenlos)</translation>
+    </message>
+    <message>
+        <source>Price classes</source>
+        <translation>Preisklassen</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy: %1</source>
+        <translation>Kopieren: %1</translation>
+    </message>
+    <message>
+        <source>Nothing that is chosen has a price class.</source>
+        <translation>Nichts von dem, was gewählt ist, hat eine Preisklasse.</translation>
     </message>
 </context>
 <context>
@@ -379,6 +990,16 @@ Zeigt Kataloge von Druckprodukten.</translation>
     </message>
 </context>
 <context>
+    <name>ProductFaults</name>
+    <message numerus="yes">
+        <source>and %n more, which the findings have</source>
+        <translation>
+            <numerusform>und %n weiterer Fehler, siehe Befunde</numerusform>
+            <numerusform>und %n weitere Fehler, siehe Befunde</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ProductList</name>
     <message>
         <source>Search type, article id, keyword, name</source>
@@ -410,6 +1031,18 @@ Zeigt Kataloge von Druckprodukten.</translation>
             <numerusform>%1 von %n Produkten</numerusform>
         </translation>
     </message>
+    <message>
+        <source>F&amp;aulty products only</source>
+        <translation>&amp;Nur fehlerhafte Produkte</translation>
+    </message>
+    <message>
+        <source>Products with an error or a warning</source>
+        <translation>Produkte mit einem Fehler oder einer Warnung</translation>
+    </message>
+    <message>
+        <source>No faulty product: &amp;show all</source>
+        <translation>Kein fehlerhaftes Produkt: alle &amp;zeigen</translation>
+    </message>
 </context>
 <context>
     <name>ProductTreeModel</name>
@@ -420,6 +1053,31 @@ Zeigt Kataloge von Druckprodukten.</translation>
     <message>
         <source>Name</source>
         <translation>Name</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Befunde</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s)</source>
+        <translation>
+            <numerusform>%n Hinweis</numerusform>
+            <numerusform>%n Hinweise</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n finding(s), the worst of which is a warning</source>
+        <translation>
+            <numerusform>%n Befund: eine Warnung</numerusform>
+            <numerusform>%n Befunde, der schwerste ist eine Warnung</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n finding(s), the worst of which is an error</source>
+        <translation>
+            <numerusform>%n Befund: ein Fehler</numerusform>
+            <numerusform>%n Befunde, der schwerste ist ein Fehler</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -434,18 +1092,48 @@ Zeigt Kataloge von Druckprodukten.</translation>
     </message>
 </context>
 <context>
+    <name>ReadThread</name>
+    <message>
+        <source>it is no regular file</source>
+        <translation>sie ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>cannot open the file: %1</source>
+        <translation>die Datei lässt sich nicht öffnen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>RecentFilesMenu</name>
+    <message>
+        <source>Open &amp;recent</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>No catalogue was opened yet</source>
+        <translation>Es wurde noch kein Katalog geöffnet</translation>
+    </message>
+    <message>
+        <source>&amp;Clear list</source>
+        <translation>&amp;Liste leeren</translation>
+    </message>
+    <message>
+        <source>%1 (missing)</source>
+        <translation>%1 (fehlt)</translation>
+    </message>
+</context>
+<context>
     <name>SpineCurve</name>
     <message>
         <source>Spine width over the page count</source>
         <translation>Rückenbreite über der Seitenzahl</translation>
     </message>
+    <message>
+        <source>Spine &amp;curve</source>
+        <translation>Rücken&amp;kurve</translation>
+    </message>
 </context>
 <context>
     <name>SpineDrawing</name>
-    <message>
-        <source>%1 mm</source>
-        <translation>%1 mm</translation>
-    </message>
     <message>
         <source>Spine, drawn to scale</source>
         <translation>Rücken, maßstäblich gezeichnet</translation>
@@ -453,6 +1141,10 @@ Zeigt Kataloge von Druckprodukten.</translation>
     <message>
         <source>%1 mm wide</source>
         <translation>%1 mm breit</translation>
+    </message>
+    <message>
+        <source>S&amp;pine</source>
+        <translation>&amp;Rücken</translation>
     </message>
 </context>
 <context>
@@ -485,10 +1177,6 @@ Zeigt Kataloge von Druckprodukten.</translation>
         <source>Spine %1 mm</source>
         <translation>Rücken %1 mm</translation>
     </message>
-    <message>
-        <source>font up to %1 pt</source>
-        <translation>Schrift bis %1 pt</translation>
-    </message>
     <message numerus="yes">
         <source>%n package(s) more</source>
         <translation>
@@ -502,6 +1190,63 @@ Zeigt Kataloge von Druckprodukten.</translation>
             <numerusform>%n Block mehr</numerusform>
             <numerusform>%n Blöcke mehr</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>font up to %1 pt %2</source>
+        <translation>Schrift bis %1 pt %2</translation>
+    </message>
+</context>
+<context>
+    <name>SpinePicture</name>
+    <message>
+        <source>%1 spine, page count %2</source>
+        <translation>%1 Rücken, Seitenzahl %2</translation>
+    </message>
+    <message>
+        <source>page count %1 · font up to %2 pt %3</source>
+        <translation>Seitenzahl %1 · Schrift bis %2 pt %3</translation>
+    </message>
+    <message>
+        <source>scale 1 : %1</source>
+        <translation>Maßstab 1 : %1</translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+</context>
+<context>
+    <name>StartScreen</name>
+    <message>
+        <source>Recent catalogues</source>
+        <translation>Zuletzt geöffnete Kataloge</translation>
+    </message>
+    <message>
+        <source>Catalogues of print products</source>
+        <translation>Kataloge von Druckprodukten</translation>
+    </message>
+    <message>
+        <source>Open a catalogue with Ctrl+O, or drop one here.</source>
+        <translation>Öffnen Sie einen Katalog mit Strg+O, oder legen Sie einen hier ab.</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>Ö&amp;ffnen …</translation>
+    </message>
+    <message>
+        <source>%1 (missing)</source>
+        <translation>%1 (fehlt)</translation>
+    </message>
+</context>
+<context>
+    <name>UnifiedDiff</name>
+    <message>
+        <source>cannot run the program &quot;diff&quot;: %1</source>
+        <translation>das Programm „diff“ lässt sich nicht starten: %1</translation>
+    </message>
+    <message>
+        <source>the program &quot;diff&quot; failed: %1</source>
+        <translation>das Programm „diff“ ist gescheitert: %1</translation>
     </message>
 </context>
 </TS>
