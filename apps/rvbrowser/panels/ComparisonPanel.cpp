@@ -30,7 +30,7 @@ constexpr int SHOWN_LINES = 8;
 constexpr int MOST_EXPANDED = 100;
 
 /// Widths of columns, in letters; the last one gets what is left.
-constexpr int COLUMN_LETTERS[] = { 56, 15, 36 };
+constexpr int COLUMN_LETTERS[] = { 56, 19, 36 };
 
 /// Of each of the two names; the tool tip has all of them.
 constexpr int NAME_LETTERS = 28;
