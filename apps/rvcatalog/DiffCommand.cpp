@@ -130,15 +130,19 @@ QString refusal(const QString &format, bool isGit, const QStringList &names)
     return QString();
 }
 
+QString description()
+{
+    return u"Tells what differs between two catalogues: products that were added or removed, and what has changed of\n"
+           "the others. What the ordering application reads is compared, not how it is written.\n"
+           "Ends with 0 when they are equal, with 1 when they differ, with 2 when one of them cannot be read."_s;
+}
+
 }
 
 int diffCommand(const QStringList &arguments, const Console &console)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-            u"Tells what differs between two catalogues: products that were added or removed, and what has changed of\n"
-            "the others. What the ordering application reads is compared, not how it is written.\n"
-            "Ends with 0 when they are equal, with 1 when they differ, with 2 when one of them cannot be read."_s);
+    parser.setApplicationDescription(description());
     const QCommandLineOption formatOption(u"format"_s, u"Write text, json, or markdown."_s, u"text|json|markdown"_s,
                                           u"text"_s);
     const QCommandLineOption colorOption(u"color"_s, u"Colour the text: auto (on a terminal), always, or never."_s,
