@@ -59,7 +59,8 @@ void FindingsActions::createActions()
     my.findings->addViewActions({ myCopy, myOpen, myExplain, myApply });
 }
 
-QAction *FindingsActions::add(const QString &text, const QKeySequence &key, void (FindingsActions::*trigger)())
+template<typename Trigger>
+QAction *FindingsActions::add(const QString &text, const QKeySequence &key, Trigger trigger)
 {
     QAction *result = myMenu->addAction(text);
     result->setShortcut(key);
@@ -98,17 +99,17 @@ void FindingsActions::updateSelected()
     myApply->setEnabled(!fixable(selected).isEmpty());
 }
 
-void FindingsActions::goToNext()
+void FindingsActions::goToNext() const
 {
     tell(my.findings->next(), tr("That was the last finding; this is the first one."));
 }
 
-void FindingsActions::goToPrevious()
+void FindingsActions::goToPrevious() const
 {
     tell(my.findings->previous(), tr("That was the first finding; this is the last one."));
 }
 
-void FindingsActions::tell(FindingsPanel::Step step, const QString &wrapped)
+void FindingsActions::tell(FindingsPanel::Step step, const QString &wrapped) const
 {
     if (step == FindingsPanel::Step::None)
         my.window->statusBar()->showMessage(tr("The filter hides all findings."), int(MESSAGE_TIME.count()));
@@ -118,7 +119,7 @@ void FindingsActions::tell(FindingsPanel::Step step, const QString &wrapped)
         my.window->statusBar()->clearMessage();
 }
 
-void FindingsActions::showInProduct(int finding)
+void FindingsActions::showInProduct(int finding) const
 {
     const CataloguePointer catalogue = my.findings->catalogue();
     if (!catalogue || finding < 0)
@@ -128,7 +129,7 @@ void FindingsActions::showInProduct(int finding)
         my.view->showFinding(*catalogue, shown);
 }
 
-void FindingsActions::copy()
+void FindingsActions::copy() const
 {
     const CataloguePointer catalogue = my.findings->catalogue();
     QStringList lines;
@@ -138,7 +139,7 @@ void FindingsActions::copy()
         QGuiApplication::clipboard()->setText(lines.join(u'\n'));
 }
 
-void FindingsActions::explain(bool isExplained)
+void FindingsActions::explain(bool isExplained) const
 {
     if (isExplained)
         my.findings->parentWidget()->show(); // the dock
@@ -162,7 +163,7 @@ void FindingsActions::openInEditor()
     myLauncher.open(EditorChoice::load(*my.settings).command(), catalogue->fileName(), position);
 }
 
-void FindingsActions::chooseEditor()
+void FindingsActions::chooseEditor() const
 {
     auto *dialog = new EditorDialog(my.settings, my.window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);

@@ -41,18 +41,19 @@ public:
 
 private:
     void createActions();
-    QAction *add(const QString &text, const QKeySequence &key, void (FindingsActions::*trigger)());
+    template<typename Trigger>
+    QAction *add(const QString &text, const QKeySequence &key, Trigger trigger);
     void connectParts();
     void update();
     void updateSelected();
-    void goToNext();
-    void goToPrevious();
-    void tell(FindingsPanel::Step step, const QString &wrapped);
-    void showInProduct(int finding);
-    void copy();
-    void explain(bool isExplained);
+    void goToNext() const;
+    void goToPrevious() const;
+    void tell(FindingsPanel::Step step, const QString &wrapped) const;
+    void showInProduct(int finding) const;
+    void copy() const;
+    void explain(bool isExplained) const;
     void openInEditor();
-    void chooseEditor();
+    void chooseEditor() const;
     void applyFix();
     void applyAllFixes();
     void applyFixes(const QList<int> &findings);
