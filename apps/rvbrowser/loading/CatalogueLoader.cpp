@@ -9,7 +9,7 @@ void CatalogueLoader::start(const QString &fileName, const std::shared_ptr<FileC
 
 bool CatalogueLoader::take(ReadThread *thread)
 {
-    const CataloguePointer catalogue = static_cast<LoadThread *>(thread)->catalogue();
+    const CataloguePointer catalogue = qobject_cast<LoadThread *>(thread)->catalogue();
     if (catalogue)
         Q_EMIT loaded(catalogue);
     return catalogue != nullptr;

@@ -9,7 +9,7 @@ void ComparisonLoader::start(const ComparedFiles &files)
 
 bool ComparisonLoader::take(ReadThread *thread)
 {
-    const ComparisonPointer comparison = static_cast<ComparisonThread *>(thread)->comparison();
+    const ComparisonPointer comparison = qobject_cast<ComparisonThread *>(thread)->comparison();
     if (comparison)
         Q_EMIT compared(comparison);
     return comparison != nullptr;

@@ -38,11 +38,13 @@ QSize ElidedLabel::minimumSizeHint() const
 
 bool ElidedLabel::event(QEvent *event)
 {
-    if (event->type() != QEvent::ToolTip || !isElided())
+    const bool asksForText = event->type() == QEvent::ToolTip && isElided();
+    const auto *help = asksForText ? dynamic_cast<QHelpEvent *>(event) : nullptr;
+    if (!help)
         return QLabel::event(event);
     // A label with a buddy has an ampersand for its key.
     const QString whole = buddy() ? text().replace("&&"_L1, "&"_L1) : text();
-    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), plainToolTip(whole), this);
+    QToolTip::showText(help->globalPos(), plainToolTip(whole), this);
     return true;
 }
 
