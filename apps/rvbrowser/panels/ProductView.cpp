@@ -15,6 +15,7 @@
 #include "SpinePanel.h"
 
 #include <QComboBox>
+#include <QFormLayout>
 #include <QLabel>
 #include <QVBoxLayout>
 
