@@ -45,11 +45,12 @@ QColor PaletteColors::accent() const
     const int step = isDark() ? LIGHTNESS_STEP : -LIGHTNESS_STEP;
     int lightness = isDark() ? qMax(MIDDLE_LIGHTNESS + 40, color.lightness())
                              : qMin(MIDDLE_LIGHTNESS - 20, color.lightness());
-    QColor result;
-    do {
-        result = QColor::fromHsl(color.hslHue(), color.hslSaturation(), qBound(0, lightness, 255));
-        lightness += step;
-    } while (contrast(result, myPalette.color(QPalette::Base)) < LINE_CONTRAST && 0 < lightness && lightness < 255);
+    const auto colorOf = [&color](int value) { return QColor::fromHsl(color.hslHue(), color.hslSaturation(), value); };
+    const QColor base = myPalette.color(QPalette::Base);
+    QColor result = colorOf(lightness);
+    for (lightness += step; contrast(result, base) < LINE_CONTRAST && 0 < lightness && lightness < 255;
+         lightness += step)
+        result = colorOf(lightness);
     return result;
 }
 

@@ -27,7 +27,7 @@ QList<OrderPrices::Line> OrderPrices::lines(int pages, const RVArticleVariants &
         const auto isSame = [&item](const Line &line) { return line.priceClass == item.priceClass; };
         auto line = std::find_if(result.begin(), result.end(), isSame);
         if (line == result.end())
-            line = result.insert(result.end(), { 0, item.priceClass, {} });
+            line = result.insert(result.cend(), { 0, item.priceClass, {} });
         line->count += item.count;
         line->purposes += purpose(item);
     }
