@@ -564,10 +564,6 @@
         <translation>Erklärung des Befunds</translation>
     </message>
     <message>
-        <source>Open a catalogue to see what is wrong with it.</source>
-        <translation>Öffnen Sie einen Katalog, um zu sehen, was an ihm nicht stimmt.</translation>
-    </message>
-    <message>
         <source>The catalogue is checked again whenever its file changes.</source>
         <translation>Der Katalog wird erneut geprüft, sobald sich seine Datei ändert.</translation>
     </message>
