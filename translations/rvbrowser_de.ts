@@ -1101,7 +1101,7 @@ Zeigt Kataloge von Druckprodukten.</translation>
 <context>
     <name>RecentFilesMenu</name>
     <message>
-        <source>Open &amp;recent</source>
+        <source>Open recen&amp;t</source>
         <translation>&amp;Zuletzt geöffnet</translation>
     </message>
     <message>
@@ -1124,7 +1124,7 @@ Zeigt Kataloge von Druckprodukten.</translation>
         <translation>Rückenbreite über der Seitenzahl</translation>
     </message>
     <message>
-        <source>Spine &amp;curve</source>
+        <source>Spine cur&amp;ve</source>
         <translation>Rücken&amp;kurve</translation>
     </message>
 </context>

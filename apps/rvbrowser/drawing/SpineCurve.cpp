@@ -18,7 +18,7 @@ constexpr int PAGE_STEP = 10;
 
 }
 
-SpineCurve::SpineCurve(QWidget *parent) : DrawingWidget(tr("Spine &curve"), parent)
+SpineCurve::SpineCurve(QWidget *parent) : DrawingWidget(tr("Spine cur&ve"), parent)
 {
     AccessibleSpineCurve::install();
     setObjectName(u"spineCurve"_s);

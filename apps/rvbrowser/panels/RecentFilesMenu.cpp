@@ -16,7 +16,7 @@ constexpr int LAST_DIGIT = 9;
 }
 
 RecentFilesMenu::RecentFilesMenu(RecentFiles *files, QWidget *parent)
-    : QMenu(tr("Open &recent"), parent),
+    : QMenu(tr("Open recen&t"), parent),
       myFiles(files)
 {
     setObjectName(u"recentFiles"_s);
