@@ -2,6 +2,7 @@
 
 #include <Language.h>
 #include <MainWindow.h>
+#include <OrderLine.h>
 #include <PageCountChooser.h>
 #include <ProductList.h>
 
@@ -12,7 +13,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLabel>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRandomGenerator>
 #include <QSignalSpy>
@@ -216,7 +216,7 @@ QString tst_PricesPanel::project(const RVProductType &type) const
 {
     return u"<project productname=\"%1\" pages=\"%2\" variants=\"%3\"/>"_s.arg(
             type.toString().toHtmlEscaped(), QString::number(myWindow->findChild<PageCountChooser *>()->pages()),
-            find<QPlainTextEdit>(u"projectFile"_s)->toPlainText().toHtmlEscaped());
+            find<OrderLine>(u"projectFile"_s)->text().toHtmlEscaped());
 }
 
 void tst_PricesPanel::chooseSomething()

@@ -4,6 +4,7 @@
 #include <Language.h>
 #include <MainWindow.h>
 #include <MessageBanner.h>
+#include <OrderLine.h>
 #include <PageDrawing.h>
 #include <ProductTreeModel.h>
 
@@ -18,7 +19,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
-#include <QPlainTextEdit>
 #include <QProcess>
 #include <QPushButton>
 #include <QScrollArea>
@@ -210,7 +210,7 @@ void tst_rvbrowser::keepsEveryCharacter()
     QCOMPARE(product.options().size(), 1);
     QCOMPARE(product.options().constFirst().value(), u"v&<\""_s);
     QCOMPARE(product.options().constFirst().visibleName(), u"é\n"_s);
-    QCOMPARE(find<QPlainTextEdit>(u"projectFile"_s)->toPlainText(), u"k:v&<\""_s);
+    QCOMPARE(find<OrderLine>(u"projectFile"_s)->text(), u"k:v&<\""_s);
 }
 
 void tst_rvbrowser::searches_data()
@@ -400,7 +400,7 @@ void tst_rvbrowser::optionsAndOrderLines()
     QVERIFY(!box->itemData(0, Qt::DecorationRole).isValid());
 
     const auto pieces = [this](const QString &line, QChar separator) {
-        QStringList result = find<QPlainTextEdit>(line)->toPlainText().split(separator);
+        QStringList result = find<OrderLine>(line)->text().split(separator);
         result.sort();
         return result;
     };
@@ -415,11 +415,11 @@ void tst_rvbrowser::optionsAndOrderLines()
 
     // What is longer than its field is broken, not cut off.
     myWindow->resize(800, 500);
-    const QPlainTextEdit *line = find<QPlainTextEdit>(u"projectFile"_s);
+    const OrderLine *line = find<OrderLine>(u"projectFile"_s);
     QTRY_VERIFY(line->height() > line->fontMetrics().lineSpacing() * line->document()->size().height());
 
     QVERIFY(myWindow->showType(RVProductType(u"VIR1"_s)));
-    QCOMPARE(line->toPlainText(), QString());
+    QCOMPARE(line->text(), QString());
     QVERIFY(!find<QComboBox>(u"option alcolor"_s));
 }
 
@@ -438,7 +438,7 @@ void tst_rvbrowser::copies()
     load(CATALOGUE);
     QFETCH(QString, line);
     QFETCH(Qt::Key, key);
-    const QString expected = find<QPlainTextEdit>(line)->toPlainText();
+    const QString expected = find<OrderLine>(line)->text();
     QVERIFY(expected.contains("alcolor:black"_L1));
     QApplication::clipboard()->clear();
     QTest::mouseClick(find<QPushButton>("copy "_L1 + line), Qt::LeftButton);

@@ -1,11 +1,25 @@
 #include "OrderLine.h"
 
+#include <QMimeData>
 #include <QtMath>
 
 namespace {
 
 /// A longer line is scrolled.
 constexpr int MOST_LINES = 4;
+/// A place where a line may be broken.
+constexpr QChar ZERO_WIDTH_SPACE(0x200b);
+
+QString breakable(const QString &text)
+{
+    QString result;
+    for (const QChar letter : text) {
+        result += letter;
+        if (letter == u',' || letter == u';' || letter == u':')
+            result += ZERO_WIDTH_SPACE;
+    }
+    return result;
+}
 
 }
 
@@ -22,8 +36,17 @@ OrderLine::OrderLine(QWidget *parent) : QPlainTextEdit(parent)
 
 void OrderLine::setText(const QString &text)
 {
-    setPlainText(text);
+    myText = text;
+    setPlainText(breakable(text));
     fitHeight();
+}
+
+QMimeData *OrderLine::createMimeDataFromSelection() const
+{
+    auto *data = new QMimeData;
+    const QString lines = textCursor().selectedText().replace(QChar::ParagraphSeparator, u'\n');
+    data->setText(QString(lines).remove(ZERO_WIDTH_SPACE));
+    return data;
 }
 
 void OrderLine::resizeEvent(QResizeEvent *event)

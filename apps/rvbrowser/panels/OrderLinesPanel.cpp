@@ -46,7 +46,7 @@ void OrderLinesPanel::showLine(qsizetype line, const QString &text)
 
 void OrderLinesPanel::copy(Line line) const
 {
-    const QString text = myLines.at(line)->toPlainText();
+    const QString text = myLines.at(line)->text();
     if (!text.isEmpty())
         QGuiApplication::clipboard()->setText(text);
 }
