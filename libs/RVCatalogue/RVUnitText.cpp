@@ -26,7 +26,7 @@ const QList<Unit> &units()
         { "mm"_L1, { "mm."_L1, "millimeter"_L1, "millimeters"_L1, "millimetre"_L1, "millimetres"_L1 } },
         { "cm"_L1,
           { "cm."_L1, "centimeter"_L1, "centimeters"_L1, "centimetre"_L1, "centimetres"_L1, "zentimeter"_L1 } },
-        { "inch"_L1, { "inches"_L1, "zoll"_L1, "\""_L1 } },
+        { "inch"_L1, { "inches"_L1, "zoll"_L1, R"(")"_L1 } },
         { "in"_L1, { "in."_L1 } },
         { "pt"_L1, { "pt."_L1, "pts"_L1 } },
         { "point"_L1, { "points"_L1, "punkt"_L1 } },
