@@ -13,6 +13,7 @@
 #include <QGuiApplication>
 #include <QMainWindow>
 #include <QMenu>
+#include <QMenuBar>
 #include <QStatusBar>
 
 #include <algorithm>
@@ -36,6 +37,11 @@ FindingsActions::FindingsActions(const Parts &parts)
     createActions();
     connectParts();
     update();
+}
+
+void FindingsActions::addTo(QMenuBar *menuBar)
+{
+    menuBar->addMenu(myMenu);
 }
 
 void FindingsActions::createActions()

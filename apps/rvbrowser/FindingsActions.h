@@ -14,6 +14,7 @@ class QAction;
 class QKeySequence;
 class QMainWindow;
 class QMenu;
+class QMenuBar;
 class Settings;
 
 /// All that is done with findings: going from one to the next, copying, explaining, editing and mending.
@@ -37,7 +38,7 @@ public:
     /// Belongs to the window.
     explicit FindingsActions(const Parts &parts);
 
-    QMenu *menu() const { return myMenu; }
+    void addTo(QMenuBar *menuBar);
 
 private:
     void createActions();

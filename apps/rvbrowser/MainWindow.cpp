@@ -167,9 +167,8 @@ void MainWindow::createMenus()
     menuBar()->addMenu(createFileMenu());
     menuBar()->addMenu(createEditMenu());
     menuBar()->addMenu(createViewMenu());
-    const auto *findings = new FindingsActions(
-            { this, &mySession, myFindings, myProducts, myView, myBanner, &mySettings });
-    menuBar()->addMenu(findings->menu());
+    auto *findings = new FindingsActions({ this, &mySession, myFindings, myProducts, myView, myBanner, &mySettings });
+    findings->addTo(menuBar());
     myComparison->addTo(menuBar());
     QMenu *help = menuBar()->addMenu(tr("&Help"));
     help->addAction(themeIcon("help-about"), tr("&About"), this, &MainWindow::showAbout);
