@@ -16,7 +16,7 @@
 #include <RVProductBase/RVShippingGroupId.h>
 #include <RVProductBase/RVSpineConfig.h>
 
-#include <cstring>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -24,7 +24,7 @@ using namespace Qt::StringLiterals;
 template<typename T>
 union Raw
 {
-    Raw(unsigned char byte) { std::memset(static_cast<void *>(this), byte, sizeof(T)); }
+    Raw(unsigned char byte) { std::fill_n(reinterpret_cast<unsigned char *>(this), sizeof(T), byte); }
     ~Raw() { }
     T value;
 };
@@ -42,8 +42,8 @@ int main()
     RVOrientation noOrientation;
     RVArticleClass calendar(ARTICLE_CLASS_CALENDAR);
     RVSpotColor spot(SPOT_COLOR_GOLD);
-    RVArticleId article(7101);
-    RVShippingGroupId group(-1);
+    [[maybe_unused]] RVArticleId article(7101);
+    [[maybe_unused]] RVShippingGroupId group(-1);
     RVOrderId order(u"123-456"_s);
     RVOrderProjectInfo project(u"session"_s, order, 2);
     RVPriceClass price(u"KUR2"_s);
@@ -53,8 +53,8 @@ int main()
     RVConfiguredArticleVariant option(u"alcolor:red"_s);
     RVPageCountOrganization counts(RVIntRange(26, 154), 4);
     RVPageCountOrganization fixed(RVIntRange(3, 3), 0);
-    RVDistance distance(12.5, DISTANCE_UNIT_MILLIMETRE);
-    RVAngle angle(90);
+    [[maybe_unused]] RVDistance distance(12.5, DISTANCE_UNIT_MILLIMETRE);
+    [[maybe_unused]] RVAngle angle(90);
     RVMargins margins(1, 2, 3, 4);
     RVMargins movedMargins(5, 6);
     RVMargins taken(std::move(movedMargins));
