@@ -89,15 +89,16 @@ QList<RVCatalogueSeverity> tst_CatalogueSession::severities() const
 void tst_CatalogueSession::opens()
 {
     QVERIFY(!mySession->catalogue());
-    bool hadEnded = false;
-    connect(mySession.get(), &CatalogueSession::catalogueChanged, this, [&] { hadEnded = myEnded->size() == 1; });
+    const auto hadEnded = std::make_shared<bool>(false);
+    connect(mySession.get(), &CatalogueSession::catalogueChanged, this,
+            [this, hadEnded] { *hadEnded = myEnded->size() == 1; });
     QVERIFY(myFolder->write(u"c.xml"_s, manyProducts(3)));
     mySession->open(path(u"c.xml"_s));
     QVERIFY(mySession->isLoading());
     QCOMPARE(myStarted->size(), 1);
     QCOMPARE(myStarted->at(0).at(0).toString(), path(u"c.xml"_s));
     QVERIFY(myChanged->wait(TIMEOUT));
-    QVERIFY(hadEnded);
+    QVERIFY(*hadEnded);
     QVERIFY(!mySession->isLoading());
     QCOMPARE(mySession->catalogue()->size(), 3);
     QCOMPARE(mySession->catalogue()->fileName(), path(u"c.xml"_s));
