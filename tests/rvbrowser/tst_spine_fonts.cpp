@@ -93,7 +93,7 @@ void tst_spine_fonts::bothPrograms()
     const QByteArray catalog = run(QString::fromUtf8(RVCATALOG),
                                    { u"spine"_s, u"--json"_s, QString::fromUtf8(SAMPLE), type }, {});
     QList<QByteArray> expected;
-    for (const QJsonValue row : QJsonDocument::fromJson(catalog)["spine"_L1].toArray())
+    for (const QJsonValue &row : QJsonDocument::fromJson(catalog)["spine"_L1].toArray())
         expected += QByteArray::number(row["page_count"_L1].toInt()) + ' '
                 + QByteArray::number(row["max_font_size"_L1].toInt()) + ' ' + row["font_family"_L1].toString().toUtf8();
     QCOMPARE(expected.size(), counts);
