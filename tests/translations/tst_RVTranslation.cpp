@@ -73,7 +73,7 @@ void tst_RVTranslation::folders()
 {
     QVERIFY(RVTranslation::folders().contains(myData.filePath(u"RVProductBase/translations"_s)));
     QVERIFY(RVCatalogueTranslation::folders().contains(myData.filePath(u"RVCatalogue/translations"_s)));
-    QVERIFY(RVTranslation::folders().first().endsWith(u"/libs/RVProductBase"_s)); // that of the library
+    QVERIFY(RVTranslation::folders().constFirst().endsWith(u"/libs/RVProductBase"_s)); // that of the library
 }
 
 void tst_RVTranslation::languages_data()
