@@ -43,10 +43,11 @@ void OrderLine::setText(const QString &text)
 
 QMimeData *OrderLine::createMimeDataFromSelection() const
 {
-    auto *data = new QMimeData;
-    const QString lines = textCursor().selectedText().replace(QChar::ParagraphSeparator, u'\n');
-    data->setText(QString(lines).remove(ZERO_WIDTH_SPACE));
-    return data;
+    QString selected = textCursor().selectedText();
+    selected.replace(QChar::ParagraphSeparator, u'\n').remove(ZERO_WIDTH_SPACE);
+    auto *copied = new QMimeData;
+    copied->setText(selected);
+    return copied;
 }
 
 void OrderLine::resizeEvent(QResizeEvent *event)
