@@ -14,7 +14,7 @@ class PlotFrame;
 class QPaintDevice;
 class QPainter;
 
-/// What a plot is drawn with. By default for white paper.
+/// The colours of a plot. By default for white paper.
 struct PlotColors
 {
     QColor background = Qt::white;
@@ -42,7 +42,7 @@ public:
     /// Above the plot; none by default.
     void setTitle(const QString &title) { myTitle = title; }
     void setColors(const PlotColors &colors) { myColors = colors; }
-    /// How numbers are written; with a decimal point by default.
+    /// The locale that numbers are written in; with a decimal point by default.
     void setLocale(const QLocale &locale) { myLocale = locale; }
     /// The row of the table that is pointed out; none by default, which is -1.
     void setMarkedRow(int row) { myMarkedRow = row; }

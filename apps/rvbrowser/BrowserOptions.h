@@ -7,13 +7,13 @@
 
 #include <optional>
 
-/// What the command line asks for. Can be read before there is an application.
+/// The wishes of the command line. Can be read before there is an application.
 class BrowserOptions
 {
 public:
     explicit BrowserOptions(const QStringList &arguments);
 
-    /// What is wrong with the command line; empty where nothing is.
+    /// The fault of the command line; empty where nothing is.
     QString error() const { return myError; }
     bool isHelp() const { return myParser.isSet(QStringLiteral("help")); }
     bool isVersion() const { return myParser.isSet(QStringLiteral("version")); }

@@ -339,7 +339,7 @@ void MainWindow::showSingleProduct(const CataloguePointer &catalogue, int produc
     myView->setSingleProduct(catalogue, product, note);
 }
 
-// What is shown of anything else stays.
+// A message about anything else stays.
 void MainWindow::showComparisonMessage(const QString &text, const QString &before)
 {
     if (!text.isEmpty())

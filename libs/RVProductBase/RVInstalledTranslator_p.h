@@ -45,7 +45,7 @@ public:
         const std::unique_ptr<QTranslator> before(find()); // which removes itself
     }
 
-    /// Where the files are searched, first to last.
+    /// The folders that are searched, first to last.
     QStringList folders() const
     {
         const QString subfolder = myLibrary + QLatin1StringView("/translations");

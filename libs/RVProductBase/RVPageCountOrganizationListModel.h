@@ -18,7 +18,7 @@ class RVPRODUCTBASE_EXPORT RVPageCountOrganizationListModel : public QAbstractLi
     Q_OBJECT
 
 public:
-    /// What a row has besides its text.
+    /// Data of a row besides its text.
     enum Role {
         PagesRole = Qt::UserRole + 0x100, ///< the count as an int; "pages" in QML
     };

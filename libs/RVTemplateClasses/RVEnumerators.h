@@ -51,7 +51,7 @@ public:
     }
 
 private:
-    /// What the compiler writes of a value as a template argument: its enumerator, or a cast.
+    /// The text that the compiler writes of a value as a template argument: its enumerator, or a cast.
     template<E VALUE>
     static constexpr std::string_view spelling() noexcept
     {

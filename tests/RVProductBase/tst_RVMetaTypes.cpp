@@ -83,7 +83,7 @@ T readBack(const QByteArray &bytes, QDataStream::Status expected = QDataStream::
     return value;
 }
 
-/// What a process of its own says of a settings file.
+/// The answer of a second process to a settings file.
 int checkSettings(const QString &path)
 {
     RVMetaTypes::registerAll();

@@ -147,7 +147,7 @@ for command in $("$root/usr/bin/rvcatalog" 2>&1 | sed -n 's/^  \([a-z]\+\) .*/\1
     done
 done
 
-# What the packages are tried with where they are installed does for the scratch root as well.
+# The scripts that try installed packages do for the scratch root as well.
 mkdir -p "$work/examples"
 cd "$sources"
 AUTOPKGTEST_TMP=$work/examples CMAKE_PREFIX_PATH=$root/usr PKG_CONFIG_PATH=$libdir/pkgconfig debian/tests/build-examples

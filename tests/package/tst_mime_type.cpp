@@ -66,7 +66,7 @@ void tst_mime_type::type()
     QTEST(QMimeDatabase().mimeTypeForFileNameAndData(name, &buffer).name(), "type");
 }
 
-// What has no content yet is XML as before.
+// A file without content is XML as before.
 void tst_mime_type::ofNameAlone()
 {
     const QMimeType type = QMimeDatabase().mimeTypeForFile(QStringLiteral("a.xml"), QMimeDatabase::MatchExtension);

@@ -71,7 +71,7 @@ void tst_CatalogueLoader::cleanup()
     myFolder.reset();
 }
 
-// What the thread has made is read by this one: every product and every finding.
+// This thread reads all that the other has made: every product and every finding.
 void tst_CatalogueLoader::loads()
 {
     const QString fileName = write(manyProducts(300).replace("hardcover", "hardcovers"));

@@ -87,7 +87,7 @@ void tst_ComparisonLoader::cleanup()
     myFolder.reset();
 }
 
-// What the thread has made is read by this one: every change, and the products that only one of the files has.
+// This thread reads all that the other has made: every change, and the products that only one of the files has.
 void tst_ComparisonLoader::compares()
 {
     const QString before = write(OLD_CATALOGUE);

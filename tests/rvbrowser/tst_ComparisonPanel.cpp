@@ -542,7 +542,7 @@ void tst_ComparisonPanel::dockIsHighEnough()
     QTRY_VERIFY(changes()->viewport()->height() >= 5 * changes()->visualRect(changes()->model()->index(0, 0)).height());
 }
 
-// However long the names of the files are.
+// Names of files may be of any length.
 void tst_ComparisonPanel::narrowWindow()
 {
     open(NEW_CATALOGUE);

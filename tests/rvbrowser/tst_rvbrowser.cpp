@@ -241,7 +241,7 @@ void tst_rvbrowser::searches()
     QCOMPARE(shownTypes().size(), 3);
 }
 
-// What was chosen stays, with all that was chosen for it, and is current again as soon as it is found.
+// The chosen product stays, with all that was chosen for it, and is current again as soon as it is found.
 void tst_rvbrowser::searchIsNoChoice()
 {
     load(CATALOGUE);
@@ -413,7 +413,7 @@ void tst_rvbrowser::optionsAndOrderLines()
     QCOMPARE(pieces(u"orderText"_s, u';'), single);
     QCOMPARE(text(u"optionNames"_s), u"Farbe: Rot · Box: Holz"_s);
 
-    // What is longer than its field is broken, not cut off.
+    // A text that is longer than its field is broken, not cut off.
     myWindow->resize(800, 500);
     const OrderLine *line = find<OrderLine>(u"projectFile"_s);
     QTRY_VERIFY(line->height() > line->fontMetrics().lineSpacing() * line->document()->size().height());
@@ -825,7 +825,7 @@ void tst_rvbrowser::manyProductsStayUsable()
     QVERIFY2(timer.elapsed() < 10000, qPrintable(QString::number(timer.elapsed())));
 }
 
-// Where there is no room for two columns, nothing is cut off: the product can be scrolled down, but not sideways.
+// Without room for two columns nothing is cut off: the product can be scrolled down, but not sideways.
 void tst_rvbrowser::narrowWindow()
 {
     myWindow.reset();

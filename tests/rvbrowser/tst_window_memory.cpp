@@ -376,7 +376,7 @@ void tst_window_memory::fitsTheScreen_data()
     }
 }
 
-// What is needed most is in sight without scrolling, and the window can be smaller still.
+// The parts that are needed most are in sight without scrolling, and the window can be smaller still.
 void tst_window_memory::fitsTheScreen()
 {
     QFETCH(QString, language);

@@ -33,7 +33,7 @@ protected:
 
     /// The size of the button, which no drawing should cover.
     QSize buttonSize() const;
-    /// What is drawn in the window has the colours of the window.
+    /// Drawings in the window have the colours of the window.
     PlotColors windowColors() const;
 
 private:

@@ -47,7 +47,7 @@ qreal pointOf(const QPainter *painter)
 
 }
 
-/// Where page and legend go.
+/// The places of page and legend.
 struct PagePicture::Layout
 {
     QTransform transform; ///< of the page

@@ -14,7 +14,7 @@ class SpinePicture : public Drawing
 public:
     /// @p sideWidth is the width of each side, in millimetres.
     void setSpine(const SpineRow &row, qreal sideWidth);
-    /// What stands on the spine; the type of the product.
+    /// The text on the spine; the type of the product.
     void setText(const QString &text) { myText = text; }
     void setColors(const PlotColors &colors) { myColors = colors; }
 

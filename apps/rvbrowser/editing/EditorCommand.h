@@ -20,8 +20,8 @@ public:
     EditorCommand() = default; ///< No command.
     explicit EditorCommand(const QString &command, bool needsTerminal = false);
 
-    /// What the value of $VISUAL or $EDITOR runs, such as "vim" or "emacs -nw". Editors that are known go to the line,
-    /// and so do those that are unknown as long as they take "+LINE" as vi does; these are run in a terminal.
+    /// The command for a value of $VISUAL or $EDITOR, such as "vim" or "emacs -nw". Editors that are known go to the
+    /// line, and so do those that are unknown as long as they take "+LINE" as vi does; these are run in a terminal.
     static EditorCommand ofEnvironment(const QString &value);
 
     bool isEmpty() const { return myParts.isEmpty(); }

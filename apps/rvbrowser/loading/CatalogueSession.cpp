@@ -66,7 +66,7 @@ void CatalogueSession::giveUp()
     catchUp();
 }
 
-// What somebody is opening comes before what changes by itself.
+// A file that the user opens comes before one that changes by itself.
 void CatalogueSession::noticeChange()
 {
     if (isLoading() && catalogue() && myFileName != catalogue()->fileName())

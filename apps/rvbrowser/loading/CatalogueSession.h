@@ -28,7 +28,7 @@ public:
 Q_SIGNALS:
     void started(const QString &fileName);
     void progressed(int percent);
-    /// Whatever becomes of it, loading is over; comes before the next two.
+    /// Loading is over, with or without success; comes before the next two.
     void ended();
     void catalogueChanged();
     void failed(const LoadError &error);

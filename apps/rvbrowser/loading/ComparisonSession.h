@@ -35,7 +35,7 @@ Q_SIGNALS:
     /// Catalogues are being compared, or compared again.
     void started(const ComparedFiles &files);
     void progressed(int percent);
-    /// Whatever becomes of it, comparing is over; comes before changed() and failed().
+    /// Comparing is over, with or without success; comes before changed() and failed().
     void ended();
     /// There is another comparison; none after it was closed.
     void changed();

@@ -7,7 +7,7 @@
 
 #include <optional>
 
-/// Why a catalogue cannot be loaded.
+/// The reason why a catalogue cannot be loaded.
 struct LoadError
 {
     QString fileName;

@@ -3,7 +3,7 @@
 
 #include <RVArticleVariants.h>
 
-/// What somebody can choose for a product.
+/// The choices of the user for a product.
 struct ProductChoice
 {
     int pages = 0;

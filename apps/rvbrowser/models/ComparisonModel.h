@@ -28,7 +28,7 @@ public:
     int productCount() const { return int(myShown.size()); } ///< Those that are shown.
     /// The product's number in the comparison, also for what has changed of it; -1 without one.
     int product(const QModelIndex &index) const;
-    /// What has changed, by its number among the changes of its product; -1 for the product itself.
+    /// The change, by its number among the changes of its product; -1 for the product itself.
     static int change(const QModelIndex &index);
     /// The item of a product; invalid where it is not shown.
     QModelIndex indexOfProduct(int product) const;

@@ -8,7 +8,7 @@
 #include <QIcon>
 #include <QList>
 
-/// What is wrong with a catalogue, one finding a row: those that a filter lets through, in the order of a column. It
+/// The findings of a catalogue, a row for each: those that a filter lets through, in the order of a column. It
 /// keeps the numbers of the findings alone, so that 100,000 of them are sorted and filtered at once.
 class FindingsModel : public QAbstractTableModel
 {
@@ -29,9 +29,9 @@ public:
     int rowOf(int finding) const { return int(myRows.indexOf(finding)); }
     /// The number of the product that the finding is about; -1 for none.
     int product(int row) const;
-    /// How many findings there are, also those that the filter hides.
+    /// The number of findings, also those that the filter hides.
     int findingCount() const { return int(myOrder.size()); }
-    /// How many of them are as severe as that.
+    /// The number of findings of that severity.
     int count(RVCatalogueSeverity severity) const;
 
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;

@@ -10,7 +10,7 @@
 
 class AttributeWords;
 
-/// What there is to read about a product, apart from what can be chosen.
+/// The facts about a product, apart from what can be chosen.
 class ProductFacts
 {
     Q_DECLARE_TR_FUNCTIONS(ProductFacts)
@@ -21,7 +21,7 @@ public:
         QString label;
         QLatin1StringView attribute; ///< empty where it is not one attribute
         QString text; ///< as it stands in the file where something is wrong with it; empty where there is nothing
-        QString fault; ///< what is wrong with it, and what was probably meant; empty where nothing is
+        QString fault; ///< the fault of it, and the value that was probably meant; empty where nothing is
     };
 
     ProductFacts(const RVCatalogueProduct &product, const AttributeWords &words)
@@ -33,7 +33,7 @@ public:
     /// The words, in lower case, by which a search finds the product besides its type, name and article id. Many
     /// products have the same words.
     QString searchText() const;
-    /// What kind of article it is, in the words of the shop.
+    /// The kind of article, in the words of the shop.
     static QString group(const RVArticleClass &articleClass);
 
 private:

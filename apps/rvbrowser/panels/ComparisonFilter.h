@@ -8,7 +8,7 @@
 class QComboBox;
 class QLineEdit;
 
-/// Which changes are shown: those of one kind, in which a text is found.
+/// The choice of changes that are shown: those of one kind, in which a text is found.
 class ComparisonFilter : public QWidget
 {
     Q_OBJECT

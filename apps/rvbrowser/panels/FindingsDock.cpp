@@ -48,7 +48,7 @@ void FindingsDock::setCatalogue(const CataloguePointer &catalogue)
     stopWaiting();
     myPanel->setCatalogue(catalogue);
     myHasFindings = !catalogue->findings().isEmpty();
-    // What was hidden just now would still keep its room.
+    // A part that was hidden just now would still keep its room.
     myPanel->layout()->activate();
     layout()->activate();
     const bool isChosen = myHasFindings && myHeight > 0;

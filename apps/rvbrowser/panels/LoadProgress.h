@@ -6,7 +6,7 @@
 class QLabel;
 class QProgressBar;
 
-/// How far the reading of files has come, with a button to give it up. Hidden while nothing is read.
+/// The progress of reading files, with a button to give it up. Hidden while nothing is read.
 class LoadProgress : public QWidget
 {
     Q_OBJECT

@@ -24,7 +24,7 @@ public:
     explicit OptionsPanel(QWidget *parent = nullptr);
 
     void setProduct(const RVCatalogueProduct &product);
-    /// What is chosen.
+    /// The chosen options.
     RVArticleVariants variants() const;
     /// Chooses those of the options that the product has.
     void setVariants(const RVArticleVariants &variants);

@@ -23,7 +23,7 @@ public:
     void setProduct(const RVCatalogueProduct &product, const RVPageCountOrganization &pageCounts);
     /// False for a product without a spine.
     bool isDrawn() const;
-    /// What is chosen.
+    /// The chosen page count.
     int pages() const;
     void setPages(int pages);
 

@@ -6,7 +6,7 @@
 class QLabel;
 class QListWidget;
 
-/// What the window shows while no catalogue is open: a button to open one, and those that were opened last.
+/// The contents of the window while no catalogue is open: a button to open one, and those that were opened last.
 class StartScreen : public QWidget
 {
     Q_OBJECT
