@@ -21,6 +21,8 @@ constexpr int PNG_DOTS_PER_INCH = 300;
 /// At this resolution a unit of the drawing is a tenth of a millimetre.
 constexpr int SVG_DOTS_PER_INCH = 254;
 constexpr int PDF_DOTS_PER_INCH = 1270;
+/// Stands for the title of the drawing while Qt writes it.
+constexpr char TITLE[] = "title-of-the-drawing";
 /// In millimetres. A picture of a larger sheet would take a quarter of a gigabyte.
 constexpr QSizeF LARGEST_SHEET(700, 700);
 
@@ -110,11 +112,12 @@ QByteArray DrawingExport::svg() const
     const QRectF sheet = sheetInDots(SVG_DOTS_PER_INCH);
     generator.setSize(sheet.size().toSize());
     generator.setViewBox(QRect(QPoint(), sheet.size().toSize()));
-    generator.setTitle(myDrawing.title().toHtmlEscaped()); // it is written as it stands
+    generator.setTitle(QString::fromLatin1(TITLE));
     QPainter painter(&generator);
     myDrawing.paint(&painter, sheet, myReduction);
     painter.end();
-    return buffer.data();
+    // Qt 6.4 writes the title as it stands, later versions escape it.
+    return QByteArray(buffer.data()).replace(TITLE, myDrawing.title().toHtmlEscaped().toUtf8());
 }
 
 QByteArray DrawingExport::png() const
