@@ -250,6 +250,7 @@ void tst_CatalogueSession::changesWhileLoadingAnother()
     QVERIFY(myChanged->wait(TIMEOUT));
     QCOMPARE(mySession->catalogue()->size(), 4);
 
+    QVERIFY(myFolder->write(u"big.xml"_s, manyProducts(MANY)));
     mySession->open(path(u"big.xml"_s));
     mySession->reload(); // starts over with the same file
     QCOMPARE(myStarted->constLast().at(0).toString(), path(u"big.xml"_s));

@@ -58,7 +58,11 @@ void tst_LoadedComparison::searches_data()
 void tst_LoadedComparison::searches()
 {
     QFETCH(QString, search);
-    QTEST(compared(OLD_CATALOGUE, NEW_CATALOGUE)->searchIndex().find(search), "products");
+    QFETCH(QList<int>, products);
+    const QList<int> found = compared(OLD_CATALOGUE, NEW_CATALOGUE)->searchIndex().find(search);
+    // Two empty lists have no address that Qt could compare.
+    QCOMPARE(found.isEmpty(), products.isEmpty());
+    QVERIFY(found.isEmpty() || found == products);
 }
 
 // The products that only one of the catalogues has can be read again, whichever it is.
