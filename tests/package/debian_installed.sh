@@ -51,12 +51,12 @@ make_old() {
 }
 
 # as_user COMMAND...: an ordinary user runs it, so nothing that programs write for themselves is taken for a file of theirs.
-as_user() { runuser --user nobody -- env HOME=/tmp/tried AUTOPKGTEST_TMP=/tmp/tried/work "$@"; }
+as_user() { runuser --user nobody -- env HOME=/tmp/tried AUTOPKGTEST_TMP=/tmp/tried/scratch "$@"; }
 
 # try_packages: their own tests pass, and the window opens catalogues, but no other XML file.
 try_packages() {
     local test
-    mkdir -p /tmp/tried/work
+    mkdir -p /tmp/tried/scratch
     cp -R debian/tests examples /tmp/tried
     chown -R nobody /tmp/tried
     cd /tmp/tried
@@ -64,14 +64,14 @@ try_packages() {
         as_user "tests/$test"
     done
     cd "$OLDPWD"
-    cp /usr/share/doc/rvcatalog/examples/*.xml /tmp/tried/work
+    cp /usr/share/doc/rvcatalog/examples/*.xml /tmp/tried/scratch
     [[ $(mime_type products) == application/x-rvcatalogue+xml ]] || fail "a catalogue is $(mime_type products)"
     [[ $(mime_type project) == application/xml ]] || fail "a project is $(mime_type project)"
     [[ $(as_user xdg-mime query default application/x-rvcatalogue+xml) == *rvbrowser.desktop ]] || fail "the window opens no catalogues"
     [[ ! $(as_user xdg-mime query default application/xml) ]] || fail "the window opens every XML file"
 }
 
-mime_type() { as_user env XDG_CURRENT_DESKTOP=GNOME xdg-mime query filetype "/tmp/tried/work/$1.xml"; }
+mime_type() { as_user env XDG_CURRENT_DESKTOP=GNOME xdg-mime query filetype "/tmp/tried/scratch/$1.xml"; }
 
 if [[ $1 == --inside ]]; then # the second half, in the bare system
     packages=() names=()
