@@ -25,6 +25,14 @@ public:
     int reductionFor(const QSizeF &most) const;
     /// The font of texts on a sheet.
     static QFont textFont(qreal pointSize, bool isBold = false);
+
+protected:
+    /// The form of a sheet with a part of a product, in millimetres.
+    /// @{
+    static constexpr qreal SHEET_MARGIN = 8;
+    static constexpr qreal LEAST_SHEET_WIDTH = 85;
+    /// @}
+    static constexpr qreal SHEET_TEXT_SIZE = 8; ///< In points.
 };
 
 #endif

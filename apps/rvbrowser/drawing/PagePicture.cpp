@@ -29,11 +29,8 @@ constexpr qreal LEGEND_GAP = 0.7;
 constexpr qreal SYMBOL_WIDTH = 2;
 /// Beside the page, as a part of the drawing.
 constexpr qreal MOST_LEGEND = 0.7;
-// The sheet, in millimetres.
-constexpr qreal SHEET_MARGIN = 8;
+/// On the sheet, in millimetres.
 constexpr qreal SHEET_LINE = 4.5;
-constexpr qreal LEAST_SHEET_WIDTH = 85;
-constexpr qreal SHEET_TEXT_SIZE = 8; // points
 
 QString millimetres(qreal tenths)
 {

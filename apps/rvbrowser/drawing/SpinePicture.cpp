@@ -16,10 +16,7 @@ constexpr qreal PIXELS_PER_MILLIMETRE = 10;
 // The sheet, in millimetres.
 constexpr qreal PIECE_HEIGHT = 120;
 constexpr qreal LEAST_PIECE_HEIGHT = 20;
-constexpr qreal LEAST_SHEET_WIDTH = 85;
-constexpr qreal SHEET_MARGIN = 8;
 constexpr qreal TEXTS_HEIGHT = 24;
-constexpr qreal SHEET_TEXT_SIZE = 8; // points
 
 }
 
