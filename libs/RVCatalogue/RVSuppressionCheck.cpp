@@ -47,7 +47,7 @@ void RVSuppressionCheck::check(const RVSuppression &comment, const RVCatalogueRu
     if (!comment.isReadable)
         return myReport->add(RVCatalogueRuleId::SuppressionUnknown, comment.range,
                              RVFindingText::tr("this comment is not understood; one that silences rules reads %1")
-                                     .arg("\"rvcatalog: ignore RULE, RULE\""_L1));
+                                     .arg(R"("rvcatalog: ignore RULE, RULE")"_L1));
     checkNames(comment);
     checkUse(comment, broken);
 }

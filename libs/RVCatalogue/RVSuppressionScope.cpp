@@ -12,13 +12,15 @@ RVSuppressionScope::RVSuppressionScope(std::vector<RVSuppression> comments, cons
             myRules |= comment.rules;
     }
     expect();
-    if (myOuter)
-        myOuter->expect();
+    if (!myOuter)
+        return;
+    myRules |= myOuter->myRules;
+    myOuter->expect();
 }
 
 bool RVSuppressionScope::silences(RVCatalogueRuleId rule) const
 {
-    return myRules.test(std::size_t(rule)) || (myOuter && myOuter->silences(rule));
+    return myRules.test(std::size_t(rule));
 }
 
 void RVSuppressionScope::expect()
@@ -38,12 +40,10 @@ void RVSuppressionScope::addBroken(const RVCatalogueRuleSet &broken)
 {
     if (broken.none())
         return;
-    {
-        const QMutexLocker locker(&myMutex);
-        myBroken |= broken;
+    for (RVSuppressionScope *scope = this; scope; scope = scope->myOuter.data()) {
+        const QMutexLocker locker(&scope->myMutex);
+        scope->myBroken |= broken;
     }
-    if (myOuter)
-        myOuter->addBroken(broken);
 }
 
 bool RVSuppressionScope::isJudged() const

@@ -45,7 +45,7 @@ private:
     std::vector<RVSuppression> myComments;
     Pointer myOuter;
     std::size_t myLevel;
-    RVCatalogueRuleSet myRules; // of all comments
+    RVCatalogueRuleSet myRules; // that the comments here and around name
     mutable QMutex myMutex; // protects the members below
     RVCatalogueRuleSet myBroken;
     qint64 myExpected = 0;

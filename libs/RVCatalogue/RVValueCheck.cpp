@@ -30,7 +30,7 @@ constexpr BooleanText BOOLEAN_TEXTS[] = {
 /// The boolean that an invalid text means: "true" for " true" and "ture"; null if it may mean both, or none.
 QString meantBoolean(const QString &text)
 {
-    const QString plain = RVForeignLetters(text).plain().trimmed();
+    QString plain = RVForeignLetters(text).plain().trimmed();
     RVNearestTexts nearest(plain, 2);
     for (const BooleanText &row : BOOLEAN_TEXTS)
         nearest.offer(row.text);

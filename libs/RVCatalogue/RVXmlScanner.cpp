@@ -124,7 +124,7 @@ qsizetype lastTag(QByteArrayView text)
 qsizetype lastComment(QByteArrayView text)
 {
     qsizetype mark = lastPlace('!', text);
-    while (mark > 1 && !(text[mark - 1] == '<' && text.sliced(mark + 1).startsWith("--")))
+    while (mark > 1 && (text[mark - 1] != '<' || !text.sliced(mark + 1).startsWith("--")))
         mark = lastPlace('!', text.first(mark));
     return qMax(qsizetype(0), mark - 1);
 }
