@@ -18,7 +18,7 @@ struct CheckedProducts
     QList<RVCatalogueFinding> findings;
 };
 
-CheckedProducts findingsOf(const QList<RVCatalogueProduct> &products)
+CheckedProducts checkedProducts(const QList<RVCatalogueProduct> &products)
 {
     CheckedProducts result { products.size(), {} };
     for (const RVCatalogueProduct &product : products)
@@ -82,7 +82,7 @@ void CheckRun::read(CatalogueFile *file, const QString &fileName)
     if (myOptions.threads > 0)
         reader.setThreadCount(myOptions.threads);
     const qint64 size = reader.size();
-    reader.map(findingsOf, [&](const CheckedProducts &checked) {
+    reader.map(checkedProducts, [&](const CheckedProducts &checked) {
         mySummary.products += checked.count;
         write(fileName, checked.findings);
         myProgressBar.show(fileName, reader.bytesRead(), size);

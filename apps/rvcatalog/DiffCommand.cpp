@@ -130,7 +130,7 @@ QString refusal(const QString &format, bool isGit, const QStringList &names)
     return QString();
 }
 
-QString description()
+QString diffDescription()
 {
     return u"Tells what differs between two catalogues: products that were added or removed, and what has changed of\n"
            "the others. What the ordering application reads is compared, not how it is written.\n"
@@ -142,7 +142,7 @@ QString description()
 int diffCommand(const QStringList &arguments, const Console &console)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(description());
+    parser.setApplicationDescription(diffDescription());
     const QCommandLineOption formatOption(u"format"_s, u"Write text, json, or markdown."_s, u"text|json|markdown"_s,
                                           u"text"_s);
     const QCommandLineOption colorOption(u"color"_s, u"Colour the text: auto (on a terminal), always, or never."_s,

@@ -1,5 +1,7 @@
 #include "Excerpt.h"
 
+#include "WrappedText.h"
+
 #include <QList>
 
 #include <algorithm>
@@ -9,7 +11,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int TERMINAL_WIDTH = 80;
 constexpr int TAB_WIDTH = 8;
 constexpr QChar ELLIPSIS = u'…';
 
@@ -87,7 +88,7 @@ Excerpt excerptOf(const QString &line, const RVFileRange &range)
     const QList<Cell> cells = cellsOf(line, range.begin.column, qMax(end, range.begin.column + 1));
     Excerpt result { gutter, QString(gutter.size() - 2, u' ') + "| "_L1, u"^"_s };
     int marked = 0;
-    for (const Cell &cell : cut(cells, TERMINAL_WIDTH - int(gutter.size()))) {
+    for (const Cell &cell : cut(cells, int(TERMINAL_WIDTH - gutter.size()))) {
         result.text += cell.text;
         if (cell.isMarked)
             marked += cell.width;

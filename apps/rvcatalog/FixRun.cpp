@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 PIECE = qint64(64) * 1024;
+constexpr qint64 WRITE_SIZE = qint64(64) * 1024;
 
 bool isInput(const QString &fileName)
 {
@@ -35,7 +35,7 @@ bool isSpecial(const QString &fileName)
     return file.exists() && !file.isFile() && !file.isDir();
 }
 
-QList<RVCatalogueFinding> findingsOf(const QList<RVCatalogueProduct> &products)
+QList<RVCatalogueFinding> allFindings(const QList<RVCatalogueProduct> &products)
 {
     QList<RVCatalogueFinding> result;
     for (const RVCatalogueProduct &product : products)
@@ -126,7 +126,7 @@ bool FixRun::writeMended(RVFileEditor *editor, qint64 findings)
         return fail(u"-"_s, { RVFilePosition(), editor->errorString() });
     myInputCopy = std::move(mended);
     myInputCopy->seek(0);
-    for (QByteArray piece = myInputCopy->read(PIECE); !piece.isEmpty(); piece = myInputCopy->read(PIECE))
+    for (QByteArray piece = myInputCopy->read(WRITE_SIZE); !piece.isEmpty(); piece = myInputCopy->read(WRITE_SIZE))
         myConsole->write(std::string_view(piece.constData(), std::size_t(piece.size())));
     std::fflush(myConsole->output);
     if (editor->count() > 0)
@@ -179,7 +179,7 @@ std::optional<Problem> FixRun::collect(RVCatalogueReader *reader, const QString 
         myProgressBar.show(fileName, reader->bytesRead(), size);
         return true;
     };
-    reader->map(findingsOf, add);
+    reader->map(allFindings, add);
     add(reader->findings());
     if (reader->hasError())
         return Problem { reader->errorPosition(), reader->errorString() };
@@ -192,7 +192,7 @@ bool FixRun::copyInput()
     const std::unique_ptr<QIODevice> input = myConsole->openInput();
     bool isWritten = myInputCopy->open();
     while (isWritten) {
-        const QByteArray piece = input->read(PIECE);
+        const QByteArray piece = input->read(WRITE_SIZE);
         if (piece.isEmpty())
             break;
         isWritten = myInputCopy->write(piece) == piece.size();

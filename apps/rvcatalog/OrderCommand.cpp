@@ -58,14 +58,14 @@ void writeOrder(const Order &order, const Console &console)
 }
 
 /// The options of the user.
-struct Request
+struct OrderRequest
 {
     QString catalogueName;
     QString projectName;
     bool isJson;
 };
 
-void writeFound(const Order *order, const Request &request, const QList<Problem> &problems, const Console &console)
+void writeFound(const Order *order, const OrderRequest &request, const QList<Problem> &problems, const Console &console)
 {
     if (request.isJson)
         console.write(orderJson(order, { request.catalogueName, request.projectName }, problems));
@@ -73,7 +73,7 @@ void writeFound(const Order *order, const Request &request, const QList<Problem>
         writeOrder(*order, console);
 }
 
-int orderProject(const Request &request, const Console &console)
+int orderProject(const OrderRequest &request, const Console &console)
 {
     const std::optional<RVCatalogueProject> project = readProject(request.projectName, console);
     if (!project)

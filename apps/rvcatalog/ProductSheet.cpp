@@ -16,7 +16,7 @@ QString capitalised(const QString &text)
 }
 
 /// The remarks about a value of an option, each piece once.
-QString valueText(const ProductOption &option)
+QString valueRemarks(const ProductOption &option)
 {
     QStringList pieces;
     const auto add = [&pieces](QLatin1StringView label, const QString &text) {
@@ -104,6 +104,6 @@ void ProductSheet::writeOptions(const RVCatalogueProduct &product)
                               + (option.option.keyName().isEmpty() ? QString()
                                                                    : " ("_L1 + option.option.keyName() + u')'));
         key = option.option.key();
-        writeLine("  "_L1 + option.option.value() + (option.isDefault ? "*"_L1 : ""_L1), valueText(option));
+        writeLine("  "_L1 + option.option.value() + (option.isDefault ? "*"_L1 : ""_L1), valueRemarks(option));
     }
 }

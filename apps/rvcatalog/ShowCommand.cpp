@@ -29,7 +29,7 @@ void writeProducts(CatalogueFile &file, const ProductFilter &filter, Writer *wri
     }
 }
 
-void writeTable(CatalogueFile &file, const ProductFilter &filter, ShowReport *report, const Console &console)
+void writeProductTable(CatalogueFile &file, const ProductFilter &filter, ShowReport *report, const Console &console)
 {
     QTextStream out(console.output);
     ProductTable table(&out);
@@ -51,7 +51,7 @@ Write writer(const QString &format, bool isLong)
 {
     if (format == "json"_L1)
         return writeCatalogueJson;
-    return isLong ? writeSheets : writeTable;
+    return isLong ? writeSheets : writeProductTable;
 }
 
 int show(const QString &fileName, const ProductFilter &filter, Write write, const Console &console)
@@ -71,7 +71,7 @@ int show(const QString &fileName, const ProductFilter &filter, Write write, cons
     return file.finish() ? report.end() : EXIT_UNREADABLE;
 }
 
-QString description()
+QString showDescription()
 {
     return u"Lists the products of a catalogue, or those of the types that are named: type, page counts, how many "
            u"counts "
@@ -90,7 +90,7 @@ QString description()
 int showCommand(const QStringList &arguments, const Console &console)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(description());
+    parser.setApplicationDescription(showDescription());
     const QCommandLineOption format = formatOption({ u"text"_s, u"json"_s });
     const QCommandLineOption isLong(u"long"_s, u"Tell everything, one line a subject."_s);
     const QCommandLineOption where(

@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 PIECE = qint64(64) * 1024;
+constexpr qint64 READ_SIZE = qint64(64) * 1024;
 constexpr qsizetype LONGEST_LINE = 1000000;
 
 QStringDecoder decoderFor(const QByteArray &begin)
@@ -89,7 +89,7 @@ bool SourceLines::readPiece()
 {
     myText.remove(0, myBegin);
     myBegin = 0;
-    const QByteArray bytes = myFile.read(PIECE);
+    const QByteArray bytes = myFile.read(READ_SIZE);
     const QString piece = myDecoder(bytes);
     myText += piece;
     return !bytes.isEmpty();

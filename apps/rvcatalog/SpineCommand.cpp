@@ -51,7 +51,7 @@ void writeCell(QTextStream &out, int width, const QString &text)
 }
 
 /// False if the output is gone, for example because the reader of a pipe has ended.
-bool writeTable(const SpineTable &table, const Console &console)
+bool writeSpineTable(const SpineTable &table, const Console &console)
 {
     QTextStream out(console.output);
     out << "     PAGES   PACKAGES     BLOCKS  SPINE mm  FONT pt " << SpineFont::family() << '\n';
@@ -117,7 +117,7 @@ bool writePlot(const QString &fileName, const SpineTable &table, const QString &
 }
 
 /// The options of the user.
-struct Request
+struct SpineRequest
 {
     QString catalogueName;
     QString type;
@@ -125,7 +125,7 @@ struct Request
     QString format;
 };
 
-int writeSpine(const Request &request, const Console &console)
+int writeSpine(const SpineRequest &request, const Console &console)
 {
     const QString &catalogueName = request.catalogueName;
     const std::optional<ProductSearch> search = findProduct(catalogueName, RVProductType(request.type), console);
@@ -143,7 +143,7 @@ int writeSpine(const Request &request, const Console &console)
     if (!request.plotName.isEmpty() && !writePlot(request.plotName, table, plotTitle(values), console))
         return EXIT_UNREADABLE;
     const bool isWritten = request.format == "json"_L1 ? writeJson(catalogueName, values, table, console)
-                                                       : writeTable(table, console);
+                                                       : writeSpineTable(table, console);
     return isWritten ? EXIT_FINE : EXIT_UNREADABLE;
 }
 

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto NAME = "color"_L1;
+constexpr auto COLOR_ATTRIBUTE = "color"_L1;
 
 bool isColor(const QString &text)
 {
@@ -64,10 +64,10 @@ QString adviceOn(const QString &color)
 
 void RVColorCheck::check(const RVCatalogueElement &form)
 {
-    const QByteArrayView bytes = form.utf8(NAME);
+    const QByteArrayView bytes = form.utf8(COLOR_ATTRIBUTE);
     if (bytes.isEmpty() || QColor::fromString(QUtf8StringView(bytes)).isValid())
         return;
-    const QString color = form.attribute(NAME);
+    const QString color = form.attribute(COLOR_ATTRIBUTE);
     if (!isColor(color))
         addInvalid(form, color);
 }
@@ -77,7 +77,7 @@ void RVColorCheck::addInvalid(const RVCatalogueElement &form, const QString &col
     const QString meant = meantColor(color);
     const QString advice = meant.isNull() ? adviceOn(color) : RVFindingText::tr("write %1").arg(rvQuoted(meant));
     const QString text = RVFindingText::tr("%1 is no colour").arg(rvQuoted(color));
-    myReport->add(RVCatalogueRuleId::OptionColorInvalid, form, NAME,
+    myReport->add(RVCatalogueRuleId::OptionColorInvalid, form, COLOR_ATTRIBUTE,
                   rvAdvised(rvAdvised(text, RVForeignLetters(color).text()), advice),
-                  { {}, rvReplaced(form, NAME, meant) });
+                  { {}, rvReplaced(form, COLOR_ATTRIBUTE, meant) });
 }

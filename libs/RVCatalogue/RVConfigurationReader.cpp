@@ -19,7 +19,7 @@ constexpr auto WIDTH = "width"_L1;
 constexpr auto HEIGHT = "height"_L1;
 
 /// The longest page in millimetres. No press prints longer ones, so a larger number is not in millimetres.
-constexpr qreal LONGEST_PAGE = 10000;
+constexpr qreal LONGEST_PAGE_SIDE = 10000;
 
 constexpr auto OFF = "off"_L1;
 constexpr RVCatalogueSeverity SEVERITIES[] = { RVCatalogueSeverity::Note, RVCatalogueSeverity::Warning,
@@ -186,9 +186,9 @@ std::optional<qreal> RVConfigurationReader::length(const QStringList &path, cons
         return std::nullopt;
     }
     const qreal length = value.toDouble();
-    if (length > 0 && length <= LONGEST_PAGE)
+    if (length > 0 && length <= LONGEST_PAGE_SIDE)
         return length;
-    refuseValue(path, tr("%1 must be above 0 and at most %2 mm").arg(dotted(path)).arg(int(LONGEST_PAGE)));
+    refuseValue(path, tr("%1 must be above 0 and at most %2 mm").arg(dotted(path)).arg(int(LONGEST_PAGE_SIDE)));
     return std::nullopt;
 }
 

@@ -52,7 +52,7 @@ QString foldedName(const QString &name)
 }
 
 /// The text in lower case, without separators of words.
-QString squeezed(const QString &text)
+QString withoutSeparators(const QString &text)
 {
     static const QRegularExpression theSeparators(u"[\\s_-]+"_s);
     return text.toLower().remove(theSeparators);
@@ -96,7 +96,7 @@ RVKeywordVocabulary::RVKeywordVocabulary(RVCatalogueAttribute attribute)
                    [](const QString &keyword) { return keyword.toUtf8(); });
     std::sort(myFaultless.begin(), myFaultless.end());
     for (const QString &keyword : std::as_const(myGuesses))
-        mySqueezed[squeezed(keyword)] += keyword;
+        mySqueezed[withoutSeparators(keyword)] += keyword;
     for (const RVCatalogueAttributeValue &value : attribute.values()) {
         myKeywords += writtenKeyword(value);
         if (!value.displayName.isEmpty())
@@ -209,7 +209,7 @@ qsizetype RVKeywordVocabulary::countKeywords(const QStringList &pieces) const
 /// Keywords that differ only in blanks, dashes and letters of the same look.
 bool RVKeywordVocabulary::explainSpelling(const QString &plain, RVKeywordFault *fault) const
 {
-    const QStringList keywords = mySqueezed.value(squeezed(plain));
+    const QStringList keywords = mySqueezed.value(withoutSeparators(plain));
     if (keywords.isEmpty())
         return false;
     guess(plain, keywords, fault);

@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Every element may have a name, so this attribute belongs everywhere.
-constexpr auto NAME = "name"_L1;
+constexpr auto NAME_ATTRIBUTE = "name"_L1;
 /// Words that other programs would not use by chance, in addition to all words with an underscore.
 constexpr QLatin1StringView DISTINCTIVE[] = { "pageNr"_L1, "units"_L1, "pages"_L1, "pieces"_L1, "preselected"_L1 };
 
@@ -159,7 +159,7 @@ bool RVNameCheck::checkPlace(const Attribute &attribute)
     const bool isAbove = owner.parent == attribute.known.name && lacksInAny(attribute.element, owner.name, name);
     const bool isBelow = attribute.known.parent == owner.name && owner.parent.isEmpty()
             && !myReport->product().element().hasAttribute(name);
-    const bool isMisplaced = name != NAME && (isDistinctive(attribute.name) || isAbove || isBelow);
+    const bool isMisplaced = name != NAME_ATTRIBUTE && (isDistinctive(attribute.name) || isAbove || isBelow);
     if (!isMisplaced || myReport->check().isForeign(name))
         return true;
     for (const RVKnownElement *each : owners) {

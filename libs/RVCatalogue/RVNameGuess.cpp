@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// The longest name in letters; a longer one is not in the vocabulary.
-constexpr qsizetype LONGEST = 40;
+constexpr qsizetype LONGEST_NAME = 40;
 /// Known names from this length on may need two changes.
 constexpr int LONG_NAME = 10;
 constexpr qsizetype SHORT_NAME = 4;
@@ -184,7 +184,7 @@ RVNameGuess rvGuessName(QByteArrayView name, const RVNameList &knownNames)
 {
     RVNameGuess result;
     result.changes = TOO_MANY;
-    if (name.size() > 2 * LONGEST)
+    if (name.size() > 2 * LONGEST_NAME)
         return result;
     const LetterSet letters(name);
     for (const QLatin1StringView known : knownNames) {

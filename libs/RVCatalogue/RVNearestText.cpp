@@ -7,11 +7,11 @@
 
 namespace {
 
-constexpr qsizetype LONGEST = 64;
+constexpr qsizetype LONGEST_TEXT = 64;
 
 /// One row of the table of distances: those between the first letters of one text, as many as there are rows in front,
 /// and the first letters of another text.
-using Row = std::array<int, LONGEST + 1>;
+using DistanceRow = std::array<int, LONGEST_TEXT + 1>;
 
 bool isSwapped(QStringView a, qsizetype i, QStringView b, qsizetype j)
 {
@@ -20,10 +20,10 @@ bool isSwapped(QStringView a, qsizetype i, QStringView b, qsizetype j)
 
 int distanceBetween(QStringView a, QStringView b)
 {
-    std::array<Row, 3> rows = {};
-    Row *beforeLast = &rows[0];
-    Row *last = &rows[1];
-    Row *row = &rows[2];
+    std::array<DistanceRow, 3> rows = {};
+    DistanceRow *beforeLast = &rows[0];
+    DistanceRow *last = &rows[1];
+    DistanceRow *row = &rows[2];
     std::iota(row->begin(), row->begin() + b.size() + 1, 0);
     for (qsizetype i = 1; i <= a.size(); ++i) {
         std::swap(beforeLast, last);
@@ -43,14 +43,14 @@ int distanceBetween(QStringView a, QStringView b)
 }
 
 RVNearestText::RVNearestText(const QString &wanted, int limit)
-    : myWanted(wanted.left(LONGEST).toCaseFolded().left(LONGEST)),
+    : myWanted(wanted.left(LONGEST_TEXT).toCaseFolded().left(LONGEST_TEXT)),
       myDistance(limit)
 { }
 
 void RVNearestText::offer(const QString &text)
 {
     const QString folded = text.toCaseFolded();
-    if (text.isEmpty() || folded.size() > LONGEST || qAbs(folded.size() - myWanted.size()) >= myDistance)
+    if (text.isEmpty() || folded.size() > LONGEST_TEXT || qAbs(folded.size() - myWanted.size()) >= myDistance)
         return;
     const int found = distanceBetween(myWanted, folded);
     if (found >= myDistance)

@@ -39,19 +39,19 @@ bool mayBeBlank(char letter)
     return uchar(letter) <= ' ' || uchar(letter) >= 0x80;
 }
 
-bool isBlank(QChar letter)
+bool isSpace(QChar letter)
 {
     return letter.isSpace();
 }
 
-bool isInvisible(QChar letter)
+bool isFormatMark(QChar letter)
 {
     return letter.category() == QChar::Other_Format;
 }
 
 bool isUnseen(QChar letter)
 {
-    return isBlank(letter) || isInvisible(letter);
+    return isSpace(letter) || isFormatMark(letter);
 }
 
 /// The text about a key or a value with blanks or invisible letters; its placeholders are not filled in.
@@ -59,7 +59,7 @@ QString faultText(const QString &text, bool hasBlankInside)
 {
     if (hasBlankInside)
         return RVFindingText::tr("the %1 %2 has a blank in it");
-    return std::any_of(text.begin(), text.end(), isBlank) ? RVFindingText::tr("the %1 %2 has a blank around it")
+    return std::any_of(text.begin(), text.end(), isSpace) ? RVFindingText::tr("the %1 %2 has a blank around it")
                                                           : RVFindingText::tr("the %1 %2 is not what it looks like");
 }
 
@@ -168,8 +168,8 @@ void RVOptionSpellingCheck::checkUnseen(const RVCatalogueElement &form, QLatin1S
     if (first == text.end())
         return;
     QString seen = text;
-    seen = seen.removeIf(isInvisible).trimmed();
-    const bool hasBlankInside = seen.isEmpty() || std::any_of(seen.begin(), seen.end(), isBlank);
+    seen = seen.removeIf(isFormatMark).trimmed();
+    const bool hasBlankInside = seen.isEmpty() || std::any_of(seen.begin(), seen.end(), isSpace);
     const QString fault = faultText(text, hasBlankInside).arg(attribute, rvQuoted(text));
     const QString letter = RVForeignLetters(QStringView(first, 1)).text();
     myReport->add(RVCatalogueRuleId::OptionBlank, form, attribute,

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// The number of page counts at which widths are compared.
-constexpr qint64 MOST_COUNTS = 10000;
+constexpr qint64 MOST_COMPARED_COUNTS = 10000;
 
 /// Consecutive page counts with the same two widths.
 struct Widths
@@ -62,7 +62,7 @@ void add(const Widths &widths, RVProductChanges *changes)
 void compareWidths(const RVVersions<Spine> &spines, const RVPageCountRange &counts, RVProductChanges *changes)
 {
     Widths same;
-    const qint64 count = qMin(counts.size(), MOST_COUNTS);
+    const qint64 count = qMin(counts.size(), MOST_COMPARED_COUNTS);
     for (qint64 i = 0; i < count; ++i) {
         const qint64 pages = counts.from + i * counts.step;
         const RVVersions<RVDistance> at { spines.before.width(pages), spines.after.width(pages) };

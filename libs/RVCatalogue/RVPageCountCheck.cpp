@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// The highest usual number of page counts. Books have some hundred at most, and boxes of single photos some more.
-constexpr qint64 MOST_COUNTS = 1000;
+constexpr qint64 MOST_USUAL_COUNTS = 1000;
 
 /// The number of page counts of a valid organisation with a step.
 qint64 numberOfCounts(const RVPageCountOrganization &counts)
@@ -98,7 +98,7 @@ bool RVPageCountCheck::checkSteps(const RVCatalogueElement &product, const RVPag
                       { { rvPlaceOf(product, "page_step"_L1, RVFindingText::tr("the step")) }, {} });
         return false;
     }
-    if (number > MOST_COUNTS) {
+    if (number > MOST_USUAL_COUNTS) {
         const QString text = RVFindingText::tr(
                 "there are %1 page counts from %2 to %3; lower max_pages, or raise page_step");
         myReport->add(RVCatalogueRuleId::PageCountsExcessive, product, maxPages,

@@ -19,7 +19,6 @@ namespace {
 /// The widest spine in millimetres. Industrial perfect binders make the thickest books, and take blocks of at most
 /// about this width.
 constexpr qreal WIDEST_SPINE = 80;
-constexpr qreal TENTHS_PER_MILLIMETRE = 10;
 
 unsigned pageCount(int pages)
 {
@@ -130,7 +129,7 @@ void RVSpineCheck::checkWidest(const Spine &spine)
     if (!spine.isReadable || !spine.isUnitKnown || !myPageCounts.areValid)
         return;
     const int pages = myPageCounts.counts.maxPages();
-    const qreal width = spine.config.spineWidth(pageCount(pages)).value() / TENTHS_PER_MILLIMETRE;
+    const qreal width = spine.config.spineWidth(pageCount(pages)).value(DISTANCE_UNIT_MILLIMETRE);
     if (width <= WIDEST_SPINE)
         return;
     const int blocks = spine.config.additionalPagePackageBlocks(pageCount(pages));

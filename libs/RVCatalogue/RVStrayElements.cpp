@@ -15,7 +15,7 @@ namespace {
 
 constexpr qsizetype MOST = 1000;
 
-constexpr QLatin1StringView PRODUCT[] = { "product"_L1 };
+constexpr QLatin1StringView PRODUCT_NAMES[] = { "product"_L1 };
 
 QString typeOf(const RVXmlTag &tag)
 {
@@ -57,10 +57,10 @@ bool isPlural(QByteArrayView name)
 std::optional<RVStrayElement> strayProduct(const RVXmlTag &tag)
 {
     const qsizetype colon = tag.name.indexOf(':');
-    if (colon >= 0 && rvIsName(tag.name.sliced(colon + 1), PRODUCT[0]))
-        return stray(tag, RVCatalogueRuleId::ElementPrefixed, PRODUCT[0]);
-    if (colon < 0 && !rvGuessName(tag.name, PRODUCT).names.isEmpty() && !isPlural(tag.name))
-        return stray(tag, RVCatalogueRuleId::ElementMisspelt, PRODUCT[0]);
+    if (colon >= 0 && rvIsName(tag.name.sliced(colon + 1), PRODUCT_NAMES[0]))
+        return stray(tag, RVCatalogueRuleId::ElementPrefixed, PRODUCT_NAMES[0]);
+    if (colon < 0 && !rvGuessName(tag.name, PRODUCT_NAMES).names.isEmpty() && !isPlural(tag.name))
+        return stray(tag, RVCatalogueRuleId::ElementMisspelt, PRODUCT_NAMES[0]);
     return std::nullopt;
 }
 

@@ -8,12 +8,10 @@
 
 namespace {
 
-constexpr qint64 PIECE = qint64(64) * 1024;
+constexpr qint64 LONGEST_PIECE = qint64(64) * 1024;
 /// The number of bytes of UTF-8 before the end of a piece in which letters are converted one by one: no letter, and no
 /// two that are written as one, have more.
 constexpr qint64 MARGIN = 16;
-/// The most bytes of a letter in any encoding, including the switch to its alphabet.
-constexpr qsizetype LONGEST_LETTER = 16;
 
 }
 
@@ -81,7 +79,7 @@ RVTextBytes::~RVTextBytes() = default;
 RVTextPiece RVTextBytes::take(qint64 size)
 {
     if (!myConverter) {
-        const QByteArray bytes = myDevice->read(qMin(size, PIECE));
+        const QByteArray bytes = myDevice->read(qMin(size, LONGEST_PIECE));
         return { bytes, bytes };
     }
     if (!myConverter->isKnown())
@@ -90,9 +88,9 @@ RVTextPiece RVTextBytes::take(qint64 size)
         return takeExactly(size);
     if (!myAhead.isEmpty())
         return std::exchange(myAhead, RVTextPiece());
-    if (available() < LONGEST_LETTER)
+    if (available() < RV_LONGEST_LETTER)
         fill();
-    const RVTextPiece piece = convert(available(), qMin(size - MARGIN, PIECE));
+    const RVTextPiece piece = convert(available(), qMin(size - MARGIN, LONGEST_PIECE));
     return piece.isEmpty() ? takeLetter() : piece;
 }
 
@@ -118,7 +116,7 @@ RVTextPiece RVTextBytes::takeExactly(qint64 size)
 // The smallest number of bytes that iconv accepts.
 RVTextPiece RVTextBytes::takeLetter()
 {
-    for (qsizetype size = 1; size <= LONGEST_LETTER; ++size) {
+    for (qsizetype size = 1; size <= RV_LONGEST_LETTER; ++size) {
         if (available() < size && !fill())
             return { QByteArray(), available() == 0 ? myConverter->end() : QByteArray() };
         const RVTextPiece letter = convert(size, MARGIN);
@@ -137,7 +135,7 @@ RVTextPiece RVTextBytes::convert(qsizetype size, qint64 room)
 
 bool RVTextBytes::fill()
 {
-    const QByteArray bytes = myDevice->read(PIECE);
+    const QByteArray bytes = myDevice->read(LONGEST_PIECE);
     myBytes = myBytes.sliced(std::exchange(myPlace, 0)) + bytes;
     return !bytes.isEmpty();
 }

@@ -8,9 +8,6 @@
 
 namespace {
 
-/// The most bytes of a letter in any encoding, including the switch to its alphabet.
-constexpr std::size_t LONGEST_LETTER = 16;
-
 QByteArray referenceTo(char32_t letter)
 {
     return "&#x" + QByteArray::number(uint(letter), 16).toUpper() + ';';
@@ -56,7 +53,7 @@ bool RVTextEncoder::append(QByteArray *bytes, QByteArrayView letter) const
     // NOLINTNEXTLINE(performance-no-int-to-ptr): the error is defined like this
     if (myHandle == iconv_t(-1))
         return false;
-    std::array<char, LONGEST_LETTER * LONGEST_LETTER> buffer {};
+    std::array<char, std::size_t(RV_LONGEST_LETTER * RV_LONGEST_LETTER)> buffer {};
     char *from = const_cast<char *>(letter.data()); // NOLINT(cppcoreguidelines-pro-type-const-cast): iconv reads
     auto left = std::size_t(letter.size());
     char *to = buffer.data();

@@ -36,7 +36,7 @@ const QList<Unit> &units()
 }
 
 /// The text without blanks and invisible letters, in lower case.
-QString squeezed(const QString &text)
+QString plainUnit(const QString &text)
 {
     QString result = RVForeignLetters(text).plain().toLower();
     return result.removeIf([](QChar letter) { return letter.isSpace(); });
@@ -60,7 +60,7 @@ QStringList rvUnits()
 
 QString rvMeantUnit(const QString &text)
 {
-    const QString wanted = squeezed(text);
+    const QString wanted = plainUnit(text);
     // Another part of another unit is no typing mistake for a tenth of a millimetre.
     const bool hasDigit = std::any_of(wanted.begin(), wanted.end(), [](QChar letter) { return letter.isDigit(); });
     RVNearestTexts nearest(wanted, hasDigit ? 0 : 2);

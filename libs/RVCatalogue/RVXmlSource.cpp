@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 PIECE = qint64(64) * 1024;
+constexpr qint64 READ_SIZE = qint64(64) * 1024;
 /// The limit of a declaration, which is always shorter.
 constexpr qint64 LONGEST_DECLARATION = 1024;
 
@@ -151,7 +151,7 @@ QByteArray RVXmlSource::read()
 {
     // A piece may be only a part of a letter.
     while (myFault.isEmpty()) {
-        const QByteArray bytes = myHasBegun ? readDevice(PIECE) : readBegin();
+        const QByteArray bytes = myHasBegun ? readDevice(READ_SIZE) : readBegin();
         QByteArray text = myConverter ? converted(myRest + bytes) : bytes;
         if (!text.isEmpty() || bytes.isEmpty())
             return text;
@@ -188,10 +188,10 @@ QByteArray RVXmlSource::readDevice(qint64 size)
 QByteArray RVXmlSource::readBegin()
 {
     myHasBegun = true;
-    QByteArray bytes = readDevice(PIECE);
+    QByteArray bytes = readDevice(READ_SIZE);
     bool isAtEnd = bytes.isEmpty();
     while (!isAtEnd && bytes.size() < LONGEST_DECLARATION && !hasWholeDeclaration(bytes)) {
-        const QByteArray piece = readDevice(PIECE);
+        const QByteArray piece = readDevice(READ_SIZE);
         bytes += piece;
         isAtEnd = piece.isEmpty();
     }

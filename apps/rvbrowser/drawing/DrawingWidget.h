@@ -26,6 +26,8 @@ public:
     DrawingMenu *menu() const { return myMenu; }
 
 protected:
+    static constexpr qreal MARGIN = 8; ///< Around the drawing, in pixels.
+
     void contextMenuEvent(QContextMenuEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;

@@ -6,12 +6,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr qreal MARGIN = 8; // pixels
-
-}
-
 PageDrawing::PageDrawing(QWidget *parent) : DrawingWidget(tr("P&age"), parent)
 {
     setObjectName(u"pageDrawing"_s);

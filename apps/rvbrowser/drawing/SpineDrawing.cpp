@@ -7,7 +7,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qreal MARGIN = 8; // pixels
 /// The widest spine fills the drawing up to here, but a narrow one is not blown up.
 constexpr qreal MOST_PIXELS = 6; // a millimetre
 /// In millimetres: next to a spine that is wider than this, which no press makes, all others could not be seen.

@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize USUAL_SIZE(820, 460);
+constexpr QSize USUAL_DIALOG_SIZE(820, 460);
 constexpr qsizetype MOST_BYTES = qsizetype(512) * 1024;
 
 /// The bytes as text; where they are not UTF-8, each of them is a letter.
@@ -59,7 +59,7 @@ FixDialog::FixDialog(std::unique_ptr<FixPlan> plan, QWidget *parent) : QDialog(p
     layout->addWidget(diff, 1);
     layout->addWidget(buttons);
     buttons->button(QDialogButtonBox::Apply)->setFocus();
-    resize(USUAL_SIZE);
+    resize(USUAL_DIALOG_SIZE);
 }
 
 void FixDialog::accept()

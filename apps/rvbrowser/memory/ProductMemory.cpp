@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto FILE_NAME = "file"_L1; // not read; it tells people whose the entry is
+constexpr auto FILE_NAME_KEY = "file"_L1; // not read; it tells people whose the entry is
 constexpr auto TYPE = "type"_L1;
 constexpr auto PAGES = "pages"_L1;
 constexpr auto OPTIONS = "options"_L1;
@@ -48,7 +48,7 @@ RVProductType ProductMemory::lastProduct(const QString &fileName) const
 void ProductMemory::setLastProduct(const QString &fileName, const RVProductType &type)
 {
     const QString name = absolute(fileName);
-    myCatalogues.setValues({ name }, { { FILE_NAME, name }, { TYPE, type.toString() } });
+    myCatalogues.setValues({ name }, { { FILE_NAME_KEY, name }, { TYPE, type.toString() } });
 }
 
 std::optional<ProductChoice> ProductMemory::choice(const QString &fileName, const RVProductType &type) const
@@ -65,5 +65,5 @@ void ProductMemory::setChoice(const QString &fileName, const RVProductType &type
     const QStringList options = toList(choice.variants);
     myProducts.setValues(
             { name, type.toString() },
-            { { FILE_NAME, name }, { TYPE, type.toString() }, { PAGES, choice.pages }, { OPTIONS, options } });
+            { { FILE_NAME_KEY, name }, { TYPE, type.toString() }, { PAGES, choice.pages }, { OPTIONS, options } });
 }

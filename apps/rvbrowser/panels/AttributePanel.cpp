@@ -10,7 +10,7 @@
 namespace {
 
 /// A longer word is cut off, and its tool tip has all of it.
-constexpr int LEAST_CHARACTERS = 12;
+constexpr int LEAST_VALUE_CHARACTERS = 12;
 
 }
 
@@ -41,7 +41,7 @@ void AttributePanel::addLine(const QString &label)
     text->setTextFormat(Qt::PlainText);
     text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     text->setWordWrap(true);
-    text->setMinimumWidth(text->fontMetrics().averageCharWidth() * LEAST_CHARACTERS);
+    text->setMinimumWidth(text->fontMetrics().averageCharWidth() * LEAST_VALUE_CHARACTERS);
     myLayout->addRow(name, text);
     myTexts += text;
 }

@@ -25,7 +25,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int SHOWN_LINES = 8;
+constexpr int SHOWN_CHANGES = 8;
 /// More products than these are collapsed, so that there is an overview.
 constexpr int MOST_EXPANDED = 100;
 
@@ -165,7 +165,7 @@ void ComparisonPanel::copy() const
 
 QSize ComparisonPanel::sizeHint() const
 {
-    return { 600, (SHOWN_LINES + 2) * (fontMetrics().height() + 6) };
+    return { 600, (SHOWN_CHANGES + 2) * (fontMetrics().height() + 6) };
 }
 
 void ComparisonPanel::filter()

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int LEAST_CHARACTERS = 6;
+constexpr int LEAST_LABEL_CHARACTERS = 6;
 
 }
 
@@ -33,7 +33,7 @@ QSize ElidedLabel::sizeHint() const
 QSize ElidedLabel::minimumSizeHint() const
 {
     const QSize wanted = sizeHint();
-    return { qMin(wanted.width(), fontMetrics().averageCharWidth() * LEAST_CHARACTERS), wanted.height() };
+    return { qMin(wanted.width(), fontMetrics().averageCharWidth() * LEAST_LABEL_CHARACTERS), wanted.height() };
 }
 
 bool ElidedLabel::event(QEvent *event)

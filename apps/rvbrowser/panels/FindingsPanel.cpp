@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int SHOWN_LINES = 5;
+constexpr int SHOWN_FINDINGS = 5;
 
 /// True for one fault in two states of a file, also where it moved.
 bool isSame(const RVCatalogueFinding &a, const RVCatalogueFinding &b)
@@ -294,7 +294,7 @@ QSize FindingsPanel::sizeHint() const
     if (myModel.findingCount() == 0)
         return { 600, line };
     return { 600,
-             SHOWN_LINES * line + myView->horizontalHeader()->sizeHint().height() + myFilter->sizeHint().height() };
+             SHOWN_FINDINGS * line + myView->horizontalHeader()->sizeHint().height() + myFilter->sizeHint().height() };
 }
 
 void FindingsPanel::choose(const QModelIndex &index)

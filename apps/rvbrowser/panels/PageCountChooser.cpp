@@ -13,7 +13,7 @@ namespace {
 
 /// A list view lays out all its rows at once.
 constexpr int LONGEST_LIST = 5000;
-constexpr int LIST_WIDTH = 12; // characters
+constexpr int LIST_CHARACTERS = 12;
 
 }
 
@@ -28,7 +28,7 @@ PageCountChooser::PageCountChooser(QWidget *parent)
     myList->setObjectName(u"pageCounts"_s);
     myList->setAccessibleName(tr("Page count"));
     myList->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    myList->setMinimumContentsLength(LIST_WIDTH);
+    myList->setMinimumContentsLength(LIST_CHARACTERS);
     myList->setModel(&myPages);
     myNumber->setObjectName(u"pageNumber"_s);
     myNumber->setAccessibleName(tr("Page count"));

@@ -24,7 +24,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Order lines that are broken more often than this are hard to read.
-constexpr int LEAST_CHARACTERS = 60;
+constexpr int LEAST_TEXT_CHARACTERS = 60;
 /// Nearly all room that is left over is for the drawings; where there are none it stays free.
 constexpr int DRAWING_STRETCH = 100;
 
@@ -217,7 +217,7 @@ QWidget *ProductView::createContent()
 void ProductView::arrangeColumns()
 {
     const QMargins edges = widget()->layout()->contentsMargins();
-    const int texts = qMax(myTexts->minimumSize().width(), fontMetrics().averageCharWidth() * LEAST_CHARACTERS);
+    const int texts = qMax(myTexts->minimumSize().width(), fontMetrics().averageCharWidth() * LEAST_TEXT_CHARACTERS);
     const int drawings = qMax(mySpine->minimumSizeHint().width(), myPage->minimumSizeHint().width());
     const int needed = edges.left() + texts + myColumns->spacing() + drawings + edges.right();
     const bool isWide = needed <= viewport()->width();
