@@ -151,6 +151,9 @@ run 0 "$tree/dev" help
 help=$output
 for command in $(sed -n 's/^command_\([a-z]*\)() .*/\1/p' "$dev"); do
     grep -qE "^  $command " <<<"$help" || fail "help does not name $command"
+    run 2 "$tree/dev" "$command" nonsense
+    ! grep -qF 'there is no command' <<<"$output" || fail "$command cannot be called"
+    not_called 'cmake'
 done
 run 0 "$tree/dev"
 [[ $output == "$help" ]] || fail "without a command there should be help"
