@@ -24,7 +24,7 @@ QString meantColor(const QString &text)
 {
     static const QRegularExpression theHexadecimal(u"^(?:0[xX])?((?:[0-9a-fA-F]{2}){3,4})$"_s);
     static const QRegularExpression theBlanks(u"\\s+"_s);
-    const QString plain = RVForeignLetters(text).plain().remove(theBlanks);
+    QString plain = RVForeignLetters(text).plain().remove(theBlanks);
     if (isColor(plain))
         return plain;
     const QRegularExpressionMatch match = theHexadecimal.match(plain);

@@ -126,6 +126,7 @@ void RVNameCheck::check(const RVCatalogueProduct &product)
     checkElement(product.element(), RV_KNOWN_ELEMENTS[0]);
 }
 
+// NOLINTBEGIN(misc-no-recursion): the depth is that of the known elements
 void RVNameCheck::checkElement(const RVCatalogueElement &element, const RVKnownElement &known)
 {
     checkAttributes(element, known);
@@ -218,6 +219,7 @@ void RVNameCheck::checkChild(const RVCatalogueElement &child, const RVCatalogueE
                       .arg(rvQuotedName(name), known.name, knownChild->parent);
     addElement(RVCatalogueRuleId::ElementMisplaced, child, name, text);
 }
+// NOLINTEND(misc-no-recursion)
 
 void RVNameCheck::checkUnknownChild(const RVCatalogueElement &child, const RVKnownElement &parent)
 {

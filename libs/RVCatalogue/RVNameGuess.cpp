@@ -124,7 +124,7 @@ QStringList words(QByteArrayView name)
 }
 
 /// True for a known name with a word in front of it or behind it, or with a number behind it, which is another name.
-bool isExtended(QStringList words, const QStringList &knownWords)
+bool isExtended(const QStringList &words, const QStringList &knownWords)
 {
     const QString text = words.join(QString());
     const QString known = knownWords.join(QString());

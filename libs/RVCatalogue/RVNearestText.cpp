@@ -21,9 +21,9 @@ bool isSwapped(QStringView a, qsizetype i, QStringView b, qsizetype j)
 int distanceBetween(QStringView a, QStringView b)
 {
     std::array<DistanceRow, 3> rows = {};
-    DistanceRow *beforeLast = &rows[0];
-    DistanceRow *last = &rows[1];
-    DistanceRow *row = &rows[2];
+    DistanceRow *beforeLast = rows.data();
+    DistanceRow *last = beforeLast + 1;
+    DistanceRow *row = last + 1;
     std::iota(row->begin(), row->begin() + b.size() + 1, 0);
     for (qsizetype i = 1; i <= a.size(); ++i) {
         std::swap(beforeLast, last);
