@@ -27,7 +27,7 @@ constexpr struct
     { "quiet"_L1, "Write nothing; the exit code tells."_L1, ""_L1 },
     { "color"_L1, "Colours and lines of the file: auto (on a terminal), always or never."_L1, "auto|always|never"_L1 },
     { "jobs"_L1, "Check with so many threads; by default with up to 8."_L1, "NUMBER"_L1 },
-    { "fix"_L1, "Mend what has one safe answer, and find what is left; \"-\" goes mended to the output."_L1, ""_L1 },
+    { "fix"_L1, R"(Mend what has one safe answer, and find what is left; "-" goes mended to the output.)"_L1, ""_L1 },
     { "diff"_L1, "Write what --fix would change, as a unified diff; end with 1 if there is something."_L1, ""_L1 },
     { "rules"_L1, "List the rules, and why they matter."_L1, ""_L1 },
     { "config"_L1, "Read this configuration instead of the one that lies beside a catalogue."_L1, "FILE"_L1 },
