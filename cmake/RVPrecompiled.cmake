@@ -1,5 +1,5 @@
 # The headers of Qt that nearly every source here reads, parsed once. A source still includes the headers that it uses:
-# "./dev lint" and a test of the package compile without this.
+# the test package_system_platform compiles each source alone and without this.
 add_library(rv_precompiled OBJECT ${CMAKE_CURRENT_LIST_DIR}/precompiled.cpp)
 set_target_properties(rv_precompiled PROPERTIES POSITION_INDEPENDENT_CODE ON)
 target_link_libraries(rv_precompiled PRIVATE Qt6::Core Qt6::Xml)
