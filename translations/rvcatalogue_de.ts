@@ -531,124 +531,124 @@
 <context>
     <name>RVFindingText</name>
     <message>
-        <source>A file without a product is no catalogue: nothing of it can be ordered.</source>
-        <translation>Eine Datei ohne Produkt ist kein Katalog: Aus ihr lässt sich nichts bestellen.</translation>
+        <source>A file without a product is not a catalogue, and nothing can be ordered from it; add a product.</source>
+        <translation>Eine Datei ohne Produkt ist kein Katalog, und aus ihr lässt sich nichts bestellen; bitte ein Produkt hinzufügen.</translation>
     </message>
     <message>
-        <source>Projects find their product by its type, so one without a type cannot be ordered.</source>
-        <translation>Projekte finden ihr Produkt über den Typ; eines ohne Typ lässt sich nicht bestellen.</translation>
+        <source>A product without a type cannot be ordered, because projects find their product by its type; give it a type.</source>
+        <translation>Ein Produkt ohne Typ lässt sich nicht bestellen, weil Projekte ihr Produkt über den Typ finden; bitte ihm einen Typ geben.</translation>
     </message>
     <message>
-        <source>Of two products of one type the application only ever finds the first, and the codes of a photo book family are one type.</source>
-        <translation>Von zwei Produkten eines Typs findet die Anwendung immer nur das erste, und die Codes einer Fotobuchfamilie sind ein Typ.</translation>
+        <source>The application finds only the first of two products of the same type, and all codes of a photo book family are one type; give each product its own type.</source>
+        <translation>Die Anwendung findet nur das erste von zwei Produkten desselben Typs, und alle Codes einer Fotobuchfamilie sind ein Typ; bitte jedem Produkt einen eigenen Typ geben.</translation>
     </message>
     <message>
-        <source>Shop and production know an article by its id.</source>
-        <translation>Shop und Produktion kennen einen Artikel an seiner Nummer.</translation>
+        <source>Shop and production identify an article by its id; give the product an article id.</source>
+        <translation>Shop und Produktion erkennen einen Artikel an seiner Nummer; bitte dem Produkt eine Artikelnummer geben.</translation>
     </message>
     <message>
-        <source>An article id is a whole number above 0; anything else is read as no id.</source>
-        <translation>Eine Artikelnummer ist eine ganze Zahl über 0; alles andere gilt als keine Nummer.</translation>
+        <source>An article id is a whole number above 0, and any other text is read as no id; write such a number.</source>
+        <translation>Eine Artikelnummer ist eine ganze Zahl über 0, und jeder andere Text gilt als keine Nummer; bitte eine solche Zahl angeben.</translation>
     </message>
     <message>
-        <source>Two products with one article id are the same article to shop and production.</source>
-        <translation>Zwei Produkte mit einer Artikelnummer sind für Shop und Produktion derselbe Artikel.</translation>
+        <source>Two products with the same article id are one article to shop and production; give each product its own id.</source>
+        <translation>Zwei Produkte mit derselben Artikelnummer sind für Shop und Produktion ein Artikel; bitte jedem Produkt eine eigene Nummer geben.</translation>
     </message>
     <message>
-        <source>A shipping group that is no whole number, or -1, is none, so the product is shipped with nothing else.</source>
-        <translation>Eine Versandgruppe, die keine ganze Zahl ist, oder -1, ist keine; das Produkt wird dann mit nichts anderem zusammen versandt.</translation>
+        <source>A shipping group that is -1 or not a whole number counts as none, so the product is shipped separately; write the number of a group.</source>
+        <translation>Eine Versandgruppe, die -1 oder keine ganze Zahl ist, gilt als keine, sodass das Produkt einzeln versandt wird; bitte die Nummer einer Gruppe angeben.</translation>
     </message>
     <message>
-        <source>Only the first element of each kind in a product is read, so what the others say is lost.</source>
-        <translation>Von jeder Art Element in einem Produkt wird nur das erste gelesen; was die anderen sagen, geht verloren.</translation>
+        <source>Only the first element of each kind in a product is read, and no product inside another, so the contents of all others are lost; merge the parts and separate the products.</source>
+        <translation>Von jeder Art Element in einem Produkt wird nur das erste gelesen und kein Produkt in einem anderen, sodass der Inhalt aller übrigen verloren geht; bitte die Teile zusammenführen und die Produkte trennen.</translation>
     </message>
     <message>
-        <source>What cannot be read as a number silently becomes the default.</source>
-        <translation>Was sich nicht als Zahl lesen lässt, wird stillschweigend zum Standardwert.</translation>
+        <source>A value that cannot be read as a number is replaced with the default without a message; write a number.</source>
+        <translation>Ein Wert, der sich nicht als Zahl lesen lässt, wird ohne Meldung durch den Standardwert ersetzt; bitte eine Zahl angeben.</translation>
     </message>
     <message>
-        <source>What is none of true, false, 1, 0, yes, no, on and off silently becomes the default.</source>
-        <translation>Was nicht true, false, 1, 0, yes, no, on oder off ist, wird stillschweigend zum Standardwert.</translation>
+        <source>A value other than true, false, 1, 0, yes, no, on and off is replaced with the default without a message; write one of these.</source>
+        <translation>Ein anderer Wert als true, false, 1, 0, yes, no, on und off wird ohne Meldung durch den Standardwert ersetzt; bitte einen davon angeben.</translation>
     </message>
     <message>
-        <source>Lengths in an unknown unit are read as millimetres.</source>
-        <translation>Längen in einer unbekannten Einheit werden als Millimeter gelesen.</translation>
+        <source>Lengths in an unknown unit are read as millimetres; write mm, cm, inch, pt or 0.1mm.</source>
+        <translation>Längen in einer unbekannten Einheit werden als Millimeter gelesen; bitte mm, cm, inch, pt oder 0.1mm angeben.</translation>
     </message>
     <message>
-        <source>A keyword that nobody knows silently becomes the default of its attribute.</source>
-        <translation>Ein Schlüsselwort, das niemand kennt, wird stillschweigend zum Standardwert seiner Eigenschaft.</translation>
+        <source>An unknown keyword is replaced with the default of its attribute without a message; write a known keyword.</source>
+        <translation>Ein unbekanntes Schlüsselwort wird ohne Meldung durch den Standardwert seiner Eigenschaft ersetzt; bitte ein bekanntes Schlüsselwort angeben.</translation>
     </message>
     <message>
-        <source>An alias is still read, but a program that writes the value uses its main keyword.</source>
-        <translation>Ein Zweitname wird noch gelesen, aber wer den Wert schreibt, nimmt sein Hauptschlüsselwort.</translation>
+        <source>An alias is still read, but programs write the main keyword of the value; write the main keyword.</source>
+        <translation>Ein Zweitname wird noch gelesen, aber Programme schreiben das Hauptschlüsselwort des Wertes; bitte das Hauptschlüsselwort angeben.</translation>
     </message>
     <message>
-        <source>With a lowest page count above the highest no count can be chosen.</source>
-        <translation>Liegt die kleinste Seitenzahl über der größten, lässt sich keine wählen.</translation>
+        <source>No page count can be chosen if the lowest is above the highest; correct pages or max_pages.</source>
+        <translation>Keine Seitenzahl lässt sich wählen, wenn die kleinste über der größten liegt; bitte pages oder max_pages berichtigen.</translation>
     </message>
     <message>
-        <source>Without valid page counts the product cannot be ordered.</source>
-        <translation>Ohne gültige Seitenzahlen lässt sich das Produkt nicht bestellen.</translation>
+        <source>A product without valid page counts cannot be ordered; correct pages, max_pages, page_step or pieces.</source>
+        <translation>Ein Produkt ohne gültige Seitenzahlen lässt sich nicht bestellen; bitte pages, max_pages, page_step oder pieces berichtigen.</translation>
     </message>
     <message>
-        <source>The highest page count can never be reached when the steps do not meet it.</source>
-        <translation>Die größte Seitenzahl ist nie zu erreichen, wenn die Schritte sie nicht treffen.</translation>
+        <source>The highest page count can never be chosen if no number of steps leads to it; correct page_step or max_pages.</source>
+        <translation>Die größte Seitenzahl lässt sich nie wählen, wenn keine Zahl von Schritten zu ihr führt; bitte page_step oder max_pages berichtigen.</translation>
     </message>
     <message>
-        <source>A glued or lay-flat book has a spine, and without its widths the cover is made too narrow.</source>
-        <translation>Ein geklebtes Buch und eines mit Flachlage haben einen Rücken; ohne seine Breiten wird der Umschlag zu schmal.</translation>
+        <source>The cover of a glued or lay-flat book is made too narrow if the widths of its spine are missing; add them.</source>
+        <translation>Der Umschlag eines geklebten Buches oder eines Buches mit Flachlage wird zu schmal, wenn die Breiten des Rückens fehlen; bitte diese angeben.</translation>
     </message>
     <message>
-        <source>A spine that has a negative width, or grows backwards, comes out too narrow.</source>
-        <translation>Ein Rücken mit negativer Breite oder einer, der rückwärts wächst, wird zu schmal.</translation>
+        <source>A spine with a negative width or a negative number of packages comes out too narrow; write 0 or more.</source>
+        <translation>Ein Rücken mit einer negativen Breite oder einer negativen Zahl von Paketen wird zu schmal; bitte 0 oder mehr angeben.</translation>
     </message>
     <message>
-        <source>Where the spine shrinks until the smallest font no longer fits, its text is cut off.</source>
-        <translation>Schrumpft der Rücken, bis die kleinste Schrift nicht mehr passt, wird sein Text abgeschnitten.</translation>
+        <source>The text on a spine is cut off at the page counts at which the spine is too narrow for the smallest font; make the spine grow with the pages.</source>
+        <translation>Der Text auf einem Rücken wird bei den Seitenzahlen abgeschnitten, bei denen der Rücken zu schmal für die kleinste Schrift ist; bitte den Rücken mit den Seiten wachsen lassen.</translation>
     </message>
     <message>
-        <source>An option without key or value is dropped, so the customer is never offered it.</source>
-        <translation>Eine Option ohne Schlüssel oder Wert fällt weg und wird dem Kunden nie angeboten.</translation>
+        <source>An option without a key or a value is dropped and never offered to the customer; give it both.</source>
+        <translation>Eine Option ohne Schlüssel oder Wert fällt weg und wird dem Kunden nie angeboten; bitte beides angeben.</translation>
     </message>
     <message>
-        <source>The customer is offered the same choice twice, and only the first has a price.</source>
-        <translation>Der Kunde bekommt dieselbe Wahl zweimal angeboten, und nur die erste hat einen Preis.</translation>
+        <source>An option with the key and value of an earlier one is offered a second time, but only the first has a price; remove one of them.</source>
+        <translation>Eine Option mit Schlüssel und Wert einer früheren wird ein zweites Mal angeboten, aber nur die erste hat einen Preis; bitte eine davon entfernen.</translation>
     </message>
     <message>
-        <source>Of several defaults of one key the last one silently wins.</source>
-        <translation>Von mehreren Vorgaben eines Schlüssels gewinnt stillschweigend die letzte.</translation>
+        <source>Only the last of several defaults of one key takes effect; mark one value of the key as preselected.</source>
+        <translation>Nur die letzte von mehreren Vorgaben eines Schlüssels wirkt; bitte genau einen Wert des Schlüssels vorgeben.</translation>
     </message>
     <message>
-        <source>Without a default an order comes without the option, or with whichever stands first.</source>
-        <translation>Ohne Vorgabe kommt eine Bestellung ohne die Option oder mit der, die zuerst steht.</translation>
+        <source>An order comes without the option, or with the first value, if no value of the key is the default; mark one as preselected.</source>
+        <translation>Eine Bestellung kommt ohne die Option oder mit dem ersten Wert, wenn kein Wert des Schlüssels die Vorgabe ist; bitte einen vorgeben.</translation>
     </message>
     <message>
-        <source>The editor shows no swatch for a colour that it cannot read.</source>
-        <translation>Zu einer Farbe, die er nicht lesen kann, zeigt der Editor kein Farbfeld.</translation>
+        <source>The editor shows no swatch for a colour that it cannot read; write #rrggbb or the English name of a colour.</source>
+        <translation>Der Editor zeigt kein Farbfeld zu einer Farbe, die er nicht lesen kann; bitte #rrggbb oder den englischen Namen einer Farbe angeben.</translation>
     </message>
     <message>
-        <source>Keys that are chosen together need one value each, or production gets none of them.</source>
-        <translation>Schlüssel, die zusammen gewählt werden, brauchen je einen Wert, sonst bekommt die Produktion keinen davon.</translation>
+        <source>Keys that are chosen together need one value each, or production gets none of them; write as many values as keys.</source>
+        <translation>Schlüssel, die zusammen gewählt werden, brauchen je einen Wert, sonst bekommt die Produktion keinen davon; bitte so viele Werte wie Schlüssel angeben.</translation>
     </message>
     <message>
-        <source>A barcode without extent or image is dropped, and production cannot tell the product.</source>
-        <translation>Ein Barcode ohne Ausdehnung oder Bild fällt weg, und die Produktion erkennt das Produkt nicht.</translation>
+        <source>A barcode without an extent or an image is dropped, so production cannot identify the product; give it both.</source>
+        <translation>Ein Barcode ohne Ausdehnung oder Bild fällt weg, sodass die Produktion das Produkt nicht erkennt; bitte beides angeben.</translation>
     </message>
     <message>
-        <source>A barcode on a page that the product cannot have is never printed.</source>
-        <translation>Ein Barcode auf einer Seite, die das Produkt nicht haben kann, wird nie gedruckt.</translation>
+        <source>A barcode on a page that the product cannot have is never printed; correct pageNr.</source>
+        <translation>Ein Barcode auf einer Seite, die das Produkt nicht haben kann, wird nie gedruckt; bitte pageNr berichtigen.</translation>
     </message>
     <message>
-        <source>A barcode that leaves its page is cut off and cannot be read.</source>
-        <translation>Ein Barcode, der über seine Seite ragt, wird abgeschnitten und ist nicht lesbar.</translation>
+        <source>A barcode that extends beyond its page is cut off and cannot be read; correct its position or size.</source>
+        <translation>Ein Barcode, der über seine Seite hinausragt, wird abgeschnitten und ist nicht lesbar; bitte seine Lage oder Größe berichtigen.</translation>
     </message>
     <message>
-        <source>Barcodes that overlap cannot be read.</source>
-        <translation>Barcodes, die sich überlappen, sind nicht lesbar.</translation>
+        <source>Barcodes that overlap cannot be read; move one of them.</source>
+        <translation>Barcodes, die sich überlappen, sind nicht lesbar; bitte einen davon verschieben.</translation>
     </message>
     <message>
-        <source>An add-on whose price class belongs to no known group is not counted where add-ons are billed.</source>
-        <translation>Ein Zusatz, dessen Preisklasse zu keiner bekannten Gruppe gehört, wird nicht gezählt, wo Zusätze berechnet werden.</translation>
+        <source>An add-on whose price class belongs to no known group is not counted when add-ons are billed; correct the price class.</source>
+        <translation>Ein Zusatz, dessen Preisklasse zu keiner bekannten Gruppe gehört, wird nicht gezählt, wenn Zusätze berechnet werden; bitte die Preisklasse berichtigen.</translation>
     </message>
     <message>
         <source>the article id %1 is no whole number above 0</source>
@@ -723,80 +723,80 @@
         <translation>der andere Barcode</translation>
     </message>
     <message>
-        <source>An element whose name is not exactly a known one is passed over with everything in it.</source>
-        <translation>Ein Element, dessen Name nicht genau ein bekannter ist, wird mit allem darin übergangen.</translation>
+        <source>An element with an unknown name is skipped with everything in it; correct the name.</source>
+        <translation>Ein Element mit einem unbekannten Namen wird mit allem darin übergangen; bitte den Namen berichtigen.</translation>
     </message>
     <message>
-        <source>An element is read only where it belongs; anywhere else it is passed over with everything in it.</source>
-        <translation>Ein Element wird nur dort gelesen, wo es hingehört; überall sonst wird es mit allem darin übergangen.</translation>
+        <source>An element in the wrong place is skipped with everything in it; move it into the element that it belongs to.</source>
+        <translation>Ein Element an der falschen Stelle wird mit allem darin übergangen; bitte in das Element verschieben, zu dem es gehört.</translation>
     </message>
     <message>
-        <source>Names are compared including their prefixes, so an element with one is passed over with everything in it.</source>
-        <translation>Namen werden mitsamt ihrem Präfix verglichen; ein Element, das eines hat, wird deshalb mit allem darin übergangen.</translation>
+        <source>An element with a prefix is skipped with everything in it, because the prefix counts as part of its name; remove the prefix.</source>
+        <translation>Ein Element mit einem Präfix wird mit allem darin übergangen, weil das Präfix als Teil des Namens zählt; bitte das Präfix entfernen.</translation>
     </message>
     <message>
-        <source>An attribute whose name is not exactly a known one is passed over, and the default stands in its place.</source>
-        <translation>Ein Attribut, dessen Name nicht genau ein bekannter ist, wird übergangen; an seiner Stelle gilt der Standardwert.</translation>
+        <source>An attribute with an unknown name is skipped, and the default of the intended attribute applies; correct the name.</source>
+        <translation>Ein Attribut mit einem unbekannten Namen wird übergangen, und der Standardwert des gemeinten Attributs gilt; bitte den Namen berichtigen.</translation>
     </message>
     <message>
-        <source>An attribute is read only of the elements that it belongs to; of any other it is passed over, and the default stands in its place.</source>
-        <translation>Ein Attribut wird nur bei den Elementen gelesen, zu denen es gehört; bei jedem anderen wird es übergangen, und an seiner Stelle gilt der Standardwert.</translation>
+        <source>An attribute of the wrong element is skipped, and its default applies; move it to the element that it belongs to.</source>
+        <translation>Ein Attribut am falschen Element wird übergangen, und sein Standardwert gilt; bitte zu dem Element verschieben, zu dem es gehört.</translation>
     </message>
     <message>
-        <source>Without a highest page count the lowest is the only one, and no step leads anywhere.</source>
-        <translation>Ohne größte Seitenzahl ist die kleinste die einzige, und kein Schritt führt weiter.</translation>
+        <source>The lowest page count is the only one if the highest is missing, and the step has no effect; add max_pages.</source>
+        <translation>Die kleinste Seitenzahl ist die einzige, wenn die größte fehlt, und die Schrittweite hat keine Wirkung; bitte max_pages angeben.</translation>
     </message>
     <message>
-        <source>Nobody prints a product in more than a thousand page counts, so one of the numbers is probably mistyped.</source>
-        <translation>Niemand druckt ein Produkt in mehr als tausend Seitenzahlen; eine der Zahlen ist also wahrscheinlich vertippt.</translation>
+        <source>A product with more than 1000 page counts probably has a mistyped number; check pages, max_pages and page_step.</source>
+        <translation>Ein Produkt mit mehr als 1000 Seitenzahlen hat wahrscheinlich eine vertippte Zahl; bitte pages, max_pages und page_step prüfen.</translation>
     </message>
     <message>
-        <source>Without a base width the block of pages has no thickness at the lowest page count, so the cover is made too narrow.</source>
-        <translation>Ohne Grundbreite hat der Buchblock bei der kleinsten Seitenzahl keine Dicke; der Umschlag wird zu schmal.</translation>
+        <source>A spine without a base width has no room for the pages of the lowest page count, so the cover is made too narrow; add base_width.</source>
+        <translation>Ein Rücken ohne Grundbreite hat keinen Platz für die Seiten der kleinsten Seitenzahl, sodass der Umschlag zu schmal wird; bitte base_width angeben.</translation>
     </message>
     <message>
-        <source>A block width counts only with the number of packages that make a block; without it the spine never grows.</source>
-        <translation>Eine Blockbreite zählt nur zusammen mit der Zahl der Pakete, die einen Block ergeben; ohne diese wächst der Rücken nie.</translation>
+        <source>A spine never grows if the number of packages that make a block is missing; add packages_per_block.</source>
+        <translation>Ein Rücken wächst nie, wenn die Zahl der Pakete fehlt, die einen Block ergeben; bitte packages_per_block angeben.</translation>
     </message>
     <message>
-        <source>Industrial perfect binders take blocks of at most about 80 mm, so a wider spine is probably given in a wrong unit.</source>
-        <translation>Industrielle Klebebinder verarbeiten Buchblöcke bis etwa 80 mm; ein breiterer Rücken ist also wahrscheinlich in einer falschen Einheit angegeben.</translation>
+        <source>Industrial perfect binders take blocks of at most about 80 mm, so a wider spine is probably given in a wrong unit; check the unit and the widths.</source>
+        <translation>Industrielle Klebebinder verarbeiten Buchblöcke bis etwa 80 mm, sodass ein breiterer Rücken wahrscheinlich in einer falschen Einheit angegeben ist; bitte die Einheit und die Breiten prüfen.</translation>
     </message>
     <message>
-        <source>In orders commas separate options and colons keys from values, so an option with one of them is read as something else; only semicolons join keys, and values, that are chosen together.</source>
-        <translation>In Bestellungen trennen Kommas die Optionen und Doppelpunkte die Schlüssel von den Werten; eine Option, die eines dieser Zeichen enthält, wird deshalb als etwas anderes gelesen. Schlüssel, die zusammen gewählt werden, und ihre Werte verbindet nur das Semikolon.</translation>
+        <source>An option that contains a comma or a colon is misread in orders, where commas separate options and colons separate keys from values; join keys, or values, that are chosen together with semicolons.</source>
+        <translation>Eine Option, die ein Komma oder einen Doppelpunkt enthält, wird in Bestellungen falsch gelesen, weil dort Kommas die Optionen und Doppelpunkte die Schlüssel von den Werten trennen; bitte Schlüssel oder Werte, die zusammen gewählt werden, mit Semikolons verbinden.</translation>
     </message>
     <message>
-        <source>Keys and values are compared letter by letter, and a blank is a letter that nobody sees.</source>
-        <translation>Schlüssel und Werte werden Zeichen für Zeichen verglichen, und ein Leerzeichen ist ein Zeichen, das niemand sieht.</translation>
+        <source>A key or value with a blank or an invisible character differs from the same text without it; remove the character.</source>
+        <translation>Ein Schlüssel oder Wert mit einem Leerzeichen oder einem unsichtbaren Zeichen ist ein anderer als derselbe Text ohne dieses; bitte das Zeichen entfernen.</translation>
     </message>
     <message>
-        <source>Letter case counts in keys and values, so two spellings are two options.</source>
-        <translation>In Schlüsseln und Werten zählt die Groß- und Kleinschreibung; zwei Schreibweisen sind deshalb zwei Optionen.</translation>
+        <source>Two spellings of a key or value that differ in letter case are two options; choose one spelling.</source>
+        <translation>Zwei Schreibweisen eines Schlüssels oder Wertes, die sich in der Groß- und Kleinschreibung unterscheiden, sind zwei Optionen; bitte eine Schreibweise wählen.</translation>
     </message>
     <message>
-        <source>The customer reads one name for each key, so of several names all but one are lost.</source>
-        <translation>Der Kunde liest zu jedem Schlüssel einen Namen; von mehreren Namen gehen alle bis auf einen verloren.</translation>
+        <source>The customer sees one name for each key, so the other names of a key are lost; write the same key_name in all its forms.</source>
+        <translation>Der Kunde sieht zu jedem Schlüssel einen Namen, sodass die anderen Namen des Schlüssels verloren gehen; bitte in allen seinen form-Elementen denselben key_name angeben.</translation>
     </message>
     <message>
-        <source>A barcode without width or height is printed with a single unit, which no scanner can read.</source>
-        <translation>Ein Barcode ohne Breite oder Höhe wird dort mit einer einzigen Einheit gedruckt; das kann kein Scanner lesen.</translation>
+        <source>A barcode without a width or a height is printed one unit wide or high, which no scanner can read; add both.</source>
+        <translation>Ein Barcode ohne Breite oder Höhe wird eine Einheit breit oder hoch gedruckt, was kein Scanner lesen kann; bitte beide angeben.</translation>
     </message>
     <message>
-        <source>A barcode without a page number stands on page 0.</source>
-        <translation>Ein Barcode ohne Seitennummer steht auf Seite 0.</translation>
+        <source>A barcode without a page number stands on page 0; add pageNr.</source>
+        <translation>Ein Barcode ohne Seitennummer steht auf Seite 0; bitte pageNr angeben.</translation>
     </message>
     <message>
-        <source>A barcode that stands beyond every page of the size class and orientation is cut off and cannot be read.</source>
-        <translation>Ein Barcode, der über jede Seite der Größenklasse und Ausrichtung hinausragt, wird abgeschnitten und ist nicht lesbar.</translation>
+        <source>A barcode beyond every usual page of the size class and orientation is cut off and cannot be read; correct its position or size.</source>
+        <translation>Ein Barcode, der über jede übliche Seite der Größenklasse und Ausrichtung hinausragt, wird abgeschnitten und ist nicht lesbar; bitte seine Lage oder Größe berichtigen.</translation>
     </message>
     <message>
-        <source>A comment that silences nothing today silences the next mistake instead.</source>
-        <translation>Ein Kommentar, der heute nichts unterdrückt, unterdrückt stattdessen den nächsten Fehler.</translation>
+        <source>A comment that silences no finding now would silence a later mistake; remove it.</source>
+        <translation>Ein Kommentar, der jetzt keinen Befund unterdrückt, würde einen späteren Fehler unterdrücken; bitte entfernen.</translation>
     </message>
     <message>
-        <source>A comment that is misspelt silences nothing.</source>
-        <translation>Ein Kommentar, der falsch geschrieben ist, unterdrückt nichts.</translation>
+        <source>A misspelt comment silences no finding; correct its spelling.</source>
+        <translation>Ein falsch geschriebener Kommentar unterdrückt keinen Befund; bitte die Schreibweise berichtigen.</translation>
     </message>
     <message>
         <source>%1 is no hexadecimal digit</source>

@@ -40,7 +40,7 @@ public:
     bool isNull() const noexcept { return !myRow; } ///< True for the default one.
     QLatin1StringView name() const; ///< A name such as "keyword-unknown", the same in every version.
     RVCatalogueSeverity severity() const; ///< The severity of its findings.
-    QString reason() const; ///< One sentence about why it matters, in the language of the program.
+    QString reason() const; ///< One sentence: why it matters, and what to do; in the language of the program.
     QByteArray example() const; ///< A catalogue in UTF-8 that breaks this rule and no other.
     QByteArray mendedExample() const; ///< The same catalogue without its fault; it breaks no rule.
     /// The explanation of a rule in the language of the program: the reason, both examples, and the way to silence it.

@@ -82,7 +82,7 @@ struct RVCatalogueRuleRow
 // clang-format off
 inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
     { RVCatalogueRuleId::ProductsMissing, RVCatalogueSeverity::Error, QLatin1StringView("products-missing"),
-      QT_TRANSLATE_NOOP("RVFindingText", "A file without a product is no catalogue: nothing of it can be ordered."),
+      QT_TRANSLATE_NOOP("RVFindingText", "A file without a product is not a catalogue, and nothing can be ordered from it; add a product."),
       R"(<products>
   <family name="Photo books"/>
 </products>
@@ -94,7 +94,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::TypeMissing, RVCatalogueSeverity::Error, QLatin1StringView("type-missing"),
-      QT_TRANSLATE_NOOP("RVFindingText", "Projects find their product by its type, so one without a type cannot be ordered."),
+      QT_TRANSLATE_NOOP("RVFindingText", "A product without a type cannot be ordered, because projects find their product by its type; give it a type."),
       R"(<products>
   <product article_id="1001"/>
 </products>
@@ -104,7 +104,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::TypeDuplicate, RVCatalogueSeverity::Error, QLatin1StringView("type-duplicate"),
-      QT_TRANSLATE_NOOP("RVFindingText", "Of two products of one type the application only ever finds the first, and the codes of a photo book family are one type."),
+      QT_TRANSLATE_NOOP("RVFindingText", "The application finds only the first of two products of the same type, and all codes of a photo book family are one type; give each product its own type."),
       R"(<products>
   <product type="DUN9" article_id="1001"/>
   <product type="DUN9_30" article_id="1002"/>
@@ -116,7 +116,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::ArticleIdMissing, RVCatalogueSeverity::Error, QLatin1StringView("article-id-missing"),
-      QT_TRANSLATE_NOOP("RVFindingText", "Shop and production know an article by its id."),
+      QT_TRANSLATE_NOOP("RVFindingText", "Shop and production identify an article by its id; give the product an article id."),
       R"(<products>
   <product type="DUN9"/>
 </products>
@@ -126,7 +126,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::ArticleIdInvalid, RVCatalogueSeverity::Error, QLatin1StringView("article-id-invalid"),
-      QT_TRANSLATE_NOOP("RVFindingText", "An article id is a whole number above 0; anything else is read as no id."),
+      QT_TRANSLATE_NOOP("RVFindingText", "An article id is a whole number above 0, and any other text is read as no id; write such a number."),
       R"(<products>
   <product type="DUN9" article_id="10-01"/>
 </products>
@@ -136,7 +136,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::ArticleIdDuplicate, RVCatalogueSeverity::Error, QLatin1StringView("article-id-duplicate"),
-      QT_TRANSLATE_NOOP("RVFindingText", "Two products with one article id are the same article to shop and production."),
+      QT_TRANSLATE_NOOP("RVFindingText", "Two products with the same article id are one article to shop and production; give each product its own id."),
       R"(<products>
   <product type="DUN5" article_id="1001"/>
   <product type="DUN9" article_id="1001"/>
@@ -148,7 +148,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::ShippingGroupInvalid, RVCatalogueSeverity::Error, QLatin1StringView("shipping-group-invalid"),
-      QT_TRANSLATE_NOOP("RVFindingText", "A shipping group that is no whole number, or -1, is none, so the product is shipped with nothing else."),
+      QT_TRANSLATE_NOOP("RVFindingText", "A shipping group that is -1 or not a whole number counts as none, so the product is shipped separately; write the number of a group."),
       R"(<products>
   <product type="DUN9" article_id="1001" shipping_group="books"/>
 </products>
@@ -158,7 +158,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::ElementIgnored, RVCatalogueSeverity::Error, QLatin1StringView("element-ignored"),
-      QT_TRANSLATE_NOOP("RVFindingText", "Only the first element of each kind in a product is read, so what the others say is lost."),
+      QT_TRANSLATE_NOOP("RVFindingText", "Only the first element of each kind in a product is read, and no product inside another, so the contents of all others are lost; merge the parts and separate the products."),
       R"(<products>
   <product type="DUN9" article_id="1001">
     <forms>
@@ -180,7 +180,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::ElementMisspelt, RVCatalogueSeverity::Warning, QLatin1StringView("element-misspelt"),
-      QT_TRANSLATE_NOOP("RVFindingText", "An element whose name is not exactly a known one is passed over with everything in it."),
+      QT_TRANSLATE_NOOP("RVFindingText", "An element with an unknown name is skipped with everything in it; correct the name."),
       R"(<products>
   <product type="DUN9" article_id="1001">
     <forms>
@@ -197,7 +197,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::ElementMisplaced, RVCatalogueSeverity::Warning, QLatin1StringView("element-misplaced"),
-      QT_TRANSLATE_NOOP("RVFindingText", "An element is read only where it belongs; anywhere else it is passed over with everything in it."),
+      QT_TRANSLATE_NOOP("RVFindingText", "An element in the wrong place is skipped with everything in it; move it into the element that it belongs to."),
       R"(<products>
   <product type="DUN9" article_id="1001">
     <form key="alcolor" value="black"/>
@@ -212,7 +212,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::ElementPrefixed, RVCatalogueSeverity::Warning, QLatin1StringView("element-prefixed"),
-      QT_TRANSLATE_NOOP("RVFindingText", "Names are compared including their prefixes, so an element with one is passed over with everything in it."),
+      QT_TRANSLATE_NOOP("RVFindingText", "An element with a prefix is skipped with everything in it, because the prefix counts as part of its name; remove the prefix."),
       R"(<products>
   <product type="DUN9" article_id="1001">
     <forms>
@@ -229,7 +229,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::AttributeMisspelt, RVCatalogueSeverity::Warning, QLatin1StringView("attribute-misspelt"),
-      QT_TRANSLATE_NOOP("RVFindingText", "An attribute whose name is not exactly a known one is passed over, and the default stands in its place."),
+      QT_TRANSLATE_NOOP("RVFindingText", "An attribute with an unknown name is skipped, and the default of the intended attribute applies; correct the name."),
       R"(<products>
   <product type="DUN9" article_id="1001" pages="26" max_page="154" page_step="4"/>
 </products>
@@ -238,7 +238,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::AttributeMisplaced, RVCatalogueSeverity::Warning, QLatin1StringView("attribute-misplaced"),
-      QT_TRANSLATE_NOOP("RVFindingText", "An attribute is read only of the elements that it belongs to; of any other it is passed over, and the default stands in its place."),
+      QT_TRANSLATE_NOOP("RVFindingText", "An attribute of the wrong element is skipped, and its default applies; move it to the element that it belongs to."),
       R"(<products>
   <product type="DUN9" article_id="1001">
     <composition>
@@ -255,7 +255,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::NumberInvalid, RVCatalogueSeverity::Error, QLatin1StringView("number-invalid"),
-      QT_TRANSLATE_NOOP("RVFindingText", "What cannot be read as a number silently becomes the default."),
+      QT_TRANSLATE_NOOP("RVFindingText", "A value that cannot be read as a number is replaced with the default without a message; write a number."),
       R"(<products>
   <product type="DUN9" article_id="1001" pages="26 pages"/>
 </products>
@@ -265,7 +265,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::BooleanInvalid, RVCatalogueSeverity::Error, QLatin1StringView("boolean-invalid"),
-      QT_TRANSLATE_NOOP("RVFindingText", "What is none of true, false, 1, 0, yes, no, on and off silently becomes the default."),
+      QT_TRANSLATE_NOOP("RVFindingText", "A value other than true, false, 1, 0, yes, no, on and off is replaced with the default without a message; write one of these."),
       R"(<products>
   <product type="DUN9" article_id="1001">
     <forms>
@@ -283,7 +283,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::UnitUnknown, RVCatalogueSeverity::Error, QLatin1StringView("unit-unknown"),
-      QT_TRANSLATE_NOOP("RVFindingText", "Lengths in an unknown unit are read as millimetres."),
+      QT_TRANSLATE_NOOP("RVFindingText", "Lengths in an unknown unit are read as millimetres; write mm, cm, inch, pt or 0.1mm."),
       R"(<products>
   <product type="DUN9" article_id="1001">
     <composition units="metres">
@@ -301,7 +301,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::KeywordUnknown, RVCatalogueSeverity::Error, QLatin1StringView("keyword-unknown"),
-      QT_TRANSLATE_NOOP("RVFindingText", "A keyword that nobody knows silently becomes the default of its attribute."),
+      QT_TRANSLATE_NOOP("RVFindingText", "An unknown keyword is replaced with the default of its attribute without a message; write a known keyword."),
       R"(<products>
   <product type="DUN9" article_id="1001" cover_type="hardcovr"/>
 </products>
@@ -311,7 +311,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::KeywordLegacy, RVCatalogueSeverity::Note, QLatin1StringView("keyword-legacy"),
-      QT_TRANSLATE_NOOP("RVFindingText", "An alias is still read, but a program that writes the value uses its main keyword."),
+      QT_TRANSLATE_NOOP("RVFindingText", "An alias is still read, but programs write the main keyword of the value; write the main keyword."),
       R"(<products>
   <product type="DUN9" article_id="1001" cover_type="hard"/>
 </products>
@@ -321,7 +321,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::PageCountsReversed, RVCatalogueSeverity::Error, QLatin1StringView("page-counts-reversed"),
-      QT_TRANSLATE_NOOP("RVFindingText", "With a lowest page count above the highest no count can be chosen."),
+      QT_TRANSLATE_NOOP("RVFindingText", "No page count can be chosen if the lowest is above the highest; correct pages or max_pages."),
       R"(<products>
   <product type="DUN9" article_id="1001" pages="154" max_pages="26" page_step="4"/>
 </products>
@@ -331,7 +331,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::PageCountsInvalid, RVCatalogueSeverity::Error, QLatin1StringView("page-counts-invalid"),
-      QT_TRANSLATE_NOOP("RVFindingText", "Without valid page counts the product cannot be ordered."),
+      QT_TRANSLATE_NOOP("RVFindingText", "A product without valid page counts cannot be ordered; correct pages, max_pages, page_step or pieces."),
       R"(<products>
   <product type="DUN9" article_id="1001" pages="26" max_pages="154"/>
 </products>
@@ -341,7 +341,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::PageStepMissesHighest, RVCatalogueSeverity::Warning, QLatin1StringView("page-step-misses-highest"),
-      QT_TRANSLATE_NOOP("RVFindingText", "The highest page count can never be reached when the steps do not meet it."),
+      QT_TRANSLATE_NOOP("RVFindingText", "The highest page count can never be chosen if no number of steps leads to it; correct page_step or max_pages."),
       R"(<products>
   <product type="DUN9" article_id="1001" pages="26" max_pages="154" page_step="6"/>
 </products>
@@ -351,7 +351,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::MaxPagesMissing, RVCatalogueSeverity::Warning, QLatin1StringView("max-pages-missing"),
-      QT_TRANSLATE_NOOP("RVFindingText", "Without a highest page count the lowest is the only one, and no step leads anywhere."),
+      QT_TRANSLATE_NOOP("RVFindingText", "The lowest page count is the only one if the highest is missing, and the step has no effect; add max_pages."),
       R"(<products>
   <product type="DUN9" article_id="1001" pages="26" page_step="4"/>
 </products>
@@ -360,7 +360,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::PageCountsExcessive, RVCatalogueSeverity::Warning, QLatin1StringView("page-counts-excessive"),
-      QT_TRANSLATE_NOOP("RVFindingText", "Nobody prints a product in more than a thousand page counts, so one of the numbers is probably mistyped."),
+      QT_TRANSLATE_NOOP("RVFindingText", "A product with more than 1000 page counts probably has a mistyped number; check pages, max_pages and page_step."),
       R"(<products>
   <product type="DUN9" article_id="1001" pages="26" max_pages="15400" page_step="2"/>
 </products>
@@ -369,7 +369,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::SpineMissing, RVCatalogueSeverity::Error, QLatin1StringView("spine-missing"),
-      QT_TRANSLATE_NOOP("RVFindingText", "A glued or lay-flat book has a spine, and without its widths the cover is made too narrow."),
+      QT_TRANSLATE_NOOP("RVFindingText", "The cover of a glued or lay-flat book is made too narrow if the widths of its spine are missing; add them."),
       R"(<products>
   <product type="DUN9" article_id="1001" page_binding="glue"/>
 </products>
@@ -383,7 +383,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::SpineNegative, RVCatalogueSeverity::Error, QLatin1StringView("spine-negative"),
-      QT_TRANSLATE_NOOP("RVFindingText", "A spine that has a negative width, or grows backwards, comes out too narrow."),
+      QT_TRANSLATE_NOOP("RVFindingText", "A spine with a negative width or a negative number of packages comes out too narrow; write 0 or more."),
       R"(<products>
   <product type="DUN9" article_id="1001" page_binding="glue">
     <composition units="mm">
@@ -401,7 +401,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::SpineFontTooSmall, RVCatalogueSeverity::Warning, QLatin1StringView("spine-font-too-small"),
-      QT_TRANSLATE_NOOP("RVFindingText", "Where the spine shrinks until the smallest font no longer fits, its text is cut off."),
+      QT_TRANSLATE_NOOP("RVFindingText", "The text on a spine is cut off at the page counts at which the spine is too narrow for the smallest font; make the spine grow with the pages."),
       R"(<products>
   <product type="DUN9" article_id="1001" page_binding="glue" pages="26" max_pages="154" page_step="4">
     <composition units="mm">
@@ -419,7 +419,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::SpineBaseMissing, RVCatalogueSeverity::Warning, QLatin1StringView("spine-base-missing"),
-      QT_TRANSLATE_NOOP("RVFindingText", "Without a base width the block of pages has no thickness at the lowest page count, so the cover is made too narrow."),
+      QT_TRANSLATE_NOOP("RVFindingText", "A spine without a base width has no room for the pages of the lowest page count, so the cover is made too narrow; add base_width."),
       R"(<products>
   <product type="DUN9" article_id="1001">
     <composition units="mm">
@@ -436,7 +436,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::SpinePackagesMissing, RVCatalogueSeverity::Warning, QLatin1StringView("spine-packages-missing"),
-      QT_TRANSLATE_NOOP("RVFindingText", "A block width counts only with the number of packages that make a block; without it the spine never grows."),
+      QT_TRANSLATE_NOOP("RVFindingText", "A spine never grows if the number of packages that make a block is missing; add packages_per_block."),
       R"(<products>
   <product type="DUN9" article_id="1001">
     <composition units="mm">
@@ -453,7 +453,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::SpineTooWide, RVCatalogueSeverity::Warning, QLatin1StringView("spine-too-wide"),
-      QT_TRANSLATE_NOOP("RVFindingText", "Industrial perfect binders take blocks of at most about 80 mm, so a wider spine is probably given in a wrong unit."),
+      QT_TRANSLATE_NOOP("RVFindingText", "Industrial perfect binders take blocks of at most about 80 mm, so a wider spine is probably given in a wrong unit; check the unit and the widths."),
       R"(<products>
   <product type="DUN9" article_id="1001" page_binding="glue">
     <composition units="mm">
@@ -470,7 +470,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::OptionIncomplete, RVCatalogueSeverity::Error, QLatin1StringView("option-incomplete"),
-      QT_TRANSLATE_NOOP("RVFindingText", "An option without key or value is dropped, so the customer is never offered it."),
+      QT_TRANSLATE_NOOP("RVFindingText", "An option without a key or a value is dropped and never offered to the customer; give it both."),
       R"(<products>
   <product type="DUN9" article_id="1001">
     <forms>
@@ -488,7 +488,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::OptionDuplicate, RVCatalogueSeverity::Error, QLatin1StringView("option-duplicate"),
-      QT_TRANSLATE_NOOP("RVFindingText", "The customer is offered the same choice twice, and only the first has a price."),
+      QT_TRANSLATE_NOOP("RVFindingText", "An option with the key and value of an earlier one is offered a second time, but only the first has a price; remove one of them."),
       R"(<products>
   <product type="DUN9" article_id="1001">
     <forms>
@@ -508,7 +508,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::OptionDefaultTwice, RVCatalogueSeverity::Error, QLatin1StringView("option-default-twice"),
-      QT_TRANSLATE_NOOP("RVFindingText", "Of several defaults of one key the last one silently wins."),
+      QT_TRANSLATE_NOOP("RVFindingText", "Only the last of several defaults of one key takes effect; mark one value of the key as preselected."),
       R"(<products>
   <product type="DUN9" article_id="1001">
     <forms>
@@ -528,7 +528,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::OptionDefaultMissing, RVCatalogueSeverity::Warning, QLatin1StringView("option-default-missing"),
-      QT_TRANSLATE_NOOP("RVFindingText", "Without a default an order comes without the option, or with whichever stands first."),
+      QT_TRANSLATE_NOOP("RVFindingText", "An order comes without the option, or with the first value, if no value of the key is the default; mark one as preselected."),
       R"(<products>
   <product type="DUN9" article_id="1001">
     <forms>
@@ -548,7 +548,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::OptionColorInvalid, RVCatalogueSeverity::Warning, QLatin1StringView("option-color-invalid"),
-      QT_TRANSLATE_NOOP("RVFindingText", "The editor shows no swatch for a colour that it cannot read."),
+      QT_TRANSLATE_NOOP("RVFindingText", "The editor shows no swatch for a colour that it cannot read; write #rrggbb or the English name of a colour."),
       R"(<products>
   <product type="DUN9" article_id="1001">
     <forms>
@@ -566,7 +566,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::OptionCompositeMismatch, RVCatalogueSeverity::Error, QLatin1StringView("option-composite-mismatch"),
-      QT_TRANSLATE_NOOP("RVFindingText", "Keys that are chosen together need one value each, or production gets none of them."),
+      QT_TRANSLATE_NOOP("RVFindingText", "Keys that are chosen together need one value each, or production gets none of them; write as many values as keys."),
       R"(<products>
   <product type="DUN9" article_id="1001">
     <forms>
@@ -584,7 +584,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::OptionSeparator, RVCatalogueSeverity::Warning, QLatin1StringView("option-separator"),
-      QT_TRANSLATE_NOOP("RVFindingText", "In orders commas separate options and colons keys from values, so an option with one of them is read as something else; only semicolons join keys, and values, that are chosen together."),
+      QT_TRANSLATE_NOOP("RVFindingText", "An option that contains a comma or a colon is misread in orders, where commas separate options and colons separate keys from values; join keys, or values, that are chosen together with semicolons."),
       R"(<products>
   <product type="DUN9" article_id="1001">
     <forms>
@@ -601,7 +601,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::OptionBlank, RVCatalogueSeverity::Warning, QLatin1StringView("option-blank"),
-      QT_TRANSLATE_NOOP("RVFindingText", "Keys and values are compared letter by letter, and a blank is a letter that nobody sees."),
+      QT_TRANSLATE_NOOP("RVFindingText", "A key or value with a blank or an invisible character differs from the same text without it; remove the character."),
       R"(<products>
   <product type="DUN9" article_id="1001">
     <forms>
@@ -618,7 +618,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::OptionLetterCase, RVCatalogueSeverity::Warning, QLatin1StringView("option-letter-case"),
-      QT_TRANSLATE_NOOP("RVFindingText", "Letter case counts in keys and values, so two spellings are two options."),
+      QT_TRANSLATE_NOOP("RVFindingText", "Two spellings of a key or value that differ in letter case are two options; choose one spelling."),
       R"(<products>
   <product type="DUN9" article_id="1001">
     <forms>
@@ -637,7 +637,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::OptionKeyNames, RVCatalogueSeverity::Warning, QLatin1StringView("option-key-names"),
-      QT_TRANSLATE_NOOP("RVFindingText", "The customer reads one name for each key, so of several names all but one are lost."),
+      QT_TRANSLATE_NOOP("RVFindingText", "The customer sees one name for each key, so the other names of a key are lost; write the same key_name in all its forms."),
       R"(<products>
   <product type="DUN9" article_id="1001">
     <forms>
@@ -656,7 +656,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::BarcodeInvalid, RVCatalogueSeverity::Error, QLatin1StringView("barcode-invalid"),
-      QT_TRANSLATE_NOOP("RVFindingText", "A barcode without extent or image is dropped, and production cannot tell the product."),
+      QT_TRANSLATE_NOOP("RVFindingText", "A barcode without an extent or an image is dropped, so production cannot identify the product; give it both."),
       R"(<products>
   <product type="DUN9" article_id="1001" pages="26">
     <barcodes units="mm">
@@ -674,7 +674,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::BarcodePageImpossible, RVCatalogueSeverity::Error, QLatin1StringView("barcode-page-impossible"),
-      QT_TRANSLATE_NOOP("RVFindingText", "A barcode on a page that the product cannot have is never printed."),
+      QT_TRANSLATE_NOOP("RVFindingText", "A barcode on a page that the product cannot have is never printed; correct pageNr."),
       R"(<products>
   <product type="DUN9" article_id="1001" pages="26">
     <barcodes units="mm">
@@ -692,7 +692,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::BarcodeOutsidePage, RVCatalogueSeverity::Error, QLatin1StringView("barcode-outside-page"),
-      QT_TRANSLATE_NOOP("RVFindingText", "A barcode that leaves its page is cut off and cannot be read."),
+      QT_TRANSLATE_NOOP("RVFindingText", "A barcode that extends beyond its page is cut off and cannot be read; correct its position or size."),
       R"(<products>
   <product type="DUN9" article_id="1001" pages="26">
     <barcodes units="mm">
@@ -710,7 +710,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::BarcodeOverlap, RVCatalogueSeverity::Error, QLatin1StringView("barcode-overlap"),
-      QT_TRANSLATE_NOOP("RVFindingText", "Barcodes that overlap cannot be read."),
+      QT_TRANSLATE_NOOP("RVFindingText", "Barcodes that overlap cannot be read; move one of them."),
       R"(<products>
   <product type="DUN9" article_id="1001" pages="26">
     <barcodes units="mm">
@@ -730,7 +730,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::BarcodeSizeMissing, RVCatalogueSeverity::Warning, QLatin1StringView("barcode-size-missing"),
-      QT_TRANSLATE_NOOP("RVFindingText", "A barcode without width or height is printed with a single unit, which no scanner can read."),
+      QT_TRANSLATE_NOOP("RVFindingText", "A barcode without a width or a height is printed one unit wide or high, which no scanner can read; add both."),
       R"(<products>
   <product type="DUN9" article_id="1001" pages="26">
     <barcodes units="mm">
@@ -747,7 +747,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::BarcodePageMissing, RVCatalogueSeverity::Warning, QLatin1StringView("barcode-page-missing"),
-      QT_TRANSLATE_NOOP("RVFindingText", "A barcode without a page number stands on page 0."),
+      QT_TRANSLATE_NOOP("RVFindingText", "A barcode without a page number stands on page 0; add pageNr."),
       R"(<products>
   <product type="DUN9" article_id="1001" pages="26">
     <barcodes units="mm">
@@ -764,7 +764,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::BarcodeOffUsualPage, RVCatalogueSeverity::Warning, QLatin1StringView("barcode-off-usual-page"),
-      QT_TRANSLATE_NOOP("RVFindingText", "A barcode that stands beyond every page of the size class and orientation is cut off and cannot be read."),
+      QT_TRANSLATE_NOOP("RVFindingText", "A barcode beyond every usual page of the size class and orientation is cut off and cannot be read; correct its position or size."),
       R"(<products>
   <product type="DUN9" article_id="1001" pages="26" orientation="portrait" space_magnitude="600cm2">
     <barcodes units="mm">
@@ -781,7 +781,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::PriceClassUnknown, RVCatalogueSeverity::Warning, QLatin1StringView("price-class-unknown"),
-      QT_TRANSLATE_NOOP("RVFindingText", "An add-on whose price class belongs to no known group is not counted where add-ons are billed."),
+      QT_TRANSLATE_NOOP("RVFindingText", "An add-on whose price class belongs to no known group is not counted when add-ons are billed; correct the price class."),
       R"(<products>
   <product type="DUN9" article_id="1001" page_price_class="RODA"/>
 </products>
@@ -791,7 +791,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::SuppressionUnused, RVCatalogueSeverity::Warning, QLatin1StringView("suppression-unused"),
-      QT_TRANSLATE_NOOP("RVFindingText", "A comment that silences nothing today silences the next mistake instead."),
+      QT_TRANSLATE_NOOP("RVFindingText", "A comment that silences no finding now would silence a later mistake; remove it."),
       R"(<products>
   <!-- rvcatalog: ignore keyword-unknown -->
   <product type="DUN9" article_id="1001" cover_type="hardcover"/>
@@ -802,7 +802,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::SuppressionUnknown, RVCatalogueSeverity::Warning, QLatin1StringView("suppression-unknown"),
-      QT_TRANSLATE_NOOP("RVFindingText", "A comment that is misspelt silences nothing."),
+      QT_TRANSLATE_NOOP("RVFindingText", "A misspelt comment silences no finding; correct its spelling."),
       R"(<products>
   <!-- rvcatalog: ignore price-class-unknown, price-class -->
   <product type="DUN9" article_id="1001" page_price_class="RODA"/>

@@ -45,7 +45,7 @@ void tst_RVCatalogueRule::texts()
         QVERIFY2(!rule.example().isEmpty(), rule.name().data());
     }
     const RVCatalogueRule rule = RVCatalogueRule::find(u"article-id-missing");
-    QCOMPARE(rule.reason(), u"Shop and production know an article by its id."_s);
+    QCOMPARE(rule.reason(), u"Shop and production identify an article by its id; give the product an article id."_s);
     QCOMPARE(rule.example(), QByteArray("<products>\n  <product type=\"DUN9\"/>\n</products>\n"));
 }
 
@@ -79,7 +79,7 @@ void tst_RVCatalogueRule::severities()
 void tst_RVCatalogueRule::explanation()
 {
     QCOMPARE(RVCatalogueRule::find(u"article-id-invalid").explanation(),
-             uR"(An article id is a whole number above 0; anything else is read as no id.
+             uR"(An article id is a whole number above 0, and any other text is read as no id; write such a number.
 
 Broken:
 
@@ -110,7 +110,7 @@ To leave it out always, write in rvcatalog.toml:
 void tst_RVCatalogueRule::explanationAsMarkdown()
 {
     QCOMPARE(RVCatalogueRule::find(u"article-id-invalid").explanationAsMarkdown(),
-             uR"(An article id is a whole number above 0; anything else is read as no id.
+             uR"(An article id is a whole number above 0, and any other text is read as no id; write such a number.
 
 Broken:
 

@@ -31,7 +31,8 @@ void tst_FindingToolTip::explainsTheRule()
     const QStringList shown = lines({ RVCatalogueRule::find(u"page-step-misses-highest"), {}, u"never 154"_s });
     QCOMPARE(shown.value(0), u"never 154"_s);
     for (const QString &line :
-         { u"The highest page count can never be reached when the steps do not meet it."_s,
+         { u"The highest page count can never be chosen if no number of steps leads to it; "
+           "correct page_step or max_pages."_s,
            u"  <product type=\"DUN9\" article_id=\"1001\" pages=\"26\" max_pages=\"154\" page_step=\"6\"/>"_s,
            u"  <product type=\"DUN9\" article_id=\"1001\" pages=\"26\" max_pages=\"154\" page_step=\"4\"/>"_s,
            u"<!-- rvcatalog: ignore page-step-misses-highest -->"_s, u"page-step-misses-highest = \"off\""_s })

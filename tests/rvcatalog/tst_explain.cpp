@@ -60,7 +60,7 @@ void tst_explain::text()
     QCOMPARE(run.messages, QString());
     QCOMPARE(run.output, uR"(type-missing (error)
 
-Projects find their product by its type, so one without a type cannot be ordered.
+A product without a type cannot be ordered, because projects find their product by its type; give it a type.
 
 Broken:
 

@@ -106,7 +106,8 @@ void tst_translations::germanCatalogues()
     QCOMPARE(findings.first().text(),
              u"das Produkt hat keinen Typ; bitte den Code angeben, den Projekte dafür haben"_s);
     QCOMPARE(findings.first().rule().reason(),
-             u"Projekte finden ihr Produkt über den Typ; eines ohne Typ lässt sich nicht bestellen."_s);
+             u"Ein Produkt ohne Typ lässt sich nicht bestellen, weil Projekte ihr Produkt über den Typ "
+             "finden; bitte ihm einen Typ geben."_s);
     QCOMPARE(reader.errorString(),
              u"die Datei endet zu früh: <products>, in Zeile 1 geöffnet, ist nicht geschlossen"_s);
     QCOMPARE(RVCatalogueAttribute::find("cover_type").label(), u"Einband"_s);
