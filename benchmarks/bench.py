@@ -121,7 +121,7 @@ def environment(seed):
 
 
 def run(command, seed):
-    """What a program says on its standard error."""
+    """The text that a program writes to its standard error."""
     process = subprocess.run(command, env=environment(seed), text=True, stdout=subprocess.DEVNULL, stderr=subprocess.PIPE)
     if process.returncode != 0:
         sys.exit(f"bench: {command} ended with {process.returncode}\n{process.stderr}")

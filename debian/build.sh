@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # usage: build.sh FOLDER
 # Makes the source and the binary packages of this tree in FOLDER, which is emptied first. They are built in a copy, so the
-# tree stays as it is. Where it fails, the copy is left, and FOLDER/build.log tells why.
+# tree stays as it is. If the build fails, the copy is left, and FOLDER/build.log tells why.
 set -euo pipefail
 folder=$(realpath -m "$1")
 cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/.."

@@ -44,8 +44,8 @@ public:
     int rowNear(qreal pageCount) const;
     /// The rows that share a font size, from the first row to the last.
     const QList<FontRun> &fontRuns() const { return myFontRuns; }
-    /// The rows at which the spine becomes one block wider, and the last row. Where they are more than @p most, which
-    /// is at least 2, rows at even distances instead.
+    /// The rows at which the spine becomes one block wider, and the last row. Rows at even distances instead, if there
+    /// are more than @p most, which is at least 2.
     QList<SpineRow> steps(int most) const;
 
 private:

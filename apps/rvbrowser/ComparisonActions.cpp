@@ -171,7 +171,7 @@ void ComparisonActions::showComparison()
     say(QString());
 }
 
-// As high as it is useful, unless it already was and somebody may have changed it.
+// Gives the dock the height of its contents, unless it was shown before: its height may then be a choice of the user.
 void ComparisonActions::fitDock()
 {
     const int height = myDock->sizeHint().height();

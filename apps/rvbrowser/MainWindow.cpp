@@ -96,7 +96,7 @@ void MainWindow::dragEnterEvent(QDragEnterEvent *event)
 {
     if (draggedFile(event->mimeData()).isEmpty())
         return;
-    // The file stays where it is, whatever the source proposes.
+    // The file stays where it is, even if the source proposes to move it.
     event->setDropAction(Qt::CopyAction);
     event->accept();
 }

@@ -23,8 +23,8 @@ class QStackedWidget;
 class RecentFilesMenu;
 class StartScreen;
 
-/// Puts the parts together: the products, the chosen one, the findings and the menus. What is loaded is the session's,
-/// and what is remembered from one day to the next is in the settings.
+/// Puts the parts together: the products, the chosen one, the findings and the menus. The session has the catalogue,
+/// and the settings have all that is remembered from one day to the next.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT

@@ -133,7 +133,7 @@ QString refusal(const QString &format, bool isGit, const QStringList &names)
 QString diffDescription()
 {
     return u"Tells what differs between two catalogues: products that were added or removed, and what has changed of\n"
-           "the others. What the ordering application reads is compared, not how it is written.\n"
+           "the others. Only the values that the ordering application reads are compared, not their spelling.\n"
            "Ends with 0 when they are equal, with 1 when they differ, with 2 when one of them cannot be read."_s;
 }
 

@@ -42,7 +42,7 @@ public:
     bool isEnabled(RVCatalogueRule rule) const; ///< True unless the rule was disabled.
     /// Sets the severity of the rule's findings from now on, and enables the rule.
     void setSeverity(RVCatalogueRule rule, RVCatalogueSeverity severity);
-    RVCatalogueSeverity severity(RVCatalogueRule rule) const; ///< That of its findings; its own unless set.
+    RVCatalogueSeverity severity(RVCatalogueRule rule) const; ///< The severity of its findings; its own unless set.
 
     /// Names of attributes and elements that other programs read, so that they do not count as misspelt. Letter case
     /// matters.

@@ -81,8 +81,8 @@ public:
     void toJSON(QJsonObject &object) const; ///< Sets "id" to the number.
     /// Writes toString(): the article is on the left, the stream on the right.
     QDataStream &operator<<(QDataStream &stream) const;
-    /// The same with the stream on the left, for a QVariant or a QList of articles, and its reader. What is no decimal
-    /// number is read as 0 and sets the stream's status to QDataStream::ReadCorruptData.
+    /// The same with the stream on the left, for a QVariant or a QList of articles, and its reader. Text that is no
+    /// decimal number is read as 0 and sets the stream's status to QDataStream::ReadCorruptData.
     /// @{
     RVPRODUCTBASE_EXPORT friend QDataStream &operator<<(QDataStream &stream, const RVArticleId &articleId);
     RVPRODUCTBASE_EXPORT friend QDataStream &operator>>(QDataStream &stream, RVArticleId &articleId);

@@ -39,7 +39,7 @@ public:
         return qHashMulti(seed, key.myPageContext, key.myPageCount);
     }
     /// @}
-    /// No strict order: keys of the same page count are equivalent whatever their contexts, all others are ordered by
+    /// No strict order: keys of the same page count are equivalent in all contexts, all others are ordered by
     /// their contexts alone. So a sorted container takes all keys of one page count for the same; take a
     /// QHash.
     bool operator<(const RVPageSizeKey &other) const;

@@ -58,8 +58,8 @@ public:
     /// Writes toString(). The group is on the left of the operator, the stream on the right. createFrom() reads it
     /// back.
     QDataStream &operator<<(QDataStream &stream) const;
-    /// The same with the stream on the left, for a QVariant or a QList of groups, and its reader. What is no decimal
-    /// number is read as -1 and sets the stream's status to QDataStream::ReadCorruptData.
+    /// The same with the stream on the left, for a QVariant or a QList of groups, and its reader. Text that is no
+    /// decimal number is read as -1 and sets the stream's status to QDataStream::ReadCorruptData.
     /// @{
     RVPRODUCTBASE_EXPORT friend QDataStream &operator<<(QDataStream &stream, const RVShippingGroupId &shippingGroupId);
     RVPRODUCTBASE_EXPORT friend QDataStream &operator>>(QDataStream &stream, RVShippingGroupId &shippingGroupId);

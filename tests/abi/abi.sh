@@ -87,5 +87,5 @@ if [[ $this_build != "$baseline_build" ]]; then
     echo "The baseline was made with $baseline_build, and this was built with $this_build."
     echo "So only the tables of virtual functions were compared here; tst_layout compares sizes and slots."
 elif [[ $mode == check ]]; then
-    echo "Whatever was built against the baseline goes on working."
+    echo "Programs that were built against the baseline go on working."
 fi

@@ -42,7 +42,7 @@ commands=(-ex "set host-charset UTF-8" -ex "set disable-randomization off" -ex "
 while read -r name _; do
     commands+=(-ex "output \"$name = \"" -ex "output $name" -ex 'echo \n')
 done <<<"$expected"
-# Their values are those of the filling, whatever they mean.
+# Their values are those of the filling, which need not mean anything.
 for name in rawCover.value rawDistance.value; do
     commands+=(-ex "output $name" -ex 'echo \n')
 done

@@ -1,4 +1,4 @@
-// Stops in stopHere() with values that gdb shows, and with some that nobody initialised.
+// Stops in stopHere() with values that gdb shows, and with some that are not initialised.
 #include <RVCore/RVAngle.h>
 #include <RVCore/RVSpotColor.h>
 #include <RVProductBase/RVArticleClass.h>

@@ -78,7 +78,7 @@ def changes_of(path, name):
 
 
 def replacement(code, i):
-    """What stands for a token instead; None where it stays."""
+    """The token that takes the place of a token; None where it stays."""
     token = code[i]
     is_binary = is_blank(code, i - 1) and is_blank(code, i + 1)
     if token.kind == "numeric_constant" and token.text.isdigit():

@@ -5,7 +5,7 @@ set -euo pipefail
 cd "$1"
 
 releases=$(sed -nE 's/^## ([0-9.]+) - ([0-9-]+)$/\1 \2/p' CHANGELOG.md)
-# What was mended in the packages alone has the release of the entry below it.
+# An entry about the packages alone has the release of the entry below it.
 packaged=$(dpkg-parsechangelog --file debian/changelog --all --format rfc822 | awk '
     $1 == "Version:" { release = $2; sub(/-[^-]*$/, "", release) }
     $1 == "Timestamp:" { last[release] = strftime("%Y-%m-%d", $2, 1); if (!seen[release]++) order[++count] = release }

@@ -24,7 +24,7 @@ list_files() {
         grep -vE '^/var/lib/dpkg/(status|available|diversions|statoverride|triggers/Unincorp|triggers/File)' | LC_ALL=C sort
 }
 
-# What the packages need of others, and what looks at them when they are installed.
+# Installs the packages that ours depend on, and those that check the installed ones.
 install_dependencies() {
     local needs
     needs=$(for package in "${packages[@]}"; do dpkg-deb --field "$package" Depends; done | tr ',' '\n' |

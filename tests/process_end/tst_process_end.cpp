@@ -34,8 +34,8 @@
 
 using namespace Qt::StringLiterals;
 
-// Destructors of static objects run when main() has returned, and may still ask the library for whatever it hands out.
-// The program asks from one, after main() has asked the same. With the argument "late" nobody has asked before.
+// Destructors of static objects run when main() has returned, and may still ask the library for all that it hands out.
+// The program asks from one, after main() has asked the same. With the argument "late", main() has not asked before.
 
 namespace {
 

@@ -197,7 +197,7 @@ void tst_CatalogueWatcher::watchesAnother()
     QVERIFY(myChanged->wait(TIMEOUT));
 }
 
-// Nobody writes into it, so nothing may wait for that.
+// The pipe has no writer, so the watcher must not wait for one.
 void tst_CatalogueWatcher::pipe()
 {
     QVERIFY(myFolder->remove(u"c.xml"_s));

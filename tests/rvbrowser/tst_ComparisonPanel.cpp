@@ -591,7 +591,7 @@ void tst_ComparisonPanel::screenshot()
     QCOMPARE(QImage(path(u"o.png"_s)).isNull(), exitCode != 0);
 }
 
-// The texts of the program in English, whatever the machine speaks.
+// The texts of the program are English on every machine.
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);

@@ -64,7 +64,7 @@ void tst_FileCopy::copiesWhatIsRead()
     QCOMPARE(contentOf(copy.fileName()), content);
 }
 
-// A catalogue may be nobody else's business.
+// A catalogue may be secret, so other users cannot read its copy.
 void tst_FileCopy::isPrivate()
 {
     FileCopy copy(u"source.xml"_s);

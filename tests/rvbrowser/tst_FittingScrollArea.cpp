@@ -17,7 +17,7 @@ private Q_SLOTS:
     void leastHeight();
 };
 
-// Rows keep their height, whatever the text beside them needs.
+// Rows keep their height, even if the text beside them needs more.
 void tst_FittingScrollArea::breaksLines()
 {
     FittingScrollArea area;

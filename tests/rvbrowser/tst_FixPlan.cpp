@@ -26,7 +26,7 @@ private Q_SLOTS:
     void withoutFix();
     void overlapping();
     void changedFile();
-    void changedWhileSomebodyLooks();
+    void changedWhileShown();
     void missingFile();
     void writeProtected();
 
@@ -136,7 +136,7 @@ void tst_FixPlan::changedFile()
     QCOMPARE(content(), changed);
 }
 
-void tst_FixPlan::changedWhileSomebodyLooks()
+void tst_FixPlan::changedWhileShown()
 {
     const CataloguePointer catalogue = load();
     FixPlan plan(*catalogue, { 2 });

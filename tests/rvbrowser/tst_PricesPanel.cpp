@@ -250,7 +250,7 @@ void tst_PricesPanel::billsWhatTheTerminalBills()
     QVERIFY2(bills > 100, qPrintable(QString::number(bills)));
 }
 
-// The texts of the program in English, whatever the machine speaks.
+// The texts of the program are English on every machine.
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);

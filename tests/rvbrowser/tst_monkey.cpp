@@ -15,7 +15,7 @@
 
 using namespace Qt::StringLiterals;
 
-/// Somebody who knows nothing of the window and touches all of it, always in the same way.
+/// Random keys and clicks in all parts of the window, the same in every run.
 class tst_monkey : public QObject
 {
     Q_OBJECT
@@ -169,7 +169,7 @@ void tst_monkey::playsWithTheWindow()
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
-    // A double click on a place opens an editor, and nobody wants one here.
+    // A double click on a place would open an editor, which an empty PATH prevents.
     qputenv("PATH", "");
     Language language;
     language.speak(QLocale(QLocale::English));

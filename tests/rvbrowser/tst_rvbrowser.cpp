@@ -199,7 +199,7 @@ void tst_rvbrowser::loads()
     QVERIFY(myWindow->windowTitle().startsWith("c.xml"_L1));
 }
 
-// Products are packed away until somebody looks at them.
+// Products are kept packed until they are shown.
 void tst_rvbrowser::keepsEveryCharacter()
 {
     load("<p><product type='X &amp; &lt;Y&gt;' name='&quot;a&apos;&#10;&#9;b&#x1F4D6; ü'><forms>"
@@ -956,7 +956,7 @@ void tst_rvbrowser::help()
     QVERIFY(process.readAllStandardOutput().startsWith("rvbrowser 0."));
 }
 
-// The texts of the program in English, whatever the machine speaks.
+// The texts of the program are English on every machine.
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);

@@ -54,7 +54,7 @@ QByteArray run(const QString &program, const QStringList &arguments, const QStri
 
 }
 
-/// The window and "rvcatalog spine" tell the same font sizes, whatever the screen.
+/// The window and "rvcatalog spine" tell the same font sizes on every screen.
 class tst_spine_fonts : public QObject
 {
     Q_OBJECT

@@ -9,7 +9,7 @@
 
 class Settings;
 
-/// The editor that somebody chose for catalogues, as the settings keep it.
+/// The editor that the user chose for catalogues, as the settings keep it.
 class EditorChoice
 {
     Q_DECLARE_TR_FUNCTIONS(EditorChoice)

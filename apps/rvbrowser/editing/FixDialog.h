@@ -7,7 +7,7 @@
 
 #include <memory>
 
-/// Shows what fixes would change in a file, and makes the change when somebody wants it.
+/// Shows what fixes would change in a file, and makes the change when the user confirms it.
 class FixDialog : public QDialog
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ Q_SIGNALS:
 
 private:
     QString heading() const;
-    /// As much of the diff as somebody reads.
+    /// The diff, or its beginning if it is too long to be read; heading() says so then.
     QString shownDiff() const;
 
     std::unique_ptr<FixPlan> myPlan;

@@ -13,8 +13,8 @@ class CatalogueLoader : public ReadLoader
 public:
     using ReadLoader::ReadLoader;
 
-    /// Begins to load; gives up without a signal what is being loaded. What is read is copied into @p copy, unless that
-    /// is null.
+    /// Begins to load; gives up without a signal what is being loaded. The bytes of the file are copied into @p copy,
+    /// unless that is null.
     void start(const QString &fileName, const std::shared_ptr<FileCopy> &copy = nullptr);
 
 Q_SIGNALS:

@@ -53,7 +53,7 @@ void CatalogueSession::fail(const LoadError &error)
     myCopy = nullptr;
     Q_EMIT ended();
     Q_EMIT failed(error);
-    // While nothing else is open, this is the file that somebody is mending.
+    // If no other catalogue is open, the user is probably mending this file.
     if (!catalogue())
         myWatcher.watch(myFileName, myStamp);
     catchUp();

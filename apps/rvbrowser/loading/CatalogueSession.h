@@ -22,7 +22,7 @@ public:
     bool isLoading() const { return myLoader.isLoading(); }
     /// Null until one was loaded.
     CataloguePointer catalogue() const { return myServices.catalogue(); }
-    /// The open file as it was when it was opened, whatever became of it since; null until one was loaded.
+    /// The open file as it was when it was opened, even if it has changed since; null until one was loaded.
     std::shared_ptr<const FileCopy> original() const { return myOriginal; }
 
 Q_SIGNALS:

@@ -30,7 +30,7 @@ public:
     int indexInOpen(int product) const;
 
 Q_SIGNALS:
-    /// Somebody asked for another comparison.
+    /// Another comparison was asked for.
     void begun();
     /// Catalogues are being compared, or compared again.
     void started(const ComparedFiles &files);

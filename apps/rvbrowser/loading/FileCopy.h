@@ -21,7 +21,7 @@ public:
     void finish();
 
     QString source() const { return mySource; }
-    QDateTime begun() const { return myBegun; } ///< When the copy was begun.
+    QDateTime begun() const { return myBegun; } ///< The time at which the copy was begun.
     /// The name of the copy, which other programs see from then on; empty where there is none. Only for one thread.
     QString fileName() const { return myError.isEmpty() ? myFile.fileName() : QString(); }
     /// The reason why there is no copy; empty where nothing went wrong.

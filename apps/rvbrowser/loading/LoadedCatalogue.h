@@ -22,7 +22,7 @@ class RVCatalogueReader;
 
 /**
  * A catalogue as it was read. Of each product it keeps what the list shows and what a search looks at; all else stays
- * packed until somebody looks at the product, and equal texts are kept but once. So 20,000 products of 2 KB, with two
+ * packed until the product is shown, and equal texts are kept but once. So 20,000 products of 2 KB, with two
  * findings each, need some 13 MB.
  *
  * It does not change once it is loaded, so any thread may read it.

@@ -7,7 +7,7 @@
 
 class FileCopy;
 
-/// A file that tells with every read how far it was read, and that ends for whoever reads it when the answer is false.
+/// A file that tells with every read how far it was read. If the answer is false, the file ends for its reader.
 class ObservedFile : public QFile
 {
 public:

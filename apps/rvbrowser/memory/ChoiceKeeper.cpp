@@ -8,7 +8,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// Long enough for somebody who goes through a list by holding a key.
+/// Long enough to go through a list by holding a key.
 constexpr auto WAIT = 1s;
 
 }

@@ -8,7 +8,7 @@
 
 #include <vector>
 
-/// The findings that somebody wants to see; by default all of them.
+/// The findings that are to be shown; by default all of them.
 struct FindingFilter
 {
     QString text; ///< Each of its words is in the type of the product, the text or the name of the rule.

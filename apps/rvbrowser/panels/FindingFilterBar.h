@@ -30,7 +30,7 @@ public:
 
 Q_SIGNALS:
     void filterChanged();
-    /// Somebody wants to go on from the text to the findings.
+    /// A key in the text asks to go on to the findings.
     void left();
 
 protected:

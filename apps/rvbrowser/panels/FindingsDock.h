@@ -9,7 +9,7 @@ class FindingsPanel;
 class QMainWindow;
 class Settings;
 
-/// The place of the findings: one line where there are none, else as high as somebody made it. Hidden from restore()
+/// The place of the findings: one line where there are none, else as high as the user made it. Hidden from restore()
 /// until there is a catalogue.
 class FindingsDock : public QDockWidget
 {

@@ -28,8 +28,8 @@ public:
 
     explicit FindingsPanel(QWidget *parent = nullptr);
 
-    /// When it is the same file again, the chosen finding stays chosen; where it is mended, the next step leads to the
-    /// one that came after it. The filter and the order stay.
+    /// The chosen finding stays chosen if it is the same file again; if the finding is mended, the next step leads to
+    /// the one that came after it. The filter and the order stay.
     void setCatalogue(const CataloguePointer &catalogue);
     const CataloguePointer &catalogue() const { return myModel.catalogue(); }
     /// "2 errors, 1 warning, 0 notes"
@@ -58,7 +58,7 @@ Q_SIGNALS:
     void productChosen(int product);
     /// Comes behind productChosen().
     void findingChosen(int finding);
-    /// Somebody wants to edit the place of the chosen finding.
+    /// The user wants to edit the place of the chosen finding.
     void editRequested();
     /// Another finding is chosen, or several are.
     void selectionChanged();

@@ -59,7 +59,7 @@ QLabel *createLabel(QString name, QComboBox *values)
     return label;
 }
 
-// Lists are of one width, whatever stands beside them.
+// All lists have one width, with a long note beside them as with a short one.
 QLabel *createNote()
 {
     auto *note = new ElidedLabel(QString());

@@ -258,7 +258,7 @@ void ProductView::showHeader(const LoadedCatalogue &catalogue, int product, cons
     myFaults->setPalette(colors);
 }
 
-/// The reason why nobody can order the product; empty where there is none.
+/// The reason why the product cannot be ordered; empty where there is none.
 QString ProductView::note(const LoadedCatalogue &catalogue, int product)
 {
     const RVProductType &type = catalogue.at(product).type;

@@ -3,7 +3,7 @@
 
 #include <QWidget>
 
-/// Keeps the wheel from changing a control that does not have the focus: the wheel then goes on to whatever scrolls.
+/// Keeps the wheel from changing a control that does not have the focus: the wheel then scrolls the area around it.
 class WheelGuard : public QObject
 {
     Q_OBJECT

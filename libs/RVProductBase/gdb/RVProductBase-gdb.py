@@ -1,4 +1,4 @@
-"""Shows the value classes of RVProductBase in gdb, in Qt Creator and in whatever else asks gdb.
+"""Shows the value classes of RVProductBase in gdb, in Qt Creator and in other programs that ask gdb.
 
 gdb loads this file together with libRVProductBase; elsewhere, "source RVProductBase-gdb.py" does. The program is never
 asked to run anything, and an object that is not initialised yet is shown as what its memory holds.
@@ -103,7 +103,7 @@ def configured_variant(value):
 
 
 def pointed_to(shared):
-    """What QSharedDataPointer or QExplicitlySharedDataPointer points to; the member is a class of its own since Qt 6.4."""
+    """The target of a QSharedDataPointer or QExplicitlySharedDataPointer, whose member is a class of its own since Qt 6.4."""
     pointer = shared["d"]
     if pointer.type.strip_typedefs().code != gdb.TYPE_CODE_PTR:
         pointer = pointer["ptr"]
