@@ -54,9 +54,9 @@ void tst_RVBarcodeCheck::missing_data()
     QTest::newRow("no width") << barcode(place + "height='10' pageNr='2'") << QStringList { noSize };
     QTest::newRow("no height") << barcode(place + "width='38' pageNr='2'") << QStringList { noSize };
     QTest::newRow("no page") << barcode(place + "width='38' height='10'") << QStringList { noPage };
-    QTest::newRow("neither size nor page") << barcode(place) << QStringList { noSize, noPage };
-    QTest::newRow("width of nothing") << barcode(place + "width='0' height='10' pageNr='2'")
-                                      << QStringList { u"width='0': barcode-invalid"_s };
+    QTest::newRow("no size and no page") << barcode(place) << QStringList { noSize, noPage };
+    QTest::newRow("width of 0") << barcode(place + "width='0' height='10' pageNr='2'")
+                                << QStringList { u"width='0': barcode-invalid"_s };
     QTest::newRow("width is misspelt") << barcode(place + "widht='38' height='10' pageNr='2'")
                                        << QStringList { u"widht='38': attribute-misspelt"_s };
     QTest::newRow("width is misspelt, height is missing")
@@ -113,8 +113,8 @@ void tst_RVBarcodeCheck::usualPage_data()
        barcode("position_x='12' position_y='400' width='38' height='10' pageNr='2'", "space_magnitude='600cm2'"));
     on("orientation is none", endingAt("50", "400", "none", "600cm2"));
     on("orientation is any", endingAt("50", "400", "all", "600cm2"));
-    QTest::newRow("off any page") << endingAt("50", "900", "portrait", "600cm2")
-                                  << QStringList { u"position_y='900': barcode-outside-page"_s };
+    QTest::newRow("below every page") << endingAt("50", "900", "portrait", "600cm2")
+                                      << QStringList { u"position_y='900': barcode-outside-page"_s };
 }
 
 void tst_RVBarcodeCheck::usualPage()
@@ -130,7 +130,7 @@ void tst_RVBarcodeCheck::exactPage_data()
     QTest::addColumn<QStringList>("findings");
 
     QTest::newRow("corner") << endingAt("210", "297", "portrait", "600cm2") << QStringList();
-    QTest::newRow("corner of what seems to be another size class")
+    QTest::newRow("corner of a page with the proportions of another class")
             << endingAt("210", "297", "square", "50cm2") << QStringList();
     QTest::newRow("below") << endingAt("210", "298", "portrait", "600cm2")
                            << QStringList { u"position_y='298': barcode-outside-page"_s };
@@ -138,8 +138,8 @@ void tst_RVBarcodeCheck::exactPage_data()
                            << QStringList { u"position_x='173': barcode-outside-page"_s };
     QTest::newRow("further below than right") << endingAt("211", "300", "portrait", "600cm2")
                                               << QStringList { u"position_y='300': barcode-outside-page"_s };
-    QTest::newRow("another product") << endingAt("210", "300", "portrait", "600cm2").replace("'A'", "'B'")
-                                     << QStringList();
+    QTest::newRow("product without a configured page size")
+            << endingAt("210", "300", "portrait", "600cm2").replace("'A'", "'B'") << QStringList();
     QTest::newRow("left") << barcode("position_x='-1' position_y='290' width='38' height='10' pageNr='2'")
                           << QStringList { u"position_x='-1': barcode-outside-page"_s };
 }

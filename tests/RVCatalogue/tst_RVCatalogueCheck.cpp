@@ -428,7 +428,7 @@ QList<Mistake> mistakes()
           u"3 error unit-unknown: there is no unit \"mm \"; write \"mm\""_s },
         { "misspelt product", changed("<products>", "<products><prodcut type='B'/>"), u"<prodcut>"_s,
           u"1 warning element-misspelt: the element \"prodcut\" is not read; did you mean \"product\"?"_s },
-        { "parts of no product", changed("<products>", "<products><forms><form/></forms>"), u"<forms>"_s,
+        { "parts outside of products", changed("<products>", "<products><forms><form/></forms>"), u"<forms>"_s,
           u"1 warning element-misplaced: the element \"forms\" is not read outside of a product; move it into one"_s },
         { "prefix", changed("<form key='alcolor' value='red'", "<x:form xmlns:x='y' key='alcolor' value='red'"),
           u"<x:form>"_s,
@@ -524,8 +524,8 @@ void tst_RVCatalogueCheck::clean_data()
 {
     QTest::addColumn<QByteArray>("file");
 
-    QTest::newRow("as it is") << QByteArray(CLEAN_CATALOGUE);
-    QTest::newRow("only what a product must have") << withSecondProduct("<product type='A' article_id='2'/>");
+    QTest::newRow("unchanged catalogue") << QByteArray(CLEAN_CATALOGUE);
+    QTest::newRow("only required attributes") << withSecondProduct("<product type='A' article_id='2'/>");
     QTest::newRow("fixed page count of several pieces")
             << withSecondProduct("<product type='A' article_id='2' pages='4' pieces='10'/>");
     QTest::newRow("step of a fixed page count")
@@ -574,7 +574,7 @@ void tst_RVCatalogueCheck::clean_data()
     QTest::newRow("barcode far away on the largest page")
             << changed("space_magnitude='600cm2' ", "space_magnitude='2400cm2' ")
                        .replace("position_x='62'", "position_x='900'");
-    QTest::newRow("other elements and attributes") << changed(
+    QTest::newRow("foreign elements and attributes") << changed(
             "<forms>", "text<description foo='bar'>a &amp; b</description><x:y xmlns:x='z'/><forms foo='bar'>");
     QTest::newRow("barcode at the corner of a page of its usual area") << withSecondProduct(
             "<product type='A' article_id='2' space_magnitude='220cm2' orientation='square'><barcodes>"
@@ -586,11 +586,12 @@ void tst_RVCatalogueCheck::clean_data()
             "<product type='A' article_id='2' space_magnitude='1200cm2' orientation='landscape_slim'><barcodes>"
             "<barcode position_x='862' position_y='130' width='38' height='10' pageNr='1'/></barcodes></product>");
     QTest::newRow("shipping group below 0") << changed("shipping_group='2'", "shipping_group='-2'");
-    QTest::newRow("parts of no product") << changed("<products>", "<products><x><forms/><forms/><spine/></x>");
-    QTest::newRow("parts of something else") << changed("<forms>", "<x><forms/><product/></x><x><forms/></x><forms>");
+    QTest::newRow("parts outside of products") << changed("<products>", "<products><x><forms/><forms/><spine/></x>");
+    QTest::newRow("parts in a foreign element")
+            << changed("<forms>", "<x><forms/><product/></x><x><forms/></x><forms>");
     QTest::newRow("family around products")
             << changed("<products>", "<products><family name='x'>").replace("</products>", "</family></products>");
-    QTest::newRow("other root") << changed("<products>", "<p>").replace("</products>", "</p>");
+    QTest::newRow("root with another name") << changed("<products>", "<p>").replace("</products>", "</p>");
     QTest::newRow("document type") << "<?xml version='1.0'?><!DOCTYPE products>" + QByteArray(CLEAN_CATALOGUE);
 }
 
@@ -707,7 +708,7 @@ void tst_RVCatalogueCheck::options_data()
     QTest::addColumn<QByteArray>("options");
     QTest::addColumn<QStringList>("findings");
 
-    QTest::newRow("the same three times, others between")
+    QTest::newRow("option three times, others between")
             << QByteArray("<form key='b' value='x' preselected='1'/>\n"
                           "<form key='a' value='y' preselected='1'/>\n"
                           "<form key='b' value='x'/>\n"
@@ -741,7 +742,7 @@ void tst_RVCatalogueCheck::options_data()
                    u"4 error option-default-twice: \"1\" is preselected for \"b\", but \"2\" in line 2 is so already; preselect one"_s,
                    u"5 error option-default-twice: \"1\" is preselected for \"a\", but \"2\" in line 3 is so already; preselect one"_s
                };
-    QTest::newRow("no default of two keys")
+    QTest::newRow("two keys without a default")
             << QByteArray("<form key='b' value='2'/>\n"
                           "<form key='a' value='2'/>\n"
                           "<form key='a' value='1'/>\n"
@@ -756,11 +757,11 @@ void tst_RVCatalogueCheck::options_data()
             << QStringList {
                    u"2 error boolean-invalid: preselected is \"maybe\", which is neither true nor false; there are true, false, yes, no, on, off, 1 and 0"_s
                };
-    QTest::newRow("one key more than the letters of another")
+    QTest::newRow("different keys and values with the same letters")
             << QByteArray("<form key='a' value='bc' preselected='1'/>\n"
                           "<form key='ab' value='c' preselected='1'/>\n")
             << QStringList();
-    QTest::newRow("many in one product")
+    QTest::newRow("one hundred duplicates in one product")
             << QByteArray("<form key='a' value='b' preselected='1'/>").repeated(100) + "\n<form key='a' value='b'/>"
             << QStringList(
                        99,
@@ -1119,12 +1120,12 @@ void tst_RVCatalogueCheck::guesses_data()
     QTest::newRow("other separator")
             << u"paper_type"_s << u"indigo_glossy"_s
             << u"\"indigo_glossy\" is no keyword of paper_type; did you mean \"indigo-glossy\"?"_s;
-    QTest::newRow("like nothing")
+    QTest::newRow("similar to no keyword")
             << u"cover_type"_s << u"zzzzzzzz"_s
             << u"\"zzzzzzzz\" is no keyword of cover_type; \"rvcatalog keywords cover_type\" lists them"_s;
     QTest::newRow("empty") << u"cover_type"_s << QString()
                            << u"there is an empty keyword in cover_type; write one, or leave out the attribute"_s;
-    QTest::newRow("too long")
+    QTest::newRow("keyword too long for a suggestion")
             << u"cover_type"_s << QString(50, u'h')
             << u"\"hhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhhh\" is no keyword of cover_type; \"rvcatalog keywords cover_type\" lists them"_s;
 }

@@ -179,7 +179,7 @@ void tst_RVCatalogueReader::products_data()
     QTest::newRow("ASCII") << declared("US-ASCII") + "<p><product type='A'/></p>" << one;
     QTest::newRow("UTF-16") << utf16(text) << both;
     QTest::newRow("UTF-16 as declared") << utf16(u"<?xml version='1.0' encoding='UTF-16'?>"_s + text) << both;
-    QTest::newRow("UTF-16, other order") << utf16BigEndian(text) << both;
+    QTest::newRow("UTF-16 in big-endian order") << utf16BigEndian(text) << both;
     QTest::newRow("UTF-16 without a mark") << utf16(text, QStringEncoder::Flag::Default) << both;
     QTest::newRow("UTF-32") << utf32(text) << both;
     QTest::newRow("beyond the first plane in UTF-16")
@@ -193,7 +193,7 @@ void tst_RVCatalogueReader::products_data()
     QTest::newRow("prefix not declared") << QByteArray("<x:p><product type='A'/></x:p>") << one;
     QTest::newRow("name spaces") << QByteArray("<p><product xmlns='urn:a' type='A' xmlns:b='urn:b' b:c='d'/></p>")
                                  << one;
-    QTest::newRow("product with a prefix is none")
+    QTest::newRow("element with a prefix is no product")
             << QByteArray("<p xmlns:x='urn:x'><x:product type='B'/><product type='A'/></p>") << one;
     QTest::newRow("product is the root") << QByteArray("<product type='A'/>") << one;
     QTest::newRow("inner product belongs to the outer")
@@ -304,12 +304,13 @@ void tst_RVCatalogueReader::errors_data()
 
     QTest::newRow("wrong end tag") << QByteArray("<p>\n<forms>\n\n  </p>")
                                    << u"4:3: </p> closes <forms>, which was opened in line 2"_s;
-    QTest::newRow("behind the root") << QByteArray("<p/>\n<p/>")
-                                     << u"2:1: nothing but comments may follow the end of the root element"_s;
+    QTest::newRow("element behind the root")
+            << QByteArray("<p/>\n<p/>") << u"2:1: nothing but comments may follow the end of the root element"_s;
     QTest::newRow("text behind the root")
             << QByteArray("<p/>\nfoo bar") << u"2:1: nothing but comments may follow the end of the root element"_s;
-    QTest::newRow("late declaration") << QByteArray("\n<?xml version='1.0'?><p/>")
-                                      << u"2:6: the declaration \"<?xml\" must be the first of the file"_s;
+    QTest::newRow("declaration behind a line feed")
+            << QByteArray("\n<?xml version='1.0'?><p/>")
+            << u"2:6: the declaration \"<?xml\" must be the first of the file"_s;
     QTest::newRow("attribute twice") << QByteArray("<p>\n<a b='1' b='2'/></p>")
                                      << u"2:15: the attribute \"b\" is there twice"_s;
     QTest::newRow("attribute without quotes")
@@ -319,8 +320,9 @@ void tst_RVCatalogueReader::errors_data()
     QTest::newRow("no blank between attributes") << QByteArray("<a b='1'c='2'/>") << u"1:9: a blank is missing here"_s;
     QTest::newRow("tag in a value") << QByteArray("<p><a b='<'/></p>")
                                     << u"1:10: \"<\" is written \"&lt;\" in a value"_s;
-    QTest::newRow("no tag") << QByteArray("<p> 3 < 4 </p>")
-                            << u"1:8: \"<\" does not begin a tag here; the letter itself is written \"&lt;\""_s;
+    QTest::newRow("less-than sign in a text")
+            << QByteArray("<p> 3 < 4 </p>")
+            << u"1:8: \"<\" does not begin a tag here; the letter itself is written \"&lt;\""_s;
     QTest::newRow("bare ampersand in a value")
             << QByteArray("<p><a b='x & y'/></p>")
             << u"1:13: \"&\" does not begin an entity here; the letter itself is written \"&amp;\""_s;
@@ -362,17 +364,17 @@ void tst_RVCatalogueReader::errors_data()
     QTest::newRow("ASCII with an umlaut")
             << declared("US-ASCII") + "\n<p><a b='\xe4'/></p>"
             << u"2:10: this is not encoded in US-ASCII, which the first line of the file declares"_s;
-    QTest::newRow("Windows without that letter")
+    QTest::newRow("byte that windows-1252 does not have")
             << declared("windows-1252") + "\n<p>\x81</p>"
             << u"2:4: this is not encoded in windows-1252, which the first line of the file declares"_s;
-    QTest::newRow("UTF-16 with half a letter")
+    QTest::newRow("UTF-16 with the first half of a letter")
             << utf16(u"<p>\nab"_s) + QByteArray("\x00\xd8", 2) + utf16(u"</p>"_s, QStringEncoder::Flag::Default)
             << u"2:3: this is not encoded in UTF-16, in which the file begins"_s;
-    QTest::newRow("UTF-16 with the other half") << utf16(u"<p>"_s) + QByteArray("\x00\xdc", 2)
-                                                << u"1:4: this is not encoded in UTF-16, in which the file begins"_s;
+    QTest::newRow("UTF-16 with the second half of a letter") << utf16(u"<p>"_s)
+                    + QByteArray("\x00\xdc", 2) << u"1:4: this is not encoded in UTF-16, in which the file begins"_s;
     QTest::newRow("UTF-16 cut off in a letter") << utf16(u"<p></p>"_s) + "\n"
                                                 << u"1:8: this is not encoded in UTF-16, in which the file begins"_s;
-    QTest::newRow("no declaration, but like one")
+    QTest::newRow("instruction that begins like a declaration")
             << QByteArray("<?xmlfoo encoding='ISO-8859-1'?><p>\xe4</p>") << u"1:36: "_s + utf8;
     QTest::newRow("mark in a tag") << QByteArray("<p><a \xef\xbb\xbf/></p>")
                                    << u"1:8: the attribute \"\" has no value"_s;
@@ -438,15 +440,15 @@ void tst_RVCatalogueReader::largeFaults_data()
     const QString large = u"an element, text, comment or declaration is larger than 1 MiB"_s;
     const QString other = u"this is not encoded in UTF-8, as files are that do not say otherwise in their first line"_s;
     const QByteArray megabyte(1024 * 1024, 'x');
-    QTest::newRow("wrong encoding far behind") << "<p>\n" + QByteArray("<a>\xc3\xbc</a>\n").repeated(100000)
+    QTest::newRow("wrong encoding in line 100002") << "<p>\n" + QByteArray("<a>\xc3\xbc</a>\n").repeated(100000)
                     + "<a>\xf6\xdf</a></p>" << u"100002:4: "_s + other;
     QTest::newRow("entity across two pieces of input") << "<!DOCTYPE p [<!--" + QByteArray(64 * 1024 - 20, 'x')
                     + "-->\n<!ENTITY a 'b'>]><p/>" << u"2:1: entity declarations are not supported"_s;
     QTest::newRow("product") << "<p>\n <product>" + QByteArray("<form/>").repeated(200000) + "</product></p>"
                              << u"2:2: "_s + large;
-    QTest::newRow("product by one byte") << "<p>\n<product><!--" + megabyte.chopped(25) + "--></product></p>"
-                                         << u"2:1: "_s + large;
-    QTest::newRow("product as large as it may be")
+    QTest::newRow("product one byte too large")
+            << "<p>\n<product><!--" + megabyte.chopped(25) + "--></product></p>" << u"2:1: "_s + large;
+    QTest::newRow("largest allowed product")
             << "<p>\n<product><!--" + megabyte.chopped(26) + "--></product></p>" << QString();
     QTest::newRow("text") << "<p>\n<a/>" + megabyte + "x</p>" << u"2:1: "_s + large;
     QTest::newRow("comment") << "<p>\n<a/><!--" + megabyte + "--></p>" << u"2:1: "_s + large;
@@ -613,7 +615,7 @@ void tst_RVCatalogueReader::mapsInOrder_data()
 {
     QTest::addColumn<int>("count");
 
-    QTest::newRow("nothing") << 0;
+    QTest::newRow("no product") << 0;
     QTest::newRow("one") << 1;
     QTest::newRow("one piece of the file") << 200;
     QTest::newRow("many pieces") << 50000;

@@ -65,9 +65,9 @@ void tst_RVCatalogueRule::severities_data()
     QTest::addColumn<QString>("rule");
     QTest::addColumn<RVCatalogueSeverity>("severity");
 
-    QTest::newRow("good to know") << u"keyword-legacy"_s << RVCatalogueSeverity::Note;
-    QTest::newRow("probably not meant") << u"option-default-missing"_s << RVCatalogueSeverity::Warning;
-    QTest::newRow("goes wrong") << u"type-missing"_s << RVCatalogueSeverity::Error;
+    QTest::newRow("note") << u"keyword-legacy"_s << RVCatalogueSeverity::Note;
+    QTest::newRow("warning") << u"option-default-missing"_s << RVCatalogueSeverity::Warning;
+    QTest::newRow("error") << u"type-missing"_s << RVCatalogueSeverity::Error;
 }
 
 void tst_RVCatalogueRule::severities()

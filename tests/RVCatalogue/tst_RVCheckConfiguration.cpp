@@ -337,12 +337,10 @@ void tst_RVCheckConfiguration::limits_data()
     QTest::newRow("more than 1 MiB") << u"a.toml"_s << comment + "\n\n"
                                      << u"the file is larger than 1 MiB"_s << QString();
     const QByteArray names = QByteArray("a.").repeated(500000);
-    QTest::newRow("half a million tables in one another, by a key")
-            << u"a.toml"_s << "\n" + names + "a = 1\n"
-            << u"this line has more than 256 dots"_s << u"2:1"_s;
-    QTest::newRow("half a million tables in one another, by a heading")
-            << u"a.toml"_s << "[" + names + "a]\n"
-            << u"this line has more than 256 dots"_s << u"1:1"_s;
+    QTest::newRow("half a million nested tables, by a key") << u"a.toml"_s << "\n" + names + "a = 1\n"
+                                                            << u"this line has more than 256 dots"_s << u"2:1"_s;
+    QTest::newRow("half a million nested tables, by a heading") << u"a.toml"_s << "[" + names + "a]\n"
+                                                                << u"this line has more than 256 dots"_s << u"1:1"_s;
     QTest::newRow("as many dots as allowed")
             << u"a.toml"_s << QByteArray("a.").repeated(256) + "a = 1"
             << u"there is no entry \"a\"; there are: rules, foreign, price_classes, page_sizes"_s << u"1:1"_s;
@@ -373,9 +371,10 @@ void tst_RVCheckConfiguration::unreadable_data()
     QTest::newRow("letter outside of a text")
             << u"a.toml"_s << QByteArray("\n\xC3\x9F = 1\n")
             << u"this is no TOML: a letter that may stand only in a text stands elsewhere"_s << 2;
-    QTest::newRow("a hundred lists in one another")
+    QTest::newRow("a hundred nested lists")
             << u"a.toml"_s << "foreign = " + QByteArray(100, '[') + QByteArray(100, ']') << noToml << 1;
-    QTest::newRow("letter for an hour") << u"a.toml"_s << QByteArray("\nforeign = 2026-01-01Tx\n") << noToml << 2;
+    QTest::newRow("letter in place of an hour")
+            << u"a.toml"_s << QByteArray("\nforeign = 2026-01-01Tx\n") << noToml << 2;
     const QString noJson = u"this is no JSON: "_s;
     QTest::newRow("JSON with a comma too many") << u"a.json"_s << QByteArray("{\n  \"foreign\": [],\n}") << noJson << 3;
     QTest::newRow("JSON that ends too early") << u"a.json"_s << QByteArray("{") << noJson << 1;
@@ -413,8 +412,8 @@ void tst_RVCheckConfiguration::find_data()
     QTest::newRow("in the folder above") << u"a/rvcatalog.toml"_s << file << true << none;
     QTest::newRow("two folders above") << u"rvcatalog.toml"_s << file << true << none;
     QTest::newRow("in a folder below") << u"a/b/c/rvcatalog.toml"_s << file << false << none;
-    QTest::newRow("in another folder") << u"d/rvcatalog.toml"_s << file << false << none;
-    QTest::newRow("another name") << u"a/b/catalog.toml"_s << file << false << none;
+    QTest::newRow("in a folder beside") << u"d/rvcatalog.toml"_s << file << false << none;
+    QTest::newRow("file with another name") << u"a/b/catalog.toml"_s << file << false << none;
     QTest::newRow("folder of that name") << u"a/rvcatalog.toml"_s << u"folder"_s << true << u"it is no regular file"_s;
     QTest::newRow("link that points nowhere")
             << u"a/rvcatalog.toml"_s << u"link"_s << true << u"cannot open the file: No such file or directory"_s;

@@ -84,13 +84,13 @@ void tst_RVFindingText::keywords_data()
     QTest::newRow("near an alias")
             << u"space_magnitude"_s << u"A33"_s
             << u"\"A33\" is no keyword of space_magnitude; did you mean \"a3\", that is \"1200cm2\"?"_s;
-    QTest::newRow("like none of a few")
+    QTest::newRow("similar to none of a few keywords")
             << u"page_binding"_s << u"xyz"_s
             << u"\"xyz\" is no keyword of page_binding; there are unknown, glue, layflat, stapled and spiral"_s;
-    QTest::newRow("like none of numbers with aliases")
+    QTest::newRow("similar to none of the numbers with aliases")
             << u"foto_paper_type"_s << u"shiny"_s
             << u"\"shiny\" is no keyword of foto_paper_type; there are 0, glossy and matt"_s;
-    QTest::newRow("like none of many")
+    QTest::newRow("similar to none of many keywords")
             << u"cover_type"_s << u"xyz"_s
             << u"\"xyz\" is no keyword of cover_type; \"rvcatalog keywords cover_type\" lists them"_s;
     QTest::newRow("display name")
@@ -294,7 +294,7 @@ void tst_RVFindingText::lengths_data()
     QTest::newRow("plain") << u"8.5"_s << QString();
     QTest::newRow("exponent") << u"8.5e-1"_s << QString();
     QTest::newRow("decimal comma") << u"8,5"_s << no("8,5", "decimals have a point: write 8.5");
-    QTest::newRow("three decimals of nothing") << u"0,125"_s << no("0,125", "decimals have a point: write 0.125");
+    QTest::newRow("three decimals of zero") << u"0,125"_s << no("0,125", "decimals have a point: write 0.125");
     QTest::newRow("comma without digits before it") << u",5"_s << no(",5", "decimals have a point: write 0.5");
     QTest::newRow("three digits behind a comma")
             << u"8,125"_s << no("8,125", "write 8.125, or 8125 where the comma separates thousands");
@@ -307,8 +307,8 @@ void tst_RVFindingText::lengths_data()
     QTest::newRow("unit") << u"8 mm"_s << no("8 mm", "the unit belongs to \"units\": write 8");
     QTest::newRow("unit without a blank, decimal comma")
             << u"8,5cm"_s << no("8,5cm", "the unit belongs to \"units\": write 8.5");
-    QTest::newRow("unit that is none") << u"8 Zoll"_s << no("8 Zoll", "the unit belongs to \"units\": write 8");
-    QTest::newRow("no unit at all") << u"8 x"_s << no("8 x", "write digits, and a point before decimals");
+    QTest::newRow("unit in German") << u"8 Zoll"_s << no("8 Zoll", "the unit belongs to \"units\": write 8");
+    QTest::newRow("number and letter") << u"8 x"_s << no("8 x", "write digits, and a point before decimals");
     QTest::newRow("infinite") << u"inf"_s << no("inf", "write digits, and a point before decimals");
     QTest::newRow("two commas") << u"8,5,1"_s << no("8,5,1", "write digits, and a point before decimals");
     QTest::newRow("blank before the point") << u"8 .5"_s << no("8 .5", "write 8.5");
@@ -316,7 +316,7 @@ void tst_RVFindingText::lengths_data()
                                << u"base_width is \"1e400\", which is too large; write a smaller number"_s;
     QTest::newRow("too small") << u"-1e400"_s
                                << u"base_width is \"-1e400\", which is too small; write a larger number"_s;
-    QTest::newRow("too near to 0") << u"1e-400"_s << no("1e-400", "write 0");
+    QTest::newRow("smaller than every positive number") << u"1e-400"_s << no("1e-400", "write 0");
 }
 
 void tst_RVFindingText::lengths()
@@ -338,7 +338,7 @@ void tst_RVFindingText::booleans_data()
     QTest::newRow("letter missing") << u"fals"_s << no(u"fals"_s, u"did you mean \"false\"?"_s);
     QTest::newRow("blank") << u" Yes"_s << no(u" Yes"_s, u"did you mean \"Yes\"?"_s);
     QTest::newRow("two letters wrong") << u"treu"_s << no(u"treu"_s, u"did you mean \"true\"?"_s);
-    QTest::newRow("near both") << u"o"_s << no(u"o"_s, all);
+    QTest::newRow("near true and false") << u"o"_s << no(u"o"_s, all);
     QTest::newRow("other language") << u"ja"_s << no(u"ja"_s, all);
     QTest::newRow("other number") << u"2"_s << no(u"2"_s, all);
     QTest::newRow("nothing") << QString() << no(QString(), all);
@@ -480,7 +480,7 @@ void tst_RVFindingText::colors_data()
     QTest::newRow("name") << u"DarkRed"_s << QString();
     QTest::newRow("digits") << u"#1A1a1a"_s << QString();
     QTest::newRow("digits without a sign") << u"1a1a1a"_s << no(u"1a1a1a"_s, u"write \"#1a1a1a\""_s);
-    QTest::newRow("digits of a programmer") << u"0xFF1a1a1a"_s << no(u"0xFF1a1a1a"_s, u"write \"#FF1a1a1a\""_s);
+    QTest::newRow("digits behind 0x") << u"0xFF1a1a1a"_s << no(u"0xFF1a1a1a"_s, u"write \"#FF1a1a1a\""_s);
     QTest::newRow("blank behind the sign") << u"# 1a1a1a"_s << no(u"# 1a1a1a"_s, u"write \"#1a1a1a\""_s);
     QTest::newRow("too few digits") << u"#1a1a1"_s << no(u"#1a1a1"_s, u"it has 5 instead of 6 digits"_s);
     QTest::newRow("no digits") << u"#"_s << no(u"#"_s, u"it has 0 instead of 6 digits"_s);
@@ -512,10 +512,10 @@ void tst_RVFindingText::priceClasses_data()
     QTest::newRow("small letters") << u"lez2"_s << no(u"lez2"_s, u"did you mean \"LEZ2\"?"_s);
     QTest::newRow("blank") << u" LEZ2"_s << no(u" LEZ2"_s, u"did you mean \"LEZ2\"?"_s);
     QTest::newRow("near several") << u"LEZ7"_s << no(u"LEZ7"_s, u"did you mean \"LEZ1\", \"LEZ2\" or \"LEZ3\"?"_s);
-    QTest::newRow("begin of one") << u"RODA"_s << no(u"RODA"_s, u"did you mean \"RODA6x9\"?"_s);
-    QTest::newRow("like none") << u"(xxx)"_s
-                               << no(u"(xxx)"_s,
-                                     u"write one of a group, or one that begins with 0 for what is not billed"_s);
+    QTest::newRow("beginning of a price class") << u"RODA"_s << no(u"RODA"_s, u"did you mean \"RODA6x9\"?"_s);
+    QTest::newRow("similar to no price class")
+            << u"(xxx)"_s
+            << no(u"(xxx)"_s, u"write one of a group, or one that begins with 0 for what is not billed"_s);
 }
 
 void tst_RVFindingText::priceClasses()
@@ -531,14 +531,14 @@ void tst_RVFindingText::ownPriceClasses_data()
     const auto no = [](const QString &code, const QString &advice) {
         return u"the price class \"%1\" belongs to no known group; did you mean %2?"_s.arg(code, advice);
     };
-    QTest::newRow("own") << u"FOIL1"_s << QString();
-    QTest::newRow("own with a letter beyond ASCII") << u"PRÄGUNG"_s << QString();
-    QTest::newRow("own with a rare letter") << u"\U0001F4D5BOOK"_s << QString();
-    QTest::newRow("own before that one") << u"\uFB01LM"_s << QString();
-    QTest::newRow("known to all") << u"LEZ2"_s << QString();
-    QTest::newRow("near an own one") << u"FOIL"_s << no(u"FOIL"_s, u"\"FOIL1\""_s);
-    QTest::newRow("own in small letters") << u"prägung"_s << no(u"prägung"_s, u"\"PRÄGUNG\""_s);
-    QTest::newRow("both own and known to all") << u"lez1"_s << no(u"lez1"_s, u"\"LEZ1\""_s);
+    QTest::newRow("configured") << u"FOIL1"_s << QString();
+    QTest::newRow("configured, with a letter beyond ASCII") << u"PRÄGUNG"_s << QString();
+    QTest::newRow("configured, with a letter beyond 16 bits") << u"\U0001F4D5BOOK"_s << QString();
+    QTest::newRow("configured, sorted before that letter") << u"\uFB01LM"_s << QString();
+    QTest::newRow("built in") << u"LEZ2"_s << QString();
+    QTest::newRow("near a configured one") << u"FOIL"_s << no(u"FOIL"_s, u"\"FOIL1\""_s);
+    QTest::newRow("configured, in small letters") << u"prägung"_s << no(u"prägung"_s, u"\"PRÄGUNG\""_s);
+    QTest::newRow("configured and built in") << u"lez1"_s << no(u"lez1"_s, u"\"LEZ1\""_s);
 }
 
 void tst_RVFindingText::ownPriceClasses()

@@ -284,7 +284,7 @@ void tst_RVNameCheck::silent_data()
         QTest::addRow("%s of a product", name) << product(QByteArray(name) + "='1'");
     for (const char *name :
          { "page_type", "page_alignment", "material_type", "product_arrangement", "dlp_type", "spot_color" })
-        QTest::addRow("%s, which is of other XML", name) << product(QByteArray(name) + "='1'");
+        QTest::addRow("%s of other XML formats", name) << product(QByteArray(name) + "='1'");
     QTest::newRow("long name") << product(QByteArray(5000, 'p') + "='1'");
     QTest::newRow("name spaces") << product("xmlns='u' xmlns:p='v'");
     QTest::newRow("attributes with prefixes")
@@ -296,7 +296,7 @@ void tst_RVNameCheck::silent_data()
                 << barcode("position_y='20' width='38' height='10' pageNr='2' " + QByteArray(name) + "='1'");
     for (const char *name : { "sort", "group", "type", "icon", "weight", "default", "label" })
         QTest::addRow("%s of an option", name) << forms("<form key='a' value='b' " + QByteArray(name) + "='1'/>");
-    QTest::newRow("position beside both")
+    QTest::newRow("position beside position_x and position_y")
             << barcode("width='38' height='10' pageNr='2' position_x='1' position_y='20' position='1'");
     QTest::newRow("names of parts") << product("", "<forms name='a'/><barcodes name='b'/><composition name='c'/>");
     QTest::newRow("type and orientation of parts")
@@ -323,12 +323,12 @@ void tst_RVNameCheck::silent_data()
                        "<x><form max_page='1'/><from/><Forms/><barcode/><product/><y><spine units='mm'/></y></x>");
     QTest::newRow("known names in other name spaces")
             << product("", "<x:description xmlns:x='u'><x:form/></x:description><x:form xmlns:x='u'/>");
-    QTest::newRow("what an ignored part has") << product("", "<forms/><forms><from/><form max_page='1'/></forms>");
+    QTest::newRow("contents of an ignored part") << product("", "<forms/><forms><from/><form max_page='1'/></forms>");
     for (const char *root : { "products", "Products", "PRODUCTS", "produkte", "productlist", "product_list",
                               "catalogue", "family", "production", "prod", "offers" })
         QTest::addRow("root %s without products", root)
                 << '<' + QByteArray(root) + "><a/></" + root + "><!--" + root + "-->";
-    QTest::newRow("root that is nearly a product")
+    QTest::newRow("root with a name near product")
             << QByteArray("<produkt><group><product type='A' article_id='1'/></group></produkt>");
     QTest::newRow("parts in a group without products") << QByteArray(
             "<products><product type='A' article_id='1'/><defaults><forms/><spine/></defaults></products>");
@@ -357,23 +357,23 @@ void tst_RVNameCheck::oneMistake_data()
     QTest::addColumn<QByteArray>("file");
     QTest::addColumn<QStringList>("findings");
 
-    QTest::newRow("article id is there, misspelt")
+    QTest::newRow("misspelt article id is not missing")
             << changed(" article_id='1'", " articel_id='1'") << QStringList { u"articel_id='1': attribute-misspelt"_s };
-    QTest::newRow("spine is there, misspelt")
+    QTest::newRow("misspelt spine is not missing")
             << changed("<spine ", "<spin ") << QStringList { u"<spin>: element-misspelt"_s };
-    QTest::newRow("composition is there, misspelt")
+    QTest::newRow("misspelt composition is not missing")
             << changed("<composition ", "<compositon ").replace("</composition>", "</compositon>")
             << QStringList { u"<compositon>: element-misspelt"_s };
-    QTest::newRow("spine is there, in the product")
+    QTest::newRow("misplaced spine is not missing")
             << changed("<composition units='cm'>", "").replace("</composition>", "")
             << QStringList { u"<spine>: element-misplaced"_s };
-    QTest::newRow("default option is there, misspelt")
+    QTest::newRow("misspelt default is not missing")
             << changed("<form key='alcolor' value='black'", "<from key='alcolor' value='black'")
             << QStringList { u"<from>: element-misspelt"_s };
-    QTest::newRow("barcode's own page, too")
+    QTest::newRow("misspelt height and missing page")
             << barcode("width='38' heigth='10'")
             << QStringList { u"<barcode>: barcode-page-missing"_s, u"heigth='10': attribute-misspelt"_s };
-    QTest::newRow("key of another option is missing, too")
+    QTest::newRow("misspelt key and missing key")
             << forms("<form kye='a' value='b'/><form value='c'/>")
             << QStringList { u"kye='a': attribute-misspelt"_s, u"<form>: option-incomplete"_s };
     QTest::newRow("the unit may be meant for both") << changed("<barcodes units='mm'>", "<barcodes>")
@@ -500,14 +500,14 @@ void tst_RVNameCheck::fixes_data()
     QTest::newRow("one change") << product("max_page='8'") << product("max_pages='8'");
     QTest::newRow("other letter behind umlauts") << product("name='ä\xf0\x9f\x93\x95ö' m\xd0\xb0x_pages='8'")
                                                  << product("name='ä\xf0\x9f\x93\x95ö' max_pages='8'");
-    QTest::newRow("the missing one of two")
+    QTest::newRow("missing position_y beside position_x")
             << barcode("width='38' height='10' pageNr='2' position_x='1' position='20'")
             << barcode("width='38' height='10' pageNr='2' position_x='1' position_y='20'");
     same("two changes", product("shiping_gruop='2'"));
     same("the right one is there", product("max_pages='1' max_page='8'"));
     same("one of two", barcode("width='38' height='10' pageNr='2' position='1'"));
     same("misplaced", spine("base_width='8' units='mm'"));
-    QTest::newRow("only one of two for one")
+    QTest::newRow("two misspelt names of one attribute")
             << product("max_page='8' Max_Pages='9'") << product("max_pages='8' Max_Pages='9'");
 }
 

@@ -71,7 +71,7 @@ void tst_RVOptionSpellingCheck::letters_data()
     row("nothing but a blank", "key='a' value=' '", blank(u"value=' '"_s));
     row("blank without a value", "key=' a'", { u"key=' a': option-blank"_s, u"<form>: option-incomplete"_s });
     row("other attributes", "key='a' value='b' key_name='c, d' value_name='e: f' name=' g ' editor_name='h, i'", {});
-    QTest::newRow("what stands there twice")
+    QTest::newRow("duplicate option with a blank")
             << QByteArrayList { "key='a' value='b c' preselected='1'", "key='a' value='b c'" }
             << QStringList { u"value='b c': option-blank"_s, u"value='b c': option-duplicate"_s };
     QTest::newRow("blank that makes another key")
@@ -118,8 +118,9 @@ void tst_RVOptionSpellingCheck::letterCase_data()
     QTest::newRow("other keys between") << QByteArrayList {
         "key='b' value='x' preselected='1'", "key='B1' value='x' preselected='1'", "key='B' value='x' preselected='1'"
     } << QStringList { found(u"key='B'"_s) };
-    QTest::newRow("blank, too") << QByteArrayList { "key='a' value='red' preselected='1'", "key='a' value='Red '" }
-                                << QStringList { u"value='Red ': option-blank"_s };
+    QTest::newRow("letter case and blank")
+            << QByteArrayList { "key='a' value='red' preselected='1'", "key='a' value='Red '" }
+            << QStringList { u"value='Red ': option-blank"_s };
 }
 
 void tst_RVOptionSpellingCheck::letterCase()
@@ -212,7 +213,7 @@ void tst_RVOptionSpellingCheck::fixes_data()
     QTest::newRow("letter without any width") << QByteArray("key='a' value='b\xe2\x80\x8b"
                                                             "c '")
                                               << QByteArray("key='a' value='bc'");
-    QTest::newRow("nothing else") << QByteArray("key='a' value=' '") << QByteArray("key='a' value=' '");
+    QTest::newRow("blank alone") << QByteArray("key='a' value=' '") << QByteArray("key='a' value=' '");
     QTest::newRow("comma") << QByteArray("key='a' value='b, c'") << QByteArray("key='a' value='b, c'");
 }
 

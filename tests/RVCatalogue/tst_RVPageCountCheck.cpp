@@ -41,7 +41,7 @@ void tst_RVPageCountCheck::steps_data()
     QTest::newRow("no count at all") << product("page_step='4'") << forgotten;
     QTest::newRow("of several pieces") << product("pages='4' pieces='10' page_step='2'") << forgotten;
     QTest::newRow("highest count is the lowest") << product("pages='26' max_pages='26' page_step='4'") << QStringList();
-    QTest::newRow("step of nothing") << product("pages='26' page_step='0'") << QStringList();
+    QTest::newRow("step of 0") << product("pages='26' page_step='0'") << QStringList();
     QTest::newRow("box of photos") << product("pages='10' page_step='1' photo_box='true'") << QStringList();
     QTest::newRow("highest count is misspelt") << product("pages='26' max_page='154' page_step='4'")
                                                << QStringList { u"max_page='154': attribute-misspelt"_s };
@@ -61,7 +61,7 @@ void tst_RVPageCountCheck::steps_data()
     QTest::newRow("many pages, one count") << product("pages='100000'") << QStringList();
     QTest::newRow("every number") << product("pages='1' max_pages='2147483647' page_step='1'")
                                   << QStringList { u"max_pages='2147483647': page-counts-excessive"_s };
-    QTest::newRow("one digit too many, which no step meets")
+    QTest::newRow("one digit too many, and steps that miss the highest")
             << product("pages='26' max_pages='15400' page_step='4'")
             << QStringList { u"max_pages='15400': page-counts-excessive"_s };
     QTest::newRow("reversed") << product("pages='15400' max_pages='26' page_step='4'")

@@ -39,8 +39,8 @@ void tst_RVSpineCheck::parts_data()
     QTest::newRow("base alone") << spine("base_width='8'") << QStringList();
     QTest::newRow("no base beside blocks") << spine("block_width='1' packages_per_block='2'") << QStringList { noBase };
     QTest::newRow("no base beside sides") << spine("additional_width='1'") << QStringList { noBase };
-    QTest::newRow("base of nothing") << spine("base_width='0' additional_width='1'") << QStringList();
-    QTest::newRow("no base beside sides of nothing")
+    QTest::newRow("base of 0") << spine("base_width='0' additional_width='1'") << QStringList();
+    QTest::newRow("no base beside sides of 0")
             << spine("additional_width='0'") << QStringList { u"<spine>: spine-missing"_s };
     QTest::newRow("no base beside a negative width")
             << spine("additional_width='-1'") << QStringList { u"additional_width='-1': spine-negative"_s };
@@ -50,12 +50,12 @@ void tst_RVSpineCheck::parts_data()
                                        << QStringList { u"base_width='x': number-invalid"_s };
     QTest::newRow("no packages") << spine("base_width='8' block_width='1'") << QStringList { noPackages };
     QTest::newRow("0 packages") << spine("base_width='8' block_width='1' packages_per_block='0'") << QStringList();
-    QTest::newRow("no packages beside blocks of nothing") << spine("base_width='8' block_width='0'") << QStringList();
+    QTest::newRow("no packages beside blocks of 0") << spine("base_width='8' block_width='0'") << QStringList();
     QTest::newRow("packages are misspelt") << spine("base_width='8' block_width='1' packages_per_blok='2'")
                                            << QStringList { u"packages_per_blok='2': attribute-misspelt"_s };
     QTest::newRow("packages are no number") << spine("base_width='8' block_width='1' packages_per_block='x'")
                                             << QStringList { u"packages_per_block='x': number-invalid"_s };
-    QTest::newRow("neither base nor packages") << spine("block_width='1'") << QStringList { noBase, noPackages };
+    QTest::newRow("no base and no packages") << spine("block_width='1'") << QStringList { noBase, noPackages };
 }
 
 void tst_RVSpineCheck::parts()
@@ -69,18 +69,18 @@ void tst_RVSpineCheck::width_data()
     QTest::addColumn<QByteArray>("file");
     QTest::addColumn<QStringList>("findings");
 
-    QTest::newRow("as wide as can be") << spine("base_width='80'") << QStringList();
+    QTest::newRow("as wide as allowed") << spine("base_width='80'") << QStringList();
     QTest::newRow("wider") << spine("base_width='80.1'") << QStringList { u"base_width='80.1': spine-too-wide"_s };
     QTest::newRow("another unit") << spine("base_width='9'", "cm")
                                   << QStringList { u"base_width='9': spine-too-wide"_s };
     QTest::newRow("in tenths of a millimetre") << spine("base_width='800'", "0.1mm") << QStringList();
-    QTest::newRow("at the highest count, as wide as can be")
+    QTest::newRow("as wide as allowed at the highest count")
             << spine("base_width='8' block_width='2' packages_per_block='1' additional_width='4'") << QStringList();
-    QTest::newRow("grows too much") << spine(
-            "base_width='8' block_width='2.1' packages_per_block='1' additional_width='4'")
-                                    << QStringList { u"block_width='2.1': spine-too-wide"_s };
-    QTest::newRow("sides are too wide") << spine("base_width='8' additional_width='40'")
-                                        << QStringList { u"additional_width='40': spine-too-wide"_s };
+    QTest::newRow("too wide by its blocks")
+            << spine("base_width='8' block_width='2.1' packages_per_block='1' additional_width='4'")
+            << QStringList { u"block_width='2.1': spine-too-wide"_s };
+    QTest::newRow("too wide by its sides") << spine("base_width='8' additional_width='40'")
+                                           << QStringList { u"additional_width='40': spine-too-wide"_s };
     QTest::newRow("in an unknown unit") << spine("base_width='900'", "metre")
                                         << QStringList { u"units='metre': unit-unknown"_s };
     QTest::newRow("page counts are invalid")

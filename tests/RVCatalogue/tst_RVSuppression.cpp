@@ -400,11 +400,11 @@ void tst_RVSuppression::places_data()
     QTest::newRow("long comment") << "<p>" + ignoring(QByteArray(100000, ' ') + "type-missing")
                     + "<product type='A' article_id='1'/></p>"
                                   << QStringList { u"1:4-1:100043 "_s + unused(u"type-missing"_s) };
-    QTest::newRow("behind a comment with all its letters")
+    QTest::newRow("behind a comment with signs of markup")
             << "<p><!-- <!- - -> !- - ! <!x> -->\n" + ignoring("type-missing")
                     + "<product type='A' article_id='1'/></p>"
             << QStringList { u"2:1-2:40 "_s + unused(u"type-missing"_s) };
-    QTest::newRow("comment with all its letters")
+    QTest::newRow("comment with signs of markup")
             << "<p>" + ignoring("type-missing !<! !") + "<product type='A' article_id='1'/></p>"
             << QStringList { u"1:4-1:49 suppression-unknown: there is no rule \"!<!\""_s,
                              u"1:4-1:49 suppression-unknown: there is no rule \"!\""_s,

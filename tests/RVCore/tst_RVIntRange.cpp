@@ -64,8 +64,8 @@ void tst_RVIntRange::stretches_data()
     QTest::addColumn<int>("factor");
     QTest::addColumn<QList<int>>("result");
     QTest::newRow("once") << 1 << QList<int> { -2, 30 };
-    QTest::newRow("three times") << 3 << QList<int> { -6, 90 };
-    QTest::newRow("not at all") << 0 << QList<int> { 0, 0 };
+    QTest::newRow("factor 3") << 3 << QList<int> { -6, 90 };
+    QTest::newRow("factor 0") << 0 << QList<int> { 0, 0 };
     QTest::newRow("negative") << -2 << QList<int> { 4, -60 };
     QTest::newRow("largest") << largest << QList<int> { smallest, largest };
     QTest::newRow("smallest") << smallest << QList<int> { largest, smallest };

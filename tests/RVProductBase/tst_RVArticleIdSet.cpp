@@ -49,7 +49,7 @@ void tst_RVArticleIdSet::extends_data()
     QTest::newRow("more") << QList<int> { 1, 2, 3 } << QList<int> { 3, 1 } << true;
     QTest::newRow("one missing") << QList<int> { 1, 2, 3 } << QList<int> { 3, 4 } << false;
     QTest::newRow("one extra") << QList<int> { 1, 2 } << QList<int> { 1, 2, 3 } << false;
-    QTest::newRow("as many, but others") << QList<int> { 1, 2 } << QList<int> { 3, 4 } << false;
+    QTest::newRow("same number of other ids") << QList<int> { 1, 2 } << QList<int> { 3, 4 } << false;
 }
 
 void tst_RVArticleIdSet::extends()

@@ -48,9 +48,9 @@ void tst_RVArticleVariantsList::containsBoxStyle_data()
     QTest::newRow("spread over two elements") << styles << u"boxstyle:linen,coverphoto:yes"_s << false;
     QTest::newRow("other value") << styles << u"boxstyle:tin"_s << false;
     QTest::newRow("more than any element") << styles << u"boxstyle:wood,coverphoto:yes,alcolor:red"_s << false;
-    QTest::newRow("nothing asked") << styles << QString() << true;
+    QTest::newRow("nothing asked for") << styles << QString() << true;
     QTest::newRow("empty list") << QStringList() << u"boxstyle:wood"_s << false;
-    QTest::newRow("empty list, nothing asked") << QStringList() << QString() << false;
+    QTest::newRow("empty list, nothing asked for") << QStringList() << QString() << false;
 }
 
 void tst_RVArticleVariantsList::containsBoxStyle()

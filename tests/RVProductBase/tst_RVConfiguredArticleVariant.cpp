@@ -512,7 +512,7 @@ void tst_RVConfiguredArticleVariant::isWholeAfterAMove_data()
 {
     QTest::addColumn<bool>("assigned");
     QTest::newRow("to a new object") << false;
-    QTest::newRow("to an object that was there") << true;
+    QTest::newRow("to an existing object") << true;
 }
 
 void tst_RVConfiguredArticleVariant::isWholeAfterAMove()
@@ -553,7 +553,7 @@ void tst_RVConfiguredArticleVariant::compares_data()
     QTest::addColumn<QString>("second");
     QTest::addColumn<bool>("equal");
     QTest::newRow("same") << u"key='a' value='x'"_s << u"key='a' value='x'"_s << true;
-    QTest::newRow("all else differs")
+    QTest::newRow("all other fields differ")
             << u"key='a' value='x' key_name='1' value_name='1' editor_name='1' name='1' preview='1' color='red' "
                "preselected='1' not_accountable='1'"_s
             << u"key='a' value='x' key_name='2' value_name='2' editor_name='2' name='2' preview='2' color='blue'"_s
@@ -591,14 +591,14 @@ void tst_RVConfiguredArticleVariant::orders_data()
     QTest::newRow("key name") << u"key_name='a'"_s << u"key_name='b'"_s << -1;
     QTest::newRow("key and value do not count") << u"key='b' value='b' value_name='b' key_name='a'"_s
                                                 << u"key='a' value='a' value_name='a' key_name='b'"_s << -1;
-    QTest::newRow("same key name, all else differs")
+    QTest::newRow("same key name, all other fields differ")
             << u"key='a' value='a' key_name='n'"_s << u"key='b' value='b' key_name='n'"_s << 0;
     QTest::newRow("letter case") << u"key_name='B'"_s << u"key_name='a'"_s << -1;
     QTest::newRow("umlaut behind z") << u"key_name='z'"_s << u"key_name='\u00C4'"_s << -1;
     QTest::newRow("surrogate before later unit") << u"key_name='\U0001F4F7'"_s << u"key_name='\uFB01'"_s << -1;
     QTest::newRow("shorter first") << u"key_name='a'"_s << u"key_name='ab'"_s << -1;
     QTest::newRow("none first") << u""_s << u"key_name='a'"_s << -1;
-    QTest::newRow("none at all") << u"key='a'"_s << u"key='b'"_s << 0;
+    QTest::newRow("no names") << u"key='a'"_s << u"key='b'"_s << 0;
 }
 
 void tst_RVConfiguredArticleVariant::orders()

@@ -500,9 +500,9 @@ void tst_RVConfiguredArticleVariantList::containsArticleVariants_data()
     QTest::newRow("other letter case") << options << QStringList(u"a:X"_s) << false;
     QTest::newRow("empty value of an unknown key") << options << QStringList(u"d:"_s) << false;
     QTest::newRow("empty value among the options") << QStringList(u"d:"_s) << QStringList(u"d:"_s) << true;
-    QTest::newRow("nothing asked") << options << QStringList() << true;
+    QTest::newRow("nothing asked for") << options << QStringList() << true;
     QTest::newRow("empty list") << QStringList() << QStringList(u"a:x"_s) << false;
-    QTest::newRow("nothing asked of an empty list") << QStringList() << QStringList() << true;
+    QTest::newRow("empty list, nothing asked for") << QStringList() << QStringList() << true;
 }
 
 void tst_RVConfiguredArticleVariantList::containsArticleVariants()

@@ -97,18 +97,20 @@ void tst_RVContentStatistic::replaces_data()
     QTest::addColumn<QString>("from");
     QTest::addColumn<QString>("to");
     QTest::addColumn<Bought>("result");
-    QTest::newRow("to a new one") << u"MUL1"_s << u"MUL2"_s
-                                  << Bought { { u"MUL2"_s, 1 }, { u"KUR2"_s, 0 }, { u"VEL4"_s, -2 }, { u"LEZ1"_s, 7 } };
-    QTest::newRow("to one that is there")
+    QTest::newRow("to a new price class")
+            << u"MUL1"_s << u"MUL2"_s
+            << Bought { { u"MUL2"_s, 1 }, { u"KUR2"_s, 0 }, { u"VEL4"_s, -2 }, { u"LEZ1"_s, 7 } };
+    QTest::newRow("to an existing price class")
             << u"MUL1"_s << u"LEZ1"_s << Bought { { u"KUR2"_s, 0 }, { u"VEL4"_s, -2 }, { u"LEZ1"_s, 1 } };
-    QTest::newRow("by itself") << u"MUL1"_s << u"MUL1"_s
+    QTest::newRow("to itself") << u"MUL1"_s << u"MUL1"_s
                                << Bought { { u"KUR2"_s, 0 }, { u"VEL4"_s, -2 }, { u"LEZ1"_s, 7 } };
     QTest::newRow("quantity 0") << u"KUR2"_s << u"LEZ1"_s
                                 << Bought { { u"MUL1"_s, 1 }, { u"VEL4"_s, -2 }, { u"LEZ1"_s, 7 } };
     QTest::newRow("negative quantity") << u"VEL4"_s << u"LEZ1"_s
                                        << Bought { { u"MUL1"_s, 1 }, { u"KUR2"_s, 0 }, { u"LEZ1"_s, 7 } };
-    QTest::newRow("not there") << u"HAZ5"_s << u"LEZ1"_s
-                               << Bought { { u"MUL1"_s, 1 }, { u"KUR2"_s, 0 }, { u"VEL4"_s, -2 }, { u"LEZ1"_s, 7 } };
+    QTest::newRow("from an absent price class")
+            << u"HAZ5"_s << u"LEZ1"_s
+            << Bought { { u"MUL1"_s, 1 }, { u"KUR2"_s, 0 }, { u"VEL4"_s, -2 }, { u"LEZ1"_s, 7 } };
 }
 
 void tst_RVContentStatistic::replaces()
@@ -127,8 +129,10 @@ void tst_RVContentStatistic::adaptsToVario_data()
     QTest::addColumn<Bought>("result");
     QTest::newRow("to vario") << false << true << Bought { { u"MUL1"_s, 10 }, { u"KUR2"_s, 10 }, { u"QO2"_s, 10 } };
     QTest::newRow("from vario") << true << false << Bought { { u"MUL1"_s, 1 }, { u"KUR2"_s, 1 }, { u"QO2"_s, 1 } };
-    QTest::newRow("still vario") << true << true << Bought { { u"MUL1"_s, 1 }, { u"KUR2"_s, 4 }, { u"QO2"_s, 0 } };
-    QTest::newRow("never vario") << false << false << Bought { { u"MUL1"_s, 1 }, { u"KUR2"_s, 4 }, { u"QO2"_s, 0 } };
+    QTest::newRow("vario before and after")
+            << true << true << Bought { { u"MUL1"_s, 1 }, { u"KUR2"_s, 4 }, { u"QO2"_s, 0 } };
+    QTest::newRow("vario neither before nor after")
+            << false << false << Bought { { u"MUL1"_s, 1 }, { u"KUR2"_s, 4 }, { u"QO2"_s, 0 } };
 }
 
 void tst_RVContentStatistic::adaptsToVario()

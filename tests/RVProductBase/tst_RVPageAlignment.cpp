@@ -82,7 +82,7 @@ void tst_RVPageAlignment::productionPaths_data()
     QTest::newRow("not split") << 2 << u"page1.pdf"_s << false << u"page1_center.pdf"_s;
     QTest::newRow("every occurrence") << 1 << u"a.pdf/b.PDF.pdf"_s << true << u"a_left.pdf/b_left.pdf_left.pdf"_s;
     QTest::newRow("another file") << 1 << u"page1.png"_s << true << u"page1.png"_s;
-    QTest::newRow("a dot is a dot") << 1 << u"pagexpdf"_s << true << u"pagexpdf"_s;
+    QTest::newRow("dot matches only a dot") << 1 << u"pagexpdf"_s << true << u"pagexpdf"_s;
     QTest::newRow("empty") << 1 << u""_s << true << u""_s;
 }
 

@@ -50,8 +50,8 @@ void tst_RVPageContext::hasBits_data()
     QTest::newRow("equal") << 2 << 2 << true;
     QTest::newRow("one common") << 3 << 6 << true;
     QTest::newRow("none common") << 3 << 4 << false;
-    QTest::newRow("nothing asked") << 3 << 0 << false;
-    QTest::newRow("nothing owned") << 0 << 1 << false;
+    QTest::newRow("nothing asked for") << 3 << 0 << false;
+    QTest::newRow("empty context") << 0 << 1 << false;
 }
 
 void tst_RVPageContext::hasBits()

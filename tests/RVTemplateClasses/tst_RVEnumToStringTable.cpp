@@ -153,7 +153,7 @@ void tst_RVEnumToStringTable::decodesOneElement_data()
     };
     QTest::newRow("known") << u" MATT "_s << true << 2 << QStringList();
     QTest::newRow("unknown") << u"xyz"_s << true << 64 << warning(u"xyz"_s);
-    QTest::newRow("unknown, quietly") << u"xyz"_s << false << 64 << QStringList();
+    QTest::newRow("unknown, without a warning") << u"xyz"_s << false << 64 << QStringList();
     QTest::newRow("empty") << u""_s << true << 64 << QStringList();
     QTest::newRow("null") << QString() << true << 64 << QStringList();
     QTest::newRow("blanks only") << u"  "_s << true << 64 << warning(u"  "_s);
@@ -207,8 +207,8 @@ void tst_RVEnumToStringTable::decodesLists_data()
     QTest::newRow("known and unknown") << u"matt,velvet"_s << 66;
     QTest::newRow("empty part between") << u"matt,,gloss"_s << 67;
     QTest::newRow("trailing comma") << u"matt,"_s << 66;
-    QTest::newRow("semicolon separates nothing") << u"matt;gloss"_s << 64;
-    QTest::newRow("blank separates nothing") << u"matt gloss"_s << 64;
+    QTest::newRow("semicolon is no separator") << u"matt;gloss"_s << 64;
+    QTest::newRow("blank is no separator") << u"matt gloss"_s << 64;
 }
 
 void tst_RVEnumToStringTable::decodesLists()

@@ -319,8 +319,8 @@ void tst_RVEnumWrapper::asksForBits_data()
     QTest::newRow("part") << 3 << 2 << false << true << true;
     QTest::newRow("whole") << 2 << 3 << false << true << false;
     QTest::newRow("none common") << 3 << 4 << false << false << false;
-    QTest::newRow("nothing asked") << 3 << 0 << false << false << true;
-    QTest::newRow("nothing at all") << 0 << 0 << true << false << true;
+    QTest::newRow("no bits asked for") << 3 << 0 << false << false << true;
+    QTest::newRow("no bits on both sides") << 0 << 0 << true << false << true;
     QTest::newRow("negative") << -1 << 8 << false << true << true;
     QTest::newRow("sign bit") << -1 << int(0x80000000) << false << true << true;
     QTest::newRow("all bits") << 3 << -1 << false << true << false;

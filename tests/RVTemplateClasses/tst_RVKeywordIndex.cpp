@@ -73,11 +73,11 @@ void tst_RVKeywordIndex::finds_data()
             << QString(40, u' ') + u"wood"_s + QString(40, u'\t') << qint64(3);
     QTest::newRow("white space within it") << u"wo od"_s << qint64(0);
     QTest::newRow("control characters around it") << u"\x08wood"_s << qint64(0);
-    QTest::newRow("behind the white space") << u"wood\x0e"_s << qint64(0);
+    QTest::newRow("character behind the last white space") << u"wood\x0e"_s << qint64(0);
     QTest::newRow("a letter less") << u"woo"_s << qint64(0);
     QTest::newRow("a letter more") << u"woods"_s << qint64(0);
-    QTest::newRow("the longest and one more") << u"123456789012345678901234567890123"_s << qint64(0);
-    QTest::newRow("a zero behind it") << u"set\0"_s << qint64(0);
+    QTest::newRow("one letter more than the longest") << u"123456789012345678901234567890123"_s << qint64(0);
+    QTest::newRow("null character behind it") << u"set\0"_s << qint64(0);
     QTest::newRow("no-break space") << u"\xa0wood"_s << qint64(0);
     QTest::newRow("same low byte") << u"\x0177ood"_s << qint64(0);
 }
@@ -145,7 +145,7 @@ void tst_RVKeywordIndex::covers_data()
     QTest::addColumn<QString>("keyword");
     QTest::addColumn<bool>("isCovered");
     QTest::newRow("empty") << u""_s << true;
-    QTest::newRow("known or not") << u"linen"_s << true;
+    QTest::newRow("ASCII letters") << u"linen"_s << true;
     QTest::newRow("last of ASCII") << u"\x7f"_s << true;
     QTest::newRow("first beyond ASCII") << u"\x80"_s << false;
     QTest::newRow("beyond ASCII at the end") << u"wooď"_s << false;

@@ -62,7 +62,7 @@ void tst_Bill::items_data()
                               << QStringList { u"1xPB product"_s, u"2xRODA packages"_s };
     QTest::newRow("below the lowest count")
             << prices << QByteArray() << -1 << QString() << QStringList { u"1xPB product"_s };
-    QTest::newRow("packages cost nothing")
+    QTest::newRow("packages without a price class")
             << QByteArray("price_class='PB'") << QByteArray() << 2 << QString() << QStringList { u"1xPB product"_s };
     QTest::newRow("no price class at all") << QByteArray() << QByteArray() << 2 << QString() << QStringList();
     QTest::newRow("free price class") << QByteArray("price_class='0'") << QByteArray() << 0 << QString()

@@ -110,7 +110,7 @@ void tst_DrawingExport::sizes()
     QTest::newRow("narrow") << 12.5 << QSizeF(52.5, 50) << 12.5;
     QTest::newRow("large") << 600.0 << QSizeF(640, 50) << 600.0;
     QTest::newRow("halved") << 1000.0 << QSizeF(540, 50) << 500.0;
-    QTest::newRow("as long as a street") << 3e6 << QSizeF(640, 50) << 600.0;
+    QTest::newRow("3 km long") << 3e6 << QSizeF(640, 50) << 600.0;
 }
 
 void tst_DrawingExport::svg_data()

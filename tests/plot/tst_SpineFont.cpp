@@ -53,13 +53,13 @@ void tst_SpineFont::sizes_data()
     QTest::newRow("no width") << 0.0 << 0.0 << 6;
     QTest::newRow("negative") << -8.0 << 0.0 << 6;
     QTest::newRow("too narrow for the second") << 0.9 << 0.0 << 6; // 8 of 8.15
-    QTest::newRow("just the second") << 1.0 << 0.0 << 7; // 9 of 8.15
+    QTest::newRow("wide enough for the second") << 1.0 << 0.0 << 7; // 9 of 8.15
     QTest::newRow("narrow book") << 3.4 << 0.0 << 24; // 29 of 27.9 and 30.3
     QTest::newRow("below 48") << 6.5 << 0.0 << 36; // 55 of 55.9
     QTest::newRow("above 48") << 6.6 << 0.0 << 48; // 56 of 55.9
     QTest::newRow("sides do not count") << 8.0 << 0.5 << 48;
     QTest::newRow("thick book") << 24.0 << 0.5 << 72;
-    QTest::newRow("no press makes it") << 1e300 << 0.0 << 72;
+    QTest::newRow("width beyond every size") << 1e300 << 0.0 << 72;
 }
 
 void tst_SpineFont::sizes()

@@ -118,8 +118,8 @@ void tst_SpinePlot::labelOfWidth_data()
     QTest::addColumn<QString>("label");
 
     QTest::newRow("room") << 300 << u"spine width in mm"_s;
-    QTest::newRow("as low as the window makes it") << 125 << u"spine width in mm"_s;
-    QTest::newRow("too low") << 80 << u"mm"_s;
+    QTest::newRow("lowest height in the window") << 125 << u"spine width in mm"_s;
+    QTest::newRow("lower than the title of the axis") << 80 << u"mm"_s;
 }
 
 void tst_SpinePlot::labelOfWidth()

@@ -117,7 +117,7 @@ void tst_SpineTable::steps_data()
     QTest::newRow("one count") << 26 << 2 << 10 << QList<int> { 26 };
     QTest::newRow("as many as wanted") << 46 << 2 << 4 << QList<int> { 26, 34, 42, 46 };
     QTest::newRow("too many") << 46 << 1 << 3 << QList<int> { 26, 34, 46 };
-    QTest::newRow("too many by the last") << 46 << 2 << 3 << QList<int> { 26, 34, 46 };
+    QTest::newRow("one row too many with the last") << 46 << 2 << 3 << QList<int> { 26, 34, 46 };
 }
 
 void tst_SpineTable::steps()

@@ -49,7 +49,7 @@ void tst_AttributeWords::texts_data()
             << QStringList { u"portrait_slim"_s, u"slim portrait"_s };
     QTest::newRow("name like its keyword") << u"orientation"_s << QByteArray("orientation='square'") << u"square"_s
                                            << QStringList { u"square"_s, u"quadratic"_s };
-    QTest::newRow("product does not tell")
+    QTest::newRow("attribute is missing")
             << u"cover_type"_s << QByteArray("orientation='square'") << QString() << QStringList();
 }
 

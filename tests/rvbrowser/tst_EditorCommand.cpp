@@ -45,7 +45,8 @@ void tst_EditorCommand::arguments_data()
                                       << QStringList { u"/$(rm x);`y`&|.xml"_s };
     QTest::newRow("percent sign") << u"e 50%% %f"_s << plain << u"e"_s << QStringList { u"50%"_s, plain };
     QTest::newRow("percent sign in front of f") << u"e %%f"_s << plain << u"e"_s << QStringList { u"%f"_s, plain };
-    QTest::newRow("other percent sign") << u"e %x %f %"_s << plain << u"e"_s << QStringList { u"%x"_s, plain, u"%"_s };
+    QTest::newRow("percent sign in front of another letter")
+            << u"e %x %f %"_s << plain << u"e"_s << QStringList { u"%x"_s, plain, u"%"_s };
 }
 
 void tst_EditorCommand::arguments()

@@ -164,7 +164,7 @@ void tst_PageCountChooser::longLists_data()
 
     QTest::newRow("5000 counts") << 5000 << true;
     QTest::newRow("5001 counts") << 5001 << false;
-    QTest::newRow("as many as there can be") << 2147483647 << false;
+    QTest::newRow("highest number of counts") << 2147483647 << false;
 }
 
 void tst_PageCountChooser::longLists()

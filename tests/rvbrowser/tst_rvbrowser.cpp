@@ -638,8 +638,8 @@ void tst_rvbrowser::beginsWithAProduct_data()
 
     QTest::newRow("there") << u"VIR1"_s << u"VIR1 – Wandkalender"_s << QString();
     QTest::newRow("a code of its family") << u"DUN9_30"_s << u"DUN9 – Großes Buch"_s << QString();
-    QTest::newRow("not there") << u"NOPE"_s << u"DUN9 – Großes Buch"_s
-                               << u"The catalogue has no product of type \"NOPE\"."_s;
+    QTest::newRow("type that the catalogue does not have")
+            << u"NOPE"_s << u"DUN9 – Großes Buch"_s << u"The catalogue has no product of type \"NOPE\"."_s;
 }
 
 void tst_rvbrowser::beginsWithAProduct()

@@ -52,34 +52,36 @@ void tst_Arguments::messages_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("firstLine");
 
-    QTest::newRow("command nearby") << QStringList { u"shwo"_s }
-                                    << u"rvcatalog: there is no command \"shwo\"; did you mean \"show\"?"_s;
+    QTest::newRow("misspelt command") << QStringList { u"shwo"_s }
+                                      << u"rvcatalog: there is no command \"shwo\"; did you mean \"show\"?"_s;
     QTest::newRow("command in capitals") << QStringList { u"Check"_s }
                                          << u"rvcatalog: there is no command \"Check\"; did you mean \"check\"?"_s;
-    QTest::newRow("command far away") << QStringList { u"sing"_s } << u"rvcatalog: there is no command \"sing\""_s;
-    QTest::newRow("help of a command nearby") << QStringList { u"help"_s, u"ordr"_s }
-                                              << u"rvcatalog: there is no command \"ordr\"; did you mean \"order\"?"_s;
-    QTest::newRow("option of the program nearby")
+    QTest::newRow("command similar to none")
+            << QStringList { u"sing"_s } << u"rvcatalog: there is no command \"sing\""_s;
+    QTest::newRow("help of a misspelt command")
+            << QStringList { u"help"_s, u"ordr"_s }
+            << u"rvcatalog: there is no command \"ordr\"; did you mean \"order\"?"_s;
+    QTest::newRow("misspelt option of the program")
             << QStringList { u"--hlep"_s }
             << u"rvcatalog: there is no option \"--hlep\" in front of a command; did you mean \"--help\"?"_s;
     QTest::newRow("option in front of the command")
             << QStringList { u"--json"_s, u"show"_s, u"c.xml"_s }
             << u"rvcatalog: there is no option \"--json\" in front of a command"_s;
-    QTest::newRow("option nearby") << QStringList { u"show"_s, u"--wehre=a=b"_s, u"c.xml"_s }
-                                   << u"rvcatalog: Unknown option 'wehre'; did you mean \"--where\"?"_s;
-    QTest::newRow("short form nearby") << QStringList { u"keywords"_s, u"--jsn"_s }
-                                       << u"rvcatalog: Unknown option 'jsn'; did you mean \"--json\"?"_s;
-    QTest::newRow("option far away") << QStringList { u"show"_s, u"--colour"_s }
-                                     << u"rvcatalog: Unknown option 'colour'."_s;
+    QTest::newRow("misspelt option") << QStringList { u"show"_s, u"--wehre=a=b"_s, u"c.xml"_s }
+                                     << u"rvcatalog: Unknown option 'wehre'; did you mean \"--where\"?"_s;
+    QTest::newRow("misspelt short form") << QStringList { u"keywords"_s, u"--jsn"_s }
+                                         << u"rvcatalog: Unknown option 'jsn'; did you mean \"--json\"?"_s;
+    QTest::newRow("option similar to none")
+            << QStringList { u"show"_s, u"--colour"_s } << u"rvcatalog: Unknown option 'colour'."_s;
     QTest::newRow("option of another command")
             << QStringList { u"order"_s, u"--where=a=b"_s } << u"rvcatalog: Unknown option 'where'."_s;
     QTest::newRow("no value") << QStringList { u"show"_s, u"--where"_s }
                               << u"rvcatalog: Missing value after '--where'."_s;
-    QTest::newRow("format nearby") << QStringList {
+    QTest::newRow("misspelt format") << QStringList {
         u"spine"_s, u"--format=jsn"_s, u"c.xml"_s, u"DUN9"_s
     } << u"rvcatalog: there is no format \"jsn\"; there are: text, json; did you mean \"json\"?"_s;
-    QTest::newRow("format far away") << QStringList { u"show"_s, u"--format"_s, u"pdf"_s, u"c.xml"_s }
-                                     << u"rvcatalog: there is no format \"pdf\"; there are: text, json"_s;
+    QTest::newRow("format similar to none") << QStringList { u"show"_s, u"--format"_s, u"pdf"_s, u"c.xml"_s }
+                                            << u"rvcatalog: there is no format \"pdf\"; there are: text, json"_s;
     QTest::newRow("empty format") << QStringList { u"show"_s, u"--format="_s, u"c.xml"_s }
                                   << u"rvcatalog: there is no format \"\"; there are: text, json"_s;
     QTest::newRow("two standard inputs of an order")

@@ -407,12 +407,12 @@ void tst_Baseline::broken_data()
     QTest::newRow("number for a product")
             << QByteArray(R"({"version":1,"findings":[{"file":"c.xml","rule":"x","text":"y","product":9}]})")
             << u": error: finding 1 of the baseline has a \"product\" that is no text\n"_s;
-    QTest::newRow("found half a time")
+    QTest::newRow("count of 0.5")
             << QByteArray(R"({"version":1,"findings":[{"file":"c.xml","rule":"x","text":"y","count":0.5}]})")
             << u": error: finding 1 of the baseline has a \"count\" that is no number above 0\n"_s;
-    QTest::newRow("found never") << QByteArray(
+    QTest::newRow("count of 0") << QByteArray(
             R"({"version":1,"findings":[{"file":"c.xml","rule":"x","text":"y","count":0}]})")
-                                 << u": error: finding 1 of the baseline has a \"count\" that is no number above 0\n"_s;
+                                << u": error: finding 1 of the baseline has a \"count\" that is no number above 0\n"_s;
 }
 
 void tst_Baseline::broken()

@@ -392,11 +392,11 @@ void addRuns()
     QTest::newRow("nothing") << u"a.xml"_s << none << false << 0;
     QTest::newRow("everything") << u"a.xml"_s << QList { wholeFinding(), wholeFinding() } << true << SIGTERM;
     QTest::newRow("about the file") << u"a.xml"_s << QList { about } << false << 0;
-    QTest::newRow("odd names") << u"ä &<\"'%\033\n.xml"_s
-                               << QList { finding(u"keyword-legacy", u"<&]]>"_s, u"\033\u202e\""_s) } << false << 0;
-    QTest::newRow("odd finding") << u"a.xml"_s
-                                 << QList { finding(u"type-missing", u"<&]]> \" ' \\"_s, u"\033\u202e\""_s) } << false
-                                 << 0;
+    QTest::newRow("special characters in names")
+            << u"ä &<\"'%\033\n.xml"_s << QList { finding(u"keyword-legacy", u"<&]]>"_s, u"\033\u202e\""_s) } << false
+            << 0;
+    QTest::newRow("special characters in a text")
+            << u"a.xml"_s << QList { finding(u"type-missing", u"<&]]> \" ' \\"_s, u"\033\u202e\""_s) } << false << 0;
 }
 
 QByteArray documentOfRow(const QString &format)

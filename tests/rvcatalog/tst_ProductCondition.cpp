@@ -113,18 +113,18 @@ void tst_ProductCondition::problems_data()
                              << u"\"cover_type\" is no condition; write it like cover_type=HARDCOVER"_s;
     QTest::newRow("empty") << QString() << u"\"\" is no condition; write it like cover_type=HARDCOVER"_s;
     QTest::newRow("no attribute") << u"=a"_s << u"\"=a\" is no condition; write it like cover_type=HARDCOVER"_s;
-    QTest::newRow("attribute nearby") << u"covertype=hard"_s
-                                      << u"products have no attribute \"covertype\"; did you mean \"cover_type\"?"_s;
-    QTest::newRow("attribute far away")
+    QTest::newRow("misspelt attribute") << u"covertype=hard"_s
+                                        << u"products have no attribute \"covertype\"; did you mean \"cover_type\"?"_s;
+    QTest::newRow("attribute similar to none")
             << u"x=1"_s
             << u"products have no attribute \"x\"; they have: article_class, cover_type, page_binding, paper_type, "
                "foto_paper_type, orientation, space_magnitude, type, name, family, price_class, page_price_class, "
                "article_id, shipping_group, pages, max_pages"_s;
     QTest::newRow("attribute of no product")
             << u"page_type=left"_s << u"products have no attribute \"page_type\"; did you mean \"paper_type\"?"_s;
-    QTest::newRow("keyword nearby") << u"cover_type=cromolinnen"_s
-                                    << u"\"cromolinnen\" is no keyword of cover_type; did you mean \"CROMOLINEN\"?"_s;
-    QTest::newRow("keyword far away")
+    QTest::newRow("misspelt keyword") << u"cover_type=cromolinnen"_s
+                                      << u"\"cromolinnen\" is no keyword of cover_type; did you mean \"CROMOLINEN\"?"_s;
+    QTest::newRow("keyword similar to none")
             << u"cover_type=hard,xyzzy"_s
             << u"\"xyzzy\" is no keyword of cover_type; \"rvcatalog keywords cover_type\" lists them"_s;
     QTest::newRow("order of keywords") << u"cover_type<hard"_s

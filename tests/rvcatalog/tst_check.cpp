@@ -473,9 +473,9 @@ void tst_check::select_data()
                                        << u"1 error, 0 warnings, 1 note"_s;
     QTest::newRow("two options") << QStringList { u"--select=keyword-legacy"_s, u"--select=price-class-unknown"_s }
                                  << u"0 errors, 1 warning, 1 note"_s;
-    QTest::newRow("one that nothing breaks")
+    QTest::newRow("rule without findings")
             << QStringList { u"--select=type-missing"_s } << u"0 errors, 0 warnings, 0 notes"_s;
-    QTest::newRow("one that is left out as well")
+    QTest::newRow("rule that is also disabled")
             << QStringList { u"--select=keyword-legacy"_s, u"--disable=keyword-legacy"_s }
             << u"0 errors, 0 warnings, 0 notes"_s;
 }
@@ -593,9 +593,9 @@ void tst_check::wrongUsage_data()
     QTest::newRow("unknown format") << QStringList {
         u"--format"_s, u"xml"_s, u"clean.xml"_s
     } << u"rvcatalog: there is no format \"xml\"; there are: text, json, sarif, github, junit"_s + hint;
-    QTest::newRow("a slip in a rule") << QStringList {
-        u"--disable"_s, u"type-mising"_s, u"clean.xml"_s
-    } << u"rvcatalog: there is no rule \"type-mising\"; did you mean \"type-missing\"?"_s + hint;
+    QTest::newRow("misspelt rule") << QStringList { u"--disable"_s, u"type-mising"_s, u"clean.xml"_s }
+                                   << u"rvcatalog: there is no rule \"type-mising\"; did you mean \"type-missing\"?"_s
+                    + hint;
     QTest::newRow("unknown rule behind a comma")
             << QStringList { u"--select=type-missing,foo"_s, u"clean.xml"_s }
             << u"rvcatalog: there is no rule \"foo\"; \"rvcatalog explain\" lists them"_s + hint;
@@ -603,7 +603,7 @@ void tst_check::wrongUsage_data()
                                        << u"rvcatalog: --select names no rule"_s + hint;
     QTest::newRow("no threads") << QStringList { u"--jobs=0"_s, u"clean.xml"_s }
                                 << u"rvcatalog: --jobs takes a whole number from 1, not \"0\""_s + hint;
-    QTest::newRow("more threads than a number can tell")
+    QTest::newRow("number of threads that is too large")
             << QStringList { u"--jobs=3000000000"_s, u"clean.xml"_s }
             << u"rvcatalog: --jobs takes a whole number from 1, not \"3000000000\""_s + hint;
     QTest::newRow("no number") << QStringList { u"--max-findings"_s, u"few"_s, u"clean.xml"_s }
@@ -611,9 +611,9 @@ void tst_check::wrongUsage_data()
     QTest::newRow("unknown choice of colours")
             << QStringList { u"--color=sometimes"_s, u"clean.xml"_s }
             << u"rvcatalog: there is no color \"sometimes\"; there are: auto, always, never"_s + hint;
-    QTest::newRow("counts for programs") << QStringList {
-        u"--summary"_s, u"--format=json"_s, u"clean.xml"_s
-    } << u"rvcatalog: --summary is for the format text; other formats have their own"_s + hint;
+    QTest::newRow("summary in JSON") << QStringList { u"--summary"_s, u"--format=json"_s, u"clean.xml"_s }
+                                     << u"rvcatalog: --summary is for the format text; other formats have their own"_s
+                    + hint;
     QTest::newRow("unknown option") << QStringList { u"--foo"_s } << u"rvcatalog: Unknown option 'foo'."_s + hint;
 }
 

@@ -94,7 +94,7 @@ void tst_configuration::rules_data()
     const QString note = u"note keyword-legacy"_s;
     const QString warning = u"warning price-class-unknown"_s;
     const QString error = u"error article-id-invalid"_s;
-    QTest::newRow("nothing said") << QByteArray() << QStringList { note, warning, error } << 1;
+    QTest::newRow("empty configuration") << QByteArray() << QStringList { note, warning, error } << 1;
     QTest::newRow("one rule off") << QByteArray("rules.keyword-legacy = 'off'") << QStringList { warning, error } << 1;
     QTest::newRow("note as an error") << QByteArray("rules.keyword-legacy = 'error'")
                                       << QStringList { u"error keyword-legacy"_s, warning, error } << 1;
@@ -179,8 +179,8 @@ void tst_configuration::broken_data()
             << u"rvcatalog.json"_s << QByteArray(R"({"rules": {"keyword-legcy": "off"}})")
             << u": error: there is no rule \"keyword-legcy\"; did you mean "
                "\"keyword-legacy\"?\n"_s;
-    QTest::newRow("number of a rule") << u"rvcatalog.toml"_s << QByteArray("rules.keyword-legacy = 0\n")
-                                      << u":1:24: error: rules.keyword-legacy must be a text, but is a number\n"_s;
+    QTest::newRow("number as a severity") << u"rvcatalog.toml"_s << QByteArray("rules.keyword-legacy = 0\n")
+                                          << u":1:24: error: rules.keyword-legacy must be a text, but is a number\n"_s;
 }
 
 void tst_configuration::broken()
@@ -229,8 +229,8 @@ void tst_configuration::contradictions_data()
     QTest::addColumn<QStringList>("options");
     QTest::addColumn<QString>("message");
 
-    QTest::newRow("a configuration and none") << QStringList { u"--config"_s, u"c.toml"_s, u"--no-config"_s }
-                                              << u"--config and --no-config contradict each other"_s;
+    QTest::newRow("configuration and --no-config") << QStringList { u"--config"_s, u"c.toml"_s, u"--no-config"_s }
+                                                   << u"--config and --no-config contradict each other"_s;
     QTest::newRow("empty name") << QStringList { u"--config"_s, QString() } << u"--config needs the name of a file"_s;
 }
 

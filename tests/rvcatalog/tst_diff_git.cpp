@@ -173,9 +173,9 @@ void tst_diff_git::exitCode_data()
     QTest::addColumn<int>("expected");
     const QStringList exitCode { u"--exit-code"_s };
     QTest::newRow("different") << QStringList() << u"new.xml"_s << 0;
-    QTest::newRow("different, to be told") << exitCode << u"new.xml"_s << 1;
-    QTest::newRow("equal, to be told") << exitCode << u"products.xml"_s << 0;
-    QTest::newRow("unreadable, to be told") << exitCode << u"missing.xml"_s << 1;
+    QTest::newRow("different, with --exit-code") << exitCode << u"new.xml"_s << 1;
+    QTest::newRow("equal, with --exit-code") << exitCode << u"products.xml"_s << 0;
+    QTest::newRow("unreadable, with --exit-code") << exitCode << u"missing.xml"_s << 1;
 }
 
 void tst_diff_git::exitCode()

@@ -126,15 +126,15 @@ void tst_explain::wrongUsage_data()
     QTest::addColumn<QString>("message");
 
     const QString hint = u"\nTry \"rvcatalog explain --help\".\n"_s;
-    QTest::newRow("a slip") << QStringList { u"keyword-unkown"_s }
-                            << u"rvcatalog: there is no rule \"keyword-unkown\"; did you mean \"keyword-unknown\"?"_s
-                    + hint;
-    QTest::newRow("the second") << QStringList { u"type-missing"_s, u"type-dublicate"_s }
-                                << u"rvcatalog: there is no rule \"type-dublicate\"; did you mean \"type-duplicate\"?"_s
-                    + hint;
-    QTest::newRow("nothing like it") << QStringList { u"foo"_s }
-                                     << u"rvcatalog: there is no rule \"foo\"; \"rvcatalog explain\" lists them"_s
-                    + hint;
+    QTest::newRow("misspelt rule") << QStringList {
+        u"keyword-unkown"_s
+    } << u"rvcatalog: there is no rule \"keyword-unkown\"; did you mean \"keyword-unknown\"?"_s + hint;
+    QTest::newRow("misspelt second rule")
+            << QStringList { u"type-missing"_s, u"type-dublicate"_s }
+            << u"rvcatalog: there is no rule \"type-dublicate\"; did you mean \"type-duplicate\"?"_s + hint;
+    QTest::newRow("rule similar to none")
+            << QStringList { u"foo"_s }
+            << u"rvcatalog: there is no rule \"foo\"; \"rvcatalog explain\" lists them"_s + hint;
     QTest::newRow("format") << QStringList { u"--format=html"_s }
                             << u"rvcatalog: there is no format \"html\"; there are: text, markdown"_s + hint;
 }

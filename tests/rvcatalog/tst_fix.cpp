@@ -339,10 +339,10 @@ void tst_fix::unreadable_data()
     QTest::newRow("not well-formed")
             << QByteArray(NOT_WELL_FORMED)
             << u"a.xml:1:66: error: the file ends too early: <products>, which was opened in line 1, is not closed\n"_s;
-    QTest::newRow("not its encoding") << QByteArray(BROKEN_CATALOGUE).replace("'x'", "'\xff'")
-                                      << u"a.xml:6:31: error: this is not encoded in UTF-8, as files are that do not "
-                                         u"say otherwise in their first "
-                                         "line\n"_s;
+    QTest::newRow("wrong encoding") << QByteArray(BROKEN_CATALOGUE).replace("'x'", "'\xff'")
+                                    << u"a.xml:6:31: error: this is not encoded in UTF-8, as files are that do not "
+                                       u"say otherwise in their first "
+                                       "line\n"_s;
     QTest::newRow("empty") << QByteArray() << u"a.xml:1:1: error: the file is empty\n"_s;
 }
 
@@ -506,7 +506,7 @@ void tst_fix::diffNames_data()
     QTest::addColumn<QString>("shownName");
 
     QTest::newRow("in this folder") << u"./b.xml"_s << u"b.xml"_s;
-    QTest::newRow("by a way around") << u"d/..//b.xml"_s << u"b.xml"_s;
+    QTest::newRow("through another folder and back") << u"d/..//b.xml"_s << u"b.xml"_s;
     QTest::newRow("in another folder") << u"d/c.xml"_s << u"d/c.xml"_s;
     QTest::newRow("from the root") << u"%1/d/c.xml"_s << u"d/c.xml"_s;
     QTest::newRow("above") << u"../%2/d/../b.xml"_s << u"b.xml"_s;

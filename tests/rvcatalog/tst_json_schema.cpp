@@ -80,13 +80,13 @@ void tst_json_schema::isValid_data()
             << QStringList { u"order"_s, SAMPLE_CATALOGUE, u"-"_s } << u"<project productname='VIR1'/>"_s;
     QTest::newRow("order with problems") << QStringList { u"order"_s, SAMPLE_CATALOGUE, u"-"_s }
                                          << u"<project pages='2' variants='a:b'/>"_s;
-    QTest::newRow("order of nothing") << QStringList { u"order"_s, SAMPLE_CATALOGUE, u"-"_s }
-                                      << u"<project productname='NONE'/>"_s;
+    QTest::newRow("order of an unknown product")
+            << QStringList { u"order"_s, SAMPLE_CATALOGUE, u"-"_s } << u"<project productname='NONE'/>"_s;
     QTest::newRow("keywords") << QStringList { u"keywords"_s } << QString();
-    QTest::newRow("keywords of one") << QStringList { u"keywords"_s, u"paper_type"_s } << QString();
+    QTest::newRow("keywords of one attribute") << QStringList { u"keywords"_s, u"paper_type"_s } << QString();
     QTest::newRow("decode") << QStringList { u"decode"_s, u"cover_type"_s, u"hard, Leinen,"_s } << QString();
     QTest::newRow("decode lines") << QStringList { u"decode"_s, u"page_type"_s, u"-"_s } << u"left\n\nwrap,x\n"_s;
-    QTest::newRow("decode nothing") << QStringList { u"decode"_s, u"page_type"_s, u"-"_s } << QString();
+    QTest::newRow("decode an empty input") << QStringList { u"decode"_s, u"page_type"_s, u"-"_s } << QString();
 }
 
 void tst_json_schema::isValid()
@@ -107,7 +107,7 @@ void tst_json_schema::isRefused_data()
     QTest::newRow("no array") << u"show"_s << QByteArray("{}");
     QTest::newRow("a key is missing")
             << u"decode"_s << QByteArray(R"([{"attribute":"a","keywords":[],"text":"","unknown":[],"value":0}])");
-    QTest::newRow("a key too many")
+    QTest::newRow("unknown key")
             << u"decode"_s
             << QByteArray(
                        R"([{"attribute":"a","keyword":null,"keywords":[],"name":"","text":"","unknown":[],"value":0}])");

@@ -316,8 +316,8 @@ void tst_rvcatalog::decodes_data()
                                              << u"rvcatalog: \"above\" is no keyword of page_alignment; it stands for "
                                                 "the default value\n"_s
                                              << 1;
-    QTest::newRow("a keyword for nothing") << QStringList { u"page_binding"_s, u"unknown"_s }
-                                           << u"Value     0x0\nKeyword   unknown\n"_s << QString() << 0;
+    QTest::newRow("keyword of the value 0") << QStringList { u"page_binding"_s, u"unknown"_s }
+                                            << u"Value     0x0\nKeyword   unknown\n"_s << QString() << 0;
     QTest::newRow("no attribute") << QStringList { u"colour"_s, u"red"_s } << QString()
                                   << u"rvcatalog: there is no attribute \"colour\"; there are: article_class, "
                                      "cover_type, page_binding, paper_type, foto_paper_type, orientation, "
