@@ -81,7 +81,7 @@ bool parse(QCommandLineParser *parser, const QStringList &arguments, const HelpT
 
 QCommandLineOption formatOption(const QStringList &formats)
 {
-    return QCommandLineOption(u"format"_s, u"How to write it; text where it is not given."_s, formats.join(u'|'),
+    return QCommandLineOption(u"format"_s, u"Write text, which is the default, or json."_s, formats.join(u'|'),
                               formats.constFirst());
 }
 

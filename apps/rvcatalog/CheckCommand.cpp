@@ -46,10 +46,11 @@ int checkFiles(CheckOptions options, Console console)
 int checkCommand(const QStringList &arguments, const Console &console)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(u"Finds what would go wrong with catalogues in the ordering application: one\n"
-                                     "finding a line, in the order of the file, and a summary last. Ends with 1 when\n"
-                                     "there are errors or warnings, with 2 when a file cannot be read, and with 130\n"
-                                     "or 143 when SIGINT or SIGTERM ended it."_s);
+    parser.setApplicationDescription(
+            u"Finds the faults that catalogues would cause in the ordering application. Writes a\n"
+            "line for each finding, in the order of the file, and a summary at the end. Ends\n"
+            "with 1 if there are errors or warnings, with 2 if a file cannot be read, and\n"
+            "with 130 or 143 if SIGINT or SIGTERM ended it."_s);
     CheckOptions::addTo(&parser);
     parser.addPositionalArgument(u"CATALOGUE"_s, u"The products XML; \"-\" is the standard input."_s,
                                  u"CATALOGUE.xml..."_s);

@@ -17,9 +17,9 @@ constexpr struct
 } COMMANDS[] = {
     { "show"_L1, showCommand, "list the products of a catalogue"_L1 },
     { "order"_L1, orderCommand, "check a project against the catalogue and write its order line"_L1 },
-    { "check"_L1, checkCommand, "find what would go wrong with catalogues"_L1 },
-    { "explain"_L1, explainCommand, "explain the rules that catalogues are checked by"_L1 },
-    { "diff"_L1, diffCommand, "tell what differs between two catalogues"_L1 },
+    { "check"_L1, checkCommand, "find the faults of catalogues"_L1 },
+    { "explain"_L1, explainCommand, "explain the rules of the check"_L1 },
+    { "diff"_L1, diffCommand, "list the differences between two catalogues"_L1 },
     { "keywords"_L1, keywordsCommand, "list the keywords of the attributes"_L1 },
     { "decode"_L1, decodeCommand, "read a list of keywords"_L1 },
     { "spine"_L1, spineCommand, "list the spine of a product at every page count, and draw it"_L1 },
@@ -33,8 +33,8 @@ QString usage()
     return text
             + "\n\"rvcatalog help COMMAND\" explains a command; \"rvcatalog --version\" prints the\n"
               "version. The file \"-\" is the standard input.\n"
-              "Exit codes: 0 fine or equal, 1 problems or differences found, 2 cannot read,\n"
-              "write or understand the command line, 130 and 143 interrupted.\n"_L1;
+              "Exit codes: 0 fine or equal; 1 problems or differences; 2 a file or the command\n"
+              "line cannot be read, or the output cannot be written; 130 and 143 interrupted.\n"_L1;
 }
 
 /// The exit code of the command, or that of an unreadable file if its output could not be written, for example because

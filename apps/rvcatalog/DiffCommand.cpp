@@ -132,9 +132,10 @@ QString refusal(const QString &format, bool isGit, const QStringList &names)
 
 QString diffDescription()
 {
-    return u"Tells what differs between two catalogues: products that were added or removed, and what has changed of\n"
-           "the others. Only the values that the ordering application reads are compared, not their spelling.\n"
-           "Ends with 0 when they are equal, with 1 when they differ, with 2 when one of them cannot be read."_s;
+    return u"Lists the differences between two catalogues: the products that were added or removed, and the changes "
+           u"in\n"
+           "the others. Compares the values that the ordering application reads, not their spelling.\n"
+           "Ends with 0 if they are equal, with 1 if they differ, and with 2 if one of them cannot be read."_s;
 }
 
 }
@@ -150,9 +151,9 @@ int diffCommand(const QStringList &arguments, const Console &console)
     const QCommandLineOption git(u"git"_s,
                                  u"Take the arguments that git gives to a diff driver: PATH OLD-FILE OLD-HEX OLD-MODE "
                                  u"NEW-FILE NEW-HEX NEW-MODE. "
-                                 "Ends with 0 also when the catalogues differ."_s);
+                                 "End with 0 even if the catalogues differ."_s);
     const QCommandLineOption exitCodeOption(
-            u"exit-code"_s, u"With --git, ends with 1 when they differ, for diff.<driver>.trustExitCode."_s);
+            u"exit-code"_s, u"With --git, end with 1 if they differ, for diff.<driver>.trustExitCode."_s);
     parser.addOptions({ formatOption, colorOption, git, exitCodeOption });
     parser.addPositionalArgument(u"OLD"_s, u"The products XML before; \"-\" is the standard input."_s, u"OLD.xml"_s);
     parser.addPositionalArgument(u"NEW"_s, u"The products XML afterwards; \"-\" is the standard input."_s,

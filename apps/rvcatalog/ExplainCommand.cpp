@@ -76,9 +76,9 @@ int explainCommand(const QStringList &arguments, const Console &console)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
-            u"Explains rules that catalogues are checked by: why each one matters, an example\n"
-            "that breaks it and the same one mended, and how to silence it. Without a rule,\n"
-            "lists them all."_s);
+            u"Explains rules of the check: why each rule matters, a catalogue that breaks it,\n"
+            "the same catalogue mended, and how to silence the rule. Without a rule, lists all\n"
+            "rules."_s);
     parser.addOption({ u"format"_s, u"Write text or markdown."_s, u"text|markdown"_s, u"text"_s });
     parser.addPositionalArgument(u"RULE"_s, u"The name of a rule, such as keyword-unknown."_s, u"[RULE...]"_s);
     int exitCode = EXIT_FINE;

@@ -65,11 +65,9 @@ int keywordsCommand(const QStringList &arguments, const Console &console)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
-            u"Lists the keywords of an attribute, or of all attributes: value, the keyword that is written, the "
-            u"aliases\n"
-            "that are read as well, and the display name where there is one. The attributes are:\n%1."_s.arg(
-                    attributeNames().join(", "_L1)));
-    parser.addPositionalArgument(u"ATTRIBUTE"_s, u"The attribute; all where it is missing."_s, u"[ATTRIBUTE]"_s);
+            u"Lists the keywords of an attribute, or of all attributes: the value, the main keyword, its aliases, and\n"
+            "the display name. The attributes are:\n%1."_s.arg(attributeNames().join(", "_L1)));
+    parser.addPositionalArgument(u"ATTRIBUTE"_s, u"The attribute; without it, all attributes."_s, u"[ATTRIBUTE]"_s);
     const QCommandLineOption format = formatOption({ u"text"_s, u"json"_s });
     parser.addOption(format);
     int exitCode = EXIT_FINE;
@@ -92,12 +90,12 @@ int decodeCommand(const QStringList &arguments, const Console &console)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
-            u"Reads a list of keywords separated by commas as the ordering application does, and names the pieces "
-            u"that\n"
-            "are not known, which stand for the default value of the attribute. The attributes are:\n%1."_s.arg(
+            u"Reads a list of keywords separated by commas as the ordering application does, and names the unknown\n"
+            "keywords, which stand for the default value of the attribute. The attributes are:\n%1."_s.arg(
                     attributeNames().join(", "_L1)));
     parser.addPositionalArgument(u"ATTRIBUTE"_s, u"The attribute."_s);
-    parser.addPositionalArgument(u"TEXT"_s, u"The keywords; \"-\" for lists on the standard input, one a line."_s);
+    parser.addPositionalArgument(u"TEXT"_s,
+                                 u"The keywords; \"-\" reads lists from the standard input, one from each line."_s);
     const QCommandLineOption format = formatOption({ u"text"_s, u"json"_s });
     parser.addOption(format);
     int exitCode = EXIT_FINE;

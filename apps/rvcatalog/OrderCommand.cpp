@@ -97,8 +97,8 @@ int orderCommand(const QStringList &arguments, const Console &console)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
-            u"Reads product type, page count and options of a project, checks them against the catalogue, completes\n"
-            "them with the default options, counts what is billed per price class and writes the order line."_s);
+            u"Reads product type, page count and options of a project, checks them against the catalogue, adds\n"
+            "the default options, and writes the price classes for the bill and the option texts for production."_s);
     const QCommandLineOption format = formatOption({ u"text"_s, u"json"_s });
     parser.addOption(format);
     parser.addPositionalArgument(u"CATALOGUE"_s, u"The products XML; \"-\" is the standard input."_s,

@@ -73,15 +73,13 @@ int show(const QString &fileName, const ProductFilter &filter, Write write, cons
 
 QString showDescription()
 {
-    return u"Lists the products of a catalogue, or those of the types that are named: type, page counts, how many "
-           u"counts "
-           "there are to choose from, spine width and largest spine font size at the lowest and the highest count, and "
-           "the name; below it article class, cover, binding, paper, orientation, size class, shipping group, article, "
-           "price classes, barcodes, and the options per key. With --long or --format json, it tells everything that "
-           "the catalogue says.\n\n"
-           "A condition is an attribute, one of = != < > <= >= (the last four for numbers), and a value. Keywords "
-           "compare by what they stand for; of a list, the product has to have all. Texts may have the wildcards * "
-           "and ?. Nothing behind = asks for products without the attribute. The attributes are:\n%1."_s.arg(
+    return u"Lists the products of a catalogue, or only those of the named types: type, page counts and their number, "
+           "spine width and largest spine font size at the lowest and the highest count, and name; below them article "
+           "class, cover, binding, paper, orientation, size class, shipping group, article, price classes, barcodes, "
+           "and the options of each key. With --long or --format json, writes everything that the catalogue says.\n\n"
+           "A condition is an attribute, one of = != < > <= >= (the last four for numbers), and a value. Keywords are "
+           "compared by their values; a product must have all keywords of a list. Texts may contain the wildcards * "
+           "and ?. Without a value, = selects products without the attribute. The attributes are:\n%1."_s.arg(
                    ProductCondition::attributeNames().join(", "_L1));
 }
 
@@ -92,16 +90,16 @@ int showCommand(const QStringList &arguments, const Console &console)
     QCommandLineParser parser;
     parser.setApplicationDescription(showDescription());
     const QCommandLineOption format = formatOption({ u"text"_s, u"json"_s });
-    const QCommandLineOption isLong(u"long"_s, u"Tell everything, one line a subject."_s);
+    const QCommandLineOption isLong(u"long"_s, u"Write everything, one line for each subject."_s);
     const QCommandLineOption where(
             u"where"_s,
-            u"Only products that meet this, such as cover_type=HARDCOVER. Of several conditions, "
-            "all have to be met."_s,
+            u"List only products that meet this condition, such as cover_type=HARDCOVER; may be given several times."_s,
             u"CONDITION"_s);
     parser.addOptions({ format, isLong, where });
     parser.addPositionalArgument(u"CATALOGUE"_s, u"The products XML; \"-\" is the standard input."_s,
                                  u"CATALOGUE.xml"_s);
-    parser.addPositionalArgument(u"TYPE"_s, u"Only products of this type; all where none is named."_s, u"[TYPE...]"_s);
+    parser.addPositionalArgument(u"TYPE"_s, u"List only products of this type; without it, all products."_s,
+                                 u"[TYPE...]"_s);
     int exitCode = EXIT_FINE;
     if (!parseArguments(parser, arguments, 1, ANY_NUMBER, console, &exitCode))
         return exitCode;
