@@ -30,11 +30,11 @@ BrowserOptions::BrowserOptions(const QStringList &arguments)
             { { u"h"_s, u"help"_s }, u"Displays this help."_s },
             { u"version"_s, u"Displays the version."_s },
             { u"product"_s, u"Begin with this product type."_s, u"TYPE"_s },
-            { u"compare"_s, u"Show what has changed since this catalogue, which is the old one."_s, u"OLD.xml"_s },
+            { u"compare"_s, u"Show the changes since this catalogue, which is the old one."_s, u"OLD.xml"_s },
             { u"screenshot"_s, u"Write a picture of the window and end; needs no display."_s, u"OUT.png"_s },
             { u"size"_s, u"Size of the window in pixels, such as 1280x800."_s, u"WxH"_s },
-            { u"palette"_s, u"Colours: light or dark; those of the desktop without it."_s, u"NAME"_s },
-            { u"language"_s, u"Language: de or en; that of the desktop without it."_s, u"CODE"_s },
+            { u"palette"_s, u"Colours: light or dark; by default those of the desktop."_s, u"NAME"_s },
+            { u"language"_s, u"Language: de or en; by default that of the desktop."_s, u"CODE"_s },
     });
     myParser.addPositionalArgument(u"CATALOGUE"_s, u"The products XML."_s, u"[CATALOGUE.xml]"_s);
     myError = myParser.parse(arguments) ? QString() : myParser.errorText();
