@@ -253,7 +253,7 @@
         <translation>Produkt</translation>
     </message>
     <message>
-        <source>What</source>
+        <source>Change</source>
         <translation>Änderung</translation>
     </message>
     <message>
@@ -727,8 +727,8 @@ Zeigt Kataloge von Druckprodukten.</translation>
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>What was loaded before is still shown.</source>
-        <translation>Gezeigt wird weiter, was zuvor geladen wurde.</translation>
+        <source>The catalogue that was loaded before is still shown.</source>
+        <translation>Der zuvor geladene Katalog wird weiter gezeigt.</translation>
     </message>
     <message>
         <source>The catalogue has no product of type &quot;%1&quot;.</source>
@@ -743,8 +743,8 @@ Zeigt Kataloge von Druckprodukten.</translation>
         <translation>Der Katalog wurde ohne diese Konfiguration geprüft.</translation>
     </message>
     <message>
-        <source>Forget the recent catalogues, what was chosen for products, and where the windows and their parts were?</source>
-        <translation>Die zuletzt geöffneten Kataloge vergessen, ebenso was für Produkte gewählt wurde und wo die Fenster und ihre Teile waren?</translation>
+        <source>Forget the recent catalogues, the choices for products, and the places of the windows and their parts?</source>
+        <translation>Die zuletzt geöffneten Kataloge, die Angaben zu Produkten und die Lage der Fenster und ihrer Teile vergessen?</translation>
     </message>
     <message>
         <source>Forget everything</source>
@@ -938,8 +938,8 @@ Zeigt Kataloge von Druckprodukten.</translation>
         <translation>Kopieren: %1</translation>
     </message>
     <message>
-        <source>Nothing that is chosen has a price class.</source>
-        <translation>Nichts von dem, was gewählt ist, hat eine Preisklasse.</translation>
+        <source>None of the choices has a price class.</source>
+        <translation>Keine der Angaben hat eine Preisklasse.</translation>
     </message>
 </context>
 <context>

@@ -1115,8 +1115,8 @@
         <translation>nur das erste %1 wird gelesen, das in Zeile %2; bitte zu einem zusammenfassen</translation>
     </message>
     <message>
-        <source>write one of a group, or one that begins with 0 for what is not billed</source>
-        <translation>bitte eine aus einer Gruppe angeben, oder für das, was nicht berechnet wird, eine, die mit 0 beginnt</translation>
+        <source>write one of a group, or one that begins with 0 if nothing is billed</source>
+        <translation>bitte eine aus einer Gruppe angeben oder, wenn nichts berechnet wird, eine, die mit 0 beginnt</translation>
     </message>
     <message>
         <source>Broken:</source>

@@ -199,7 +199,7 @@ public:
 private:
     void writeHead() const
     {
-        writeRow({ DiffTexts::tr("Product"), DiffTexts::tr("What"), DiffTexts::tr("Old"), DiffTexts::tr("New") });
+        writeRow({ DiffTexts::tr("Product"), DiffTexts::tr("Change"), DiffTexts::tr("Old"), DiffTexts::tr("New") });
         write(u"| --- | --- | --- | --- |\n"_s);
     }
 

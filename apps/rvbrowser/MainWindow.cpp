@@ -154,8 +154,9 @@ void MainWindow::showRecentFiles()
 
 void MainWindow::forgetEverything()
 {
-    const QString question = tr("Forget the recent catalogues, what was chosen for products, and where the windows and "
-                                "their parts were?");
+    const QString question = tr(
+            "Forget the recent catalogues, the choices for products, and the places of the windows and "
+            "their parts?");
     if (QMessageBox::question(this, tr("Forget everything"), question) != QMessageBox::Yes)
         return;
     mySettings.forgetEverything();
@@ -322,14 +323,14 @@ void MainWindow::showError(const LoadError &error)
 {
     QString text = errorText(error);
     if (mySession.catalogue())
-        text += u'\n' + tr("What was loaded before is still shown.");
+        text += u'\n' + tr("The catalogue that was loaded before is still shown.");
     myBanner->showMessage(text);
 }
 
 void MainWindow::showVanished(const QString &fileName)
 {
     myBanner->showMessage(tr("%1 is gone. It is loaded again when it comes back.").arg(fileName) + u'\n'
-                          + tr("What was loaded before is still shown."));
+                          + tr("The catalogue that was loaded before is still shown."));
 }
 
 void MainWindow::showSingleProduct(const CataloguePointer &catalogue, int product, const QString &note)

@@ -127,7 +127,7 @@ void RVPriceClassCheck::addUnknown(const RVCatalogueElement &element, QLatin1Str
     const RVNearestTexts nearest = nearestCodes(plain, codes);
     const QStringList meant = meantCodes(plain, codes, nearest);
     const QString advice = meant.isEmpty()
-            ? RVFindingText::tr("write one of a group, or one that begins with 0 for what is not billed")
+            ? RVFindingText::tr("write one of a group, or one that begins with 0 if nothing is billed")
             : RVFindingText::tr("did you mean %1?").arg(rvOneOf(meant));
     // Codes that differ in more than letter case and blanks are different codes.
     const bool isCertain = nearest.texts().size() == 1 && nearest.distance() == 0;

@@ -514,8 +514,7 @@ void tst_RVFindingText::priceClasses_data()
     QTest::newRow("near several") << u"LEZ7"_s << no(u"LEZ7"_s, u"did you mean \"LEZ1\", \"LEZ2\" or \"LEZ3\"?"_s);
     QTest::newRow("beginning of a price class") << u"RODA"_s << no(u"RODA"_s, u"did you mean \"RODA6x9\"?"_s);
     QTest::newRow("similar to no price class")
-            << u"(xxx)"_s
-            << no(u"(xxx)"_s, u"write one of a group, or one that begins with 0 for what is not billed"_s);
+            << u"(xxx)"_s << no(u"(xxx)"_s, u"write one of a group, or one that begins with 0 if nothing is billed"_s);
 }
 
 void tst_RVFindingText::priceClasses()

@@ -50,7 +50,7 @@ void tst_DiffWriter::formats_data()
                                 "\033[1m~ C \"n\"\033[m\n  ~ Cover: \033[31mX\033[m -> \033[32mY\033[m\n"
                                 "1 added, 1 removed, 1 changed, 0 equal\n"_s;
     QTest::newRow("Markdown") << u"markdown"_s << false
-                              << u"| Product | What | Old | New |\n| --- | --- | --- | --- |\n"
+                              << u"| Product | Change | Old | New |\n| --- | --- | --- | --- |\n"
                                  "| A \"n\" | added |  | article 7 |\n| B \"n\" | removed | article 7 |  |\n"
                                  "| C \"n\" | Cover | X | Y |\n\n1 added, 1 removed, 1 changed, 0 equal\n"_s;
     QTest::newRow("JSON")

@@ -332,7 +332,7 @@ void tst_ComparisonPanel::saves_data()
                           << QByteArray("\n1 added, 1 removed, 2 changed (1 renamed), 1 equal\n");
     QTest::newRow("any other name") << u"changes"_s << QByteArray("+ E \"Etikett\", article 5\n")
                                     << QByteArray(" 1 equal\n");
-    QTest::newRow("Markdown") << u"changes.md"_s << QByteArray("| Product | What | Old | New |\n| --- |")
+    QTest::newRow("Markdown") << u"changes.md"_s << QByteArray("| Product | Change | Old | New |\n| --- |")
                               << QByteArray(" 1 equal\n");
     QTest::newRow("JSON") << u"changes.JSON"_s << QByteArray("{\"new\":\"")
                           << QByteArray("\n],\n\"summary\":{\"added\":1,\"changed\":2,\"equal\":1,\"removed\":1,"

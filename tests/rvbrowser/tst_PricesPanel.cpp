@@ -193,7 +193,7 @@ void tst_PricesPanel::tellsWhyThereAreNone_data()
     QTest::addColumn<QString>("text");
 
     QTest::newRow("earlier product") << 1 << u"This product cannot be ordered: an earlier one has the same type."_s;
-    QTest::newRow("no price class") << 2 << u"Nothing that is chosen has a price class."_s;
+    QTest::newRow("no price class") << 2 << u"None of the choices has a price class."_s;
     QTest::newRow("page counts") << 3 << u"This product cannot be ordered: its page counts are not valid."_s;
 }
 

@@ -592,7 +592,7 @@ void tst_rvbrowser::opensABrokenFile()
     auto *banner = myWindow->findChild<MessageBanner *>();
     QTRY_VERIFY_WITH_TIMEOUT(banner->isVisible(), 20000);
     QVERIFY2(banner->text().startsWith(path(u"broken.xml"_s) + ", line 2, column 20: "_L1), qPrintable(banner->text()));
-    QVERIFY(banner->text().endsWith("\nWhat was loaded before is still shown."_L1));
+    QVERIFY(banner->text().endsWith("\nThe catalogue that was loaded before is still shown."_L1));
     QCOMPARE(text(u"title"_s), u"DUN9 – Großes Buch"_s);
     QCOMPARE(find<QComboBox>(u"pageCounts"_s)->count(), 33);
     QVERIFY(myWindow->windowTitle().startsWith("c.xml"_L1));
@@ -624,7 +624,7 @@ void tst_rvbrowser::tellsOfADeletedFile()
     QCOMPARE(banner->text(),
              path(u"c.xml"_s)
                      + " is gone. It is loaded again when it comes back.\n"
-                       "What was loaded before is still shown."_L1);
+                       "The catalogue that was loaded before is still shown."_L1);
     QCOMPARE(shownTypes().size(), 3);
     write(u"c.xml"_s, CATALOGUE);
     QTRY_VERIFY_WITH_TIMEOUT(!banner->isVisible(), 20000);

@@ -151,7 +151,7 @@ void tst_check::text()
              "faults.xml:3:23: error: B: the article id \"0\" is no whole number above 0; write 1 or more "
              "[article-id-invalid]\n"
              "faults.xml:4:34: warning: Ä: the price class \"\"x\"\" belongs to no known group; write one of a "
-             "group, or one that begins with 0 for what is not billed [price-class-unknown]\n"_s
+             "group, or one that begins with 0 if nothing is billed [price-class-unknown]\n"_s
                      + QLatin1StringView(SUMMARY_OF_FAULTS));
     QCOMPARE(run.exitCode, 1);
 }

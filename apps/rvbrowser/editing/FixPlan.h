@@ -27,7 +27,7 @@ public:
 
     /// Finds out what changes. False where that is impossible.
     bool prepare();
-    /// That as a unified diff, the bytes as they stand in the file; empty before it is prepared.
+    /// The changes as a unified diff, the bytes as they stand in the file; empty before it is prepared.
     QByteArray diff() const { return myDiff; }
     /// Makes the change. False where that is impossible, and nothing is changed.
     bool save();

@@ -69,7 +69,7 @@ void PricesPanel::setProduct(const OrderPrices &prices)
 void PricesPanel::setChoice(int pages, const RVArticleVariants &variants)
 {
     myLines = myPrices.lines(pages, variants);
-    const QString reason = myPrices.obstacle().isEmpty() ? tr("Nothing that is chosen has a price class.")
+    const QString reason = myPrices.obstacle().isEmpty() ? tr("None of the choices has a price class.")
                                                          : myPrices.obstacle();
     myText->setText(myLines.isEmpty() ? reason.toHtmlEscaped() : table(myLines));
     myText->setAccessibleName(myLines.isEmpty() ? reason : plain(myLines));
