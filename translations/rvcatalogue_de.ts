@@ -623,8 +623,8 @@
         <translation>Eine Bestellung kommt ohne die Option oder mit dem ersten Wert, wenn kein Wert des Schlüssels die Vorgabe ist; bitte einen vorgeben.</translation>
     </message>
     <message>
-        <source>The editor shows no swatch for a colour that it cannot read; write #rrggbb or the English name of a colour.</source>
-        <translation>Der Editor zeigt kein Farbfeld zu einer Farbe, die er nicht lesen kann; bitte #rrggbb oder den englischen Namen einer Farbe angeben.</translation>
+        <source>The editor shows no swatch for a colour that it cannot read; write six hexadecimal digits behind a number sign, or the English name of a colour.</source>
+        <translation>Der Editor zeigt kein Farbfeld zu einer Farbe, die er nicht lesen kann; bitte sechs hexadezimale Ziffern hinter einem Nummernzeichen oder den englischen Namen einer Farbe angeben.</translation>
     </message>
     <message>
         <source>Keys that are chosen together need one value each, or production gets none of them; write as many values as keys.</source>

@@ -548,7 +548,7 @@ inline constexpr RVCatalogueRuleRow RV_CATALOGUE_RULES[] = {
 </products>
 )" },
     { RVCatalogueRuleId::OptionColorInvalid, RVCatalogueSeverity::Warning, QLatin1StringView("option-color-invalid"),
-      QT_TRANSLATE_NOOP("RVFindingText", "The editor shows no swatch for a colour that it cannot read; write #rrggbb or the English name of a colour."),
+      QT_TRANSLATE_NOOP("RVFindingText", "The editor shows no swatch for a colour that it cannot read; write six hexadecimal digits behind a number sign, or the English name of a colour."),
       R"(<products>
   <product type="DUN9" article_id="1001">
     <forms>

@@ -124,7 +124,7 @@ void tst_Completion::descriptions()
     // The description is on one line, though the help needs two.
     QCOMPARE(
             describe({ u"show"_s, u"--whe"_s }),
-            u"Only products that meet this, such as cover_type=HARDCOVER. Of several conditions, all have to be met."_s);
+            u"List only products that meet this condition, such as cover_type=HARDCOVER; may be given several times."_s);
 }
 
 // Every word of the program can be completed, so a new command or option needs no row here.

@@ -277,7 +277,7 @@ void tst_diff::markdown()
     QCOMPARE(run.exitCode, 1);
     QVERIFY(run.output.startsWith(u"| Product | Change | Old | New |\n| --- | --- | --- | --- |\n"_s));
     QVERIFY(run.output.endsWith(u"|\n\n1 added, 1 removed, 2 changed (1 renamed), 1 equal\n"_s));
-    const QStringList expected = { u"Product ¦ What ¦ Old ¦ New"_s,
+    const QStringList expected = { u"Product ¦ Change ¦ Old ¦ New"_s,
                                    u"DUN9 \"Fotobuch\" ¦ Cover ¦ HARDCOVER ¦ SOFTCOVER"_s,
                                    u"DUN9 \"Fotobuch\" ¦ Option alcolor:red ¦  ¦ \"alcolor:red\""_s,
                                    u"DUN9 \"Fotobuch\" ¦ Default of alcolor ¦  ¦ \"red\""_s,
