@@ -103,7 +103,7 @@ def configured_variant(value):
 
 
 def pointed_to(shared):
-    """The target of a QSharedDataPointer or QExplicitlySharedDataPointer, whose member is a class of its own since Qt 6.4."""
+    """The target of a QSharedDataPointer or QExplicitlySharedDataPointer; the member is a class of its own since Qt 6.4."""
     pointer = shared["d"]
     if pointer.type.strip_typedefs().code != gdb.TYPE_CODE_PTR:
         pointer = pointer["ptr"]
