@@ -9,13 +9,15 @@ void RVGroupSilence::add(const std::vector<RVSuppressionScope::Pointer> &closed)
     myClosed.insert(myClosed.end(), closed.begin(), closed.end());
     std::vector<RVSuppressionScope::Pointer> waiting;
     for (RVSuppressionScope::Pointer &scope : myClosed) {
-        const bool isJudged = scope->isJudged();
-        if (isJudged)
+        // A thread may judge the last product and release it at any time, so the references are counted first: if this
+        // is the only one, nothing is judged later.
+        const bool isShared = scope->ref.loadAcquire() > 1;
+        if (scope->isJudged())
             judge(*scope);
-        // A scope waits forever if one of its products was skipped.
-        else if (scope->ref.loadRelaxed() > 1)
+        // A scope whose last products were skipped would wait forever.
+        else if (isShared)
             waiting.push_back(scope);
-        scope.reset();
+        scope.reset(); // releases the outer scope, which comes later
     }
     myClosed.swap(waiting);
 }
