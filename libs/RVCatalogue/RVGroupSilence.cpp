@@ -22,13 +22,6 @@ void RVGroupSilence::add(const std::vector<RVSuppressionScope::Pointer> &closed)
     myClosed.swap(waiting);
 }
 
-QList<RVCatalogueFinding> RVGroupSilence::findings() const
-{
-    QList<RVCatalogueFinding> result = myFindings;
-    rvSort(&result);
-    return result;
-}
-
 void RVGroupSilence::judge(const RVSuppressionScope &scope)
 {
     const RVCatalogueProduct none;

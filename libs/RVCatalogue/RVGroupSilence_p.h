@@ -18,8 +18,8 @@ public:
 
     /// Takes groups that were closed, inner ones before outer ones, and judges those that are complete.
     void add(const std::vector<RVSuppressionScope::Pointer> &closed);
-    /// The findings about the judged groups, in the order of the file.
-    QList<RVCatalogueFinding> findings() const;
+    /// The findings about the judged groups, in the order in which the groups were judged.
+    const QList<RVCatalogueFinding> &findings() const { return myFindings; }
 
 private:
     void judge(const RVSuppressionScope &scope);
