@@ -2,16 +2,11 @@
 
 #include "RVCatalogueProductData_p.h"
 #include "RVFilePosition_p.h"
+#include "RVNameVocabulary_p.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace {
-
-bool equal(QByteArrayView a, QLatin1StringView b)
-{
-    return a.size() == b.size() && std::memcmp(a.data(), b.data(), std::size_t(a.size())) == 0;
-}
 
 const RVCatalogueRows::Attribute *findAttribute(const RVCatalogueRows &rows, const RVCatalogueRows::Element &element,
                                                 QLatin1StringView name)
@@ -19,7 +14,7 @@ const RVCatalogueRows::Attribute *findAttribute(const RVCatalogueRows &rows, con
     const auto *begin = rows.attributes.data() + element.attributesBegin;
     const auto *end = rows.attributes.data() + element.attributesEnd;
     const auto *found = std::find_if(begin, end, [&](const RVCatalogueRows::Attribute &attribute) {
-        return equal(rows.view(attribute.name), name);
+        return rvIsName(rows.view(attribute.name), name);
     });
     return found == end ? nullptr : found;
 }
@@ -166,7 +161,7 @@ RVCatalogueElement RVCatalogueElement::nextSiblingElement(QLatin1StringView name
 RVCatalogueElement RVCatalogueElement::named(QLatin1StringView name) const noexcept
 {
     RVCatalogueElement element = *this;
-    while (!element.isNull() && !name.isEmpty() && !equal(d->rows.name(d->rows.elements[element.myIndex]), name))
+    while (!element.isNull() && !name.isEmpty() && !rvIsName(d->rows.name(d->rows.elements[element.myIndex]), name))
         element = element.next();
     return element;
 }
