@@ -2,7 +2,7 @@
 
 #include "RVCatalogueProduct.h"
 #include "RVCatalogueValues_p.h"
-#include "RVPageCountRanges_p.h"
+#include "RVPageCountRange_p.h"
 #include "RVProductChanges_p.h"
 
 using namespace Qt::StringLiterals;

@@ -1,4 +1,4 @@
-#include "RVPageCountRanges_p.h"
+#include "RVPageCountRange_p.h"
 
 #include "RVProductChanges_p.h"
 

@@ -1,5 +1,5 @@
-#ifndef RVPAGECOUNTRANGES_P_H
-#define RVPAGECOUNTRANGES_P_H
+#ifndef RVPAGECOUNTRANGE_P_H
+#define RVPAGECOUNTRANGE_P_H
 
 #include <RVPageCounts.h>
 
