@@ -1,8 +1,8 @@
 #include "RVTextBytes_p.h"
 
-#include <QIODevice>
+#include "RVIconv_p.h"
 
-#include <iconv.h>
+#include <QIODevice>
 
 #include <utility>
 
@@ -17,28 +17,20 @@ constexpr qint64 MARGIN = 16;
 
 class RVTextBytes::Converter
 {
-    Q_DISABLE_COPY_MOVE(Converter)
-
 public:
-    explicit Converter(const QByteArray &encoding) : myHandle(::iconv_open("UTF-8", encoding.constData())) { }
-    ~Converter()
-    {
-        if (isKnown())
-            ::iconv_close(myHandle);
-    }
+    explicit Converter(const QByteArray &encoding) : myIconv("UTF-8", encoding) { }
 
-    // NOLINTNEXTLINE(performance-no-int-to-ptr): the error is defined like this
-    bool isKnown() const { return myHandle != iconv_t(-1); }
+    bool isKnown() const { return myIconv.isKnown(); }
 
     /// Converts from the begin of @p bytes on until the text has this number of bytes.
     RVTextPiece convert(QByteArrayView bytes, qint64 room) const
     {
         QByteArray text(room, Qt::Uninitialized);
-        char *from = const_cast<char *>(bytes.data()); // NOLINT(cppcoreguidelines-pro-type-const-cast): iconv reads
+        const char *from = bytes.data();
         auto left = std::size_t(bytes.size());
         char *to = text.data();
         auto textLeft = std::size_t(room);
-        ::iconv(myHandle, &from, &left, &to, &textLeft);
+        myIconv.convert(&from, &left, &to, &textLeft);
         text.truncate(room - qsizetype(textLeft));
         return { bytes.first(bytes.size() - qsizetype(left)).toByteArray(), text };
     }
@@ -49,7 +41,7 @@ public:
         QByteArray text(MARGIN, Qt::Uninitialized);
         char *to = text.data();
         auto textLeft = std::size_t(MARGIN);
-        ::iconv(myHandle, nullptr, nullptr, &to, &textLeft);
+        myIconv.end(&to, &textLeft);
         text.truncate(MARGIN - qsizetype(textLeft));
         return text;
     }
@@ -63,7 +55,7 @@ public:
     }
 
 private:
-    iconv_t myHandle;
+    RVIconv myIconv;
 };
 
 RVTextBytes::RVTextBytes(QIODevice *device, const QByteArray &encoding) : myDevice(device)
@@ -88,7 +80,7 @@ RVTextPiece RVTextBytes::take(qint64 size)
         return takeExactly(size);
     if (!myAhead.isEmpty())
         return std::exchange(myAhead, RVTextPiece());
-    if (available() < RV_LONGEST_LETTER)
+    if (available() < qsizetype(RVIconv::LONGEST_LETTER))
         fill();
     const RVTextPiece piece = convert(available(), qMin(size - MARGIN, LONGEST_PIECE));
     return piece.isEmpty() ? takeLetter() : piece;
@@ -116,7 +108,7 @@ RVTextPiece RVTextBytes::takeExactly(qint64 size)
 // The smallest number of bytes that iconv accepts.
 RVTextPiece RVTextBytes::takeLetter()
 {
-    for (qsizetype size = 1; size <= RV_LONGEST_LETTER; ++size) {
+    for (qsizetype size = 1; size <= qsizetype(RVIconv::LONGEST_LETTER); ++size) {
         if (available() < size && !fill())
             return { QByteArray(), available() == 0 ? myConverter->end() : QByteArray() };
         const RVTextPiece letter = convert(size, MARGIN);

@@ -7,9 +7,6 @@
 
 class QIODevice;
 
-/// The most bytes of a letter in any encoding, including the switch to its alphabet.
-constexpr qsizetype RV_LONGEST_LETTER = 16;
-
 /// Some letters of a file: their bytes, and the same in UTF-8.
 struct RVTextPiece
 {

@@ -1,12 +1,15 @@
 #include "RVTextEncoder_p.h"
 
-#include <QList>
+#include "RVIconv_p.h"
 
-#include <iconv.h>
+#include <QList>
 
 #include <array>
 
 namespace {
+
+/// The number of letters in "&#x10FFFF;".
+constexpr std::size_t LONGEST_REFERENCE = 10;
 
 QByteArray referenceTo(char32_t letter)
 {
@@ -16,19 +19,14 @@ QByteArray referenceTo(char32_t letter)
 }
 
 RVTextEncoder::RVTextEncoder(const QByteArray &encoding)
-    : myHandle(encoding.isEmpty() ? nullptr : ::iconv_open(encoding.constData(), "UTF-8"))
+    : myIconv(encoding.isEmpty() ? nullptr : std::make_unique<RVIconv>(encoding, "UTF-8"))
 { }
 
-RVTextEncoder::~RVTextEncoder()
-{
-    // NOLINTNEXTLINE(performance-no-int-to-ptr): the error is defined like this
-    if (myHandle && myHandle != iconv_t(-1))
-        ::iconv_close(myHandle);
-}
+RVTextEncoder::~RVTextEncoder() = default;
 
 RVEncodedText RVTextEncoder::encode(const QString &text) const
 {
-    if (!myHandle)
+    if (!myIconv)
         return { { text.toUtf8(), text.toUtf8() } };
     RVEncodedText result;
     for (const char32_t letter : text.toUcs4()) {
@@ -46,20 +44,18 @@ RVEncodedText RVTextEncoder::encode(const QString &text) const
     return result;
 }
 
-/// False if the encoding does not have the letter. A null letter ends the text: the bytes switch back to the first
-/// alphabet.
-bool RVTextEncoder::append(QByteArray *bytes, QByteArrayView letter) const
+/// Appends a letter or a reference in UTF-8. False if the encoding does not have it, or has only another letter for it.
+/// A null @p utf8 ends the text: the bytes switch back to the first alphabet.
+bool RVTextEncoder::append(QByteArray *bytes, QByteArrayView utf8) const
 {
-    // NOLINTNEXTLINE(performance-no-int-to-ptr): the error is defined like this
-    if (myHandle == iconv_t(-1))
+    if (!myIconv->isKnown())
         return false;
-    std::array<char, std::size_t(RV_LONGEST_LETTER * RV_LONGEST_LETTER)> buffer {};
-    char *from = const_cast<char *>(letter.data()); // NOLINT(cppcoreguidelines-pro-type-const-cast): iconv reads
-    auto left = std::size_t(letter.size());
+    std::array<char, LONGEST_REFERENCE * RVIconv::LONGEST_LETTER> buffer {};
+    const char *from = utf8.data();
+    auto left = std::size_t(utf8.size());
     char *to = buffer.data();
     auto room = buffer.size();
-    // A result above 0 means letters that would be read back as others.
-    if (::iconv(myHandle, letter.isNull() ? nullptr : &from, &left, &to, &room) != 0)
+    if ((utf8.isNull() ? myIconv->end(&to, &room) : myIconv->convert(&from, &left, &to, &room)) != 0)
         return false;
     bytes->append(buffer.data(), to - buffer.data());
     return true;

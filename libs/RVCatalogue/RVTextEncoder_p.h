@@ -5,6 +5,10 @@
 
 #include <QString>
 
+#include <memory>
+
+class RVIconv;
+
 /// A text in the encoding of a file.
 struct RVEncodedText : RVTextPiece
 {
@@ -26,9 +30,9 @@ public:
     RVEncodedText encode(const QString &text) const;
 
 private:
-    bool append(QByteArray *bytes, QByteArrayView letter) const;
+    bool append(QByteArray *bytes, QByteArrayView utf8) const;
 
-    void *myHandle = nullptr; // null for UTF-8
+    std::unique_ptr<RVIconv> myIconv; // null for UTF-8
 };
 
 #endif

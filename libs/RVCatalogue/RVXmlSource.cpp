@@ -1,8 +1,8 @@
 #include "RVXmlSource_p.h"
 
-#include <QIODevice>
+#include "RVIconv_p.h"
 
-#include <iconv.h>
+#include <QIODevice>
 
 #include <algorithm>
 #include <cerrno>
@@ -103,30 +103,22 @@ bool isSameFamily(const QByteArray &found, const QByteArray &declared)
 
 class RVXmlSource::Converter
 {
-    Q_DISABLE_COPY_MOVE(Converter)
-
 public:
-    explicit Converter(const QByteArray &encoding) : myHandle(::iconv_open("UTF-8", encoding.constData())) { }
-    ~Converter()
-    {
-        if (isKnown())
-            ::iconv_close(myHandle);
-    }
+    explicit Converter(const QByteArray &encoding) : myIconv("UTF-8", encoding) { }
 
-    // NOLINTNEXTLINE(performance-no-int-to-ptr): the error is defined like this
-    bool isKnown() const { return myHandle != iconv_t(-1); }
+    bool isKnown() const { return myIconv.isKnown(); }
 
     /// Appends the converted bytes to @p text and leaves the others in @p bytes. False if the bytes are wrong.
     bool convert(QByteArray *bytes, QByteArray *text) const
     {
-        char *from = bytes->data();
+        const char *from = bytes->constData();
         auto left = std::size_t(bytes->size());
         bool isRight = true;
         while (left > 0 && isRight) {
             QByteArray piece(qsizetype(left) * 2 + 16, Qt::Uninitialized);
             char *to = piece.data();
             auto room = std::size_t(piece.size());
-            const bool isDone = ::iconv(myHandle, &from, &left, &to, &room) != std::size_t(-1);
+            const bool isDone = myIconv.convert(&from, &left, &to, &room) != std::size_t(-1);
             text->append(piece.constData(), piece.size() - qsizetype(room));
             if (!isDone && errno == EINVAL)
                 break;
@@ -137,10 +129,10 @@ public:
     }
 
     /// Resets the current alphabet, and a letter that waits for the next one.
-    void reset() const { ::iconv(myHandle, nullptr, nullptr, nullptr, nullptr); }
+    void reset() const { myIconv.reset(); }
 
 private:
-    iconv_t myHandle;
+    RVIconv myIconv;
 };
 
 RVXmlSource::RVXmlSource(QIODevice *device) : myDevice(device) { }
