@@ -34,12 +34,8 @@ constexpr LookAlike LOOK_ALIKES[] = {
 };
 // clang-format on
 
-constexpr char32_t LAST_OF_ASCII = 0x7E;
-
-bool isBlank(char32_t letter)
-{
-    return QChar::isSpace(letter);
-}
+/// The last letter of ASCII; the code point behind it is invisible.
+constexpr char32_t LAST_PLAIN = 0x7E;
 
 /// Some marks have no width although their category does not say so.
 bool isInvisible(char32_t letter)
@@ -47,7 +43,7 @@ bool isInvisible(char32_t letter)
     switch (QChar::category(letter)) {
     case QChar::Other_Control:
     case QChar::Other_Format:
-        return !isBlank(letter);
+        return !QChar::isSpace(letter);
     default:
         return letter == 0x034F || (letter >= 0xFE00 && letter <= 0xFE0F);
     }
@@ -66,7 +62,7 @@ QString plainOf(char32_t letter)
         return u"-"_s;
     const QString compatible = QString::fromUcs4(&letter, 1).normalized(QString::NormalizationForm_KC);
     const bool isAscii = std::all_of(compatible.begin(), compatible.end(),
-                                     [](QChar each) { return each.unicode() <= LAST_OF_ASCII; });
+                                     [](QChar each) { return each.unicode() <= LAST_PLAIN; });
     return isAscii ? compatible : QString();
 }
 
@@ -80,7 +76,7 @@ bool isOfOtherScript(char32_t letter)
 RVForeignLetters::RVForeignLetters(QStringView text)
 {
     for (const char32_t letter : text.toUcs4()) {
-        if (letter <= LAST_OF_ASCII)
+        if (letter <= LAST_PLAIN)
             myPlain += QChar(char16_t(letter));
         else
             append(letter);
@@ -90,7 +86,7 @@ RVForeignLetters::RVForeignLetters(QStringView text)
 void RVForeignLetters::append(char32_t letter)
 {
     const bool isUnseen = isInvisible(letter);
-    const QString plain = isBlank(letter) ? u" "_s : plainOf(letter);
+    const QString plain = QChar::isSpace(letter) ? u" "_s : plainOf(letter);
     if (!isUnseen)
         myPlain += plain.isNull() ? QString::fromUcs4(&letter, 1) : plain;
     if (!isEmpty() || (!isUnseen && plain.isNull() && !isOfOtherScript(letter)))
@@ -104,7 +100,7 @@ QString RVForeignLetters::text() const
     if (isEmpty())
         return QString();
     const QString name = "U+"_L1 + QString::number(uint(myFirst), 16).toUpper().rightJustified(4, u'0');
-    if (isBlank(myFirst))
+    if (QChar::isSpace(myFirst))
         return RVFindingText::tr("it has %1, which is no plain blank").arg(name);
     if (isInvisible(myFirst))
         return RVFindingText::tr("it has %1, which is invisible").arg(name);
