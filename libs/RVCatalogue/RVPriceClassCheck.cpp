@@ -15,7 +15,7 @@ namespace {
 
 RVPriceClassSet knownPriceClasses()
 {
-    RVPriceClassSet result = { RVPriceClassSet::framePassepartout().toString() };
+    RVPriceClassSet result = RVPriceClassSet::framePassepartout();
     for (const RVPriceClassSet &group : { RVPriceClassSet::frameGlasses(),
                                           RVPriceClassSet::spotColorAll(),
                                           RVPriceClassSet::bookGiftBoxes(),
@@ -53,7 +53,7 @@ const QList<QByteArray> &knownCodes()
     return theCodes;
 }
 
-/// False also for some codes in the list that have rare letters.
+/// @p codes are sorted. False also for some codes in the list that have rare letters.
 bool isQuicklyFoundIn(const QStringList &codes, QByteArrayView code)
 {
     const QAnyStringView wanted = QUtf8StringView(code);
@@ -114,13 +114,12 @@ void RVPriceClassCheck::check(const RVCatalogueElement &element, QLatin1StringVi
         return;
     const QString code = element.attribute(name);
     if (!RVPriceClass(code).isFree() && !ownCodes.contains(code))
-        addUnknown(element, name, ownCodes);
+        addUnknown(element, name, code, ownCodes);
 }
 
-void RVPriceClassCheck::addUnknown(const RVCatalogueElement &element, QLatin1StringView name,
+void RVPriceClassCheck::addUnknown(const RVCatalogueElement &element, QLatin1StringView name, const QString &code,
                                    const QStringList &ownCodes)
 {
-    const QString code = element.attribute(name);
     const RVForeignLetters letters(code);
     const QString plain = letters.plain().trimmed();
     const QStringList codes = knownTexts() + ownCodes;

@@ -16,7 +16,8 @@ public:
     void check(const RVCatalogueElement &element, QLatin1StringView name);
 
 private:
-    void addUnknown(const RVCatalogueElement &element, QLatin1StringView name, const QStringList &ownCodes);
+    void addUnknown(const RVCatalogueElement &element, QLatin1StringView name, const QString &code,
+                    const QStringList &ownCodes);
 
     RVFindingReport *myReport;
 };
