@@ -9,7 +9,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The number of page counts at which widths are compared.
+/// The highest number of page counts at which widths are compared, so that a product with millions of them takes no
+/// longer.
 constexpr qint64 MOST_COMPARED_COUNTS = 10000;
 
 /// Consecutive page counts with the same two widths.
