@@ -44,6 +44,7 @@ class tst_PaletteColors : public QObject
 private Q_SLOTS:
     void readable_data();
     void readable();
+    void faultPalette();
     void shades();
     void texts_data();
     void texts();
@@ -76,6 +77,18 @@ void tst_PaletteColors::readable()
     QVERIFY2(curve >= 3, text(curve));
     const qreal fault = contrast(colors.fault(), base);
     QVERIFY2(fault >= 4.5, text(fault));
+}
+
+void tst_PaletteColors::faultPalette()
+{
+    for (const QPalette &palette : { PaletteColors::light(), PaletteColors::dark() }) {
+        const PaletteColors colors(palette);
+        QPalette expected = palette;
+        expected.setColor(QPalette::WindowText, colors.fault());
+        QVERIFY(colors.faultPalette() == expected);
+        const qreal found = contrast(colors.fault(), palette.color(QPalette::Window));
+        QVERIFY2(found >= 4.5, QByteArray::number(found));
+    }
 }
 
 void tst_PaletteColors::shades()

@@ -59,6 +59,13 @@ QColor PaletteColors::fault() const
     return isDark() ? QColor(0xff, 0x8a, 0x80) : QColor(0xb0, 0x1c, 0x1c);
 }
 
+QPalette PaletteColors::faultPalette() const
+{
+    QPalette result = myPalette;
+    result.setColor(QPalette::WindowText, fault());
+    return result;
+}
+
 QColor PaletteColors::good() const
 {
     return isDark() ? QColor(0x81, 0xc7, 0x84) : QColor(0x1b, 0x6b, 0x20);

@@ -19,6 +19,8 @@ public:
 
     /// A red for what is wrong; readable on the background.
     QColor fault() const;
+    /// The palette of a label about what is wrong: its text is in the colour fault().
+    QPalette faultPalette() const;
     /// A green for what is right; readable on the background.
     QColor good() const;
     /// A ground for short texts in textOnSeverity(), on any background.

@@ -5,7 +5,6 @@
 
 #include <QFormLayout>
 #include <QLabel>
-#include <QPalette>
 
 namespace {
 
@@ -68,8 +67,5 @@ void AttributePanel::show(const ProductFacts::Fact &fact, QLabel *text) const
     const bool isFaulty = !fact.fault.isEmpty();
     text->setText(isFaulty ? fact.text + u'\n' + fact.fault : fact.text);
     text->setToolTip(plainToolTip(text->text()));
-    QPalette colors = palette();
-    if (isFaulty)
-        colors.setColor(QPalette::WindowText, PaletteColors(palette()).fault());
-    text->setPalette(colors);
+    text->setPalette(isFaulty ? PaletteColors(palette()).faultPalette() : palette());
 }

@@ -48,7 +48,6 @@ ProductView::ProductView(QWidget *parent)
 {
     setObjectName(u"productView"_s);
     setWidgetResizable(true);
-    setFrameShape(QFrame::NoFrame);
     prepareHeader();
     setWidget(createContent());
     myLabels.add(myOptions->form());
@@ -149,9 +148,7 @@ QWidget *ProductView::placeFault(const FaultPlace &place, const QString &text)
     else
         myFaultyPart = myNote;
     moveFault();
-    QPalette colors = palette();
-    colors.setColor(QPalette::WindowText, PaletteColors(palette()).fault());
-    myFault->setPalette(colors);
+    myFault->setPalette(PaletteColors(palette()).faultPalette());
     myFault->setText(text);
     myFault->show();
     return myFault;
@@ -253,9 +250,7 @@ void ProductView::showHeader(const LoadedCatalogue &catalogue, int product, cons
     myFaults->setText(ProductFaults(catalogue, product).text());
     myFaults->setToolTip(plainToolTip(myFaults->text()));
     myFaults->setHidden(myFaults->text().isEmpty());
-    QPalette colors = palette();
-    colors.setColor(QPalette::WindowText, PaletteColors(palette()).fault());
-    myFaults->setPalette(colors);
+    myFaults->setPalette(PaletteColors(palette()).faultPalette());
 }
 
 /// The reason why the product cannot be ordered; empty where there is none.
