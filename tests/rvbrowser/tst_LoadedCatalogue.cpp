@@ -116,6 +116,9 @@ void tst_LoadedCatalogue::productsAndFindings()
     QCOMPARE(catalogue->indexOf(u"A"_s), 0);
     QCOMPARE(catalogue->indexOf(u"B"_s), 1);
     QCOMPARE(catalogue->indexOf(u"C"_s), -1);
+    QVERIFY(catalogue->isSold(0));
+    QVERIFY(catalogue->isSold(1));
+    QVERIFY(!catalogue->isSold(2));
 
     QStringList found;
     for (const RVCatalogueFinding &finding : catalogue->findings())

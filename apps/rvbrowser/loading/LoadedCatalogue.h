@@ -87,6 +87,8 @@ public:
     /// The product whose start tag stands there, if it is of the type, else the first of the type; -1 where there is
     /// none.
     int indexOf(const RVProductType &type, const RVFilePosition &position) const;
+    /// True if no earlier product has the type of this one.
+    bool isSold(int index) const { return indexOf(at(index).type) == index; }
     /// The kinds of article that there are, in the order of the file.
     const QStringList &groups() const { return myGroups; }
     const QList<RVCatalogueFinding> &findings() const { return myFindings; }

@@ -77,7 +77,7 @@ void ChoiceKeeper::forgetChange()
 void ChoiceKeeper::setProduct(const LoadedCatalogue &catalogue, int product)
 {
     const RVProductType type = catalogue.at(product).type;
-    if (!type.isValid() || catalogue.indexOf(type) != product)
+    if (!type.isValid() || !catalogue.isSold(product))
         return;
     myFileName = catalogue.fileName();
     myType = type;

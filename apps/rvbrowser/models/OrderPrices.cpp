@@ -8,10 +8,9 @@ OrderPrices::OrderPrices(const LoadedCatalogue &catalogue, int product)
     : myProduct(catalogue.product(product)),
       myPageCounts(myProduct.pageCounts())
 {
-    const RVProductType type = myProduct.type();
-    if (!type.isValid())
+    if (!myProduct.type().isValid())
         myObstacle = tr("This product cannot be ordered: it has no type.");
-    else if (catalogue.indexOf(type) != product)
+    else if (!catalogue.isSold(product))
         myObstacle = tr("This product cannot be ordered: an earlier one has the same type.");
     else if (!myPageCounts.isValid())
         myObstacle = tr("This product cannot be ordered: its page counts are not valid.");

@@ -61,11 +61,10 @@ ProductView::ProductView(QWidget *parent)
 
 void ProductView::setProduct(const CataloguePointer &catalogue, int product)
 {
-    const RVProductType type = catalogue->at(product).type;
-    const bool isSold = catalogue->indexOf(type) == product;
     showHeader(*catalogue, product, note(*catalogue, product));
     showProduct(*catalogue, product,
-                isSold ? CatalogueServices::pageCounts(type) : catalogue->product(product).pageCounts());
+                catalogue->isSold(product) ? CatalogueServices::pageCounts(catalogue->at(product).type)
+                                           : catalogue->product(product).pageCounts());
 }
 
 void ProductView::setSingleProduct(const CataloguePointer &catalogue, int product, const QString &note)
@@ -256,10 +255,9 @@ void ProductView::showHeader(const LoadedCatalogue &catalogue, int product, cons
 /// The reason why the product cannot be ordered; empty where there is none.
 QString ProductView::note(const LoadedCatalogue &catalogue, int product)
 {
-    const RVProductType &type = catalogue.at(product).type;
-    if (catalogue.indexOf(type) != product)
+    if (!catalogue.isSold(product))
         return tr("An earlier product has the same type, so this one is never offered.");
-    if (!CatalogueServices::isOffered(type))
+    if (!CatalogueServices::isOffered(catalogue.at(product).type))
         return tr("This product cannot be offered: it needs a type, an article id and valid page counts.");
     return QString();
 }
