@@ -171,7 +171,7 @@ void ComparisonActions::showComparison()
     say(QString());
 }
 
-// Gives the dock the height of its contents, unless it was shown before: its height may then be a choice of the user.
+// The dock gets a useful height once; later its height is the choice of the user.
 void ComparisonActions::fitDock()
 {
     const int height = myDock->sizeHint().height();

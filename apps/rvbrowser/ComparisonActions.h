@@ -26,9 +26,9 @@ public:
     void saveAs(const QString &fileName);
 
 Q_SIGNALS:
-    /// By its number in the open catalogue.
+    /// A product of the open catalogue was chosen, by its number there.
     void productChosen(int product);
-    /// One that the open catalogue does not have; the note says so.
+    /// A product that the open catalogue does not have was chosen; the note says so.
     void singleProductChosen(const CataloguePointer &catalogue, int product, const QString &note);
     /// A message in place of the one before; empty where that is out of date.
     void messageChanged(const QString &text, const QString &before);

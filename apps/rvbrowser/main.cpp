@@ -26,7 +26,7 @@ QStringList arguments(int argc, char *argv[])
 
 int runWindow(const BrowserOptions &options)
 {
-    // A picture is the same for everybody.
+    // A picture does not depend on the settings of a user.
     MainWindow window(options.isScreenshot() ? QString() : Settings::usualFileName());
     if (options.size())
         window.resize(*options.size());

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Paper is white and ink is black in every palette.
+// Paper is white and ink is black with every palette.
 constexpr QColor PAPER(0xff, 0xff, 0xff);
 constexpr QColor BLEED(0xf6, 0xd5, 0xd5);
 constexpr QColor CUT(0xb0, 0x60, 0x60);

@@ -14,7 +14,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// An editor that ends later with an error was on the screen before, so there is no message.
+/// An editor that ends later with an error has been seen, so no message is needed.
 constexpr auto AT_ONCE = 5s;
 constexpr qsizetype LONGEST_MESSAGE = 500;
 

@@ -7,7 +7,7 @@
 
 #include <memory>
 
-/// Shows what fixes would change in a file, and makes the change when the user confirms it.
+/// Shows what fixes would change in a file, and makes the change if the user wants it.
 class FixDialog : public QDialog
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ Q_SIGNALS:
 
 private:
     QString heading() const;
-    /// The diff, or its beginning if it is too long to be read; heading() says so then.
+    /// The diff, cut off behind a line if it is too long to be read.
     QString shownDiff() const;
 
     std::unique_ptr<FixPlan> myPlan;

@@ -53,7 +53,7 @@ void CatalogueSession::fail(const LoadError &error)
     myCopy = nullptr;
     Q_EMIT ended();
     Q_EMIT failed(error);
-    // If no other catalogue is open, the user is probably mending this file.
+    // While nothing else is open, the user is likely to mend this file.
     if (!catalogue())
         myWatcher.watch(myFileName, myStamp);
     catchUp();

@@ -20,9 +20,9 @@ public:
     void reload();
     void cancel() { myLoader.cancel(); }
     bool isLoading() const { return myLoader.isLoading(); }
-    /// Null until one was loaded.
+    /// The open catalogue; null until one was loaded.
     CataloguePointer catalogue() const { return myServices.catalogue(); }
-    /// The open file as it was when it was opened, even if it has changed since; null until one was loaded.
+    /// A copy of the open file as it was when it was opened; null until one was loaded.
     std::shared_ptr<const FileCopy> original() const { return myOriginal; }
 
 Q_SIGNALS:

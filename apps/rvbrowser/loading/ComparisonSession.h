@@ -4,8 +4,8 @@
 #include "CatalogueSession.h"
 #include "ComparisonLoader.h"
 
-/// The open catalogue is compared with this: with another file, or with itself as it was when it was opened. Both are
-/// compared again whenever one of them changes. While that fails or is cancelled, the comparison before it stays.
+/// Compares the open catalogue with another file, or with itself as it was when it was opened. Both are compared again
+/// whenever one of them changes. If that fails or is cancelled, the comparison before it stays.
 class ComparisonSession : public QObject
 {
     Q_OBJECT
@@ -14,7 +14,7 @@ public:
     /// @p session outlives this.
     explicit ComparisonSession(CatalogueSession *session, QObject *parent = nullptr);
 
-    /// Compares the file, as the old one, with the open catalogue; once a catalogue is loaded, where none is open.
+    /// Compares the file, as the old one, with the open catalogue. If none is open, this waits until one is loaded.
     void compareWith(const QString &fileName);
     void compareWithOriginal();
     /// The open catalogue becomes the old one, or the new one again.
@@ -25,8 +25,8 @@ public:
     bool isComparing() const { return myLoader.isLoading(); }
     /// True from when a comparison is asked for until it is closed.
     bool isActive() const { return myKind != Kind::None; }
-    ComparisonPointer comparison() const { return myComparison; } ///< Null until one was made.
-    /// The number of a product of the comparison in the open catalogue; -1 where only the other one has it.
+    ComparisonPointer comparison() const { return myComparison; } ///< The comparison; null until one was made.
+    /// The number of a product of the comparison in the open catalogue; -1 if only the other one has it.
     int indexInOpen(int product) const;
 
 Q_SIGNALS:
@@ -37,7 +37,7 @@ Q_SIGNALS:
     void progressed(int percent);
     /// Comparing is over, with or without success; comes before changed() and failed().
     void ended();
-    /// There is another comparison; none after it was closed.
+    /// There is another comparison, or none after it was closed.
     void changed();
     void failed(const LoadError &error);
     /// The other file is gone; it is compared again when it comes back.

@@ -37,7 +37,7 @@ void ComparisonThread::compare(ObservedFile *before, ObservedFile *after)
         myComparison = comparison;
 }
 
-// False when the thread is to end.
+// False if the thread is to end.
 bool ComparisonThread::add(RVCatalogueComparison *differences, LoadedComparison *comparison)
 {
     const qint64 all = qMax(qint64(1), differences->remaining());

@@ -12,7 +12,7 @@ class ComparisonThread : public ReadThread
 public:
     ComparisonThread(const ComparedFiles &files, QObject *parent) : ReadThread(parent), myFiles(files) { }
 
-    /// Once the thread has finished: null where one of the files could not be read, or all was given up.
+    /// The differences; null if a file could not be read or reading was given up. Known once the thread has finished.
     ComparisonPointer comparison() const { return myComparison; }
 
 protected:

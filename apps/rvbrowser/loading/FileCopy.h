@@ -15,13 +15,13 @@ public:
     /// Nothing is written before the first bytes come. @p source is the file that they come from.
     explicit FileCopy(const QString &source);
 
-    /// Once it cannot be written, nothing more is, and the copy is gone.
+    /// Writes more bytes. If that fails, the copy is removed, and later bytes are dropped.
     void append(const char *bytes, qint64 size);
-    /// All is written that is to be written.
+    /// Ends writing: other programs now find all bytes in the copy.
     void finish();
 
     QString source() const { return mySource; }
-    QDateTime begun() const { return myBegun; } ///< The time at which the copy was begun.
+    QDateTime begun() const { return myBegun; } ///< The time when the copy was begun.
     /// The name of the copy, which other programs see from then on; empty where there is none. Only for one thread.
     QString fileName() const { return myError.isEmpty() ? myFile.fileName() : QString(); }
     /// The reason why there is no copy; empty where nothing went wrong.

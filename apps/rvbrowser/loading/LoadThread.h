@@ -18,7 +18,7 @@ public:
           myCopy(copy)
     { }
 
-    /// Once the thread has finished: null where the file could not be read, or was given up.
+    /// The catalogue; null if it could not be read or reading was given up. Known once the thread has finished.
     CataloguePointer catalogue() const { return myCatalogue; }
 
 protected:

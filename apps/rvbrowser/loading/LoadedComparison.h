@@ -39,7 +39,7 @@ public:
     { }
 
     void append(const RVProductComparison &product);
-    /// Once all products were added.
+    /// Ends the comparison after all its products were added.
     void finish(const RVComparisonCounts &counts);
 
     const ComparedFiles &files() const { return myFiles; }

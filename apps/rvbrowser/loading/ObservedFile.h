@@ -7,13 +7,14 @@
 
 class FileCopy;
 
-/// A file that tells with every read how far it was read. If the answer is false, the file ends for its reader.
+/// A file that reports with every read how far it was read, and that has no more bytes once the answer is false.
 class ObservedFile : public QFile
 {
 public:
+    /// @p progressed gets from 0 to 100 percent, on the thread that reads.
     ObservedFile(const QString &fileName, const std::function<bool(int percent)> &progressed);
 
-    /// Gets all that is read from now on; it outlives the file. Null for none.
+    /// @p copy gets all that is read from now on, and outlives the file. Null ends that.
     void setCopy(FileCopy *copy) { myCopy = copy; }
 
 protected:

@@ -6,7 +6,7 @@
 
 namespace {
 
-/// More of it takes noticeably longer, and less of it saves no time.
+/// The level of compression. A higher one takes noticeably longer, and a lower one saves no time.
 constexpr int EFFORT = 3;
 
 }

@@ -6,7 +6,7 @@
 #include <QByteArray>
 #include <QList>
 
-/// Some products in as little memory as they can be read again from. Elements of a catalogue resemble one another, so
+/// Some products, packed into little memory. Elements of a catalogue resemble one another, so
 /// together they need far less than one by one.
 class ProductPack
 {
@@ -15,8 +15,8 @@ public:
     explicit ProductPack(const QList<RVCatalogueProduct> &products);
 
     int size() const { return int(myEnds.size()); }
-    /// Read again in every call: its elements as they were, but without its number, its place in the file, its families
-    /// and its findings.
+    /// A product, which every call reads again. It has its elements, but not its number, its place in the file, its
+    /// families and its findings.
     RVCatalogueProduct product(int index) const;
     /// The memory that the products need.
     qsizetype byteCount() const { return myElements.size() + myEnds.size() * qsizetype(sizeof(int)); }

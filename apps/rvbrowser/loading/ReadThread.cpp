@@ -6,7 +6,7 @@
 
 bool ReadThread::open(ObservedFile *file, const QString &shownName)
 {
-    // A pipe would wait for a program that writes into it, and can be read only once.
+    // A pipe would wait for the program that writes into it, and can be read only once.
     const QFileInfo info(file->fileName());
     const bool isReadable = !info.exists() || info.isFile();
     if (isReadable && file->open(QIODevice::ReadOnly))

@@ -5,6 +5,8 @@
 
 #include <QThread>
 
+#include <optional>
+
 class ObservedFile;
 
 /// Reads files. Ask for an interruption to give it up.
@@ -15,17 +17,17 @@ class ReadThread : public QThread
 public:
     using QThread::QThread;
 
-    /// Once the thread has finished: none where all was read, or given up.
+    /// The reason why a file could not be read; none if all was read or given up. Known once the thread has finished.
     std::optional<LoadError> error() const { return myError; }
 
 Q_SIGNALS:
-    /// From 0 to 100.
+    /// The progress has changed; @p percent is from 0 to 100.
     void progressed(int percent);
 
 protected:
-    /// False, with an error that calls it by @p shownName, where it cannot be opened.
+    /// Opens a file for reading. False if it cannot be opened; the error names it @p shownName.
     bool open(ObservedFile *file, const QString &shownName);
-    /// False when the thread is to end.
+    /// Reports the progress, from 0 to 100. False if the thread is to end.
     bool report(int percent);
     void fail(const LoadError &error) { myError = error; }
 

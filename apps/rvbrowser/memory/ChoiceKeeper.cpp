@@ -8,7 +8,8 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// Long enough to go through a list by holding a key.
+/// The time after which a choice is kept. It is longer than a key that is held needs from one line of a list to the
+/// next.
 constexpr auto WAIT = 1s;
 
 }

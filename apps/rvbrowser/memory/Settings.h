@@ -19,6 +19,7 @@ public:
     /// "rvbrowser/rvbrowser.ini" in the user's configuration folder.
     static QString usualFileName();
 
+    /// False without a file name.
     bool isRemembering() const { return mySettings != nullptr; }
     QVariant value(const QString &key) const;
     void setValue(const QString &key, const QVariant &value);
@@ -34,7 +35,7 @@ public:
     void forgetEverything();
 
 private:
-    std::unique_ptr<QSettings> mySettings; // null where nothing is remembered
+    std::unique_ptr<QSettings> mySettings; // null if nothing is remembered
 };
 
 #endif

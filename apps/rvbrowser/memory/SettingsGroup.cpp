@@ -80,7 +80,7 @@ QStringList SettingsGroup::idsByAge() const
     return result;
 }
 
-// A time in the future is damaged, or of a clock that was wrong; such a thing goes first.
+// A time in the future is damaged, or comes from a clock that was wrong; such a thing is dropped first.
 qint64 SettingsGroup::used(const QString &id) const
 {
     const qint64 result = mySettings->value(path(id) + u'/' + USED).toLongLong();

@@ -13,10 +13,10 @@ class Settings;
 class SettingsGroup
 {
 public:
-    /// The settings must live longer.
+    /// @p settings outlives the group, whose keys begin with @p name. @p limit is the number of things that are kept.
     SettingsGroup(Settings *settings, const QString &name, int limit);
 
-    /// The values of the thing; empty where it is not remembered.
+    /// The values of the thing; empty if it is not remembered.
     QVariantMap values(const QStringList &thing) const;
     /// Makes the thing the newest one. A value that is not mentioned stays as it was.
     void setValues(const QStringList &thing, const QVariantMap &values);
@@ -27,9 +27,9 @@ public:
 private:
     QString path(const QString &id) const { return myName + u'/' + id; }
     QVariantMap valuesOf(const QString &id) const;
-    /// The newest first.
+    /// The identifiers of all things, the newest first.
     QStringList idsByAge() const;
-    /// In milliseconds since 1970.
+    /// The time when the thing was last set, in milliseconds since 1970; 0 if that is not known.
     qint64 used(const QString &id) const;
     void dropTheOldest();
 

@@ -18,7 +18,7 @@ public:
 
     ComparisonModel::Kind kind() const;
     QString search() const;
-    /// All kinds and no search; the line to search gets the focus.
+    /// Shows all kinds without a search; the line to search gets the focus.
     void clear();
 
 Q_SIGNALS:

@@ -13,7 +13,7 @@ public:
 
     /// Asks for no more room than this many characters of usual width need. There is no limit without it.
     void setMostCharacters(int characters) { myMostCharacters = characters; }
-    /// Asks for the room of this text instead of the text of the label, so that several labels are of one width.
+    /// Asks for the room that @p text needs instead of that of its own text, so that several labels have one width.
     void setUsualText(const QString &text) { myUsualText = text; }
 
     QSize sizeHint() const override;

@@ -28,8 +28,8 @@ public:
 
     explicit FindingsPanel(QWidget *parent = nullptr);
 
-    /// The chosen finding stays chosen if it is the same file again; if the finding is mended, the next step leads to
-    /// the one that came after it. The filter and the order stay.
+    /// Shows the findings of a catalogue. If it is the same file again, the chosen finding stays chosen; if that one is
+    /// mended, the next step leads to the finding after it. The filter and the order stay.
     void setCatalogue(const CataloguePointer &catalogue);
     const CataloguePointer &catalogue() const { return myModel.catalogue(); }
     /// "2 errors, 1 warning, 0 notes"
@@ -58,7 +58,7 @@ Q_SIGNALS:
     void productChosen(int product);
     /// Comes behind productChosen().
     void findingChosen(int finding);
-    /// The user wants to edit the place of the chosen finding.
+    /// The place of the chosen finding is to be edited.
     void editRequested();
     /// Another finding is chosen, or several are.
     void selectionChanged();

@@ -3,7 +3,7 @@
 
 #include <QScrollArea>
 
-/// Has a content that is as wide as there is room, and as high as its broken lines need at that width.
+/// A scroll area whose content is as wide as there is room, and as high as its broken lines need at that width.
 class FittingScrollArea : public QScrollArea
 {
     Q_OBJECT
@@ -11,8 +11,8 @@ class FittingScrollArea : public QScrollArea
 public:
     explicit FittingScrollArea(QWidget *parent = nullptr);
 
-    /// Lets the area be as high as its content where there is room, and scroll where there is not. It is never less
-    /// high than the content or this many pixels, and never scrolls sideways.
+    /// Makes the area as high as its content if there is room, and lets it scroll otherwise. It is never less high than
+    /// its content or than @p height, in pixels, and never scrolls sideways.
     void setLeastHeight(int height);
 
     QSize sizeHint() const override;
@@ -26,7 +26,7 @@ private:
     QSize contentSize() const; // at the width that there is
     void fit();
 
-    int myLeastHeight = 0; // 0 where the height does not follow the content
+    int myLeastHeight = 0; // 0 if the height does not follow the content
 };
 
 #endif

@@ -5,7 +5,7 @@
 
 class QLabel;
 
-/// A message above what it is about, which stays until the user closes it or it is out of date.
+/// A message above what it is about, which stays until it is closed or out of date.
 class MessageBanner : public QFrame
 {
     Q_OBJECT

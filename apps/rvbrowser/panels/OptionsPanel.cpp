@@ -59,7 +59,7 @@ QLabel *createLabel(QString name, QComboBox *values)
     return label;
 }
 
-// All lists have one width, with a long note beside them as with a short one.
+// Each note asks for the same room, so that all lists are of one width.
 QLabel *createNote()
 {
     auto *note = new ElidedLabel(QString());

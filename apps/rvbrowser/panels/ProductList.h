@@ -23,7 +23,8 @@ public:
     void setCatalogue(const CataloguePointer &catalogue);
     /// Chooses a product by its number; what hides it is cleared.
     void setCurrentProduct(int product);
-    /// The same product of a catalogue that was loaded again: neither is anybody told, nor is what hides it cleared.
+    /// Chooses the same product of a catalogue that was loaded again, without productChosen(). The filters stay, even
+    /// if they hide it.
     void keepCurrentProduct(int product);
     /// The number of the chosen product; -1 for none.
     int currentProduct() const { return myProduct; }

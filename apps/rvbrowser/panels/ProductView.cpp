@@ -252,7 +252,7 @@ void ProductView::showHeader(const LoadedCatalogue &catalogue, int product, cons
     myFaults->setPalette(PaletteColors(palette()).faultPalette());
 }
 
-/// The reason why the product cannot be ordered; empty where there is none.
+/// The reason why the product cannot be ordered; empty if there is none.
 QString ProductView::note(const LoadedCatalogue &catalogue, int product)
 {
     if (!catalogue.isSold(product))

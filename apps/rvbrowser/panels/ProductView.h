@@ -18,7 +18,7 @@ class QVBoxLayout;
 class SpinePanel;
 struct FaultPlace;
 
-/// All there is to see of one product: in two columns where they have room, in one where they have not.
+/// Shows one product: in two columns if they have room, else in one.
 class ProductView : public FittingScrollArea
 {
     Q_OBJECT
@@ -26,16 +26,17 @@ class ProductView : public FittingScrollArea
 public:
     explicit ProductView(QWidget *parent = nullptr);
 
-    /// With the lowest page count and the default options.
+    /// Shows a product with the lowest page count and the default options.
     void setProduct(const CataloguePointer &catalogue, int product);
-    /// The same, but the page count and the options stay as they were chosen, as far as the product still has them.
+    /// Shows a product that was loaded again: the chosen page count and options stay, as far as it still has them.
     void updateProduct(const CataloguePointer &catalogue, int product);
     ProductChoice choice() const;
-    /// Leaves as it is what the product does not offer.
+    /// Sets the page count and the options; those that the product does not offer stay as they are.
     void setChoice(const ProductChoice &choice);
-    /// Scrolls to where the product breaks a rule, and shows it in red there.
+    /// Scrolls to the place where the product breaks a rule, and shows the finding in red there.
     void showFinding(const LoadedCatalogue &catalogue, const RVCatalogueFinding &finding);
-    /// Of another catalogue than the one that is open, so no application is asked about it. The note says so.
+    /// Shows a product of another catalogue than the open one, so its page counts come from the product itself. @p note
+    /// says so.
     void setSingleProduct(const CataloguePointer &catalogue, int product, const QString &note);
     void copy(OrderLinesPanel::Line line) const { myOrderLines->copy(line); }
     void copyPrices() const;
@@ -43,7 +44,7 @@ public:
     QList<QMenu *> drawingMenus() const;
 
 Q_SIGNALS:
-    /// The page count or an option is another one, also because the product is.
+    /// The page count or an option has changed, or the product has.
     void choiceChanged();
 
 protected:
@@ -60,16 +61,16 @@ private:
     static QString note(const LoadedCatalogue &catalogue, int product);
     void showOrderLines();
     void showPrices();
-    /// Options first, then what stands below and beside them.
+    /// Puts the options first, then all that stands below and beside them.
     void arrangeTabOrder();
-    /// Two columns where both have room, else one below the other.
+    /// Arranges two columns if both have room, else one below the other.
     void arrangeColumns();
 
     QLabel *myTitle;
     QLabel *myNote;
     QLabel *myFaults;
-    QWidget *myFaultyPart = nullptr; // which myFault stands above
-    QLabel *myFault; // where the finding that was chosen is not one of the attributes
+    QLabel *myFault; // a chosen finding that is not about an attribute
+    QWidget *myFaultyPart = nullptr; // the part below myFault
     QVBoxLayout *myContent; // of all that follows
     QBoxLayout *myColumns;
     QVBoxLayout *myTexts;
