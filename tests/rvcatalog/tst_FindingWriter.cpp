@@ -125,7 +125,8 @@ private Q_SLOTS:
     void junitIsValid();
 
 private:
-    bool fitsSarif(const QByteArray &document) const;
+    /// The reasons why a document does not fit the schema; empty if it fits.
+    QString sarifErrors(const QByteArray &document) const;
 
     QTemporaryDir myFolder;
 };
@@ -379,7 +380,7 @@ void tst_FindingWriter::interrupted()
 
 namespace {
 
-/// Runs with all possible parts of a document, each with the changes that make it.
+/// Runs that together have all possible parts of a document.
 void addRuns()
 {
     QTest::addColumn<QString>("fileName");
@@ -414,17 +415,20 @@ QByteArray documentOfRow(const QString &format)
 
 }
 
-bool tst_FindingWriter::fitsSarif(const QByteArray &document) const
+QString tst_FindingWriter::sarifErrors(const QByteArray &document) const
 {
     QFile file(myFolder.filePath(u"a.sarif"_s));
     if (!file.open(QIODevice::WriteOnly) || file.write(document) != document.size())
-        return false;
+        return file.errorString();
     file.close();
     QProcess process;
     process.start(
             QStringLiteral(PYTHON),
             { u"-W"_s, u"ignore"_s, u"-m"_s, u"jsonschema"_s, u"-i"_s, file.fileName(), QStringLiteral(SARIF_SCHEMA) });
-    return process.waitForFinished(60000) && process.exitCode() == 0;
+    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
+        return u"the validator did not end"_s;
+    const QString text = QString::fromUtf8(process.readAllStandardError());
+    return process.exitCode() == 0 ? QString() : u"not valid: "_s + text;
 }
 
 void tst_FindingWriter::sarifIsValid_data()
@@ -434,31 +438,37 @@ void tst_FindingWriter::sarifIsValid_data()
 
 void tst_FindingWriter::sarifIsValid()
 {
-    QVERIFY(fitsSarif(documentOfRow(u"sarif"_s)));
+    QCOMPARE(sarifErrors(documentOfRow(u"sarif"_s)), QString());
 }
 
 void tst_FindingWriter::sarifSchemaRefuses_data()
 {
     QTest::addColumn<QByteArray>("from");
     QTest::addColumn<QByteArray>("to");
+    QTest::addColumn<QString>("reason");
 
-    QTest::newRow("column 0") << QByteArray("\"startColumn\":5") << QByteArray("\"startColumn\":0");
-    QTest::newRow("line as a text") << QByteArray("\"startLine\":2") << QByteArray("\"startLine\":\"2\"");
-    QTest::newRow("unknown key") << QByteArray("\"endColumn\":9") << QByteArray("\"lastColumn\":9");
-    QTest::newRow("unknown level") << QByteArray("\"level\":\"error\"") << QByteArray("\"level\":\"fatal\"");
-    QTest::newRow("message without text") << QByteArray("{\"text\":\"the first one\"}") << QByteArray("{}");
-    QTest::newRow("fix without a region") << QByteArray("\"deletedRegion\":") << QByteArray("\"region\":");
-    QTest::newRow("blank in a URI") << QByteArray("b%20c.xml") << QByteArray("b c.xml");
-    QTest::newRow("another version") << QByteArray("\"version\":\"2.1.0\"") << QByteArray("\"version\":\"2.0.0\"");
+    const auto row = [](const char *name, const char *from, const char *to, const QString &reason) {
+        QTest::newRow(name) << QByteArray(from) << QByteArray(to) << reason;
+    };
+    row("column 0", R"("startColumn":5)", R"("startColumn":0)", u"0 is less than the minimum of 1"_s);
+    row("line as a text", R"("startLine":2)", R"("startLine":"2")", u"'2' is not of type 'integer'"_s);
+    row("unknown key", R"("endColumn":9)", R"("lastColumn":9)", u"('lastColumn' was unexpected)"_s);
+    row("unknown level", R"("level":"error")", R"("level":"fatal")", u"'fatal' is not one of"_s);
+    row("message without text", R"({"text":"the first one"})", "{}", u"'text' is a required property"_s);
+    row("fix without a region", R"("deletedRegion":)", R"("region":)", u"'deletedRegion' is a required property"_s);
+    row("blank in a URI", "b%20c.xml", "b c.xml", u"'b c.xml' does not match"_s);
+    row("another version", R"("version":"2.1.0")", R"("version":"2.0.0")", u"'2.0.0' is not one of"_s);
 }
 
 void tst_FindingWriter::sarifSchemaRefuses()
 {
     QFETCH(QByteArray, from);
     QFETCH(QByteArray, to);
+    QFETCH(QString, reason);
     QByteArray document = Report(u"sarif"_s).of(u"a.xml"_s, { wholeFinding() });
     QVERIFY(document.contains(from));
-    QVERIFY(!fitsSarif(document.replace(from, to)));
+    const QString errors = sarifErrors(document.replace(from, to));
+    QVERIFY2(errors.contains(reason), qPrintable(errors));
 }
 
 void tst_FindingWriter::junitIsValid_data()
