@@ -16,7 +16,7 @@ CommandRun run(const QStringList &arguments, const QByteArray &input = QByteArra
 
 }
 
-class tst_Arguments : public QObject
+class tst_arguments : public QObject
 {
     Q_OBJECT
 
@@ -35,7 +35,7 @@ private:
     QTemporaryDir myFolder;
 };
 
-void tst_Arguments::initTestCase()
+void tst_arguments::initTestCase()
 {
     QVERIFY(QDir::setCurrent(myFolder.path()));
     QFile catalogue(u"c.xml"_s);
@@ -47,7 +47,7 @@ void tst_Arguments::initTestCase()
     project.write("<project/>");
 }
 
-void tst_Arguments::messages_data()
+void tst_arguments::messages_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("firstLine");
@@ -90,7 +90,7 @@ void tst_Arguments::messages_data()
                                                     << u"rvcatalog: only one file can be the standard input"_s;
 }
 
-void tst_Arguments::messages()
+void tst_arguments::messages()
 {
     QFETCH(QStringList, arguments);
     const CommandRun result = run(arguments, "<p/>");
@@ -99,7 +99,7 @@ void tst_Arguments::messages()
     QCOMPARE(result.exitCode, 2);
 }
 
-void tst_Arguments::shortForm_data()
+void tst_arguments::shortForm_data()
 {
     QTest::addColumn<QStringList>("arguments");
 
@@ -111,7 +111,7 @@ void tst_Arguments::shortForm_data()
     QTest::newRow("check") << QStringList { u"check"_s, u"c.xml"_s };
 }
 
-void tst_Arguments::shortForm()
+void tst_arguments::shortForm()
 {
     QFETCH(QStringList, arguments);
     const CommandRun inFull = run(arguments + QStringList { u"--format"_s, u"json"_s });
@@ -123,7 +123,7 @@ void tst_Arguments::shortForm()
     QCOMPARE(run(arguments + QStringList { u"--format=text"_s }).output, run(arguments).output);
 }
 
-void tst_Arguments::formatCountsMore()
+void tst_arguments::formatCountsMore()
 {
     const CommandRun text = run({ u"decode"_s, u"orientation"_s, u"square"_s });
     QCOMPARE(run({ u"decode"_s, u"--json"_s, u"--format=text"_s, u"orientation"_s, u"square"_s }).output, text.output);
@@ -133,7 +133,7 @@ void tst_Arguments::formatCountsMore()
              u"rvcatalog: \"--json\" is no keyword of orientation; it stands for the default value\n"_s);
 }
 
-void tst_Arguments::helpOfACommand()
+void tst_arguments::helpOfACommand()
 {
     const CommandRun help = run({ u"help"_s, u"spine"_s });
     QCOMPARE(help.output, run({ u"spine"_s, u"--help"_s }).output);
@@ -142,7 +142,7 @@ void tst_Arguments::helpOfACommand()
     QCOMPARE(run({ u"help"_s }).output, run({ u"--help"_s }).output);
 }
 
-void tst_Arguments::everyCommand_data()
+void tst_arguments::everyCommand_data()
 {
     QTest::addColumn<QString>("command");
 
@@ -151,7 +151,7 @@ void tst_Arguments::everyCommand_data()
 }
 
 // Completion, suggestions and the short form of JSON read the help.
-void tst_Arguments::everyCommand()
+void tst_arguments::everyCommand()
 {
     QFETCH(QString, command);
     const QString text = run({ command, u"--help"_s }).output;
@@ -169,5 +169,5 @@ void tst_Arguments::everyCommand()
              qPrintable(commandSummary(command)));
 }
 
-QTEST_MAIN(tst_Arguments)
-#include "tst_Arguments.moc"
+QTEST_MAIN(tst_arguments)
+#include "tst_arguments.moc"

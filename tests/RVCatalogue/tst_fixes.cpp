@@ -9,7 +9,7 @@
 using namespace Qt::StringLiterals;
 
 /// Fixes of findings: they mend what has one safe answer and nothing else.
-class tst_RVFindingFix : public QObject
+class tst_fixes : public QObject
 {
     Q_OBJECT
 
@@ -81,7 +81,7 @@ QByteArray priceOf(const QByteArray &code)
 
 }
 
-void tst_RVFindingFix::oneSafeAnswer_data()
+void tst_fixes::oneSafeAnswer_data()
 {
     QTest::addColumn<QByteArray>("file");
     QTest::addColumn<QByteArray>("clean");
@@ -139,7 +139,7 @@ void tst_RVFindingFix::oneSafeAnswer_data()
         productWith("name='a\nb'\ncover_type = \"hardcover\"\npages='26'"));
 }
 
-void tst_RVFindingFix::oneSafeAnswer()
+void tst_fixes::oneSafeAnswer()
 {
     QFETCH(QByteArray, file);
     QFETCH(QByteArray, clean);
@@ -149,7 +149,7 @@ void tst_RVFindingFix::oneSafeAnswer()
     QCOMPARE(textsOf(findingsOf(clean)), QStringList());
 }
 
-void tst_RVFindingFix::noSafeAnswer_data()
+void tst_fixes::noSafeAnswer_data()
 {
     QTest::addColumn<QByteArray>("file");
     QTest::addColumn<QString>("rule");
@@ -204,7 +204,7 @@ void tst_RVFindingFix::noSafeAnswer_data()
         "keyword-legacy");
 }
 
-void tst_RVFindingFix::noSafeAnswer()
+void tst_fixes::noSafeAnswer()
 {
     QFETCH(QByteArray, file);
     QFETCH(QString, rule);
@@ -215,7 +215,7 @@ void tst_RVFindingFix::noSafeAnswer()
 }
 
 // All fixes are made at once, because each changes its own piece.
-void tst_RVFindingFix::severalInOneList()
+void tst_fixes::severalInOneList()
 {
     const QByteArray file = with("cover_type", "hardcovr,  soft,Leder;Leinen, leather;agenda ,Leder");
     const QList<RVCatalogueFinding> findings = findingsOf(file);
@@ -223,7 +223,7 @@ void tst_RVFindingFix::severalInOneList()
     QCOMPARE(mended(file, findings), with("cover_type", "hardcover,  softcover,Leder;Leinen, leather,agenda ,LEATHER"));
 }
 
-void tst_RVFindingFix::someOfOneList()
+void tst_fixes::someOfOneList()
 {
     const QByteArray file = with("cover_type", "hard,soft,tacked");
     QList<RVCatalogueFinding> findings = findingsOf(file);
@@ -236,7 +236,7 @@ void tst_RVFindingFix::someOfOneList()
                      u"note keyword-legacy: \"soft\" is an alias in cover_type; the main keyword is \"softcover\""_s });
 }
 
-void tst_RVFindingFix::onlyItsOwnPiece()
+void tst_fixes::onlyItsOwnPiece()
 {
     const QByteArray file = with("cover_type", " leather, hard ");
     const QList<RVCatalogueFinding> findings = findingsOf(file);
@@ -247,7 +247,7 @@ void tst_RVFindingFix::onlyItsOwnPiece()
     QCOMPARE(findings.first().fix().first().text, u"hardcover"_s);
 }
 
-void tst_RVFindingFix::typingMistakes_data()
+void tst_fixes::typingMistakes_data()
 {
     QTest::addColumn<QString>("attribute");
 
@@ -256,7 +256,7 @@ void tst_RVFindingFix::typingMistakes_data()
 }
 
 // A mistyped keyword of three letters or more is mended exactly if it can be no other one.
-void tst_RVFindingFix::typingMistakes()
+void tst_fixes::typingMistakes()
 {
     QFETCH(QString, attribute);
     const QList<RVCatalogueAttributeValue> values = RVCatalogueAttribute::find(attribute).values();
@@ -283,7 +283,7 @@ void tst_RVFindingFix::typingMistakes()
     QVERIFY(count > 0);
 }
 
-void tst_RVFindingFix::ownPriceClass()
+void tst_fixes::ownPriceClass()
 {
     RVCatalogueCheck check;
     check.addPriceClasses({ u"FOIL"_s, u"lez2"_s });
@@ -296,7 +296,7 @@ void tst_RVFindingFix::ownPriceClass()
 }
 
 // A full-width ampersand looks like the one that begins a reference in XML.
-void tst_RVFindingFix::escaped()
+void tst_fixes::escaped()
 {
     RVCatalogueCheck check;
     check.addPriceClasses({ u"R&D"_s });
@@ -306,5 +306,5 @@ void tst_RVFindingFix::escaped()
     QCOMPARE(findingsOf(changed, check).size(), 0);
 }
 
-QTEST_GUILESS_MAIN(tst_RVFindingFix)
-#include "tst_RVFindingFix.moc"
+QTEST_GUILESS_MAIN(tst_fixes)
+#include "tst_fixes.moc"

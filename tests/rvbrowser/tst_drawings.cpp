@@ -39,7 +39,7 @@ const QStringList &drawingNames()
 }
 
 /// The drawings of the window: choosing by them, and what leaves it.
-class tst_Drawings : public QObject
+class tst_drawings : public QObject
 {
     Q_OBJECT
 
@@ -78,7 +78,7 @@ private:
     std::unique_ptr<MainWindow> myWindow;
 };
 
-void tst_Drawings::initTestCase()
+void tst_drawings::initTestCase()
 {
     myWindow = std::make_unique<MainWindow>();
     myWindow->show();
@@ -92,24 +92,24 @@ void tst_Drawings::initTestCase()
     QTest::qWait(100); // widgets that have new texts ask for new places one after the other
 }
 
-void tst_Drawings::cleanupTestCase()
+void tst_drawings::cleanupTestCase()
 {
     myWindow.reset();
 }
 
-void tst_Drawings::init()
+void tst_drawings::init()
 {
     QVERIFY(show(u"DUN9"_s));
     counts()->setCurrentIndex(15);
     QTRY_VERIFY(drawing(u"spineCurve"_s)->isVisible());
 }
 
-bool tst_Drawings::show(const QString &type)
+bool tst_drawings::show(const QString &type)
 {
     return myWindow->showType(RVProductType(type));
 }
 
-void tst_Drawings::keys_data()
+void tst_drawings::keys_data()
 {
     QTest::addColumn<int>("key");
     QTest::addColumn<int>("row");
@@ -124,7 +124,7 @@ void tst_Drawings::keys_data()
     QTest::newRow("end") << int(Qt::Key_End) << 32;
 }
 
-void tst_Drawings::keys()
+void tst_drawings::keys()
 {
     QFETCH(int, key);
     QTest::keyClick(drawing(u"spineCurve"_s), Qt::Key(key));
@@ -134,14 +134,14 @@ void tst_Drawings::keys()
     QVERIFY(counts()->currentIndex() == 0 || counts()->currentIndex() == 32);
 }
 
-void tst_Drawings::otherKeys()
+void tst_drawings::otherKeys()
 {
     QTest::keyClick(drawing(u"spineCurve"_s), Qt::Key_Right, Qt::AltModifier);
     QTest::keyClick(drawing(u"spineCurve"_s), Qt::Key_A);
     QCOMPARE(counts()->currentIndex(), 15);
 }
 
-void tst_Drawings::click()
+void tst_drawings::click()
 {
     QWidget *curve = drawing(u"spineCurve"_s);
     QTest::mouseClick(curve, Qt::LeftButton, {}, QPoint(curve->width() - 20, curve->height() / 2));
@@ -152,7 +152,7 @@ void tst_Drawings::click()
     QCOMPARE(counts()->currentIndex(), 0);
 }
 
-void tst_Drawings::crossHairFollowsTheMouse()
+void tst_drawings::crossHairFollowsTheMouse()
 {
     QWidget *curve = drawing(u"spineCurve"_s);
     counts()->setFocus();
@@ -166,7 +166,7 @@ void tst_Drawings::crossHairFollowsTheMouse()
     QCOMPARE(curve->grab().toImage(), before);
 }
 
-void tst_Drawings::focusIsSeen()
+void tst_drawings::focusIsSeen()
 {
     QWidget *curve = drawing(u"spineCurve"_s);
     QVERIFY(curve->focusPolicy() & Qt::TabFocus);
@@ -182,7 +182,7 @@ void tst_Drawings::focusIsSeen()
     QVERIFY2(different > with.width() / 2, qPrintable(QString::number(different))); // the frame
 }
 
-void tst_Drawings::slider()
+void tst_drawings::slider()
 {
     QAccessibleInterface *curve = QAccessible::queryAccessibleInterface(drawing(u"spineCurve"_s));
     QVERIFY(curve);
@@ -201,7 +201,7 @@ void tst_Drawings::slider()
     QCOMPARE(counts()->currentIndex(), 32);
 }
 
-void tst_Drawings::toolTipOfABarcode()
+void tst_drawings::toolTipOfABarcode()
 {
     QWidget *page = drawing(u"pageDrawing"_s);
     QString text;
@@ -218,14 +218,14 @@ void tst_Drawings::toolTipOfABarcode()
     QTRY_VERIFY(!QToolTip::isVisible());
 }
 
-void tst_Drawings::pageIsDescribed()
+void tst_drawings::pageIsDescribed()
 {
     QCOMPARE(drawing(u"pageDrawing"_s)->accessibleDescription(),
              u"trim 204.1 × 306.2 mm, assumed; bleed 3.0 mm, assumed; barcode 38.0 × 10.0 mm at 12.0, 280.5"_s);
 }
 
 // They can be chosen from as long as there is a drawing.
-void tst_Drawings::menus()
+void tst_drawings::menus()
 {
     for (const QString &name : drawingNames())
         QVERIFY2(drawing(name)->menu()->menuAction()->isEnabled(), qPrintable(name));
@@ -240,7 +240,7 @@ void tst_Drawings::menus()
     QCOMPARE(titles, (QStringList { u"&Copy"_s, u"&Save as…"_s, u"&Print…"_s, u"Print pre&view…"_s }));
 }
 
-void tst_Drawings::contextMenuAndButton()
+void tst_drawings::contextMenuAndButton()
 {
     for (const QString &name : drawingNames()) {
         DrawingWidget *widget = drawing(name);
@@ -257,14 +257,14 @@ void tst_Drawings::contextMenuAndButton()
     }
 }
 
-void tst_Drawings::copies_data()
+void tst_drawings::copies_data()
 {
     QTest::addColumn<QString>("name");
     for (const QString &name : drawingNames())
         QTest::addRow("%s", qPrintable(name)) << name;
 }
 
-void tst_Drawings::copies()
+void tst_drawings::copies()
 {
     QFETCH(QString, name);
     QApplication::clipboard()->clear();
@@ -276,7 +276,7 @@ void tst_Drawings::copies()
     QVERIFY(data->data(u"application/pdf"_s).startsWith("%PDF-"));
 }
 
-void tst_Drawings::saves_data()
+void tst_drawings::saves_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QByteArray>("size"); // of the SVG drawing
@@ -286,7 +286,7 @@ void tst_Drawings::saves_data()
     QTest::newRow("page") << u"pageDrawing"_s << QByteArray("width=\"231mm\" height=\"356mm\"");
 }
 
-void tst_Drawings::saves()
+void tst_drawings::saves()
 {
     QFETCH(QString, name);
     QFETCH(QByteArray, size);
@@ -300,7 +300,7 @@ void tst_Drawings::saves()
     QCOMPARE(content.contains("scale 1 : 1"), hasScale);
 }
 
-void tst_Drawings::saveFailure()
+void tst_drawings::saveFailure()
 {
     drawing(u"spineCurve"_s)->menu()->save(myFolder.filePath(u"nowhere/a.svg"_s));
     auto *box = myWindow->findChild<QMessageBox *>(u"saveFailure"_s);
@@ -312,7 +312,7 @@ void tst_Drawings::saveFailure()
     QTRY_VERIFY(!watched);
 }
 
-void tst_Drawings::print_data()
+void tst_drawings::print_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("paper");
@@ -324,7 +324,7 @@ void tst_Drawings::print_data()
 }
 
 // To a PDF printer, whose page has the scale among its texts, and one page only.
-void tst_Drawings::print()
+void tst_drawings::print()
 {
     QFETCH(QString, name);
     QFETCH(int, paper);
@@ -346,7 +346,7 @@ void tst_Drawings::print()
     QVERIFY(content.endsWith("%%EOF\n"));
 }
 
-void tst_Drawings::preview()
+void tst_drawings::preview()
 {
     drawing(u"pageDrawing"_s)->menu()->actions().constLast()->trigger();
     QPointer<QPrintPreviewDialog> dialog(myWindow->findChild<QPrintPreviewDialog *>(u"printPreview"_s));
@@ -358,7 +358,7 @@ void tst_Drawings::preview()
 }
 
 // A spine of 20 mm is 200 dots wide where there are 10 dots a millimetre.
-void tst_Drawings::spineSheet()
+void tst_drawings::spineSheet()
 {
     SpinePicture picture;
     picture.setSpine({ 34, 2, 1, 20, 48 }, 0.5);
@@ -383,8 +383,8 @@ int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
     QLocale::setDefault(QLocale(QLocale::English));
-    tst_Drawings test;
+    tst_drawings test;
     return QTest::qExec(&test, argc, argv);
 }
 
-#include "tst_Drawings.moc"
+#include "tst_drawings.moc"
