@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// True if the rule can have findings: it is not disabled, and the program can check it.
-bool isJudged(const RVCatalogueCheck &check, RVCatalogueRule rule)
+bool canHaveFindings(const RVCatalogueCheck &check, RVCatalogueRule rule)
 {
     const bool needsFonts = RVCatalogueRuleRow::of(rule)->id == RVCatalogueRuleId::SpineFontTooSmall;
     const bool hasFonts = qobject_cast<QGuiApplication *>(QCoreApplication::instance()) != nullptr;
@@ -25,7 +25,7 @@ QStringList unusedRules(const RVSuppression &comment, const RVCatalogueRuleSet &
     QStringList result;
     const RVCatalogueRuleSet unused = comment.hasElement ? comment.rules & ~broken : comment.rules;
     for (const RVCatalogueRuleRow &row : RV_CATALOGUE_RULES) {
-        if (unused.test(std::size_t(row.id)) && isJudged(check, RVCatalogueRuleRow::rule(row.id)))
+        if (unused.test(std::size_t(row.id)) && canHaveFindings(check, RVCatalogueRuleRow::rule(row.id)))
             result += row.name;
     }
     return result;
