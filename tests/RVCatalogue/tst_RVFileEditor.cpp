@@ -1,5 +1,6 @@
 #include "CatalogueBuffer.h"
 #include "EncodedText.h"
+#include "WrittenFile.h"
 
 #include <RVFileEditor.h>
 
@@ -180,8 +181,7 @@ private:
 QString tst_RVFileEditor::write(const QString &name, const QByteArray &content) const
 {
     const QString path = myFolder->filePath(name);
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+    if (!writeFile(path, content))
         qFatal("cannot write");
     return path;
 }

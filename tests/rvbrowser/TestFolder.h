@@ -1,6 +1,8 @@
 #ifndef TESTFOLDER_H
 #define TESTFOLDER_H
 
+#include "WrittenFile.h"
+
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -12,11 +14,7 @@ class TestFolder
 public:
     QString path(const QString &name) const { return myFolder.filePath(name); }
     /// Writes into the file itself, as simple programs do. False where that fails.
-    bool write(const QString &name, const QByteArray &content) const
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
-    }
+    bool write(const QString &name, const QByteArray &content) const { return writeFile(path(name), content); }
     /// Puts a new file in the place of the old one, as most editors do. False where that fails.
     bool replace(const QString &name, const QByteArray &content) const
     {

@@ -1,4 +1,5 @@
 #include "ManyProducts.h"
+#include "WrittenFile.h"
 
 #include <CatalogueLoader.h>
 
@@ -56,8 +57,7 @@ private Q_SLOTS:
 QString tst_CatalogueLoader::write(const QByteArray &content)
 {
     const QString fileName = myFolder->filePath(QString::number(++myFiles) + u".xml"_s);
-    QFile file(fileName);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? fileName : QString();
+    return writeFile(fileName, content) ? fileName : QString();
 }
 
 void tst_CatalogueLoader::init()

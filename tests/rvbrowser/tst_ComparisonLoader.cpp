@@ -1,5 +1,6 @@
 #include "ComparedCatalogues.h"
 #include "ManyProducts.h"
+#include "WrittenFile.h"
 
 #include <ComparisonLoader.h>
 
@@ -61,8 +62,7 @@ private Q_SLOTS:
 QString tst_ComparisonLoader::write(const QByteArray &content)
 {
     const QString fileName = myFolder->filePath(QString::number(++myFiles) + u".xml"_s);
-    QFile file(fileName);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? fileName : QString();
+    return writeFile(fileName, content) ? fileName : QString();
 }
 
 LoadError tst_ComparisonLoader::errorOf(const QString &before, const QString &after)

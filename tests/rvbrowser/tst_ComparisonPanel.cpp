@@ -1,5 +1,6 @@
 #include "ComparedCatalogues.h"
 #include "ManyProducts.h"
+#include "WrittenFile.h"
 
 #include <ComparisonActions.h>
 #include <Language.h>
@@ -95,9 +96,7 @@ private:
 
 void tst_ComparisonPanel::write(const QString &name, const QByteArray &content)
 {
-    QFile file(path(name));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
+    QVERIFY(writeFile(path(name), content));
 }
 
 void tst_ComparisonPanel::open(const QByteArray &content)

@@ -1,4 +1,5 @@
 #include "FaultyProducts.h"
+#include "WrittenFile.h"
 
 #include <CatalogueLoader.h>
 #include <FixPlan.h>
@@ -47,9 +48,7 @@ void tst_FixPlan::init()
 
 void tst_FixPlan::write(const QByteArray &content)
 {
-    QFile file(path());
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
+    QVERIFY(writeFile(path(), content));
 }
 
 QByteArray tst_FixPlan::content() const

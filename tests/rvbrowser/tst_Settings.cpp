@@ -1,8 +1,9 @@
+#include "WrittenFile.h"
+
 #include <Settings.h>
 #include <SettingsGroup.h>
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
@@ -56,9 +57,7 @@ private:
 void tst_Settings::write(const QByteArray &content) const
 {
     QVERIFY(QDir().mkpath(QFileInfo(path()).path()));
-    QFile file(path());
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
+    QVERIFY(writeFile(path(), content));
 }
 
 void tst_Settings::usualFile()

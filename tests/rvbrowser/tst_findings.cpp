@@ -1,5 +1,6 @@
 #include "FaultyProducts.h"
 #include "ManyProducts.h"
+#include "WrittenFile.h"
 
 #include <EditorChoice.h>
 #include <FixDialog.h>
@@ -132,9 +133,7 @@ void tst_findings::activate()
 
 void tst_findings::write(const QString &name, const QByteArray &content)
 {
-    QFile file(path(name));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
+    QVERIFY(writeFile(path(name), content));
 }
 
 QByteArray tst_findings::content(const QString &name) const

@@ -1,4 +1,5 @@
 #include "ManyProducts.h"
+#include "WrittenFile.h"
 
 #include <FindingsPanel.h>
 #include <Language.h>
@@ -137,9 +138,7 @@ private:
 
 void tst_rvbrowser::write(const QString &name, const QByteArray &content)
 {
-    QFile file(path(name));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
+    QVERIFY(writeFile(path(name), content));
 }
 
 void tst_rvbrowser::load(const QByteArray &content)

@@ -1,3 +1,5 @@
+#include "WrittenFile.h"
+
 #include <FindingsDock.h>
 #include <Language.h>
 #include <MainWindow.h>
@@ -95,9 +97,7 @@ void tst_window_memory::init()
 
 void tst_window_memory::write(const QString &name, const QByteArray &content) const
 {
-    QFile file(path(name));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
+    QVERIFY(writeFile(path(name), content));
 }
 
 void tst_window_memory::startAgain()

@@ -1,8 +1,9 @@
 #ifndef DIFFPROGRAM_H
 #define DIFFPROGRAM_H
 
+#include "WrittenFile.h"
+
 #include <QByteArray>
-#include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QString>
@@ -35,12 +36,6 @@ inline ProgramRun runProgram(const QString &folder, const QString &program, cons
         return ProgramRun();
     return { process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
              QString::fromUtf8(process.readAllStandardError()) };
-}
-
-inline bool writeFile(const QString &name, const QByteArray &content)
-{
-    QFile file(name);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
 }
 
 /// Two catalogues that differ in every way.

@@ -1,4 +1,5 @@
 #include "CommandRun.h"
+#include "WrittenFile.h"
 
 #include <Baseline.h>
 
@@ -88,9 +89,7 @@ void tst_Baseline::cleanup()
 void tst_Baseline::write(const QString &name, const QByteArray &content)
 {
     QVERIFY(QDir().mkpath(QFileInfo(name).path()));
-    QFile file(name);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
+    QVERIFY(writeFile(name, content));
 }
 
 QByteArray tst_Baseline::read(const QString &name)

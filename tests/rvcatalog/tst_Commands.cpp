@@ -1,4 +1,5 @@
 #include "CommandRun.h"
+#include "WrittenFile.h"
 
 #include <QDir>
 #include <QJsonArray>
@@ -60,9 +61,7 @@ private:
 
 void tst_Commands::write(const QString &name, const QByteArray &content)
 {
-    QFile file(myFolder.filePath(name));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
+    QVERIFY(writeFile(myFolder.filePath(name), content));
 }
 
 void tst_Commands::init()

@@ -1,3 +1,5 @@
+#include "WrittenFile.h"
+
 #include <SourceLines.h>
 
 #include <QStringEncoder>
@@ -29,8 +31,8 @@ private:
 
 QString tst_SourceLines::write(const QByteArray &content)
 {
-    QFile file(myFolder.filePath(u"a.xml"_s));
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? file.fileName() : QString();
+    const QString name = myFolder.filePath(u"a.xml"_s);
+    return writeFile(name, content) ? name : QString();
 }
 
 void tst_SourceLines::lines_data()

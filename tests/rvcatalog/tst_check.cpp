@@ -1,4 +1,5 @@
 #include "RVCatalogue/SampleProduct.h"
+#include "WrittenFile.h"
 
 #include <RVCatalogueRule.h>
 
@@ -116,9 +117,7 @@ private:
 
 void tst_check::write(const QString &name, const QByteArray &content)
 {
-    QFile file(myFolder.filePath(name));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
+    QVERIFY(writeFile(myFolder.filePath(name), content));
 }
 
 Run tst_check::check(const QStringList &arguments, const QByteArray &input)

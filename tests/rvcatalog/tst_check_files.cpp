@@ -1,3 +1,5 @@
+#include "WrittenFile.h"
+
 // Several files that are checked together, with comments that silence rules.
 #include <Commands.h>
 
@@ -92,9 +94,7 @@ private:
 
 void tst_check_files::write(const QString &name, const QByteArray &content)
 {
-    QFile file(myFolder.filePath(name));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
+    QVERIFY(writeFile(myFolder.filePath(name), content));
 }
 
 void tst_check_files::init()

@@ -1,3 +1,4 @@
+#include "WrittenFile.h"
 #include "rvcatalog/Terminal.h"
 
 #include <QProcess>
@@ -52,9 +53,7 @@ private:
 
 void tst_check_terminal::write(const QString &name, const QByteArray &content)
 {
-    QFile file(myFolder.filePath(name));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
+    QVERIFY(writeFile(myFolder.filePath(name), content));
 }
 
 void tst_check_terminal::init()

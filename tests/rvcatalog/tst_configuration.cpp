@@ -1,7 +1,7 @@
 #include "CommandRun.h"
+#include "WrittenFile.h"
 
 #include <QDir>
-#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
@@ -80,9 +80,7 @@ void tst_configuration::cleanup()
 void tst_configuration::write(const QString &name, const QByteArray &content)
 {
     QVERIFY(QDir().mkpath(QFileInfo(name).path()));
-    QFile file(name);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
+    QVERIFY(writeFile(name, content));
 }
 
 void tst_configuration::rules_data()

@@ -2,6 +2,7 @@
 #include "RVCatalogue/EncodedText.h"
 #include "RVCatalogue/RandomCatalogue.h"
 #include "RVCatalogue/SampleProduct.h"
+#include "WrittenFile.h"
 
 #include <RVCatalogueReader.h>
 
@@ -186,10 +187,10 @@ private:
 
 QString tst_fix::write(const QString &name, const QByteArray &content) const
 {
-    QFile file(myFolder->filePath(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+    const QString path = myFolder->filePath(name);
+    if (!writeFile(path, content))
         qFatal("cannot write");
-    return file.fileName();
+    return path;
 }
 
 QByteArray tst_fix::read(const QString &name) const

@@ -1,5 +1,6 @@
 #include "BrokenCatalogue.h"
 #include "RVCatalogue/EncodedText.h"
+#include "WrittenFile.h"
 
 #include <QFile>
 #include <QProcess>
@@ -36,9 +37,7 @@ void tst_fix_patches::init()
 
 void tst_fix_patches::write(const QString &name, const QByteArray &content) const
 {
-    QFile file(myFolder->filePath(name));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
+    QVERIFY(writeFile(myFolder->filePath(name), content));
 }
 
 QByteArray tst_fix_patches::read(const QString &name) const

@@ -1,3 +1,5 @@
+#include "WrittenFile.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -96,9 +98,7 @@ private:
 
 void tst_rvcatalog::write(const QString &name, const QByteArray &content)
 {
-    QFile file(myFolder.filePath(name));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
+    QVERIFY(writeFile(myFolder.filePath(name), content));
 }
 
 void tst_rvcatalog::init()

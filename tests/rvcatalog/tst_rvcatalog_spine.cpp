@@ -1,3 +1,5 @@
+#include "WrittenFile.h"
+
 #include <QDomDocument>
 #include <QFile>
 #include <QImage>
@@ -66,9 +68,7 @@ private:
 
 void tst_rvcatalog_spine::write(const QString &name, const QByteArray &content)
 {
-    QFile file(myFolder.filePath(name));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
+    QVERIFY(writeFile(myFolder.filePath(name), content));
 }
 
 void tst_rvcatalog_spine::run(const QStringList &arguments, const QStringList &variables)
