@@ -1,9 +1,9 @@
 #include "ComparedCatalogues.h"
+#include "EnglishTest.h"
 #include "ManyProducts.h"
 #include "WrittenFile.h"
 
 #include <ComparisonActions.h>
-#include <Language.h>
 #include <MainWindow.h>
 #include <MessageBanner.h>
 
@@ -590,14 +590,9 @@ void tst_ComparisonPanel::screenshot()
     QCOMPARE(QImage(path(u"o.png"_s)).isNull(), exitCode != 0);
 }
 
-// The texts of the program are English on every machine.
 int main(int argc, char *argv[])
 {
-    QApplication application(argc, argv);
-    Language language;
-    language.speak(QLocale(QLocale::English));
-    tst_ComparisonPanel test;
-    return QTest::qExec(&test, argc, argv);
+    return runInEnglish<tst_ComparisonPanel>(argc, argv);
 }
 
 #include "tst_ComparisonPanel.moc"

@@ -1,6 +1,6 @@
+#include "EnglishTest.h"
 #include "rvcatalog/CommandRun.h"
 
-#include <Language.h>
 #include <MainWindow.h>
 #include <OrderLine.h>
 #include <PageCountChooser.h>
@@ -250,14 +250,9 @@ void tst_PricesPanel::billsWhatTheTerminalBills()
     QVERIFY2(bills > 100, qPrintable(QString::number(bills)));
 }
 
-// The texts of the program are English on every machine.
 int main(int argc, char *argv[])
 {
-    QApplication application(argc, argv);
-    Language language;
-    language.speak(QLocale(QLocale::English));
-    tst_PricesPanel test;
-    return QTest::qExec(&test, argc, argv);
+    return runInEnglish<tst_PricesPanel>(argc, argv);
 }
 
 #include "tst_PricesPanel.moc"

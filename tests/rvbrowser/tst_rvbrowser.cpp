@@ -1,3 +1,4 @@
+#include "EnglishTest.h"
 #include "ManyProducts.h"
 #include "WrittenFile.h"
 
@@ -955,14 +956,9 @@ void tst_rvbrowser::help()
     QVERIFY(process.readAllStandardOutput().startsWith("rvbrowser 0."));
 }
 
-// The texts of the program are English on every machine.
 int main(int argc, char *argv[])
 {
-    QApplication application(argc, argv);
-    Language language;
-    language.speak(QLocale(QLocale::English));
-    tst_rvbrowser test;
-    return QTest::qExec(&test, argc, argv);
+    return runInEnglish<tst_rvbrowser>(argc, argv);
 }
 
 #include "tst_rvbrowser.moc"

@@ -1,3 +1,4 @@
+#include "EnglishTest.h"
 #include "WrittenFile.h"
 
 #include <FindingsDock.h>
@@ -411,11 +412,7 @@ void tst_window_memory::fitsTheScreen()
 
 int main(int argc, char *argv[])
 {
-    QApplication application(argc, argv);
-    Language language;
-    language.speak(QLocale(QLocale::English));
-    tst_window_memory test;
-    return QTest::qExec(&test, argc, argv);
+    return runInEnglish<tst_window_memory>(argc, argv);
 }
 
 #include "tst_window_memory.moc"
