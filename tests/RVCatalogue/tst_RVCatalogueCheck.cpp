@@ -751,7 +751,7 @@ void tst_RVCatalogueCheck::options_data()
                    u"2 warning option-default-missing: no option of \"b\" is preselected, so the first is taken; preselect one"_s,
                    u"3 warning option-default-missing: no option of \"a\" is preselected, so the first is taken; preselect one"_s
                };
-    QTest::newRow("preselected is no boolean")
+    QTest::newRow("unknown what is preselected")
             << QByteArray("<form key='a' value='1' preselected='maybe'/>\n"
                           "<form key='b' value='1' preselected='1'/>\n")
             << QStringList {

@@ -130,7 +130,7 @@ private Q_SLOTS:
     void withoutAReader();
     void passedOver();
     void brokenFile();
-    void fontRuleWithoutFonts();
+    void withoutFonts();
     void manyGroups();
     void randomNesting();
 };
@@ -514,7 +514,7 @@ void tst_RVSuppression::brokenFile()
 }
 
 // This program has no fonts, so the rule about them finds nothing.
-void tst_RVSuppression::fontRuleWithoutFonts()
+void tst_RVSuppression::withoutFonts()
 {
     QCOMPARE(brief(findingsIn("<p>" + ignoring("spine-font-too-small") + "<product type='A' article_id='1'/></p>")),
              QStringList());

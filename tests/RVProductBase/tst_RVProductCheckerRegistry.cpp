@@ -176,7 +176,7 @@ void tst_RVProductCheckerRegistry::asksTheResponsible_data()
     QTest::newRow("stops at the first refusal") << 2u << false << QStringList { u"first:DUN9"_s, u"second:DUN9"_s };
     QTest::newRow("highest bit") << 0x80000000u << false << QStringList { u"third:DUN9"_s };
     QTest::newRow("several kinds") << 0x80000001u << false << QStringList { u"first:DUN9"_s, u"third:DUN9"_s };
-    QTest::newRow("kind without a checker") << 4u << true << QStringList();
+    QTest::newRow("no checker responsible") << 4u << true << QStringList();
     QTest::newRow("no kind") << 0u << true << QStringList();
 }
 

@@ -191,7 +191,7 @@ void tst_layout::sizes_data()
     row<RVNearestText>("RVNearestText", 56, 8);
     row<RVXMLBuilder>("RVXMLBuilder", 1, 1);
     row<RVXMLParser>("RVXMLParser", 1, 1);
-    // An attribute of any class is its table of virtual functions and a number.
+    // An attribute is its table of virtual functions and a number in every class.
     std::apply(
             [](const auto &...rows) {
                 (row<typename std::decay_t<decltype(rows)>::Class>(rows.name.data(), 16, 8), ...);

@@ -113,7 +113,7 @@ public:
     }
 };
 
-/// Gives the type "N" the counts 1 to N and calls no service.
+/// Gives the type "N" the counts 1 to N without asking another service.
 class IndependentCalculator : public RVPageOrganizationCalculator
 {
 public:
@@ -354,7 +354,7 @@ void tst_concurrency::pageOrganizations()
         asking = THREADS - 2;
         QVERIFY(allGet(work, COUNTS));
     }
-    // A calculator that is replaced is deleted only when no other thread calls it any more.
+    // A calculator that is replaced while others ask is not deleted before they have their answers.
     const auto replace = [&] {
         const bool replaces = number++ % THREADS == 0;
         int right = 0;
@@ -404,7 +404,7 @@ void tst_concurrency::productCheckers()
     registry->unregisterChecker(&checker);
 }
 
-// Box styles are neither cached nor locked: each thread gets the checkers' own answer.
+// Box styles are neither cached nor locked: each thread gets the answer of the checkers themselves.
 void tst_concurrency::boxStyles()
 {
     RVProductCheckerRegistry *registry = RVProductCheckerRegistry::instance();

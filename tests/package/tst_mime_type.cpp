@@ -1,5 +1,5 @@
-// The type of a file, as file managers tell it: a file with products is a catalogue under any name; no other XML file
-// is taken for one.
+// The type of a file, as file managers tell it: that of a catalogue where it has products, under every name; no other
+// XML file is taken for one.
 
 #include <QBuffer>
 #include <QFile>

@@ -226,7 +226,7 @@ void tst_DrawingExport::failures()
     QVERIFY(!QFileInfo(u"/dev/full"_s).isFile()); // it was written to, and not replaced
 }
 
-// Neither root nor anybody else makes a file in /proc; the reason depends on who tries.
+// No user can make a file in /proc, not even root; the reason depends on the user.
 void tst_DrawingExport::readOnlyFolder()
 {
     const QString failure = DrawingExport(Bar(5)).write(u"/proc/a.pdf"_s);

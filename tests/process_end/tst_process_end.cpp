@@ -35,7 +35,7 @@
 using namespace Qt::StringLiterals;
 
 // Destructors of static objects run when main() has returned, and may still ask the library for all that it hands out.
-// The program asks from one, after main() has asked the same. With the argument "late", main() has not asked before.
+// The program asks from one, after main() has asked the same. With the argument "late" main() does not ask.
 
 namespace {
 

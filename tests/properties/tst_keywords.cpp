@@ -1,4 +1,4 @@
-// The quick look-ups of keyword tables give what the rules of the tables say, letter by letter and for any text.
+// The quick look-ups of keyword tables give what the rules of the tables say, letter by letter and for every text.
 #include "RandomText.h"
 
 #include <RVCatalogue/RVCatalogueAttributes.h>

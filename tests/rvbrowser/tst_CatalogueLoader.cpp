@@ -160,7 +160,7 @@ void tst_CatalogueLoader::failsWithoutAFile()
     QCOMPARE(error.text, u"cannot open the file: No such file or directory"_s);
 }
 
-// The pipe has no writer, so opening it would never end.
+// No program writes into it, so opening it would never end.
 void tst_CatalogueLoader::failsWithAPipe()
 {
     const QString pipe = myFolder->filePath(u"pipe"_s);

@@ -196,7 +196,7 @@ void tst_CatalogueSession::vanishesAndComesBack()
     QVERIFY(myChanged->wait(TIMEOUT));
 }
 
-// A file that could not be loaded first is watched until it is mended.
+// Before anything was loaded; the file is watched until it is mended.
 void tst_CatalogueSession::mendsTheFirstFile()
 {
     mySession->open(path(u"c.xml"_s));

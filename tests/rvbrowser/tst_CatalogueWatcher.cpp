@@ -197,7 +197,7 @@ void tst_CatalogueWatcher::watchesAnother()
     QVERIFY(myChanged->wait(TIMEOUT));
 }
 
-// The pipe has no writer, so the watcher must not wait for one.
+// No program writes into it, so nothing may wait for that.
 void tst_CatalogueWatcher::pipe()
 {
     QVERIFY(myFolder->remove(u"c.xml"_s));

@@ -113,7 +113,7 @@ void tst_ComparisonLoader::compares()
     }
 }
 
-// The copy stays as long as the comparison needs it, even if its other owners let go of it.
+// The copy stays as long as it is needed, even if all others let go of it.
 void tst_ComparisonLoader::comparesACopy()
 {
     auto copy = std::make_shared<FileCopy>(u"c.xml"_s);
@@ -185,7 +185,7 @@ void tst_ComparisonLoader::failsWithoutAFile()
     QCOMPARE(error.text, u"cannot open the file: No such file or directory"_s);
 }
 
-// The pipe has no writer, so opening it would never end.
+// No program writes into it, so opening it would never end.
 void tst_ComparisonLoader::failsWithAPipe()
 {
     const QString pipe = myFolder->filePath(u"pipe"_s);

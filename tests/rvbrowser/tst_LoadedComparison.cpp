@@ -65,7 +65,7 @@ void tst_LoadedComparison::searches()
     QVERIFY(found.isEmpty() || found == products);
 }
 
-// The products that only one of the catalogues has can be read again, whichever it is.
+// The products that only the old or only the new catalogue has can be read again.
 void tst_LoadedComparison::singles()
 {
     const ComparisonPointer comparison = compared(OLD_CATALOGUE, NEW_CATALOGUE);
@@ -76,7 +76,7 @@ void tst_LoadedComparison::singles()
     QCOMPARE(comparison->indexInSingles(3), -1);
 }
 
-// They are packed together, and every one is found.
+// Many such products are packed together, and every one is found.
 void tst_LoadedComparison::manySingles()
 {
     constexpr int count = 100;

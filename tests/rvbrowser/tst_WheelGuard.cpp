@@ -77,7 +77,7 @@ void tst_WheelGuard::needsTheFocus()
     QFETCH(bool, isList);
     QWidget *control = isList ? static_cast<QWidget *>(myList) : myNumber;
     const auto value = [&] { return isList ? 2 - myList->currentIndex() : myNumber->value(); };
-    QVERIFY(!turn(control)); // so that the area around it scrolls
+    QVERIFY(!turn(control)); // so that it goes on to the area that scrolls
     QCOMPARE(value(), 1);
     QVERIFY(!control->hasFocus());
     QCOMPARE(control->focusPolicy(), Qt::StrongFocus);

@@ -15,7 +15,7 @@
 
 using namespace Qt::StringLiterals;
 
-/// Random keys and clicks in all parts of the window, the same in every run.
+/// Uses the window without knowing it: touches all of it at random, but in every run in the same order.
 class tst_monkey : public QObject
 {
     Q_OBJECT
@@ -169,7 +169,7 @@ void tst_monkey::playsWithTheWindow()
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
-    // A double click on a place would open an editor, which an empty PATH prevents.
+    // A double click on a place opens an editor, which is not wanted here.
     qputenv("PATH", "");
     Language language;
     language.speak(QLocale(QLocale::English));

@@ -199,7 +199,7 @@ void tst_rvbrowser::loads()
     QVERIFY(myWindow->windowTitle().startsWith("c.xml"_L1));
 }
 
-// Products are kept packed until they are shown.
+// Products are packed away until they are shown.
 void tst_rvbrowser::keepsEveryCharacter()
 {
     load("<p><product type='X &amp; &lt;Y&gt;' name='&quot;a&apos;&#10;&#9;b&#x1F4D6; ü'><forms>"

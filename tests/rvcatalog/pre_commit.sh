@@ -44,7 +44,7 @@ commits() { git commit -q -m "$1" >"$work/log" 2>&1 || fail "git refuses $1: $(<
 # refuses WHAT TEXT: git does not commit them, and the output has the reason.
 refuses() {
     ! git commit -q -m "$1" >"$work/log" 2>&1 || fail "git takes $1"
-    grep -qF -- "$2" "$work/log" || fail "no message says $2: $(<"$work/log")"
+    grep -qF -- "$2" "$work/log" || fail "$2 is not reported: $(<"$work/log")"
 }
 
 mkdir catalogue

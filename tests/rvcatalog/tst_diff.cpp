@@ -126,7 +126,7 @@ void tst_diff::color_data()
     QTest::newRow("not a terminal") << QStringList() << QStringList() << false;
     QTest::newRow("auto") << QStringList { u"--color=auto"_s } << QStringList() << false;
     QTest::newRow("always") << QStringList { u"--color=always"_s } << QStringList() << true;
-    QTest::newRow("always, although the environment forbids it")
+    QTest::newRow("always, against the environment")
             << QStringList { u"--color=always"_s } << QStringList { u"NO_COLOR=1"_s, u"TERM=dumb"_s } << true;
     QTest::newRow("pager of git, but not called by git")
             << QStringList() << QStringList { u"GIT_PAGER_IN_USE=true"_s } << false;

@@ -27,7 +27,7 @@ public:
     QSize minimumSizeHint() const override { return { 240, 125 }; }
 
 Q_SIGNALS:
-    /// A click or a key asks for this row; setRow() makes it the chosen one.
+    /// This row was clicked or walked to; setRow() makes it the chosen one.
     void rowWanted(int row);
 
 protected:

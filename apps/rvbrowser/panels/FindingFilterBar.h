@@ -30,7 +30,7 @@ public:
 
 Q_SIGNALS:
     void filterChanged();
-    /// A key in the text asks to go on to the findings.
+    /// A key was pressed that leads on from the text to the findings.
     void left();
 
 protected:
