@@ -138,6 +138,13 @@ QString diffDescription()
            "Ends with 0 if they are equal, with 1 if they differ, and with 2 if one of them cannot be read."_s;
 }
 
+QCommandLineOption gitOption()
+{
+    return { u"git"_s,
+             u"Take the arguments that git gives to a diff driver: PATH OLD-FILE OLD-HEX OLD-MODE "
+             "NEW-FILE NEW-HEX NEW-MODE. End with 0 even if the catalogues differ."_s };
+}
+
 }
 
 int diffCommand(const QStringList &arguments, const Console &console)
@@ -148,10 +155,7 @@ int diffCommand(const QStringList &arguments, const Console &console)
                                           u"text"_s);
     const QCommandLineOption colorOption(u"color"_s, u"Colour the text: auto (on a terminal), always, or never."_s,
                                          u"auto|always|never"_s, u"auto"_s);
-    const QCommandLineOption git(u"git"_s,
-                                 u"Take the arguments that git gives to a diff driver: PATH OLD-FILE OLD-HEX OLD-MODE "
-                                 u"NEW-FILE NEW-HEX NEW-MODE. "
-                                 "End with 0 even if the catalogues differ."_s);
+    const QCommandLineOption git = gitOption();
     const QCommandLineOption exitCodeOption(
             u"exit-code"_s, u"With --git, end with 1 if they differ, for diff.<driver>.trustExitCode."_s);
     parser.addOptions({ formatOption, colorOption, git, exitCodeOption });
