@@ -40,7 +40,7 @@ MeasuredFont measure()
 const MeasuredFont &measured()
 {
     static const MeasuredFont theNone;
-    if (qobject_cast<QGuiApplication *>(QCoreApplication::instance()) == nullptr)
+    if (!SpineFont::canMeasure())
         return theNone;
     static const MeasuredFont theFont = measure();
     return theFont;
@@ -51,6 +51,11 @@ const MeasuredFont &measured()
 QString SpineFont::declaredFamily()
 {
     return u"DejaVu Sans"_s;
+}
+
+bool SpineFont::canMeasure()
+{
+    return qobject_cast<QGuiApplication *>(QCoreApplication::instance()) != nullptr;
 }
 
 QString SpineFont::family()

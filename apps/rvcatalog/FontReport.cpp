@@ -4,15 +4,13 @@
 
 #include <SpineFont.h>
 
-#include <QGuiApplication>
 #include <QTextStream>
 
 using namespace Qt::StringLiterals;
 
 void reportMissingFont(const Console &console)
 {
-    const bool canMeasureFonts = qobject_cast<QGuiApplication *>(QCoreApplication::instance()) != nullptr;
-    if (!canMeasureFonts || SpineFont::isDeclared())
+    if (!SpineFont::canMeasure() || SpineFont::isDeclared())
         return;
     const QString family = SpineFont::family();
     QTextStream(console.messages) << u"rvcatalog: the font %1 is missing, so font sizes are those of %2 and may differ "
