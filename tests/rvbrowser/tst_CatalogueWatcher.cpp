@@ -26,8 +26,6 @@ class tst_CatalogueWatcher : public QObject
 private Q_SLOTS:
     void init();
 
-    void stamps();
-    void stampsOfConfigurations();
     void changes_data();
     void changes();
     void severalChangesAreOne();
@@ -58,31 +56,6 @@ void tst_CatalogueWatcher::init()
     myWatcher = std::make_unique<CatalogueWatcher>();
     myChanged = std::make_unique<QSignalSpy>(myWatcher.get(), &CatalogueWatcher::changed);
     myVanished = std::make_unique<QSignalSpy>(myWatcher.get(), &CatalogueWatcher::vanished);
-}
-
-void tst_CatalogueWatcher::stamps()
-{
-    const FileStamp first = FileStamp::of(name());
-    QVERIFY(first.exists);
-    QCOMPARE(first.size, 1);
-    QVERIFY(first == FileStamp::of(name()));
-    QVERIFY(myFolder->write(u"c.xml"_s, "22"));
-    QVERIFY(first != FileStamp::of(name()));
-    const FileStamp missing = FileStamp::of(myFolder->path(u"missing.xml"_s));
-    QVERIFY(!missing.exists);
-    QVERIFY(missing == FileStamp());
-}
-
-void tst_CatalogueWatcher::stampsOfConfigurations()
-{
-    const CatalogueStamp without = CatalogueStamp::of(name());
-    QVERIFY(myFolder->write(u"rvcatalog.toml"_s, "[rules]\n"));
-    const CatalogueStamp with = CatalogueStamp::of(name());
-    QVERIFY(without != with);
-    QVERIFY(with == CatalogueStamp::of(name()));
-    QVERIFY(myFolder->write(u"rvcatalog.toml"_s, "[rules]\n\n"));
-    QVERIFY(with != CatalogueStamp::of(name()));
-    QCOMPARE(with.catalogue.size, 1);
 }
 
 void tst_CatalogueWatcher::changes_data()

@@ -1,7 +1,5 @@
 #include "CatalogueWatcher.h"
 
-#include <RVCheckConfiguration.h>
-
 #include <QFileInfo>
 
 #include <chrono>
@@ -14,16 +12,6 @@ namespace {
 /// Editors write a file in several steps.
 constexpr auto QUIET_TIME = 200ms;
 
-}
-
-CatalogueStamp CatalogueStamp::of(const QString &fileName)
-{
-    CatalogueStamp result;
-    result.catalogue = FileStamp::of(fileName);
-    result.configurationNames = RVCheckConfiguration::files(fileName);
-    for (const QString &name : std::as_const(result.configurationNames))
-        result.configurations += FileStamp::of(name);
-    return result;
 }
 
 CatalogueWatcher::CatalogueWatcher(QObject *parent) : QObject(parent)

@@ -1,30 +1,11 @@
 #ifndef CATALOGUEWATCHER_H
 #define CATALOGUEWATCHER_H
 
-#include "FileStamp.h"
+#include "CatalogueStamp.h"
 
 #include <QFileSystemWatcher>
-#include <QList>
 #include <QString>
-#include <QStringList>
 #include <QTimer>
-
-/// The stamp of a catalogue, and that of the configuration that it is checked by.
-struct CatalogueStamp
-{
-    static CatalogueStamp of(const QString &fileName);
-
-    FileStamp catalogue;
-    QStringList configurationNames;
-    QList<FileStamp> configurations; // one for each name
-
-    friend bool operator==(const CatalogueStamp &a, const CatalogueStamp &b)
-    {
-        return a.catalogue == b.catalogue && a.configurationNames == b.configurationNames
-                && a.configurations == b.configurations;
-    }
-    friend bool operator!=(const CatalogueStamp &a, const CatalogueStamp &b) { return !(a == b); }
-};
 
 /// Tells when a catalogue or its configuration changes, also where an editor puts a new file in the place of the old
 /// one. Watches the folder of the catalogue as well for that; several changes in a row are told of once. A
