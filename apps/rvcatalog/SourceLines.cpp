@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 PIECE = qint64(64) * 1024;
+constexpr qint64 READ_SIZE = qint64(64) * 1024;
 constexpr qsizetype LONGEST_LINE = 1000000; // letters
 
 QStringDecoder decoderFor(const QByteArray &begin)
