@@ -1,4 +1,5 @@
 #include "CatalogueBuffer.h"
+#include "ListDifference.h"
 
 #include <RVCatalogueAttribute.h>
 #include <RVCatalogueAttributes.h>
@@ -50,8 +51,9 @@ void tst_RVCatalogueAttribute::names()
         u"material_type Material"_s,  u"product_arrangement Arrangement"_s,
         u"dlp_type Design content"_s, u"spot_color Spot colour"_s,
     };
-    QCOMPARE(namesOf(RVCatalogueAttribute::ofProducts()), ofProducts);
-    QCOMPARE(namesOf(RVCatalogueAttribute::all()), ofProducts + others);
+    const QString place = u"this test"_s;
+    QCOMPARE(listDifference(place, ofProducts, namesOf(RVCatalogueAttribute::ofProducts())), QString());
+    QCOMPARE(listDifference(place, ofProducts + others, namesOf(RVCatalogueAttribute::all())), QString());
 }
 
 void tst_RVCatalogueAttribute::classes()

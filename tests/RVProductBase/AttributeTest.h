@@ -1,6 +1,8 @@
 #ifndef ATTRIBUTETEST_H
 #define ATTRIBUTETEST_H
 
+#include "ListDifference.h"
+
 #include <RVTemplateClasses/RVEnumToStringTable.h>
 
 #include <QDomDocument>
@@ -62,7 +64,9 @@ public:
                 allKeywords += keyword.toLower();
             allValues += row.value;
         }
-        QCOMPARE(sorted(Attribute().allKnownKeywords()), sorted(allKeywords));
+        QCOMPARE(
+                listDifference(u"the test of the class"_s, sorted(allKeywords), sorted(Attribute().allKnownKeywords())),
+                QString());
         QList<qint64> knownValues;
         for (const Enum value : Attribute().allKnownEnumValues())
             knownValues += qint64(value);
