@@ -1,5 +1,7 @@
 // No attribute is missing: neither in the list itself, nor in the descriptions of catalogues for people and for
 // editors.
+#include "ListDifference.h"
+
 #include <RVCatalogueAttribute.h>
 #include <RVCatalogueAttributes.h>
 #include <RVCatalogueReader.h>
@@ -9,6 +11,7 @@
 #include <QMetaType>
 #include <QTest>
 
+#include <algorithm>
 #include <tuple>
 #include <type_traits>
 
@@ -22,6 +25,9 @@ private Q_SLOTS:
     void everyClassOfTheLibraries();
     void schema();
     void format();
+    void conditions();
+    void architecture();
+    void displayNames();
     void sample_data();
     void sample();
 };
@@ -99,6 +105,26 @@ QStringList keywordAttributesOfFormat()
     return result;
 }
 
+/// The first column of the row of docs/json.md for conditions with keywords.
+QStringList attributesOfConditions()
+{
+    const QString text = QString::fromUtf8(content(QStringLiteral(DOCS "/json.md")));
+    const QString row = text.section(u"| attribute | signs |"_s, 1).section(u"\n| "_s, 1, 1).section(u" | "_s, 0, 0);
+    return row.split(u", "_s).replaceInStrings(u"`"_s, QString());
+}
+
+/// Those of the classes that the map of the libraries names.
+QStringList namedByArchitecture(const QStringList &classes)
+{
+    const QString text = QString::fromUtf8(content(QStringLiteral(DOCS "/architecture.md")));
+    QStringList result;
+    for (const QString &name : classes) {
+        if (text.contains(u'`' + name + u'`'))
+            result += name;
+    }
+    return result;
+}
+
 }
 
 // The classes in the list file of RVProductBase, and the one of the platform.
@@ -108,13 +134,15 @@ void tst_RVCatalogueAttributes::everyClassOfTheLibraries()
     QStringList expected = QStringLiteral(ATTRIBUTE_CLASSES).split(u',') + QStringList { u"RVSpotColor"_s };
     found.sort();
     expected.sort();
-    QCOMPARE(found.join(u' '), expected.join(u' '));
+    QCOMPARE(listDifference(u"libs/RVCatalogue/RVCatalogueAttributes.h"_s, found, expected), QString());
 }
 
 // An editor completes the keywords of every attribute.
 void tst_RVCatalogueAttributes::schema()
 {
-    QCOMPARE(keywordAttributesOfSchema().join(u' '), names(RVCatalogueAttribute::ofProducts()).join(u' '));
+    QCOMPARE(listDifference(u"libs/RVCatalogue/catalogue.xsd"_s, keywordAttributesOfSchema(),
+                            names(RVCatalogueAttribute::ofProducts())),
+             QString());
 }
 
 void tst_RVCatalogueAttributes::format()
@@ -123,7 +151,33 @@ void tst_RVCatalogueAttributes::format()
     QStringList expected = names(RVCatalogueAttribute::ofProducts());
     for (qsizetype i = 0; i < expected.size(); ++i)
         expected[i] += u' ' + classes.at(i);
-    QCOMPARE(keywordAttributesOfFormat().join(u'\n'), expected.join(u'\n'));
+    QCOMPARE(listDifference(u"docs/catalogue-format.md"_s, keywordAttributesOfFormat(), expected), QString());
+}
+
+// "rvcatalog show --where" takes every attribute of products.
+void tst_RVCatalogueAttributes::conditions()
+{
+    QCOMPARE(listDifference(u"docs/json.md"_s, attributesOfConditions(), names(RVCatalogueAttribute::ofProducts())),
+             QString());
+}
+
+void tst_RVCatalogueAttributes::architecture()
+{
+    const QStringList classes = QStringLiteral(ATTRIBUTE_CLASSES).split(u',');
+    QCOMPARE(listDifference(u"docs/architecture.md"_s, namedByArchitecture(classes), classes), QString());
+}
+
+// An attribute whose row has a function for display names also has them in the list of its values.
+void tst_RVCatalogueAttributes::displayNames()
+{
+    const auto check = [](const auto &row) {
+        const auto values = RVCatalogueAttribute::find(row.name).values();
+        const bool hasNames = std::any_of(values.begin(), values.end(),
+                                          [](const auto &value) { return !value.displayName.isEmpty(); });
+        QVERIFY2(hasNames || !row.displayName,
+                 qPrintable(u"libs/RVCatalogue/RVCatalogueAttribute.cpp lacks displayName() for %1"_s.arg(row.name)));
+    };
+    std::apply([check](const auto &...rows) { (check(rows), ...); }, RV_CATALOGUE_ATTRIBUTES);
 }
 
 void tst_RVCatalogueAttributes::sample_data()
@@ -143,7 +197,8 @@ void tst_RVCatalogueAttributes::sample()
         texts += product.element().attribute(attribute.name());
     QVERIFY2(!reader.hasError(), qPrintable(reader.errorString()));
     texts.removeAll(QString());
-    QVERIFY(!texts.isEmpty());
+    QVERIFY2(!texts.isEmpty(),
+             qPrintable(u"examples/catalogue/products.xml has no product with %1"_s.arg(attribute.name())));
     QCOMPARE(attribute.decode(texts.join(u',')).unknownPieces.join(u','), QString());
 }
 

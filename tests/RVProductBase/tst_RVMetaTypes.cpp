@@ -1,3 +1,5 @@
+#include "ListDifference.h"
+
 #include <RVCore/RVDirectoryName.h>
 #include <RVCore/RVDistance.h>
 #include <RVCore/RVDistanceUnit.h>
@@ -117,6 +119,7 @@ class tst_RVMetaTypes : public QObject
 private Q_SLOTS:
     void initTestCase();
     void names();
+    void everyAttribute();
     void texts_data();
     void texts();
     void failures_data();
@@ -161,6 +164,19 @@ void tst_RVMetaTypes::names()
 {
     for (const char *name : { "RVCoverType", "RVArticleVariants", "RVPageCountOrganization", "RVOrderIdList" })
         QVERIFY2(QMetaType::fromName(name).isValid(), name);
+}
+
+// The classes in the list file of the library.
+void tst_RVMetaTypes::everyAttribute()
+{
+    const QStringList expected = QStringLiteral(ATTRIBUTE_CLASSES).split(u',');
+    QStringList found;
+    for (const QString &name : expected) {
+        const QMetaType type = QMetaType::fromName(name.toLatin1());
+        if (type.isValid() && QMetaType::canConvert(QMetaType::fromType<QString>(), type))
+            found += name;
+    }
+    QCOMPARE(listDifference(u"libs/RVProductBase/RVMetaTypes.cpp"_s, found, expected), QString());
 }
 
 void tst_RVMetaTypes::texts_data()
