@@ -3,6 +3,7 @@
 #include <ProductJson.h>
 #include <ProductValues.h>
 
+#include <RVCatalogueAttributes.h>
 #include <RVCatalogueReader.h>
 
 #include <QBuffer>
@@ -10,6 +11,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTest>
+
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 
@@ -118,17 +121,10 @@ QJsonValue idJson(const Id &id)
 /// Every value of a product, written with Qt's JSON classes.
 QJsonObject toJson(const RVCatalogueProduct &product)
 {
-    return {
+    QJsonObject result = {
         { u"type"_s, textJson(product.type().toString()) },
         { u"name"_s, textJson(product.name()) },
         { u"article_id"_s, idJson(product.articleId()) },
-        { u"article_class"_s, attributeJson(product.articleClass()) },
-        { u"cover_type"_s, attributeJson(product.coverType()) },
-        { u"page_binding"_s, attributeJson(product.pageBinding()) },
-        { u"paper_type"_s, attributeJson(product.paperType()) },
-        { u"foto_paper_type"_s, attributeJson(product.fotoPaperType()) },
-        { u"orientation"_s, attributeJson(product.orientation()) },
-        { u"space_magnitude"_s, attributeJson(product.spaceMagnitude()) },
         { u"shipping_group"_s, idJson(product.shippingGroup()) },
         { u"price_class"_s, textJson(product.element().attribute("price_class"_L1)) },
         { u"page_price_class"_s, textJson(product.element().attribute("page_price_class"_L1)) },
@@ -143,6 +139,12 @@ QJsonObject toJson(const RVCatalogueProduct &product)
         { u"spine"_s, spinesJson(product) },
         { u"options"_s, optionsJson(product) },
     };
+    const auto insert = [&](const auto &row) {
+        if (row.isOfProducts)
+            result.insert(row.name, attributeJson((product.*row.value)()));
+    };
+    std::apply([insert](const auto &...rows) { (insert(rows), ...); }, RV_CATALOGUE_ATTRIBUTES);
+    return result;
 }
 
 }
