@@ -76,6 +76,15 @@ constexpr SizeClass SIZE_CLASSES[] = {
 };
 // clang-format on
 
+constexpr bool areInAnySize()
+{
+    auto sizes = RVSpaceMagnitudeEnum(0);
+    for (const SizeClass &size : SIZE_CLASSES)
+        sizes |= size.value;
+    return sizes == SPACE_MAGNITUDE_ANY;
+}
+static_assert(areInAnySize(), "SPACE_MAGNITUDE_ANY has the size classes of the table and no others");
+
 /// The layout of any value that is not exactly one size class.
 constexpr SizeClass NO_SIZE_CLASS = { RVSpaceMagnitudeEnum(0), 0, 0, 1, 12, 2.1, 2.1, nullptr };
 
@@ -111,7 +120,7 @@ RVSpaceMagnitude RVSpaceMagnitude::fromSquareCentimeters(int area)
         if (area < size.bound)
             return size.value;
     }
-    return SPACE_MAGNITUDE_2400CM2;
+    return std::rbegin(SIZE_CLASSES)->value;
 }
 
 RVSpaceMagnitude RVSpaceMagnitude::estimateByAreaSizes(double x)
