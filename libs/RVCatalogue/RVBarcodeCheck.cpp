@@ -143,7 +143,7 @@ struct RVBarcodeCheck::PageSize
     {
         const int least = leastPageArea(area, proportions);
         return magnitude.hasExactlyOneBit() && least > magnitude.normativeSize()
-                && RVSpaceMagnitude::fromSquareCentimeters(least).value() > magnitude.value();
+                && RVSpaceMagnitude::fromSquareCentimeters(least).normativeSize() > magnitude.normativeSize();
     }
 
     RVSpaceMagnitude magnitude;
