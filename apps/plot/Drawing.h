@@ -21,6 +21,8 @@ public:
     /// Fills the sheet, whose size in units of the device is that of sheetSize(). Colours are those of paper.
     virtual void paint(QPainter *painter, const QRectF &sheet, int reduction) const = 0;
 
+    static constexpr qreal MILLIMETRES_PER_INCH = 25.4;
+
     /// The smallest of 1, 2, 5, 10, 20, 50 … at which the sheet is no larger than @p most, in millimetres.
     int reductionFor(const QSizeF &most) const;
     /// The font of texts on a sheet.

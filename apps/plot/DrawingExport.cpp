@@ -16,7 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qreal MILLIMETRES_PER_INCH = 25.4;
 constexpr int PNG_DOTS_PER_INCH = 300;
 /// At this resolution a unit of the drawing is a tenth of a millimetre.
 constexpr int SVG_DOTS_PER_INCH = 254;
@@ -68,7 +67,7 @@ QImage DrawingExport::image() const
     if (image.isNull())
         return image;
     image.fill(Qt::white); // the last pixel may be wider than the sheet
-    const int dotsPerMeter = int(std::round(PNG_DOTS_PER_INCH * 1000 / MILLIMETRES_PER_INCH));
+    const int dotsPerMeter = int(std::round(PNG_DOTS_PER_INCH * 1000 / Drawing::MILLIMETRES_PER_INCH));
     image.setDotsPerMeterX(dotsPerMeter);
     image.setDotsPerMeterY(dotsPerMeter);
     QPainter painter(&image);
@@ -146,5 +145,5 @@ QByteArray DrawingExport::pdf() const
 // Not rounded, as a drawing takes its scale from the sheet.
 QRectF DrawingExport::sheetInDots(int dotsPerInch) const
 {
-    return { QPointF(), myDrawing.sheetSize(myReduction) * dotsPerInch / MILLIMETRES_PER_INCH };
+    return { QPointF(), myDrawing.sheetSize(myReduction) * dotsPerInch / Drawing::MILLIMETRES_PER_INCH };
 }

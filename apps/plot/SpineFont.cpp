@@ -1,21 +1,17 @@
 #include "SpineFont.h"
 
+#include <RVFontCreator.h>
 #include <RVFontSizeManager.h>
 #include <RVSpineConfig.h>
 
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QFontMetricsF>
-#include <QGuiApplication>
-
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The part of the spine without its sides that a line of text may fill, as RVSpineConfig has it.
-constexpr qreal USABLE_PART = 0.85;
 /// In pixels. At this size the rounding and the hinting of the platform change nothing that matters.
 constexpr int MEASURED_SIZE = 2048;
 
@@ -40,7 +36,7 @@ MeasuredFont measure()
 const MeasuredFont &measured()
 {
     static const MeasuredFont theNone;
-    if (!SpineFont::canMeasure())
+    if (!RVFontCreator::canMeasure())
         return theNone;
     static const MeasuredFont theFont = measure();
     return theFont;
@@ -51,11 +47,6 @@ const MeasuredFont &measured()
 QString SpineFont::declaredFamily()
 {
     return u"DejaVu Sans"_s;
-}
-
-bool SpineFont::canMeasure()
-{
-    return qobject_cast<QGuiApplication *>(QCoreApplication::instance()) != nullptr;
 }
 
 QString SpineFont::family()
@@ -83,8 +74,7 @@ int SpineFont::largestSize(const RVSpineConfig &spine, int pages)
     if (measured().lineSpacing <= 0)
         return sizes.first();
     // As an unsigned number a negative count would have the spine of four billion pages.
-    const RVDistance width = spine.spineWidth(unsigned(qMax(0, pages))) - spine.additionalSpineWidth() * 2.0;
-    const qreal limit = std::round(width.value() * USABLE_PART);
+    const int limit = spine.highestLine(unsigned(qMax(0, pages)));
     qsizetype largest = 0;
     while (largest + 1 < sizes.size() && sizes.at(largest + 1) * measured().lineSpacing <= limit)
         ++largest;

@@ -20,8 +20,6 @@ class SpineFont
 public:
     /// DejaVu Sans. It is free, every Debian has it, and it has all letters of the catalogue's language.
     static QString declaredFamily();
-    /// True if the application can measure fonts, which needs a QGuiApplication.
-    static bool canMeasure();
     /// The family that is measured and drawn: the declared one, or if it is missing the default of the system.
     /// Empty if nothing can be measured.
     static QString family();
@@ -30,7 +28,7 @@ public:
 
     /// The font in a size in points of the layout, each a tenth of a millimetre; sizes below 1 count as 1.
     static QFont font(int size);
-    /// The largest of RVFontSizeManager's sizes of which a line fits into 85 % of the spine without its sides. The
+    /// The largest of RVFontSizeManager's sizes of which a line is at most RVSpineConfig::highestLine(). The
     /// smallest of them if none fits or nothing can be measured; 0 without sizes. Negative page counts count as 0.
     static int largestSize(const RVSpineConfig &spine, int pages);
 };

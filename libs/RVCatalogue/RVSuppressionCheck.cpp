@@ -5,7 +5,7 @@
 #include "RVFindingText_p.h"
 #include "RVNearestText.h"
 
-#include <QGuiApplication>
+#include <RVFontCreator.h>
 
 using namespace Qt::StringLiterals;
 
@@ -15,8 +15,7 @@ namespace {
 bool canHaveFindings(const RVCatalogueCheck &check, RVCatalogueRule rule)
 {
     const bool needsFonts = RVCatalogueRuleRow::of(rule)->id == RVCatalogueRuleId::SpineFontTooSmall;
-    const bool hasFonts = qobject_cast<QGuiApplication *>(QCoreApplication::instance()) != nullptr;
-    return check.isEnabled(rule) && (hasFonts || !needsFonts);
+    return check.isEnabled(rule) && (RVFontCreator::canMeasure() || !needsFonts);
 }
 
 /// The rules of the comment that could have findings, but have none.

@@ -1,6 +1,7 @@
 #include "RVFontCreator.h"
 
 #include <QFont>
+#include <QGuiApplication>
 #include <QString>
 
 template class RVSingleton<RVFontCreator>;
@@ -13,4 +14,9 @@ QFont RVFontCreator::createFont(const QString &family, int pointSize) const
 QString RVFontCreator::defaultFontFamily() const
 {
     return QFont().family();
+}
+
+bool RVFontCreator::canMeasure()
+{
+    return qobject_cast<QGuiApplication *>(QCoreApplication::instance()) != nullptr;
 }

@@ -21,6 +21,9 @@ public:
     QFont createFont(const QString &family, int pointSize) const;
     /// The family of the application's font.
     QString defaultFontFamily() const;
+
+    /// True if fonts can be measured, which needs a QGuiApplication.
+    static bool canMeasure();
 };
 
 #endif

@@ -40,6 +40,11 @@ int RVSpineConfig::coverReduceSize() const
     return d->coverReduceSize();
 }
 
+int RVSpineConfig::highestLine(unsigned pages) const
+{
+    return d->highestLine(pages);
+}
+
 int RVSpineConfig::spineMaxFontHeigth(unsigned pages, const QString &fontFamily) const
 {
     return d->spineMaxFontHeigth(pages, fontFamily);

@@ -59,10 +59,12 @@ public:
     RVDistance additionalSpineWidth() const;
     /// The reduction of the cover, in whole tenths of a millimetre: the additional width, truncated.
     int coverReduceSize() const;
-    /// The largest of the editor's font sizes, in points, whose line spacing in pixels is at most 85 % of the spine
-    /// width without its sides, in tenths of a millimetre. The result is at least the smallest size, and 0 if there are
-    /// no sizes. An empty family is the default one. Without a QGuiApplication fonts cannot be measured, so the result
-    /// is the smallest size.
+    /// The height of the highest line of text that fits the spine: 85 % of its width without its sides, rounded, in
+    /// tenths of a millimetre.
+    int highestLine(unsigned pages) const;
+    /// The largest of the editor's font sizes, in points, whose line spacing in pixels is at most highestLine(). The
+    /// result is at least the smallest size, and 0 if there are no sizes. An empty family is the default one. Without a
+    /// QGuiApplication fonts cannot be measured, so the result is the smallest size.
     int spineMaxFontHeigth(unsigned pages, const QString &fontFamily) const;
     /// True if the smallest of the editor's font sizes fits the spine by that measure. Also true if nothing can be
     /// measured: without sizes, or without a QGuiApplication.

@@ -8,7 +8,6 @@
 
 #include <QFont>
 #include <QFontMetrics>
-#include <QGuiApplication>
 
 #include <cmath>
 #include <limits>
@@ -19,11 +18,6 @@ namespace {
 
 /// Part of the spine width that a text may fill.
 constexpr qreal USABLE_PART = 0.85;
-
-bool canMeasureFonts()
-{
-    return qobject_cast<QGuiApplication *>(QCoreApplication::instance()) != nullptr;
-}
 
 /// The line spacing in pixels; an empty family is that of the default font.
 int lineSpacing(const QString &fontFamily, int pointSize)
@@ -90,13 +84,21 @@ int RVSpineConfigImpl::coverReduceSize() const
     return rvSaturated(additionalWidth.value());
 }
 
+int RVSpineConfigImpl::highestLine(unsigned pages) const
+{
+    RVDistance usable = spineWidth(pages);
+    usable -= additionalWidth * 2.0;
+    usable *= USABLE_PART;
+    return rvSaturated(std::round(usable.value()));
+}
+
 int RVSpineConfigImpl::spineMaxFontHeigth(unsigned pages, const QString &fontFamily) const
 {
     const QList<int> sizes = RVFontSizeManager::instance()->defaultFontSizes();
     if (sizes.isEmpty())
         return 0;
     // The first size is never measured: it is the result even if it is too tall itself.
-    if (!canMeasureFonts())
+    if (!RVFontCreator::canMeasure())
         return sizes.first();
     const int limit = highestLine(pages);
     for (qsizetype i = 1; i < sizes.size(); ++i) {
@@ -109,15 +111,8 @@ int RVSpineConfigImpl::spineMaxFontHeigth(unsigned pages, const QString &fontFam
 bool RVSpineConfigImpl::hasRoomForText(unsigned pages, const QString &fontFamily) const
 {
     const QList<int> sizes = RVFontSizeManager::instance()->defaultFontSizes();
-    return sizes.isEmpty() || !canMeasureFonts() || lineSpacing(fontFamily, sizes.first()) <= highestLine(pages);
-}
-
-int RVSpineConfigImpl::highestLine(unsigned pages) const
-{
-    RVDistance usable = spineWidth(pages);
-    usable -= additionalWidth * 2.0;
-    usable *= USABLE_PART;
-    return rvSaturated(std::round(usable.value()));
+    return sizes.isEmpty() || !RVFontCreator::canMeasure()
+            || lineSpacing(fontFamily, sizes.first()) <= highestLine(pages);
 }
 
 bool RVSpineConfigImpl::operator==(const RVSpineConfigImpl &other) const

@@ -37,6 +37,7 @@ public:
     RVDistance spineWidth(unsigned pages) const;
     RVDistance additionalSpineWidth() const { return additionalWidth; }
     int coverReduceSize() const;
+    int highestLine(unsigned pages) const;
     int spineMaxFontHeigth(unsigned pages, const QString &fontFamily) const;
     bool hasRoomForText(unsigned pages, const QString &fontFamily) const;
 
@@ -49,10 +50,6 @@ public:
     RVDistance baseWidth; ///< at the lowest page count
     RVDistance blockWidth; ///< added for every whole block of packages
     RVDistance additionalWidth; ///< on each side of the spine
-
-private:
-    /// The highest line that fits, in tenths of a millimetre.
-    int highestLine(unsigned pages) const;
 };
 
 #endif

@@ -14,6 +14,7 @@ private Q_SLOTS:
     void createsFonts_data();
     void createsFonts();
     void defaultFontFamily();
+    void canMeasure();
 };
 
 void tst_RVFontCreator::createsFonts_data()
@@ -41,6 +42,11 @@ void tst_RVFontCreator::defaultFontFamily()
     QGuiApplication::setFont(QFont(u"DejaVu Sans Mono"_s));
     QCOMPARE(RVFontCreator::instance()->defaultFontFamily(), u"DejaVu Sans Mono"_s);
     QGuiApplication::setFont(previous);
+}
+
+void tst_RVFontCreator::canMeasure()
+{
+    QVERIFY(RVFontCreator::canMeasure());
 }
 
 QTEST_MAIN(tst_RVFontCreator)

@@ -79,6 +79,8 @@ private Q_SLOTS:
     void implFields();
     void fontSizes();
     void fontSizesRoundTheLimit();
+    void highestLine_data();
+    void highestLine();
     void roomForText();
     void fontSizesOfTheDefaultFamily();
     void fontSizeLists_data();
@@ -346,6 +348,29 @@ void tst_RVSpineConfig::fontSizesRoundTheLimit()
     const RVSpineConfig swallowed(RVPageCountOrganization(RVIntRange(26, 26), 0), 0, RVDistance(1000), RVDistance(),
                                   RVDistance(1e20));
     QCOMPARE(swallowed.spineMaxFontHeigth(26, family), 6);
+}
+
+void tst_RVSpineConfig::highestLine_data()
+{
+    QTest::addColumn<RVSpineConfig>("spine");
+    QTest::addColumn<unsigned>("pages");
+    QTest::addColumn<int>("height");
+    const RVPageCountOrganization counts(RVIntRange(26, 154), 4);
+    const RVSpineConfig growing(counts, 2, RVDistance(80), RVDistance(10), RVDistance(5));
+    QTest::newRow("lowest count, without the sides") << growing << 26U << 68; // of 80
+    QTest::newRow("one block more, rounded up") << growing << 34U << 77; // 76.5 of 90
+    QTest::newRow("two blocks more") << growing << 42U << 85; // of 100
+    QTest::newRow("rounded down") << RVSpineConfig(counts, 0, RVDistance(97), {}, {}) << 26U << 82; // 82.45
+    QTest::newRow("sides alone") << RVSpineConfig(counts, 0, {}, {}, RVDistance(50)) << 26U << 0;
+    QTest::newRow("negative width") << RVSpineConfig(counts, 0, RVDistance(-100), {}, {}) << 26U << -85;
+    QTest::newRow("default") << RVSpineConfig() << 26U << 0;
+}
+
+void tst_RVSpineConfig::highestLine()
+{
+    QFETCH(RVSpineConfig, spine);
+    QFETCH(unsigned, pages);
+    QTEST(spine.highestLine(pages), "height");
 }
 
 // Only the smallest size counts, and its line spacing itself still fits.

@@ -5,12 +5,6 @@
 #include <QPainter>
 #include <QPrinter>
 
-namespace {
-
-constexpr qreal MILLIMETRES_PER_INCH = 25.4;
-
-}
-
 void DrawingPrint::setUp(QPrinter *printer) const
 {
     const QSizeF sheet = myDrawing->sheetSize(1);
@@ -22,7 +16,7 @@ void DrawingPrint::paint(QPrinter *printer) const
 {
     const QSizeF room = printer->pageRect(QPrinter::Millimeter).size();
     const int reduction = myDrawing->reductionFor(room);
-    const qreal millimetre = printer->resolution() / MILLIMETRES_PER_INCH;
+    const qreal millimetre = printer->resolution() / Drawing::MILLIMETRES_PER_INCH;
     const QSizeF sheet = myDrawing->sheetSize(reduction) * millimetre;
     QPainter painter(printer);
     if (painter.isActive())
