@@ -10,19 +10,19 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The modular inverse of @p factor: its product with @p factor leaves 1 when divided by @p modulus. The two have no
-/// common divisor.
+/// A modular inverse of @p factor: its product with @p factor leaves 1 when divided by @p modulus. It is above 0 and
+/// at most twice the modulus. The two have no common divisor.
 qint64 inverse(qint64 factor, qint64 modulus)
 {
     qint64 last = 0;
     qint64 result = 1;
     qint64 remainder = modulus;
-    for (qint64 divisor = factor % modulus; divisor != 0;) {
+    for (qint64 divisor = factor; divisor != 0;) {
         const qint64 quotient = remainder / divisor;
         remainder = std::exchange(divisor, remainder % divisor);
         last = std::exchange(result, last - quotient * result);
     }
-    return (last % modulus + modulus) % modulus;
+    return last + modulus;
 }
 
 /// The last count of steps from @p from that is not above @p limit.
@@ -66,10 +66,10 @@ RVPageCountRange rvCommonCounts(const RVPageCountRange &a, const RVPageCountRang
         return RVPageCountRange();
     const qint64 modulus = std::max(b.step / divisor, qint64(1));
     const qint64 distance = ((b.from - a.from) / divisor % modulus + modulus) % modulus;
-    const qint64 steps = modulus == 1 ? 0 : distance * inverse(a.step / divisor, modulus) % modulus;
+    const qint64 steps = distance * inverse(a.step / divisor, modulus) % modulus;
     const qint64 step = std::max(a.step * modulus, qint64(1));
     const qint64 first = a.from + steps * a.step;
-    const qint64 from = first < b.from ? first + (b.from - first + step - 1) / step * step : first;
+    const qint64 from = first + std::max(b.from - first + step - 1, qint64(0)) / step * step;
     return { from, lastCount(from, std::min(a.to, b.to), step), step };
 }
 
@@ -84,7 +84,7 @@ QList<RVPageCountRange> rvCountsWithout(const RVPageCountRange &a, const RVPageC
     const qint64 gaps = common.size() - 1;
     const qint64 between = common.step / a.step - 1;
     if (gaps <= between) {
-        for (qint64 i = 0; i < gaps && between > 0; ++i) {
+        for (qint64 i = 0; i < gaps; ++i) {
             const qint64 begin = common.from + i * common.step;
             result += { begin + a.step, begin + common.step - a.step, a.step };
         }

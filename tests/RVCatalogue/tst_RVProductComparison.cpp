@@ -170,6 +170,12 @@ void tst_RVProductComparison::pageRows()
     row("fewer at the lower end", "pages='26' max_pages='34' page_step='4'", "pages='30' max_pages='34' page_step='4'",
         { u"~ Lowest page count: 26 -> 30"_s, u"- Page counts: 26"_s },
         { u"[\"pages.lowest\",{},26,30]"_s, u"[\"pages.counts\",{},{\"from\":26,\"step\":0,\"to\":26},null]"_s });
+    row("step of 1", "pages='1' max_pages='3' page_step='1'", "pages='1' max_pages='6' page_step='1'",
+        { u"~ Highest page count: 3 -> 6"_s, u"+ Page counts: 4-6"_s },
+        { u"[\"pages.highest\",{},3,6]"_s, u"[\"pages.counts\",{},null,{\"from\":4,\"step\":1,\"to\":6}]"_s });
+    row("step of 2", "pages='2' max_pages='4' page_step='2'", "pages='2' max_pages='10' page_step='2'",
+        { u"~ Highest page count: 4 -> 10"_s, u"+ Page counts: 6-10 by 2"_s },
+        { u"[\"pages.highest\",{},4,10]"_s, u"[\"pages.counts\",{},null,{\"from\":6,\"step\":2,\"to\":10}]"_s });
     row("half the step", "pages='26' max_pages='38' page_step='4'", "pages='26' max_pages='38' page_step='2'",
         { u"~ Page step: 4 -> 2"_s, u"+ Page counts: 28-36 by 4"_s },
         { u"[\"pages.step\",{},4,2]"_s, u"[\"pages.counts\",{},null,{\"from\":28,\"step\":4,\"to\":36}]"_s });
@@ -209,6 +215,12 @@ void tst_RVProductComparison::spineRows()
     row("packages per block", spine(pages, replaced(usual, "'2'", "'3'")),
         { u"~ Spine, packages per block: 2 -> 3"_s, u"~ Spine width at 34 pages: 10 mm -> 9 mm"_s },
         { u"[\"spine.packages_per_block\",{},2,3]"_s, u"[\"spine.width\",{\"from\":34,\"step\":0,\"to\":34},10,9]"_s });
+    const QByteArray many = "pages='1' max_pages='20000' page_step='1'";
+    QTest::newRow("at ten thousand counts")
+            << spine(many, "base_width='8'") << spine(many, "base_width='9'")
+            << QStringList { u"~ Spine, base width: 8 mm -> 9 mm"_s, u"~ Spine width at 1-10000 pages: 8 mm -> 9 mm"_s }
+            << QStringList { u"[\"spine.base_width\",{},8,9]"_s,
+                             u"[\"spine.width\",{\"from\":1,\"step\":1,\"to\":10000},8,9]"_s };
     row("sides instead of base", spine(pages, replaced(replaced(usual, "'8'", "'9'"), "'0.5'", "'0'")),
         { u"~ Spine, base width: 8 mm -> 9 mm"_s, u"~ Spine, additional width: 0.5 mm -> 0 mm"_s },
         { u"[\"spine.base_width\",{},8,9]"_s, u"[\"spine.additional_width\",{},0.5,0]"_s });
