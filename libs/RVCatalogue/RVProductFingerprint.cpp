@@ -13,7 +13,6 @@ namespace {
 
 // XML has none of these characters, so they are unambiguous.
 constexpr char ELEMENT_BEGIN = '\1';
-constexpr char ELEMENT_END = '\2';
 constexpr char TEXT_END = '\0';
 
 bool isBefore(QByteArrayView a, QByteArrayView b)
@@ -25,22 +24,14 @@ bool isBefore(QByteArrayView a, QByteArrayView b)
 class CanonicalText
 {
 public:
-    explicit CanonicalText(const RVCatalogueRows &rows) : myRows(rows)
-    {
-        myText.reserve(rows.text.size() + qsizetype(rows.elements.size()) * 4);
-    }
+    explicit CanonicalText(const RVCatalogueRows &rows) : myRows(rows) { myText.reserve(rows.text.size()); }
 
     void append(QByteArrayView text) { myText.append(text).append(TEXT_END); }
 
     void appendElements()
     {
-        std::vector<quint32> ends;
-        for (quint32 i = 0; i < myRows.elements.size(); ++i) {
-            for (; !ends.empty() && ends.back() <= i; ends.pop_back())
-                myText.append(ELEMENT_END);
-            appendElement(myRows.elements[i]);
-            ends.push_back(myRows.elements[i].end);
-        }
+        for (const RVCatalogueRows::Element &element : myRows.elements)
+            appendElement(element);
     }
 
     const QByteArray &text() const { return myText; }
@@ -57,6 +48,7 @@ private:
                   });
         myText.append(ELEMENT_BEGIN);
         append(myRows.name(element));
+        append(QByteArray::number(element.end)); // tells which elements are in it
         for (const RVCatalogueRows::Attribute *attribute : mySorted) {
             append(myRows.view(attribute->name));
             append(myRows.view(attribute->value));
