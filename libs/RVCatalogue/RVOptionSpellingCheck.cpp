@@ -8,6 +8,8 @@
 
 #include <algorithm>
 #include <functional>
+#include <utility>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -81,14 +83,13 @@ const RVCheckedOption *mostUsual(Iterator begin, Iterator end, Value value)
 {
     const RVCheckedOption *result = nullptr;
     std::ptrdiff_t most = 0;
-    QVarLengthArray<const RVCheckedOption *, 12> options(begin, end);
-    std::sort(options.begin(), options.end(), std::less<>());
-    std::stable_sort(options.begin(), options.end(), [&value](const RVCheckedOption *a, const RVCheckedOption *b) {
-        return value(a).compare(value(b)) < 0;
+    std::vector<const RVCheckedOption *> options(begin, end);
+    std::sort(options.begin(), options.end(), [&value](const RVCheckedOption *a, const RVCheckedOption *b) {
+        return std::less<>()(std::pair(value(a), a), std::pair(value(b), b));
     });
-    for (const RVCheckedOption *const *first = options.cbegin(); first != options.cend();) {
-        const auto *const last = std::find_if(
-                first, options.cend(), [&](const RVCheckedOption *option) { return value(option) != value(*first); });
+    for (auto first = options.cbegin(); first != options.cend();) {
+        const auto last = std::find_if(first, options.cend(),
+                                       [&](const RVCheckedOption *option) { return value(option) != value(*first); });
         const bool isBetter = last - first > most || (last - first == most && std::less<>()(*first, result));
         if (isBetter && !value(*first).isEmpty()) {
             most = last - first;
