@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QList>
 
+#include <linux/limits.h>
 #include <sys/xattr.h>
 #include <unistd.h>
 
@@ -13,18 +14,22 @@ namespace {
 
 constexpr mode_t PERMISSIONS = 07777;
 
+/// The value; empty if the file does not have the attribute.
 QByteArray extendedAttribute(int descriptor, const QByteArray &name)
 {
-    QByteArray value(qMax(ssize_t(0), ::fgetxattr(descriptor, name.constData(), nullptr, 0)), '\0');
-    const ssize_t size = ::fgetxattr(descriptor, name.constData(), value.data(), std::size_t(value.size()));
-    return size < 0 ? QByteArray() : value.first(size);
+    QByteArray value(XATTR_SIZE_MAX, Qt::Uninitialized);
+    return value.left(::fgetxattr(descriptor, name.constData(), value.data(), XATTR_SIZE_MAX));
+}
+
+QByteArray namesOfExtendedAttributes(int descriptor)
+{
+    QByteArray names(XATTR_LIST_MAX, Qt::Uninitialized);
+    return names.left(::flistxattr(descriptor, names.data(), XATTR_LIST_MAX));
 }
 
 void copyExtendedAttributes(int from, int to)
 {
-    QByteArray names(qMax(ssize_t(0), ::flistxattr(from, nullptr, 0)), '\0');
-    names.truncate(qMax(ssize_t(0), ::flistxattr(from, names.data(), std::size_t(names.size()))));
-    for (const QByteArray &name : names.split('\0')) {
+    for (const QByteArray &name : namesOfExtendedAttributes(from).split('\0')) {
         const QByteArray value = extendedAttribute(from, name);
         if (!value.isEmpty())
             ::fsetxattr(to, name.constData(), value.constData(), std::size_t(value.size()), 0);

@@ -161,6 +161,7 @@ private Q_SLOTS:
     void savePermissions();
     void saveOwner();
     void saveExtendedAttributes();
+    void saveAccessControlList();
     void saveThroughLink();
     void saveOneOfHardLinks();
     void saveLongName();
@@ -577,6 +578,32 @@ void tst_RVFileEditor::saveExtendedAttributes()
     QVERIFY(editor.add({ edit(7, 8, u"2"_s) }));
     QVERIFY2(editor.save(), qPrintable(editor.errorString()));
     QCOMPARE(attribute(), before);
+}
+
+// New files in the folder have another access control list. If the file system has none, the file has none before and
+// after.
+void tst_RVFileEditor::saveAccessControlList()
+{
+    const auto list = [](quint8 permissions) {
+        QByteArray result("\2\0\0\0", 4);
+        for (const char tag : { '\x01', '\x02', '\x04', '\x10', '\x20' }) {
+            const char id = tag == '\x02' ? '\1' : '\xff';
+            result += QByteArray { tag, '\0' } + QByteArray { char(permissions), '\0' } + QByteArray(4, id);
+        }
+        return result;
+    };
+    const QByteArray path = QFile::encodeName(write(u"a.xml"_s, "<a b='1'/>"));
+    const auto listOfFile = [&path] {
+        QByteArray value(100, '\0');
+        return value.left(::getxattr(path.constData(), "system.posix_acl_access", value.data(), 100));
+    };
+    ::setxattr(path.constData(), "system.posix_acl_access", list(6).constData(), 44, 0);
+    ::setxattr(QFile::encodeName(myFolder->path()).constData(), "system.posix_acl_default", list(4).constData(), 44, 0);
+    const QByteArray before = listOfFile();
+    RVFileEditor editor(QFile::decodeName(path));
+    QVERIFY(editor.add({ edit(7, 8, u"2"_s) }));
+    QVERIFY2(editor.save(), qPrintable(editor.errorString()));
+    QCOMPARE(listOfFile(), before);
 }
 
 void tst_RVFileEditor::saveThroughLink()
