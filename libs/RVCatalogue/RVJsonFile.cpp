@@ -1,4 +1,5 @@
 #include "RVConfigurationTree_p.h"
+#include "RVFilePosition_p.h"
 
 #include <QCoreApplication>
 #include <QJsonDocument>
@@ -16,12 +17,10 @@ public:
 
 RVFilePosition positionAt(const QByteArray &text, qsizetype offset)
 {
-    const QByteArray before = text.left(offset);
-    const qsizetype lineBegin = before.lastIndexOf('\n') + 1;
-    QString line = QString::fromUtf8(before.mid(lineBegin));
-    if (line.startsWith(QChar::ByteOrderMark))
-        line.remove(0, 1);
-    return { before.count('\n') + 1, line.size() + 1 };
+    QString before = QString::fromUtf8(text.left(offset));
+    if (before.startsWith(QChar::ByteOrderMark))
+        before.remove(0, 1);
+    return rvAdvanced(RVFilePosition(), before.toUtf8(), '\0');
 }
 
 std::optional<RVConfigurationFault> RVJsonFile::read(const QByteArray &text, RVConfigurationTree *tree)

@@ -50,6 +50,8 @@ private Q_SLOTS:
     void limits();
     void unreadable_data();
     void unreadable();
+    void columnInJson_data();
+    void columnInJson();
     void find_data();
     void find();
     void bothFiles();
@@ -396,6 +398,31 @@ void tst_RVCheckConfiguration::unreadable()
     QVERIFY(configuration.errorPosition());
     QFETCH(int, line);
     QCOMPARE(configuration.errorPosition()->line, line);
+}
+
+void tst_RVCheckConfiguration::columnInJson_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QString>("place"); // of a text in front of which this stands
+
+    QTest::newRow("first line") << QByteArray("{ ") << u"1:3"_s;
+    QTest::newRow("later line") << QByteArray("{\n\n   ") << u"3:4"_s;
+    QTest::newRow("letters beyond ASCII") << QByteArray("{\n\"ä\U0001F4D5\": 1, ") << u"2:11"_s;
+    QTest::newRow("behind a byte order mark") << QByteArray("\xEF\xBB\xBF{ ") << u"1:3"_s;
+}
+
+// The parser's place may differ by some letters in other versions, so it is compared with that in a file of one line.
+void tst_RVCheckConfiguration::columnInJson()
+{
+    QFETCH(QByteArray, before);
+    QFETCH(QString, place);
+    const auto faultBehind = [this](const QByteArray &begin) {
+        writeFile(path(u"a.json"_s), begin + "x");
+        return RVCheckConfiguration::read(path(u"a.json"_s)).errorPosition().value_or(RVFilePosition());
+    };
+    const RVFilePosition position = faultBehind(before);
+    const qint64 shift = qint64(faultBehind("{").column) - 2;
+    QCOMPARE(u"%1:%2"_s.arg(position.line).arg(position.column - shift), place);
 }
 
 void tst_RVCheckConfiguration::find_data()
