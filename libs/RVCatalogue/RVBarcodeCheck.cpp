@@ -119,7 +119,7 @@ struct RVBarcodeCheck::PageSize
     /// belong to the next one.
     bool isBelow(const QRect &area) const
     {
-        return area.right() > LONGEST_PAGE || area.bottom() > LONGEST_PAGE || isAboveClass(area, ratios);
+        return area.right() >= LONGEST_PAGE || area.bottom() >= LONGEST_PAGE || isAboveClass(area, ratios);
     }
     /// True if no page with the proportions of its orientation is so large.
     bool isBelowUsual(const QRect &area) const { return usual && isAboveClass(area, *usual); }

@@ -97,6 +97,7 @@ void tst_RVBarcodeCheck::usualPage_data()
     on("corner of A6", endingAt("105", "148", "portrait", "150cm2"));
     on("corner of A3", endingAt("297", "420", "portrait", "1200cm2"));
     on("corner of 20 by 20", endingAt("200", "200", "square", "400cm2"));
+    on("corner of 15 by 15", endingAt("150", "150", "square", "220cm2"));
     on("corner of 30 by 30", endingAt("300", "300", "square", "900cm2"));
     on("corner of 15 by 20", endingAt("150", "200", "portrait", "310cm2"));
     on("corner of a kitchen calendar", endingAt("150", "420", "portrait_slim", "600cm2"));
@@ -113,6 +114,14 @@ void tst_RVBarcodeCheck::usualPage_data()
        barcode("position_x='12' position_y='400' width='38' height='10' pageNr='2'", "space_magnitude='600cm2'"));
     on("orientation is none", endingAt("50", "400", "none", "600cm2"));
     on("orientation is any", endingAt("50", "400", "all", "600cm2"));
+    on("right edge of the longest page", endingAt("3000", "50", "none", "normal"));
+    on("lower edge of the longest page", endingAt("50", "3000", "none", "normal"));
+    QTest::newRow("right of the longest page")
+            << barcode("position_x='2990.1' position_y='50' width='10' height='10' pageNr='2'")
+            << QStringList { u"position_x='2990.1': barcode-outside-page"_s };
+    QTest::newRow("below the longest page")
+            << barcode("position_x='50' position_y='3000.1' width='10' height='10' pageNr='2'")
+            << QStringList { u"position_y='3000.1': barcode-outside-page"_s };
     QTest::newRow("below every page") << endingAt("50", "900", "portrait", "600cm2")
                                       << QStringList { u"position_y='900': barcode-outside-page"_s };
 }
