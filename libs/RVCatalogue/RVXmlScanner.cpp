@@ -96,14 +96,18 @@ QString codePoint(char32_t letter)
     return "U+"_L1 + QString::number(uint(letter), 16).toUpper().rightJustified(4, u'0');
 }
 
+bool isBlank(char letter)
+{
+    return QByteArrayView(" \t\r\n").contains(letter);
+}
+
 /// The name of a tag.
 QByteArrayView nameOf(QByteArrayView tag)
 {
-    const auto isBehind = [](char letter) {
-        return letter == ' ' || letter == '>' || letter == '/' || letter == '\n' || letter == '\t' || letter == '\r';
-    };
-    const auto *end = std::find_if(tag.begin() + 1, tag.end(), isBehind);
-    return tag.sliced(1).first(end - tag.begin() - 1);
+    const char *begin = tag.begin() + 1;
+    return { begin, std::find_if(begin, tag.end(), [](char letter) {
+                 return isBlank(letter) || letter == '/' || letter == '>';
+             }) };
 }
 
 /// The place of the last such letter; 0 if there is none.
@@ -232,7 +236,7 @@ void RVXmlScanner::bite(QByteArrayView text)
     if (!myError.isEmpty())
         return;
     checkPiece(myFed);
-    if (myFed - parsed() > LARGEST_TAG && textFrom(parsed()).startsWith('<') && textFrom(parsed()).size() > 1
+    if (myFed - parsed() >= LARGEST_TAG && textFrom(parsed()).startsWith('<')
         && !std::strchr("!?", textFrom(parsed())[1]))
         failAt(tr("a tag is larger than 64 KiB"), parsed());
 }
@@ -240,9 +244,7 @@ void RVXmlScanner::bite(QByteArrayView text)
 // Only blanks may stand in front of the first "<". The parser's message about other letters would be unclear.
 bool RVXmlScanner::isXml(QByteArrayView text)
 {
-    const auto *visible = std::find_if_not(text.begin(), text.end(), [](char letter) {
-        return letter == ' ' || letter == '\t' || letter == '\r' || letter == '\n';
-    });
+    const auto *visible = std::find_if_not(text.begin(), text.end(), isBlank);
     myHasMarkup = visible != text.end();
     if (myHasMarkup && *visible != '<')
         failAt(tr("this is no XML"), myFed + (visible - text.begin()));

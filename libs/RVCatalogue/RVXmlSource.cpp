@@ -3,6 +3,7 @@
 #include "RVIconv_p.h"
 
 #include <QIODevice>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <cerrno>
@@ -46,28 +47,11 @@ bool hasWholeDeclaration(QByteArrayView bytes)
     return end >= 0 && end + largestLetter <= bytes.size();
 }
 
-/// Other instructions may begin with the same letters.
-bool isDeclaration(QByteArrayView text)
-{
-    constexpr QByteArrayView begin("<?xml");
-    return text.startsWith(begin) && text.size() > begin.size() && std::strchr(" \t\r\n", text[begin.size()])
-            && text[begin.size()] != '\0';
-}
-
 /// The name in the declaration; empty if the text has no declaration, or one without an encoding.
 QByteArray declaredEncoding(QByteArrayView text)
 {
-    const qsizetype end = text.indexOf("?>");
-    if (!isDeclaration(text) || end < 0)
-        return QByteArray();
-    const QByteArray declaration = text.first(end).toByteArray();
-    const qsizetype keyword = declaration.indexOf("encoding");
-    const qsizetype equals = keyword < 0 ? -1 : declaration.indexOf('=', keyword);
-    if (equals < 0)
-        return QByteArray();
-    const QByteArray value = declaration.sliced(equals + 1).trimmed();
-    const qsizetype valueEnd = value.isEmpty() ? -1 : value.indexOf(value.front(), 1);
-    return valueEnd < 0 ? QByteArray() : value.sliced(1, valueEnd - 1);
+    static const QRegularExpression encoding(uR"(^<\?xml\s[^>]*?encoding\s*=\s*(["'])([^>]*?)\1[^>]*\?>)"_s);
+    return encoding.match(QString::fromLatin1(text)).captured(2).toLatin1();
 }
 
 bool isName(const QByteArray &encoding)
@@ -219,7 +203,7 @@ void RVXmlSource::beginAsDeclared(const QByteArray &bytes)
     if (!myConverter->isKnown())
         myFault = tr("the encoding \"%1\", which the first line of the file declares, is not known; UTF-8 always is")
                           .arg(QString::fromUtf8(myEncoding));
-    else if (!isDeclaration(decoded(bytes)))
+    else if (!decoded(bytes).startsWith("<?xml"))
         myFault = tr("the first line of the file declares %1, but is not encoded in it")
                           .arg(QString::fromLatin1(myEncoding));
 }

@@ -184,6 +184,10 @@ void tst_RVCatalogueReader::products_data()
     QTest::newRow("UTF-32") << utf32(text) << both;
     QTest::newRow("beyond the first plane in UTF-16")
             << utf16(u"<p><product type='\U0001F4D5'/></p>"_s) << QStringList { u"\U0001F4D5"_s };
+    QTest::newRow("name of an element before a tabulator or a line end")
+            << QByteArray("<p><product\ttype='A'/><product\rtype='\xc3\x84'/></p>") << both;
+    QTest::newRow("white space around the name of the encoding")
+            << "<?xml version='1.0'\tencoding\n = \"ISO-8859-1\" ?>" + text.toLatin1() << both;
     QTest::newRow("CRLF") << QByteArray("<p>\r\n<product type='A'/>\r\n</p>\r\n") << one;
     QTest::newRow("white space in front") << QByteArray("\n \t<p><product type='A'/></p>") << one;
     QTest::newRow("external document type")
@@ -454,6 +458,19 @@ void tst_RVCatalogueReader::largeFaults_data()
     QTest::newRow("comment") << "<p>\n<a/><!--" + megabyte + "--></p>" << u"2:1: "_s + large;
     QTest::newRow("prolog") << "<!DOCTYPE p [" + QByteArray("<!ELEMENT a EMPTY>").repeated(100000)
                             << u"1:1: "_s + large;
+    QTest::newRow("largest text behind a tag") << "<p>" + megabyte.chopped(5) + "</p>" << QString();
+    QTest::newRow("text behind a tag, one byte too large")
+            << "<p>" + megabyte.chopped(4) + "</p>" << u"1:1: "_s + large;
+    const QByteArray longest = "<?xml version='1.0' encoding='ISO-8859-1'" + QByteArray(1024 - 43, ' ') + "?>";
+    QTest::newRow("longest declaration") << longest + "<p>\xe4</p>" << QString();
+    QTest::newRow("declaration is too long")
+            << QByteArray(longest).insert(5, ' ') + "<p>\xe4</p>" << u"1:1029: "_s + other;
+    // The parser gets a quarter of 64 KiB at once, so the tag begins at the second quarter.
+    const QByteArray largestTag = "<p>" + QByteArray(16 * 1024 - 3, ' ') + "<a b='" + megabyte.first(64 * 1024 - 9)
+            + "'/>";
+    QTest::newRow("largest allowed tag") << largestTag + "</p>" << QString();
+    QTest::newRow("tag one byte too large")
+            << QByteArray(largestTag).replace("<a b", "<a  b") + "</p>" << u"1:16385: a tag is larger than 64 KiB"_s;
     QTest::newRow("tag") << "<p>\n<a b='" + megabyte + "'/></p>" << u"2:1: a tag is larger than 64 KiB"_s;
 }
 
@@ -706,6 +723,13 @@ void tst_RVCatalogueReader::mapDoesNotWait()
                    return true;
                });
     QCOMPARE(events.join(u' '), u"piece A piece B C piece piece D end"_s);
+
+    // The letter that ends the first tag may be the first of four bytes, so the file begins with seven bytes here.
+    QStringList eventsOfTag;
+    SlowPipe root({ "<product type='A'/>\n\n\n", "<!-- -->" }, &eventsOfTag);
+    RVCatalogueReader rootReader(&root);
+    QCOMPARE(rootReader.next().type().toString(), u"A"_s);
+    QCOMPARE(eventsOfTag, QStringList { u"piece"_s });
 }
 
 void tst_RVCatalogueReader::mapStops()
