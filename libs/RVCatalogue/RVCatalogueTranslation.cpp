@@ -6,7 +6,7 @@ namespace {
 
 RVInstalledTranslator translator()
 {
-    static const char here = 0;
+    static const char here = '\0';
     return RVInstalledTranslator(QStringLiteral("RVCatalogue"), &here);
 }
 

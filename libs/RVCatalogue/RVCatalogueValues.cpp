@@ -27,7 +27,6 @@ auto unlessDefault(const RVCatalogueElement &element, QLatin1StringView name, Re
 {
     QDomDocument document;
     QDomElement copy = document.createElement(u"element"_s);
-    document.appendChild(copy);
     copy.setAttribute(name, element.attribute(name));
     const auto value = read(copy, name, false);
     if (value != read(copy, name, true))

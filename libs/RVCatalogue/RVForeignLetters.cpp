@@ -60,7 +60,8 @@ QString plainOf(char32_t letter)
         return QString::number(QChar::digitValue(letter));
     if (QChar::category(letter) == QChar::Punctuation_Dash)
         return u"-"_s;
-    const QString compatible = QString::fromUcs4(&letter, 1).normalized(QString::NormalizationForm_KC);
+    const QString compatible =
+            QStringView(QChar::fromUcs4(letter)).toString().normalized(QString::NormalizationForm_KC);
     const bool isAscii = std::all_of(compatible.begin(), compatible.end(),
                                      [](QChar each) { return each.unicode() <= LAST_PLAIN; });
     return isAscii ? compatible : QString();
@@ -88,7 +89,7 @@ void RVForeignLetters::append(char32_t letter)
     const bool isUnseen = isInvisible(letter);
     const QString plain = QChar::isSpace(letter) ? u" "_s : plainOf(letter);
     if (!isUnseen)
-        myPlain += plain.isNull() ? QString::fromUcs4(&letter, 1) : plain;
+        myPlain += plain.isNull() ? QStringView(QChar::fromUcs4(letter)) : QStringView(plain);
     if (!isEmpty() || (!isUnseen && plain.isNull() && !isOfOtherScript(letter)))
         return;
     myFirst = letter;

@@ -95,10 +95,10 @@ void RVSilencer::take(const RVCatalogueFinding &finding, quint32 element)
     const RVCatalogueRuleId rule = RVCatalogueRuleRow::of(finding.rule())->id;
     bool isSilent = myData.scope && myData.scope->silences(rule);
     for (OpenComment &open : myOpen) {
-        if (element < open.comment->element || element >= endOf(*open.comment))
-            continue;
-        open.broken.set(std::size_t(rule));
-        isSilent = isSilent || open.comment->names(rule);
+        if (element >= open.comment->element && element < endOf(*open.comment)) {
+            open.broken.set(std::size_t(rule));
+            isSilent = isSilent || open.comment->names(rule);
+        }
     }
     myBroken.set(std::size_t(rule));
     if (!isSilent)

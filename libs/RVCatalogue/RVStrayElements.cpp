@@ -15,7 +15,8 @@ namespace {
 
 constexpr qsizetype MOST = 1000;
 
-constexpr QLatin1StringView PRODUCT_NAMES[] = { "product"_L1 };
+constexpr auto PRODUCT = "product"_L1;
+constexpr QLatin1StringView PRODUCT_NAMES[] = { PRODUCT };
 
 QString typeOf(const RVXmlTag &tag)
 {
@@ -56,12 +57,13 @@ bool isPlural(QByteArrayView name)
 
 std::optional<RVStrayElement> strayProduct(const RVXmlTag &tag)
 {
-    const qsizetype colon = tag.name.indexOf(':');
-    if (colon >= 0 && rvIsName(tag.name.sliced(colon + 1), PRODUCT_NAMES[0]))
-        return stray(tag, RVCatalogueRuleId::ElementPrefixed, PRODUCT_NAMES[0]);
-    if (colon < 0 && !rvGuessName(tag.name, PRODUCT_NAMES).names.isEmpty() && !isPlural(tag.name))
-        return stray(tag, RVCatalogueRuleId::ElementMisspelt, PRODUCT_NAMES[0]);
-    return std::nullopt;
+    if (tag.name.contains(':')) {
+        const bool isProduct = rvIsName(tag.name.sliced(tag.name.indexOf(':') + 1), PRODUCT);
+        return isProduct ? std::optional(stray(tag, RVCatalogueRuleId::ElementPrefixed, PRODUCT)) : std::nullopt;
+    }
+    if (rvGuessName(tag.name, PRODUCT_NAMES).names.isEmpty() || isPlural(tag.name))
+        return std::nullopt;
+    return stray(tag, RVCatalogueRuleId::ElementMisspelt, PRODUCT);
 }
 
 QString textOf(const RVStrayElement &element)
