@@ -510,6 +510,7 @@ private Q_SLOTS:
     void encodings_data();
     void encodings();
     void findingsBeforeAnError();
+    void findingsInOrder();
     void longTexts();
     void manyProducts();
     void duplicatesFarApart();
@@ -997,6 +998,17 @@ void tst_RVCatalogueCheck::findingsBeforeAnError()
                     { u"2 error article-id-missing: the product has no article id; write its number into article_id"_s,
                       u"3 error type-duplicate: the type \"A\" is already that of the product in line 2; write another, or take out one"_s }));
     QCOMPARE(check("<p>").texts(), QStringList());
+}
+
+// The order is that of the file, also for findings about other products.
+void tst_RVCatalogueCheck::findingsInOrder()
+{
+    const Checked checked = check("<p>\n<product type='A' article_id='1'/>\n"
+                                  "<product pages='x' article_id='2' orientation='y' type='A'/></p>");
+    QStringList rules;
+    for (const RVCatalogueFinding &finding : checked.findings)
+        rules += finding.rule().name();
+    QCOMPARE(rules, (QStringList { u"number-invalid"_s, u"keyword-unknown"_s, u"type-duplicate"_s }));
 }
 
 // A finding is one line of moderate length for every content of the catalogue.

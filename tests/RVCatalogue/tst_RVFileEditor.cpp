@@ -240,6 +240,7 @@ void tst_RVFileEditor::bytes_data()
         "<a>\r\n\r\n<b c='2'/>\r\n</a>\r\n");
     row("mixed lines", "<a>\n\r\r\n\n<b c='1'/></a>", { edit(5, 7, 5, 8, u"2"_s) }, "<a>\n\r\r\n\n<b c='2'/></a>");
     row("end of a line", "<a>\r\n</a>", { edit(1, 4, 1, 4, u" "_s) }, "<a> \r\n</a>");
+    row("carriage return of a line", "<a>\r\n</a>", { edit(1, 4, 1, 5, QString()) }, "<a>\n</a>");
     row("across lines", "<a>\r\n\r\n</a>", { edit(1, 4, 3, 1, u" "_s) }, "<a> </a>");
     row("text with a line end", "<a b='1'/>", { edit(3, 4, u"\r\n"_s) }, "<a\r\nb='1'/>");
 }
@@ -266,6 +267,8 @@ void tst_RVFileEditor::impossible_data()
 
     row("no such line", "<a>\n</a>", edit(3, 1, 3, 1, u" "_s), u"there is no line 3 with a column 1"_s);
     row("behind the line", "<a>\n</a>", edit(1, 2, 1, 5, u" "_s), u"there is no line 1 with a column 5"_s);
+    row("behind the line, which ends with a carriage return", "<a>\r</a>", edit(1, 2, 1, 5, u" "_s),
+        u"there is no line 1 with a column 5"_s);
     row("behind the file", "<a/>", edit(1, 6, u" "_s), u"there is no line 1 with a column 6"_s);
     row("before the first column", "<a/>", edit(0, 1, u" "_s), u"there is no line 1 with a column 0"_s);
     row("within a letter", "<a b='\xf0\x9f\x8e\x89'/>", edit(8, 9, u" "_s), u"there is no line 1 with a column 8"_s);

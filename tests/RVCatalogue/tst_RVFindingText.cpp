@@ -266,6 +266,10 @@ void tst_RVFindingText::numbers_data()
             << u"2 6"_s << u"pages is \"2 6\", which is no whole number; write nothing but digits"_s;
     QTest::newRow("blank behind the sign") << u"+ 26"_s << u"pages is \"+ 26\", which is no whole number; write +26"_s;
     QTest::newRow("largest") << u"2147483647"_s << QString();
+    QTest::newRow("largest with decimals")
+            << u"2147483647.0"_s << u"pages is \"2147483647.0\", which is no whole number; write 2147483647"_s;
+    QTest::newRow("smallest with decimals")
+            << u"-2147483648.0"_s << u"pages is \"-2147483648.0\", which is no whole number; write -2147483648"_s;
     QTest::newRow("too large") << u"2147483648"_s
                                << u"pages is \"2147483648\", which is too large; write at most 2147483647"_s;
     QTest::newRow("far too large")
@@ -310,6 +314,9 @@ void tst_RVFindingText::lengths_data()
     QTest::newRow("unit in German") << u"8 Zoll"_s << no("8 Zoll", "the unit belongs to \"units\": write 8");
     QTest::newRow("number and letter") << u"8 x"_s << no("8 x", "write digits, and a point before decimals");
     QTest::newRow("infinite") << u"inf"_s << no("inf", "write digits, and a point before decimals");
+    QTest::newRow("comma at the end") << u"8,"_s << no("8,", "decimals have a point: write 8");
+    QTest::newRow("letter that is partly of ASCII")
+            << u"8\u33a7"_s << no("8\u33a7", "write digits, and a point before decimals");
     QTest::newRow("two commas") << u"8,5,1"_s << no("8,5,1", "write digits, and a point before decimals");
     QTest::newRow("blank before the point") << u"8 .5"_s << no("8 .5", "write 8.5");
     QTest::newRow("too large") << u"1e400"_s
@@ -338,6 +345,7 @@ void tst_RVFindingText::booleans_data()
     QTest::newRow("letter missing") << u"fals"_s << no(u"fals"_s, u"did you mean \"false\"?"_s);
     QTest::newRow("blank") << u" Yes"_s << no(u" Yes"_s, u"did you mean \"Yes\"?"_s);
     QTest::newRow("two letters wrong") << u"treu"_s << no(u"treu"_s, u"did you mean \"true\"?"_s);
+    QTest::newRow("two letters too many") << u"ffaalse"_s << no(u"ffaalse"_s, all);
     QTest::newRow("near true and false") << u"o"_s << no(u"o"_s, all);
     QTest::newRow("other language") << u"ja"_s << no(u"ja"_s, all);
     QTest::newRow("other number") << u"2"_s << no(u"2"_s, all);

@@ -177,6 +177,7 @@ void tst_RVNameCheck::found_data()
     attribute("letter replaced behind a p", product("phges='2'"), u"phges='2'"_s);
     attribute("letter too many in photo", product("pages='9' phooto_box='true'"), u"phooto_box='true'"_s);
     attribute("foto", product("pages='9' foto_box='true'"), u"foto_box='true'"_s);
+    attribute("foto and a wrong letter", product("pages='9' foto_bax='true'"), u"foto_bax='true'"_s);
     attribute("short name, letter missing", product("nam='a'"), u"nam='a'"_s);
     attribute("short name, letter too many", product("names='a'"), u"names='a'"_s);
     attribute("short name, letters swapped", product("nmae='a'"), u"nmae='a'"_s);
@@ -257,6 +258,7 @@ void tst_RVNameCheck::found_data()
     };
     prefixed("option with a prefix", forms("<x:form xmlns:x='u' key='a' value='b'/>"), u"<x:form>"_s);
     prefixed("part of a product with a prefix", product("", "<x:forms xmlns:x='u'><form/></x:forms>"), u"<x:forms>"_s);
+    prefixed("product with an empty prefix", "<products><:product type='A'/></products>", u"<:product>"_s);
     prefixed("product with a prefix", "<p:products xmlns:p='u'><p:product type='A'><forms/></p:product></p:products>",
              u"<p:product>"_s);
 }
@@ -577,6 +579,12 @@ void tst_RVNameCheck::switchedOff()
     const CheckedCatalogue withoutProduct("<products><prodcut/></products>", other);
     QCOMPARE(withoutProduct.findings().size(), 1);
     QCOMPARE(withoutProduct.findings().first().rule().name(), "products-missing"_L1);
+
+    RVCatalogueCheck strict;
+    strict.setSeverity(RVCatalogueRule::find(u"element-misspelt"), RVCatalogueSeverity::Error);
+    const CheckedCatalogue withError("<products><prodcut/></products>", strict);
+    QCOMPARE(withError.findings().size(), 1);
+    QCOMPARE(withError.findings().first().severity(), RVCatalogueSeverity::Error);
 }
 
 // Elements outside of products give findings about the file, in its order, with their type.

@@ -393,6 +393,8 @@ void tst_RVProductComparison::equal_data()
         book("", "<composition><spine base_width='1'/><spine base_width='2'/></composition><composition/>"));
     row("order of barcodes", barcodes("<barcode pageNr='1'/><barcode pageNr='2'/>"),
         barcodes("<barcode pageNr='2'/><barcode pageNr='1'/>"));
+    row("order of barcodes on one page", barcodes("<barcode position_x='1'/><barcode position_x='9'/>"),
+        barcodes("<barcode position_x='9'/><barcode position_x='1'/>"));
     row("barcode without extent", barcodes(""), barcodes("<barcode width='0'/>"));
     row("default image", barcodes("<barcode/>"), barcodes("<barcode image='dummy-barcode.png'/>"));
     row("order of options", forms("<form key='a' value='1' preselected='1'/><form key='b' value='2' preselected='1'/>"),

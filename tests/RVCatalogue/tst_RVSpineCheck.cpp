@@ -81,6 +81,12 @@ void tst_RVSpineCheck::width_data()
             << QStringList { u"block_width='2.1': spine-too-wide"_s };
     QTest::newRow("too wide by its sides") << spine("base_width='8' additional_width='40'")
                                            << QStringList { u"additional_width='40': spine-too-wide"_s };
+    QTest::newRow("too wide by two sides") << spine("base_width='50' additional_width='26'")
+                                           << QStringList { u"additional_width='26': spine-too-wide"_s };
+    QTest::newRow("too wide by its base")
+            << spine("base_width='50' additional_width='24'") << QStringList { u"base_width='50': spine-too-wide"_s };
+    QTest::newRow("too wide by its base as much as by its sides")
+            << spine("base_width='50' additional_width='25'") << QStringList { u"base_width='50': spine-too-wide"_s };
     QTest::newRow("in an unknown unit") << spine("base_width='900'", "metre")
                                         << QStringList { u"units='metre': unit-unknown"_s };
     QTest::newRow("page counts are invalid")
