@@ -22,7 +22,7 @@ struct Option
     RVConfiguredArticleVariant variant;
     QString name;
     QString priceClass;
-    int number = 0; // the number among the options with the same key and value
+    int number; // the number among the options with the same key and value
 };
 
 /// The options of a product, found by key, value and number.
@@ -45,36 +45,23 @@ public:
     /// The option; null if there is none.
     const Option *find(const Option &other) const
     {
-        const auto found = myIndexes.constFind({ other.variant.key(), other.variant.value(), other.number });
-        return found == myIndexes.constEnd() ? nullptr : &myOptions.at(*found);
+        const QList<std::size_t> indexes = myIndexes.value({ other.variant.key(), other.variant.value() });
+        return other.number < indexes.size() ? &myOptions.at(indexes.at(other.number)) : nullptr;
     }
     RVArticleVariants defaults() const { return myVariants.defaultVariants(); }
 
 private:
-    struct Id
-    {
-        QString key;
-        QString value;
-        int number;
-
-        friend bool operator==(const Id &a, const Id &b)
-        {
-            return a.number == b.number && a.key == b.key && a.value == b.value;
-        }
-        friend size_t qHash(const Id &id, size_t seed) { return qHashMulti(seed, id.key, id.value, id.number); }
-    };
-
     void append(const RVConfiguredArticleVariant &variant, const RVCatalogueElement &form)
     {
-        int &number = myNumbers[{ variant.key(), variant.value(), 0 }];
-        myIndexes.insert({ variant.key(), variant.value(), number }, myOptions.size());
-        myOptions.push_back({ variant, form.attribute("name"_L1), form.attribute("price_class"_L1), number++ });
+        QList<std::size_t> &indexes = myIndexes[{ variant.key(), variant.value() }];
+        const int number = int(indexes.size());
+        indexes += myOptions.size();
+        myOptions.push_back({ variant, form.attribute("name"_L1), form.attribute("price_class"_L1), number });
     }
 
     RVConfiguredArticleVariantList myVariants;
     std::vector<Option> myOptions;
-    QHash<Id, std::size_t> myIndexes;
-    QHash<Id, int> myNumbers;
+    QHash<std::pair<QString, QString>, QList<std::size_t>> myIndexes; // by key and value
 };
 
 QString colorName(const QColor &color)
