@@ -56,10 +56,10 @@ private:
     qsizetype myAt;
 };
 
-/// Name space declarations are attributes in the tag, but not for the parser.
-bool isNameSpace(QByteArrayView name)
+/// Name space declarations are attributes in the tag, but not for the parser, whose next attribute has an index.
+bool isNameSpace(QByteArrayView name, const RVXmlTag &tag, int index)
 {
-    return name == "xmlns" || name.startsWith("xmlns:");
+    return name.startsWith("xmlns") && (index == tag.givenAttributes || name != tag.attributeName(index));
 }
 
 }
@@ -87,8 +87,7 @@ void RVCatalogueRows::appendGiven(const RVXmlTag &tag, quint32 begin)
         attribute.name.begin += begin;
         attribute.value.begin += begin;
         attribute.end += begin;
-        const bool isRead = !isNameSpace(name) && parsed < tag.givenAttributes;
-        const QByteArrayView value = isRead ? tag.attributeValue(parsed++) : given;
+        const QByteArrayView value = isNameSpace(name, tag, parsed) ? given : tag.attributeValue(parsed++);
         if (value != given)
             attribute.value = append(value);
         attributes.push_back(attribute);

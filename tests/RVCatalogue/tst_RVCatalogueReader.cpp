@@ -197,6 +197,9 @@ void tst_RVCatalogueReader::products_data()
     QTest::newRow("prefix not declared") << QByteArray("<x:p><product type='A'/></x:p>") << one;
     QTest::newRow("name spaces") << QByteArray("<p><product xmlns='urn:a' type='A' xmlns:b='urn:b' b:c='d'/></p>")
                                  << one;
+    QTest::newRow("attributes with names like those of name spaces")
+            << QByteArray("<p><product xmlns:='a' type='A' xmlnsx='b'/><product xmlns:1='c' type='\xc3\x84'/></p>")
+            << both;
     QTest::newRow("element with a prefix is no product")
             << QByteArray("<p xmlns:x='urn:x'><x:product type='B'/><product type='A'/></p>") << one;
     QTest::newRow("product is the root") << QByteArray("<product type='A'/>") << one;
