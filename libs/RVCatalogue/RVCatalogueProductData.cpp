@@ -56,10 +56,11 @@ private:
     qsizetype myAt;
 };
 
-/// Name space declarations are attributes in the tag, but not for the parser, whose next attribute has an index.
-bool isNameSpace(QByteArrayView name, const RVXmlTag &tag, int index)
+/// True if the attribute of the tag is the one that the parser has at the index. Name space declarations are attributes
+/// in the tag, but not for the parser.
+bool isParsed(QByteArrayView name, const RVXmlTag &tag, int index)
 {
-    return name.startsWith("xmlns") && (index == tag.givenAttributes || name != tag.attributeName(index));
+    return index < tag.givenAttributes && (!name.startsWith("xmlns") || name == tag.attributeName(index));
 }
 
 }
@@ -87,7 +88,7 @@ void RVCatalogueRows::appendGiven(const RVXmlTag &tag, quint32 begin)
         attribute.name.begin += begin;
         attribute.value.begin += begin;
         attribute.end += begin;
-        const QByteArrayView value = isNameSpace(name, tag, parsed) ? given : tag.attributeValue(parsed++);
+        const QByteArrayView value = isParsed(name, tag, parsed) ? tag.attributeValue(parsed++) : given;
         if (value != given)
             attribute.value = append(value);
         attributes.push_back(attribute);

@@ -236,7 +236,7 @@ void RVXmlScanner::bite(QByteArrayView text)
     if (!myError.isEmpty())
         return;
     checkPiece(myFed);
-    if (myFed - parsed() >= LARGEST_TAG && textFrom(parsed()).startsWith('<')
+    if (myFed - parsed() >= LARGEST_TAG && textFrom(parsed()).startsWith('<') && textFrom(parsed()).size() > 1
         && !std::strchr("!?", textFrom(parsed())[1]))
         failAt(tr("a tag is larger than 64 KiB"), parsed());
 }
@@ -410,7 +410,7 @@ void RVXmlScanner::judge(const _xmlError &error)
     const QByteArrayView before = textBefore(index);
     if (isUnknownEntity)
         return refuseUnknownEntity(shown(QByteArrayView(error.str1)), before);
-    if (error.code == XML_ERR_TAG_NAME_MISMATCH && !myOpenElements.empty())
+    if (error.code == XML_ERR_TAG_NAME_MISMATCH && !myOpenElements.empty() && !before.isEmpty())
         return failAt(wrongEnd(before), myWindowBegin + lastTag(before));
     const bool isUnfinished = !myOpenElements.empty() || error.code == XML_ERR_DOCUMENT_EMPTY || !myHasElements;
     if (myIsEnding && isUnfinished && !isForbidden(letterIn(textFrom(index))))
@@ -427,7 +427,7 @@ QByteArrayView RVXmlScanner::innermostName() const
 QString RVXmlScanner::wrongEnd(QByteArrayView text) const
 {
     const OpenElement &open = myOpenElements.back();
-    const QByteArrayView tag = text.sliced(lastTag(text) + 1);
+    const QByteArrayView tag = text.sliced(qMin(lastTag(text) + 1, text.size() - 1));
     return tr("</%1> closes <%2>, which was opened in line %3")
             .arg(shown(nameOf(tag)), shown(innermostName()), QString::number(open.line));
 }
