@@ -10,6 +10,7 @@ Tests run from the nearest to the farthest, and no further than the first that f
 all others. The same seed makes the same changes of the same sources.
 """
 import collections
+import filecmp
 import os
 import pathlib
 import random
@@ -114,11 +115,7 @@ class Tree:
 
     def __init__(self, sources, work, folder):
         self.copy, self.build, self.folder = work / "sources", work / "build", folder
-        shutil.rmtree(self.copy, ignore_errors=True)
-        names = subprocess.run(["git", "-C", sources, "ls-files", "-z"], stdout=subprocess.PIPE, check=True).stdout
-        for name in filter(None, names.decode().split("\0")):
-            (self.copy / name).parent.mkdir(parents=True, exist_ok=True)
-            shutil.copy2(sources / name, self.copy / name, follow_symlinks=False)
+        self.take(sources)
         # A library that changes inside needs no new link of what uses it. Most of the time goes into compiling, so the
         # compiler neither describes the code to a debugger nor tries hard.
         run(["cmake", "-S", self.copy, "-B", self.build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=None", "-DCMAKE_CXX_FLAGS=-O1",
@@ -128,6 +125,18 @@ class Tree:
         excluded = "slow|compile|library" if folder.parts[0] == "apps" else "slow|compile"
         listing = run(["ctest", "--test-dir", self.build, "-N", "-LE", excluded, "-E", UNRELATED]).stdout.decode()
         self.tests = re.findall(r"Test +#\d+: (\S+)", listing)
+
+    def take(self, sources):
+        """Makes the copy equal to the files that git knows. What has not changed stays, so that it is not compiled again."""
+        listing = subprocess.run(["git", "-C", sources, "ls-files", "-z"], stdout=subprocess.PIPE, check=True).stdout
+        names = list(filter(None, listing.decode().split("\0")))
+        for name in names:
+            copy = self.copy / name
+            copy.parent.mkdir(parents=True, exist_ok=True)
+            if not copy.is_file() or not filecmp.cmp(sources / name, copy, shallow=False):
+                shutil.copy(sources / name, copy)
+        for copy in set(path for path in self.copy.rglob("*") if path.is_file()) - {self.copy / name for name in names}:
+            copy.unlink()
 
     def stages(self, file):
         """Tests and what is to be built for them, from the nearest to the farthest."""

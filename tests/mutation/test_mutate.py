@@ -2,6 +2,7 @@
 """Tries mutate.py: which changes it makes to a source, and what it says of tests that notice them or not."""
 import contextlib
 import io
+import os
 import pathlib
 import subprocess
 import sys
@@ -110,15 +111,29 @@ class Mutate(unittest.TestCase):
             (sources / name).write_text(text)
         subprocess.run(["git", "init", "--quiet", sources], check=True)
         subprocess.run(["git", "-C", sources, "add", "."], check=True)
-        output = io.StringIO()
-        with contextlib.redirect_stdout(output):
-            code = mutate.main(sources, self.folder / "work", 100, pathlib.Path("libs/numbers"), 1)
-        *lines, last = output.getvalue().splitlines()
+        code, lines, last = self.mutate(sources)
         judged = dict(reversed(line.split(" ", 1)[1].split(": libs/numbers/Number.cpp:")) for line in lines)
         self.assertEqual(judged, JUDGED)
         self.assertEqual(last, "5 of 7 changes of libs/numbers were noticed; seed 1")
         self.assertEqual(code, 1)
         self.assertEqual((sources / "libs/numbers/Number.cpp").read_text(), TREE["libs/numbers/Number.cpp"])
+
+        # The build is newer than the test that has changed, and a file is no longer there.
+        test = sources / "tests/numbers/tst_all.cpp"
+        test.write_text(test.read_text().replace("isSeen(1) &&", "isSeen(1) && isSeen(999) && !isSeen(1000) &&"))
+        os.utime(test, (0, 0))
+        (self.folder / "work/sources/libs/numbers/Removed.cpp").write_text("bool isOld(int number) { return number < 3; }")
+        code, lines, last = self.mutate(sources)
+        self.assertEqual(last, "7 of 7 changes of libs/numbers were noticed; seed 1")
+        self.assertEqual(code, 0)
+
+    def mutate(self, sources):
+        """The exit code, the lines and the last line of a run."""
+        output = io.StringIO()
+        with contextlib.redirect_stdout(output):
+            code = mutate.main(sources, self.folder / "work", 100, pathlib.Path("libs/numbers"), 1)
+        *lines, last = output.getvalue().splitlines()
+        return code, lines, last
 
     def test_missing_folder(self):
         with self.assertRaisesRegex(SystemExit, "there is no folder"):
