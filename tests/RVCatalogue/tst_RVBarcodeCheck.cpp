@@ -114,6 +114,31 @@ void tst_RVBarcodeCheck::usualPage_data()
        barcode("position_x='12' position_y='400' width='38' height='10' pageNr='2'", "space_magnitude='600cm2'"));
     on("orientation is none", endingAt("50", "400", "none", "600cm2"));
     on("orientation is any", endingAt("50", "400", "all", "600cm2"));
+    on("largest area of a class", endingAt("349", "218", "landscape", "600cm2"));
+    const auto wide = [](const QByteArray &place) {
+        return barcode("position_x='" + place + "' position_y='50' width='38' height='10' pageNr='2'",
+                       "orientation='landscape' space_magnitude='600cm2'");
+    };
+    on("right edge of the widest usual page", wide("352.6"));
+    off("right of the widest usual page", wide("352.7"), u"position_x='352.7'"_s);
+    const auto high = [](const QByteArray &place) {
+        return barcode("position_x='12' position_y='" + place + "' width='38' height='10' pageNr='2'",
+                       "orientation='portrait' space_magnitude='600cm2'");
+    };
+    on("lower edge of the slimmest usual page", high("390.6"));
+    off("below the slimmest usual page", high("390.7"), u"position_y='390.7'"_s);
+    on("lower edge of the highest slim page", endingAt("50", "195", "landscape_slim", "600cm2"));
+    off("below the highest slim page", endingAt("50", "196", "landscape_slim", "600cm2"), u"position_y='196'"_s);
+    const auto outside = [](const char *situation, const QByteArray &file, const QString &place) {
+        QTest::newRow(situation) << file << QStringList { place + ": barcode-outside-page"_L1 };
+    };
+    outside("smallest area of the next class", endingAt("350", "218", "landscape", "600cm2"), u"position_x='312'"_s);
+    off("right edge of the widest upright page", endingAt("276", "50", "portrait", "600cm2"), u"position_x='238'"_s);
+    outside("right of the widest upright page", endingAt("277", "50", "portrait", "600cm2"), u"position_x='239'"_s);
+    off("lower edge of the highest wide page", endingAt("50", "276", "landscape", "600cm2"), u"position_y='276'"_s);
+    outside("below the highest wide page", endingAt("50", "277", "landscape", "600cm2"), u"position_y='277'"_s);
+    off("right edge of the widest page", endingAt("873", "50", "landscape", "600cm2"), u"position_x='835'"_s);
+    outside("right of the widest page", endingAt("874", "50", "landscape", "600cm2"), u"position_x='836'"_s);
     on("right edge of the longest page", endingAt("3000", "50", "none", "normal"));
     on("lower edge of the longest page", endingAt("50", "3000", "none", "normal"));
     QTest::newRow("right of the longest page")

@@ -143,6 +143,19 @@ void tst_RVCatalogueComparison::products_data()
     row("changed", "<p><product type='A' pages='3'/><product type='B'/></p>",
         "<p><product type='A' pages='3' name='x'/><product type='B' name='y' price_class='z'/></p>",
         { u"changed A name"_s, u"changed B name price_class"_s }, "0 added, 0 removed, 2 changed, 0 renamed, 0 equal");
+    row("same value in another attribute", "<p><product type='A' name='x'/></p>",
+        "<p><product type='A' price_class='x'/></p>", { u"changed A name price_class"_s },
+        "0 added, 0 removed, 1 changed, 0 renamed, 0 equal");
+    row("element outside of its list", "<p><product type='A'><forms><form key='a' value='b'/></forms></product></p>",
+        "<p><product type='A'><forms/><form key='a' value='b'/></product></p>",
+        { u"changed A option option.default"_s }, "0 added, 0 removed, 1 changed, 0 renamed, 0 equal");
+    row("element with another name", "<p><product type='A'><forms><form key='a' value='b'/></forms></product></p>",
+        "<p><product type='A'><forms><from key='a' value='b'/></forms></product></p>",
+        { u"changed A option option.default"_s }, "0 added, 0 removed, 1 changed, 0 renamed, 0 equal");
+    row("attributes in place of elements",
+        "<p><product type='A'><x forms='4'/><form key='a' value='b'><z/></form></product></p>",
+        "<p><product type='A'><x/><forms><form key='a' value='b' z='4'/></forms></product></p>",
+        { u"changed A option option.default"_s }, "0 added, 0 removed, 1 changed, 0 renamed, 0 equal");
     row("second of a type", "<p><product type='A' name='1'/><product type='A' name='2'/></p>",
         "<p><product type='A' name='1'/><product type='A' name='3'/><product type='A' name='4'/></p>",
         { u"changed A name"_s, u"added A"_s }, "1 added, 0 removed, 1 changed, 0 renamed, 1 equal");
@@ -151,6 +164,11 @@ void tst_RVCatalogueComparison::products_data()
     row("renamed", "<p><product type='A' article_id='7' name='1'/><product type='B' article_id='8'/></p>",
         "<p><product type='B' article_id='8'/><product type='C' article_id='7' name='2'/></p>",
         { u"changed A> C type name"_s }, "0 added, 0 removed, 1 changed, 1 renamed, 1 equal");
+    row("renamed with the lowest article", "<p><product type='A' article_id='1'/></p>",
+        "<p><product type='B' article_id='1'/></p>", { u"changed A> B type"_s },
+        "0 added, 0 removed, 1 changed, 1 renamed, 0 equal");
+    row("articles below 0", "<p><product type='A' article_id='-1'/></p>", "<p><product type='B' article_id='-1'/></p>",
+        { u"removed A"_s, u"added B"_s }, "1 added, 1 removed, 0 changed, 0 renamed, 0 equal");
     row("article of a product that stayed", "<p><product type='A' article_id='7'/></p>",
         "<p><product type='C' article_id='7'/><product type='A' article_id='7'/></p>", { u"added C"_s },
         "1 added, 0 removed, 0 changed, 0 renamed, 1 equal");

@@ -349,6 +349,10 @@ void tst_RVCatalogueReader::errors_data()
             << QByteArray("<p><a b='\0'/></p>", 18) << u"1:10: the character U+0000 is not allowed in XML"_s;
     QTest::newRow("zero byte in a tag that is cut off")
             << QByteArray("<p>\n<a\0\0\0", 9) << u"2:3: the character U+0000 is not allowed in XML"_s;
+    QTest::newRow("control character behind the name of an element")
+            << QByteArray("<p>\n<product\x1b type='A'/></p>") << u"2:9: the character U+001B is not allowed in XML"_s;
+    QTest::newRow("control character behind an attribute") << QByteArray("<p>\n<product type='A' \x1b name='B'/></p>")
+                                                           << u"2:19: the character U+001B is not allowed in XML"_s;
     QTest::newRow("no character of Unicode")
             << QByteArray("<p>\xef\xbf\xbf</p>") << u"1:4: the character U+FFFF is not allowed in XML"_s;
 

@@ -182,6 +182,9 @@ void tst_RVCheckConfiguration::fine_data()
     QTest::newRow("TOML with a byte order mark") << u"a.toml"_s
                                                  << QByteArray("\xEF\xBB\xBF"
                                                                "foreign = [\n'a', # b\n]\n");
+    QTest::newRow("letter that ends with the first byte beyond ASCII")
+            << u"a.toml"_s << QByteArray("foreign = ['\xC3\x80']\n");
+    QTest::newRow("largest page") << u"a.toml"_s << QByteArray("page_sizes.A = { width = 10000, height = 0.5 }\n");
     QTest::newRow("empty JSON object") << u"a.json"_s << QByteArray("{}");
     QTest::newRow("JSON in capitals") << u"A.JSON"_s << QByteArray(R"({"rules": {}, "foreign": []})");
     QTest::newRow("JSON with a byte order mark") << u"a.json"_s << QByteArray("\xEF\xBB\xBF{}");
@@ -211,6 +214,19 @@ void tst_RVCheckConfiguration::faults_data()
     QTest::newRow("entry in another letter case")
             << QByteArray("Foreign = []") << u"1:1"_s << QByteArray(R"({"Foreign": []})")
             << u"there is no entry \"Foreign\"; did you mean \"foreign\"?"_s;
+    QTest::newRow("entry with three letters missing")
+            << QByteArray("pag_szs = 1") << u"1:1"_s << QByteArray(R"({"pag_szs": 1})")
+            << u"there is no entry \"pag_szs\"; did you mean \"page_sizes\"?"_s;
+    QTest::newRow("short entry with two wrong letters")
+            << QByteArray("ralex = 1") << u"1:1"_s << QByteArray(R"({"ralex": 1})")
+            << u"there is no entry \"ralex\"; did you mean \"rules\"?"_s;
+    const QString entries = u"there are: rules, foreign, price_classes, page_sizes"_s;
+    QTest::newRow("short entry with three wrong letters")
+            << QByteArray("forexx = 1") << u"1:1"_s << QByteArray(R"({"forexx": 1})")
+            << u"there is no entry \"forexx\"; "_s + entries;
+    QTest::newRow("entry with four wrong letters")
+            << QByteArray("xxxx_sizes = 1") << u"1:1"_s << QByteArray(R"({"xxxx_sizes": 1})")
+            << u"there is no entry \"xxxx_sizes\"; "_s + entries;
     QTest::newRow("unknown entry") << QByteArray("\n  colours = 1") << u"2:3"_s << QByteArray(R"({"colours": 1})")
                                    << u"there is no entry \"colours\"; there are: rules, foreign, price_classes, "
                                       "page_sizes"_s;
@@ -259,6 +275,14 @@ void tst_RVCheckConfiguration::faults_data()
     QTest::newRow("page size without height")
             << QByteArray("[page_sizes]\nDUN9 = { width = 210 }") << u"2:1"_s
             << QByteArray(R"({"page_sizes": {"DUN9": {"width": 210}}})") << u"page_sizes.DUN9.height is missing"_s;
+    QTest::newRow("page size without width and height")
+            << QByteArray("[page_sizes]\nDUN9 = {}") << u"2:1"_s << QByteArray(R"({"page_sizes": {"DUN9": {}}})")
+            << u"page_sizes.DUN9.width is missing"_s;
+    QTest::newRow("width as a table") << QByteArray("[page_sizes]\nDUN9 = { width = { mm = 210 }, height = 297 }")
+                                      << u"2:18"_s
+                                      << QByteArray(
+                                                 R"({"page_sizes": {"DUN9": {"width": {"mm": 210}, "height": 297}}})")
+                                      << u"page_sizes.DUN9.width must be a number, but is a table"_s;
     QTest::newRow("width as a text") << QByteArray("[page_sizes]\nDUN9 = { width = '210', height = 297 }") << u"2:18"_s
                                      << QByteArray(R"({"page_sizes": {"DUN9": {"width": "210", "height": 297}}})")
                                      << u"page_sizes.DUN9.width must be a number, but is a text"_s;

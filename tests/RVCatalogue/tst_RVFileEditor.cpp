@@ -590,8 +590,9 @@ void tst_RVFileEditor::saveAccessControlList()
     const auto list = [](quint8 permissions) {
         QByteArray result("\2\0\0\0", 4);
         for (const char tag : { '\x01', '\x02', '\x04', '\x10', '\x20' }) {
-            const char id = tag == '\x02' ? '\1' : '\xff';
-            result += QByteArray { tag, '\0' } + QByteArray { char(permissions), '\0' } + QByteArray(4, id);
+            const char entry[] = { tag, 0, char(permissions), 0 };
+            result += QByteArray(entry, sizeof(entry));
+            result += tag == '\x02' ? QByteArray("\1\0\0\0", 4) : QByteArray(4, '\xff');
         }
         return result;
     };

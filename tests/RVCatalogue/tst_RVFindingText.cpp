@@ -90,6 +90,9 @@ void tst_RVFindingText::keywords_data()
     QTest::newRow("similar to none of the numbers with aliases")
             << u"foto_paper_type"_s << u"shiny"_s
             << u"\"shiny\" is no keyword of foto_paper_type; there are 0, glossy and matt"_s;
+    QTest::newRow("similar to none of nine keywords")
+            << u"paper_type"_s << u"qqqq"_s
+            << u"\"qqqq\" is no keyword of paper_type; \"rvcatalog keywords paper_type\" lists them"_s;
     QTest::newRow("similar to none of many keywords")
             << u"cover_type"_s << u"xyz"_s
             << u"\"xyz\" is no keyword of cover_type; \"rvcatalog keywords cover_type\" lists them"_s;
@@ -314,6 +317,8 @@ void tst_RVFindingText::lengths_data()
     QTest::newRow("unit in German") << u"8 Zoll"_s << no("8 Zoll", "the unit belongs to \"units\": write 8");
     QTest::newRow("number and letter") << u"8 x"_s << no("8 x", "write digits, and a point before decimals");
     QTest::newRow("infinite") << u"inf"_s << no("inf", "write digits, and a point before decimals");
+    QTest::newRow("digit of another script and three decimals")
+            << u"\uff11.000"_s << no("\uff11.000", "it has U+FF11, which looks like \"1\"; write 1.000");
     QTest::newRow("comma at the end") << u"8,"_s << no("8,", "decimals have a point: write 8");
     QTest::newRow("letter that is partly of ASCII")
             << u"8\u33a7"_s << no("8\u33a7", "write digits, and a point before decimals");
@@ -346,6 +351,11 @@ void tst_RVFindingText::booleans_data()
     QTest::newRow("blank") << u" Yes"_s << no(u" Yes"_s, u"did you mean \"Yes\"?"_s);
     QTest::newRow("two letters wrong") << u"treu"_s << no(u"treu"_s, u"did you mean \"true\"?"_s);
     QTest::newRow("two letters too many") << u"ffaalse"_s << no(u"ffaalse"_s, all);
+    const QString longest(80, u'x');
+    QTest::newRow("longest text") << longest << no(longest, all);
+    QTest::newRow("longer text") << QString(longest + u'x') << no(longest + u'…', all);
+    QTest::newRow("letter of two code units at the end of the longest text")
+            << QString(longest.chopped(1) + u"\U0001F4D5"_s) << no(longest.chopped(1) + u'…', all);
     QTest::newRow("near true and false") << u"o"_s << no(u"o"_s, all);
     QTest::newRow("other language") << u"ja"_s << no(u"ja"_s, all);
     QTest::newRow("other number") << u"2"_s << no(u"2"_s, all);
@@ -408,6 +418,8 @@ void tst_RVFindingText::ids_data()
             << u"the article id \"-99999999999\" is no whole number above 0; write 1 or more"_s;
     QTest::newRow("article id 0.0") << article("0.0")
                                     << u"the article id \"0.0\" is no whole number above 0; write 1 or more"_s;
+    QTest::newRow("article id 1.0") << article("1.0")
+                                    << u"the article id \"1.0\" is no whole number above 0; write 1"_s;
     QTest::newRow("article id too large")
             << article("99999999999") << u"the article id \"99999999999\" is too large; write at most 2147483647"_s;
     QTest::newRow("article id with a blank")

@@ -590,8 +590,9 @@ void tst_RVNameCheck::switchedOff()
 // Elements outside of products give findings about the file, in its order, with their type.
 void tst_RVNameCheck::aboutTheFile()
 {
-    const QByteArray file = "<products>\n<forms/>\n<f><prodcut type='B'><a/></prodcut></f>\n"
-                            "<product type='A' article_id='1'/>\n<x:product xmlns:x='u' type='C'/>\n</products>";
+    const QByteArray file =
+            "<products>\n<forms/>\n<f><prodcut y:type='D' type='B'><a/></prodcut></f>\n"
+            "<product type='A' article_id='1'/>\n<x:product xmlns:x='u' x:type='E' type='C'/>\n</products>";
     const CheckedCatalogue catalogue(file);
     QCOMPARE(catalogue.rules(),
              (QStringList { u"<forms>: element-misplaced"_s, u"<prodcut>: element-misspelt"_s,
@@ -605,7 +606,7 @@ void tst_RVNameCheck::aboutTheFile()
     QCOMPARE(types, (QStringList { QString(), u"B"_s, u"C"_s }));
     const RVFileRange range = catalogue.findings().at(1).range();
     QVERIFY((range.begin == RVFilePosition { 3, 4 }));
-    QVERIFY((range.end == RVFilePosition { 3, 22 }));
+    QVERIFY((range.end == RVFilePosition { 3, 33 }));
 }
 
 void tst_RVNameCheck::mostOfAFile()
