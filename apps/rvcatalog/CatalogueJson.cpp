@@ -29,12 +29,10 @@ JsonLines jsonLines(const QList<RVCatalogueProduct> &products, const ProductFilt
         result.types += values.type;
         if (!filter.chooses(product))
             continue;
-        json->separator(",\n");
-        json->write(values);
+        result.text += ",\n" + json->object(values);
         result.problems += ShowReport::problems(values);
         ++result.count;
     }
-    result.text = json->take();
     return result;
 }
 

@@ -42,15 +42,14 @@ QList<Cell> cellsOf(const QString &line, qint64 begin, qint64 end)
 {
     QList<Cell> result;
     int column = 0;
-    for (qsizetype i = 0; i < line.size(); ++i) {
-        const qint64 place = i + 1;
-        const bool isPair = line[i].isHighSurrogate() && i + 1 < line.size() && line[i + 1].isLowSurrogate();
-        const char32_t letter = isPair ? QChar::surrogateToUcs4(line[i], line[i + 1]) : char32_t(line[i].unicode());
+    qint64 place = 1;
+    const QList<uint> letters = line.toUcs4();
+    for (const char32_t letter : letters) {
         Cell cell = shown(letter, column);
         cell.isMarked = place >= begin && place < end;
         column = cell.end();
         result += cell;
-        i += isPair ? 1 : 0;
+        place += QChar::requiresSurrogates(letter) ? 2 : 1;
     }
     return result;
 }

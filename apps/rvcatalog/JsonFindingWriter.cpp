@@ -1,7 +1,6 @@
 #include "JsonFindingWriter.h"
 
 #include "FindingLine.h"
-#include "JsonWriter.h"
 
 #include <QMap>
 
@@ -108,14 +107,17 @@ void writeSummary(JsonWriter *json, const CheckSummary &summary)
 
 void JsonFindingWriter::begin()
 {
-    write("{\"findings\":[");
+    myJson.beginObject();
+    myJson.key("findings"_L1);
+    myJson.beginArray();
+    write(myJson.take());
 }
 
 void JsonFindingWriter::finding(const QString &fileName, const RVCatalogueFinding &finding)
 {
-    JsonWriter json;
-    json.separator(myIsFirst ? "\n" : ",\n");
+    write(myIsFirst ? "\n" : ",\n");
     myIsFirst = false;
+    JsonWriter json;
     json.beginObject();
     writePlace(&json, fileName, finding.range().begin, finding.range().end);
     writeFix(&json, fileName, finding);
@@ -138,19 +140,19 @@ void JsonFindingWriter::unreadable(const QString &fileName, const Problem &probl
 
 void JsonFindingWriter::end(const CheckSummary &summary, int)
 {
-    JsonWriter json;
-    json.separator("\n],\n");
-    writeSummary(&json, summary);
-    json.key("unreadable"_L1);
-    json.beginArray();
+    write("\n");
+    myJson.endArray();
+    writeSummary(&myJson, summary);
+    myJson.key("unreadable"_L1);
+    myJson.beginArray();
     for (const UnreadableFile &file : myUnreadable) {
-        json.beginObject();
-        writePlace(&json, file.fileName, file.problem.position, std::nullopt);
-        json.key("text"_L1);
-        json.value(file.problem.text);
-        json.endObject();
+        myJson.beginObject();
+        writePlace(&myJson, file.fileName, file.problem.position, std::nullopt);
+        myJson.key("text"_L1);
+        myJson.value(file.problem.text);
+        myJson.endObject();
     }
-    json.endArray();
-    json.separator("}\n");
-    write(json.take());
+    myJson.endArray();
+    myJson.endObject();
+    write(myJson.take() + '\n');
 }

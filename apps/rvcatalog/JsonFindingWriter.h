@@ -2,6 +2,7 @@
 #define JSONFINDINGWRITER_H
 
 #include "FindingWriter.h"
+#include "JsonWriter.h"
 
 #include <vector>
 
@@ -17,6 +18,7 @@ public:
     void end(const CheckSummary &summary, int exitCode) override;
 
 private:
+    JsonWriter myJson; // the object around the findings
     std::vector<UnreadableFile> myUnreadable;
     bool myIsFirst = true;
 };

@@ -97,20 +97,17 @@ void writeDecoding(JsonWriter &json, const RVCatalogueAttribute &attribute, cons
     json.endObject();
 }
 
-/// Writes an array, with the output of @p write for each element, one on each line.
+/// An array with what @p write makes of each element, one on each line.
 template<typename Element, typename Write>
 std::string linesJson(const QList<Element> &elements, Write write)
 {
     JsonWriter json;
-    json.beginArray();
-    bool isFirst = true;
+    QList<std::string> lines;
     for (const Element &element : elements) {
-        json.separator(isFirst ? "\n" : ",\n");
         write(json, element);
-        isFirst = false;
+        lines += json.take();
     }
-    json.separator("\n");
-    json.endArray();
+    json.lines(lines);
     return json.take() + '\n';
 }
 

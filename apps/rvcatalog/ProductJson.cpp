@@ -87,7 +87,7 @@ std::vector<ProductJson::Member> ProductJson::members()
     return result;
 }
 
-void ProductJson::write(const ProductValues &values)
+std::string ProductJson::object(const ProductValues &values)
 {
     static const std::vector<Member> theMembers = members();
     myJson.beginObject();
@@ -96,6 +96,7 @@ void ProductJson::write(const ProductValues &values)
         member.write(*this, values);
     }
     myJson.endObject();
+    return myJson.take();
 }
 
 template<typename T>

@@ -7,7 +7,6 @@
 #include <QString>
 
 #include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -28,11 +27,7 @@ public:
     /// @p fileName is that of the catalogue, for the places of products.
     explicit ProductJson(const QString &fileName) : myFileName(fileName) { }
 
-    void write(const ProductValues &values);
-
-    void separator(std::string_view text) { myJson.separator(text); }
-    /// The text written since the last call.
-    std::string take() { return myJson.take(); }
+    std::string object(const ProductValues &values);
 
 private:
     struct Member;

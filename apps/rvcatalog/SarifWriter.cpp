@@ -2,7 +2,6 @@
 
 #include "FindingFingerprint.h"
 #include "FindingLine.h"
-#include "JsonWriter.h"
 
 #include <QDir>
 #include <QUrl>
@@ -164,52 +163,53 @@ void writeHelp(JsonWriter *json, const RVCatalogueRule &rule)
     json->value(helpUri(rule));
 }
 
-void writeRule(JsonWriter *json, const RVCatalogueRule &rule)
+std::string ruleJson(const RVCatalogueRule &rule)
 {
-    json->beginObject();
-    json->key("id"_L1);
-    json->value(rule.name());
-    writeMessage(json, "shortDescription"_L1, rule.reason());
-    writeMessage(json, "fullDescription"_L1, rule.reason());
-    writeHelp(json, rule);
-    json->key("defaultConfiguration"_L1);
-    json->beginObject();
-    json->key("level"_L1);
-    json->value(rvSeverityName(rule.severity()));
-    json->endObject();
-    json->endObject();
+    JsonWriter json;
+    json.beginObject();
+    json.key("id"_L1);
+    json.value(rule.name());
+    writeMessage(&json, "shortDescription"_L1, rule.reason());
+    writeMessage(&json, "fullDescription"_L1, rule.reason());
+    writeHelp(&json, rule);
+    json.key("defaultConfiguration"_L1);
+    json.beginObject();
+    json.key("level"_L1);
+    json.value(rvSeverityName(rule.severity()));
+    json.endObject();
+    json.endObject();
+    return json.take();
 }
 
 }
 
 void SarifWriter::begin()
 {
-    JsonWriter json;
-    json.beginObject();
-    json.key("$schema"_L1);
-    json.value("https://json.schemastore.org/sarif-2.1.0.json"_L1);
-    json.key("version"_L1);
-    json.value("2.1.0"_L1);
-    json.key("runs"_L1);
-    json.beginArray();
-    json.beginObject();
-    json.key("tool"_L1);
-    json.beginObject();
-    json.key("driver"_L1);
-    writeDriver(&json);
-    json.endObject();
-    json.key("columnKind"_L1);
-    json.value("utf16CodeUnits"_L1);
-    json.key("results"_L1);
-    json.beginArray();
-    write(json.take());
+    myJson.beginObject();
+    myJson.key("$schema"_L1);
+    myJson.value("https://json.schemastore.org/sarif-2.1.0.json"_L1);
+    myJson.key("version"_L1);
+    myJson.value("2.1.0"_L1);
+    myJson.key("runs"_L1);
+    myJson.beginArray();
+    myJson.beginObject();
+    myJson.key("tool"_L1);
+    myJson.beginObject();
+    myJson.key("driver"_L1);
+    writeDriver();
+    myJson.endObject();
+    myJson.key("columnKind"_L1);
+    myJson.value("utf16CodeUnits"_L1);
+    myJson.key("results"_L1);
+    myJson.beginArray();
+    write(myJson.take());
 }
 
 void SarifWriter::finding(const QString &fileName, const RVCatalogueFinding &finding)
 {
-    JsonWriter json;
-    json.separator(myIsFirst ? "\n" : ",\n");
+    write(myIsFirst ? "\n" : ",\n");
     myIsFirst = false;
+    JsonWriter json;
     json.beginObject();
     json.key("ruleId"_L1);
     json.value(finding.rule().name());
@@ -234,57 +234,57 @@ void SarifWriter::unreadable(const QString &fileName, const Problem &problem)
 
 void SarifWriter::end(const CheckSummary &summary, int exitCode)
 {
-    JsonWriter json;
-    json.separator("\n],\n");
-    json.key("invocations"_L1);
-    json.beginArray();
-    json.beginObject();
-    json.key("executionSuccessful"_L1);
-    json.value(myUnreadable.empty() && summary.signal == 0);
-    json.key("exitCode"_L1);
-    json.value(exitCode);
-    json.key("toolExecutionNotifications"_L1);
-    json.beginArray();
-    writeNotifications(&json, summary);
-    json.endArray();
-    json.endObject();
-    json.endArray();
-    json.separator("}]}\n");
-    write(json.take());
+    write("\n");
+    myJson.endArray();
+    myJson.key("invocations"_L1);
+    myJson.beginArray();
+    myJson.beginObject();
+    myJson.key("executionSuccessful"_L1);
+    myJson.value(myUnreadable.empty() && summary.signal == 0);
+    myJson.key("exitCode"_L1);
+    myJson.value(exitCode);
+    myJson.key("toolExecutionNotifications"_L1);
+    myJson.beginArray();
+    writeNotifications(summary);
+    myJson.endArray();
+    myJson.endObject();
+    myJson.endArray();
+    myJson.endObject();
+    myJson.endArray();
+    myJson.endObject();
+    write(myJson.take() + '\n');
 }
 
-void SarifWriter::writeNotifications(JsonWriter *json, const CheckSummary &summary) const
+void SarifWriter::writeNotifications(const CheckSummary &summary)
 {
     for (const UnreadableFile &file : myUnreadable) {
-        json->beginObject();
-        json->key("level"_L1);
-        json->value("error"_L1);
-        writeMessage(json, "message"_L1, file.problem.text);
-        writeLocations(json, file.fileName, file.problem.position, std::nullopt);
-        json->endObject();
+        myJson.beginObject();
+        myJson.key("level"_L1);
+        myJson.value("error"_L1);
+        writeMessage(&myJson, "message"_L1, file.problem.text);
+        writeLocations(&myJson, file.fileName, file.problem.position, std::nullopt);
+        myJson.endObject();
     }
     if (summary.signal == 0 && summary.omitted == 0)
         return;
-    json->beginObject();
-    json->key("level"_L1);
-    json->value(summary.signal != 0 ? "error"_L1 : "note"_L1);
-    writeMessage(json, "message"_L1, summary.text());
-    json->endObject();
+    myJson.beginObject();
+    myJson.key("level"_L1);
+    myJson.value(summary.signal != 0 ? "error"_L1 : "note"_L1);
+    writeMessage(&myJson, "message"_L1, summary.text());
+    myJson.endObject();
 }
 
-void SarifWriter::writeDriver(JsonWriter *json) const
+void SarifWriter::writeDriver()
 {
-    json->beginObject();
-    json->key("name"_L1);
-    json->value("rvcatalog"_L1);
-    json->key("version"_L1);
-    json->value(QLatin1StringView(RVCATALOG_VERSION));
-    json->key("rules"_L1);
-    json->beginArray();
-    for (const RVCatalogueRule &rule : myRules) {
-        json->separator(rule == myRules.constFirst() ? "\n" : ",\n");
-        writeRule(json, rule);
-    }
-    json->endArray();
-    json->endObject();
+    QList<std::string> rules;
+    for (const RVCatalogueRule &rule : myRules)
+        rules += ruleJson(rule);
+    myJson.beginObject();
+    myJson.key("name"_L1);
+    myJson.value("rvcatalog"_L1);
+    myJson.key("version"_L1);
+    myJson.value(QLatin1StringView(RVCATALOG_VERSION));
+    myJson.key("rules"_L1);
+    myJson.lines(rules);
+    myJson.endObject();
 }

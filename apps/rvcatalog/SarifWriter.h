@@ -2,14 +2,13 @@
 #define SARIFWRITER_H
 
 #include "FindingWriter.h"
+#include "JsonWriter.h"
 
 #include <RVCatalogueRule.h>
 
 #include <QList>
 
 #include <vector>
-
-class JsonWriter;
 
 /// Writes the Static Analysis Results Interchange Format, version 2.1.0, with one run, and each result on its own line.
 class SarifWriter : public FindingWriter
@@ -23,9 +22,10 @@ public:
     void end(const CheckSummary &summary, int exitCode) override;
 
 private:
-    void writeDriver(JsonWriter *json) const;
-    void writeNotifications(JsonWriter *json, const CheckSummary &summary) const;
+    void writeDriver();
+    void writeNotifications(const CheckSummary &summary);
 
+    JsonWriter myJson; // the objects around the results
     const QList<RVCatalogueRule> myRules = RVCatalogueRule::all();
     std::vector<UnreadableFile> myUnreadable;
     bool myIsFirst = true;

@@ -75,6 +75,11 @@ bool writeJson(const QString &catalogueName, const ProductValues &values, const 
                const Console &console)
 {
     JsonWriter json;
+    QList<std::string> rows;
+    for (int i = 0; i < table.rowCount(); ++i) {
+        writeSpineRow(json, table.row(i));
+        rows += json.take();
+    }
     json.beginObject();
     json.key("name"_L1);
     writeText(json, values.product.name());
@@ -83,13 +88,7 @@ bool writeJson(const QString &catalogueName, const ProductValues &values, const 
     json.key("place"_L1);
     writePlace(json, catalogueName, values.product.range().begin);
     json.key("spine"_L1);
-    json.beginArray();
-    for (int i = 0; i < table.rowCount(); ++i) {
-        if (i > 0)
-            json.separator(",\n");
-        writeSpineRow(json, table.row(i));
-    }
-    json.endArray();
+    json.lines(rows);
     json.key("type"_L1);
     writeText(json, values.type.toString());
     json.endObject();

