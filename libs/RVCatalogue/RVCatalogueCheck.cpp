@@ -5,11 +5,11 @@
 #include "RVCatalogueRuleTable_p.h"
 #include "RVFindingReport_p.h"
 #include "RVIdCheck_p.h"
+#include "RVIgnoredElementCheck_p.h"
 #include "RVKeywordCheck_p.h"
 #include "RVNameCheck_p.h"
 #include "RVOptionCheck_p.h"
 #include "RVPageCountCheck_p.h"
-#include "RVPartCheck_p.h"
 #include "RVPriceClassCheck_p.h"
 #include "RVSilencer_p.h"
 #include "RVSpineCheck_p.h"
@@ -127,7 +127,7 @@ QList<RVCatalogueFinding> RVCatalogueCheck::allFindings(const RVCatalogueProduct
     RVFindingReport report(*this, product);
     RVNameCheck(&report).check(product);
     RVIdCheck(&report).check(product);
-    RVPartCheck(&report).check(product);
+    RVIgnoredElementCheck(&report).check(product);
     RVKeywordCheck(&report).check(product);
     const RVCheckedPageCounts pageCounts = RVPageCountCheck(&report).check(product);
     RVSpineCheck(&report, pageCounts).check(product);

@@ -212,7 +212,7 @@ void RVNameCheck::checkChild(const RVCatalogueElement &child, const RVCatalogueE
     }
     const QLatin1StringView name = knownChild->name;
     if (knownChild->parent.isEmpty() && known.parent.isEmpty())
-        return; // RVPartCheck reports a product in a product.
+        return; // RVIgnoredElementCheck reports a product in a product.
     const QString text = knownChild->parent.isEmpty()
             ? RVFindingText::tr("the element %1 is not read in %2").arg(rvQuotedName(name), known.name)
             : RVFindingText::tr("the element %1 is not read in %2; it belongs into %3")

@@ -1,7 +1,7 @@
 #include "RVArticleVariants.h"
 
-#include "RVComposite_p.h"
 #include "RVKomma_p.h"
+#include "RVOptionPair_p.h"
 #include "RVXMLParser.h"
 
 #include <QDataStream>

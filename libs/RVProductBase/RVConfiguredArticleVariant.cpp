@@ -1,8 +1,8 @@
 #include "RVConfiguredArticleVariant.h"
 
 #include "RVArticleVariants.h"
-#include "RVComposite_p.h"
 #include "RVNamedColor.h"
+#include "RVOptionPair_p.h"
 #include "RVSpotColor.h"
 #include "RVXMLParser.h"
 

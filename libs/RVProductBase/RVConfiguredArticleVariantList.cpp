@@ -1,8 +1,8 @@
 #include "RVConfiguredArticleVariantList.h"
 
-#include "RVComposite_p.h"
 #include "RVDomChildren_p.h"
 #include "RVKomma_p.h"
+#include "RVOptionPair_p.h"
 
 #include <QDebug>
 #include <QMap>

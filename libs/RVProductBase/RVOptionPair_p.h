@@ -1,5 +1,5 @@
-#ifndef RVCOMPOSITE_P_H
-#define RVCOMPOSITE_P_H
+#ifndef RVOPTIONPAIR_P_H
+#define RVOPTIONPAIR_P_H
 
 #include <QList>
 #include <QString>

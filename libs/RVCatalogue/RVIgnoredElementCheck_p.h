@@ -1,5 +1,5 @@
-#ifndef RVPARTCHECK_P_H
-#define RVPARTCHECK_P_H
+#ifndef RVIGNOREDELEMENTCHECK_P_H
+#define RVIGNOREDELEMENTCHECK_P_H
 
 #include "RVCatalogueElement.h"
 
@@ -7,10 +7,10 @@ class RVCatalogueProduct;
 class RVFindingReport;
 
 /// Finds elements of a product that are not read, because only the first of their kind is.
-class RVPartCheck
+class RVIgnoredElementCheck
 {
 public:
-    explicit RVPartCheck(RVFindingReport *report) : myReport(report) { }
+    explicit RVIgnoredElementCheck(RVFindingReport *report) : myReport(report) { }
 
     void check(const RVCatalogueProduct &product);
 

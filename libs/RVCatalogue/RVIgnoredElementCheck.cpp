@@ -1,4 +1,4 @@
-#include "RVPartCheck_p.h"
+#include "RVIgnoredElementCheck_p.h"
 
 #include "RVCatalogueProduct.h"
 #include "RVFindingReport_p.h"
@@ -6,7 +6,7 @@
 
 using namespace Qt::StringLiterals;
 
-void RVPartCheck::check(const RVCatalogueProduct &product)
+void RVIgnoredElementCheck::check(const RVCatalogueProduct &product)
 {
     const RVCatalogueElement element = product.element();
     checkInnerProducts(element);
@@ -15,7 +15,7 @@ void RVPartCheck::check(const RVCatalogueProduct &product)
     checkOthers(element.firstChildElement("composition"_L1).firstChildElement("spine"_L1), "spine"_L1);
 }
 
-void RVPartCheck::checkInnerProducts(const RVCatalogueElement &product)
+void RVIgnoredElementCheck::checkInnerProducts(const RVCatalogueElement &product)
 {
     constexpr auto name = "product"_L1;
     for (auto inner = product.firstChildElement(name); !inner.isNull(); inner = inner.nextSiblingElement(name))
@@ -25,7 +25,7 @@ void RVPartCheck::checkInnerProducts(const RVCatalogueElement &product)
 }
 
 /// Finds the elements with that name after the first one.
-void RVPartCheck::checkOthers(const RVCatalogueElement &first, QLatin1StringView name)
+void RVIgnoredElementCheck::checkOthers(const RVCatalogueElement &first, QLatin1StringView name)
 {
     for (auto other = first.nextSiblingElement(name); !other.isNull(); other = other.nextSiblingElement(name))
         myReport->add(RVCatalogueRuleId::ElementIgnored, other,
