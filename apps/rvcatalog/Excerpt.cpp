@@ -6,12 +6,14 @@
 
 #include <algorithm>
 #include <cwchar>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int TAB_WIDTH = 8;
+constexpr qint64 LINE_END = std::numeric_limits<qint64>::max();
 constexpr QChar ELLIPSIS = u'…';
 
 /// A letter as a terminal shows it.
@@ -83,7 +85,7 @@ Excerpt excerptOf(const QString &line, const RVFileRange &range)
     constexpr int numberWidth = 5;
     const QString gutter = QString::number(range.begin.line).rightJustified(numberWidth) + " | "_L1;
     // A range that ends in another line is marked to the end of this one.
-    const qint64 end = range.end.line == range.begin.line ? range.end.column : line.size() + 1;
+    const qint64 end = range.end.line == range.begin.line ? range.end.column : LINE_END;
     const QList<Cell> cells = cellsOf(line, range.begin.column, qMax(end, range.begin.column + 1));
     Excerpt result { gutter, QString(gutter.size() - 2, u' ') + "| "_L1, u"^"_s };
     int marked = 0;

@@ -16,6 +16,7 @@ private Q_SLOTS:
     void init();
     void file();
     void fileOfTheSameSize();
+    void timeThatWasSetBack();
     void missingFile();
     void configuration();
 
@@ -49,6 +50,19 @@ void tst_CatalogueStamp::fileOfTheSameSize()
     file.close();
     QVERIFY(first != FileStamp::of(name()));
     QCOMPARE(FileStamp::of(name()).size, 1);
+}
+
+void tst_CatalogueStamp::timeThatWasSetBack()
+{
+    const FileStamp first = FileStamp::of(name());
+    QTest::qSleep(20); // longer than the step of any clock of a file system
+    QVERIFY(myFolder.write(u"c.xml"_s, "2"));
+    QFile file(name());
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(file.setFileTime(first.modified, QFileDevice::FileModificationTime));
+    file.close();
+    QCOMPARE(FileStamp::of(name()).modified, first.modified);
+    QVERIFY(first != FileStamp::of(name()));
 }
 
 void tst_CatalogueStamp::missingFile()

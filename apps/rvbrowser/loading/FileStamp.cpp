@@ -5,5 +5,5 @@
 FileStamp FileStamp::of(const QString &fileName)
 {
     const QFileInfo info(fileName);
-    return { info.exists(), info.size(), info.lastModified() };
+    return { info.exists(), info.size(), info.lastModified(), info.metadataChangeTime() };
 }

@@ -12,10 +12,11 @@ struct FileStamp
     bool exists = false;
     qint64 size = 0;
     QDateTime modified;
+    QDateTime changed; // also where the time of modification was set back
 
     friend bool operator==(const FileStamp &a, const FileStamp &b)
     {
-        return a.exists == b.exists && a.size == b.size && a.modified == b.modified;
+        return a.exists == b.exists && a.size == b.size && a.modified == b.modified && a.changed == b.changed;
     }
     friend bool operator!=(const FileStamp &a, const FileStamp &b) { return !(a == b); }
 };
