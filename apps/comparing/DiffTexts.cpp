@@ -1,17 +1,9 @@
 #include "DiffTexts.h"
 
 #include "ComparedProduct.h"
+#include "PrintableText.h"
 
 using namespace Qt::StringLiterals;
-
-QString DiffTexts::printable(QString text)
-{
-    for (QChar &character : text) {
-        if (!character.isPrint() && !character.isSurrogate())
-            character = u' ';
-    }
-    return text;
-}
 
 QChar DiffTexts::marker(RVChangeKind kind)
 {
@@ -52,7 +44,7 @@ QString DiffTexts::product(const ComparedProduct &product)
     QString text = product.type().orderTxtName();
     if (product.isRenamed)
         text = product.oldType.orderTxtName() + " -> "_L1 + text;
-    return printable(product.name.isEmpty() ? text : text + R"( ")"_L1 + product.name + u'"');
+    return printableText(product.name.isEmpty() ? text : text + R"( ")"_L1 + product.name + u'"');
 }
 
 QString DiffTexts::article(const RVArticleId &id)

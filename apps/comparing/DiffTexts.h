@@ -15,8 +15,6 @@ class DiffTexts
     Q_DECLARE_TR_FUNCTIONS(DiffTexts)
 
 public:
-    /// One line: blanks in place of line ends, and of characters that control a terminal.
-    static QString printable(QString text);
     /// "+", "-", and "~" for what has changed.
     static QChar marker(RVChangeKind kind);
     /// "added", "removed" or "changed".

@@ -2,6 +2,7 @@
 
 #include "ComparedProduct.h"
 #include "DiffTexts.h"
+#include "PrintableText.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -61,9 +62,9 @@ private:
     {
         constexpr qsizetype indentation = 2;
         const RVChangeKind kind = change.kind();
-        const QString label = DiffTexts::marker(kind) + u' ' + DiffTexts::printable(change.label()) + u':';
-        const QString oldText = DiffTexts::printable(change.oldValue().text);
-        const QString newText = DiffTexts::printable(change.newValue().text);
+        const QString label = DiffTexts::marker(kind) + u' ' + printableText(change.label()) + u':';
+        const QString oldText = printableText(change.oldValue().text);
+        const QString newText = printableText(change.newValue().text);
         if (kind != RVChangeKind::Changed)
             return writeLines(wrapped(label + u' ' + oldText + newText, indentation), kind);
         constexpr auto arrow = " -> "_L1;
@@ -207,7 +208,7 @@ private:
     {
         QString row = u"|"_s;
         for (const QString &cell : cells)
-            row += u' ' + escaped(DiffTexts::printable(cell)) + " |"_L1;
+            row += u' ' + escaped(printableText(cell)) + " |"_L1;
         write(row + u'\n');
     }
 

@@ -1,13 +1,12 @@
 #include "DrawingExport.h"
 
 #include "Drawing.h"
+#include "FileContent.h"
 
 #include <QBuffer>
-#include <QFileInfo>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <QSvgGenerator>
 
 #include <cmath>
@@ -24,23 +23,6 @@ constexpr int PDF_DOTS_PER_INCH = 1270;
 constexpr char TITLE[] = "title-of-the-drawing";
 /// In millimetres. A picture of a larger sheet would take a quarter of a gigabyte.
 constexpr QSizeF LARGEST_SHEET(700, 700);
-
-// A device or a pipe cannot be replaced, so it is written to.
-QString writeToDevice(const QString &fileName, const QByteArray &content)
-{
-    QFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || file.write(content) != content.size())
-        return file.errorString();
-    return QString();
-}
-
-QString replaceFile(const QString &fileName, const QByteArray &content)
-{
-    QSaveFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit())
-        return file.errorString();
-    return QString();
-}
 
 }
 
@@ -96,9 +78,7 @@ QString DrawingExport::write(const QString &fileName) const
     const QByteArray bytes = content(*format);
     if (bytes.isEmpty())
         return tr("there is not enough memory for the drawing");
-    const QFileInfo file(fileName);
-    const bool isDevice = file.exists() && !file.isFile() && !file.isDir();
-    return isDevice ? writeToDevice(fileName, bytes) : replaceFile(fileName, bytes);
+    return writeFile(fileName, bytes);
 }
 
 QByteArray DrawingExport::svg() const

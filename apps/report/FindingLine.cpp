@@ -1,5 +1,7 @@
 #include "FindingLine.h"
 
+#include "PrintableText.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -11,11 +13,7 @@ QString onOneLine(const QString &text)
     QString result = text.simplified().left(longest);
     if (!result.isEmpty() && result.back().isHighSurrogate())
         result.chop(1);
-    for (QChar &character : result) {
-        if (!character.isPrint() && !character.isSurrogate())
-            character = u' ';
-    }
-    return result;
+    return printableText(result);
 }
 
 }

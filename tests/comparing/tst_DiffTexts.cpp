@@ -1,5 +1,6 @@
 #include <ComparedProduct.h>
 #include <DiffTexts.h>
+#include <PrintableText.h>
 
 #include <QTest>
 
@@ -38,7 +39,7 @@ void tst_DiffTexts::printable_data()
 void tst_DiffTexts::printable()
 {
     QFETCH(QString, text);
-    QTEST(DiffTexts::printable(text), "line");
+    QTEST(printableText(text), "line");
 }
 
 void tst_DiffTexts::kinds_data()

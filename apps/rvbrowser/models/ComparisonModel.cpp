@@ -3,6 +3,7 @@
 #include "DiffTexts.h"
 #include "PaletteColors.h"
 #include "PlainToolTip.h"
+#include "PrintableText.h"
 
 #include <QGuiApplication>
 
@@ -217,13 +218,13 @@ QString ComparisonModel::text(const RVProductChange &change, int column)
 {
     switch (column) {
     case ProductColumn:
-        return DiffTexts::printable(change.label());
+        return printableText(change.label());
     case KindColumn:
         return DiffTexts::marker(change.kind()) + u' ' + DiffTexts::kind(change.kind());
     case OldColumn:
-        return DiffTexts::printable(change.oldValue().text);
+        return printableText(change.oldValue().text);
     case NewColumn:
-        return DiffTexts::printable(change.newValue().text);
+        return printableText(change.newValue().text);
     default:
         return QString();
     }
