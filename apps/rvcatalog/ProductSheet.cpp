@@ -1,5 +1,6 @@
 #include "ProductSheet.h"
 
+#include "PrintableText.h"
 #include "ProductOption.h"
 #include "ProductTexts.h"
 #include "WrappedText.h"
@@ -42,7 +43,7 @@ void ProductSheet::write(const ProductValues &values)
     if (!myIsFirst)
         *myOut << '\n';
     myIsFirst = false;
-    *myOut << QString(values.type.orderTxtName() + "  "_L1 + product.name()).trimmed() << '\n';
+    *myOut << printableText(values.type.orderTxtName() + "  "_L1 + product.name()).trimmed() << '\n';
     writeOrigin(product);
     for (const LabelledText &attribute : attributeTexts(product))
         writeLine(capitalised(attribute.label), attribute.text);
@@ -58,7 +59,7 @@ void ProductSheet::writeLine(const QString &label, const QString &text)
     QString left = label;
     for (const QString &line : wrapped(text, TERMINAL_WIDTH - LABEL_WIDTH)) {
         // A longer label gets more room, and is still followed by blanks.
-        *myOut << QString("  "_L1 + left + "  "_L1).leftJustified(LABEL_WIDTH) << line << '\n';
+        *myOut << printableText("  "_L1 + left + "  "_L1).leftJustified(LABEL_WIDTH) << printableText(line) << '\n';
         left.clear();
     }
 }

@@ -1,5 +1,6 @@
 #include "ProductTable.h"
 
+#include "PrintableText.h"
 #include "ProductOption.h"
 #include "ProductTexts.h"
 #include "WrappedText.h"
@@ -95,7 +96,7 @@ void ProductTable::writeRow(const QStringList &columns)
         end += COLUMN_WIDTHS[i];
         row = row.leftJustified(end);
     }
-    *myOut << row.trimmed() << '\n';
+    *myOut << printableText(row.trimmed()) << '\n';
 }
 
 void ProductTable::writeDetail(const QStringList &pieces)
@@ -103,5 +104,5 @@ void ProductTable::writeDetail(const QStringList &pieces)
     if (pieces.isEmpty())
         return;
     for (const QString &line : wrapped(pieces, TERMINAL_WIDTH - INDENT))
-        *myOut << QString(INDENT, u' ') << line << '\n';
+        *myOut << QString(INDENT, u' ') << printableText(line) << '\n';
 }

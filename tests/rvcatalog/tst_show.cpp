@@ -59,6 +59,7 @@ private Q_SLOTS:
     void choiceInOrderOfTheFile();
     void problemsOfTheChosenOnly();
     void nothingIsChosen();
+    void textsWithControls();
     void wrongCondition();
     void brokenCatalogue();
 
@@ -242,6 +243,23 @@ void tst_show::brokenCatalogue()
     QCOMPARE(types(shown), QStringList { u"A"_s });
     QVERIFY(shown.output.endsWith("\n]\n"_L1));
     QCOMPARE(shown.exitCode, 2);
+}
+
+// A text of the catalogue can neither break a line nor control the terminal.
+void tst_show::textsWithControls()
+{
+    const QByteArray catalogue = "<p><product type='A' name='a&#10;b&#x9b;31m' pages='1'><forms>"
+                                 "<form key='k&#10;l' value='v' value_name='x&#9;y'/></forms></product></p>";
+    const CommandRun table = run({ u"show"_s, u"-"_s }, catalogue);
+    QCOMPARE(table.output.section(u'\n', 2),
+             u"A        1                1      -           -       a b 31m\n         k l: v*\n"_s);
+    const CommandRun sheet = run({ u"show"_s, u"--long"_s, u"-"_s }, catalogue);
+    QCOMPARE(sheet.output,
+             u"A  a b 31m\n"
+             "  Place           -:1:4\n"
+             "  Pages           1 (1 count)\n"
+             "  Option          k l\n"
+             "    v*            x y\n"_s);
 }
 
 QTEST_MAIN(tst_show)
