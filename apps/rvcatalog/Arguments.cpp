@@ -45,11 +45,15 @@ QString valueProblem(const QCommandLineParser &parser, const HelpText &help)
     return QString();
 }
 
-/// The message that the arguments do not fit the command; empty if they do.
-QString argumentProblem(const QStringList &arguments, int least, int most)
+/// The message that the arguments do not fit the command; empty if they do. Only a text may be empty: an empty name of
+/// a file usually comes from a variable of a script that is not set.
+QString argumentProblem(const QStringList &arguments, const HelpText &help, int least, int most)
 {
     if (arguments.size() < least || arguments.size() > most)
         return expectedArguments(least, most) + u", got %1"_s.arg(arguments.size());
+    const qsizetype empty = arguments.indexOf(QString());
+    if (empty >= 0 && help.arguments().value(empty) != "TEXT"_L1)
+        return u"argument %1 is empty"_s.arg(empty + 1);
     if (arguments.count(u"-"_s) > 1)
         return u"only one file can be the standard input"_s;
     return QString();
@@ -103,7 +107,7 @@ bool parseArguments(QCommandLineParser &parser, const QStringList &arguments, in
     }
     QString problem = valueProblem(parser, help);
     if (problem.isEmpty())
-        problem = argumentProblem(parser.positionalArguments(), least, most);
+        problem = argumentProblem(parser.positionalArguments(), help, least, most);
     if (problem.isEmpty())
         return true;
     *exitCode = refuseArguments(command, problem, console);

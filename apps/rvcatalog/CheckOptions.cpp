@@ -99,6 +99,8 @@ QString CheckOptions::readLooks(const QCommandLineParser &parser)
     isSummary = parser.isSet(u"summary"_s);
     if (isSummary && format != "text"_L1)
         return u"--summary is for the format text; other formats have their own"_s;
+    if (showsFixes && format != "text"_L1)
+        return u"--diff writes a unified diff, and no %1"_s.arg(format);
     return QString();
 }
 
@@ -132,9 +134,22 @@ QString CheckOptions::readFiles(const QCommandLineParser &parser)
         return u"--config and --no-config contradict each other"_s;
     if (parser.isSet(u"baseline"_s) && parser.isSet(u"write-baseline"_s))
         return u"--baseline and --write-baseline contradict each other"_s;
+    if (showsFixes && parser.isSet(u"write-baseline"_s))
+        return u"--diff and --write-baseline contradict each other"_s;
     for (const QString &name : { u"config"_s, u"baseline"_s, u"write-baseline"_s }) {
         if (parser.isSet(name) && parser.value(name).isEmpty())
             return u"--%1 needs the name of a file"_s.arg(name);
     }
+    return readStreams();
+}
+
+// Each of the standard streams has room for one file.
+QString CheckOptions::readStreams() const
+{
+    const auto stream = u"-"_s;
+    if ((fileNames + QStringList { configuration.fileName, baseline.fileName }).count(stream) > 1)
+        return u"only one file can be the standard input"_s;
+    if (fixes && fileNames.contains(stream) && baseline.writtenFileName == stream)
+        return u"only one file can be the standard output"_s;
     return QString();
 }

@@ -40,6 +40,7 @@ private:
     QString readNumbers(const QCommandLineParser &parser);
     QString readRules(const QCommandLineParser &parser);
     QString readFiles(const QCommandLineParser &parser);
+    QString readStreams() const;
 };
 
 #endif

@@ -79,7 +79,7 @@ int help(const QStringList &names, const Console &console)
     if (!names.isEmpty())
         return runNamed(names.constFirst(), { u"--help"_s }, console);
     QTextStream(console.output) << usage();
-    return EXIT_FINE;
+    return withOutput(EXIT_FINE, console);
 }
 
 }
@@ -105,7 +105,7 @@ int runCommand(const QStringList &arguments, const Console &console)
 {
     const QString name = arguments.value(0);
     if (name == "--help"_L1 || name == "-h"_L1 || name == "help"_L1)
-        return withOutput(help(arguments.mid(1), console), console);
+        return help(arguments.mid(1), console);
     if (name == "complete"_L1)
         return withOutput(completeCommand(arguments.mid(1), console), console);
     if (name == "--version"_L1) {

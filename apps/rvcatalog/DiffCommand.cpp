@@ -124,8 +124,9 @@ QString refusal(const QString &format, bool isGit, const QStringList &names)
 {
     if (isGit && format == "json"_L1)
         return u"--git writes several comparisons, which are no JSON"_s;
-    const bool isCountRight = isGit ? names.size() == 1 || names.size() >= GIT_ARGUMENTS : names.size() == 2;
-    if (!isCountRight)
+    const bool isCountOfGit = names.size() == 1
+            || (names.size() >= GIT_ARGUMENTS && names.size() <= MOST_GIT_ARGUMENTS);
+    if (isGit ? !isCountOfGit : names.size() != 2)
         return u"expected %1 arguments, got %2"_s.arg(isGit ? GIT_ARGUMENTS : 2).arg(names.size());
     return QString();
 }
@@ -163,7 +164,7 @@ int diffCommand(const QStringList &arguments, const Console &console)
     parser.addPositionalArgument(u"NEW"_s, u"The products XML afterwards; \"-\" is the standard input."_s,
                                  u"NEW.xml"_s);
     int exitCode = EXIT_FINE;
-    if (!parseArguments(parser, arguments, 1, MOST_GIT_ARGUMENTS, console, &exitCode))
+    if (!parseArguments(parser, arguments, 0, ANY_NUMBER, console, &exitCode))
         return exitCode;
 
     const QString format = parser.value(formatOption);

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void shortForm();
     void formatCountsMore();
     void helpOfACommand();
+    void helpOnAFullDisk();
     void everyCommand_data();
     void everyCommand();
 
@@ -86,6 +87,24 @@ void tst_arguments::messages_data()
                                   << u"rvcatalog: there is no format \"\"; there are: text, json"_s;
     QTest::newRow("two standard inputs of an order")
             << QStringList { u"order"_s, u"-"_s, u"-"_s } << u"rvcatalog: only one file can be the standard input"_s;
+    QTest::newRow("no file for show") << QStringList { u"show"_s, QString() } << u"rvcatalog: argument 1 is empty"_s;
+    QTest::newRow("no type for spine") << QStringList { u"spine"_s, u"c.xml"_s, QString() }
+                                       << u"rvcatalog: argument 2 is empty"_s;
+    QTest::newRow("no type for show") << QStringList { u"show"_s, u"c.xml"_s, QString() }
+                                      << u"rvcatalog: argument 2 is empty"_s;
+    QTest::newRow("one file of a check") << QStringList { u"check"_s, u"c.xml"_s, QString() }
+                                         << u"rvcatalog: argument 2 is empty"_s;
+    QTest::newRow("no files for diff") << QStringList { u"diff"_s, QString(), QString() }
+                                       << u"rvcatalog: argument 1 is empty"_s;
+    QTest::newRow("diff of nothing") << QStringList { u"diff"_s } << u"rvcatalog: expected 2 arguments, got 0"_s;
+    QTest::newRow("diff of three") << QStringList { u"diff"_s, u"c.xml"_s, u"c.xml"_s, u"c.xml"_s }
+                                   << u"rvcatalog: expected 2 arguments, got 3"_s;
+    QTest::newRow("diff of git without files")
+            << QStringList { u"diff"_s, u"--git"_s } << u"rvcatalog: expected 7 arguments, got 0"_s;
+    QTest::newRow("diff of git with ten") << QStringList { u"diff"_s, u"--git"_s } + QStringList(10, u"c.xml"_s)
+                                          << u"rvcatalog: expected 7 arguments, got 10"_s;
+    QTest::newRow("format of the changes of --fix") << QStringList { u"check"_s, u"--diff"_s, u"--json"_s, u"c.xml"_s }
+                                                    << u"rvcatalog: --diff writes a unified diff, and no json"_s;
     QTest::newRow("two standard inputs of a check") << QStringList { u"check"_s, u"-"_s, u"c.xml"_s, u"-"_s }
                                                     << u"rvcatalog: only one file can be the standard input"_s;
 }
@@ -140,6 +159,19 @@ void tst_arguments::helpOfACommand()
     QVERIFY2(help.output.startsWith("Usage: rvcatalog spine "_L1), qPrintable(help.output));
     QCOMPARE(help.exitCode, 0);
     QCOMPARE(run({ u"help"_s }).output, run({ u"--help"_s }).output);
+}
+
+void tst_arguments::helpOnAFullDisk()
+{
+    for (const QStringList &arguments : { QStringList { u"help"_s }, QStringList { u"help"_s, u"check"_s } }) {
+        using File = std::unique_ptr<std::FILE, int (*)(std::FILE *)>;
+        const File full(std::fopen("/dev/full", "w"), &std::fclose);
+        const File messages(std::tmpfile(), &std::fclose);
+        QVERIFY(full && messages);
+        QCOMPARE(runCommand(arguments, { stdin, full.get(), messages.get() }), 2);
+        const QByteArray expected("rvcatalog: cannot write to the standard output\n");
+        QCOMPARE(std::ftell(messages.get()), expected.size());
+    }
 }
 
 void tst_arguments::everyCommand_data()

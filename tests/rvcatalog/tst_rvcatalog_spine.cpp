@@ -140,7 +140,6 @@ void tst_rvcatalog_spine::problems_data()
             << u"pos1"_s << u"c.xml:1:1: the catalogue has no product of type \"pos1\"; did you mean \"POS1\"?\n"_s;
     QTest::newRow("a letter missing")
             << u"MAY"_s << u"c.xml:1:1: the catalogue has no product of type \"MAY\"; did you mean \"MANY\"?\n"_s;
-    QTest::newRow("no type") << QString() << u"c.xml:1:1: the catalogue has no product of type \"UNKNOWN\"\n"_s;
     QTest::newRow("far from every type") << u"NOPE"_s
                                          << u"c.xml:1:1: the catalogue has no product of type \"NOPE\"\n"_s;
     QTest::newRow("no spine") << u"POS1"_s << u"c.xml:3:1: POS1 has no spine\n"_s;
