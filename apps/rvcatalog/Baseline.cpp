@@ -1,5 +1,6 @@
 #include "Baseline.h"
 
+#include "FileContent.h"
 #include "FindingFingerprint.h"
 
 #include <RVCatalogueCheck.h>
@@ -11,7 +12,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 
 #include <limits>
 
@@ -30,12 +30,30 @@ constexpr auto COUNT = "count"_L1;
 constexpr int THIS_VERSION = 1;
 /// The largest file. It has more findings than can be mended one by one.
 constexpr qint64 LARGEST_FILE = 1 << 28;
+/// The number of bytes that tell a baseline from a catalogue.
+constexpr qint64 LONGEST_BEGIN = 1024;
+/// The name of the standard input and output.
+constexpr auto STREAM = "-"_L1;
 
 RVFilePosition positionAt(const QByteArray &text, qsizetype offset)
 {
     const QByteArray before = text.left(offset);
     const QString line = QString::fromUtf8(before.mid(before.lastIndexOf('\n') + 1));
     return { before.count('\n') + 1, line.size() + 1 };
+}
+
+/// At most that number of bytes. A pipe gives them in pieces.
+QByteArray firstBytes(QIODevice *device, qint64 number)
+{
+    constexpr qint64 largestPiece = 1 << 16;
+    QByteArray result;
+    while (result.size() < number) {
+        const QByteArray piece = device->read(qMin(largestPiece, number - result.size()));
+        if (piece.isEmpty())
+            break;
+        result += piece;
+    }
+    return result;
 }
 
 QByteArray entryText(const QString &catalogue, const QStringList &key, qint64 count)
@@ -55,9 +73,10 @@ Baseline::Baseline(const QString &fileName) : myFileName(fileName) { }
 bool Baseline::read(const Console &console)
 {
     QFile file(myFileName);
-    if (!file.open(QIODevice::ReadOnly))
+    const std::unique_ptr<QIODevice> pipe = console.openInput(myFileName);
+    if (!pipe && !file.open(QIODevice::ReadOnly))
         return fail(console, u"cannot open the baseline: "_s + file.errorString());
-    const QByteArray text = file.read(LARGEST_FILE + 1);
+    const QByteArray text = firstBytes(pipe ? pipe.get() : &file, LARGEST_FILE + 1);
     if (file.error() != QFileDevice::NoError)
         return fail(console, u"cannot read the baseline: "_s + file.errorString());
     if (text.size() > LARGEST_FILE)
@@ -76,9 +95,22 @@ bool Baseline::write(const Console &console) const
         }
     }
     text += "\n  ]\n}\n";
-    QSaveFile file(myFileName);
-    const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit();
-    return isWritten || fail(console, u"cannot write the baseline: "_s + file.errorString());
+    if (myFileName == STREAM) {
+        console.write(text.toStdString());
+        return true;
+    }
+    const QString error = writeFile(myFileName, text);
+    return error.isEmpty() || fail(console, u"cannot write the baseline: "_s + error);
+}
+
+// "--write-baseline *.xml" lacks the name of the baseline, and would lose the first catalogue.
+bool Baseline::isReplaceable(const Console &console) const
+{
+    QFile file(myFileName);
+    if (myFileName == STREAM || !QFileInfo(myFileName).isFile() || !file.open(QIODevice::ReadOnly))
+        return true;
+    const QByteArray begin = file.read(LONGEST_BEGIN).trimmed();
+    return begin.isEmpty() || begin.startsWith('{') || fail(console, u"this is no baseline, so it is not replaced"_s);
 }
 
 void Baseline::add(const QString &catalogue, const RVCatalogueFinding &finding)
@@ -124,7 +156,7 @@ qint64 Baseline::size() const
 // A baseline is the same on every machine and in every working folder.
 QString Baseline::name(const QString &catalogue) const
 {
-    if (catalogue == "-"_L1)
+    if (catalogue == STREAM)
         return catalogue;
     return QFileInfo(myFileName).absoluteDir().relativeFilePath(QFileInfo(catalogue).absoluteFilePath());
 }

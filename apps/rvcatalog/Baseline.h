@@ -15,7 +15,8 @@ class RVCatalogueFinding;
  * The known findings of an old catalogue, so that only new ones count. A finding is known by its file, rule, product
  * type and text, at any place in the file; two equal findings must be known twice.
  *
- * The file is JSON with a line for each finding, sorted. Its names of catalogues are relative to its folder.
+ * The file is JSON with a line for each finding, sorted. Its names of catalogues are relative to its folder. The name
+ * "-" is that of the standard input and output.
  */
 class Baseline
 {
@@ -27,6 +28,8 @@ public:
     bool read(const Console &console);
     /// Writes the file and replaces the old one. False, with a message, if that is impossible.
     bool write(const Console &console) const;
+    /// True if there is no file, or one that may be an old baseline. False, with a message, for any other one.
+    bool isReplaceable(const Console &console) const;
 
     /// Adds a finding of a catalogue to the known ones.
     void add(const QString &catalogue, const RVCatalogueFinding &finding);

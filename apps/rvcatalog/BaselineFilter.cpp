@@ -27,7 +27,16 @@ BaselineFilter::BaselineFilter(const Choice &choice)
 
 bool BaselineFilter::begin(const Console &console)
 {
-    return myMode != Mode::Compare || myBaseline.read(console);
+    myConsole = console;
+    switch (myMode) {
+    case Mode::Off:
+        break;
+    case Mode::Compare:
+        return myBaseline.read(console);
+    case Mode::Write:
+        return myBaseline.isReplaceable(console);
+    }
+    return true;
 }
 
 bool BaselineFilter::isKnown(const QString &catalogue, const RVCatalogueFinding &finding)
@@ -68,7 +77,7 @@ int BaselineFilter::write(int exitCode, const Console &console) const
         QTextStream(console.messages) << "rvcatalog: no baseline was written, because not everything was checked\n";
         return exitCode;
     }
-    if (!myBaseline.write(console))
+    if (!myBaseline.write(myConsole))
         return EXIT_UNREADABLE;
     note(console, u"wrote %1 to %2"_s.arg(counted(myBaseline.size()), myBaseline.fileName()));
     return exitCode;

@@ -17,7 +17,7 @@ public:
 
     explicit BaselineFilter(const Choice &choice);
 
-    /// Reads the baseline, if any. False, with a message, if that is impossible.
+    /// Reads the baseline, if any. False, with a message, if that or writing one is impossible.
     bool begin(const Console &console);
     /// True for a finding to leave out.
     bool isKnown(const QString &catalogue, const RVCatalogueFinding &finding);
@@ -40,6 +40,7 @@ private:
     bool myIsQuiet;
     Mode myMode = Mode::Off;
     Baseline myBaseline;
+    Console myConsole; // for a baseline that is the standard output, where findings are not
 };
 
 #endif

@@ -31,6 +31,8 @@ int checkFiles(CheckOptions options, Console console)
     BaselineFilter baseline(options.baseline);
     if (!configurations.read(options.fileNames, console) || !baseline.begin(console))
         return EXIT_UNREADABLE;
+    if (options.baseline.writtenFileName == "-"_L1)
+        console.output = console.messages;
     FixRun fixes(options, configurations, &console);
     if (options.showsFixes)
         return fixes.diff();

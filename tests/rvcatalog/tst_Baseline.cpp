@@ -15,6 +15,11 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <thread>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -65,6 +70,11 @@ private Q_SLOTS:
     void broken_data();
     void broken();
     void notWritable();
+    void notReplaceable_data();
+    void notReplaceable();
+    void pipe();
+    void standardStreams();
+    void contradictions_data();
     void contradictions();
 
 private:
@@ -372,11 +382,11 @@ void tst_Baseline::mergedFile()
 
 void tst_Baseline::unreadableCatalogue()
 {
-    write(u"b.json"_s, "kept");
+    write(u"b.json"_s, "{}");
     const CommandRun run({ u"check"_s, u"--write-baseline"_s, u"b.json"_s, u"c.xml"_s, u"none.xml"_s });
     QCOMPARE(run.exitCode, 2);
     QVERIFY(run.messages.endsWith(u"rvcatalog: no baseline was written, because not everything was checked\n"_s));
-    QCOMPARE(read(u"b.json"_s), QByteArray("kept"));
+    QCOMPARE(read(u"b.json"_s), QByteArray("{}"));
 
     QCOMPARE(CommandRun({ u"check"_s, u"--write-baseline"_s, u"b.json"_s, u"c.xml"_s }).exitCode, 0);
     write(u"c.xml"_s, "<products>");
@@ -437,14 +447,101 @@ void tst_Baseline::notWritable()
     QCOMPARE(run.exitCode, 2);
 }
 
+void tst_Baseline::notReplaceable_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<bool>("isReplaced");
+
+    QTest::newRow("catalogue") << QByteArray("<p/>") << false;
+    QTest::newRow("catalogue with a byte order mark") << QByteArray("\xef\xbb\xbf<p/>") << false;
+    QTest::newRow("catalogue with a blank in front") << QByteArray("\n <p/>") << false;
+    QTest::newRow("other text") << QByteArray("findings:") << false;
+    QTest::newRow("empty file") << QByteArray() << true;
+    QTest::newRow("conflict of a merge") << QByteArray("{\n<<<<<<< HEAD\n") << true;
+    QTest::newRow("newer version") << QByteArray(R"({"version":2,"findings":[]})") << true;
+}
+
+void tst_Baseline::notReplaceable()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(bool, isReplaced);
+    write(u"b.json"_s, content);
+    const CommandRun run({ u"check"_s, u"--write-baseline"_s, u"b.json"_s, u"c.xml"_s });
+    QCOMPARE(run.exitCode, isReplaced ? 0 : 2);
+    QCOMPARE(read(u"b.json"_s) == content, !isReplaced);
+    if (!isReplaced)
+        QCOMPARE(run.messages, u"b.json: error: this is no baseline, so it is not replaced\n"_s);
+}
+
+// A pipe gets the baseline and stays a pipe. It gives a baseline in pieces.
+void tst_Baseline::pipe()
+{
+    QCOMPARE(CommandRun({ u"check"_s, u"--write-baseline"_s, u"b.json"_s, u"c.xml"_s }).exitCode, 0);
+    QCOMPARE(::mkfifo("pipe", 0600), 0);
+    const int reader = ::open("pipe", O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    QVERIFY(reader >= 0);
+    QCOMPARE(CommandRun({ u"check"_s, u"--write-baseline"_s, u"pipe"_s, u"c.xml"_s }).exitCode, 0);
+    QFile pipe;
+    QVERIFY(pipe.open(reader, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle));
+    QCOMPARE(pipe.readAll(), read(u"b.json"_s));
+    QVERIFY(!QFileInfo(u"pipe"_s).isFile());
+
+    std::thread writer([text = read(u"b.json"_s)] {
+        QFile end(u"pipe"_s);
+        if (!end.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+            return;
+        end.write(text.left(text.size() / 2));
+        QTest::qSleep(100);
+        end.write(text.mid(text.size() / 2));
+    });
+    const CommandRun compared({ u"check"_s, u"--baseline"_s, u"pipe"_s, u"c.xml"_s });
+    writer.join();
+    QCOMPARE(compared.messages, QString());
+    QCOMPARE(compared.exitCode, 0);
+}
+
+void tst_Baseline::standardStreams()
+{
+    QCOMPARE(CommandRun({ u"check"_s, u"--write-baseline"_s, u"b.json"_s, u"c.xml"_s }).exitCode, 0);
+    const CommandRun written({ u"check"_s, u"--write-baseline"_s, u"-"_s, u"c.xml"_s });
+    QCOMPARE(written.output.toUtf8(), read(u"b.json"_s));
+    QVERIFY(written.messages.contains(u"0 errors"_s));
+    QCOMPARE(written.exitCode, 0);
+    QVERIFY(!QFile::exists(u"-"_s));
+    const CommandRun compared({ u"check"_s, u"--baseline"_s, u"-"_s, u"c.xml"_s }, read(u"b.json"_s));
+    QCOMPARE(compared.messages, QString());
+    QCOMPARE(compared.exitCode, 0);
+    const CommandRun broken({ u"check"_s, u"--baseline"_s, u"-"_s, u"c.xml"_s }, "[]");
+    QCOMPARE(broken.messages, u"-: error: this is no baseline of version 1\n"_s);
+}
+
+void tst_Baseline::contradictions_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QString>("message");
+
+    QTest::newRow("both baselines") << QStringList { u"--baseline=b.json"_s, u"--write-baseline=b.json"_s }
+                                    << u"--baseline and --write-baseline contradict each other"_s;
+    QTest::newRow("diff") << QStringList { u"--diff"_s, u"--write-baseline=b.json"_s }
+                          << u"--diff and --write-baseline contradict each other"_s;
+    QTest::newRow("no name") << QStringList { u"--baseline="_s } << u"--baseline needs the name of a file"_s;
+    QTest::newRow("baseline and catalogue from the input")
+            << QStringList { u"--baseline=-"_s, u"-"_s } << u"only one file can be the standard input"_s;
+    QTest::newRow("baseline and configuration from the input")
+            << QStringList { u"--baseline=-"_s, u"--config=-"_s } << u"only one file can be the standard input"_s;
+    QTest::newRow("baseline and mended catalogue to the output")
+            << QStringList { u"--write-baseline=-"_s, u"--fix"_s, u"-"_s }
+            << u"only one file can be the standard output"_s;
+}
+
 void tst_Baseline::contradictions()
 {
-    const CommandRun run({ u"check"_s, u"--baseline"_s, u"b.json"_s, u"--write-baseline"_s, u"b.json"_s, u"c.xml"_s });
-    QVERIFY(run.messages.startsWith(u"rvcatalog: --baseline and --write-baseline contradict each other"_s));
+    QFETCH(QStringList, options);
+    QFETCH(QString, message);
+    const CommandRun run(QStringList { u"check"_s, u"c.xml"_s } + options, CATALOGUE);
+    QCOMPARE(run.messages.section(u'\n', 0, 0), u"rvcatalog: "_s + message);
+    QCOMPARE(run.output, QString());
     QCOMPARE(run.exitCode, 2);
-    const CommandRun empty({ u"check"_s, u"--baseline"_s, QString(), u"c.xml"_s });
-    QVERIFY(empty.messages.startsWith(u"rvcatalog: --baseline needs the name of a file"_s));
-    QCOMPARE(empty.exitCode, 2);
 }
 
 QTEST_MAIN(tst_Baseline)
