@@ -7,10 +7,12 @@ using namespace Qt::StringLiterals;
 bool Configurations::read(const QStringList &catalogues, const Console &console)
 {
     QSet<QString> broken;
+    // A pipe can be read only once.
+    const RVCheckConfiguration chosen = readChosen(console);
     for (const QString &catalogue : catalogues) {
-        const RVCheckConfiguration configuration = found(catalogue);
+        const RVCheckConfiguration configuration = chosen.isNull() ? found(catalogue) : chosen;
         myConfigurations.insert(catalogue, configuration);
-        const QString fileName = configuration.fileName();
+        const QString fileName = chosen.isNull() ? configuration.fileName() : myChoice.fileName;
         if (!configuration.hasError() || broken.contains(fileName))
             continue;
         broken.insert(fileName);
@@ -38,8 +40,15 @@ RVCatalogueCheck Configurations::check(const QString &catalogue) const
 // The standard input belongs to the current folder, as a file with that name would.
 RVCheckConfiguration Configurations::found(const QString &catalogue) const
 {
-    if (myChoice.isNone)
+    return myChoice.isNone ? RVCheckConfiguration() : RVCheckConfiguration::find(catalogue);
+}
+
+/// Reads the file for all catalogues; null if there is none.
+RVCheckConfiguration Configurations::readChosen(const Console &console) const
+{
+    if (myChoice.fileName.isEmpty())
         return RVCheckConfiguration();
-    return myChoice.fileName.isEmpty() ? RVCheckConfiguration::find(catalogue)
-                                       : RVCheckConfiguration::read(myChoice.fileName);
+    if (myChoice.fileName == "-"_L1)
+        return RVCheckConfiguration::read(u"/dev/fd/%1"_s.arg(::fileno(console.input)));
+    return RVCheckConfiguration::read(myChoice.fileName);
 }

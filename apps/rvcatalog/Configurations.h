@@ -31,6 +31,7 @@ public:
 
 private:
     RVCheckConfiguration found(const QString &catalogue) const;
+    RVCheckConfiguration readChosen(const Console &console) const;
 
     Choice myChoice;
     RVCatalogueCheck myCheck;

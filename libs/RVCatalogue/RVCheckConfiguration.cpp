@@ -67,7 +67,11 @@ std::optional<QByteArray> RVCheckConfigurationData::readText()
         fail(tr("cannot open the file: %1").arg(file.errorString()));
         return std::nullopt;
     }
-    QByteArray text = file.read(LARGEST_FILE + 1);
+    // A pipe gives its text in pieces.
+    QByteArray text;
+    for (QByteArray piece = file.read(LARGEST_FILE + 1); !piece.isEmpty() && text.size() <= LARGEST_FILE;
+         piece = file.read(LARGEST_FILE + 1))
+        text += piece;
     if (file.error() != QFileDevice::NoError)
         fail(tr("cannot read the file: %1").arg(file.errorString()));
     else if (text.size() > LARGEST_FILE)

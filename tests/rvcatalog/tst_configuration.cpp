@@ -8,6 +8,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <unistd.h>
+
+#include <thread>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -47,6 +51,8 @@ private Q_SLOTS:
     void everyCatalogueHasItsOwn();
     void standardInput();
     void option();
+    void fromTheInput();
+    void fromAPipe();
     void none();
     void commandLineComesLast();
     void broken_data();
@@ -146,6 +152,39 @@ void tst_configuration::option()
     QCOMPARE(missing.exitCode, 2);
     QCOMPARE(missing.output, QString());
     QCOMPARE(missing.messages, u"none.toml: error: cannot open the file: No such file or directory\n"_s);
+}
+
+void tst_configuration::fromTheInput()
+{
+    const QStringList arguments { u"check"_s, u"--config"_s, u"-"_s, u"c.xml"_s };
+    const CommandRun run(arguments, "rules.keyword-legacy = 'error'");
+    QCOMPARE(findingsOf(run.output).value(0), u"error keyword-legacy"_s);
+    const CommandRun broken(arguments, "rule.keyword-legacy = 'error'");
+    QCOMPARE(broken.messages, u"-:1:1: error: there is no entry \"rule\"; did you mean \"rules\"?\n"_s);
+    QCOMPARE(broken.exitCode, 2);
+    const CommandRun twice({ u"check"_s, u"--config=-"_s, u"-"_s }, CATALOGUE);
+    QVERIFY(twice.messages.startsWith("rvcatalog: only one file can be the standard input\n"_L1));
+}
+
+// A shell makes a pipe of "--config <(command)". All catalogues use what it says.
+void tst_configuration::fromAPipe()
+{
+    int ends[2] = {};
+    QCOMPARE(::pipe(ends), 0);
+    QVERIFY(QFile::copy(u"c.xml"_s, u"d.xml"_s));
+    std::thread writer([end = ends[1]] {
+        for (const QByteArray &piece :
+             { QByteArray("rules.price-class-unknown = 'off'\n"), QByteArray("rules.keyword-legacy = 'error'\n") }) {
+            [[maybe_unused]] const auto written = ::write(end, piece.constData(), std::size_t(piece.size()));
+            QTest::qSleep(100);
+        }
+        ::close(end);
+    });
+    const CommandRun run({ u"check"_s, u"--config"_s, u"/dev/fd/%1"_s.arg(ends[0]), u"c.xml"_s, u"d.xml"_s });
+    writer.join();
+    QCOMPARE(::close(ends[0]), 0);
+    QCOMPARE(findingsOf(run.output).count(u"error keyword-legacy"_s), 2);
+    QVERIFY(!run.output.contains(u"price-class-unknown"_s));
 }
 
 void tst_configuration::none()
