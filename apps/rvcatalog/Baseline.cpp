@@ -56,6 +56,13 @@ QByteArray firstBytes(QIODevice *device, qint64 number)
     return result;
 }
 
+/// The folder of a file, without symbolic links if it exists.
+QString folderOf(const QString &fileName)
+{
+    const QFileInfo folder(QFileInfo(fileName).absolutePath());
+    return folder.exists() ? folder.canonicalFilePath() : folder.absoluteFilePath();
+}
+
 QByteArray entryText(const QString &catalogue, const QStringList &key, qint64 count)
 {
     QJsonObject entry { { FILE_KEY, catalogue }, { RULE, key.at(0) }, { TEXT, key.at(2) } };
@@ -153,12 +160,16 @@ qint64 Baseline::size() const
     return result;
 }
 
-// A baseline is the same on every machine and in every working folder.
+// A baseline is the same on every machine and in every working folder, which may be known by a symbolic link as well.
 QString Baseline::name(const QString &catalogue) const
 {
     if (catalogue == STREAM)
         return catalogue;
-    return QFileInfo(myFileName).absoluteDir().relativeFilePath(QFileInfo(catalogue).absoluteFilePath());
+    QString &name = myNames[catalogue];
+    if (name.isEmpty())
+        name = QDir(folderOf(myFileName))
+                       .relativeFilePath(folderOf(catalogue) + u'/' + QFileInfo(catalogue).fileName());
+    return name;
 }
 
 bool Baseline::fail(const Console &console, const QString &text) const

@@ -3,6 +3,7 @@
 
 #include "Console.h"
 
+#include <QHash>
 #include <QMap>
 #include <QString>
 #include <QStringList>
@@ -59,6 +60,7 @@ private:
 
     QString myFileName;
     QMap<QString, Counts> myCounts; // by the name of the catalogue
+    mutable QHash<QString, QString> myNames; // of the catalogues, because a finding asks for it
     qint64 myMended = 0;
 };
 

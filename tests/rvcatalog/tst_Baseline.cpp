@@ -61,6 +61,7 @@ private Q_SLOTS:
     void mostFindings();
     void severalCatalogues();
     void anotherFolder();
+    void folderBehindALink();
     void nameOfAnotherCatalogue();
     void standardInput();
     void ruleThatIsOff();
@@ -308,6 +309,18 @@ void tst_Baseline::anotherFolder()
 }
 
 // A product in two catalogues has the same finding in both.
+void tst_Baseline::folderBehindALink()
+{
+    QVERIFY(QDir().mkpath(u"real"_s));
+    QVERIFY(QFile::link(u"real"_s, u"link"_s));
+    QVERIFY(QFile::copy(u"c.xml"_s, u"real/c.xml"_s));
+    QCOMPARE(CommandRun({ u"check"_s, u"--write-baseline"_s, u"real/b.json"_s, u"real/c.xml"_s }).exitCode, 0);
+    for (const QString &baseline : { u"real/b.json"_s, u"link/b.json"_s }) {
+        for (const QString &catalogue : { u"real/c.xml"_s, u"link/c.xml"_s })
+            QCOMPARE(CommandRun({ u"check"_s, u"--baseline"_s, baseline, catalogue }).exitCode, 0);
+    }
+}
+
 void tst_Baseline::nameOfAnotherCatalogue()
 {
     const QString path = QDir::current().filePath(u"a/d.xml"_s);
