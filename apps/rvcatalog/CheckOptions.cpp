@@ -3,6 +3,7 @@
 #include "FindingWriter.h"
 #include "RuleSearch.h"
 
+#include <RVCatalogueReader.h>
 #include <RVCatalogueRule.h>
 
 #include <QCommandLineParser>
@@ -89,6 +90,12 @@ QString CheckOptions::read(const QCommandLineParser &parser)
             return refusal;
     }
     return fileNames.isEmpty() ? u"expected at least 1 argument, got 0"_s : QString();
+}
+
+void CheckOptions::limitThreads(RVCatalogueReader *reader) const
+{
+    if (threads > 0)
+        reader->setThreadCount(threads);
 }
 
 QString CheckOptions::readLooks(const QCommandLineParser &parser)

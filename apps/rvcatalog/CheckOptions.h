@@ -12,6 +12,7 @@
 #include <limits>
 
 class QCommandLineParser;
+class RVCatalogueReader;
 
 /// The options of "check" on the command line.
 struct CheckOptions
@@ -34,6 +35,8 @@ struct CheckOptions
     static void addTo(QCommandLineParser *parser);
     /// Takes the options from the parser. Returns the reason if they make no sense; empty otherwise.
     QString read(const QCommandLineParser &parser);
+    /// Sets the number of threads of the reader.
+    void limitThreads(RVCatalogueReader *reader) const;
 
 private:
     QString readLooks(const QCommandLineParser &parser);

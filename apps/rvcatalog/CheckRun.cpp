@@ -79,8 +79,7 @@ void CheckRun::read(CatalogueFile *file, const QString &fileName)
     RVCatalogueReader &reader = file->reader();
     const RVCatalogueCheck catalogueCheck = myConfigurations.check(fileName);
     reader.setCheck(catalogueCheck, &myFiles, fileName);
-    if (myOptions.threads > 0)
-        reader.setThreadCount(myOptions.threads);
+    myOptions.limitThreads(&reader);
     const qint64 size = reader.size();
     reader.map(checkedProducts, [&](const CheckedProducts &checked) {
         mySummary.products += checked.count;

@@ -169,8 +169,7 @@ std::optional<Problem> FixRun::collect(RVCatalogueReader *reader, const QString 
                                        qint64 *findings)
 {
     reader->setCheck(myConfigurations.check(fileName));
-    if (myOptions.threads > 0)
-        reader->setThreadCount(myOptions.threads);
+    myOptions.limitThreads(reader);
     const qint64 size = reader->size();
     const auto add = [&](const QList<RVCatalogueFinding> &found) {
         *findings += found.size();

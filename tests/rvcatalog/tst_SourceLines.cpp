@@ -18,6 +18,7 @@ private Q_SLOTS:
     void lines_data();
     void lines();
     void anyOrder();
+    void endsBetweenPieces();
     void longFile();
     void longLine();
     void noFile_data();
@@ -83,7 +84,17 @@ void tst_SourceLines::anyOrder()
     QCOMPARE(file.line(2), u"b"_s);
 }
 
-// Pieces of the file end anywhere, also between a carriage return and its line feed.
+// The file is read in pieces of 64 KiB.
+void tst_SourceLines::endsBetweenPieces()
+{
+    for (int length = 65530; length < 65540; ++length) {
+        const QByteArray first(length, 'x');
+        SourceLines file(write(first + "\r\nb\n"));
+        QCOMPARE(file.line(1), QString::fromLatin1(first));
+        QCOMPARE(file.line(2), u"b"_s);
+    }
+}
+
 void tst_SourceLines::longFile()
 {
     QByteArray content;
