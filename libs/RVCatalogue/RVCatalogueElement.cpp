@@ -3,6 +3,7 @@
 #include "RVCatalogueProductData_p.h"
 #include "RVFilePosition_p.h"
 #include "RVNameVocabulary_p.h"
+#include "RVUtf8_p.h"
 
 #include <algorithm>
 
@@ -77,7 +78,7 @@ QByteArrayView RVCatalogueElement::utf8(QLatin1StringView name) const noexcept
 QString RVCatalogueElement::attribute(QLatin1StringView name) const
 {
     const QByteArrayView text = utf8(name);
-    return text.isNull() ? QString() : QString::fromUtf8(text);
+    return text.isNull() ? QString() : rvFromUtf8(text);
 }
 
 QStringList RVCatalogueElement::attributeNames() const
@@ -137,7 +138,7 @@ std::optional<RVFileRange> RVCatalogueElement::valueRange(QLatin1StringView name
         return std::nullopt;
     const RVCatalogueRows::Element &element = d->rows.elements[myIndex];
     const bool isInTag = attribute->value.begin < element.tag.begin + element.tag.size;
-    const QString value = QString::fromUtf8(d->rows.view(attribute->value));
+    const QString value = rvFromUtf8(d->rows.view(attribute->value));
     if (!isInTag || from < 0 || length < 0 || from > value.size() - length)
         return std::nullopt;
     const quint32 begin = attribute->value.begin - element.tag.begin;

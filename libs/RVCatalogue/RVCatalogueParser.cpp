@@ -1,5 +1,7 @@
 #include "RVCatalogueParser_p.h"
 
+#include "RVUtf8_p.h"
+
 #include <utility>
 
 namespace {
@@ -107,7 +109,7 @@ void RVCatalogueParser::openGroup(const RVXmlTag &tag)
     for (int i = 0; i < tag.allAttributes && !hasName; ++i) {
         hasName = tag.attributeName(i) == GROUP_NAME;
         if (hasName)
-            myFamilies += QString::fromUtf8(tag.attributeValue(i));
+            myFamilies += rvFromUtf8(tag.attributeValue(i));
     }
     myGroups.push_back(hasName);
 }

@@ -3,6 +3,7 @@
 #include "RVCatalogueAttributes.h"
 #include "RVCatalogueProductData_p.h"
 #include "RVCatalogueValues_p.h"
+#include "RVUtf8_p.h"
 
 #include <QColor>
 
@@ -73,7 +74,7 @@ RVPageCountOrganization pictureBoxCounts(const RVCatalogueElement &product)
 /// A value from the document type, written for use between quotes.
 QByteArray quotedValue(QByteArrayView value)
 {
-    QString text = QString::fromUtf8(value).toHtmlEscaped();
+    QString text = rvFromUtf8(value).toHtmlEscaped();
     text.replace(u'\t', "&#9;"_L1).replace(u'\n', "&#10;"_L1).replace(u'\r', "&#13;"_L1);
     return '"' + text.toUtf8() + '"';
 }

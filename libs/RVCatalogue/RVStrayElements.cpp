@@ -5,6 +5,7 @@
 #include "RVFindingText_p.h"
 #include "RVNameGuess_p.h"
 #include "RVNameText_p.h"
+#include "RVUtf8_p.h"
 #include "RVXmlScanner_p.h"
 
 #include <algorithm>
@@ -22,7 +23,7 @@ QString typeOf(const RVXmlTag &tag)
 {
     for (int i = 0; i < tag.allAttributes; ++i) {
         if (tag.attributeName(i) == "type")
-            return QString::fromUtf8(tag.attributeValue(i));
+            return rvFromUtf8(tag.attributeValue(i));
     }
     return QString();
 }

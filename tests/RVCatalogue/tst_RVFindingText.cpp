@@ -192,6 +192,12 @@ void tst_RVFindingText::foreignLetters_data()
     QTest::newRow("zero width space")
             << u"page_binding"_s << u"gl\u200Bue"_s
             << u"\"gl ue\" is no keyword of page_binding; it has U+200B, which is invisible; did you mean \"glue\"?"_s;
+    QTest::newRow("byte order mark")
+            << u"page_binding"_s << u"\uFEFFglue"_s
+            << u"\" glue\" is no keyword of page_binding; it has U+FEFF, which is invisible; did you mean \"glue\"?"_s;
+    QTest::newRow("byte order mark in front of a number")
+            << u"pages"_s << u"\uFEFF26"_s
+            << u"pages is \" 26\", which is no whole number; it has U+FEFF, which is invisible; write 26"_s;
     QTest::newRow("soft hyphen")
             << u"page_binding"_s << u"lay\u00ADflat"_s
             << u"\"lay flat\" is no keyword of page_binding; it has U+00AD, which is invisible; did you mean \"layflat\"?"_s;

@@ -100,6 +100,8 @@ void tst_fixes::oneSafeAnswer_data()
     row("blanks in a keyword", with("cover_type", "poster self  adhesive"), with("cover_type", "poster_self_adhesive"));
     row("dash in a keyword", with("cover_type", "wall-calendar"), with("cover_type", "calendar_simplex"));
     row("invisible letter in a keyword", with("page_binding", "spir\u200Bal"), with("page_binding", "spiral"));
+    row("byte order mark in front of a keyword", with("cover_type", "\uFEFFhardcover"),
+        with("cover_type", "hardcover"));
     row("letters of another script", with("cover_type", "s\u043Eftc\u043Ev\u0435r"), with("cover_type", "softcover"));
     row("semicolons", with("orientation", "portrait;square;landscape"),
         with("orientation", "portrait,square,landscape"));
