@@ -3,6 +3,7 @@
 #include "RVFindingReport_p.h"
 #include "RVFindingText_p.h"
 #include "RVForeignLetters_p.h"
+#include "RVUtf8_p.h"
 
 #include <QString>
 
@@ -27,7 +28,7 @@ bool isAscii(QByteArrayView text)
 int compareFolded(QByteArrayView a, QByteArrayView b)
 {
     return isAscii(a) && isAscii(b) ? a.compare(b, Qt::CaseInsensitive)
-                                    : QString::fromUtf8(a).compare(QString::fromUtf8(b), Qt::CaseInsensitive);
+                                    : rvFromUtf8(a).compare(rvFromUtf8(b), Qt::CaseInsensitive);
 }
 
 bool isSeparator(char letter)
@@ -54,6 +55,14 @@ bool isFormatMark(QChar letter)
 bool isUnseen(QChar letter)
 {
     return isSpace(letter) || isFormatMark(letter);
+}
+
+/// Compares what can be seen of the texts, without letter case.
+int compareSeen(QByteArrayView a, QByteArrayView b)
+{
+    if (std::none_of(a.begin(), a.end(), mayBeBlank) && std::none_of(b.begin(), b.end(), mayBeBlank))
+        return compareFolded(a, b);
+    return rvFromUtf8(a).removeIf(isUnseen).compare(rvFromUtf8(b).removeIf(isUnseen), Qt::CaseInsensitive);
 }
 
 /// The text about a key or a value with blanks or invisible letters; its placeholders are not filled in.
@@ -116,13 +125,15 @@ int rvCompareSpellings(QByteArrayView a, QByteArrayView b)
 {
     if (a == b)
         return 0;
-    const int order = compareFolded(a.trimmed(), b.trimmed());
+    if (const int order = compareSeen(a, b))
+        return order;
+    const int order = compareFolded(a, b);
     return order != 0 ? order : a.compare(b);
 }
 
 bool rvIsOtherSpelling(QByteArrayView a, QByteArrayView b)
 {
-    return a != b && compareFolded(a.trimmed(), b.trimmed()) == 0;
+    return a != b && compareSeen(a, b) == 0;
 }
 
 void RVOptionSpellingCheck::check(const RVOptionsByKey &options)

@@ -5,10 +5,10 @@
 
 class RVFindingReport;
 
-/// The order of keys and of values: first without letter case and surrounding blanks, then byte by byte. So the
-/// spellings of one text are neighbours.
+/// The order of keys and of values: first without letter case, blanks and invisible letters, then without letter case,
+/// then byte by byte. So the spellings of one text are neighbours.
 int rvCompareSpellings(QByteArrayView a, QByteArrayView b);
-/// True for texts that differ, but only in letter case and blanks around them.
+/// True for texts that differ, but only in letter case, blanks and invisible letters.
 bool rvIsOtherSpelling(QByteArrayView a, QByteArrayView b);
 
 /// Checks keys and values of options that are valid, but surely not meant.

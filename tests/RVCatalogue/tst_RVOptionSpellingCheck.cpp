@@ -66,6 +66,7 @@ void tst_RVOptionSpellingCheck::letters_data()
         "key='a' value='b\xe2\x80\x8b"
         "c'",
         blank(u"value='b\u200bc'"_s));
+    row("byte order mark", "key='a' value='\uFEFFb'", blank(u"value='\uFEFFb'"_s));
     row("soft hyphen", "key='a&#173;b' value='c'", blank(u"key='a&#173;b'"_s));
     row("letters of another script", "key='a' value='\xd0\xb4\xd0\xb0'", {});
     row("nothing but a blank", "key='a' value=' '", blank(u"value=' '"_s));
@@ -74,6 +75,15 @@ void tst_RVOptionSpellingCheck::letters_data()
     QTest::newRow("duplicate option with a blank")
             << QByteArrayList { "key='a' value='b c' preselected='1'", "key='a' value='b c'" }
             << QStringList { u"value='b c': option-blank"_s, u"value='b c': option-duplicate"_s };
+    QTest::newRow("blank between keys that makes other keys")
+            << QByteArrayList { "key='a; b' value='c;d' preselected='1'", "key='a;b' value='e;f'" }
+            << QStringList { u"key='a; b': option-blank"_s };
+    QTest::newRow("invisible letter that makes another key")
+            << QByteArrayList { "key='\u200Ba' value='b' preselected='1'", "key='a' value='c'" }
+            << QStringList { u"key='\u200Ba': option-blank"_s };
+    QTest::newRow("letter case beside a blank")
+            << QByteArrayList { "key='a' value='XL' preselected='1'", "key='a' value='x l'", "key='a' value='xl'" }
+            << QStringList { u"value='x l': option-blank"_s, u"value='xl': option-letter-case"_s };
     QTest::newRow("blank that makes another key")
             << QByteArrayList { "key='a' value='b' preselected='1'", "key='a ' value='c'", "key='a ' value='d'" }
             << QStringList { u"key='a ': option-blank"_s, u"key='a ': option-blank"_s };
