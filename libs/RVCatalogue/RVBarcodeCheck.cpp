@@ -28,6 +28,8 @@ constexpr int LONGEST_PAGE = 30000;
 /// The slimmest and the widest page that is printed, width by height.
 constexpr double SLIMMEST = 0.1;
 constexpr double WIDEST = 10;
+/// A missing extent is a mistake already, so that side of the barcode is taken as this thin, in millimetres.
+constexpr double THINNEST = 0.1;
 
 /// The proportions, width by height, that pages of an orientation have.
 struct PageRatios
@@ -212,9 +214,12 @@ std::optional<RVBarcodeCheck::Barcode> RVBarcodeCheck::read(const RVCatalogueEle
     const auto height = rvCheckedDouble(element, "height"_L1, 1, myReport);
     if (!page || !x || !y || !width || !height)
         return std::nullopt;
-    const auto definition = RVBarcodeDefinition::createFromLengths(RVDistance(*x, unit), RVDistance(*y, unit),
-                                                                   RVDistance(*width, unit), RVDistance(*height, unit),
-                                                                   *page, RVBarcodeDefinition::DEFAULT_IMAGE_NAME);
+    const auto extent = [&](QLatin1StringView name, double length) {
+        return element.hasAttribute(name) ? RVDistance(length, unit) : RVDistance(THINNEST, DISTANCE_UNIT_MILLIMETRE);
+    };
+    const auto definition = RVBarcodeDefinition::createFromLengths(
+            RVDistance(*x, unit), RVDistance(*y, unit), extent("width"_L1, *width), extent("height"_L1, *height), *page,
+            RVBarcodeDefinition::DEFAULT_IMAGE_NAME);
     return Barcode { element, definition.rect(), *page };
 }
 
@@ -240,6 +245,9 @@ void RVBarcodeCheck::checkArea(const Barcode &barcode, const PageSize &pageSize)
         return myReport->add(RVCatalogueRuleId::BarcodeInvalid, barcode.element, hasWidth ? "height"_L1 : "width"_L1,
                              RVFindingText::tr("the barcode has no width or no height; write both above 0"));
     if (!checkEdges(barcode, pageSize))
+        return;
+    // A missing page is a mistake already.
+    if (!barcode.element.hasAttribute("pageNr"_L1))
         return;
     checkOverlap(barcode);
     myPlaced += barcode;

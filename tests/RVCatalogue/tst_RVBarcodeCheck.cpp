@@ -61,6 +61,13 @@ void tst_RVBarcodeCheck::missing_data()
                                        << QStringList { u"widht='38': attribute-misspelt"_s };
     QTest::newRow("width is misspelt, height is missing")
             << barcode(place + "widht='38' pageNr='2'") << QStringList { noSize, u"widht='38': attribute-misspelt"_s };
+    QTest::newRow("no height, lower than one unit")
+            << barcode("position_x='12' position_y='0.5' width='38' pageNr='2'") << QStringList { noSize };
+    QTest::newRow("no height, left of the page") << barcode("position_x='-12' position_y='290' width='38' pageNr='2'")
+                                                 << QStringList { noSize, u"position_x='-12': barcode-outside-page"_s };
+    const QByteArray size = " width='38' height='10' ";
+    QTest::newRow("no page, twice") << barcode(place + size + "/><barcode " + place + size)
+                                    << QStringList { noPage, noPage };
     QTest::newRow("page is empty") << barcode(place + "width='38' height='10' pageNr=''")
                                    << QStringList { u"pageNr='': number-invalid"_s };
 }
