@@ -45,6 +45,11 @@ QLatin1StringView widestPart(const RVCatalogueElement &spine, int blocks)
             ->name;
 }
 
+RVRelatedPlace placeOfBinding(const RVCatalogueElement &product)
+{
+    return rvPlaceOf(product, "page_binding"_L1, RVFindingText::tr("the binding"));
+}
+
 }
 
 struct RVSpineCheck::Spine
@@ -75,7 +80,7 @@ void RVSpineCheck::check(const RVCatalogueProduct &product)
                       RVFindingText::tr(
                               "the product is bound (%1), but has no spine in a composition; add one with its widths")
                               .arg(binding.encodeCSV()),
-                      { { rvPlaceOf(product.element(), "page_binding"_L1, RVFindingText::tr("the binding")) } });
+                      { { placeOfBinding(myReport->product().element()) } });
     }
 }
 
@@ -103,7 +108,8 @@ void RVSpineCheck::checkWidths(const Spine &spine)
                 RVFindingText::tr("the widths of the spine are too large for a number; write smaller ones"));
     if (spine.isReadable && spine.isBound && !spine.hasWidth)
         return myReport->add(RVCatalogueRuleId::SpineMissing, spine.element,
-                             RVFindingText::tr("the product is bound, but its spine has no width; write a base_width"));
+                             RVFindingText::tr("the product is bound, but its spine has no width; write a base_width"),
+                             { { placeOfBinding(myReport->product().element()) } });
     if (!spine.negative.isEmpty())
         return addNegative(spine);
     checkParts(spine);

@@ -599,6 +599,12 @@ void tst_RVFindingText::places_data()
             << productWith("", "<product/>\n")
             << QStringList { u"element-ignored"_s,
                              u"<product type='A' article_id='1' > in line 2: the outer product"_s };
+    QTest::newRow("bound without a spine")
+            << productWith("page_binding='glue'")
+            << QStringList { u"spine-missing"_s, u"page_binding='glue' in line 2: the binding"_s };
+    QTest::newRow("bound with an empty spine")
+            << productWith("page_binding='glue'", "<composition><spine/></composition>\n")
+            << QStringList { u"spine-missing"_s, u"page_binding='glue' in line 2: the binding"_s };
     QTest::newRow("barcodes overlap")
             << productWith("",
                            "<barcodes>\n<barcode position_y='50' width='9' height='9' pageNr='1'/>\n"
