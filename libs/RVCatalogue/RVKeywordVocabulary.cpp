@@ -206,16 +206,18 @@ qsizetype RVKeywordVocabulary::countKeywords(const QStringList &pieces) const
                          [this](const QString &piece) { return myMainKeywords.contains(piece.toLower()); });
 }
 
-/// Keywords that differ only in blanks, dashes and letters of the same look.
+/// Keywords that differ only in blanks, dashes and letters of the same look or sound.
 bool RVKeywordVocabulary::explainSpelling(const QString &plain, RVKeywordFault *fault) const
 {
-    const QStringList keywords = mySqueezed.value(withoutSeparators(plain));
-    if (keywords.isEmpty())
+    const QString squeezed = withoutSeparators(plain);
+    const QStringList keywords = mySqueezed.value(squeezed);
+    const QStringList sounds = mySqueezed.value(QString(squeezed).replace("ph"_L1, "f"_L1));
+    if (keywords.isEmpty() && sounds.isEmpty())
         return false;
-    guess(plain, keywords, fault);
+    guess(plain, keywords.isEmpty() ? sounds : keywords, fault);
     // Two keywords side by side may also be meant as two.
     const QStringList words = plain.split(u' ', Qt::SkipEmptyParts);
-    if (words.size() > 1 && countKeywords(words) == words.size())
+    if (keywords.isEmpty() || (words.size() > 1 && countKeywords(words) == words.size()))
         fault->mended = QString();
     return true;
 }
@@ -238,7 +240,11 @@ bool RVKeywordVocabulary::explainMistake(const QString &plain, RVKeywordFault *f
     RVNearestTexts nearest(plain);
     for (const QString &keyword : myGuesses)
         nearest.offer(keyword);
-    if (nearest.texts().isEmpty())
+    // Several mistakes that begin with the first letter make another word.
+    constexpr int FEW_MISTAKES = 2;
+    if (nearest.texts().isEmpty()
+        || (nearest.distance() > FEW_MISTAKES
+            && !nearest.texts().constFirst().startsWith(plain.at(0), Qt::CaseInsensitive)))
         return false;
     // If the keywords are more than one letter away, the first guess is as good as any other.
     guess(plain, nearest.distance() > 1 ? nearest.texts().first(1) : nearest.texts(), fault);

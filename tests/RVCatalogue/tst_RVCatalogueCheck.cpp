@@ -1137,6 +1137,15 @@ void tst_RVCatalogueCheck::guesses_data()
     QTest::newRow("other separator")
             << u"paper_type"_s << u"indigo_glossy"_s
             << u"\"indigo_glossy\" is no keyword of paper_type; did you mean \"indigo-glossy\"?"_s;
+    QTest::newRow("same sound")
+            << u"article_class"_s << u"photo book"_s
+            << u"\"photo book\" is no keyword of article_class; did you mean \"fotobook\", that is \"book\"?"_s;
+    QTest::newRow("several letters wrong behind the first")
+            << u"cover_type"_s << u"acrylic_glass"_s
+            << u"\"acrylic_glass\" is no keyword of cover_type; did you mean \"acryl_glas\"?"_s;
+    QTest::newRow("several letters wrong, the first too")
+            << u"cover_type"_s << u"calendar"_s
+            << u"\"calendar\" is no keyword of cover_type; \"rvcatalog keywords cover_type\" lists them"_s;
     QTest::newRow("similar to no keyword")
             << u"cover_type"_s << u"zzzzzzzz"_s
             << u"\"zzzzzzzz\" is no keyword of cover_type; \"rvcatalog keywords cover_type\" lists them"_s;

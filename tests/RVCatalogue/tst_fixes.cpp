@@ -166,6 +166,7 @@ void tst_fixes::noSafeAnswer_data()
     row("empty keyword", with("cover_type", "hardcover,"), "keyword-unknown");
     row("no keyword", with("cover_type", ""), "keyword-unknown");
     row("one keyword or two", with("paper_type", "indigo glossy"), "keyword-unknown");
+    row("one keyword or two, by its sound", with("article_class", "photo book"), "keyword-unknown");
     row("semicolon beside no keyword", with("cover_type", "hardcover;xyz"), "keyword-unknown");
     row("display name of several values", with("article_class", "RAVO KALENDER"), "keyword-unknown");
     row("other script and a letter too many", with("page_binding", "glu\u0435x"), "keyword-unknown");
