@@ -30,6 +30,7 @@ constexpr double SLIMMEST = 0.1;
 constexpr double WIDEST = 10;
 /// A missing extent is a mistake already, so that side of the barcode is taken as this thin, in millimetres.
 constexpr double THINNEST = 0.1;
+constexpr auto PAGE = "pageNr"_L1;
 
 /// The proportions, width by height, that pages of an orientation have.
 struct PageRatios
@@ -166,22 +167,21 @@ void RVBarcodeCheck::check(const RVCatalogueProduct &product)
     for (auto element = barcodes.firstChildElement(name); !element.isNull();
          element = element.nextSiblingElement(name)) {
         checkMissing(element);
-        const std::optional<Barcode> barcode = read(element, unit);
-        if (!barcode)
-            continue;
-        checkPage(*barcode);
+        const std::optional<int> page = rvCheckedInt(element, PAGE, 0, myReport);
+        if (page)
+            checkPage(element, *page);
+        const std::optional<QRect> area = readArea(element, unit);
         if (element.utf8("image"_L1).isEmpty() && element.hasAttribute("image"_L1))
             myReport->add(RVCatalogueRuleId::BarcodeInvalid, element, "image"_L1,
                           RVFindingText::tr("the barcode has no image; name a file, or leave out the attribute"));
-        else if (isUnitKnown)
-            checkArea(*barcode, pageSize);
+        else if (isUnitKnown && area)
+            checkArea({ element, *area, page }, pageSize);
     }
 }
 
 /// Finds attributes that a barcode needs, though they have defaults.
 void RVBarcodeCheck::checkMissing(const RVCatalogueElement &element)
 {
-    constexpr auto page = "pageNr"_L1;
     const auto isMissing = [&](QLatin1StringView name) {
         return !element.hasAttribute(name) && !myReport->isMeant(element, name);
     };
@@ -197,42 +197,40 @@ void RVBarcodeCheck::checkMissing(const RVCatalogueElement &element)
                                         .arg(missing.first())
                               : RVFindingText::tr("the barcode has no width and no height, so it takes 1 unit each; "
                                                   "write how large it is"));
-    if (isMissing(page))
-        myReport->add(RVCatalogueRuleId::BarcodePageMissing, element, page,
+    if (isMissing(PAGE))
+        myReport->add(RVCatalogueRuleId::BarcodePageMissing, element, PAGE,
                       RVFindingText::tr("the barcode has no page number (pageNr), so it stands on page 0; "
                                         "write the page that it is on"));
 }
 
-/// Reads a barcode; nothing if a number cannot be read.
-std::optional<RVBarcodeCheck::Barcode> RVBarcodeCheck::read(const RVCatalogueElement &element,
-                                                            const RVDistanceUnit &unit)
+/// Reads the place of a barcode on its page; nothing if a length cannot be read.
+std::optional<QRect> RVBarcodeCheck::readArea(const RVCatalogueElement &element, const RVDistanceUnit &unit)
 {
-    const auto page = rvCheckedInt(element, "pageNr"_L1, 0, myReport);
     const auto x = rvCheckedDouble(element, "position_x"_L1, 1, myReport);
     const auto y = rvCheckedDouble(element, "position_y"_L1, 1, myReport);
     const auto width = rvCheckedDouble(element, "width"_L1, 1, myReport);
     const auto height = rvCheckedDouble(element, "height"_L1, 1, myReport);
-    if (!page || !x || !y || !width || !height)
+    if (!x || !y || !width || !height)
         return std::nullopt;
     const auto extent = [&](QLatin1StringView name, double length) {
         return element.hasAttribute(name) ? RVDistance(length, unit) : RVDistance(THINNEST, DISTANCE_UNIT_MILLIMETRE);
     };
     const auto definition = RVBarcodeDefinition::createFromLengths(
-            RVDistance(*x, unit), RVDistance(*y, unit), extent("width"_L1, *width), extent("height"_L1, *height), *page,
+            RVDistance(*x, unit), RVDistance(*y, unit), extent("width"_L1, *width), extent("height"_L1, *height), 0,
             RVBarcodeDefinition::DEFAULT_IMAGE_NAME);
-    return Barcode { element, definition.rect(), *page };
+    return definition.rect();
 }
 
-void RVBarcodeCheck::checkPage(const Barcode &barcode)
+void RVBarcodeCheck::checkPage(const RVCatalogueElement &element, int page)
 {
     const int highest = myPageCounts.counts.maxPages();
-    if (barcode.page < 0)
-        myReport->add(RVCatalogueRuleId::BarcodePageImpossible, barcode.element, "pageNr"_L1,
-                      RVFindingText::tr("there is no page %1; write 0 or more").arg(barcode.page));
-    else if (myPageCounts.areValid && barcode.page > highest)
-        myReport->add(RVCatalogueRuleId::BarcodePageImpossible, barcode.element, "pageNr"_L1,
+    if (page < 0)
+        myReport->add(RVCatalogueRuleId::BarcodePageImpossible, element, PAGE,
+                      RVFindingText::tr("there is no page %1; write 0 or more").arg(page));
+    else if (myPageCounts.areValid && page > highest)
+        myReport->add(RVCatalogueRuleId::BarcodePageImpossible, element, PAGE,
                       RVFindingText::tr("there is no page %1; the product has at most %2, so write that or less")
-                              .arg(barcode.page)
+                              .arg(page)
                               .arg(highest),
                       { { placeOfHighest(myReport->product().element()) } });
 }
@@ -246,8 +244,8 @@ void RVBarcodeCheck::checkArea(const Barcode &barcode, const PageSize &pageSize)
                              RVFindingText::tr("the barcode has no width or no height; write both above 0"));
     if (!checkEdges(barcode, pageSize))
         return;
-    // A missing page is a mistake already.
-    if (!barcode.element.hasAttribute("pageNr"_L1))
+    // A page that is missing or cannot be read is a mistake already.
+    if (!barcode.page || !barcode.element.hasAttribute(PAGE))
         return;
     checkOverlap(barcode);
     myPlaced += barcode;

@@ -32,12 +32,12 @@ private:
     {
         RVCatalogueElement element;
         QRect area; // in tenths of a millimetre
-        int page;
+        std::optional<int> page; // nothing if it cannot be read
     };
 
     void checkMissing(const RVCatalogueElement &element);
-    std::optional<Barcode> read(const RVCatalogueElement &element, const RVDistanceUnit &unit);
-    void checkPage(const Barcode &barcode);
+    std::optional<QRect> readArea(const RVCatalogueElement &element, const RVDistanceUnit &unit);
+    void checkPage(const RVCatalogueElement &element, int page);
     void checkArea(const Barcode &barcode, const PageSize &pageSize);
     bool checkEdges(const Barcode &barcode, const PageSize &pageSize);
     bool checkExactPage(const Barcode &barcode, const PageSize &pageSize);

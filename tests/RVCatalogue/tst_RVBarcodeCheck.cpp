@@ -68,6 +68,18 @@ void tst_RVBarcodeCheck::missing_data()
     const QByteArray size = " width='38' height='10' ";
     QTest::newRow("no page, twice") << barcode(place + size + "/><barcode " + place + size)
                                     << QStringList { noPage, noPage };
+    QTest::newRow("page is impossible, position cannot be read")
+            << barcode("position_x='12mm' position_y='290' pageNr='99'" + size)
+            << QStringList { u"position_x='12mm': number-invalid"_s, u"pageNr='99': barcode-page-impossible"_s };
+    QTest::newRow("width of 0, page is misspelt")
+            << barcode(place + "width='0' height='10' pagNr='2'")
+            << QStringList { u"width='0': barcode-invalid"_s, u"pagNr='2': attribute-misspelt"_s };
+    QTest::newRow("page cannot be read, twice")
+            << barcode(place + size + "pageNr='x'/><barcode " + place + size + "pageNr='y'")
+            << QStringList { u"pageNr='x': number-invalid"_s, u"pageNr='y': number-invalid"_s };
+    QTest::newRow("no image, height cannot be read")
+            << barcode(place + "width='38' height='x' pageNr='2' image=''")
+            << QStringList { u"height='x': number-invalid"_s, u"image='': barcode-invalid"_s };
     QTest::newRow("page is empty") << barcode(place + "width='38' height='10' pageNr=''")
                                    << QStringList { u"pageNr='': number-invalid"_s };
 }

@@ -183,7 +183,7 @@ void tst_RVNameCheck::found_data()
     attribute("short name, letters swapped", product("nmae='a'"), u"nmae='a'"_s);
     attribute("beside the right one", product("pages='2' page='2'"), u"page='2'"_s);
     attribute("unit of barcodes", barcode("width='38' height='10' pageNr='2'", "unit='mm'"), u"unit='mm'"_s);
-    attribute("page of a barcode", barcode("width='38' height='10' pageNR='2'"), u"pageNR='2'"_s);
+    attribute("page of a barcode", barcode("position_y='20' width='38' height='10' pageNR='2'"), u"pageNR='2'"_s);
     attribute("position of a barcode", barcode("width='38' height='10' pageNr='2' position_x='1' positoin_y='20'"),
               u"positoin_y='20'"_s);
     attribute("unit of a composition", spine("base_width='8'", "Units='mm'"), u"Units='mm'"_s);
@@ -228,7 +228,7 @@ void tst_RVNameCheck::found_data()
     misplaced("units of a barcode", barcode("width='38' height='10' pageNr='2' units='mm'"), u"units='mm'"_s);
     misplaced("units of the product", product("units='mm'"), u"units='mm'"_s);
     misplaced("base width of the composition", spine("", "base_width='8'"), u"base_width='8'"_s);
-    misplaced("page of all barcodes", barcode("width='38' height='10'", "pageNr='2'"), u"pageNr='2'"_s);
+    misplaced("page of all barcodes", barcode("position_y='20' width='38' height='10'", "pageNr='2'"), u"pageNr='2'"_s);
     misplaced("width of all barcodes", barcode("height='10' pageNr='2'", "width='38'"), u"width='38'"_s);
     misplaced("key of all options", forms("<form value='b'/>", "key='a'"), u"key='a'"_s);
     misplaced("page counts of a part", product("", "<composition max_pages='9'/>"), u"max_pages='9'"_s);
