@@ -22,7 +22,7 @@ bool isColor(const QString &text)
 /// The colour that an invalid text certainly means: "#1a1a1a" for "1a1a1a"; null if there is none.
 QString meantColor(const QString &text)
 {
-    static const QRegularExpression theHexadecimal(u"^(?:0[xX])?((?:[0-9a-fA-F]{2}){3,4})$"_s);
+    static const QRegularExpression theHexadecimal(u"^(?|0[xX]((?:[0-9a-fA-F]{2}){3,4})|([0-9a-fA-F]{6}))$"_s);
     static const QRegularExpression theBlanks(u"\\s+"_s);
     QString plain = RVForeignLetters(text).plain().remove(theBlanks);
     if (isColor(plain))

@@ -129,7 +129,6 @@ void tst_fixes::oneSafeAnswer_data()
     row("unit of tenths", unitsWith("0.1 mm"), unitsWith("0.1mm"));
     row("one letter from a unit", unitsWith("pont"), unitsWith("point"));
     row("colour without its sign", colorWith("1a1a1A"), colorWith("#1a1a1A"));
-    row("colour with transparency without its sign", colorWith("801a1a1a"), colorWith("#801a1a1a"));
     row("colour with a blank", colorWith("# 1a1a1a"), colorWith("#1a1a1a"));
     row("price class in small letters", priceOf("lez2"), priceOf("LEZ2"));
     row("price class with a blank", priceOf("LEZ2 "), priceOf("LEZ2"));
@@ -196,6 +195,8 @@ void tst_fixes::noSafeAnswer_data()
     row("reference in a unit", unitsWith("M&#77;"), "unit-unknown");
     row("too few digits of a colour", colorWith("#1a1a1"), "option-color-invalid");
     row("five digits of a colour", colorWith("1a1a1"), "option-color-invalid");
+    // The transparency may stand before or behind the colour.
+    row("transparency without the sign of a colour", colorWith("1a1a1a80"), "option-color-invalid");
     row("nearly a colour", colorWith("redd"), "option-color-invalid");
     row("nearly a price class", priceOf("LEZ7"), "price-class-unknown");
     row("nearly a price class with a blank inside", priceOf("LEZ 7"), "price-class-unknown");
