@@ -1,3 +1,6 @@
+#include "ProgramRun.h"
+#include "TestFolder.h"
+
 #include <CheckOptions.h>
 #include <FindingWriter.h>
 
@@ -6,8 +9,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QXmlStreamReader>
 
@@ -128,7 +129,7 @@ private:
     /// The reasons why a document does not fit the schema; empty if it fits.
     QString sarifErrors(const QByteArray &document) const;
 
-    QTemporaryDir myFolder;
+    TestFolder myFolder;
 };
 
 void tst_FindingWriter::formats()
@@ -149,15 +150,15 @@ void tst_FindingWriter::text()
 void tst_FindingWriter::textWithExcerpts()
 {
     const auto write = [this](const QString &name, const QByteArray &content) {
-        QFile file(myFolder.filePath(name));
+        QFile file(myFolder.path(name));
         return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
     };
     QVERIFY(write(u"a.xml"_s, "<p>\n  abc\n0123456789 abcdefghijklmn\n"));
     QVERIFY(write(u"b c.xml"_s, QByteArray("\n").repeated(8) + "xyz\nxyz\n"));
-    const QString name = myFolder.filePath(u"a.xml"_s);
+    const QString name = myFolder.path(u"a.xml"_s);
     RVCatalogueFinding whole = wholeFinding();
     QList<RVRelatedPlace> places = whole.relatedPlaces();
-    places[1].fileName = myFolder.filePath(places[1].fileName);
+    places[1].fileName = myFolder.path(places[1].fileName);
     whole.setRelatedPlaces(places);
     Report report(u"text"_s);
     report.options.color = u"always"_s;
@@ -417,18 +418,13 @@ QByteArray documentOfRow(const QString &format)
 
 QString tst_FindingWriter::sarifErrors(const QByteArray &document) const
 {
-    QFile file(myFolder.filePath(u"a.sarif"_s));
-    if (!file.open(QIODevice::WriteOnly) || file.write(document) != document.size())
-        return file.errorString();
-    file.close();
-    QProcess process;
-    process.start(
-            QStringLiteral(PYTHON),
-            { u"-W"_s, u"ignore"_s, u"-m"_s, u"jsonschema"_s, u"-i"_s, file.fileName(), QStringLiteral(SARIF_SCHEMA) });
-    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
-        return u"the validator did not end"_s;
-    const QString text = QString::fromUtf8(process.readAllStandardError());
-    return process.exitCode() == 0 ? QString() : u"not valid: "_s + text;
+    const QString file = myFolder.path(u"a.sarif"_s);
+    if (!writeFile(file, document))
+        return u"the document cannot be written"_s;
+    const ProgramRun run = runProgram(
+            QString(), QStringLiteral(PYTHON),
+            { u"-W"_s, u"ignore"_s, u"-m"_s, u"jsonschema"_s, u"-i"_s, file, QStringLiteral(SARIF_SCHEMA) });
+    return run.exitCode == 0 ? QString() : u"not valid: "_s + run.messages;
 }
 
 void tst_FindingWriter::sarifIsValid_data()
@@ -478,12 +474,10 @@ void tst_FindingWriter::junitIsValid_data()
 
 void tst_FindingWriter::junitIsValid()
 {
-    QProcess process;
-    process.start(QStringLiteral(XMLLINT), { u"--noout"_s, u"--schema"_s, QStringLiteral(JUNIT_SCHEMA), u"-"_s });
-    process.write(documentOfRow(u"junit"_s));
-    process.closeWriteChannel();
-    QVERIFY(process.waitForFinished(60000));
-    QVERIFY2(process.exitCode() == 0, process.readAllStandardError());
+    const ProgramRun run = runProgram(QString(), QStringLiteral(XMLLINT),
+                                      { u"--noout"_s, u"--schema"_s, QStringLiteral(JUNIT_SCHEMA), u"-"_s },
+                                      documentOfRow(u"junit"_s));
+    QVERIFY2(run.exitCode == 0, qPrintable(run.messages));
 }
 
 QTEST_GUILESS_MAIN(tst_FindingWriter)

@@ -1,68 +1,27 @@
-#include "RVCatalogue/SampleProduct.h"
-#include "WrittenFile.h"
+#include "CheckFolder.h"
+#include "Terminal.h"
 
 #include <RVCatalogueRule.h>
 
-#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
-#include <QTemporaryDir>
 #include <QTest>
-#include <QUrl>
 
-#include <fcntl.h>
 #include <sys/resource.h>
 #include <unistd.h>
-
-#include <cstdlib>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Run
-{
-    int exitCode = -1;
-    QString output;
-    QString messages;
-};
-
-const char FAULTS[] = "<p>\n"
-                      "<product type='A' article_id='1' cover_type='hard'/>\n"
-                      "<x/><product type='B' article_id='0'/>\n"
-                      "<product type='Ä' article_id='3' page_price_class='\"x\"'/>\n"
-                      "</p>\n";
-
 const char SUMMARY_OF_FAULTS[] = "3 products in 1 file: 1 error, 1 warning, 1 note\n";
 
-QStringList propertyNames(const QJsonObject &object)
+/// The output as a JSON object; empty if it is none.
+QJsonObject jsonOf(const ProgramRun &run)
 {
-    return object.keys();
-}
-
-/// Checks the requirements of the format for a location, and returns "uri:line:column", followed by "-line:column" if
-/// it has an end.
-QString location(const QJsonValue &value)
-{
-    const QJsonArray locations = value.toArray();
-    if (locations.size() != 1)
-        return u"%1 locations"_s.arg(locations.size());
-    const QJsonObject physical = locations.at(0).toObject().value("physicalLocation"_L1).toObject();
-    const QJsonObject artifact = physical.value("artifactLocation"_L1).toObject();
-    const QJsonObject region = physical.value("region"_L1).toObject();
-    const QString uri = artifact.value("uri"_L1).toString();
-    const auto number = [&region](QLatin1StringView name) { return region.value(name).toInt(); };
-    static const QStringList beginNames = { u"startColumn"_s, u"startLine"_s };
-    static const QStringList allNames = QStringList { u"endColumn"_s, u"endLine"_s } + beginNames;
-    const bool hasEnd = propertyNames(region) == allNames;
-    if (propertyNames(physical) != QStringList { u"artifactLocation"_s, u"region"_s }
-        || propertyNames(artifact) != QStringList { u"uri"_s } || (!hasEnd && propertyNames(region) != beginNames)
-        || !QUrl(uri, QUrl::StrictMode).isValid() || number("startLine"_L1) < 1 || number("startColumn"_L1) < 1)
-        return u"no location"_s;
-    const QString begin = uri + u":%1:%2"_s.arg(number("startLine"_L1)).arg(number("startColumn"_L1));
-    return hasEnd ? begin + u"-%1:%2"_s.arg(number("endLine"_L1)).arg(number("endColumn"_L1)) : begin;
+    return QJsonDocument::fromJson(run.output.toUtf8()).object();
 }
 
 }
@@ -83,10 +42,10 @@ private Q_SLOTS:
     void unreadable();
     void fullDisk();
     void jsonFormat();
+    void jsonSummary();
+    void jsonWithoutFindings();
+    void jsonWithoutProduct();
     void jsonOfUnreadable();
-    void sarifFormat();
-    void sarifOfUnreadable();
-    void sarifUris();
     void rules();
     void disable();
     void disableSeveral();
@@ -107,42 +66,17 @@ private Q_SLOTS:
     void memory();
 
 private:
-    void write(const QString &name, const QByteArray &content);
-    Run check(const QStringList &arguments, const QByteArray &input = QByteArray());
-    static void compareSarif(const QString &output, bool isSuccessful, int exitCode, const QStringList &results,
-                             const QStringList &notifications);
-
-    QTemporaryDir myFolder;
+    CheckFolder myFolder;
 };
-
-void tst_check::write(const QString &name, const QByteArray &content)
-{
-    QVERIFY(writeFile(myFolder.filePath(name), content));
-}
-
-Run tst_check::check(const QStringList &arguments, const QByteArray &input)
-{
-    QProcess process;
-    process.setWorkingDirectory(myFolder.path());
-    process.start(QStringLiteral(RVCATALOG), QStringList { u"check"_s } + arguments);
-    process.write(input);
-    process.closeWriteChannel();
-    if (!process.waitForFinished(120000) || process.exitStatus() != QProcess::NormalExit)
-        return Run();
-    return { process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-             QString::fromUtf8(process.readAllStandardError()) };
-}
 
 void tst_check::init()
 {
-    write(u"clean.xml"_s, CLEAN_CATALOGUE);
-    write(u"faults.xml"_s, FAULTS);
-    write(u"cut.xml"_s, QByteArray(FAULTS).left(60));
+    QVERIFY(myFolder.writeCatalogues());
 }
 
 void tst_check::text()
 {
-    const Run run = check({ u"faults.xml"_s });
+    const ProgramRun run = myFolder.check({ u"faults.xml"_s });
     QCOMPARE(run.messages, QString());
     QCOMPARE(run.output,
              u"faults.xml:2:34: note: A: \"hard\" is an alias in cover_type; the main keyword is \"hardcover\" "
@@ -157,7 +91,7 @@ void tst_check::text()
 
 void tst_check::clean()
 {
-    const Run run = check({ u"clean.xml"_s });
+    const ProgramRun run = myFolder.check({ u"clean.xml"_s });
     QCOMPARE(run.messages, QString());
     QCOMPARE(run.output, u"2 products in 1 file: 0 errors, 0 warnings, 0 notes\n"_s);
     QCOMPARE(run.exitCode, 0);
@@ -165,7 +99,7 @@ void tst_check::clean()
 
 void tst_check::notesAlone()
 {
-    const Run run = check(
+    const ProgramRun run = myFolder.check(
             { u"--disable"_s, u"article-id-invalid"_s, u"--disable=price-class-unknown"_s, u"faults.xml"_s });
     QVERIFY(run.output.endsWith("\n3 products in 1 file: 0 errors, 0 warnings, 1 note\n"_L1));
     QCOMPARE(run.exitCode, 0);
@@ -173,27 +107,28 @@ void tst_check::notesAlone()
 
 void tst_check::warningsAlone()
 {
-    const Run run = check({ u"--disable"_s, u"article-id-invalid"_s, u"faults.xml"_s });
+    const ProgramRun run = myFolder.check({ u"--disable"_s, u"article-id-invalid"_s, u"faults.xml"_s });
     QVERIFY(run.output.endsWith("\n3 products in 1 file: 0 errors, 1 warning, 1 note\n"_L1));
     QCOMPARE(run.exitCode, 1);
 }
 
 void tst_check::severalFiles()
 {
-    write(u"other.xml"_s, "<p><product type='X' article_id='7'/><product type='Y' article_id='8'/></p>");
-    const Run clean = check({ u"clean.xml"_s, u"other.xml"_s });
+    QVERIFY(myFolder.write(u"other.xml"_s,
+                           "<p><product type='X' article_id='7'/><product type='Y' article_id='8'/></p>"));
+    const ProgramRun clean = myFolder.check({ u"clean.xml"_s, u"other.xml"_s });
     QCOMPARE(clean.output, u"4 products in 2 files: 0 errors, 0 warnings, 0 notes\n"_s);
     QCOMPARE(clean.exitCode, 0);
 
-    write(u"more.xml"_s,
-          QByteArray(FAULTS)
-                  .replace("'A'", "'X'")
-                  .replace("'B'", "'Y'")
-                  .replace("'Ä'", "'Ü'")
-                  .replace("'1'", "'7'")
-                  .replace("'3'", "'8'"));
-    write(u"clean.xml"_s, QByteArray(CLEAN_CATALOGUE).replace("article_id='1'", "article_id='9'"));
-    const Run run = check({ u"faults.xml"_s, u"clean.xml"_s, u"./more.xml"_s });
+    QVERIFY(myFolder.write(u"more.xml"_s,
+                           QByteArray(FAULTS)
+                                   .replace("'A'", "'X'")
+                                   .replace("'B'", "'Y'")
+                                   .replace("'Ä'", "'Ü'")
+                                   .replace("'1'", "'7'")
+                                   .replace("'3'", "'8'")));
+    QVERIFY(myFolder.write(u"clean.xml"_s, QByteArray(CLEAN_CATALOGUE).replace("article_id='1'", "article_id='9'")));
+    const ProgramRun run = myFolder.check({ u"faults.xml"_s, u"clean.xml"_s, u"./more.xml"_s });
     const QStringList lines = run.output.split(u'\n');
     QCOMPARE(lines.size(), 8);
     QVERIFY(lines.at(0).startsWith("faults.xml:2:34: "_L1));
@@ -204,12 +139,12 @@ void tst_check::severalFiles()
 
 void tst_check::standardInput()
 {
-    const Run run = check({ u"-"_s }, FAULTS);
+    const ProgramRun run = myFolder.check({ u"-"_s }, FAULTS);
     QCOMPARE(run.output.count("\n-:"_L1), 2);
     QVERIFY(run.output.startsWith("-:2:34: note: "_L1));
     QVERIFY(run.output.endsWith(QLatin1StringView(SUMMARY_OF_FAULTS)));
     QCOMPARE(run.exitCode, 1);
-    QCOMPARE(check({ u"-"_s }).messages, u"-:1:1: error: the file is empty\n"_s);
+    QCOMPARE(myFolder.check({ u"-"_s }).messages, u"-:1:1: error: the file is empty\n"_s);
 }
 
 void tst_check::noStandardInput()
@@ -224,12 +159,12 @@ void tst_check::noStandardInput()
 
 void tst_check::unreadable()
 {
-    const Run missing = check({ u"missing.xml"_s, u"clean.xml"_s });
+    const ProgramRun missing = myFolder.check({ u"missing.xml"_s, u"clean.xml"_s });
     QCOMPARE(missing.messages, u"missing.xml:1:1: error: cannot open the file: No such file or directory\n"_s);
     QCOMPARE(missing.output, u"2 products in 2 files: 0 errors, 0 warnings, 0 notes, 1 unreadable file\n"_s);
     QCOMPARE(missing.exitCode, 2);
 
-    const Run cut = check({ u"cut.xml"_s });
+    const ProgramRun cut = myFolder.check({ u"cut.xml"_s });
     QCOMPARE(cut.messages,
              u"cut.xml:3:4: error: the file ends too early: <p>, which was opened in line 1, is not closed\n"_s);
     QVERIFY(cut.output.startsWith("cut.xml:2:34: note: "_L1));
@@ -253,13 +188,13 @@ void tst_check::fullDisk()
 
 void tst_check::jsonFormat()
 {
-    const Run run = check({ u"--format"_s, u"json"_s, u"faults.xml"_s });
+    const ProgramRun run = myFolder.check({ u"--format"_s, u"json"_s, u"faults.xml"_s });
     QCOMPARE(run.messages, QString());
     QCOMPARE(run.exitCode, 1);
     QJsonParseError error;
     const QJsonObject document = QJsonDocument::fromJson(run.output.toUtf8(), &error).object();
     QCOMPARE(error.errorString(), u"no error occurred"_s);
-    QCOMPARE(propertyNames(document), (QStringList { u"findings"_s, u"summary"_s, u"unreadable"_s }));
+    QCOMPARE(document.keys(), (QStringList { u"findings"_s, u"summary"_s, u"unreadable"_s }));
     const QJsonArray findings = document.value("findings"_L1).toArray();
     QCOMPARE(findings.size(), 3);
     const QJsonObject expected = {
@@ -277,6 +212,12 @@ void tst_check::jsonFormat()
         { u"text"_s, u"the article id \"0\" is no whole number above 0; write 1 or more"_s },
     };
     QCOMPARE(findings.at(1).toObject(), expected);
+    QCOMPARE(document.value("unreadable"_L1).toArray(), QJsonArray());
+}
+
+void tst_check::jsonSummary()
+{
+    const ProgramRun run = myFolder.check({ u"--format=json"_s, u"faults.xml"_s });
     const QJsonObject rules = { { u"article-id-invalid"_s, 1 },
                                 { u"keyword-legacy"_s, 1 },
                                 { u"price-class-unknown"_s, 1 } };
@@ -284,28 +225,33 @@ void tst_check::jsonFormat()
         { u"errors"_s, 1 },  { u"files"_s, 1 },    { u"interrupted"_s, false }, { u"notes"_s, 1 },
         { u"omitted"_s, 0 }, { u"products"_s, 3 }, { u"rules"_s, rules },       { u"warnings"_s, 1 },
     };
-    QCOMPARE(document.value("summary"_L1).toObject(), summary);
-    QCOMPARE(document.value("unreadable"_L1).toArray(), QJsonArray());
+    QCOMPARE(jsonOf(run).value("summary"_L1).toObject(), summary);
+}
 
-    const Run clean = check({ u"--format=json"_s, u"clean.xml"_s });
-    const QJsonObject cleanDocument = QJsonDocument::fromJson(clean.output.toUtf8(), &error).object();
+void tst_check::jsonWithoutFindings()
+{
+    const ProgramRun run = myFolder.check({ u"--format=json"_s, u"clean.xml"_s });
+    QJsonParseError error;
+    const QJsonObject document = QJsonDocument::fromJson(run.output.toUtf8(), &error).object();
     QCOMPARE(error.errorString(), u"no error occurred"_s);
-    QCOMPARE(cleanDocument.value("findings"_L1).toArray(), QJsonArray());
-    QCOMPARE(clean.exitCode, 0);
+    QCOMPARE(document.value("findings"_L1).toArray(), QJsonArray());
+    QCOMPARE(run.exitCode, 0);
+}
 
-    write(u"empty.xml"_s, "<p/>");
-    const Run empty = check({ u"--format=json"_s, u"empty.xml"_s });
-    const QJsonObject finding =
-            QJsonDocument::fromJson(empty.output.toUtf8()).object().value("findings"_L1).toArray().at(0).toObject();
+void tst_check::jsonWithoutProduct()
+{
+    QVERIFY(myFolder.write(u"empty.xml"_s, "<p/>"));
+    const ProgramRun run = myFolder.check({ u"--format=json"_s, u"empty.xml"_s });
+    const QJsonObject finding = jsonOf(run).value("findings"_L1)[0].toObject();
     QVERIFY(finding.value("product"_L1).isNull());
     QVERIFY(finding.value("product_type"_L1).isNull());
 }
 
 void tst_check::jsonOfUnreadable()
 {
-    const Run run = check({ u"--format=json"_s, u"cut.xml"_s, u"missing.xml"_s });
+    const ProgramRun run = myFolder.check({ u"--format=json"_s, u"cut.xml"_s, u"missing.xml"_s });
     QCOMPARE(run.exitCode, 2);
-    const QJsonObject document = QJsonDocument::fromJson(run.output.toUtf8()).object();
+    const QJsonObject document = jsonOf(run);
     QCOMPARE(document.value("findings"_L1).toArray().size(), 1);
     const QJsonArray unreadable = document.value("unreadable"_L1).toArray();
     const QJsonObject expected = { { u"column"_s, 4 },
@@ -317,129 +263,9 @@ void tst_check::jsonOfUnreadable()
     QCOMPARE(unreadable.at(1).toObject().value("file"_L1).toString(), u"missing.xml"_s);
 }
 
-// The properties that SARIF 2.1.0 requires of each written object, and their allowed values.
-void tst_check::compareSarif(const QString &output, bool isSuccessful, int exitCode, const QStringList &results,
-                             const QStringList &notifications)
-{
-    QJsonParseError error;
-    const QJsonObject log = QJsonDocument::fromJson(output.toUtf8(), &error).object();
-    QCOMPARE(error.errorString(), u"no error occurred"_s);
-    QCOMPARE(propertyNames(log), (QStringList { u"$schema"_s, u"runs"_s, u"version"_s }));
-    QCOMPARE(log.value("version"_L1).toString(), u"2.1.0"_s);
-    QVERIFY(QUrl(log.value("$schema"_L1).toString(), QUrl::StrictMode).isValid());
-    QCOMPARE(log.value("runs"_L1).toArray().size(), 1);
-    const QJsonObject run = log.value("runs"_L1).toArray().at(0).toObject();
-    QCOMPARE(propertyNames(run), (QStringList { u"columnKind"_s, u"invocations"_s, u"results"_s, u"tool"_s }));
-    QCOMPARE(run.value("columnKind"_L1).toString(), u"utf16CodeUnits"_s);
-
-    static const QStringList levels = { u"none"_s, u"note"_s, u"warning"_s, u"error"_s };
-    const QJsonObject tool = run.value("tool"_L1).toObject();
-    QCOMPARE(propertyNames(tool), QStringList { u"driver"_s });
-    const QJsonObject driver = tool.value("driver"_L1).toObject();
-    QCOMPARE(propertyNames(driver), (QStringList { u"name"_s, u"rules"_s, u"version"_s }));
-    QCOMPARE(driver.value("name"_L1).toString(), u"rvcatalog"_s);
-    QVERIFY(driver.value("version"_L1).isString());
-    const QJsonArray rules = driver.value("rules"_L1).toArray();
-    QCOMPARE(rules.size(), RVCatalogueRule::all().size());
-    for (int i = 0; i < rules.size(); ++i) {
-        const QJsonObject rule = rules.at(i).toObject();
-        QCOMPARE(propertyNames(rule),
-                 (QStringList { u"defaultConfiguration"_s, u"fullDescription"_s, u"help"_s, u"helpUri"_s, u"id"_s,
-                                u"shortDescription"_s }));
-        const RVCatalogueRule described = RVCatalogueRule::all().at(i);
-        QCOMPARE(rule.value("fullDescription"_L1).toObject().value("text"_L1).toString(), described.reason());
-        QCOMPARE(rule.value("help"_L1).toObject().value("text"_L1).toString(), described.explanation());
-        QCOMPARE(rule.value("help"_L1).toObject().value("markdown"_L1).toString(), described.explanationAsMarkdown());
-        const QUrl help(rule.value("helpUri"_L1).toString(), QUrl::StrictMode);
-        QCOMPARE(help.scheme(), u"file"_s);
-        QVERIFY(help.path().endsWith("/doc/rvcatalog/rules.md"_L1));
-        QCOMPARE(help.fragment(), described.name());
-        QCOMPARE(rule.value("id"_L1).toString(), RVCatalogueRule::all().at(i).name());
-        QVERIFY(!rule.value("shortDescription"_L1).toObject().value("text"_L1).toString().isEmpty());
-        QVERIFY(levels.contains(rule.value("defaultConfiguration"_L1).toObject().value("level"_L1).toString()));
-    }
-
-    QStringList described;
-    const QJsonArray found = run.value("results"_L1).toArray();
-    for (const QJsonValue &value : found) {
-        const QJsonObject result = value.toObject();
-        QStringList names { u"level"_s, u"locations"_s, u"message"_s, u"partialFingerprints"_s };
-        if (result.value("ruleId"_L1).toString() == "keyword-legacy"_L1)
-            names.prepend(u"fixes"_s);
-        if (result.contains("properties"_L1))
-            names += u"properties"_s;
-        QCOMPARE(propertyNames(result), names + (QStringList { u"ruleId"_s, u"ruleIndex"_s }));
-        const QString level = result.value("level"_L1).toString();
-        QVERIFY(levels.contains(level));
-        QVERIFY(!result.value("message"_L1).toObject().value("text"_L1).toString().isEmpty());
-        const int index = result.value("ruleIndex"_L1).toInt(-1);
-        QCOMPARE(rules.at(index).toObject().value("id"_L1), result.value("ruleId"_L1));
-        described += location(result.value("locations"_L1)) + u' ' + level + u' '
-                + result.value("ruleId"_L1).toString();
-    }
-    QCOMPARE(described, results);
-
-    QCOMPARE(run.value("invocations"_L1).toArray().size(), 1);
-    const QJsonObject invocation = run.value("invocations"_L1).toArray().at(0).toObject();
-    QCOMPARE(propertyNames(invocation),
-             (QStringList { u"executionSuccessful"_s, u"exitCode"_s, u"toolExecutionNotifications"_s }));
-    QVERIFY(invocation.value("executionSuccessful"_L1).isBool());
-    QCOMPARE(invocation.value("executionSuccessful"_L1).toBool(), isSuccessful);
-    QCOMPARE(invocation.value("exitCode"_L1).toInt(-1), exitCode);
-    QStringList notified;
-    const QJsonArray sent = invocation.value("toolExecutionNotifications"_L1).toArray();
-    for (const QJsonValue &value : sent) {
-        const QJsonObject notification = value.toObject();
-        QCOMPARE(propertyNames(notification), (QStringList { u"level"_s, u"locations"_s, u"message"_s }));
-        QCOMPARE(notification.value("level"_L1).toString(), u"error"_s);
-        notified += location(notification.value("locations"_L1)) + u' '
-                + notification.value("message"_L1).toObject().value("text"_L1).toString();
-    }
-    QCOMPARE(notified, notifications);
-}
-
-void tst_check::sarifFormat()
-{
-    const Run run = check({ u"--format"_s, u"sarif"_s, u"faults.xml"_s });
-    QCOMPARE(run.messages, QString());
-    QCOMPARE(run.exitCode, 1);
-    compareSarif(run.output, true, 1,
-                 { u"faults.xml:2:34-2:51 note keyword-legacy"_s, u"faults.xml:3:23-3:37 error article-id-invalid"_s,
-                   u"faults.xml:4:34-4:56 warning price-class-unknown"_s },
-                 {});
-    const Run clean = check({ u"--format=sarif"_s, u"clean.xml"_s });
-    QCOMPARE(clean.exitCode, 0);
-    compareSarif(clean.output, true, 0, {}, {});
-}
-
-void tst_check::sarifOfUnreadable()
-{
-    const Run run = check({ u"--format=sarif"_s, u"cut.xml"_s, u"missing.xml"_s });
-    QCOMPARE(run.exitCode, 2);
-    compareSarif(run.output, false, 2, { u"cut.xml:2:34-2:51 note keyword-legacy"_s },
-                 { u"cut.xml:3:4 the file ends too early: <p>, which was opened in line 1, is not closed"_s,
-                   u"missing.xml:1:1 cannot open the file: No such file or directory"_s });
-}
-
-void tst_check::sarifUris()
-{
-    const QString name = u"a b:ä#%.xml"_s;
-    write(name, "<p/>");
-    compareSarif(check({ u"--format=sarif"_s, name }).output, true, 1,
-                 { u"a%20b%3A%C3%A4%23%25.xml:1:1-1:1 error products-missing"_s }, {});
-    QVERIFY(QDir().mkpath(myFolder.filePath(u"d"_s)));
-    write(u"d/e.xml"_s, "<p/>");
-    write(u"d/f.xml"_s, "<p/>");
-    compareSarif(check({ u"--format=sarif"_s, u"d/e.xml"_s, myFolder.filePath(u"d/f.xml"_s) }).output, true, 1,
-                 { u"d/e.xml:1:1-1:1 error products-missing"_s,
-                   QUrl::fromLocalFile(myFolder.filePath(u"d/f.xml"_s)).toString(QUrl::FullyEncoded)
-                           + u":1:1-1:1 error products-missing"_s },
-                 {});
-}
-
 void tst_check::rules()
 {
-    const Run run = check({ u"--rules"_s });
+    const ProgramRun run = myFolder.check({ u"--rules"_s });
     QCOMPARE(run.exitCode, 0);
     QString expected;
     for (const RVCatalogueRule &rule : RVCatalogueRule::all())
@@ -449,15 +275,15 @@ void tst_check::rules()
 
 void tst_check::disable()
 {
-    const Run run = check({ u"--disable=article-id-invalid"_s, u"--disable"_s, u"keyword-legacy"_s,
-                            u"--disable=price-class-unknown"_s, u"faults.xml"_s });
+    const ProgramRun run = myFolder.check({ u"--disable=article-id-invalid"_s, u"--disable"_s, u"keyword-legacy"_s,
+                                            u"--disable=price-class-unknown"_s, u"faults.xml"_s });
     QCOMPARE(run.output, u"3 products in 1 file: 0 errors, 0 warnings, 0 notes\n"_s);
     QCOMPARE(run.exitCode, 0);
 }
 
 void tst_check::disableSeveral()
 {
-    const Run run = check({ u"--disable=article-id-invalid,keyword-legacy"_s, u"faults.xml"_s });
+    const ProgramRun run = myFolder.check({ u"--disable=article-id-invalid,keyword-legacy"_s, u"faults.xml"_s });
     QCOMPARE(run.output.count(u'\n'), 2);
     QVERIFY(run.output.contains("[price-class-unknown]"_L1));
 }
@@ -483,7 +309,7 @@ void tst_check::select()
 {
     QFETCH(QStringList, arguments);
     QFETCH(QString, summary);
-    const Run run = check(arguments + QStringList { u"faults.xml"_s });
+    const ProgramRun run = myFolder.check(arguments + QStringList { u"faults.xml"_s });
     QVERIFY2(run.output.endsWith("3 products in 1 file: "_L1 + summary + u'\n'), qPrintable(run.output));
 }
 
@@ -502,7 +328,7 @@ void tst_check::maxFindings()
 {
     QFETCH(QString, most);
     QFETCH(QString, end);
-    const Run run = check({ u"--max-findings"_s, most, u"faults.xml"_s });
+    const ProgramRun run = myFolder.check({ u"--max-findings"_s, most, u"faults.xml"_s });
     QTEST(int(run.output.count(u'\n')), "lines");
     QVERIFY(run.output.startsWith("faults.xml:2:34: "_L1));
     QVERIFY(run.output.contains("\n3 products in 1 file: 1 error, 1 warning, 1 note"_L1));
@@ -512,8 +338,8 @@ void tst_check::maxFindings()
 
 void tst_check::maxFindingsInJson()
 {
-    const Run run = check({ u"--max-findings=2"_s, u"--format=json"_s, u"faults.xml"_s });
-    const QJsonObject document = QJsonDocument::fromJson(run.output.toUtf8()).object();
+    const ProgramRun run = myFolder.check({ u"--max-findings=2"_s, u"--format=json"_s, u"faults.xml"_s });
+    const QJsonObject document = jsonOf(run);
     QCOMPARE(document.value("findings"_L1).toArray().size(), 2);
     const QJsonObject sums = document.value("summary"_L1).toObject();
     QCOMPARE(sums.value("omitted"_L1).toInt(), 1);
@@ -523,16 +349,17 @@ void tst_check::maxFindingsInJson()
 // The numbers of the rules include the findings that are not written.
 void tst_check::maxFindingsOfSummary()
 {
-    const Run run = check({ u"--max-findings=1"_s, u"--summary"_s, u"faults.xml"_s });
+    const ProgramRun run = myFolder.check({ u"--max-findings=1"_s, u"--summary"_s, u"faults.xml"_s });
     QVERIFY2(run.output.endsWith("\n3 products in 1 file: 1 error, 1 warning, 1 note\n"_L1), qPrintable(run.output));
     QCOMPARE(run.output.count(u'\n'), 4);
 }
 
 void tst_check::summary()
 {
-    write(u"copy.xml"_s, FAULTS);
-    const Run run = check({ u"--summary"_s, u"--select=keyword-legacy,article-id-invalid,price-class-unknown"_s,
-                            u"faults.xml"_s, u"copy.xml"_s, u"clean.xml"_s, u"cut.xml"_s });
+    QVERIFY(myFolder.write(u"copy.xml"_s, FAULTS));
+    const ProgramRun run = myFolder.check({ u"--summary"_s,
+                                            u"--select=keyword-legacy,article-id-invalid,price-class-unknown"_s,
+                                            u"faults.xml"_s, u"copy.xml"_s, u"clean.xml"_s, u"cut.xml"_s });
     QVERIFY(run.messages.startsWith("cut.xml:3:4: error: "_L1));
     QVERIFY2(run.output.startsWith("       3  note     keyword-legacy\n"
                                    "       2  error    article-id-invalid\n"
@@ -546,13 +373,13 @@ void tst_check::summary()
 void tst_check::quiet()
 {
     for (const QString &format : { u"text"_s, u"json"_s, u"sarif"_s, u"github"_s, u"junit"_s }) {
-        const Run run = check({ u"--quiet"_s, u"--format"_s, format, u"faults.xml"_s });
+        const ProgramRun run = myFolder.check({ u"--quiet"_s, u"--format"_s, format, u"faults.xml"_s });
         QCOMPARE(run.output, QString());
         QCOMPARE(run.messages, QString());
         QCOMPARE(run.exitCode, 1);
-        QCOMPARE(check({ u"--quiet"_s, u"--format"_s, format, u"clean.xml"_s }).exitCode, 0);
+        QCOMPARE(myFolder.check({ u"--quiet"_s, u"--format"_s, format, u"clean.xml"_s }).exitCode, 0);
     }
-    const Run run = check({ u"--quiet"_s, u"missing.xml"_s });
+    const ProgramRun run = myFolder.check({ u"--quiet"_s, u"missing.xml"_s });
     QCOMPARE(run.output, QString());
     QCOMPARE(run.messages, u"missing.xml:1:1: error: cannot open the file: No such file or directory\n"_s);
     QCOMPARE(run.exitCode, 2);
@@ -564,17 +391,17 @@ void tst_check::jobs()
     QByteArray many = "<p>\n";
     for (int i = 1; i <= 20000; ++i)
         many += "<product type='T" + QByteArray::number(i) + "' article_id='x'/>\n";
-    write(u"many.xml"_s, many + "</p>\n");
-    const Run one = check({ u"--jobs"_s, u"1"_s, u"many.xml"_s });
+    QVERIFY(myFolder.write(u"many.xml"_s, many + "</p>\n"));
+    const ProgramRun one = myFolder.check({ u"--jobs"_s, u"1"_s, u"many.xml"_s });
     QCOMPARE(one.output.count("[article-id-invalid]\n"_L1), 20000);
     QVERIFY(one.output.startsWith("many.xml:2:20: error: T1: "_L1));
     for (const QString &jobs : { u"2"_s, u"3"_s, u"20"_s })
-        QCOMPARE(check({ u"--jobs"_s, jobs, u"many.xml"_s }).output, one.output);
+        QCOMPARE(myFolder.check({ u"--jobs"_s, jobs, u"many.xml"_s }).output, one.output);
 }
 
 void tst_check::helpFitsTerminals()
 {
-    const QStringList lines = check({ u"--help"_s }).output.split(u'\n');
+    const QStringList lines = myFolder.check({ u"--help"_s }).output.split(u'\n');
     QVERIFY(lines.size() > 10);
     for (const QString &line : lines)
         QVERIFY2(line.size() <= 80, qPrintable(line));
@@ -619,7 +446,7 @@ void tst_check::wrongUsage_data()
 void tst_check::wrongUsage()
 {
     QFETCH(QStringList, arguments);
-    const Run run = check(arguments);
+    const ProgramRun run = myFolder.check(arguments);
     QCOMPARE(run.output, QString());
     QTEST(run.messages, "message");
     QCOMPARE(run.exitCode, 2);
@@ -655,28 +482,16 @@ void tst_check::noProgressInAFile()
 
 void tst_check::progressOnATerminal()
 {
-    const int terminal = ::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK);
-    QVERIFY(terminal >= 0);
-    QCOMPARE(::grantpt(terminal), 0);
-    QCOMPARE(::unlockpt(terminal), 0);
-    const int userSide = ::open(::ptsname(terminal), O_RDWR | O_NOCTTY);
-    QVERIFY(userSide >= 0);
+    Terminal terminal;
+    QVERIFY(terminal.descriptor() >= 0);
     QProcess process;
-    process.setChildProcessModifier([userSide] { ::dup2(userSide, STDERR_FILENO); });
+    process.setChildProcessModifier([&terminal] { ::dup2(terminal.descriptor(), STDERR_FILENO); });
     process.start(QStringLiteral(RVCATALOG), { u"check"_s, u"-"_s });
     writeSlowly(&process);
     QVERIFY(process.waitForFinished(60000));
     QCOMPARE(process.readAllStandardOutput(), "30000 products in 1 file: 0 errors, 0 warnings, 0 notes\n");
-    // The terminal splits the output into its own pieces.
-    QByteArray shown;
-    const auto readMore = [&] {
-        char piece[4096];
-        const auto size = ::read(terminal, piece, sizeof piece);
-        return size > 0 ? shown.append(piece, size) : shown;
-    };
-    QTRY_VERIFY(readMore().endsWith("-\r\033[K"));
-    ::close(userSide);
-    ::close(terminal);
+    QTRY_VERIFY(terminal.shown().endsWith("-\r\033[K"));
+    const QByteArray shown = terminal.shown();
     QVERIFY2(shown.startsWith("\r\033[K0 MB -"), shown.constData());
 }
 
@@ -689,7 +504,7 @@ void tst_check::memory()
     constexpr long limit = 64;
 #endif
     constexpr int count = 20000;
-    QFile file(myFolder.filePath(u"large.xml"_s));
+    QFile file(myFolder.path(u"large.xml"_s));
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write("<products>");
     for (int i = 1; i <= count; ++i) {
@@ -703,7 +518,7 @@ void tst_check::memory()
     }
     file.write("</products>");
     file.close();
-    const Run run = check({ u"large.xml"_s });
+    const ProgramRun run = myFolder.check({ u"large.xml"_s });
     QCOMPARE(run.output, u"20000 products in 1 file: 0 errors, 0 warnings, 0 notes\n"_s);
     rusage usage = {};
     QCOMPARE(getrusage(RUSAGE_CHILDREN, &usage), 0);

@@ -1,8 +1,8 @@
-#include "WrittenFile.h"
-#include "rvcatalog/Terminal.h"
+#include "ProgramRun.h"
+#include "Terminal.h"
+#include "TestFolder.h"
 
 #include <QProcess>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -24,8 +24,6 @@ const char COLORED[] =
         "      |                                          \033[1;36m^~~~~~~~~~~~~~~~~\033[0m\n";
 const char SUMMARY[] = "1 product in 1 file: 0 errors, 0 warnings, 1 note\n";
 
-using Environment = QList<std::pair<QString, QString>>;
-
 }
 
 class tst_check_terminal : public QObject
@@ -43,41 +41,31 @@ private Q_SLOTS:
     void otherFormats();
 
 private:
-    void write(const QString &name, const QByteArray &content);
-    void begin(QProcess *process, const Environment &environment);
-    QByteArray shownBy(const QStringList &arguments, const Environment &environment = {},
+    void begin(QProcess *process, const QStringList &variables);
+    QByteArray shownBy(const QStringList &arguments, const QStringList &variables = {},
                        const QByteArray &input = QByteArray());
 
-    QTemporaryDir myFolder;
+    TestFolder myFolder;
 };
-
-void tst_check_terminal::write(const QString &name, const QByteArray &content)
-{
-    QVERIFY(writeFile(myFolder.filePath(name), content));
-}
 
 void tst_check_terminal::init()
 {
-    write(u"f.xml"_s, FAULT);
+    QVERIFY(myFolder.write(u"f.xml"_s, FAULT));
 }
 
-void tst_check_terminal::begin(QProcess *process, const Environment &environment)
+void tst_check_terminal::begin(QProcess *process, const QStringList &variables)
 {
-    QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
-    variables.remove(u"NO_COLOR"_s);
-    variables.insert(u"TERM"_s, u"xterm-256color"_s);
-    for (const auto &[name, value] : environment)
-        variables.insert(name, value);
-    process->setProcessEnvironment(variables);
+    const QProcessEnvironment environment = environmentWith(QStringList { u"TERM=xterm-256color"_s } + variables);
+    process->setProcessEnvironment(environment);
     process->setWorkingDirectory(myFolder.path());
 }
 
-QByteArray tst_check_terminal::shownBy(const QStringList &arguments, const Environment &environment,
+QByteArray tst_check_terminal::shownBy(const QStringList &arguments, const QStringList &variables,
                                        const QByteArray &input)
 {
     Terminal terminal;
     QProcess process;
-    begin(&process, environment);
+    begin(&process, variables);
     process.setChildProcessModifier([&terminal] { ::dup2(terminal.descriptor(), STDOUT_FILENO); });
     process.start(QStringLiteral(RVCATALOG), QStringList { u"check"_s } + arguments);
     process.write(input);
@@ -93,30 +81,30 @@ QByteArray tst_check_terminal::shownBy(const QStringList &arguments, const Envir
 void tst_check_terminal::terminal_data()
 {
     QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<Environment>("environment");
+    QTest::addColumn<QStringList>("variables");
     QTest::addColumn<QByteArray>("shown");
 
     const QByteArray withColor = QByteArray(COLORED) + SUMMARY;
     const QByteArray withExcerpt = QByteArray(PLAIN) + EXCERPT + SUMMARY;
     const QByteArray plain = QByteArray(PLAIN) + SUMMARY;
-    QTest::newRow("by default") << QStringList() << Environment() << withColor;
-    QTest::newRow("auto") << QStringList { u"--color=auto"_s } << Environment() << withColor;
-    QTest::newRow("always") << QStringList { u"--color=always"_s } << Environment() << withColor;
-    QTest::newRow("never") << QStringList { u"--color=never"_s } << Environment() << withExcerpt;
-    QTest::newRow("NO_COLOR") << QStringList() << Environment { { u"NO_COLOR"_s, u"1"_s } } << withExcerpt;
-    QTest::newRow("NO_COLOR that is empty") << QStringList() << Environment { { u"NO_COLOR"_s, u""_s } } << withColor;
+    QTest::newRow("by default") << QStringList() << QStringList() << withColor;
+    QTest::newRow("auto") << QStringList { u"--color=auto"_s } << QStringList() << withColor;
+    QTest::newRow("always") << QStringList { u"--color=always"_s } << QStringList() << withColor;
+    QTest::newRow("never") << QStringList { u"--color=never"_s } << QStringList() << withExcerpt;
+    QTest::newRow("NO_COLOR") << QStringList() << QStringList { u"NO_COLOR=1"_s } << withExcerpt;
+    QTest::newRow("NO_COLOR that is empty") << QStringList() << QStringList { u"NO_COLOR="_s } << withColor;
     QTest::newRow("NO_COLOR, but always")
-            << QStringList { u"--color=always"_s } << Environment { { u"NO_COLOR"_s, u"1"_s } } << withColor;
-    QTest::newRow("dumb terminal") << QStringList() << Environment { { u"TERM"_s, u"dumb"_s } } << plain;
+            << QStringList { u"--color=always"_s } << QStringList { u"NO_COLOR=1"_s } << withColor;
+    QTest::newRow("dumb terminal") << QStringList() << QStringList { u"TERM=dumb"_s } << plain;
     QTest::newRow("dumb terminal, but always")
-            << QStringList { u"--color=always"_s } << Environment { { u"TERM"_s, u"dumb"_s } } << withColor;
+            << QStringList { u"--color=always"_s } << QStringList { u"TERM=dumb"_s } << withColor;
 }
 
 void tst_check_terminal::terminal()
 {
     QFETCH(QStringList, arguments);
-    QFETCH(Environment, environment);
-    QTEST(shownBy(arguments + QStringList { u"f.xml"_s }, environment), "shown");
+    QFETCH(QStringList, variables);
+    QTEST(shownBy(arguments + QStringList { u"f.xml"_s }, variables), "shown");
 }
 
 void tst_check_terminal::pipe_data()
@@ -150,7 +138,9 @@ void tst_check_terminal::standardInput()
 
 void tst_check_terminal::severalInOneLine()
 {
-    write(u"two.xml"_s, "<p>\n<product type='A' article_id='1' name='x'/>\n<product type='A' article_id='1'/>\n</p>\n");
+    QVERIFY(myFolder.write(
+            u"two.xml"_s,
+            "<p>\n<product type='A' article_id='1' name='x'/>\n<product type='A' article_id='1'/>\n</p>\n"));
     const QByteArray shown = shownBy({ u"two.xml"_s });
     QCOMPARE(shown.count("    3 | <product type='A' article_id='1'/>\n"), 2);
     QCOMPARE(shown.count("\n      |          \033[1;31m^~~~~~~~\033[0m\n"), 1);

@@ -1,19 +1,19 @@
-#include "DiffProgram.h"
+#include "DiffCatalogues.h"
+#include "ProgramRun.h"
+#include "Terminal.h"
+#include "TestFolder.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTextDocument>
 #include <QTextTable>
 
-#include <fcntl.h>
 #include <sys/resource.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <cstdlib>
 
 using namespace Qt::StringLiterals;
 
@@ -81,19 +81,18 @@ private Q_SLOTS:
 private:
     ProgramRun diff(const QStringList &arguments, const QStringList &variables = {}, const QByteArray &input = {}) const
     {
-        return runProgram(myFolder.path(), QStringLiteral(RVCATALOG), QStringList { u"diff"_s } + arguments, variables,
-                          input);
+        return runProgram(myFolder.path(), QStringLiteral(RVCATALOG), QStringList { u"diff"_s } + arguments, input,
+                          environmentWith(variables));
     }
-    void write(const QString &name, const QByteArray &content) { QVERIFY(writeFile(myFolder.filePath(name), content)); }
 
-    QTemporaryDir myFolder;
+    TestFolder myFolder;
 };
 
 void tst_diff::initTestCase()
 {
-    write(u"old.xml"_s, OLD_CATALOGUE);
-    write(u"new.xml"_s, NEW_CATALOGUE);
-    write(u"broken.xml"_s, "<products>\n<product type='A'/>\n</product>\n");
+    QVERIFY(myFolder.write(u"old.xml"_s, OLD_CATALOGUE));
+    QVERIFY(myFolder.write(u"new.xml"_s, NEW_CATALOGUE));
+    QVERIFY(myFolder.write(u"broken.xml"_s, "<products>\n<product type='A'/>\n</product>\n"));
 }
 
 void tst_diff::text()
@@ -161,32 +160,16 @@ void tst_diff::colorOnATerminal_data()
 void tst_diff::colorOnATerminal()
 {
     QFETCH(QStringList, variables);
-    const int terminal = ::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK);
-    QVERIFY(terminal >= 0);
-    QCOMPARE(::grantpt(terminal), 0);
-    QCOMPARE(::unlockpt(terminal), 0);
-    const int userSide = ::open(::ptsname(terminal), O_RDWR | O_NOCTTY);
-    QVERIFY(userSide >= 0);
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.remove(u"NO_COLOR"_s);
-    for (const QString &variable : variables)
-        environment.insert(variable.section(u'=', 0, 0), variable.section(u'=', 1));
+    Terminal terminal;
+    QVERIFY(terminal.descriptor() >= 0);
     QProcess process;
-    process.setProcessEnvironment(environment);
+    process.setProcessEnvironment(environmentWith(variables));
     process.setWorkingDirectory(myFolder.path());
-    process.setChildProcessModifier([userSide] { ::dup2(userSide, STDOUT_FILENO); });
+    process.setChildProcessModifier([&terminal] { ::dup2(terminal.descriptor(), STDOUT_FILENO); });
     process.start(QStringLiteral(RVCATALOG), { u"diff"_s, u"old.xml"_s, u"new.xml"_s });
     QVERIFY(process.waitForFinished(60000));
-    QByteArray shown;
-    const auto readMore = [&] {
-        char piece[4096];
-        const auto size = ::read(terminal, piece, sizeof piece);
-        return size > 0 ? shown.append(piece, size) : shown;
-    };
-    QTRY_VERIFY(readMore().contains("1 equal"));
-    ::close(userSide);
-    ::close(terminal);
-    QTEST(shown.contains("\033[32m"), "hasColor");
+    QTRY_VERIFY(terminal.shown().contains("1 equal"));
+    QTEST(terminal.shown().contains("\033[32m"), "hasColor");
 }
 
 void tst_diff::lineWidth()
@@ -195,8 +178,8 @@ void tst_diff::lineWidth()
         return u"<p><product type='A' article_id='1' name='%1'/></p>"_s.arg(name).toUtf8();
     };
     const QString words = u"Fotobuch im Hochformat "_s.repeated(8).trimmed();
-    write(u"words.xml"_s, withName(words));
-    write(u"letters.xml"_s, withName(QString(200, u'x')));
+    QVERIFY(myFolder.write(u"words.xml"_s, withName(words)));
+    QVERIFY(myFolder.write(u"letters.xml"_s, withName(QString(200, u'x'))));
     const QString output = diff({ u"words.xml"_s, u"letters.xml"_s }).output;
     const QStringList lines = output.split(u'\n');
     QVERIFY(std::all_of(lines.begin(), lines.end(), [](const QString &line) { return line.size() <= 80; }));
@@ -211,8 +194,8 @@ void tst_diff::lineWidth()
 
 void tst_diff::controlCharacters()
 {
-    write(u"plain.xml"_s, "<p><product type='A'/></p>");
-    write(u"control.xml"_s, "<p><product type='A' name='a&#10;b&#9;c\u009b31m'/></p>");
+    QVERIFY(myFolder.write(u"plain.xml"_s, "<p><product type='A'/></p>"));
+    QVERIFY(myFolder.write(u"control.xml"_s, "<p><product type='A' name='a&#10;b&#9;c\u009b31m'/></p>"));
     QCOMPARE(diff({ u"plain.xml"_s, u"control.xml"_s }).output,
              u"~ A \"a b c 31m\"\n  + Name: \"a b c 31m\"\n0 added, 0 removed, 1 changed, 0 equal\n"_s);
 }
@@ -249,8 +232,8 @@ void tst_diff::json()
 
 void tst_diff::jsonInGerman()
 {
-    write(u"matt.xml"_s, "<p><product type='A' foto_paper_type='matt'/></p>");
-    write(u"glossy.xml"_s, "<p><product type='A' foto_paper_type='glossy'/></p>");
+    QVERIFY(myFolder.write(u"matt.xml"_s, "<p><product type='A' foto_paper_type='matt'/></p>"));
+    QVERIFY(myFolder.write(u"glossy.xml"_s, "<p><product type='A' foto_paper_type='glossy'/></p>"));
     const QStringList files { u"matt.xml"_s, u"glossy.xml"_s };
     const auto json = [&](const QString &language) {
         return diff(QStringList { u"--format=json"_s } + files, { u"LC_ALL="_s + language }).output;
@@ -293,8 +276,8 @@ void tst_diff::markdown()
 void tst_diff::markdownMarks()
 {
     const QString name = u"a|b *c* _d_ `e` <b>f</b> \\ [g](h) ~~i~~ &amp; # !"_s;
-    write(u"bare.xml"_s, "<p><product type='A'/></p>");
-    write(u"marks.xml"_s, "<p><product type='A' name='" + name.toHtmlEscaped().toUtf8() + "'/></p>");
+    QVERIFY(myFolder.write(u"bare.xml"_s, "<p><product type='A'/></p>"));
+    QVERIFY(myFolder.write(u"marks.xml"_s, "<p><product type='A' name='" + name.toHtmlEscaped().toUtf8() + "'/></p>"));
     const QStringList rows = tableOf(diff({ u"--format=markdown"_s, u"bare.xml"_s, u"marks.xml"_s }).output);
     QCOMPARE(rows.value(1), u"A \"%1\" ¦ Name ¦  ¦ \"%1\""_s.arg(name));
 }
@@ -385,7 +368,7 @@ void tst_diff::memory()
     constexpr int count = 20000;
     // The program's peak is never below that of the test, so the test stays small.
     for (const QByteArray &pages : { QByteArray("26"), QByteArray("27") }) {
-        QFile file(myFolder.filePath(pages == "26" ? u"large.xml"_s : u"dear.xml"_s));
+        QFile file(myFolder.path(pages == "26" ? u"large.xml"_s : u"dear.xml"_s));
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("<p>");
         for (int i = 1; i <= count; ++i) {

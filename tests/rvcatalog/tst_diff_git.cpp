@@ -1,4 +1,6 @@
-#include "DiffProgram.h"
+#include "DiffCatalogues.h"
+#include "ProgramRun.h"
+#include "WrittenFile.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -48,7 +50,8 @@ QString tst_diff_git::git(const QStringList &arguments, int expectedExitCode, co
     const QStringList settings { u"GIT_CONFIG_GLOBAL=/dev/null"_s, u"GIT_CONFIG_NOSYSTEM=1"_s,
                                  u"GIT_AUTHOR_NAME=A"_s,           u"GIT_AUTHOR_EMAIL=a@b"_s,
                                  u"GIT_COMMITTER_NAME=A"_s,        u"GIT_COMMITTER_EMAIL=a@b"_s };
-    const ProgramRun run = runProgram(myFolder->path(), QStringLiteral(GIT), arguments, settings + variables);
+    const ProgramRun run = runProgram(myFolder->path(), QStringLiteral(GIT), arguments, QByteArray(),
+                                      environmentWith(settings + variables));
     if (run.exitCode != expectedExitCode)
         qWarning().noquote() << arguments << "ended with" << run.exitCode << run.messages;
     return run.output;

@@ -1,28 +1,17 @@
+#include "ProgramRun.h"
+
 #include <RVCatalogueRule.h>
 
 #include <QFile>
-#include <QProcess>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Run
+ProgramRun explain(const QStringList &arguments)
 {
-    int exitCode = -1;
-    QString output;
-    QString messages;
-};
-
-Run explain(const QStringList &arguments)
-{
-    QProcess process;
-    process.start(QStringLiteral(RVCATALOG), QStringList { u"explain"_s } + arguments);
-    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
-        return Run();
-    return { process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-             QString::fromUtf8(process.readAllStandardError()) };
+    return runProgram(QString(), QStringLiteral(RVCATALOG), QStringList { u"explain"_s } + arguments);
 }
 
 }
@@ -43,7 +32,7 @@ private Q_SLOTS:
 
 void tst_explain::list()
 {
-    const Run run = explain({});
+    const ProgramRun run = explain({});
     QCOMPARE(run.messages, QString());
     QCOMPARE(run.exitCode, 0);
     const QStringList lines = run.output.split(u'\n');
@@ -56,7 +45,7 @@ void tst_explain::list()
 
 void tst_explain::text()
 {
-    const Run run = explain({ u"type-missing"_s });
+    const ProgramRun run = explain({ u"type-missing"_s });
     QCOMPARE(run.messages, QString());
     QCOMPARE(run.output, uR"(type-missing (error)
 
@@ -92,7 +81,7 @@ To leave it out always, write in rvcatalog.toml:
 
 void tst_explain::severalRules()
 {
-    const Run run = explain({ u"spine-missing"_s, u"keyword-legacy"_s });
+    const ProgramRun run = explain({ u"spine-missing"_s, u"keyword-legacy"_s });
     QVERIFY(run.output.startsWith("spine-missing (error)\n\n"_L1));
     QVERIFY(run.output.contains("\n\nkeyword-legacy (note)\n\n"_L1));
     QCOMPARE(run.exitCode, 0);
@@ -100,7 +89,7 @@ void tst_explain::severalRules()
 
 void tst_explain::markdown()
 {
-    const Run run = explain({ u"--format"_s, u"markdown"_s, u"keyword-legacy"_s });
+    const ProgramRun run = explain({ u"--format"_s, u"markdown"_s, u"keyword-legacy"_s });
     QVERIFY(run.output.startsWith("## keyword-legacy\n\nSeverity: note\n\nAn alias is still read"_L1));
     QVERIFY(run.output.contains("\n```xml\n<products>\n"_L1));
     QVERIFY(run.output.endsWith("\n```toml\n[rules]\nkeyword-legacy = \"off\"\n```\n"_L1));
@@ -142,7 +131,7 @@ void tst_explain::wrongUsage_data()
 void tst_explain::wrongUsage()
 {
     QFETCH(QStringList, arguments);
-    const Run run = explain(arguments);
+    const ProgramRun run = explain(arguments);
     QCOMPARE(run.output, QString());
     QTEST(run.messages, "message");
     QCOMPARE(run.exitCode, 2);

@@ -1,8 +1,7 @@
 #include "BrokenCatalogue.h"
+#include "CheckFolder.h"
 #include "RVCatalogue/EncodedText.h"
 #include "RVCatalogue/RandomCatalogue.h"
-#include "RVCatalogue/SampleProduct.h"
-#include "WrittenFile.h"
 
 #include <RVCatalogueReader.h>
 
@@ -14,7 +13,6 @@
 #include <QJsonObject>
 #include <QProcess>
 #include <QRandomGenerator>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <linux/capability.h>
@@ -24,21 +22,12 @@
 
 #include <algorithm>
 #include <csignal>
-#include <cstdlib>
-#include <functional>
 #include <map>
 #include <memory>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-struct Run
-{
-    int exitCode = -1;
-    QByteArray output;
-    QString messages;
-};
 
 const char DIFF[] = "--- a.xml\n"
                     "+++ a.xml\n"
@@ -176,86 +165,53 @@ private Q_SLOTS:
     void diffWithoutProgram();
 
 private:
-    QString write(const QString &name, const QByteArray &content) const;
-    QByteArray read(const QString &name) const;
     QStringList names() const;
-    Run check(const QStringList &arguments, const QByteArray &input = QByteArray(),
-              const std::function<void()> &inChild = {}) const;
-
-    std::unique_ptr<QTemporaryDir> myFolder;
+    std::unique_ptr<CheckFolder> myFolder;
 };
-
-QString tst_fix::write(const QString &name, const QByteArray &content) const
-{
-    const QString path = myFolder->filePath(name);
-    if (!writeFile(path, content))
-        qFatal("cannot write");
-    return path;
-}
-
-QByteArray tst_fix::read(const QString &name) const
-{
-    QFile file(myFolder->filePath(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(cannot be read)");
-}
 
 QStringList tst_fix::names() const
 {
     return QDir(myFolder->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
 }
 
-Run tst_fix::check(const QStringList &arguments, const QByteArray &input, const std::function<void()> &inChild) const
-{
-    QProcess process;
-    process.setWorkingDirectory(myFolder->path());
-    process.setChildProcessModifier(inChild);
-    process.start(QStringLiteral(RVCATALOG), QStringList { u"check"_s } + arguments);
-    process.write(input);
-    process.closeWriteChannel();
-    if (!process.waitForFinished(60000))
-        return Run();
-    const bool isCrashed = process.exitStatus() != QProcess::NormalExit;
-    return { isCrashed ? -2 : process.exitCode(), process.readAllStandardOutput(),
-             QString::fromUtf8(process.readAllStandardError()) };
-}
-
 void tst_fix::init()
 {
-    myFolder = std::make_unique<QTemporaryDir>();
-    QVERIFY(myFolder->isValid());
-    write(u"a.xml"_s, BROKEN_CATALOGUE);
+    myFolder = std::make_unique<CheckFolder>();
+    QVERIFY(myFolder->write(u"a.xml"_s, BROKEN_CATALOGUE));
 }
 
 void tst_fix::mends()
 {
-    const Run run = check({ u"--fix"_s, u"a.xml"_s });
-    QCOMPARE(read(u"a.xml"_s), QByteArray(MENDED_CATALOGUE));
+    const ProgramRun run = myFolder->check({ u"--fix"_s, u"a.xml"_s });
+    QCOMPARE(myFolder->read(u"a.xml"_s), QByteArray(MENDED_CATALOGUE));
     QCOMPARE(run.messages, u"mended 2 of 3 findings in a.xml\n"_s);
-    QVERIFY2(isOneLeft(run.output, "a.xml"), run.output);
+    QVERIFY2(isOneLeft(run.bytes, "a.xml"), run.bytes);
     QCOMPARE(run.exitCode, 1);
     QCOMPARE(names(), QStringList { u"a.xml"_s });
 
-    const Run again = check({ u"--fix"_s, u"a.xml"_s });
+    const ProgramRun again = myFolder->check({ u"--fix"_s, u"a.xml"_s });
     QCOMPARE(again.messages, QString());
-    QCOMPARE(again.output, run.output);
-    QCOMPARE(read(u"a.xml"_s), QByteArray(MENDED_CATALOGUE));
+    QCOMPARE(again.bytes, run.bytes);
+    QCOMPARE(myFolder->read(u"a.xml"_s), QByteArray(MENDED_CATALOGUE));
 }
 
 void tst_fix::nothingLeft()
 {
-    write(u"a.xml"_s, "<p><product type='A' article_id='1' page_binding='spiral' cover_type='hard'/></p>");
-    const Run run = check({ u"--fix"_s, u"a.xml"_s });
+    QVERIFY(myFolder->write(u"a.xml"_s,
+                            "<p><product type='A' article_id='1' page_binding='spiral' cover_type='hard'/></p>"));
+    const ProgramRun run = myFolder->check({ u"--fix"_s, u"a.xml"_s });
     QCOMPARE(run.messages, u"mended 1 of 1 finding in a.xml\n"_s);
-    QCOMPARE(run.output, QByteArray("1 product in 1 file: 0 errors, 0 warnings, 0 notes\n"));
+    QCOMPARE(run.bytes, QByteArray("1 product in 1 file: 0 errors, 0 warnings, 0 notes\n"));
     QCOMPARE(run.exitCode, 0);
 }
 
 // An unchanged file is not written, so that its time stamp stays the same.
 void tst_fix::nothingToMend()
 {
-    const QFileInfo before(write(u"b.xml"_s, CLEAN_CATALOGUE));
+    QVERIFY(myFolder->write(u"b.xml"_s, CLEAN_CATALOGUE));
+    const QFileInfo before(myFolder->path(u"b.xml"_s));
     const QDateTime changed = before.metadataChangeTime();
-    const Run run = check({ u"--fix"_s, u"b.xml"_s });
+    const ProgramRun run = myFolder->check({ u"--fix"_s, u"b.xml"_s });
     QCOMPARE(run.messages, QString());
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(QFileInfo(before.filePath()).metadataChangeTime(), changed);
@@ -263,35 +219,35 @@ void tst_fix::nothingToMend()
 
 void tst_fix::severalFiles()
 {
-    write(u"b.xml"_s, CLEAN_CATALOGUE);
-    write(u"c.xml"_s, BROKEN_CATALOGUE);
-    const Run run = check({ u"--fix"_s, u"a.xml"_s, u"missing.xml"_s, u"b.xml"_s, u"c.xml"_s });
+    QVERIFY(myFolder->write(u"b.xml"_s, CLEAN_CATALOGUE));
+    QVERIFY(myFolder->write(u"c.xml"_s, BROKEN_CATALOGUE));
+    const ProgramRun run = myFolder->check({ u"--fix"_s, u"a.xml"_s, u"missing.xml"_s, u"b.xml"_s, u"c.xml"_s });
     QCOMPARE(run.messages,
              u"mended 2 of 3 findings in a.xml\n"
              "mended 2 of 3 findings in c.xml\n"
              "missing.xml:1:1: error: cannot open the file: No such file or directory\n"_s);
     QCOMPARE(run.exitCode, 2);
-    QCOMPARE(read(u"a.xml"_s), QByteArray(MENDED_CATALOGUE));
-    QCOMPARE(read(u"b.xml"_s), QByteArray(CLEAN_CATALOGUE));
-    QCOMPARE(read(u"c.xml"_s), QByteArray(MENDED_CATALOGUE));
+    QCOMPARE(myFolder->read(u"a.xml"_s), QByteArray(MENDED_CATALOGUE));
+    QCOMPARE(myFolder->read(u"b.xml"_s), QByteArray(CLEAN_CATALOGUE));
+    QCOMPARE(myFolder->read(u"c.xml"_s), QByteArray(MENDED_CATALOGUE));
 }
 
 void tst_fix::disabledRule()
 {
-    const Run run = check({ u"--fix"_s, u"--disable"_s, u"number-invalid"_s, u"a.xml"_s });
+    const ProgramRun run = myFolder->check({ u"--fix"_s, u"--disable"_s, u"number-invalid"_s, u"a.xml"_s });
     QCOMPARE(run.messages, u"mended 1 of 2 findings in a.xml\n"_s);
-    QCOMPARE(read(u"a.xml"_s), QByteArray(MENDED_CATALOGUE).replace("8.5", "8,5"));
+    QCOMPARE(myFolder->read(u"a.xml"_s), QByteArray(MENDED_CATALOGUE).replace("8.5", "8,5"));
 }
 
 // Programs read the output, so nothing else may be in it.
 void tst_fix::otherFormats()
 {
     for (const QString &format : { u"json"_s, u"sarif"_s }) {
-        write(u"a.xml"_s, BROKEN_CATALOGUE);
-        const Run run = check({ u"--fix"_s, u"--format"_s, format, u"a.xml"_s });
+        QVERIFY(myFolder->write(u"a.xml"_s, BROKEN_CATALOGUE));
+        const ProgramRun run = myFolder->check({ u"--fix"_s, u"--format"_s, format, u"a.xml"_s });
         QCOMPARE(run.messages, u"mended 2 of 3 findings in a.xml\n"_s);
         QJsonParseError error;
-        QVERIFY(QJsonDocument::fromJson(run.output, &error).isObject());
+        QVERIFY(QJsonDocument::fromJson(run.bytes, &error).isObject());
         QCOMPARE(error.errorString(), u"no error occurred"_s);
         QCOMPARE(run.exitCode, 1);
     }
@@ -299,8 +255,8 @@ void tst_fix::otherFormats()
 
 void tst_fix::inputToOutput()
 {
-    const Run run = check({ u"--fix"_s, u"-"_s }, BROKEN_CATALOGUE);
-    QCOMPARE(run.output, QByteArray(MENDED_CATALOGUE));
+    const ProgramRun run = myFolder->check({ u"--fix"_s, u"-"_s }, BROKEN_CATALOGUE);
+    QCOMPARE(run.bytes, QByteArray(MENDED_CATALOGUE));
     const QString mendedLine = u"mended 2 of 3 findings in -\n"_s;
     QVERIFY2(run.messages.startsWith(mendedLine), qPrintable(run.messages));
     QVERIFY2(isOneLeft(run.messages.mid(mendedLine.size()).toUtf8(), "-"), qPrintable(run.messages));
@@ -309,24 +265,24 @@ void tst_fix::inputToOutput()
 
 void tst_fix::inputWithNothingToMend()
 {
-    const Run run = check({ u"--fix"_s, u"-"_s }, CLEAN_CATALOGUE);
-    QCOMPARE(run.output, QByteArray(CLEAN_CATALOGUE));
+    const ProgramRun run = myFolder->check({ u"--fix"_s, u"-"_s }, CLEAN_CATALOGUE);
+    QCOMPARE(run.bytes, QByteArray(CLEAN_CATALOGUE));
     QCOMPARE(run.messages, u"2 products in 1 file: 0 errors, 0 warnings, 0 notes\n"_s);
     QCOMPARE(run.exitCode, 0);
 }
 
 void tst_fix::inputTwice()
 {
-    const Run run = check({ u"--fix"_s, u"-"_s, u"-"_s }, BROKEN_CATALOGUE);
-    QCOMPARE(run.output, QByteArray());
+    const ProgramRun run = myFolder->check({ u"--fix"_s, u"-"_s, u"-"_s }, BROKEN_CATALOGUE);
+    QCOMPARE(run.bytes, QByteArray());
     QCOMPARE(run.exitCode, 2);
     QVERIFY(run.messages.startsWith("rvcatalog: only one file can be the standard input\n"_L1));
 }
 
 void tst_fix::unreadableInput()
 {
-    const Run run = check({ u"--fix"_s, u"-"_s }, NOT_WELL_FORMED);
-    QCOMPARE(run.output, QByteArray());
+    const ProgramRun run = myFolder->check({ u"--fix"_s, u"-"_s }, NOT_WELL_FORMED);
+    QCOMPARE(run.bytes, QByteArray());
     QVERIFY2(run.messages.contains("-:1:66: error: the file ends too early"_L1), qPrintable(run.messages));
     QVERIFY(!run.messages.contains("mended"_L1));
     QCOMPARE(run.exitCode, 2);
@@ -350,48 +306,48 @@ void tst_fix::unreadable_data()
 void tst_fix::unreadable()
 {
     QFETCH(QByteArray, content);
-    write(u"a.xml"_s, content);
-    const Run run = check({ u"--fix"_s, u"a.xml"_s });
+    QVERIFY(myFolder->write(u"a.xml"_s, content));
+    const ProgramRun run = myFolder->check({ u"--fix"_s, u"a.xml"_s });
     QTEST(run.messages, "message");
     QCOMPARE(run.exitCode, 2);
-    QCOMPARE(read(u"a.xml"_s), content);
+    QCOMPARE(myFolder->read(u"a.xml"_s), content);
     QCOMPARE(names(), QStringList { u"a.xml"_s });
 }
 
 void tst_fix::quiet()
 {
     for (const QString &option : { u"--diff"_s, u"--fix"_s }) {
-        const Run run = check({ option, u"--quiet"_s, u"a.xml"_s });
-        QCOMPARE(run.output, QByteArray());
+        const ProgramRun run = myFolder->check({ option, u"--quiet"_s, u"a.xml"_s });
+        QCOMPARE(run.bytes, QByteArray());
         QCOMPARE(run.messages, QString());
         QCOMPARE(run.exitCode, 1);
     }
-    QCOMPARE(read(u"a.xml"_s), QByteArray(MENDED_CATALOGUE));
-    QCOMPARE(check({ u"--diff"_s, u"--quiet"_s, u"a.xml"_s }).exitCode, 0);
+    QCOMPARE(myFolder->read(u"a.xml"_s), QByteArray(MENDED_CATALOGUE));
+    QCOMPARE(myFolder->check({ u"--diff"_s, u"--quiet"_s, u"a.xml"_s }).exitCode, 0);
 }
 
 // The check reads it, because it could not be read twice.
 void tst_fix::pipe()
 {
-    const Run mended = check({ u"--fix"_s, u"/dev/stdin"_s }, BROKEN_CATALOGUE);
+    const ProgramRun mended = myFolder->check({ u"--fix"_s, u"/dev/stdin"_s }, BROKEN_CATALOGUE);
     QCOMPARE(mended.messages, u"/dev/stdin:1:1: error: this is no ordinary file\n"_s);
-    QVERIFY(mended.output.endsWith("\n2 products in 1 file: 2 errors, 0 warnings, 1 note\n"));
+    QVERIFY(mended.bytes.endsWith("\n2 products in 1 file: 2 errors, 0 warnings, 1 note\n"));
     QCOMPARE(mended.exitCode, 2);
 
-    const Run diff = check({ u"--diff"_s, u"/dev/stdin"_s }, BROKEN_CATALOGUE);
+    const ProgramRun diff = myFolder->check({ u"--diff"_s, u"/dev/stdin"_s }, BROKEN_CATALOGUE);
     QCOMPARE(diff.messages, u"/dev/stdin:1:1: error: this is no ordinary file\n"_s);
-    QCOMPARE(diff.output, QByteArray());
+    QCOMPARE(diff.bytes, QByteArray());
     QCOMPARE(diff.exitCode, 2);
 }
 
 void tst_fix::symbolicLink()
 {
-    QVERIFY(QFile::link(u"a.xml"_s, myFolder->filePath(u"link.xml"_s)));
-    const Run run = check({ u"--fix"_s, u"link.xml"_s });
+    QVERIFY(QFile::link(u"a.xml"_s, myFolder->path(u"link.xml"_s)));
+    const ProgramRun run = myFolder->check({ u"--fix"_s, u"link.xml"_s });
     QCOMPARE(run.messages, u"mended 2 of 3 findings in link.xml\n"_s);
-    QVERIFY(QFileInfo(myFolder->filePath(u"link.xml"_s)).isSymLink());
-    QVERIFY(!QFileInfo(myFolder->filePath(u"a.xml"_s)).isSymLink());
-    QCOMPARE(read(u"a.xml"_s), QByteArray(MENDED_CATALOGUE));
+    QVERIFY(QFileInfo(myFolder->path(u"link.xml"_s)).isSymLink());
+    QVERIFY(!QFileInfo(myFolder->path(u"a.xml"_s)).isSymLink());
+    QCOMPARE(myFolder->read(u"a.xml"_s), QByteArray(MENDED_CATALOGUE));
 }
 
 void tst_fix::fullOutput()
@@ -411,42 +367,42 @@ void tst_fix::fullOutput()
 void tst_fix::fullDisk()
 {
     const QByteArray large = QByteArray(BROKEN_CATALOGUE).replace("8,5 is", QByteArray(100000, 'x'));
-    write(u"a.xml"_s, large);
-    const Run run = check({ u"--fix"_s, u"a.xml"_s }, QByteArray(), [] {
+    QVERIFY(myFolder->write(u"a.xml"_s, large));
+    const ProgramRun run = myFolder->check({ u"--fix"_s, u"a.xml"_s }, QByteArray(), [] {
         limitFiles();
         std::signal(SIGXFSZ, SIG_IGN);
     });
     QCOMPARE(run.messages, u"a.xml:1:1: error: cannot write: File too large\n"_s);
     QCOMPARE(run.exitCode, 2);
-    QCOMPARE(read(u"a.xml"_s), large);
+    QCOMPARE(myFolder->read(u"a.xml"_s), large);
     QCOMPARE(names(), QStringList { u"a.xml"_s });
 }
 
 void tst_fix::killedWhileWriting()
 {
     const QByteArray large = QByteArray(BROKEN_CATALOGUE).replace("8,5 is", QByteArray(100000, 'x'));
-    write(u"a.xml"_s, large);
-    QCOMPARE(check({ u"--fix"_s, u"a.xml"_s }, QByteArray(), limitFiles).exitCode, -2);
-    QCOMPARE(read(u"a.xml"_s), large);
+    QVERIFY(myFolder->write(u"a.xml"_s, large));
+    QCOMPARE(myFolder->check({ u"--fix"_s, u"a.xml"_s }, QByteArray(), limitFiles).exitCode, -2);
+    QCOMPARE(myFolder->read(u"a.xml"_s), large);
 }
 
 void tst_fix::writeProtectedFile()
 {
-    QCOMPARE(::chmod(QFile::encodeName(myFolder->filePath(u"a.xml"_s)).constData(), 0444), 0);
-    const Run run = check({ u"--fix"_s, u"a.xml"_s }, QByteArray(), obeyPermissions);
+    QCOMPARE(::chmod(QFile::encodeName(myFolder->path(u"a.xml"_s)).constData(), 0444), 0);
+    const ProgramRun run = myFolder->check({ u"--fix"_s, u"a.xml"_s }, QByteArray(), obeyPermissions);
     QCOMPARE(run.messages, u"a.xml:1:1: error: the file is write-protected\n"_s);
     QCOMPARE(run.exitCode, 2);
-    QCOMPARE(read(u"a.xml"_s), QByteArray(BROKEN_CATALOGUE));
+    QCOMPARE(myFolder->read(u"a.xml"_s), QByteArray(BROKEN_CATALOGUE));
 }
 
 void tst_fix::writeProtectedFolder()
 {
     QCOMPARE(::chmod(QFile::encodeName(myFolder->path()).constData(), 0555), 0);
-    const Run run = check({ u"--fix"_s, u"a.xml"_s }, QByteArray(), obeyPermissions);
+    const ProgramRun run = myFolder->check({ u"--fix"_s, u"a.xml"_s }, QByteArray(), obeyPermissions);
     QCOMPARE(::chmod(QFile::encodeName(myFolder->path()).constData(), 0755), 0);
     QCOMPARE(run.messages, u"a.xml:1:1: error: cannot write a new file beside the old one: Permission denied\n"_s);
     QCOMPARE(run.exitCode, 2);
-    QCOMPARE(read(u"a.xml"_s), QByteArray(BROKEN_CATALOGUE));
+    QCOMPARE(myFolder->read(u"a.xml"_s), QByteArray(BROKEN_CATALOGUE));
 }
 
 void tst_fix::random_data()
@@ -479,25 +435,25 @@ void tst_fix::random()
                                      [](const RVCatalogueFinding &each) { return !each.fix().isEmpty(); });
     QVERIFY(fixes > 10);
 
-    write(u"a.xml"_s, catalogue);
-    const Run run = check({ u"--fix"_s, u"a.xml"_s });
+    QVERIFY(myFolder->write(u"a.xml"_s, catalogue));
+    const ProgramRun run = myFolder->check({ u"--fix"_s, u"a.xml"_s });
     QCOMPARE(run.messages, u"mended %1 of %2 findings in a.xml\n"_s.arg(fixes).arg(findings.size()));
-    const QByteArray result = read(u"a.xml"_s);
+    const QByteArray result = myFolder->read(u"a.xml"_s);
     QVERIFY(result == mark + *encoded(mended(text, findings), encoding));
     for (const RVCatalogueFinding &finding : findingsIn(result))
         QVERIFY2(finding.fix().isEmpty(), qPrintable(finding.text()));
-    QCOMPARE(check({ u"--fix"_s, u"a.xml"_s }).messages, QString());
-    QVERIFY(read(u"a.xml"_s) == result);
+    QCOMPARE(myFolder->check({ u"--fix"_s, u"a.xml"_s }).messages, QString());
+    QVERIFY(myFolder->read(u"a.xml"_s) == result);
 }
 
 void tst_fix::diff()
 {
     for (const QStringList &options : { QStringList { u"--diff"_s }, QStringList { u"--fix"_s, u"--diff"_s } }) {
-        const Run run = check(options + QStringList { u"a.xml"_s });
-        QCOMPARE(run.output, QByteArray(DIFF));
+        const ProgramRun run = myFolder->check(options + QStringList { u"a.xml"_s });
+        QCOMPARE(run.bytes, QByteArray(DIFF));
         QCOMPARE(run.messages, QString());
         QCOMPARE(run.exitCode, 1);
-        QCOMPARE(read(u"a.xml"_s), QByteArray(BROKEN_CATALOGUE));
+        QCOMPARE(myFolder->read(u"a.xml"_s), QByteArray(BROKEN_CATALOGUE));
     }
 }
 
@@ -519,43 +475,43 @@ void tst_fix::diffNames()
     QFETCH(QString, argument);
     QFETCH(QString, shownName);
     QVERIFY(QDir(myFolder->path()).mkdir(u"d"_s));
-    write(u"b.xml"_s, BROKEN_CATALOGUE);
-    write(u"d/c.xml"_s, BROKEN_CATALOGUE);
+    QVERIFY(myFolder->write(u"b.xml"_s, BROKEN_CATALOGUE));
+    QVERIFY(myFolder->write(u"d/c.xml"_s, BROKEN_CATALOGUE));
     const QDir folder(QDir(myFolder->path()).canonicalPath());
     argument.replace(u"%1"_s, folder.path()).replace(u"%2"_s, folder.dirName());
-    const QByteArray output = check({ u"--diff"_s, argument }).output;
+    const QByteArray output = myFolder->check({ u"--diff"_s, argument }).bytes;
     QCOMPARE(output, QByteArray(DIFF).replace("a.xml", shownName.toUtf8()));
 }
 
 void tst_fix::diffOfInput()
 {
-    const Run run = check({ u"--diff"_s, u"-"_s }, BROKEN_CATALOGUE);
-    QCOMPARE(run.output, QByteArray(DIFF).replace("- a.xml", "- -").replace("+ a.xml", "+ -"));
+    const ProgramRun run = myFolder->check({ u"--diff"_s, u"-"_s }, BROKEN_CATALOGUE);
+    QCOMPARE(run.bytes, QByteArray(DIFF).replace("- a.xml", "- -").replace("+ a.xml", "+ -"));
     QCOMPARE(run.messages, QString());
     QCOMPARE(run.exitCode, 1);
 }
 
 void tst_fix::diffOfNothing()
 {
-    const Run run = check({ u"--diff"_s, u"-"_s }, MENDED_CATALOGUE);
-    QCOMPARE(run.output, QByteArray());
+    const ProgramRun run = myFolder->check({ u"--diff"_s, u"-"_s }, MENDED_CATALOGUE);
+    QCOMPARE(run.bytes, QByteArray());
     QCOMPARE(run.messages, QString());
     QCOMPARE(run.exitCode, 0);
 }
 
 void tst_fix::diffOfSeveralFiles()
 {
-    write(u"b.xml"_s, BROKEN_CATALOGUE);
-    const Run run = check({ u"--diff"_s, u"a.xml"_s, u"b.xml"_s });
-    QCOMPARE(run.output, QByteArray(DIFF) + QByteArray(DIFF).replace("a.xml", "b.xml"));
+    QVERIFY(myFolder->write(u"b.xml"_s, BROKEN_CATALOGUE));
+    const ProgramRun run = myFolder->check({ u"--diff"_s, u"a.xml"_s, u"b.xml"_s });
+    QCOMPARE(run.bytes, QByteArray(DIFF) + QByteArray(DIFF).replace("a.xml", "b.xml"));
     QCOMPARE(run.exitCode, 1);
 }
 
 void tst_fix::diffOfUnreadable()
 {
-    write(u"b.xml"_s, NOT_WELL_FORMED);
-    const Run run = check({ u"--diff"_s, u"b.xml"_s, u"missing.xml"_s, u"a.xml"_s });
-    QCOMPARE(run.output, QByteArray(DIFF));
+    QVERIFY(myFolder->write(u"b.xml"_s, NOT_WELL_FORMED));
+    const ProgramRun run = myFolder->check({ u"--diff"_s, u"b.xml"_s, u"missing.xml"_s, u"a.xml"_s });
+    QCOMPARE(run.bytes, QByteArray(DIFF));
     QCOMPARE(run.messages,
              u"b.xml:1:66: error: the file ends too early: <products>, which was opened in line 1, is not closed\n"
              "missing.xml:1:1: error: cannot open the file: No such file or directory\n"_s);
@@ -564,8 +520,10 @@ void tst_fix::diffOfUnreadable()
 
 void tst_fix::diffWithoutProgram()
 {
-    const Run run = check({ u"--diff"_s, u"a.xml"_s }, QByteArray(), [] { ::setenv("PATH", "/nowhere", 1); });
-    QCOMPARE(run.output, QByteArray());
+    const ProgramRun run = runProgram(myFolder->path(), QStringLiteral(RVCATALOG),
+                                      { u"check"_s, u"--diff"_s, u"a.xml"_s }, QByteArray(),
+                                      environmentWith({ u"PATH=/nowhere"_s }));
+    QCOMPARE(run.bytes, QByteArray());
     QVERIFY2(run.messages.startsWith("a.xml:1:1: error: cannot run the program \"diff\": "_L1),
              qPrintable(run.messages));
     QCOMPARE(run.exitCode, 2);

@@ -1,10 +1,7 @@
 #include "BrokenCatalogue.h"
+#include "CheckFolder.h"
 #include "RVCatalogue/EncodedText.h"
-#include "WrittenFile.h"
 
-#include <QFile>
-#include <QProcess>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <memory>
@@ -21,47 +18,19 @@ private Q_SLOTS:
     void patches();
 
 private:
-    void write(const QString &name, const QByteArray &content) const;
-    QByteArray read(const QString &name) const;
-    QByteArray outputOf(const QStringList &arguments) const;
     int exitCode(const QString &program, const QStringList &arguments, const QByteArray &input) const;
 
-    std::unique_ptr<QTemporaryDir> myFolder;
+    std::unique_ptr<CheckFolder> myFolder;
 };
 
 void tst_fix_patches::init()
 {
-    myFolder = std::make_unique<QTemporaryDir>();
-    QVERIFY(myFolder->isValid());
-}
-
-void tst_fix_patches::write(const QString &name, const QByteArray &content) const
-{
-    QVERIFY(writeFile(myFolder->filePath(name), content));
-}
-
-QByteArray tst_fix_patches::read(const QString &name) const
-{
-    QFile file(myFolder->filePath(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(cannot be read)");
-}
-
-QByteArray tst_fix_patches::outputOf(const QStringList &arguments) const
-{
-    QProcess process;
-    process.setWorkingDirectory(myFolder->path());
-    process.start(QStringLiteral(RVCATALOG), QStringList { u"check"_s } + arguments);
-    return process.waitForFinished(60000) ? process.readAllStandardOutput() : QByteArray("(does not end)");
+    myFolder = std::make_unique<CheckFolder>();
 }
 
 int tst_fix_patches::exitCode(const QString &program, const QStringList &arguments, const QByteArray &input) const
 {
-    QProcess process;
-    process.setWorkingDirectory(myFolder->path());
-    process.start(program, arguments);
-    process.write(input);
-    process.closeWriteChannel();
-    return process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    return runProgram(myFolder->path(), program, arguments, input).exitCode;
 }
 
 void tst_fix_patches::patches_data()
@@ -104,23 +73,23 @@ void tst_fix_patches::patches()
     QFETCH(QString, name);
     QFETCH(QByteArray, before);
     QFETCH(QByteArray, after);
-    write(name, before);
-    const QByteArray diff = outputOf({ u"--diff"_s, u"--"_s, name });
+    QVERIFY(myFolder->write(name, before));
+    const QByteArray diff = myFolder->check({ u"--diff"_s, u"--"_s, name }).bytes;
     QVERIFY(diff.contains("\n@@ "));
 
     QCOMPARE(exitCode(QStringLiteral(GIT), { u"apply"_s, u"-p0"_s }, diff), 0);
-    QCOMPARE(read(name), after);
+    QCOMPARE(myFolder->read(name), after);
 
     // patch 2.8 and newer accept no line end in a name.
     if (!name.contains(u'\n')) {
-        write(name, before);
+        QVERIFY(myFolder->write(name, before));
         QCOMPARE(exitCode(QStringLiteral(PATCH), { u"--binary"_s, u"-p0"_s }, diff), 0);
-        QCOMPARE(read(name), after);
+        QCOMPARE(myFolder->read(name), after);
     }
 
-    write(name, before);
-    outputOf({ u"--fix"_s, u"--"_s, name });
-    QCOMPARE(read(name), after);
+    QVERIFY(myFolder->write(name, before));
+    myFolder->check({ u"--fix"_s, u"--"_s, name });
+    QCOMPARE(myFolder->read(name), after);
 }
 
 QTEST_GUILESS_MAIN(tst_fix_patches)

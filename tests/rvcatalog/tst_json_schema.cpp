@@ -1,4 +1,5 @@
 #include "CommandRun.h"
+#include "ProgramRun.h"
 #include "RVCatalogue/RandomCatalogue.h"
 
 #include <QDir>
@@ -6,7 +7,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -27,15 +27,10 @@ const QString SAMPLE_PROJECT = QString::fromUtf8(SAMPLES "/project.xml");
 /// The reasons why this JSON does not fit a definition of the schema; empty if it fits.
 QString validate(const QString &definition, const QByteArray &json)
 {
-    QProcess process;
-    process.start(QString::fromUtf8(PYTHON),
-                  { QString::fromUtf8(VALIDATE), QString::fromUtf8(JSON_SCHEMA), definition });
-    process.write(json);
-    process.closeWriteChannel();
-    if (!process.waitForFinished(120000) || process.exitStatus() != QProcess::NormalExit)
-        return u"the validator did not end"_s;
-    const QString text = QString::fromUtf8(process.readAllStandardOutput() + process.readAllStandardError());
-    return process.exitCode() == 0 || !text.isEmpty() ? text : u"the validator failed"_s;
+    const ProgramRun run = runProgram(QString(), QStringLiteral(PYTHON),
+                                      { QStringLiteral(VALIDATE), QStringLiteral(JSON_SCHEMA), definition }, json);
+    const QString text = run.output + run.messages;
+    return run.exitCode == 0 || !text.isEmpty() ? text : u"the validator failed"_s;
 }
 
 }

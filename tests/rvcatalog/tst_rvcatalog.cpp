@@ -1,3 +1,4 @@
+#include "ProgramRun.h"
 #include "WrittenFile.h"
 
 #include <RVCatalogueAttribute.h>
@@ -5,7 +6,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -15,26 +15,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Run
-{
-    int exitCode = -1;
-    QString output;
-    QString messages;
-};
-
 // Runs the program, by default without a run-time directory, UTF-8 and a display.
-Run rvcatalog(const QStringList &arguments, const QString &folder = QString(), const QString &locale = u"C"_s)
+ProgramRun rvcatalog(const QStringList &arguments, const QString &folder = QString(), const QString &locale = u"C"_s)
 {
-    QProcess process;
-    process.setWorkingDirectory(folder);
     QProcessEnvironment environment;
     environment.insert(u"LC_ALL"_s, locale);
-    process.setProcessEnvironment(environment);
-    process.start(QString::fromUtf8(RVCATALOG), arguments);
-    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
-        return Run();
-    return { process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-             QString::fromUtf8(process.readAllStandardError()) };
+    return runProgram(folder, QStringLiteral(RVCATALOG), arguments, QByteArray(), environment);
 }
 
 QStringList attributeNames()
@@ -153,7 +139,7 @@ void tst_rvcatalog::usage()
     QFETCH(QStringList, arguments);
     QFETCH(QString, output);
     QFETCH(QString, messages);
-    const Run run = rvcatalog(arguments);
+    const ProgramRun run = rvcatalog(arguments);
     QTEST(run.exitCode, "exitCode");
     QVERIFY2(run.output.startsWith(output), qPrintable(run.output));
     QCOMPARE(run.output.isEmpty(), output.isEmpty());
@@ -163,7 +149,7 @@ void tst_rvcatalog::usage()
 
 void tst_rvcatalog::showTable()
 {
-    const Run run = rvcatalog({ u"show"_s, u"c.xml"_s }, myFolder.path());
+    const ProgramRun run = rvcatalog({ u"show"_s, u"c.xml"_s }, myFolder.path());
     QCOMPARE(run.messages, QString());
     QCOMPARE(run.exitCode, 0);
     QStringList lines = run.output.split(u'\n');
@@ -189,7 +175,7 @@ void tst_rvcatalog::showTable()
 
 void tst_rvcatalog::showJson()
 {
-    const Run run = rvcatalog({ u"show"_s, u"--json"_s, u"c.xml"_s }, myFolder.path());
+    const ProgramRun run = rvcatalog({ u"show"_s, u"--json"_s, u"c.xml"_s }, myFolder.path());
     QCOMPARE(run.messages, QString());
     QCOMPARE(run.exitCode, 0);
     const QJsonArray products = QJsonDocument::fromJson(run.output.toUtf8()).array();
@@ -213,7 +199,7 @@ void tst_rvcatalog::showJson()
 
 void tst_rvcatalog::showJsonAttributes()
 {
-    const Run run = rvcatalog({ u"show"_s, u"--json"_s, u"c.xml"_s }, myFolder.path());
+    const ProgramRun run = rvcatalog({ u"show"_s, u"--json"_s, u"c.xml"_s }, myFolder.path());
     const QJsonArray products = QJsonDocument::fromJson(run.output.toUtf8()).array();
     const QJsonObject book = products.at(0).toObject();
     const auto attribute = [](const QStringList &keywords, qint64 value) {
@@ -246,7 +232,7 @@ void tst_rvcatalog::showJsonAttributes()
 
 void tst_rvcatalog::sampleHasEveryAttribute()
 {
-    const Run run = rvcatalog({ u"show"_s, u"--json"_s, SAMPLE_CATALOGUE });
+    const ProgramRun run = rvcatalog({ u"show"_s, u"--json"_s, SAMPLE_CATALOGUE });
     const QJsonArray products = QJsonDocument::fromJson(run.output.toUtf8()).array();
     for (const QString &name :
          { u"article_id"_s, u"article_class"_s, u"cover_type"_s, u"page_binding"_s, u"paper_type"_s,
@@ -261,7 +247,7 @@ void tst_rvcatalog::sampleHasEveryAttribute()
 
 void tst_rvcatalog::keywords()
 {
-    const Run one = rvcatalog({ u"keywords"_s, u"page_binding"_s });
+    const ProgramRun one = rvcatalog({ u"keywords"_s, u"page_binding"_s });
     QCOMPARE(one.messages, QString());
     QCOMPARE(one.exitCode, 0);
     QCOMPARE(one.output,
@@ -272,7 +258,7 @@ void tst_rvcatalog::keywords()
              "0x2    layflat  lay_flat  Lay-Flat-Bindung\n"
              "0x4    stapled            Rückstichbindung\n"
              "0x8    spiral\n"_s);
-    const Run all = rvcatalog({ u"keywords"_s });
+    const ProgramRun all = rvcatalog({ u"keywords"_s });
     QCOMPARE(all.exitCode, 0);
     QVERIFY(all.output.contains(one.output));
     const QStringList blocks = all.output.split(u"\n\n"_s);
@@ -289,9 +275,9 @@ void tst_rvcatalog::keywords()
 
 void tst_rvcatalog::keywordsInEnglish()
 {
-    const Run run = rvcatalog({ u"keywords"_s, u"page_binding"_s }, QString(), u"en_GB.UTF-8"_s);
+    const ProgramRun run = rvcatalog({ u"keywords"_s, u"page_binding"_s }, QString(), u"en_GB.UTF-8"_s);
     QVERIFY2(run.output.contains("0x4    stapled            saddle-stitch binding\n"_L1), qPrintable(run.output));
-    const Run french = rvcatalog({ u"keywords"_s, u"page_binding"_s }, QString(), u"fr_FR.UTF-8"_s);
+    const ProgramRun french = rvcatalog({ u"keywords"_s, u"page_binding"_s }, QString(), u"fr_FR.UTF-8"_s);
     QVERIFY(french.output.contains(u"Rückstichbindung"_s));
 }
 
@@ -333,7 +319,7 @@ void tst_rvcatalog::decodes_data()
 void tst_rvcatalog::decodes()
 {
     QFETCH(QStringList, arguments);
-    const Run run = rvcatalog(QStringList { u"decode"_s } + arguments);
+    const ProgramRun run = rvcatalog(QStringList { u"decode"_s } + arguments);
     QTEST(run.output, "output");
     QTEST(run.messages, "messages");
     QTEST(run.exitCode, "exitCode");
@@ -341,25 +327,25 @@ void tst_rvcatalog::decodes()
 
 void tst_rvcatalog::showSample()
 {
-    const Run table = rvcatalog({ u"show"_s, SAMPLE_CATALOGUE });
+    const ProgramRun table = rvcatalog({ u"show"_s, SAMPLE_CATALOGUE });
     QCOMPARE(table.messages, QString());
     QCOMPARE(table.exitCode, 0);
     for (const QString &line : table.output.split(u'\n'))
         QVERIFY2(line.size() <= 100, qPrintable(line));
-    const Run json = rvcatalog({ u"show"_s, u"--json"_s, SAMPLE_CATALOGUE });
+    const ProgramRun json = rvcatalog({ u"show"_s, u"--json"_s, SAMPLE_CATALOGUE });
     QVERIFY(QJsonDocument::fromJson(json.output.toUtf8()).array().size() >= 40);
 }
 
 void tst_rvcatalog::showProblems()
 {
     write(u"bad.xml"_s, "<p>\n <product type='A' pages='10' max_pages='20'/>\n <product pages='3'/>\n</p>");
-    const Run run = rvcatalog({ u"show"_s, u"bad.xml"_s }, myFolder.path());
+    const ProgramRun run = rvcatalog({ u"show"_s, u"bad.xml"_s }, myFolder.path());
     QCOMPARE(run.messages,
              u"bad.xml:2:2: the product has no valid page counts (min: 10; max: 20; increment: 0)\n"
              "bad.xml:3:2: the product has no type\n"_s);
     QCOMPARE(run.exitCode, 1);
     write(u"none.xml"_s, "<p/>");
-    const Run none = rvcatalog({ u"show"_s, u"none.xml"_s }, myFolder.path());
+    const ProgramRun none = rvcatalog({ u"show"_s, u"none.xml"_s }, myFolder.path());
     QCOMPARE(none.messages, u"none.xml:1:1: there is no product in this file\n"_s);
     QCOMPARE(none.exitCode, 1);
 }
@@ -388,7 +374,7 @@ void tst_rvcatalog::showUnreadable()
     if (name == "x.xml"_L1)
         write(name, content);
     for (const QString &option : { u"--json"_s, u"--"_s }) {
-        const Run run = rvcatalog({ u"show"_s, option, name }, myFolder.path());
+        const ProgramRun run = rvcatalog({ u"show"_s, option, name }, myFolder.path());
         QTEST(run.messages, "messages");
         QCOMPARE(run.exitCode, 2);
     }
@@ -397,7 +383,7 @@ void tst_rvcatalog::showUnreadable()
 void tst_rvcatalog::order()
 {
     write(u"p.xml"_s, "<project productname='DUN9_30' pages='34' variants='alcolor:red'><page/></project>");
-    const Run run = rvcatalog({ u"order"_s, u"c.xml"_s, u"p.xml"_s }, myFolder.path());
+    const ProgramRun run = rvcatalog({ u"order"_s, u"c.xml"_s, u"p.xml"_s }, myFolder.path());
     QCOMPARE(run.messages, QString());
     QCOMPARE(run.exitCode, 0);
     const QStringList lines = run.output.split(u'\n');
@@ -421,7 +407,7 @@ void tst_rvcatalog::order()
 void tst_rvcatalog::orderDefaults()
 {
     write(u"p.xml"_s, "<project/>");
-    const Run run = rvcatalog({ u"order"_s, u"c.xml"_s, u"p.xml"_s }, myFolder.path());
+    const ProgramRun run = rvcatalog({ u"order"_s, u"c.xml"_s, u"p.xml"_s }, myFolder.path());
     QCOMPARE(run.messages, QString());
     QCOMPARE(run.exitCode, 0);
     QVERIFY2(run.output.contains("Pages           26 (0 packages"_L1), qPrintable(run.output));
@@ -435,7 +421,7 @@ void tst_rvcatalog::orderHugePageCount()
           "<product type='X' pages='1' max_pages='2147483647' page_step='1' price_class='A' page_price_class='A'>"
           "<forms><form key='k' value='v' price_class='A'/></forms></product>");
     write(u"p.xml"_s, "<project productname='X' pages='2147483647'/>");
-    const Run run = rvcatalog({ u"order"_s, u"huge.xml"_s, u"p.xml"_s }, myFolder.path());
+    const ProgramRun run = rvcatalog({ u"order"_s, u"huge.xml"_s, u"p.xml"_s }, myFolder.path());
     QCOMPARE(run.messages, QString());
     QCOMPARE(run.exitCode, 0);
     QVERIFY2(run.output.contains("\n  2147483648 x A\n"_L1), qPrintable(run.output));
@@ -448,14 +434,14 @@ void tst_rvcatalog::orderNegativePageCount()
           "<product type='X' pages='-8' max_pages='-4' page_step='4'>"
           "<composition><spine packages_per_block='1' base_width='5' block_width='1'/></composition></product>");
     write(u"p.xml"_s, "<project productname='X' pages='-8'/>");
-    const Run run = rvcatalog({ u"order"_s, u"negative.xml"_s, u"p.xml"_s }, myFolder.path());
+    const ProgramRun run = rvcatalog({ u"order"_s, u"negative.xml"_s, u"p.xml"_s }, myFolder.path());
     QCOMPARE(run.exitCode, 0);
     QVERIFY2(run.output.contains("Spine           7.0 mm\n"_L1), qPrintable(run.output));
 }
 
 void tst_rvcatalog::orderSample()
 {
-    const Run run = rvcatalog({ u"order"_s, SAMPLE_CATALOGUE, SAMPLE_PROJECT });
+    const ProgramRun run = rvcatalog({ u"order"_s, SAMPLE_CATALOGUE, SAMPLE_PROJECT });
     QCOMPARE(run.messages, QString());
     QCOMPARE(run.exitCode, 0);
     QVERIFY(run.output.contains("Project file    "_L1));
@@ -495,7 +481,7 @@ void tst_rvcatalog::orderProblems()
     QFETCH(QByteArray, project);
     QFETCH(QString, message);
     write(u"p.xml"_s, "<?xml version='1.0'?>\n<project " + project + "\n/>");
-    const Run run = rvcatalog({ u"order"_s, u"c.xml"_s, u"p.xml"_s }, myFolder.path());
+    const ProgramRun run = rvcatalog({ u"order"_s, u"c.xml"_s, u"p.xml"_s }, myFolder.path());
     QCOMPARE(run.messages, QString(u"p.xml:"_s + message + u'\n'));
     QCOMPARE(run.output, QString());
     QCOMPARE(run.exitCode, 1);
@@ -504,7 +490,7 @@ void tst_rvcatalog::orderProblems()
 void tst_rvcatalog::orderSeveralProblems()
 {
     write(u"p.xml"_s, "<project pages='1' variants='foo:bar,x'/>");
-    const Run run = rvcatalog({ u"order"_s, u"c.xml"_s, u"p.xml"_s }, myFolder.path());
+    const ProgramRun run = rvcatalog({ u"order"_s, u"c.xml"_s, u"p.xml"_s }, myFolder.path());
     QCOMPARE(run.messages,
              u"p.xml:1:20: \"x\" is no option; options are written key:value\n"
              "p.xml:1:20: DUN9 has no option \"foo\"; it has: a;b, alcolor\n"
@@ -518,11 +504,11 @@ void tst_rvcatalog::orderOfWrongPageCounts()
     write(u"bad.xml"_s, "<p><product type='DUN9' pages='20' max_pages='10' page_step='2'/></p>");
     const QString text = u"the catalogue gives no valid page counts for DUN9 (min: 20; max: 10; increment: 2)\n"_s;
     write(u"p.xml"_s, "<project productname='DUN9' pages='12'/>");
-    const Run named = rvcatalog({ u"order"_s, u"bad.xml"_s, u"p.xml"_s }, myFolder.path());
+    const ProgramRun named = rvcatalog({ u"order"_s, u"bad.xml"_s, u"p.xml"_s }, myFolder.path());
     QCOMPARE(named.messages, u"p.xml:1:10: "_s + text);
     QCOMPARE(named.exitCode, 1);
     write(u"p.xml"_s, "<!-- the usual product -->\n <project/>");
-    const Run unnamed = rvcatalog({ u"order"_s, u"bad.xml"_s, u"p.xml"_s }, myFolder.path());
+    const ProgramRun unnamed = rvcatalog({ u"order"_s, u"bad.xml"_s, u"p.xml"_s }, myFolder.path());
     QCOMPARE(unnamed.messages, u"p.xml:2:2: "_s + text);
     QCOMPARE(unnamed.exitCode, 1);
 }
@@ -530,13 +516,13 @@ void tst_rvcatalog::orderOfWrongPageCounts()
 void tst_rvcatalog::orderUnreadable()
 {
     write(u"p.xml"_s, "<project>");
-    const Run project = rvcatalog({ u"order"_s, u"c.xml"_s, u"p.xml"_s }, myFolder.path());
+    const ProgramRun project = rvcatalog({ u"order"_s, u"c.xml"_s, u"p.xml"_s }, myFolder.path());
     QCOMPARE(project.messages,
              u"p.xml:1:10: the file ends too early: <project>, which was opened in line 1, is not closed\n"_s);
     QCOMPARE(project.exitCode, 2);
     write(u"p.xml"_s, "<project/>");
     write(u"x.xml"_s, "<p><product type='DUN9'/>");
-    const Run catalogue = rvcatalog({ u"order"_s, u"x.xml"_s, u"p.xml"_s }, myFolder.path());
+    const ProgramRun catalogue = rvcatalog({ u"order"_s, u"x.xml"_s, u"p.xml"_s }, myFolder.path());
     QCOMPARE(catalogue.messages,
              u"x.xml:1:26: the file ends too early: <p>, which was opened in line 1, is not closed\n"_s);
     QCOMPARE(catalogue.exitCode, 2);

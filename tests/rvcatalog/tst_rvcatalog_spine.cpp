@@ -1,3 +1,4 @@
+#include "ProgramRun.h"
 #include "WrittenFile.h"
 
 #include <QDomDocument>
@@ -61,9 +62,7 @@ private:
     QStringList textsOf(const QString &fileName) const;
 
     QTemporaryDir myFolder;
-    int myExitCode = -1;
-    QString myOutput;
-    QString myMessages;
+    ProgramRun myRun;
 };
 
 void tst_rvcatalog_spine::write(const QString &name, const QByteArray &content)
@@ -73,20 +72,10 @@ void tst_rvcatalog_spine::write(const QString &name, const QByteArray &content)
 
 void tst_rvcatalog_spine::run(const QStringList &arguments, const QStringList &variables)
 {
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const char *name : { "LC_ALL", "LC_MESSAGES", "LANG" })
-        environment.remove(QString::fromLatin1(name));
-    for (const QString &variable : variables)
-        environment.insert(variable.section(u'=', 0, 0), variable.section(u'=', 1));
-    process.setProcessEnvironment(environment);
-    process.setWorkingDirectory(myFolder.path());
-    process.start(QString::fromUtf8(RVCATALOG), QStringList { u"spine"_s } + arguments);
-    QVERIFY(process.waitForFinished(60000));
-    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-    myExitCode = process.exitCode();
-    myOutput = QString::fromUtf8(process.readAllStandardOutput());
-    myMessages = QString::fromUtf8(process.readAllStandardError());
+    const QStringList language { u"LC_ALL="_s, u"LC_MESSAGES="_s, u"LANG="_s };
+    myRun = runProgram(myFolder.path(), QStringLiteral(RVCATALOG), QStringList { u"spine"_s } + arguments, QByteArray(),
+                       environmentWith(language + variables));
+    QVERIFY(myRun.exitCode >= 0);
 }
 
 void tst_rvcatalog_spine::initTestCase()
@@ -100,9 +89,9 @@ void tst_rvcatalog_spine::initTestCase()
 void tst_rvcatalog_spine::table()
 {
     run({ u"c.xml"_s, u"DUN9_30"_s });
-    QCOMPARE(myMessages, QString());
-    QCOMPARE(myExitCode, 0);
-    QStringList lines = myOutput.split(u'\n');
+    QCOMPARE(myRun.messages, QString());
+    QCOMPARE(myRun.exitCode, 0);
+    QStringList lines = myRun.output.split(u'\n');
     QCOMPARE(lines.takeFirst(), u"     PAGES   PACKAGES     BLOCKS  SPINE mm  FONT pt DejaVu Sans"_s);
     QCOMPARE(lines.takeLast(), QString());
     QStringList rows;
@@ -116,17 +105,17 @@ void tst_rvcatalog_spine::table()
 void tst_rvcatalog_spine::oneCount()
 {
     run({ u"c.xml"_s, u"ONE"_s });
-    QCOMPARE(myExitCode, 0);
-    QCOMPARE(myOutput.count(u'\n'), 2);
-    QVERIFY2(myOutput.contains("        30          0          0      4.00"_L1), qPrintable(myOutput));
+    QCOMPARE(myRun.exitCode, 0);
+    QCOMPARE(myRun.output.count(u'\n'), 2);
+    QVERIFY2(myRun.output.contains("        30          0          0      4.00"_L1), qPrintable(myRun.output));
 }
 
 void tst_rvcatalog_spine::sample()
 {
     run({ QString::fromUtf8(SAMPLES "/products.xml"), u"DUN9"_s });
-    QCOMPARE(myExitCode, 0);
-    QCOMPARE(myOutput.count(u'\n'), 34);
-    QVERIFY2(myOutput.contains("       154         32         16     25.00"_L1), qPrintable(myOutput));
+    QCOMPARE(myRun.exitCode, 0);
+    QCOMPARE(myRun.output.count(u'\n'), 34);
+    QVERIFY2(myRun.output.contains("       154         32         16     25.00"_L1), qPrintable(myRun.output));
 }
 
 void tst_rvcatalog_spine::problems_data()
@@ -158,33 +147,34 @@ void tst_rvcatalog_spine::problems()
 {
     QFETCH(QString, type);
     run({ u"c.xml"_s, type, u"--plot"_s, u"none.png"_s });
-    QTEST(myMessages, "message");
-    QCOMPARE(myOutput, QString());
-    QCOMPARE(myExitCode, 1);
+    QTEST(myRun.messages, "message");
+    QCOMPARE(myRun.output, QString());
+    QCOMPARE(myRun.exitCode, 1);
     QVERIFY(!QFile::exists(myFolder.filePath(u"none.png"_s)));
 }
 
 void tst_rvcatalog_spine::broken()
 {
     run({ u"missing.xml"_s, u"DUN9"_s });
-    QCOMPARE(myMessages, u"missing.xml:1:1: cannot open the file: No such file or directory\n"_s);
-    QCOMPARE(myExitCode, 2);
+    QCOMPARE(myRun.messages, u"missing.xml:1:1: cannot open the file: No such file or directory\n"_s);
+    QCOMPARE(myRun.exitCode, 2);
     write(u"x.xml"_s, "<p><product type='DUN9' pages='1'/>");
     run({ u"x.xml"_s, u"DUN9"_s });
-    QCOMPARE(myMessages, u"x.xml:1:36: the file ends too early: <p>, which was opened in line 1, is not closed\n"_s);
-    QCOMPARE(myOutput, QString());
-    QCOMPARE(myExitCode, 2);
+    QCOMPARE(myRun.messages,
+             u"x.xml:1:36: the file ends too early: <p>, which was opened in line 1, is not closed\n"_s);
+    QCOMPARE(myRun.output, QString());
+    QCOMPARE(myRun.exitCode, 2);
     write(u"empty.xml"_s, "<p/>");
     run({ u"empty.xml"_s, u"DUN9"_s });
-    QCOMPARE(myMessages, u"empty.xml:1:1: the catalogue has no product of type \"DUN9\"\n"_s);
-    QCOMPARE(myExitCode, 1);
+    QCOMPARE(myRun.messages, u"empty.xml:1:1: the catalogue has no product of type \"DUN9\"\n"_s);
+    QCOMPARE(myRun.exitCode, 1);
 }
 
 void tst_rvcatalog_spine::largeNumbersStandApart()
 {
     run({ u"c.xml"_s, u"LARGE"_s });
-    QCOMPARE(myExitCode, 0);
-    const QStringList cells = myOutput.section(u'\n', 1, 1).simplified().split(u' ');
+    QCOMPARE(myRun.exitCode, 0);
+    const QStringList cells = myRun.output.section(u'\n', 1, 1).simplified().split(u' ');
     QCOMPARE(cells.mid(0, 4), (QStringList { u"2147483647"_s, u"0"_s, u"0"_s, u"12345678901.00"_s }));
 }
 
@@ -211,8 +201,8 @@ void tst_rvcatalog_spine::closedPipe()
 void tst_rvcatalog_spine::png()
 {
     run({ u"c.xml"_s, u"DUN9"_s, u"--plot"_s, u"spine.PNG"_s });
-    QCOMPARE(myMessages, QString());
-    QCOMPARE(myExitCode, 0);
+    QCOMPARE(myRun.messages, QString());
+    QCOMPARE(myRun.exitCode, 0);
     const QImage image(myFolder.filePath(u"spine.PNG"_s));
     QCOMPARE(image.size(), QSize(1890, 1181));
     QCOMPARE(image.dotsPerMeterX(), 11811);
@@ -237,8 +227,8 @@ void tst_rvcatalog_spine::png()
 void tst_rvcatalog_spine::svg()
 {
     run({ u"--plot"_s, u"spine.svg"_s, u"c.xml"_s, u"DUN9"_s });
-    QCOMPARE(myMessages, QString());
-    QCOMPARE(myExitCode, 0);
+    QCOMPARE(myRun.messages, QString());
+    QCOMPARE(myRun.exitCode, 0);
     QFile file(myFolder.filePath(u"spine.svg"_s));
     QVERIFY(file.open(QIODevice::ReadOnly));
     QDomDocument document;
@@ -273,19 +263,19 @@ void tst_rvcatalog_spine::missingFont()
 {
     write(u"fonts.conf"_s, "<?xml version='1.0'?><fontconfig><dir>/nowhere</dir></fontconfig>");
     run({ u"c.xml"_s, u"ONE"_s }, { u"LC_ALL=C"_s, u"FONTCONFIG_FILE="_s + myFolder.filePath(u"fonts.conf"_s) });
-    QCOMPARE(myExitCode, 0);
-    QCOMPARE(myOutput.count(u'\n'), 2);
-    QVERIFY2(!myOutput.contains("DejaVu Sans"_L1), qPrintable(myOutput));
-    QVERIFY2(myMessages.contains("rvcatalog: the font DejaVu Sans is missing, so font sizes are those of "_L1),
-             qPrintable(myMessages));
-    QVERIFY2(myMessages.endsWith("install fonts-dejavu-core\n"_L1), qPrintable(myMessages));
+    QCOMPARE(myRun.exitCode, 0);
+    QCOMPARE(myRun.output.count(u'\n'), 2);
+    QVERIFY2(!myRun.output.contains("DejaVu Sans"_L1), qPrintable(myRun.output));
+    QVERIFY2(myRun.messages.contains("rvcatalog: the font DejaVu Sans is missing, so font sizes are those of "_L1),
+             qPrintable(myRun.messages));
+    QVERIFY2(myRun.messages.endsWith("install fonts-dejavu-core\n"_L1), qPrintable(myRun.messages));
 }
 
 void tst_rvcatalog_spine::pdf()
 {
     run({ u"--plot"_s, u"spine.Pdf"_s, u"c.xml"_s, u"DUN9"_s });
-    QCOMPARE(myMessages, QString());
-    QCOMPARE(myExitCode, 0);
+    QCOMPARE(myRun.messages, QString());
+    QCOMPARE(myRun.exitCode, 0);
     QFile file(myFolder.filePath(u"spine.Pdf"_s));
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray content = file.readAll();
@@ -317,12 +307,12 @@ void tst_rvcatalog_spine::languageOfThePlot()
     QFETCH(QString, label);
     QFETCH(QString, number);
     run({ u"--plot"_s, u"spine.svg"_s, u"c.xml"_s, u"DUN9"_s }, variables);
-    QCOMPARE(myMessages, QString());
+    QCOMPARE(myRun.messages, QString());
     const QStringList texts = textsOf(u"spine.svg"_s);
     QVERIFY2(texts.contains(label), qPrintable(texts.join(u'|')));
     QVERIFY2(texts.contains(number), qPrintable(texts.join(u'|')));
-    QVERIFY2(myOutput.startsWith(u"     PAGES   PACKAGES"_s), qPrintable(myOutput));
-    QVERIFY2(myOutput.contains(u" 10.41 "_s), qPrintable(myOutput));
+    QVERIFY2(myRun.output.startsWith(u"     PAGES   PACKAGES"_s), qPrintable(myRun.output));
+    QVERIFY2(myRun.output.contains(u" 10.41 "_s), qPrintable(myRun.output));
 }
 
 void tst_rvcatalog_spine::plotFailures_data()
@@ -346,9 +336,9 @@ void tst_rvcatalog_spine::plotFailures()
     QFETCH(QString, fileName);
     QFile::link(u"/dev/full"_s, myFolder.filePath(u"full.pdf"_s));
     run({ u"c.xml"_s, u"DUN9"_s, u"--plot"_s, fileName });
-    QTEST(myMessages, "message");
-    QCOMPARE(myOutput, QString());
-    QCOMPARE(myExitCode, 2);
+    QTEST(myRun.messages, "message");
+    QCOMPARE(myRun.output, QString());
+    QCOMPARE(myRun.exitCode, 2);
 }
 
 QTEST_GUILESS_MAIN(tst_rvcatalog_spine)

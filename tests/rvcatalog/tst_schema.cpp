@@ -1,5 +1,7 @@
 #include "ListDifference.h"
+#include "ProgramRun.h"
 #include "RVCatalogue/SampleProduct.h"
+#include "TestFolder.h"
 
 #include <RVCatalogueAttribute.h>
 #include <RVCatalogueReader.h>
@@ -7,8 +9,6 @@
 #include <QBuffer>
 #include <QDomDocument>
 #include <QFile>
-#include <QProcess>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <algorithm>
@@ -33,7 +33,7 @@ private:
     static QStringList findings(QByteArray file);
     static QByteArray changed(const QByteArray &from, const QByteArray &to);
 
-    QTemporaryDir myFolder;
+    TestFolder myFolder;
 };
 
 /// Runs xmllint, which distinguishes a file that the schema refuses from one that it cannot check.
@@ -41,15 +41,13 @@ bool tst_schema::isValid(const QByteArray &content)
 {
     constexpr int valid = 0;
     constexpr int refused = 3;
-    QFile file(myFolder.filePath(u"c.xml"_s));
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("cannot write %s", qPrintable(file.fileName()));
-    file.close();
-    QProcess process;
-    process.start(QStringLiteral(XMLLINT), { u"--noout"_s, u"--schema"_s, QStringLiteral(SCHEMA), file.fileName() });
-    if (!process.waitForFinished(60000) || (process.exitCode() != valid && process.exitCode() != refused))
-        QTest::qFail(process.readAllStandardError().constData(), __FILE__, __LINE__);
-    return process.exitCode() == valid;
+    if (!myFolder.write(u"c.xml"_s, content))
+        qFatal("cannot write");
+    const ProgramRun run = runProgram(myFolder.path(), QStringLiteral(XMLLINT),
+                                      { u"--noout"_s, u"--schema"_s, QStringLiteral(SCHEMA), u"c.xml"_s });
+    if (run.exitCode != valid && run.exitCode != refused)
+        QTest::qFail(qPrintable(run.messages), __FILE__, __LINE__);
+    return run.exitCode == valid;
 }
 
 QStringList tst_schema::findings(QByteArray file)

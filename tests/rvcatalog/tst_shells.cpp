@@ -1,7 +1,8 @@
+#include "ProgramRun.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -15,17 +16,17 @@ const QString SCRIPTS = QString::fromUtf8(SCRIPT_FOLDER);
 /// The lines that a shell writes when it completes a command line.
 QStringList complete(const QString &shell, const QString &driver, const QString &script, const QStringList &line)
 {
-    QProcess process;
     QProcessEnvironment environment;
     const QString folder = QFileInfo(QString::fromUtf8(RVCATALOG)).path();
     environment.insert(u"PATH"_s, folder + u':' + qEnvironmentVariable("PATH"));
     environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
     environment.insert(u"HOME"_s, QDir::currentPath());
-    process.setProcessEnvironment(environment);
-    process.start(shell, QStringList { DRIVERS + u'/' + driver, SCRIPTS + u'/' + script } + line);
-    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
-        return { u"the shell failed: "_s + QString::fromUtf8(process.readAllStandardError()) };
-    QStringList result = QString::fromUtf8(process.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
+    const ProgramRun run = runProgram(QString(), shell,
+                                      QStringList { DRIVERS + u'/' + driver, SCRIPTS + u'/' + script } + line,
+                                      QByteArray(), environment);
+    if (run.exitCode != 0)
+        return { u"the shell failed: "_s + run.messages };
+    QStringList result = run.output.split(u'\n', Qt::SkipEmptyParts);
     for (QString &word : result)
         word = word.trimmed();
     result.sort();

@@ -12,10 +12,12 @@
 class TestFolder
 {
 public:
-    QString path(const QString &name) const { return myFolder.filePath(name); }
-    /// Writes into the file itself, as simple programs do. False where that fails.
+    QString path(const QString &name = QString()) const { return myFolder.filePath(name); }
+    /// Writes into the file itself, as simple programs do. False where that
+    /// fails.
     bool write(const QString &name, const QByteArray &content) const { return writeFile(path(name), content); }
-    /// Puts a new file in the place of the old one, as most editors do. False where that fails.
+    /// Puts a new file in the place of the old one, as most editors do. False
+    /// where that fails.
     bool replace(const QString &name, const QByteArray &content) const
     {
         const QString other = name + QStringLiteral(".new");
@@ -24,6 +26,7 @@ public:
                 == 0;
     }
     bool remove(const QString &name) const { return QFile::remove(path(name)); }
+    QByteArray read(const QString &name) const { return readFile(path(name)); }
 
 private:
     QTemporaryDir myFolder;
