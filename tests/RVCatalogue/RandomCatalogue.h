@@ -75,39 +75,52 @@ private:
         return u'<' + name + attributes + u'>' + content + u"</"_s + name + u'>';
     }
 
+    QString barcodes()
+    {
+        QString result;
+        for (int i = below(4); i > 0; --i)
+            result += element(u"barcode"_s,
+                              attributes({ u"position_x"_s, u"position_y"_s, u"width"_s, u"height"_s }, LENGTHS)
+                                      + attributes({ u"pageNr"_s }, NUMBERS) + attributes({ u"image"_s }, TEXTS),
+                              QString());
+        return element(u"barcodes"_s, attributes({ u"units"_s }, UNITS), result + u"<!-- a --><x/>"_s);
+    }
+
+    QString composition()
+    {
+        return element(u"composition"_s, attributes({ u"units"_s }, UNITS),
+                       element(u"spine"_s,
+                               attributes({ u"base_width"_s, u"block_width"_s, u"additional_width"_s }, LENGTHS)
+                                       + attributes({ u"packages_per_block"_s }, NUMBERS),
+                               QString()));
+    }
+
+    QString forms()
+    {
+        QString result;
+        for (int i = below(6); i > 0; --i)
+            result += element(
+                    u"form"_s,
+                    attributes({ u"key"_s }, KEYS) + attributes({ u"value"_s }, VALUES)
+                            + attributes({ u"key_name"_s, u"value_name"_s, u"price_class"_s, u"editor_name"_s,
+                                           u"name"_s, u"preview"_s },
+                                         TEXTS)
+                            + attributes({ u"color"_s }, COLORS)
+                            + (below(2) ? attributes({ u"preselected"_s, u"not_accountable"_s }, BOOLEANS) : QString()),
+                    QString());
+        return element(u"forms"_s, QString(), result);
+    }
+
     QString part()
     {
         switch (below(5)) {
-        case 0: {
-            QString barcodes;
-            for (int i = below(4); i > 0; --i)
-                barcodes += element(u"barcode"_s,
-                                    attributes({ u"position_x"_s, u"position_y"_s, u"width"_s, u"height"_s }, LENGTHS)
-                                            + attributes({ u"pageNr"_s }, NUMBERS) + attributes({ u"image"_s }, TEXTS),
-                                    QString());
-            return element(u"barcodes"_s, attributes({ u"units"_s }, UNITS), barcodes + u"<!-- a --><x/>"_s);
-        }
+        case 0:
+            return barcodes();
         case 1:
-            return element(u"composition"_s, attributes({ u"units"_s }, UNITS),
-                           element(u"spine"_s,
-                                   attributes({ u"base_width"_s, u"block_width"_s, u"additional_width"_s }, LENGTHS)
-                                           + attributes({ u"packages_per_block"_s }, NUMBERS),
-                                   QString()));
+            return composition();
         case 2:
-        case 3: {
-            QString forms;
-            for (int i = below(6); i > 0; --i)
-                forms += element(u"form"_s,
-                                 attributes({ u"key"_s }, KEYS) + attributes({ u"value"_s }, VALUES)
-                                         + attributes({ u"key_name"_s, u"value_name"_s, u"price_class"_s,
-                                                        u"editor_name"_s, u"name"_s, u"preview"_s },
-                                                      TEXTS)
-                                         + attributes({ u"color"_s }, COLORS)
-                                         + (below(2) ? attributes({ u"preselected"_s, u"not_accountable"_s }, BOOLEANS)
-                                                     : QString()),
-                                 QString());
-            return element(u"forms"_s, QString(), forms);
-        }
+        case 3:
+            return forms();
         default:
             return u"text<![CDATA[<&]]><product type='inner'/>\n"_s;
         }

@@ -12,6 +12,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// A product without attributes, and one with all kinds of elements.
+const char SAMPLE[] = R"(<products><product/>
+<product type='DUN9_30' name='Fotobuch Groß' article_id='1001' article_class='book' cover_type='hardcover'
+  page_binding='glue' paper_type='fotopaper' orientation='portrait' space_magnitude='600cm2' shipping_group='2'
+  price_class='PXB9' page_price_class='RODA6x9' pages='26' max_pages='154' page_step='4'>
+  <barcodes units='mm'><barcode position_x='12' position_y='290.5' width='38' height='10' pageNr='2'/><barcode image=''/></barcodes>
+  <composition units='cm'><spine packages_per_block='2' base_width='0.8' block_width='0.1' additional_width='0.05'/></composition>
+  <forms><form key='alcolor' key_name='Farbe' value='red' value_name='Weinrot' editor_name='Rot' name='f'
+    color='#8c1c2b' preview='pink' preselected='true' price_class='LEZ2'/><form key='a'/><form key='b' value='c'
+    not_accountable='true'/></forms>
+</product></products>)";
+
 QList<RVCatalogueProduct> productsOf(const QByteArray &content)
 {
     CatalogueBuffer file(content);
@@ -115,6 +127,8 @@ class tst_RVCatalogueProduct : public QObject
 
 private Q_SLOTS:
     void sample();
+    void sampleLayout();
+    void sampleOptions();
     void defaults();
     void nullProduct();
     void asTheReadersGive();
@@ -130,16 +144,7 @@ private Q_SLOTS:
 
 void tst_RVCatalogueProduct::sample()
 {
-    const QList<RVCatalogueProduct> products = productsOf(R"(<products><product/>
-<product type='DUN9_30' name='Fotobuch Groß' article_id='1001' article_class='book' cover_type='hardcover'
-  page_binding='glue' paper_type='fotopaper' orientation='portrait' space_magnitude='600cm2' shipping_group='2'
-  price_class='PXB9' page_price_class='RODA6x9' pages='26' max_pages='154' page_step='4'>
-  <barcodes units='mm'><barcode position_x='12' position_y='290.5' width='38' height='10' pageNr='2'/><barcode image=''/></barcodes>
-  <composition units='cm'><spine packages_per_block='2' base_width='0.8' block_width='0.1' additional_width='0.05'/></composition>
-  <forms><form key='alcolor' key_name='Farbe' value='red' value_name='Weinrot' editor_name='Rot' name='f'
-    color='#8c1c2b' preview='pink' preselected='true' price_class='LEZ2'/><form key='a'/><form key='b' value='c'
-    not_accountable='true'/></forms>
-</product></products>)");
+    const QList<RVCatalogueProduct> products = productsOf(SAMPLE);
     QCOMPARE(products.size(), qsizetype(2));
     const RVCatalogueProduct &product = products.at(1);
     QCOMPARE(product.number(), qint64(1));
@@ -157,13 +162,23 @@ void tst_RVCatalogueProduct::sample()
     QCOMPARE(product.shippingGroup().id(), 2);
     QCOMPARE(product.priceClass().toString(), u"PXB9"_s);
     QCOMPARE(product.pagePriceClass().toString(), u"RODA6x9"_s);
+    QVERIFY(product.findings().isEmpty());
+}
+
+void tst_RVCatalogueProduct::sampleLayout()
+{
+    const RVCatalogueProduct product = productsOf(SAMPLE).constLast();
     QCOMPARE(product.pageCounts().dump(), u"min: 26; max: 154; increment: 4"_s);
     QCOMPARE(product.spine().spineWidth(34).value(DISTANCE_UNIT_MILLIMETRE), 10.0);
     QVERIFY(product.hasSpine());
     QCOMPARE(product.barcodes().size(), qsizetype(1));
     QCOMPARE(product.barcodes().constFirst(),
              RVBarcodeDefinition(QRect(120, 2805, 380, 100), 2, u"dummy-barcode.png"_s));
-    const RVConfiguredArticleVariantList options = product.options();
+}
+
+void tst_RVCatalogueProduct::sampleOptions()
+{
+    const RVConfiguredArticleVariantList options = productsOf(SAMPLE).constLast().options();
     QCOMPARE(options.size(), qsizetype(2));
     QCOMPARE(options.at(0).key(), u"alcolor"_s);
     QCOMPARE(options.at(0).keyName(), u"Farbe"_s);
@@ -176,7 +191,6 @@ void tst_RVCatalogueProduct::sample()
     QVERIFY(!options.at(0).isNotAccountable());
     QVERIFY(!options.at(1).isDefault());
     QVERIFY(options.at(1).isNotAccountable());
-    QVERIFY(product.findings().isEmpty());
 }
 
 void tst_RVCatalogueProduct::defaults()

@@ -377,41 +377,46 @@ void tst_RVFileEditor::encodings_data()
     QVERIFY(known >= 10);
 }
 
-// The texts have several pieces, with letters of all lengths at the ends of pieces and edits.
+namespace {
+
+/// A file with texts of several pieces, which have letters of all lengths at the ends of pieces and edits.
+void compareEditedFile(const Encoding &encoding, int count, QRandomGenerator *random)
+{
+    const QString letters = QString::fromUtf8(encoding.letters);
+    const QString declaration = u"<?xml version='1.0' encoding='%1'?>"_s.arg(QLatin1StringView(encoding.name));
+    QString text = (encoding.isDeclared ? declaration : QString()) + u"<p>"_s;
+    QString expected = text;
+    RVFileEditor editor;
+    const int edits = count > 1000 ? 4 : 40;
+    for (int i = 0; i < edits; ++i) {
+        // Only letters of texts may be replaced, or the file would be no XML.
+        const QString kept = textOf(letters, random->bounded(count), random);
+        text += kept + u'|';
+        expected += kept + u'|';
+        const QString old = textOf(letters, random->bounded(3), random);
+        const QString wanted = random->bounded(4) > 0 ? textOf(letters, random->bounded(4), random) : QString();
+        const RVFilePosition begin = placeOf(text, text.size());
+        text += old;
+        QVERIFY(editor.add({ { { begin, placeOf(text, text.size()) }, wanted } }));
+        text += u'|';
+        expected += wanted + u'|';
+    }
+    text += u"</p>"_s;
+    expected += u"</p>"_s;
+    const QByteArray result = editor.apply(encoding.mark + *encoded(text, encoding.name));
+    QCOMPARE(editor.errorString(), QString());
+    QVERIFY(result == encoding.mark + *encoded(expected, encoding.name));
+    QCOMPARE(editor.count(), edits);
+}
+
+}
+
 void tst_RVFileEditor::encodings()
 {
     QFETCH(int, index);
-    const Encoding &encoding = ENCODINGS[std::size_t(index)];
-    const QString letters = QString::fromUtf8(encoding.letters);
     QRandomGenerator random(quint32(index) + 1);
-    for (const int count : { 10, 50, 200, 60000 }) {
-        const QString declaration = u"<?xml version='1.0' encoding='%1'?>"_s.arg(QLatin1StringView(encoding.name));
-        QString text = (encoding.isDeclared ? declaration : QString()) + u"<p>"_s;
-        QString expected = text;
-        RVFileEditor editor;
-        for (int i = 0; i < 40; ++i) {
-            // Only letters of texts may be replaced, or the file would be no XML.
-            const QString kept = textOf(letters, random.bounded(count), &random);
-            text += kept + u'|';
-            expected += kept + u'|';
-            const QString old = textOf(letters, random.bounded(3), &random);
-            const QString wanted = random.bounded(4) > 0 ? textOf(letters, random.bounded(4), &random) : QString();
-            const RVFilePosition begin = placeOf(text, text.size());
-            text += old;
-            QVERIFY(editor.add({ { { begin, placeOf(text, text.size()) }, wanted } }));
-            text += u'|';
-            expected += wanted + u'|';
-            if (count > 1000 && i == 3)
-                break;
-        }
-        text += u"</p>"_s;
-        expected += u"</p>"_s;
-        const QByteArray file = encoding.mark + *encoded(text, encoding.name);
-        const QByteArray result = editor.apply(file);
-        QCOMPARE(editor.errorString(), QString());
-        QVERIFY(result == encoding.mark + *encoded(expected, encoding.name));
-        QCOMPARE(editor.count(), count > 1000 ? 4 : 40);
-    }
+    for (const int count : { 10, 50, 200, 60000 })
+        compareEditedFile(ENCODINGS[std::size_t(index)], count, &random);
 }
 
 void tst_RVFileEditor::unwritableLetters_data()

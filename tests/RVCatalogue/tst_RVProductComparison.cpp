@@ -1,10 +1,10 @@
 #include "CatalogueBuffer.h"
 #include "RandomCatalogue.h"
+#include "WrittenFile.h"
 
 #include <RVCatalogueReader.h>
 #include <RVProductComparison.h>
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QSet>
@@ -490,25 +490,47 @@ void tst_RVProductComparison::randomProductsEqualThemselves()
     }
 }
 
+namespace {
+
+RVCatalogueProduct productWithSpine(QRandomGenerator *random)
+{
+    const int pages = random->bounded(40);
+    const QByteArray attributes = "pages='" + QByteArray::number(pages) + "' max_pages='"
+            + QByteArray::number(pages + random->bounded(60)) + "' page_step='"
+            + QByteArray::number(random->bounded(1, 9)) + '\'';
+    return read(spine(attributes,
+                      "packages_per_block='" + QByteArray::number(random->bounded(3)) + "' base_width='"
+                              + QByteArray::number(random->bounded(1, 3)) + "' block_width='0.5'"));
+}
+
+QSet<int> countsOf(const RVCatalogueProduct &product)
+{
+    const RVPageCounts counts = product.pageCounts().pageCounts();
+    return QSet<int>(counts.begin(), counts.end());
+}
+
+/// The subjects in the table of the documentation.
+QSet<QString> documented()
+{
+    const QString page = QString::fromUtf8(readFile(QStringLiteral(DOCS "/comparing.md")));
+    QSet<QString> subjects;
+    const QStringList rows = page.section(u"| subject |"_s, 1).section(u"\n\n"_s, 0, 0).split(u'\n').mid(2);
+    for (const QString &row : rows) {
+        for (const QString &subject : row.section(u'|', 1, 1).split(u','))
+            subjects += subject.trimmed().remove(u'`');
+    }
+    return subjects;
+}
+
+}
+
 // The ranges of page counts together equal the sets of single counts.
 void tst_RVProductComparison::everyPageCount()
 {
     QRandomGenerator random(31);
     for (int i = 0; i < 500; ++i) {
-        const auto product = [&random](int pages) {
-            const QByteArray attributes = "pages='" + QByteArray::number(pages) + "' max_pages='"
-                    + QByteArray::number(pages + random.bounded(60)) + "' page_step='"
-                    + QByteArray::number(random.bounded(1, 9)) + '\'';
-            return read(spine(attributes,
-                              "packages_per_block='" + QByteArray::number(random.bounded(3)) + "' base_width='"
-                                      + QByteArray::number(random.bounded(1, 3)) + "' block_width='0.5'"));
-        };
-        const RVCatalogueProduct before = product(random.bounded(40));
-        const RVCatalogueProduct after = product(random.bounded(40));
-        const auto countsOf = [](const RVCatalogueProduct &each) {
-            const RVPageCounts counts = each.pageCounts().pageCounts();
-            return QSet<int>(counts.begin(), counts.end());
-        };
+        const RVCatalogueProduct before = productWithSpine(&random);
+        const RVCatalogueProduct after = productWithSpine(&random);
         QSet<int> removed = countsOf(before) - countsOf(after);
         QSet<int> added = countsOf(after) - countsOf(before);
         QSet<int> otherWidths;
@@ -535,15 +557,6 @@ void tst_RVProductComparison::everyPageCount()
 // The table has every subject and no other.
 void tst_RVProductComparison::documentedSubjects()
 {
-    QFile file(QStringLiteral(DOCS) + "/comparing.md"_L1);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QString page = QString::fromUtf8(file.readAll());
-    QSet<QString> documented;
-    const QStringList rows = page.section(u"| subject |"_s, 1).section(u"\n\n"_s, 0, 0).split(u'\n').mid(2);
-    for (const QString &row : rows) {
-        for (const QString &subject : row.section(u'|', 1, 1).split(u','))
-            documented += subject.trimmed().remove(u'`');
-    }
     const QByteArray before =
             "<f name='A'><product type='A' name='A' article_id='1' shipping_group='1' price_class='A' "
             "page_price_class='A' pages='1' max_pages='3' page_step='1'><composition>"
@@ -565,8 +578,8 @@ void tst_RVProductComparison::documentedSubjects()
     QSet<QString> told;
     for (const RVProductChange &change : RVProductComparison(read(before), read(after)).changes())
         told += change.subject();
-    QCOMPARE(told - documented, QSet<QString>());
-    QCOMPARE(documented - told, QSet<QString>());
+    QCOMPARE(told - documented(), QSet<QString>());
+    QCOMPARE(documented() - told, QSet<QString>());
 }
 
 QTEST_GUILESS_MAIN(tst_RVProductComparison)

@@ -616,6 +616,22 @@ void tst_RVPageOrganizationManager::othersWaitForTheCalculation_data()
             << Operation([](RVPageOrganizationManager *manager) { manager->setCalculator(nullptr); });
 }
 
+namespace {
+
+/// A calculator that waits for a permission in the calculation of the type "slow".
+Calculator *slowCalculator(Log *log, QSemaphore *started, QSemaphore *mayFinish)
+{
+    return new Calculator(log, [started, mayFinish](const RVProductType &type) {
+        if (type == RVProductType(u"slow"_s)) {
+            started->release();
+            mayFinish->acquire();
+        }
+        return organization(26, 154, 4);
+    });
+}
+
+}
+
 void tst_RVPageOrganizationManager::othersWaitForTheCalculation()
 {
     QFETCH(Operation, operation);
@@ -623,13 +639,7 @@ void tst_RVPageOrganizationManager::othersWaitForTheCalculation()
     QSemaphore started;
     QSemaphore mayFinish;
     RVPageOrganizationManager manager;
-    manager.setCalculator(new Calculator(&log, [&started, &mayFinish](const RVProductType &type) {
-        if (type == RVProductType(u"slow"_s)) {
-            started.release();
-            mayFinish.acquire();
-        }
-        return organization(26, 154, 4);
-    }));
+    manager.setCalculator(slowCalculator(&log, &started, &mayFinish));
     manager.organization(RVProductType(u"cached"_s));
 
     std::thread slow([&manager] { manager.organization(RVProductType(u"slow"_s)); });

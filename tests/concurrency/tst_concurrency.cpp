@@ -152,6 +152,7 @@ private Q_SLOTS:
     void singletons();
     void platformSettings();
     void pageOrganizations();
+    void replacedCalculators();
     void managersOfTheirOwn();
     void productCheckers();
     void boxStyles();
@@ -311,50 +312,83 @@ void tst_concurrency::platformSettings()
     QVERIFY(allRight);
 }
 
+namespace {
+
+/// The page counts that threads ask for are 1 to this number.
+constexpr int COUNTS = 100;
+
+/// Empties the cache as long as others ask.
+int emptyTheCache(const std::atomic<int> &asking)
+{
+    do {
+        RVPageOrganizationManager::instance()->clearCache();
+        std::this_thread::yield();
+    } while (asking > 0);
+    return COUNTS;
+}
+
+/// Reads what it was given in the beginning as long as others ask. Returns how many answers stayed right.
+int readWhatWasGiven(const std::atomic<int> &asking)
+{
+    std::vector<const RVPageCountOrganization *> kept;
+    for (int pages = 1; pages <= COUNTS; ++pages)
+        kept.push_back(RVPageOrganizationManager::instance()->organization(QString::number(pages)));
+    int right = COUNTS;
+    do {
+        for (int i = 0; i < COUNTS; ++i)
+            right -= kept[i]->maxPages() != i + 1;
+        std::this_thread::yield();
+    } while (asking > 0);
+    return right;
+}
+
+/// Returns how many answers are right.
+int ask(std::atomic<int> *asking)
+{
+    RVPageOrganizationManager *manager = RVPageOrganizationManager::instance();
+    int right = 0;
+    for (int pages = 1; pages <= COUNTS; ++pages) {
+        const RVProductType type = QString::number(pages);
+        const int found = manager->organization(type)->maxPages();
+        right += found == pages && manager->pageCountOrganzation(type).maxPages() == pages;
+    }
+    --*asking;
+    return right;
+}
+
+}
+
 // Six threads ask, and the calculator asks in turn. One empties the cache all the while, one goes on reading what it
 // was given before.
 void tst_concurrency::pageOrganizations()
 {
     RVPageOrganizationManager *manager = RVPageOrganizationManager::instance();
     manager->setCalculator(new Calculator);
-    constexpr int COUNTS = 100;
     std::atomic<int> number { 0 };
     std::atomic<int> asking { 0 };
     const auto work = [&] {
-        const int role = number++ % THREADS;
-        if (role == 0) {
-            do {
-                manager->clearCache();
-                std::this_thread::yield();
-            } while (asking > 0);
-            return COUNTS;
+        switch (number++ % THREADS) {
+        case 0:
+            return emptyTheCache(asking);
+        case 1:
+            return readWhatWasGiven(asking);
+        default:
+            return ask(&asking);
         }
-        if (role == 1) {
-            std::vector<const RVPageCountOrganization *> kept;
-            for (int pages = 1; pages <= COUNTS; ++pages)
-                kept.push_back(manager->organization(QString::number(pages)));
-            int right = COUNTS;
-            do {
-                for (int i = 0; i < COUNTS; ++i)
-                    right -= kept[i]->maxPages() != i + 1;
-                std::this_thread::yield();
-            } while (asking > 0);
-            return right;
-        }
-        int right = 0;
-        for (int pages = 1; pages <= COUNTS; ++pages) {
-            const RVProductType type = QString::number(pages);
-            const int found = manager->organization(type)->maxPages();
-            right += found == pages && manager->pageCountOrganzation(type).maxPages() == pages;
-        }
-        --asking;
-        return right;
     };
     for (int round = 0; round < 10; ++round) {
         asking = THREADS - 2;
         QVERIFY(allGet(work, COUNTS));
     }
-    // A calculator that is replaced while others ask is not deleted before they have their answers.
+    manager->setCalculator(nullptr);
+}
+
+// A calculator that is replaced while others ask is not deleted before they have their answers.
+void tst_concurrency::replacedCalculators()
+{
+    RVPageOrganizationManager *manager = RVPageOrganizationManager::instance();
+    manager->setCalculator(new Calculator);
+    std::atomic<int> number { 0 };
     const auto replace = [&] {
         const bool replaces = number++ % THREADS == 0;
         int right = 0;

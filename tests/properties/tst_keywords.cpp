@@ -177,31 +177,39 @@ void compareEncoding(const RVEnumToStringTable<E> &table, const Rules<E> &rules,
     }
 }
 
+/// Adds random keywords to a table and to its rules, and returns them.
+template<typename E>
+QStringList fill(RVEnumToStringTable<E> *table, Rules<E> *rules, RandomText *random)
+{
+    const QStringList letters = QStringList { u"a"_s, u"b"_s, u"k"_s, u"S"_s, u"Z"_s, u"_"_s, u"@"_s,
+                                              u"["_s, u"`"_s, u"{"_s, u"9"_s, u" "_s, u"ä"_s, u"É"_s }
+            + RandomText::oddLetters().mid(0, 3);
+    QStringList keywords { u""_s };
+    for (int i = random->below(60); i > 0; --i) {
+        // Mostly ASCII, mostly short, and with lengths on both sides of what the index takes.
+        const QStringList alphabet = random->oneIn(5) ? letters : letters.mid(0, 11);
+        QString keyword = random->joined(alphabet, random->oneIn(4) ? 40 : 9);
+        if (random->oneIn(6))
+            keyword = random->from(keywords) + keyword;
+        const E value = randomValue<E>(random);
+        table->insert(keyword, value);
+        rules->insert(keyword, value);
+        keywords += keyword;
+    }
+    if (random->oneIn(2)) {
+        table->defaultKeyword = rules->defaultKeyword = u"none"_s;
+        table->defaultValue = rules->defaultValue = randomValue<E>(random);
+    }
+    return keywords;
+}
+
 template<typename E>
 void compareRandomTable(quint32 seed)
 {
     RandomText random(seed);
-    const QStringList letters = QStringList { u"a"_s, u"b"_s, u"k"_s, u"S"_s, u"Z"_s, u"_"_s, u"@"_s,
-                                              u"["_s, u"`"_s, u"{"_s, u"9"_s, u" "_s, u"ä"_s, u"É"_s }
-            + RandomText::oddLetters().mid(0, 3);
     RVEnumToStringTable<E> table;
     Rules<E> rules;
-    QStringList keywords { u""_s };
-    for (int i = random.below(60); i > 0; --i) {
-        // Mostly ASCII, mostly short, and with lengths on both sides of what the index takes.
-        const QStringList alphabet = random.oneIn(5) ? letters : letters.mid(0, 11);
-        QString keyword = random.joined(alphabet, random.oneIn(4) ? 40 : 9);
-        if (random.oneIn(6))
-            keyword = random.from(keywords) + keyword;
-        const E value = randomValue<E>(&random);
-        table.insert(keyword, value);
-        rules.insert(keyword, value);
-        keywords += keyword;
-    }
-    if (random.oneIn(2)) {
-        table.defaultKeyword = rules.defaultKeyword = u"none"_s;
-        table.defaultValue = rules.defaultValue = randomValue<E>(&random);
-    }
+    QStringList keywords = fill(&table, &rules, &random);
     compareDecoding(table, rules, keywords, 30);
     compareEncoding(table, rules, 20);
     table.optimize();

@@ -51,6 +51,7 @@ private Q_SLOTS:
 
     void emptyStates();
     void filters();
+    void filtersByRule();
     void sortsByHeader();
     void stepsThroughAll();
     void stepsInTheShownOrder();
@@ -63,6 +64,7 @@ private Q_SLOTS:
     void faultyProductsOnly();
     void faultyProductsOnlyWithoutAny();
     void keepsTheFilterOfProducts();
+    void showsAFix();
     void appliesAFix();
     void appliesAllFixes();
     void refusesAChangedFile();
@@ -220,6 +222,12 @@ void tst_findings::filters()
     text->clear();
     QCOMPARE(chosen(), u"5:118"_s);
     QTest::mouseClick(errors, Qt::LeftButton);
+    QCOMPARE(places().size(), 5);
+}
+
+void tst_findings::filtersByRule()
+{
+    load();
     auto *rules = find<QComboBox>(u"findingRule"_s);
     QCOMPARE(rules->count(), 5);
     rules->setCurrentIndex(rules->findText(u"keyword-unknown (2)"_s));
@@ -469,7 +477,7 @@ void tst_findings::keepsTheFilterOfProducts()
     QVERIFY2(count->text().startsWith("1 of 4"_L1), qPrintable(count->text()));
 }
 
-void tst_findings::appliesAFix()
+void tst_findings::showsAFix()
 {
     load();
     QVERIFY(!action(u"Apply fix…"_s)->isEnabled());
@@ -480,19 +488,22 @@ void tst_findings::appliesAFix()
     QVERIFY(dialog);
     QVERIFY(dialog->isVisible());
     const QString diff = dialog->findChild<QPlainTextEdit *>(u"fixDiff"_s)->toPlainText();
-    QVERIFY2(
-            diff.contains(
-                    "\n-<product type='DUN10' article_id='1' name='Ten' article_class='book' cover_type='hardcovr'"_L1),
-            qPrintable(diff));
-    QVERIFY2(
-            diff.contains(
-                    "\n+<product type='DUN10' article_id='1' name='Ten' article_class='book' cover_type='hardcover'"_L1),
-            qPrintable(diff));
+    const QString product = u"<product type='DUN10' article_id='1' name='Ten' article_class='book' cover_type="_s;
+    QVERIFY2(diff.contains("\n-"_L1 + product + "'hardcovr'"_L1), qPrintable(diff));
+    QVERIFY2(diff.contains("\n+"_L1 + product + "'hardcover'"_L1), qPrintable(diff));
     QCOMPARE(content(u"c.xml"_s), QByteArray(FAULTY_PRODUCTS));
     dialog->reject();
     QTRY_VERIFY(!find<FixDialog>(u"fixDialog"_s));
     activate();
     QCOMPARE(content(u"c.xml"_s), QByteArray(FAULTY_PRODUCTS));
+    press(Qt::Key_Period, Qt::ControlModifier);
+    QVERIFY(find<FixDialog>(u"fixDialog"_s));
+}
+
+void tst_findings::appliesAFix()
+{
+    load();
+    press(Qt::Key_F8);
     press(Qt::Key_Period, Qt::ControlModifier);
     QSignalSpy changed(myWindow->session(), &CatalogueSession::catalogueChanged);
     QVERIFY(find<FixDialog>(u"fixDialog"_s));

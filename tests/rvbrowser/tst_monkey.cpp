@@ -1,17 +1,17 @@
 #include "ManyProducts.h"
+#include "TestFolder.h"
 
 #include <ComparisonActions.h>
 #include <Language.h>
 #include <MainWindow.h>
 
 #include <QApplication>
-#include <QFile>
 #include <QRandomGenerator>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <memory>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -21,9 +21,11 @@ class tst_monkey : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void playsWithTheWindow();
 
 private:
+    void openSample();
     QWidget *anyWidget();
     void press();
     void click();
@@ -34,6 +36,7 @@ private:
 
     QRandomGenerator myRandom { 260570 };
     std::unique_ptr<MainWindow> myWindow;
+    TestFolder myFolder;
     QStringList myFiles;
 };
 
@@ -119,31 +122,39 @@ void tst_monkey::compare()
     }
 }
 
+void tst_monkey::initTestCase()
+{
+    const std::pair<QString, QByteArray> contents[] = {
+        { u"many.xml"_s, manyProducts(500) },
+        { u"broken.xml"_s, "<products><product type='A'" },
+        { u"empty.xml"_s, "<products/>" },
+        { u"faulty.xml"_s,
+          "<p><product type='A' article_id='x' pages='9' max_pages='2' cover_type='y'><composition><spine "
+          "base_width='-1'/></composition><forms><form key='a'/></forms></product><product/></p>" },
+    };
+    for (const auto &[name, content] : contents) {
+        QVERIFY(myFolder.write(name, content));
+        myFiles += myFolder.path(name);
+    }
+    myFiles += QString::fromUtf8(SAMPLE);
+    myFiles += myFolder.path(u"missing.xml"_s);
+}
+
+/// Opens the sample, and waits until the window shows it.
+void tst_monkey::openSample()
+{
+    QSignalSpy changed(myWindow->session(), &CatalogueSession::catalogueChanged);
+    myWindow->session()->open(QString::fromUtf8(SAMPLE));
+    QVERIFY(changed.wait(20000));
+}
+
 void tst_monkey::playsWithTheWindow()
 {
-    QTemporaryDir folder;
-    QVERIFY(folder.isValid());
-    const auto write = [&folder, this](const QString &name, const QByteArray &content) {
-        QFile file(folder.filePath(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
-        myFiles += file.fileName();
-    };
-    write(u"many.xml"_s, manyProducts(500));
-    write(u"broken.xml"_s, "<products><product type='A'");
-    write(u"empty.xml"_s, "<products/>");
-    write(u"faulty.xml"_s,
-          "<p><product type='A' article_id='x' pages='9' max_pages='2' cover_type='y'><composition><spine "
-          "base_width='-1'/></composition><forms><form key='a'/></forms></product><product/></p>");
-    myFiles += QString::fromUtf8(SAMPLE);
-    myFiles += folder.filePath(u"missing.xml"_s);
-
     myWindow = std::make_unique<MainWindow>();
     myWindow->show();
     // The button of the start screen opens a dialogue, which would wait for an answer.
-    QSignalSpy first(myWindow->session(), &CatalogueSession::catalogueChanged);
-    myWindow->session()->open(QString::fromUtf8(SAMPLE));
-    QVERIFY(first.wait(20000));
+    openSample();
+    QVERIFY(!QTest::currentTestFailed());
     void (tst_monkey::*const games[])() = { &tst_monkey::press, &tst_monkey::press, &tst_monkey::click,
                                             &tst_monkey::click, &tst_monkey::turn };
     for (int i = 0; i < EVENTS; ++i) {
@@ -159,9 +170,7 @@ void tst_monkey::playsWithTheWindow()
     }
     // It still works.
     myWindow->show();
-    QSignalSpy changed(myWindow->session(), &CatalogueSession::catalogueChanged);
-    myWindow->session()->open(QString::fromUtf8(SAMPLE));
-    QVERIFY(changed.wait(20000));
+    openSample();
     QVERIFY(!myWindow->session()->isLoading());
     QVERIFY(myWindow->session()->catalogue()->size() > 5);
 }

@@ -31,6 +31,8 @@
 #include <QTextDocumentFragment>
 #include <QTreeView>
 
+#include <functional>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -108,7 +110,9 @@ private Q_SLOTS:
     void cancelsALoad();
     void dropsAFile();
     void dropsNothingElse();
-    void speaksGerman();
+    void wordsInGerman();
+    void findingsInGerman();
+    void messagesInGerman();
     void manyProductsStayUsable();
     void narrowWindow();
     void models();
@@ -122,6 +126,10 @@ private Q_SLOTS:
 private:
     QString path(const QString &name) const { return myFolder->filePath(name); }
     void write(const QString &name, const QByteArray &content);
+    /// The parts of an order line, sorted.
+    QStringList pieces(const QString &line, QChar separator) const;
+    /// Runs a test with a new window that speaks German.
+    void inGerman(const std::function<void()> &test);
     /// Loads a file with this content, and waits until it is shown.
     void load(const QByteArray &content);
     template<typename T>
@@ -388,6 +396,13 @@ void tst_rvbrowser::invalidCounts()
     QVERIFY(text(u"note"_s).startsWith("This product cannot be offered"_L1));
 }
 
+QStringList tst_rvbrowser::pieces(const QString &line, QChar separator) const
+{
+    QStringList result = find<OrderLine>(line)->text().split(separator);
+    result.sort();
+    return result;
+}
+
 void tst_rvbrowser::optionsAndOrderLines()
 {
     load(CATALOGUE);
@@ -399,11 +414,6 @@ void tst_rvbrowser::optionsAndOrderLines()
     QCOMPARE(swatch.toImage().pixelColor(swatch.rect().center()), QColor(Qt::red));
     QVERIFY(!box->itemData(0, Qt::DecorationRole).isValid());
 
-    const auto pieces = [this](const QString &line, QChar separator) {
-        QStringList result = find<OrderLine>(line)->text().split(separator);
-        result.sort();
-        return result;
-    };
     QCOMPARE(pieces(u"projectFile"_s, u','), (QStringList { u"alcolor:black"_s, u"box;lining:none;none"_s }));
     QTest::keyClick(color, Qt::Key_Down);
     QTest::keyClick(box, Qt::Key_Down);
@@ -776,7 +786,7 @@ void tst_rvbrowser::dropsNothingElse()
     QVERIFY(!myWindow->session()->isLoading());
 }
 
-void tst_rvbrowser::speaksGerman()
+void tst_rvbrowser::inGerman(const std::function<void()> &test)
 {
     myWindow.reset();
     {
@@ -784,6 +794,15 @@ void tst_rvbrowser::speaksGerman()
         german.speak(QLocale(QLocale::German));
         myWindow = std::make_unique<MainWindow>();
         myWindow->show();
+        test();
+        myWindow.reset();
+    }
+    QLocale::setDefault(QLocale(QLocale::English));
+}
+
+void tst_rvbrowser::wordsInGerman()
+{
+    inGerman([this] {
         load(CATALOGUE);
         QCOMPARE(text(u"count"_s), u"3 Produkte"_s);
         QVERIFY2(text(u"spineText"_s).startsWith(u"Rücken 9,00 mm"_s), qPrintable(text(u"spineText"_s)));
@@ -793,6 +812,13 @@ void tst_rvbrowser::speaksGerman()
         for (const QString &wanted : { u"Artikelart"_s, u"Einband"_s, u"Bindung"_s, u"Papier"_s, u"Fotopapier"_s,
                                        u"Ausrichtung"_s, u"Größenklasse"_s, u"Hochformat (portrait)"_s })
             QVERIFY2(texts.contains(wanted), qPrintable(wanted));
+    });
+}
+
+void tst_rvbrowser::findingsInGerman()
+{
+    inGerman([this] {
+        load(CATALOGUE);
         const QAbstractItemModel *findings = find<QTableView>(u"findings"_s)->model();
         int row = 0;
         while (row < findings->rowCount() && findings->index(row, 4).data().toString() != "keyword-legacy"_L1)
@@ -804,13 +830,18 @@ void tst_rvbrowser::speaksGerman()
         QVERIFY2(lines.contains(u"Ein Zweitname wird noch gelesen, aber Programme schreiben das Hauptschlüsselwort "
                                 "des Wertes; bitte das Hauptschlüsselwort angeben."_s),
                  qPrintable(lines.join(u'\n')));
+    });
+}
+
+void tst_rvbrowser::messagesInGerman()
+{
+    inGerman([this] {
+        load(CATALOGUE);
         write(u"c.xml"_s, "");
         auto *banner = myWindow->findChild<MessageBanner *>();
         QTRY_VERIFY_WITH_TIMEOUT(banner->isVisible(), 20000);
         QVERIFY2(banner->text().contains(u", Zeile 1, Spalte 1: die Datei ist leer"_s), qPrintable(banner->text()));
-        myWindow.reset();
-    }
-    QLocale::setDefault(QLocale(QLocale::English));
+    });
 }
 
 void tst_rvbrowser::manyProductsStayUsable()
