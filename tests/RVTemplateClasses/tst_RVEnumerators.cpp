@@ -1,3 +1,5 @@
+#include "RVProductBase/AttributeTest.h"
+
 #include <RVCore/RVDirectoryName.h>
 #include <RVCore/RVDistanceUnit.h>
 #include <RVCore/RVSpotColor.h>
@@ -20,18 +22,6 @@
 #include <limits>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-template<typename T>
-QString debugText(const T &value)
-{
-    QString text;
-    QDebug(&text) << value;
-    return text;
-}
-
-}
 
 /// Enumerators of an application, one of them in the sign bit.
 enum TestGlobalEnum : qint8 { TEST_GLOBAL_FIRST = 1, TEST_GLOBAL_THIRD = 4, TEST_GLOBAL_LAST = -128 };
