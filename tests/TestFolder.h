@@ -16,6 +16,12 @@ public:
     /// Writes into the file itself, as simple programs do. False where that
     /// fails.
     bool write(const QString &name, const QByteArray &content) const { return writeFile(path(name), content); }
+    /// Writes a file with a name of its own, and returns its path; empty if that fails.
+    QString add(const QByteArray &content)
+    {
+        const QString name = QString::number(++myFiles) + QStringLiteral(".xml");
+        return write(name, content) ? path(name) : QString();
+    }
     /// Puts a new file in the place of the old one, as most editors do. False
     /// where that fails.
     bool replace(const QString &name, const QByteArray &content) const
@@ -30,6 +36,7 @@ public:
 
 private:
     QTemporaryDir myFolder;
+    int myFiles = 0;
 };
 
 #endif

@@ -1,8 +1,11 @@
 #ifndef CATALOGUEBUFFER_H
 #define CATALOGUEBUFFER_H
 
+#include <RVCatalogueReader.h>
+
 #include <QBuffer>
 #include <QByteArray>
+#include <QList>
 
 /// A file in memory, open for reading.
 class CatalogueBuffer : public QBuffer
@@ -24,5 +27,17 @@ public:
 protected:
     qint64 readData(char *data, qint64) override { return CatalogueBuffer::readData(data, 1); }
 };
+
+inline QList<RVCatalogueProduct> productsOf(const QByteArray &content)
+{
+    CatalogueBuffer file(content);
+    return RVCatalogueReader(&file).readAll();
+}
+
+inline RVCatalogueProduct firstProduct(const QByteArray &content)
+{
+    CatalogueBuffer file(content);
+    return RVCatalogueReader(&file).next();
+}
 
 #endif

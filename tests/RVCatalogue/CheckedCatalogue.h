@@ -1,17 +1,7 @@
 #ifndef CHECKEDCATALOGUE_H
 #define CHECKEDCATALOGUE_H
 
-#include "CatalogueBuffer.h"
-
-#include <RVCatalogueCheck.h>
-#include <RVCatalogueReader.h>
-
-#include <QList>
-#include <QString>
-#include <QStringList>
-
-#include <algorithm>
-#include <utility>
+#include "FindingTools.h"
 
 using namespace Qt::StringLiterals;
 
@@ -20,7 +10,7 @@ class CheckedCatalogue
 {
 public:
     explicit CheckedCatalogue(const QByteArray &file, const RVCatalogueCheck &check = RVCatalogueCheck())
-        : myLines(QString::fromUtf8(file).split(u'\n'))
+        : myText(QString::fromUtf8(file))
     {
         CatalogueBuffer buffer(file);
         RVCatalogueReader reader(&buffer);
@@ -29,7 +19,7 @@ public:
             myFindings += product.findings();
         myFindings += reader.findings();
         if (reader.hasError())
-            myLines = QStringList { reader.errorString() };
+            myText = reader.errorString();
     }
 
     const QList<RVCatalogueFinding> &findings() const { return myFindings; }
@@ -51,7 +41,8 @@ public:
     }
     QString textAt(const RVFileRange &range) const
     {
-        QString text = between(range);
+        const qsizetype begin = offsetOf(myText, range.begin);
+        QString text = myText.mid(begin, offsetOf(myText, range.end) - begin);
         if (!text.startsWith(u'<'))
             return text;
         text = text.section(u' ', 0, 0).section(u'/', 0, 0).section(u'>', 0, 0);
@@ -59,33 +50,10 @@ public:
     }
 
     /// The file after the fixes of all findings.
-    QString mended() const
-    {
-        QList<RVFileEdit> edits;
-        for (const RVCatalogueFinding &finding : myFindings)
-            edits += finding.fix();
-        std::sort(edits.begin(), edits.end(),
-                  [](const RVFileEdit &a, const RVFileEdit &b) { return b.range.begin < a.range.begin; });
-        QString text = myLines.join(u'\n');
-        for (const RVFileEdit &edit : std::as_const(edits))
-            text.replace(offset(edit.range.begin), offset(edit.range.end) - offset(edit.range.begin), edit.text);
-        return text;
-    }
+    QString mended() const { return QString::fromUtf8(::mended(myText.toUtf8(), myFindings)); }
 
 private:
-    qsizetype offset(const RVFilePosition &position) const
-    {
-        qsizetype result = qsizetype(position.column) - 1;
-        for (qsizetype i = 0; i + 1 < qsizetype(position.line); ++i)
-            result += myLines.at(i).size() + 1;
-        return result;
-    }
-    QString between(const RVFileRange &range) const
-    {
-        return myLines.join(u'\n').mid(offset(range.begin), offset(range.end) - offset(range.begin));
-    }
-
-    QStringList myLines;
+    QString myText;
     QList<RVCatalogueFinding> myFindings;
 };
 

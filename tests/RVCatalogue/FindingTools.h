@@ -13,6 +13,14 @@
 
 #include <algorithm>
 
+inline RVCatalogueCheck without(const QStringList &rules)
+{
+    RVCatalogueCheck check;
+    for (const QString &rule : rules)
+        check.disable(RVCatalogueRule::find(rule));
+    return check;
+}
+
 /// The findings about a catalogue, without those about the file as a whole.
 inline QList<RVCatalogueFinding> findingsOf(const QByteArray &file, const RVCatalogueCheck &check = RVCatalogueCheck())
 {
@@ -33,6 +41,16 @@ inline QStringList textsOf(const QList<RVCatalogueFinding> &findings)
         result += rvSeverityName(finding.severity()) + u' ' + finding.rule().name() + QStringLiteral(": ")
                 + finding.text();
     return result;
+}
+
+/// "line:column-line:column"
+inline QString describe(const RVFileRange &range)
+{
+    return QStringLiteral("%1:%2-%3:%4")
+            .arg(range.begin.line)
+            .arg(range.begin.column)
+            .arg(range.end.line)
+            .arg(range.end.column);
 }
 
 /// The offset of a place in a text whose lines end with a line feed.

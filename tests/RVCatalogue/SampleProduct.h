@@ -1,6 +1,8 @@
 #ifndef SAMPLEPRODUCT_H
 #define SAMPLEPRODUCT_H
 
+#include <QByteArray>
+
 /// A catalogue without findings, with each element on its own line.
 constexpr char CLEAN_CATALOGUE[] =
         "<products>\n"
@@ -23,5 +25,12 @@ constexpr char CLEAN_CATALOGUE[] =
         "</product>\n"
         "<product type='FOT1' article_id='2' article_class='foto' foto_paper_type='matt'/>\n"
         "</products>\n";
+
+/// The clean catalogue with one change; empty if it has this piece not exactly once.
+inline QByteArray changed(const QByteArray &from, const QByteArray &to)
+{
+    const QByteArray clean = CLEAN_CATALOGUE;
+    return clean.count(from) == 1 ? QByteArray(clean).replace(from, to) : QByteArray();
+}
 
 #endif

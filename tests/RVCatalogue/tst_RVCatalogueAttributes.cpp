@@ -1,13 +1,13 @@
 // No attribute is missing: neither in the list itself, nor in the descriptions of catalogues for people and for
 // editors.
 #include "ListDifference.h"
+#include "WrittenFile.h"
 
 #include <RVCatalogueAttribute.h>
 #include <RVCatalogueAttributes.h>
 #include <RVCatalogueReader.h>
 
 #include <QDomDocument>
-#include <QFile>
 #include <QMetaType>
 #include <QTest>
 
@@ -57,14 +57,6 @@ QStringList names(const QList<RVCatalogueAttribute> &attributes)
     return result;
 }
 
-QByteArray content(const QString &fileName)
-{
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("cannot read %s", qPrintable(fileName));
-    return file.readAll();
-}
-
 QDomElement named(const QDomElement &parent, const QString &tag, const QString &name)
 {
     QDomElement child = parent.firstChildElement(tag);
@@ -77,7 +69,7 @@ QDomElement named(const QDomElement &parent, const QString &tag, const QString &
 QStringList keywordAttributesOfSchema()
 {
     QDomDocument schema;
-    schema.setContent(content(QStringLiteral(SCHEMA)));
+    schema.setContent(readFile(QStringLiteral(SCHEMA)));
     const QDomElement root = schema.documentElement();
     const QDomElement product = named(root, u"xs:element"_s, u"product"_s).firstChildElement(u"xs:complexType"_s);
     QStringList result;
@@ -94,7 +86,7 @@ QStringList keywordAttributesOfSchema()
 /// The rows of the table of products whose values are keywords: the name and the class that reads it.
 QStringList keywordAttributesOfFormat()
 {
-    const QString text = QString::fromUtf8(content(QStringLiteral(FORMAT)));
+    const QString text = QString::fromUtf8(readFile(QStringLiteral(FORMAT)));
     const QString products = text.section(u"### `product`"_s, 1).section(u"\n###"_s, 0, 0);
     QStringList result;
     for (const QString &line : products.split(u'\n')) {
@@ -108,7 +100,7 @@ QStringList keywordAttributesOfFormat()
 /// The first column of the row of docs/json.md for conditions with keywords.
 QStringList attributesOfConditions()
 {
-    const QString text = QString::fromUtf8(content(QStringLiteral(DOCS "/json.md")));
+    const QString text = QString::fromUtf8(readFile(QStringLiteral(DOCS "/json.md")));
     const QString row = text.section(u"| attribute | signs |"_s, 1).section(u"\n| "_s, 1, 1).section(u" | "_s, 0, 0);
     return row.split(u", "_s).replaceInStrings(u"`"_s, QString());
 }
@@ -116,7 +108,7 @@ QStringList attributesOfConditions()
 /// Those of the classes that the map of the libraries names.
 QStringList namedByArchitecture(const QStringList &classes)
 {
-    const QString text = QString::fromUtf8(content(QStringLiteral(DOCS "/architecture.md")));
+    const QString text = QString::fromUtf8(readFile(QStringLiteral(DOCS "/architecture.md")));
     QStringList result;
     for (const QString &name : classes) {
         if (text.contains(u'`' + name + u'`'))

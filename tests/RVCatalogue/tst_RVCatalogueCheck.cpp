@@ -1,6 +1,7 @@
-#include "CatalogueBuffer.h"
+#include "FindingTools.h"
 #include "ListDifference.h"
 #include "SampleProduct.h"
+#include "WrittenFile.h"
 
 #include <RVCatalogueAttribute.h>
 #include <RVCatalogueCheck.h>
@@ -10,7 +11,6 @@
 
 #include <QBuffer>
 #include <QDomDocument>
-#include <QFile>
 #include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QSet>
@@ -50,14 +50,6 @@ struct Checked
     }
 };
 
-RVCatalogueCheck without(const QStringList &rules)
-{
-    RVCatalogueCheck check;
-    for (const QString &rule : rules)
-        check.disable(RVCatalogueRule::find(rule));
-    return check;
-}
-
 Checked check(QByteArray file, const QStringList &disabledRules = {})
 {
     QBuffer buffer(&file);
@@ -74,36 +66,14 @@ Checked check(QByteArray file, const QStringList &disabledRules = {})
     return result;
 }
 
-/// The text from one place to the other, in a file of ASCII; only the name and the last letter of a start tag.
+/// The text from one place to the other; only the name and the last letter of a start tag.
 QString textAt(const QByteArray &file, const RVFileRange &range)
 {
-    const QList<QByteArray> lines = file.split('\n');
-    const auto offset = [&lines](const RVFilePosition &position) {
-        qsizetype result = qsizetype(position.column) - 1;
-        for (qsizetype i = 0; i + 1 < qsizetype(position.line); ++i)
-            result += lines.at(i).size() + 1;
-        return result;
-    };
-    const qsizetype begin = offset(range.begin);
-    const QByteArray text = file.mid(begin, offset(range.end) - begin);
-    if (!text.startsWith('<'))
-        return QString::fromLatin1(text);
-    const auto nameEnd = std::find_if(text.begin(), text.end(),
-                                      [](char letter) { return QByteArrayView(" />").contains(letter); });
-    return QString::fromLatin1(text.first(nameEnd - text.begin()) + text.right(1));
-}
-
-RVCatalogueProduct firstProduct(const QByteArray &content)
-{
-    CatalogueBuffer file(content);
-    return RVCatalogueReader(&file).next();
-}
-
-/// The clean catalogue with one change.
-QByteArray changed(const QByteArray &from, const QByteArray &to)
-{
-    const QByteArray clean = CLEAN_CATALOGUE;
-    return clean.count(from) == 1 ? QByteArray(clean).replace(from, to) : QByteArray();
+    const QString text = pieceOf(file, range);
+    if (!text.startsWith(u'<'))
+        return text;
+    const auto nameEnd = std::find_if(text.begin(), text.end(), [](QChar letter) { return " />"_L1.contains(letter); });
+    return text.first(nameEnd - text.begin()) + text.right(1);
 }
 
 QByteArray withSecondProduct(const QByteArray &product)
@@ -697,9 +667,7 @@ void tst_RVCatalogueCheck::documentation()
 {
     static const QRegularExpression row(u"^\\| `([a-z]+(?:-[a-z]+)+)` \\| (?:an? (warning|note): )?"_s,
                                         QRegularExpression::MultilineOption);
-    QFile page(u"" DOCS "/catalogue-format.md"_s);
-    QVERIFY(page.open(QIODevice::ReadOnly));
-    const QString text = QString::fromUtf8(page.readAll());
+    const QString text = QString::fromUtf8(readFile(QStringLiteral(DOCS "/catalogue-format.md")));
     QStringList documented;
     for (const QRegularExpressionMatch &match : row.globalMatch(text))
         documented += match.captured(1) + u' ' + (match.hasCaptured(2) ? match.captured(2) : u"error"_s);
@@ -949,9 +917,7 @@ void tst_RVCatalogueCheck::nullProduct()
 
 void tst_RVCatalogueCheck::sampleIsClean()
 {
-    QFile sample(u"" SAMPLES "/products.xml"_s);
-    QVERIFY(sample.open(QIODevice::ReadOnly));
-    const Checked checked = check(sample.readAll());
+    const Checked checked = check(readFile(QStringLiteral(SAMPLES "/products.xml")));
     QCOMPARE(checked.texts(), QStringList());
     QVERIFY(!checked.hasError);
     QCOMPARE(checked.products, qint64(49));

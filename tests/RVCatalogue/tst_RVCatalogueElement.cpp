@@ -1,4 +1,4 @@
-#include "CatalogueBuffer.h"
+#include "FindingTools.h"
 
 #include <RVCatalogueReader.h>
 
@@ -6,21 +6,6 @@
 #include <QTest>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-RVCatalogueProduct productOf(const QByteArray &content)
-{
-    CatalogueBuffer file(content);
-    return RVCatalogueReader(&file).next();
-}
-
-QString text(const RVFileRange &range)
-{
-    return u"%1:%2-%3:%4"_s.arg(range.begin.line).arg(range.begin.column).arg(range.end.line).arg(range.end.column);
-}
-
-}
 
 class tst_RVCatalogueElement : public QObject
 {
@@ -44,7 +29,7 @@ private Q_SLOTS:
 
 void tst_RVCatalogueElement::attributes()
 {
-    const RVCatalogueProduct product = productOf("<product a='1' b='' c='&lt;\xc3\xa4&#228;&quot;' d='x\ny'/>");
+    const RVCatalogueProduct product = firstProduct("<product a='1' b='' c='&lt;\xc3\xa4&#228;&quot;' d='x\ny'/>");
     const RVCatalogueElement element = product.element();
     QVERIFY(!element.isNull());
     QCOMPARE(element.name(), u"product"_s);
@@ -64,8 +49,8 @@ void tst_RVCatalogueElement::attributes()
 
 void tst_RVCatalogueElement::attributesByNumber()
 {
-    const RVCatalogueProduct product = productOf("<!DOCTYPE p [<!ATTLIST product d CDATA 'x'>]>\n"
-                                                 "<product \xc3\xa4='1' b = '&lt;'><x:c xmlns:x='u'/></product>");
+    const RVCatalogueProduct product = firstProduct("<!DOCTYPE p [<!ATTLIST product d CDATA 'x'>]>\n"
+                                                    "<product \xc3\xa4='1' b = '&lt;'><x:c xmlns:x='u'/></product>");
     const RVCatalogueElement element = product.element();
     QCOMPARE(element.utf8Name().toByteArray(), QByteArray("product"));
     QCOMPARE(element.firstChildElement().utf8Name().toByteArray(), QByteArray("x:c"));
@@ -73,7 +58,7 @@ void tst_RVCatalogueElement::attributesByNumber()
     QStringList places;
     for (int i = 0; i < element.attributeCount(); ++i) {
         names += element.attributeName(i).toByteArray();
-        places += text(element.attributeRange(i));
+        places += describe(element.attributeRange(i));
     }
     QCOMPARE(names, (QByteArrayList { "\xc3\xa4", "b", "d" }));
     QCOMPARE(places, (QStringList { u"2:10-2:15"_s, u"2:16-2:26"_s, u"2:1-2:27"_s }));
@@ -84,7 +69,7 @@ void tst_RVCatalogueElement::attributesByNumber()
 
 void tst_RVCatalogueElement::children()
 {
-    const RVCatalogueProduct product = productOf(
+    const RVCatalogueProduct product = firstProduct(
             "<p><product><c n='1'/><d><c n='2'/></d>text<!-- <c/> --><c n='3'>text</c></product><product/></p>");
     const RVCatalogueElement element = product.element();
     QVERIFY(element.nextSiblingElement().isNull());
@@ -115,13 +100,13 @@ void tst_RVCatalogueElement::nullElement()
     QVERIFY(none.range() == RVFileRange());
     QVERIFY(none.position() == RVFilePosition());
     QVERIFY(none.attributeRange("a"_L1) == RVFileRange());
-    QVERIFY(productOf("<p/>").element().isNull());
+    QVERIFY(firstProduct("<p/>").element().isNull());
 }
 
 void tst_RVCatalogueElement::longNames()
 {
     const QByteArray name(10000, 'n');
-    const RVCatalogueProduct product = productOf("<product " + name + "='1'><" + name + "/></product>");
+    const RVCatalogueProduct product = firstProduct("<product " + name + "='1'><" + name + "/></product>");
     QCOMPARE(product.element().attributeNames(), QStringList { QString::fromLatin1(name) });
     QCOMPARE(product.element().firstChildElement().name(), QString::fromLatin1(name));
 }
@@ -159,9 +144,9 @@ void tst_RVCatalogueElement::placesOfAttributes()
         QByteArray(QStringEncoder(QStringEncoder::Utf32LE, QStringEncoder::Flag::WriteBom)(tag)),
     };
     for (const QByteArray &file : files) {
-        const RVCatalogueProduct product = productOf(file);
-        QTEST(text(product.element().attributeRange("a"_L1)), "a");
-        QTEST(text(product.element().attributeRange("b"_L1)), "b");
+        const RVCatalogueProduct product = firstProduct(file);
+        QTEST(describe(product.element().attributeRange("a"_L1)), "a");
+        QTEST(describe(product.element().attributeRange("b"_L1)), "b");
     }
 }
 
@@ -196,25 +181,25 @@ void tst_RVCatalogueElement::piecesOfValues()
     QFETCH(int, from);
     QFETCH(int, length);
     for (const QByteArray &file : { tag.toUtf8(), QByteArray(QStringEncoder(QStringEncoder::Utf16LE)(tag)) }) {
-        const RVCatalogueProduct product = productOf(file);
+        const RVCatalogueProduct product = firstProduct(file);
         QVERIFY(!product.isNull());
         const std::optional<RVFileRange> range = product.element().valueRange("a"_L1, from, length);
-        QTEST(range ? text(*range) : QString(), "place");
+        QTEST(range ? describe(*range) : QString(), "place");
     }
     QVERIFY(!RVCatalogueElement().valueRange("a"_L1, 0, 0));
 }
 
 void tst_RVCatalogueElement::placesOfElements()
 {
-    const RVCatalogueProduct product = productOf(
+    const RVCatalogueProduct product = firstProduct(
             "<p>\n <product>\r\n  <forms>x<form/><form\n a='1\n2'/><!-- \n --><form/>\n"
             "<![CDATA[y]]><form a='&lt;&#228;\xc3\xa4'/><form></form></forms></product></p>");
-    QCOMPARE(text(product.element().range()), u"2:2-2:11"_s);
+    QCOMPARE(describe(product.element().range()), u"2:2-2:11"_s);
     QVERIFY(product.element().position() == product.element().range().begin);
     const RVCatalogueElement forms = product.element().firstChildElement();
-    QStringList places = { text(forms.range()) };
+    QStringList places = { describe(forms.range()) };
     for (RVCatalogueElement form = forms.firstChildElement(); !form.isNull(); form = form.nextSiblingElement())
-        places += text(form.range());
+        places += describe(form.range());
     QCOMPARE(places,
              (QStringList { u"3:3-3:10"_s, u"3:11-3:18"_s, u"3:18-5:5"_s, u"6:5-6:12"_s, u"7:14-7:37"_s,
                             u"7:37-7:43"_s }));
@@ -222,18 +207,18 @@ void tst_RVCatalogueElement::placesOfElements()
 
 void tst_RVCatalogueElement::attributeOfTheDocumentType()
 {
-    const RVCatalogueProduct product = productOf(
+    const RVCatalogueProduct product = firstProduct(
             "<!DOCTYPE p [<!ATTLIST product a CDATA 'x' b CDATA 'y'>]>\n<p><product b='z' c='1'/></p>");
     const RVCatalogueElement element = product.element();
     QCOMPARE(element.attribute("a"_L1), u"x"_s);
     QCOMPARE(element.attribute("b"_L1), u"z"_s);
-    QCOMPARE(text(element.attributeRange("a"_L1)), u"2:4-2:26"_s);
-    QCOMPARE(text(element.attributeRange("b"_L1)), u"2:13-2:18"_s);
+    QCOMPARE(describe(element.attributeRange("a"_L1)), u"2:4-2:26"_s);
+    QCOMPARE(describe(element.attributeRange("b"_L1)), u"2:13-2:18"_s);
 }
 
 void tst_RVCatalogueElement::nameSpaces()
 {
-    const RVCatalogueProduct product = productOf(
+    const RVCatalogueProduct product = firstProduct(
             "<p><product xmlns:x='urn:x' a='&lt;' xmlns='urn:d' x:a='&gt;' b='2'><x:b/><b/></product></p>");
     const RVCatalogueElement element = product.element();
     QCOMPARE(element.attributeNames(), (QStringList { u"xmlns:x"_s, u"a"_s, u"xmlns"_s, u"x:a"_s, u"b"_s }));
@@ -250,7 +235,7 @@ void tst_RVCatalogueElement::livesAsLongAsACopy()
     RVCatalogueProduct copy;
     RVCatalogueElement element;
     {
-        const RVCatalogueProduct product = productOf("<product a='1'><b/></product>");
+        const RVCatalogueProduct product = firstProduct("<product a='1'><b/></product>");
         element = product.element().firstChildElement();
         copy = product;
     }

@@ -1,4 +1,4 @@
-#include "CatalogueBuffer.h"
+#include "FindingTools.h"
 
 #include <RVCatalogueFileSet.h>
 #include <RVCatalogueReader.h>
@@ -9,12 +9,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// "line:column-line:column"
-QString describe(const RVFileRange &range)
-{
-    return u"%1:%2-%3:%4"_s.arg(range.begin.line).arg(range.begin.column).arg(range.end.line).arg(range.end.column);
-}
 
 /// The place and the text of a finding, followed by "<-" and the other place with its text.
 QString describe(const RVCatalogueFinding &finding)
@@ -35,13 +29,6 @@ QStringList findingsOf(RVCatalogueReader *reader)
     for (const RVCatalogueFinding &finding : reader->findings())
         result += describe(finding);
     return result;
-}
-
-RVCatalogueCheck without(const QString &rule)
-{
-    RVCatalogueCheck check;
-    check.disable(RVCatalogueRule::find(rule));
-    return check;
 }
 
 /// The findings of each file; their names are "1.xml", "2.xml" and so on.
@@ -174,7 +161,7 @@ void tst_RVCatalogueFileSet::namesOfFiles()
     first.setCheck(RVCatalogueCheck(), &files);
     QCOMPARE(findingsOf(&first), QStringList());
     RVCatalogueReader second(name);
-    second.setCheck(without(u"article-id-duplicate"_s), &files);
+    second.setCheck(without({ u"article-id-duplicate"_s }), &files);
     QCOMPARE(
             findingsOf(&second),
             QStringList {
@@ -192,8 +179,8 @@ void tst_RVCatalogueFileSet::readersThatWait()
     CatalogueBuffer secondFile(content);
     RVCatalogueReader first(&firstFile);
     RVCatalogueReader second(&secondFile);
-    first.setCheck(without(u"article-id-duplicate"_s), &files, u"first"_s);
-    second.setCheck(without(u"article-id-duplicate"_s), &files, u"second"_s);
+    first.setCheck(without({ u"article-id-duplicate"_s }), &files, u"first"_s);
+    second.setCheck(without({ u"article-id-duplicate"_s }), &files, u"second"_s);
     QCOMPARE(findingsOf(&second), QStringList());
     QCOMPARE(findingsOf(&first),
              QStringList { u"1:13-1:21 the type \"A\" is already that of the product in line 1 of second; write "

@@ -24,12 +24,6 @@ const char SAMPLE[] = R"(<products><product/>
     not_accountable='true'/></forms>
 </product></products>)";
 
-QList<RVCatalogueProduct> productsOf(const QByteArray &content)
-{
-    CatalogueBuffer file(content);
-    return RVCatalogueReader(&file).readAll();
-}
-
 QByteArray randomProducts(quint32 seed, int count)
 {
     RandomCatalogue random(seed);

@@ -1,22 +1,16 @@
+#include "TestFolder.h"
+
 #include <RVCatalogueCheck.h>
 #include <RVCheckConfiguration.h>
 #include <RVProductType.h>
 
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-void writeFile(const QString &fileName, const QByteArray &text)
-{
-    QFile file(fileName);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(text), text.size());
-}
 
 /// "3:7", or an empty text without a position.
 QString placeOf(const RVCheckConfiguration &configuration)
@@ -60,15 +54,15 @@ private Q_SLOTS:
     void copies();
 
 private:
-    QString path(const QString &name) const { return myFolder->filePath(name); }
+    QString path(const QString &name) const { return myFolder->path(name); }
+    void write(const QString &name, const QByteArray &content) const { QVERIFY(myFolder->write(name, content)); }
 
-    std::unique_ptr<QTemporaryDir> myFolder;
+    std::unique_ptr<TestFolder> myFolder;
 };
 
 void tst_RVCheckConfiguration::init()
 {
-    myFolder = std::make_unique<QTemporaryDir>();
-    QVERIFY(myFolder->isValid());
+    myFolder = std::make_unique<TestFolder>();
 }
 
 void tst_RVCheckConfiguration::nullConfiguration()
@@ -142,7 +136,7 @@ void tst_RVCheckConfiguration::everything()
 {
     QFETCH(QString, name);
     QFETCH(QByteArray, text);
-    writeFile(path(name), text);
+    write(name, text);
     const RVCheckConfiguration configuration = RVCheckConfiguration::read(path(name));
     QCOMPARE(configuration.errorString(), QString());
     QVERIFY(!configuration.hasError());
@@ -194,7 +188,7 @@ void tst_RVCheckConfiguration::fine()
 {
     QFETCH(QString, name);
     QFETCH(QByteArray, text);
-    writeFile(path(name), text);
+    write(name, text);
     const RVCheckConfiguration configuration = RVCheckConfiguration::read(path(name));
     QCOMPARE(configuration.errorString(), QString());
     QVERIFY(!configuration.hasError());
@@ -326,14 +320,14 @@ void tst_RVCheckConfiguration::faults()
     QFETCH(QByteArray, toml);
     QFETCH(QByteArray, json);
     QFETCH(QString, place);
-    writeFile(path(u"rvcatalog.toml"_s), toml);
+    write(u"rvcatalog.toml"_s, toml);
     const RVCheckConfiguration ofToml = RVCheckConfiguration::read(path(u"rvcatalog.toml"_s));
     QTEST(ofToml.errorString(), "error");
     QCOMPARE(placeOf(ofToml), place);
     QVERIFY(ofToml.hasError());
     QVERIFY(!ofToml.isNull());
 
-    writeFile(path(u"rvcatalog.json"_s), json);
+    write(u"rvcatalog.json"_s, json);
     const RVCheckConfiguration ofJson = RVCheckConfiguration::read(path(u"rvcatalog.json"_s));
     QTEST(ofJson.errorString(), "error");
     QCOMPARE(placeOf(ofJson), QString()); // JSON gives no place
@@ -342,7 +336,7 @@ void tst_RVCheckConfiguration::faults()
 
 void tst_RVCheckConfiguration::brokenOneChangesNothing()
 {
-    writeFile(path(u"a.toml"_s), "price_classes = ['TAS1']\n[rules]\nkeyword-legacy = 'off'\nno-rule = 'off'\n");
+    write(u"a.toml"_s, "price_classes = ['TAS1']\n[rules]\nkeyword-legacy = 'off'\nno-rule = 'off'\n");
     const RVCheckConfiguration configuration = RVCheckConfiguration::read(path(u"a.toml"_s));
     QVERIFY(configuration.hasError());
     RVCatalogueCheck check;
@@ -376,7 +370,7 @@ void tst_RVCheckConfiguration::limits()
 {
     QFETCH(QString, name);
     QFETCH(QByteArray, text);
-    writeFile(path(name), text);
+    write(name, text);
     const RVCheckConfiguration configuration = RVCheckConfiguration::read(path(name));
     QTEST(configuration.errorString(), "error");
     QTEST(placeOf(configuration), "place");
@@ -414,7 +408,7 @@ void tst_RVCheckConfiguration::unreadable()
     QFETCH(QString, name);
     QFETCH(QByteArray, text);
     QFETCH(QString, error);
-    writeFile(path(name), text);
+    write(name, text);
     const RVCheckConfiguration configuration = RVCheckConfiguration::read(path(name));
     QVERIFY2(configuration.errorString().startsWith(error), qPrintable(configuration.errorString()));
     QVERIFY(!configuration.errorString().contains(u'\n'));
@@ -441,7 +435,7 @@ void tst_RVCheckConfiguration::columnInJson()
     QFETCH(QByteArray, before);
     QFETCH(QString, place);
     const auto faultBehind = [this](const QByteArray &begin) {
-        writeFile(path(u"a.json"_s), begin + "x");
+        write(u"a.json"_s, begin + "x");
         return RVCheckConfiguration::read(path(u"a.json"_s)).errorPosition().value_or(RVFilePosition());
     };
     const RVFilePosition position = faultBehind(before);
@@ -483,7 +477,7 @@ void tst_RVCheckConfiguration::find()
     else if (kind == "link"_L1)
         QVERIFY(QFile::link(path(u"nowhere"_s), path(file)));
     else
-        writeFile(path(file), "[rules]\nkeyword-legacy = 'off'\n");
+        write(file, "[rules]\nkeyword-legacy = 'off'\n");
 
     const QString catalogue = path(u"a/b/products.xml"_s);
     const QStringList expected = isFound ? QStringList(path(file)) : QStringList();
@@ -502,13 +496,13 @@ void tst_RVCheckConfiguration::find()
 void tst_RVCheckConfiguration::bothFiles()
 {
     QVERIFY(QDir(path(QString())).mkpath(u"a"_s));
-    writeFile(path(u"rvcatalog.toml"_s), "[rules]\nkeyword-legacy = 'off'\n");
-    writeFile(path(u"a/rvcatalog.json"_s), "{}");
+    write(u"rvcatalog.toml"_s, "[rules]\nkeyword-legacy = 'off'\n");
+    write(u"a/rvcatalog.json"_s, "{}");
     const QString catalogue = path(u"a/products.xml"_s);
     QCOMPARE(RVCheckConfiguration::find(catalogue).fileName(), path(u"a/rvcatalog.json"_s));
     QVERIFY(!RVCheckConfiguration::find(catalogue).hasError());
 
-    writeFile(path(u"a/rvcatalog.toml"_s), QByteArray());
+    write(u"a/rvcatalog.toml"_s, QByteArray());
     const RVCheckConfiguration configuration = RVCheckConfiguration::find(catalogue);
     QCOMPARE(RVCheckConfiguration::files(catalogue),
              (QStringList { path(u"a/rvcatalog.toml"_s), path(u"a/rvcatalog.json"_s) }));
@@ -530,7 +524,7 @@ void tst_RVCheckConfiguration::neitherFileNorCatalogue()
 void tst_RVCheckConfiguration::currentFolder()
 {
     QVERIFY(QDir(path(QString())).mkpath(u"a"_s));
-    writeFile(path(u"rvcatalog.toml"_s), QByteArray());
+    write(u"rvcatalog.toml"_s, QByteArray());
     const QString before = QDir::currentPath();
     QVERIFY(QDir::setCurrent(path(u"a"_s)));
     const QStringList found = RVCheckConfiguration::files(u"-"_s) + RVCheckConfiguration::files(u"../a/b.xml"_s);
@@ -541,7 +535,7 @@ void tst_RVCheckConfiguration::currentFolder()
 
 void tst_RVCheckConfiguration::copies()
 {
-    writeFile(path(u"a.toml"_s), "[rules]\nno-rule = 'off'\n");
+    write(u"a.toml"_s, "[rules]\nno-rule = 'off'\n");
     RVCheckConfiguration configuration = RVCheckConfiguration::read(path(u"a.toml"_s));
     const RVCheckConfiguration copy = configuration;
     RVCheckConfiguration assigned;

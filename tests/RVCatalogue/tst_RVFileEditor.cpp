@@ -1,6 +1,6 @@
 #include "CatalogueBuffer.h"
 #include "EncodedText.h"
-#include "WrittenFile.h"
+#include "TestFolder.h"
 
 #include <RVFileEditor.h>
 
@@ -8,7 +8,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <sys/stat.h>
@@ -173,30 +172,17 @@ private Q_SLOTS:
     void onlyOnce();
 
 private:
-    QString write(const QString &name, const QByteArray &content) const;
-    static QByteArray read(const QString &path);
+    QString write(const QString &name, const QByteArray &content) const
+    {
+        return myFolder->write(name, content) ? myFolder->path(name) : QString();
+    }
 
-    std::unique_ptr<QTemporaryDir> myFolder;
+    std::unique_ptr<TestFolder> myFolder;
 };
-
-QString tst_RVFileEditor::write(const QString &name, const QByteArray &content) const
-{
-    const QString path = myFolder->filePath(name);
-    if (!writeFile(path, content))
-        qFatal("cannot write");
-    return path;
-}
-
-QByteArray tst_RVFileEditor::read(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(cannot be read)");
-}
 
 void tst_RVFileEditor::init()
 {
-    myFolder = std::make_unique<QTemporaryDir>();
-    QVERIFY(myFolder->isValid());
+    myFolder = std::make_unique<TestFolder>();
 }
 
 void tst_RVFileEditor::bytes_data()
@@ -524,7 +510,7 @@ void tst_RVFileEditor::save()
     RVFileEditor editor(path);
     QVERIFY(editor.add({ edit(7, 8, u"2"_s) }));
     QVERIFY2(editor.save(), qPrintable(editor.errorString()));
-    QCOMPARE(read(path), QByteArray("\xef\xbb\xbf<a b='2'/>\r\n"));
+    QCOMPARE(readFile(path), QByteArray("\xef\xbb\xbf<a b='2'/>\r\n"));
     QCOMPARE(namesIn(myFolder->path()), QStringList { u"a.xml"_s });
 }
 
@@ -536,7 +522,7 @@ void tst_RVFileEditor::saveWithoutFixes()
     QVERIFY(editor.save());
     QFileInfo after(path);
     QCOMPARE(after.metadataChangeTime(), before.metadataChangeTime());
-    RVFileEditor missing(myFolder->filePath(u"missing.xml"_s));
+    RVFileEditor missing(myFolder->path(u"missing.xml"_s));
     QVERIFY(missing.save());
     QCOMPARE(namesIn(myFolder->path()), QStringList { u"a.xml"_s });
 }
@@ -619,27 +605,27 @@ void tst_RVFileEditor::saveThroughLink()
 {
     const QString path = write(u"a.xml"_s, "<a b='1'/>");
     QVERIFY(QDir(myFolder->path()).mkdir(u"d"_s));
-    const QString link = myFolder->filePath(u"d/link.xml"_s);
+    const QString link = myFolder->path(u"d/link.xml"_s);
     QVERIFY(QFile::link(u"../a.xml"_s, link));
     RVFileEditor editor(link);
     QVERIFY(editor.add({ edit(7, 8, u"2"_s) }));
     QVERIFY2(editor.save(), qPrintable(editor.errorString()));
     QVERIFY(QFileInfo(link).isSymLink());
     QVERIFY(!QFileInfo(path).isSymLink());
-    QCOMPARE(read(path), QByteArray("<a b='2'/>"));
-    QCOMPARE(namesIn(myFolder->filePath(u"d"_s)), QStringList { u"link.xml"_s });
+    QCOMPARE(readFile(path), QByteArray("<a b='2'/>"));
+    QCOMPARE(namesIn(myFolder->path(u"d"_s)), QStringList { u"link.xml"_s });
 }
 
 void tst_RVFileEditor::saveOneOfHardLinks()
 {
     const QString path = write(u"a.xml"_s, "<a b='1'/>");
-    const QString other = myFolder->filePath(u"b.xml"_s);
+    const QString other = myFolder->path(u"b.xml"_s);
     QCOMPARE(::link(QFile::encodeName(path).constData(), QFile::encodeName(other).constData()), 0);
     RVFileEditor editor(path);
     QVERIFY(editor.add({ edit(7, 8, u"2"_s) }));
     QVERIFY2(editor.save(), qPrintable(editor.errorString()));
-    QCOMPARE(read(path), QByteArray("<a b='2'/>"));
-    QCOMPARE(read(other), QByteArray("<a b='1'/>"));
+    QCOMPARE(readFile(path), QByteArray("<a b='2'/>"));
+    QCOMPARE(readFile(other), QByteArray("<a b='1'/>"));
 }
 
 void tst_RVFileEditor::saveLongName()
@@ -648,7 +634,7 @@ void tst_RVFileEditor::saveLongName()
     RVFileEditor editor(path);
     QVERIFY(editor.add({ edit(7, 8, u"2"_s) }));
     QVERIFY2(editor.save(), qPrintable(editor.errorString()));
-    QCOMPARE(read(path), QByteArray("<a b='2'/>"));
+    QCOMPARE(readFile(path), QByteArray("<a b='2'/>"));
 }
 
 void tst_RVFileEditor::changedMeanwhile_data()
@@ -671,12 +657,12 @@ void tst_RVFileEditor::changedMeanwhile()
     QTest::qWait(20); // file systems count in steps of some milliseconds
     write(isReplaced ? u"b.xml"_s : u"a.xml"_s, content);
     if (isReplaced) {
-        const QByteArray other = QFile::encodeName(myFolder->filePath(u"b.xml"_s));
+        const QByteArray other = QFile::encodeName(myFolder->path(u"b.xml"_s));
         QCOMPARE(::rename(other.constData(), QFile::encodeName(path).constData()), 0);
     }
     QVERIFY(!editor.save());
     QCOMPARE(editor.errorString(), u"the file was changed meanwhile; check it again"_s);
-    QCOMPARE(read(path), content);
+    QCOMPARE(readFile(path), content);
     QCOMPARE(namesIn(myFolder->path()), QStringList { u"a.xml"_s });
 }
 
@@ -709,7 +695,7 @@ void tst_RVFileEditor::brokenByEdit()
     QVERIFY(editor.add({ edit(7, 8, u"'"_s) }));
     QVERIFY(!editor.save());
     QVERIFY(editor.errorString().startsWith("the changes would break the file in line 1, column "_L1));
-    QCOMPARE(read(path), QByteArray("<a b='1'/>"));
+    QCOMPARE(readFile(path), QByteArray("<a b='1'/>"));
     QCOMPARE(namesIn(myFolder->path()), QStringList { u"a.xml"_s });
 }
 
@@ -721,7 +707,7 @@ void tst_RVFileEditor::onlyOnce()
     QVERIFY(editor.add({ edit(7, 8, u"23"_s) }));
     QVERIFY(editor.save());
     QVERIFY(!editor.save());
-    QCOMPARE(read(path), QByteArray("<a b='23'/>"));
+    QCOMPARE(readFile(path), QByteArray("<a b='23'/>"));
 }
 
 QTEST_GUILESS_MAIN(tst_RVFileEditor)

@@ -2,11 +2,11 @@
 #include "CleanCatalogue.h"
 #include "ListDifference.h"
 #include "SampleProduct.h"
+#include "WrittenFile.h"
 
 #include <RVNameVocabulary_p.h>
 
 #include <QDomDocument>
-#include <QFile>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -34,13 +34,6 @@ QByteArray spine(const QByteArray &attributes, const QByteArray &attributesOfCom
 QByteArray forms(const QByteArray &content, const QByteArray &attributesOfForms = QByteArray())
 {
     return product("", "<forms " + attributesOfForms + '>' + content + "</forms>");
-}
-
-/// The clean catalogue with one change.
-QByteArray changed(const QByteArray &from, const QByteArray &to)
-{
-    const QByteArray clean = CLEAN_CATALOGUE;
-    return clean.count(from) == 1 ? QByteArray(clean).replace(from, to) : QByteArray();
 }
 
 /// The names of attributes by element, sorted.
@@ -108,10 +101,8 @@ private Q_SLOTS:
 
 void tst_RVNameCheck::vocabularyOfTheSchema()
 {
-    QFile file(u"" SCHEMA ""_s);
-    QVERIFY(file.open(QIODevice::ReadOnly));
     QDomDocument schema;
-    QVERIFY(bool(schema.setContent(file.readAll())));
+    QVERIFY(bool(schema.setContent(readFile(QStringLiteral(SCHEMA)))));
     Attributes described;
     for (auto element = schema.documentElement().firstChildElement(u"xs:element"_s); !element.isNull();
          element = element.nextSiblingElement(u"xs:element"_s)) {
@@ -132,9 +123,8 @@ void tst_RVNameCheck::vocabularyOfTheDocumentation()
     static const QRegularExpression heading(u"^### `([a-z]+)`"_s);
     static const QRegularExpression row(u"^\\| (`[^|]*) \\|"_s);
     static const QRegularExpression name(u"`(\\w+)`"_s);
-    QFile page(u"" FORMAT ""_s);
-    QVERIFY(page.open(QIODevice::ReadOnly));
-    const QString text = QString::fromUtf8(page.readAll()).section(u"## Checking a catalogue"_s, 0, 0);
+    const QString text = QString::fromUtf8(readFile(QStringLiteral(FORMAT)))
+                                 .section(u"## Checking a catalogue"_s, 0, 0);
     Attributes described;
     QString element;
     for (const QString &line : text.split(u'\n')) {

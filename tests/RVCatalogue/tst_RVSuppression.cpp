@@ -1,4 +1,4 @@
-#include "CatalogueBuffer.h"
+#include "FindingTools.h"
 
 #include <RVCatalogueCheck.h>
 #include <RVCatalogueReader.h>
@@ -16,12 +16,7 @@ namespace {
 /// "line:column-line:column rule: text"
 QString describe(const RVCatalogueFinding &finding)
 {
-    const RVFileRange range = finding.range();
-    return u"%1:%2-%3:%4 %5: %6"_s.arg(range.begin.line)
-            .arg(range.begin.column)
-            .arg(range.end.line)
-            .arg(range.end.column)
-            .arg(finding.rule().name(), finding.text());
+    return describe(finding.range()) + u' ' + finding.rule().name() + ": "_L1 + finding.text();
 }
 
 QStringList describe(const QList<RVCatalogueFinding> &findings)
@@ -77,13 +72,6 @@ QList<RVCatalogueFinding> mappedFindingsIn(const QByteArray &content)
                 return true;
             });
     return result + reader.findings();
-}
-
-RVCatalogueCheck without(const QString &rule)
-{
-    RVCatalogueCheck check;
-    check.disable(RVCatalogueRule::find(rule));
-    return check;
 }
 
 QByteArray ignoring(const QByteArray &rules)
@@ -439,15 +427,16 @@ void tst_RVSuppression::disabledRules()
 {
     const QByteArray one = "<p>" + ignoring("keyword-legacy, type-missing")
             + "\n<product type='A' article_id='1'/></p>";
-    QCOMPARE(describe(findingsIn(one, without(u"type-missing"_s))),
+    QCOMPARE(describe(findingsIn(one, without({ u"type-missing"_s }))),
              QStringList { u"1:4-1:59 "_s + unused(u"keyword-legacy"_s) });
     const QByteArray group = "<p>" + ignoring("keyword-legacy") + "\n<g><product type='A' article_id='1'/></g></p>";
     QCOMPARE(brief(findingsIn(group)), QStringList { u"1 suppression-unused"_s });
-    QCOMPARE(brief(findingsIn(group, without(u"keyword-legacy"_s))), QStringList());
-    QCOMPARE(brief(findingsIn(group, without(u"suppression-unused"_s))), QStringList());
-    QCOMPARE(brief(findingsIn("<p>" + ignoring("foo") + "<g/></p>", without(u"products-missing"_s))),
+    QCOMPARE(brief(findingsIn(group, without({ u"keyword-legacy"_s }))), QStringList());
+    QCOMPARE(brief(findingsIn(group, without({ u"suppression-unused"_s }))), QStringList());
+    QCOMPARE(brief(findingsIn("<p>" + ignoring("foo") + "<g/></p>", without({ u"products-missing"_s }))),
              QStringList { u"1 suppression-unknown"_s });
-    QCOMPARE(brief(findingsIn(ignoring("products-missing") + "<p/>", without(u"products-missing"_s))), QStringList());
+    QCOMPARE(brief(findingsIn(ignoring("products-missing") + "<p/>", without({ u"products-missing"_s }))),
+             QStringList());
 }
 
 void tst_RVSuppression::severity()

@@ -1,12 +1,11 @@
 #include "ManyProducts.h"
-#include "WrittenFile.h"
+#include "TestFolder.h"
 
 #include <CatalogueLoader.h>
 
 #include <QByteArray>
 #include <QFile>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <sys/inotify.h>
@@ -31,10 +30,7 @@ class tst_CatalogueLoader : public QObject
     Q_OBJECT
 
 private:
-    QString write(const QByteArray &content);
-
-    std::unique_ptr<QTemporaryDir> myFolder;
-    int myFiles = 0;
+    std::unique_ptr<TestFolder> myFolder;
 
 private Q_SLOTS:
     void init();
@@ -54,16 +50,9 @@ private Q_SLOTS:
     void endsWhileLoading();
 };
 
-QString tst_CatalogueLoader::write(const QByteArray &content)
-{
-    const QString fileName = myFolder->filePath(QString::number(++myFiles) + u".xml"_s);
-    return writeFile(fileName, content) ? fileName : QString();
-}
-
 void tst_CatalogueLoader::init()
 {
-    myFolder = std::make_unique<QTemporaryDir>();
-    QVERIFY(myFolder->isValid());
+    myFolder = std::make_unique<TestFolder>();
 }
 
 void tst_CatalogueLoader::cleanup()
@@ -74,7 +63,7 @@ void tst_CatalogueLoader::cleanup()
 // This thread reads all that the other has made: every product and every finding.
 void tst_CatalogueLoader::loads()
 {
-    const QString fileName = write(manyProducts(300).replace("hardcover", "hardcovers"));
+    const QString fileName = myFolder->add(manyProducts(300).replace("hardcover", "hardcovers"));
     CatalogueLoader loader;
     CataloguePointer loaded;
     connect(&loader, &CatalogueLoader::loaded, this, [&](const CataloguePointer &catalogue) { loaded = catalogue; });
@@ -98,7 +87,7 @@ void tst_CatalogueLoader::loads()
 // So what the products say and what the findings say is the same, though the file may change.
 void tst_CatalogueLoader::opensTheFileOnce()
 {
-    const QString fileName = write(manyProducts(300).replace("hardcover", "hardcovers"));
+    const QString fileName = myFolder->add(manyProducts(300).replace("hardcover", "hardcovers"));
     const int watch = inotify_init1(IN_NONBLOCK);
     QVERIFY(watch >= 0);
     QVERIFY(inotify_add_watch(watch, QFile::encodeName(fileName).constData(), IN_OPEN | IN_ACCESS | IN_CLOSE) >= 0);
@@ -124,7 +113,7 @@ void tst_CatalogueLoader::reportsItsProgress()
     CatalogueLoader loader;
     QSignalSpy progressed(&loader, &CatalogueLoader::progressed);
     QSignalSpy loaded(&loader, &CatalogueLoader::loaded);
-    loader.start(write(manyProducts(MANY)));
+    loader.start(myFolder->add(manyProducts(MANY)));
     QVERIFY(loaded.wait(TIMEOUT));
     QVERIFY(progressed.size() > 2);
     int before = -1;
@@ -137,7 +126,7 @@ void tst_CatalogueLoader::reportsItsProgress()
 
 void tst_CatalogueLoader::failsWhereTheFileIsBroken()
 {
-    const QString fileName = write(manyProducts(20).chopped(30));
+    const QString fileName = myFolder->add(manyProducts(20).chopped(30));
     CatalogueLoader loader;
     LoadError error;
     connect(&loader, &CatalogueLoader::failed, this, [&](const LoadError &failure) { error = failure; });
@@ -154,7 +143,7 @@ void tst_CatalogueLoader::failsWithoutAFile()
     CatalogueLoader loader;
     LoadError error;
     connect(&loader, &CatalogueLoader::failed, this, [&](const LoadError &failure) { error = failure; });
-    loader.start(myFolder->filePath(u"missing.xml"_s));
+    loader.start(myFolder->path(u"missing.xml"_s));
     QTRY_VERIFY_WITH_TIMEOUT(!loader.isLoading(), TIMEOUT);
     QVERIFY(!error.position);
     QCOMPARE(error.text, u"cannot open the file: No such file or directory"_s);
@@ -163,7 +152,7 @@ void tst_CatalogueLoader::failsWithoutAFile()
 // No program writes into it, so opening it would never end.
 void tst_CatalogueLoader::failsWithAPipe()
 {
-    const QString pipe = myFolder->filePath(u"pipe"_s);
+    const QString pipe = myFolder->path(u"pipe"_s);
     QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     CatalogueLoader loader;
     QStringList errors;
@@ -182,7 +171,7 @@ void tst_CatalogueLoader::cancels()
     QSignalSpy progressed(&loader, &CatalogueLoader::progressed);
     QSignalSpy loaded(&loader, &CatalogueLoader::loaded);
     QSignalSpy cancelled(&loader, &CatalogueLoader::cancelled);
-    loader.start(write(manyProducts(MANY)));
+    loader.start(myFolder->add(manyProducts(MANY)));
     QVERIFY(progressed.wait(TIMEOUT));
     loader.cancel();
     QVERIFY(cancelled.wait(TIMEOUT));
@@ -197,7 +186,7 @@ void tst_CatalogueLoader::cancelsWhereNoProductIs()
     QSignalSpy progressed(&loader, &CatalogueLoader::progressed);
     QSignalSpy failed(&loader, &CatalogueLoader::failed);
     QSignalSpy cancelled(&loader, &CatalogueLoader::cancelled);
-    loader.start(write(content));
+    loader.start(myFolder->add(content));
     QVERIFY(progressed.wait(TIMEOUT));
     loader.cancel();
     QVERIFY(cancelled.wait(TIMEOUT));
@@ -216,10 +205,10 @@ void tst_CatalogueLoader::cancelsNothing()
 
 void tst_CatalogueLoader::givesUpForAnother()
 {
-    const QString small = write(manyProducts(3));
+    const QString small = myFolder->add(manyProducts(3));
     CatalogueLoader loader;
     QSignalSpy loaded(&loader, &CatalogueLoader::loaded);
-    loader.start(write(manyProducts(MANY)));
+    loader.start(myFolder->add(manyProducts(MANY)));
     loader.start(small);
     QVERIFY(loaded.wait(TIMEOUT));
     QCOMPARE(loaded.size(), 1);
@@ -232,10 +221,10 @@ void tst_CatalogueLoader::giveUpsAreSilent()
     QSignalSpy cancelled(&loader, &CatalogueLoader::cancelled);
     QSignalSpy failed(&loader, &CatalogueLoader::failed);
     QSignalSpy loaded(&loader, &CatalogueLoader::loaded);
-    const QString big = write(manyProducts(MANY));
+    const QString big = myFolder->add(manyProducts(MANY));
     for (int i = 0; i < 10; ++i)
         loader.start(big);
-    loader.start(write(manyProducts(1)));
+    loader.start(myFolder->add(manyProducts(1)));
     QVERIFY(loaded.wait(TIMEOUT));
     QTest::qWait(100); // for the others to end
     QCOMPARE(loaded.size(), 1);
@@ -246,7 +235,7 @@ void tst_CatalogueLoader::giveUpsAreSilent()
 // The threads hold nothing of the loader when it is gone, and their files can be removed.
 void tst_CatalogueLoader::endsWhileLoading()
 {
-    const QString fileName = write(manyProducts(MANY));
+    const QString fileName = myFolder->add(manyProducts(MANY));
     for (int milliseconds = 0; milliseconds < 20; milliseconds += 4) {
         CatalogueLoader loader;
         loader.start(fileName);

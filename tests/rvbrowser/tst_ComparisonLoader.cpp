@@ -1,12 +1,11 @@
 #include "ComparedCatalogues.h"
 #include "ManyProducts.h"
-#include "WrittenFile.h"
+#include "TestFolder.h"
 
 #include <ComparisonLoader.h>
 
 #include <QFile>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <sys/stat.h>
@@ -29,7 +28,6 @@ class tst_ComparisonLoader : public QObject
     Q_OBJECT
 
 private:
-    QString write(const QByteArray &content);
     static ComparedFiles files(const QString &before, const QString &after)
     {
         return { { u"before"_s, before }, { u"after"_s, after } };
@@ -37,8 +35,7 @@ private:
     /// Compares the files, which fails.
     LoadError errorOf(const QString &before, const QString &after);
 
-    std::unique_ptr<QTemporaryDir> myFolder;
-    int myFiles = 0;
+    std::unique_ptr<TestFolder> myFolder;
 
 private Q_SLOTS:
     void init();
@@ -59,12 +56,6 @@ private Q_SLOTS:
     void endsWhileComparing();
 };
 
-QString tst_ComparisonLoader::write(const QByteArray &content)
-{
-    const QString fileName = myFolder->filePath(QString::number(++myFiles) + u".xml"_s);
-    return writeFile(fileName, content) ? fileName : QString();
-}
-
 LoadError tst_ComparisonLoader::errorOf(const QString &before, const QString &after)
 {
     ComparisonLoader loader;
@@ -78,8 +69,7 @@ LoadError tst_ComparisonLoader::errorOf(const QString &before, const QString &af
 
 void tst_ComparisonLoader::init()
 {
-    myFolder = std::make_unique<QTemporaryDir>();
-    QVERIFY(myFolder->isValid());
+    myFolder = std::make_unique<TestFolder>();
 }
 
 void tst_ComparisonLoader::cleanup()
@@ -90,8 +80,8 @@ void tst_ComparisonLoader::cleanup()
 // This thread reads all that the other has made: every change, and the products that only one of the files has.
 void tst_ComparisonLoader::compares()
 {
-    const QString before = write(OLD_CATALOGUE);
-    const QString after = write(NEW_CATALOGUE);
+    const QString before = myFolder->add(OLD_CATALOGUE);
+    const QString after = myFolder->add(NEW_CATALOGUE);
     ComparisonLoader loader;
     ComparisonPointer comparison;
     connect(&loader, &ComparisonLoader::compared, this, [&](const ComparisonPointer &result) { comparison = result; });
@@ -119,7 +109,7 @@ void tst_ComparisonLoader::comparesACopy()
     auto copy = std::make_shared<FileCopy>(u"c.xml"_s);
     copy->append(OLD_CATALOGUE, sizeof(OLD_CATALOGUE) - 1);
     copy->finish();
-    ComparedFiles files { { u"before"_s, copy->fileName(), copy }, { u"after"_s, write(NEW_CATALOGUE) } };
+    ComparedFiles files { { u"before"_s, copy->fileName(), copy }, { u"after"_s, myFolder->add(NEW_CATALOGUE) } };
     copy.reset();
     ComparisonLoader loader;
     QSignalSpy compared(&loader, &ComparisonLoader::compared);
@@ -134,7 +124,7 @@ void tst_ComparisonLoader::emptyCatalogues()
 {
     ComparisonLoader loader;
     QSignalSpy compared(&loader, &ComparisonLoader::compared);
-    loader.start(files(write("<products/>"), write(manyProducts(3))));
+    loader.start(files(myFolder->add("<products/>"), myFolder->add(manyProducts(3))));
     QVERIFY(compared.wait(TIMEOUT));
     QCOMPARE(compared.at(0).at(0).value<ComparisonPointer>()->counts().added, 3);
 }
@@ -145,7 +135,7 @@ void tst_ComparisonLoader::reportsItsProgress()
     ComparisonLoader loader;
     QSignalSpy progressed(&loader, &ComparisonLoader::progressed);
     QSignalSpy compared(&loader, &ComparisonLoader::compared);
-    loader.start(files(write(before), write(QByteArray(before).replace("hardcover", "softcover"))));
+    loader.start(files(myFolder->add(before), myFolder->add(QByteArray(before).replace("hardcover", "softcover"))));
     QVERIFY(compared.wait(TIMEOUT));
     QVERIFY(progressed.size() > 20); // also while the products are compared, one by one
     int last = -1;
@@ -168,8 +158,8 @@ void tst_ComparisonLoader::failsWhereAFileIsBroken_data()
 void tst_ComparisonLoader::failsWhereAFileIsBroken()
 {
     QFETCH(bool, isOld);
-    const QString whole = write(manyProducts(20));
-    const QString broken = write(manyProducts(20).chopped(30));
+    const QString whole = myFolder->add(manyProducts(20));
+    const QString broken = myFolder->add(manyProducts(20).chopped(30));
     const LoadError error = isOld ? errorOf(broken, whole) : errorOf(whole, broken);
     QCOMPARE(error.fileName, isOld ? u"before"_s : u"after"_s);
     QVERIFY(error.position);
@@ -179,7 +169,7 @@ void tst_ComparisonLoader::failsWhereAFileIsBroken()
 
 void tst_ComparisonLoader::failsWithoutAFile()
 {
-    const LoadError error = errorOf(write(manyProducts(1)), myFolder->filePath(u"missing.xml"_s));
+    const LoadError error = errorOf(myFolder->add(manyProducts(1)), myFolder->path(u"missing.xml"_s));
     QCOMPARE(error.fileName, u"after"_s);
     QVERIFY(!error.position);
     QCOMPARE(error.text, u"cannot open the file: No such file or directory"_s);
@@ -188,10 +178,11 @@ void tst_ComparisonLoader::failsWithoutAFile()
 // No program writes into it, so opening it would never end.
 void tst_ComparisonLoader::failsWithAPipe()
 {
-    const QString pipe = myFolder->filePath(u"pipe"_s);
+    const QString pipe = myFolder->path(u"pipe"_s);
     QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     for (const QString &fileName : { pipe, myFolder->path() })
-        QCOMPARE(errorOf(fileName, write(OLD_CATALOGUE)).text, u"cannot open the file: it is no regular file"_s);
+        QCOMPARE(errorOf(fileName, myFolder->add(OLD_CATALOGUE)).text,
+                 u"cannot open the file: it is no regular file"_s);
 }
 
 void tst_ComparisonLoader::cancels_data()
@@ -217,7 +208,7 @@ void tst_ComparisonLoader::cancels()
     QSignalSpy compared(&loader, &ComparisonLoader::compared);
     QSignalSpy failed(&loader, &ComparisonLoader::failed);
     QSignalSpy cancelled(&loader, &ComparisonLoader::cancelled);
-    loader.start(files(write(before), write(QByteArray(before).replace("hardcover", "softcover"))));
+    loader.start(files(myFolder->add(before), myFolder->add(QByteArray(before).replace("hardcover", "softcover"))));
     QVERIFY(cancelled.wait(TIMEOUT));
     QVERIFY(!loader.isLoading());
     QCOMPARE(compared.size(), 0);
@@ -227,11 +218,11 @@ void tst_ComparisonLoader::cancels()
 
 void tst_ComparisonLoader::givesUpForAnother()
 {
-    const QString many = write(manyProducts(MANY));
+    const QString many = myFolder->add(manyProducts(MANY));
     ComparisonLoader loader;
     QSignalSpy compared(&loader, &ComparisonLoader::compared);
     loader.start(files(many, many));
-    loader.start(files(write(OLD_CATALOGUE), write(NEW_CATALOGUE)));
+    loader.start(files(myFolder->add(OLD_CATALOGUE), myFolder->add(NEW_CATALOGUE)));
     QVERIFY(compared.wait(TIMEOUT));
     QCOMPARE(compared.size(), 1);
     QCOMPARE(compared.at(0).at(0).value<ComparisonPointer>()->size(), 4);
@@ -239,14 +230,14 @@ void tst_ComparisonLoader::givesUpForAnother()
 
 void tst_ComparisonLoader::givesUpInSilence()
 {
-    const QString many = write(manyProducts(MANY));
+    const QString many = myFolder->add(manyProducts(MANY));
     ComparisonLoader loader;
     QSignalSpy compared(&loader, &ComparisonLoader::compared);
     QSignalSpy cancelled(&loader, &ComparisonLoader::cancelled);
     loader.start(files(many, many));
     loader.giveUp();
     QVERIFY(!loader.isLoading());
-    loader.start(files(write(OLD_CATALOGUE), write(NEW_CATALOGUE)));
+    loader.start(files(myFolder->add(OLD_CATALOGUE), myFolder->add(NEW_CATALOGUE)));
     QVERIFY(compared.wait(TIMEOUT));
     QCOMPARE(compared.size(), 1);
     QCOMPARE(cancelled.size(), 0);
@@ -255,7 +246,7 @@ void tst_ComparisonLoader::givesUpInSilence()
 // The threads hold nothing of the loader when it is gone, and their files can be removed.
 void tst_ComparisonLoader::endsWhileComparing()
 {
-    const QString many = write(manyProducts(MANY));
+    const QString many = myFolder->add(manyProducts(MANY));
     for (int milliseconds = 0; milliseconds < 20; milliseconds += 4) {
         ComparisonLoader loader;
         loader.start(files(many, many));

@@ -346,9 +346,7 @@ void tst_ComparisonPanel::saves()
     open(NEW_CATALOGUE);
     compareWith(OLD_CATALOGUE);
     myWindow->comparison()->saveAs(path(name));
-    QFile file(path(name));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray content = file.readAll();
+    const QByteArray content = readFile(path(name));
     QVERIFY2(content.startsWith(begin), content.constData());
     QVERIFY2(content.endsWith(end), content.constData());
     QCOMPARE(banner()->text(), QString());

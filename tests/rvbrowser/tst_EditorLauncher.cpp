@@ -1,3 +1,5 @@
+#include "WrittenFile.h"
+
 #include <EditorChoice.h>
 #include <EditorLauncher.h>
 #include <Settings.h>
@@ -34,7 +36,6 @@ private:
     QString path(const QString &name) const { return myFolder->filePath(name); }
     /// Writes a script into the only folder of $PATH.
     void script(const QString &name, const QByteArray &lines);
-    QByteArray content(const QString &name) const;
 
     std::unique_ptr<QTemporaryDir> myFolder;
     std::unique_ptr<Settings> mySettings;
@@ -64,12 +65,6 @@ void tst_EditorLauncher::script(const QString &name, const QByteArray &lines)
     file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
-QByteArray tst_EditorLauncher::content(const QString &name) const
-{
-    QFile file(path(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 void tst_EditorLauncher::runs_data()
 {
     QTest::addColumn<QString>("fileName");
@@ -88,7 +83,7 @@ void tst_EditorLauncher::runs()
     QSignalSpy failed(&launcher, &EditorLauncher::failed);
     launcher.open(EditorCommand(u"ed --goto %f:%l:%c"_s), path(fileName), { 12, 7 });
     QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(path(u"log"_s)), 20000);
-    QCOMPARE(content(u"log"_s), (u"--goto\n"_s + path(fileName) + u":12:7\n"_s).toUtf8());
+    QCOMPARE(readFile(path(u"log"_s)), (u"--goto\n"_s + path(fileName) + u":12:7\n"_s).toUtf8());
     QTRY_VERIFY_WITH_TIMEOUT(launcher.children().isEmpty(), 20000);
     QCOMPARE(failed.size(), 0);
 }
@@ -132,7 +127,7 @@ void tst_EditorLauncher::missesATerminal()
     script(u"xterm"_s, "printf '%s\\n' \"$@\" > \"${0%/*}/part\"; /bin/mv \"${0%/*}/part\" \"${0%/*}/log\"");
     launcher.open(EditorCommand::ofEnvironment(u"vim"_s), path(u"c.xml"_s), { 4, 2 });
     QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(path(u"log"_s)), 20000);
-    QCOMPARE(content(u"log"_s), (u"-e\nvim\n+call cursor(4, 2)\n"_s + path(u"c.xml"_s) + u'\n').toUtf8());
+    QCOMPARE(readFile(path(u"log"_s)), (u"-e\nvim\n+call cursor(4, 2)\n"_s + path(u"c.xml"_s) + u'\n').toUtf8());
     QCOMPARE(failed.size(), 1);
 }
 

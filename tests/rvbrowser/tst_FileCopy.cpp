@@ -1,3 +1,5 @@
+#include "WrittenFile.h"
+
 #include <FileCopy.h>
 #include <ObservedFile.h>
 
@@ -7,16 +9,6 @@
 #include <QTest>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-QByteArray contentOf(const QString &fileName)
-{
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
-}
-
-}
 
 class tst_FileCopy : public QObject
 {
@@ -38,7 +30,7 @@ void tst_FileCopy::keepsTheBytes()
     copy.append("", 0);
     copy.append("d\n", 2);
     copy.finish();
-    QCOMPARE(contentOf(copy.fileName()), QByteArray("ab\0cd\n", 6));
+    QCOMPARE(readFile(copy.fileName()), QByteArray("ab\0cd\n", 6));
     QCOMPARE(copy.source(), u"source.xml"_s);
     QCOMPARE(copy.errorString(), QString());
 }
@@ -61,7 +53,7 @@ void tst_FileCopy::copiesWhatIsRead()
     copy.finish();
     QVERIFY(source.open(QIODevice::WriteOnly) && source.write("another") == 7);
     source.close();
-    QCOMPARE(contentOf(copy.fileName()), content);
+    QCOMPARE(readFile(copy.fileName()), content);
 }
 
 // A catalogue may be secret, so other users cannot read its copy.

@@ -34,7 +34,7 @@ private Q_SLOTS:
 private:
     QString path() const { return myFolder->filePath(u"100% of \"it\".xml"_s); }
     void write(const QByteArray &content);
-    QByteArray content() const;
+    QByteArray content() const { return readFile(path()); }
     CataloguePointer load();
 
     std::unique_ptr<QTemporaryDir> myFolder;
@@ -49,12 +49,6 @@ void tst_FixPlan::init()
 void tst_FixPlan::write(const QByteArray &content)
 {
     QVERIFY(writeFile(path(), content));
-}
-
-QByteArray tst_FixPlan::content() const
-{
-    QFile file(path());
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 CataloguePointer tst_FixPlan::load()

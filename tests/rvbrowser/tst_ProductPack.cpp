@@ -1,21 +1,11 @@
+#include "RVCatalogue/CatalogueBuffer.h"
+
 #include <ProductPack.h>
 #include <RVCatalogueReader.h>
 
-#include <QBuffer>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-QList<RVCatalogueProduct> read(QByteArray catalogue)
-{
-    QBuffer buffer(&catalogue);
-    buffer.open(QIODevice::ReadOnly);
-    return RVCatalogueReader(&buffer).readAll();
-}
-
-}
 
 class tst_ProductPack : public QObject
 {
@@ -72,7 +62,7 @@ void tst_ProductPack::keepsProducts_data()
 void tst_ProductPack::keepsProducts()
 {
     QFETCH(QByteArray, content);
-    const ProductPack pack(read(content));
+    const ProductPack pack(productsOf(content));
     QCOMPARE(pack.size(), 1);
     const RVCatalogueProduct product = pack.product(0);
     QTEST(product.name(), "name");
@@ -82,7 +72,8 @@ void tst_ProductPack::keepsProducts()
 
 void tst_ProductPack::findsEach()
 {
-    const ProductPack pack(read("<p><product type='A'/><product type='B'><forms/></product><product type='C'/></p>"));
+    const ProductPack pack(
+            productsOf("<p><product type='A'/><product type='B'><forms/></product><product type='C'/></p>"));
     QCOMPARE(pack.size(), 3);
     QCOMPARE(pack.product(2).type().toString(), u"C"_s);
     QCOMPARE(pack.product(0).type().toString(), u"A"_s);
@@ -92,7 +83,7 @@ void tst_ProductPack::findsEach()
 
 void tst_ProductPack::forgetsTheFile()
 {
-    const ProductPack pack(read("<p name='g'>\n<product type='A'/>\n<product type='B'/>\n</p>"));
+    const ProductPack pack(productsOf("<p name='g'>\n<product type='A'/>\n<product type='B'/>\n</p>"));
     QCOMPARE(pack.product(1).number(), 0);
     QCOMPARE(pack.product(1).range().begin, (RVFilePosition { 1, 1 }));
     QCOMPARE(pack.product(1).families(), QStringList());
@@ -103,7 +94,7 @@ void tst_ProductPack::keepsALargeProduct()
 {
     const QByteArray content = "<p><product type='A'><forms>"
             + QByteArray("<form key='k' value='&#233;'/>").repeated(33000) + "</forms></product></p>";
-    const ProductPack pack(read(content));
+    const ProductPack pack(productsOf(content));
     QCOMPARE(pack.size(), 1);
     QCOMPARE(pack.product(0).options().size(), 33000);
 }
@@ -116,7 +107,7 @@ void tst_ProductPack::needsLittle()
         content += "<product type='T" + QByteArray::number(i) + "' name='" + QByteArray::number(i * 7919) + "'><forms>"
                 + QByteArray("<form key='alcolor' value='black' value_name='Schwarz'/>").repeated(30)
                 + "</forms></product>";
-    const ProductPack pack(read(content + "</p>"));
+    const ProductPack pack(productsOf(content + "</p>"));
     QCOMPARE(pack.size(), 30);
     QVERIFY2(pack.byteCount() < 30 * 60, qPrintable(QString::number(pack.byteCount())));
     QCOMPARE(pack.product(29).name(), u"229651"_s);

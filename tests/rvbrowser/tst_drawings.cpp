@@ -1,3 +1,5 @@
+#include "WrittenFile.h"
+
 #include <DrawingMenu.h>
 #include <DrawingPrint.h>
 #include <DrawingWidget.h>
@@ -9,7 +11,6 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QContextMenuEvent>
-#include <QFile>
 #include <QHelpEvent>
 #include <QImage>
 #include <QMessageBox>
@@ -292,9 +293,7 @@ void tst_drawings::saves()
     QFETCH(QByteArray, size);
     const QString fileName = myFolder.filePath(name + ".svg"_L1);
     drawing(name)->menu()->save(fileName);
-    QFile file(fileName);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray content = file.readAll();
+    const QByteArray content = readFile(fileName);
     QVERIFY2(content.contains(size), content.left(400));
     const bool hasScale = name != "spineCurve"_L1;
     QCOMPARE(content.contains("scale 1 : 1"), hasScale);
@@ -339,9 +338,7 @@ void tst_drawings::print()
     page.paint(&printer);
     QCOMPARE(printer.docName(), printed->title());
     QTEST(printed->reductionFor(printer.pageRect(QPrinter::Millimeter).size()), "reduction");
-    QFile file(fileName);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray content = file.readAll();
+    const QByteArray content = readFile(fileName);
     QCOMPARE(content.count("/Type /Page\n"), 1);
     QVERIFY(content.endsWith("%%EOF\n"));
 }

@@ -74,7 +74,7 @@ private Q_SLOTS:
 private:
     QString path(const QString &name) const { return myFolder->filePath(name); }
     void write(const QString &name, const QByteArray &content);
-    QByteArray content(const QString &name) const;
+    QByteArray content(const QString &name) const { return readFile(path(name)); }
     void load(const QByteArray &content = FAULTY_PRODUCTS);
     template<typename T>
     T *find(const QString &name) const
@@ -136,12 +136,6 @@ void tst_findings::activate()
 void tst_findings::write(const QString &name, const QByteArray &content)
 {
     QVERIFY(writeFile(path(name), content));
-}
-
-QByteArray tst_findings::content(const QString &name) const
-{
-    QFile file(path(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 void tst_findings::load(const QByteArray &content)

@@ -7,7 +7,6 @@
 #include <RVCatalogueFinding.h>
 
 #include <QDir>
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -80,7 +79,6 @@ private Q_SLOTS:
 
 private:
     void write(const QString &name, const QByteArray &content);
-    QByteArray read(const QString &name);
 
     std::unique_ptr<QTemporaryDir> myFolder;
 };
@@ -103,12 +101,6 @@ void tst_Baseline::write(const QString &name, const QByteArray &content)
     QVERIFY(writeFile(name, content));
 }
 
-QByteArray tst_Baseline::read(const QString &name)
-{
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 void tst_Baseline::fileAsWritten()
 {
     Baseline baseline(u"b/known.json"_s);
@@ -121,7 +113,7 @@ void tst_Baseline::fileAsWritten()
     baseline.add(u"c.xml"_s, RVCatalogueFinding(RVCatalogueRule::find(u"type-missing"), {}, u"\"no\" type"_s));
     QCOMPARE(baseline.size(), 4);
     QVERIFY(baseline.write(Console()));
-    QCOMPARE(QString::fromUtf8(read(u"b/known.json"_s)), uR"({
+    QCOMPARE(QString::fromUtf8(readFile(u"b/known.json"_s)), uR"({
   "version": 1,
   "findings": [
     {"file":"../c.xml","rule":"type-missing","text":"\"no\" type"},
@@ -149,7 +141,7 @@ void tst_Baseline::noFindings()
     const CommandRun run({ u"check"_s, u"--write-baseline"_s, u"b.json"_s, u"c.xml"_s });
     QCOMPARE(run.messages, u"rvcatalog: note: wrote 0 findings to b.json\n"_s);
     QCOMPARE(run.exitCode, 0);
-    QCOMPARE(read(u"b.json"_s), QByteArray("{\n  \"version\": 1,\n  \"findings\": [\n  ]\n}\n"));
+    QCOMPARE(readFile(u"b.json"_s), QByteArray("{\n  \"version\": 1,\n  \"findings\": [\n  ]\n}\n"));
     const CommandRun again({ u"check"_s, u"--baseline"_s, u"b.json"_s, u"c.xml"_s });
     QCOMPARE(again.messages, QString());
     QCOMPARE(again.exitCode, 0);
@@ -173,7 +165,7 @@ void tst_Baseline::knownFindings()
     QCOMPARE(written.messages, u"rvcatalog: note: wrote 4 findings to b.json\n"_s);
     QCOMPARE(written.exitCode, 0);
     QCOMPARE(findings(written), 0);
-    QCOMPARE(read(u"b.json"_s).count("\"count\":2"), 1);
+    QCOMPARE(readFile(u"b.json"_s).count("\"count\":2"), 1);
 
     QFETCH(QByteArray, from);
     QFETCH(QByteArray, to);
@@ -280,7 +272,7 @@ void tst_Baseline::severalCatalogues()
     write(u"a/d.xml"_s, CATALOGUE);
     const CommandRun written({ u"check"_s, u"--write-baseline"_s, u"b.json"_s, u"c.xml"_s, u"a/d.xml"_s });
     QCOMPARE(written.exitCode, 0);
-    const QJsonArray entries = QJsonDocument::fromJson(read(u"b.json"_s)).object().value("findings"_L1).toArray();
+    const QJsonArray entries = QJsonDocument::fromJson(readFile(u"b.json"_s)).object().value("findings"_L1).toArray();
     QCOMPARE(entries.first().toObject().value("file"_L1).toString(), u"a/d.xml"_s);
     QCOMPARE(entries.last().toObject().value("file"_L1).toString(), u"c.xml"_s);
 
@@ -299,8 +291,8 @@ void tst_Baseline::anotherFolder()
 {
     write(u"a/c.xml"_s, CATALOGUE);
     QCOMPARE(CommandRun({ u"check"_s, u"--write-baseline"_s, u"a/b.json"_s, u"a/c.xml"_s }).exitCode, 0);
-    QVERIFY(!read(u"a/b.json"_s).contains(myFolder->path().toUtf8()));
-    QVERIFY(read(u"a/b.json"_s).contains("\"file\":\"c.xml\""));
+    QVERIFY(!readFile(u"a/b.json"_s).contains(myFolder->path().toUtf8()));
+    QVERIFY(readFile(u"a/b.json"_s).contains("\"file\":\"c.xml\""));
     QVERIFY(QDir().rename(u"a"_s, u"elsewhere"_s));
     QVERIFY(QDir::setCurrent(u"elsewhere"_s));
     const CommandRun run({ u"check"_s, u"--baseline"_s, u"b.json"_s, QDir::current().filePath(u"c.xml"_s) });
@@ -330,7 +322,7 @@ void tst_Baseline::nameOfAnotherCatalogue()
     QVERIFY(QDir().mkpath(u"a"_s));
     baseline.add(u"c.xml"_s, finding);
     QVERIFY(baseline.write(Console()));
-    QVERIFY(read(u"a/b.json"_s).contains("\"text\":\"already in line of d.xml\""));
+    QVERIFY(readFile(u"a/b.json"_s).contains("\"text\":\"already in line of d.xml\""));
     RVCatalogueFinding other(finding.rule(), {}, u"already in line 9 of a/d.xml"_s, 4);
     other.setRelatedPlaces({ { {}, u"the first"_s, u"a/d.xml"_s } });
     Baseline known(u"a/b.json"_s);
@@ -341,7 +333,7 @@ void tst_Baseline::nameOfAnotherCatalogue()
 void tst_Baseline::standardInput()
 {
     QCOMPARE(CommandRun({ u"check"_s, u"--write-baseline"_s, u"b.json"_s, u"-"_s }, CATALOGUE).exitCode, 0);
-    QVERIFY(read(u"b.json"_s).contains("\"file\":\"-\""));
+    QVERIFY(readFile(u"b.json"_s).contains("\"file\":\"-\""));
     QCOMPARE(CommandRun({ u"check"_s, u"--baseline"_s, u"b.json"_s, u"-"_s }, CATALOGUE).exitCode, 0);
     QCOMPARE(CommandRun({ u"check"_s, u"--baseline"_s, u"b.json"_s, u"c.xml"_s }).exitCode, 1);
 }
@@ -399,7 +391,7 @@ void tst_Baseline::unreadableCatalogue()
     const CommandRun run({ u"check"_s, u"--write-baseline"_s, u"b.json"_s, u"c.xml"_s, u"none.xml"_s });
     QCOMPARE(run.exitCode, 2);
     QVERIFY(run.messages.endsWith(u"rvcatalog: no baseline was written, because not everything was checked\n"_s));
-    QCOMPARE(read(u"b.json"_s), QByteArray("{}"));
+    QCOMPARE(readFile(u"b.json"_s), QByteArray("{}"));
 
     QCOMPARE(CommandRun({ u"check"_s, u"--write-baseline"_s, u"b.json"_s, u"c.xml"_s }).exitCode, 0);
     write(u"c.xml"_s, "<products>");

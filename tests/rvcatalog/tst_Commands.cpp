@@ -125,10 +125,8 @@ void tst_Commands::standardInput()
     QFETCH(QString, file);
     QFETCH(QStringList, named);
     QFETCH(QStringList, unnamed);
-    QFile input(file);
-    QVERIFY(input.open(QIODevice::ReadOnly));
     const CommandRun ofFile = run(named);
-    const CommandRun ofInput = run(unnamed, input.readAll());
+    const CommandRun ofInput = run(unnamed, readFile(file));
     QCOMPARE(ofFile.exitCode, 0);
     QVERIFY(!ofFile.output.isEmpty());
     QCOMPARE(ofInput.messages, QString());

@@ -1,8 +1,8 @@
 #include "ProgramRun.h"
+#include "WrittenFile.h"
 
 #include <RVCatalogueRule.h>
 
-#include <QFile>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -100,9 +100,7 @@ void tst_explain::markdown()
 // The page is the output of "rvcatalog explain --format markdown".
 void tst_explain::page()
 {
-    QFile page(u"" DOCS "/rules.md"_s);
-    QVERIFY(page.open(QIODevice::ReadOnly));
-    const QString written = QString::fromUtf8(page.readAll());
+    const QString written = QString::fromUtf8(readFile(QStringLiteral(DOCS "/rules.md")));
     QCOMPARE(written, explain({ u"--format=markdown"_s }).output);
     QVERIFY(written.startsWith("# "_L1));
     for (const RVCatalogueRule rule : RVCatalogueRule::all())

@@ -276,9 +276,7 @@ void tst_rvcatalog_spine::pdf()
     run({ u"--plot"_s, u"spine.Pdf"_s, u"c.xml"_s, u"DUN9"_s });
     QCOMPARE(myRun.messages, QString());
     QCOMPARE(myRun.exitCode, 0);
-    QFile file(myFolder.filePath(u"spine.Pdf"_s));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray content = file.readAll();
+    const QByteArray content = readFile(myFolder.filePath(u"spine.Pdf"_s));
     QVERIFY(content.startsWith("%PDF-"));
     QVERIFY(content.contains("/MediaBox [0 0 45")); // 160 mm are 453.5 points
 }

@@ -2,6 +2,7 @@
 #include "ProgramRun.h"
 #include "RVCatalogue/SampleProduct.h"
 #include "TestFolder.h"
+#include "WrittenFile.h"
 
 #include <RVCatalogueAttribute.h>
 #include <RVCatalogueReader.h>
@@ -31,7 +32,6 @@ private Q_SLOTS:
 private:
     bool isValid(const QByteArray &file);
     static QStringList findings(QByteArray file);
-    static QByteArray changed(const QByteArray &from, const QByteArray &to);
 
     TestFolder myFolder;
 };
@@ -66,17 +66,9 @@ QStringList tst_schema::findings(QByteArray file)
     return reader.hasError() ? result + QStringList { reader.errorString() } : result;
 }
 
-QByteArray tst_schema::changed(const QByteArray &from, const QByteArray &to)
-{
-    const QByteArray clean = CLEAN_CATALOGUE;
-    return clean.count(from) == 1 ? QByteArray(clean).replace(from, to) : QByteArray();
-}
-
 void tst_schema::sample()
 {
-    QFile file(QStringLiteral(SAMPLES "/products.xml"));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QVERIFY(isValid(file.readAll()));
+    QVERIFY(isValid(readFile(QStringLiteral(SAMPLES "/products.xml"))));
 }
 
 void tst_schema::allowed_data()
