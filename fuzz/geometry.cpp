@@ -127,13 +127,20 @@ void checkSpine(const Numbers &numbers)
     const qreal reduced = spine.coverReduceSize();
     CHECK(std::isnan(numbers.real[2]) ? reduced == 0 : qAbs(reduced) <= qAbs(numbers.real[2]));
     CHECK(spine.spineMaxFontHeigth(few, QString()) > 0);
+}
 
-    const RVDistance distance(numbers.real[3], RVDistanceUnit(code));
+void checkDistance(qreal number, RVDistanceUnit unit)
+{
+    const RVDistance distance(number, unit);
     // Smaller doubles have fewer digits than equality compares.
     if (std::isfinite(distance.value()) && (distance.value() == 0 || qAbs(distance.value()) > 1e-290))
-        CHECK(RVDistance(distance.value(RVDistanceUnit(code)), RVDistanceUnit(code)) == distance);
+        CHECK(RVDistance(distance.value(unit), unit) == distance);
     CHECK(!(distance < distance));
+}
 
+void checkShapes(const Numbers &numbers)
+{
+    const int length = numbers.whole[7];
     for (const RVOrientationEnum value : { ORIENTATION_PORTRAIT, ORIENTATION_LANDSCAPE, ORIENTATION_SQUARE }) {
         const int margin = RVOrientation(value).foldMargin(length);
         CHECK(length < 0 ? margin >= length && margin <= 0 : margin >= 0 && margin <= length);
@@ -167,6 +174,22 @@ RVBarcodeDefinition readBarcode(const Numbers &numbers, int first, const QString
     return barcode;
 }
 
+/// The second list has the rectangles of the first one.
+void checkUpdate(RVBarcodeDefinitionList list, const RVBarcodeDefinitionList &update)
+{
+    const RVBarcodeDefinitionList before = list;
+    list.updateDefinitions(list);
+    CHECK(list == before);
+    list.updateDefinitions(update);
+    for (const RVBarcodeDefinition &element : list) {
+        CHECK(list.findDefinition(element.rect()) == element);
+        CHECK(list.barcodesOnPage(element.pageNr()).contains(element));
+        CHECK(update.contains(element));
+    }
+    CHECK_EQUAL(list.size(), before.size());
+    CHECK_EQUAL(list.occupiedRegion().isEmpty(), list.isEmpty());
+}
+
 void checkBarcodes(const Numbers &numbers, const QString &image, const QString &otherImage)
 {
     const auto [left, top, right, bottom, page, otherPage, shift, unit] = numbers.whole;
@@ -190,17 +213,7 @@ void checkBarcodes(const Numbers &numbers, const QString &image, const QString &
         update += RVBarcodeDefinition(element.rect(), otherPage, element.imageName());
     }
     CHECK(!(list < list));
-    const RVBarcodeDefinitionList before = list;
-    list.updateDefinitions(list);
-    CHECK(list == before);
-    list.updateDefinitions(update);
-    for (const RVBarcodeDefinition &element : list) {
-        CHECK(list.findDefinition(element.rect()) == element);
-        CHECK(list.barcodesOnPage(element.pageNr()).contains(element));
-        CHECK(update.contains(element));
-    }
-    CHECK_EQUAL(list.size(), before.size());
-    CHECK_EQUAL(list.occupiedRegion().isEmpty(), list.isEmpty());
+    checkUpdate(list, update);
 }
 
 }
@@ -215,6 +228,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
     checkMargins(numbers);
     checkPages(numbers, first, second);
     checkSpine(numbers);
+    checkDistance(numbers.real[3], RVDistanceUnit(numbers.whole[6]));
+    checkShapes(numbers);
     checkBarcodes(numbers, image, input.text());
     return 0;
 }

@@ -99,7 +99,7 @@ void checkShippingGroups(int first, int second, int third)
     CHECK(!list.filter(id, false).contains(id));
 }
 
-void checkOrders(const QString &first, const QString &second, const QString &session, int position)
+void checkOrders(const QString &first, const QString &second)
 {
     const RVOrderId id(first);
     const RVOrderId other(second);
@@ -121,7 +121,10 @@ void checkOrders(const QString &first, const QString &second, const QString &ses
             texts += text;
     }
     CHECK_EQUAL(list.toString(), texts.join(u','));
+}
 
+void checkProject(const RVOrderId &id, const RVOrderId &other, const QString &session, int position)
+{
     const RVOrderProjectInfo info(session, id, position);
     checkCopies(info, RVOrderProjectInfo::createDeletingProjetInfo());
     CHECK_EQUAL(info.isValid(), id.isValid() && position >= 0 && !session.isNull());
@@ -167,6 +170,22 @@ void checkPriceClasses(const RVPriceClassSet &set, const RVPriceClassSet &other)
     }
 }
 
+/// Each price class of the set is in the statistic with this quantity.
+void checkReplacing(const RVContentStatistic &statistic, const RVPriceClassSet &set, const RVPriceClassSet &other,
+                    int quantity)
+{
+    for (const RVPriceClass &from : set) {
+        CHECK_EQUAL(statistic.count(from), quantity);
+        for (const RVPriceClass &to : other) {
+            RVContentStatistic replaced = statistic;
+            replaced.replaceAddOn(from, to);
+            CHECK_EQUAL(replaced.count(from), 0);
+            if (from != to)
+                CHECK_EQUAL(replaced.count(to), quantity > 0 ? quantity : statistic.count(to));
+        }
+    }
+}
+
 void checkStatistics(const RVPriceClassSet &set, const RVPriceClassSet &other, int quantity, int areas)
 {
     RVContentStatistic statistic(areas, quantity, {});
@@ -180,24 +199,14 @@ void checkStatistics(const RVPriceClassSet &set, const RVPriceClassSet &other, i
     model.setDesignStyleAddOns(other);
     checkCopies(model, RVModelAddOnStatistic(RVContentStatistic(1, 1, {}), RVPriceClass(), RVPriceClass()));
     CHECK_EQUAL(model.additionalContent(), statistic.boughtAdditionalContent());
-
-    const RVContentStatistic before = statistic;
-    statistic.adaptFromOrToVario(true, true);
-    CHECK(statistic == before);
-    for (const RVPriceClass &from : set) {
-        CHECK_EQUAL(statistic.count(from), quantity);
-        for (const RVPriceClass &to : other) {
-            RVContentStatistic replaced = statistic;
-            replaced.replaceAddOn(from, to);
-            CHECK_EQUAL(replaced.count(from), 0);
-            if (from != to)
-                CHECK_EQUAL(replaced.count(to), quantity > 0 ? quantity : statistic.count(to));
-        }
-    }
     for (const RVPriceClass &priceClass : set) {
         model.removeAddOn(priceClass);
         CHECK_EQUAL(model.count(priceClass), 0);
     }
+    const RVContentStatistic before = statistic;
+    statistic.adaptFromOrToVario(true, true);
+    CHECK(statistic == before);
+    checkReplacing(statistic, set, other, quantity);
     statistic.adaptFromOrToVario(false, true);
     CHECK_EQUAL(statistic.boughtAdditionalContent().values(), QList<int>(set.size(), 10));
 }
@@ -215,7 +224,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
 
     const QString orderId = input.text();
     const QString otherOrderId = input.text();
-    checkOrders(orderId, otherOrderId, input.text(), first);
+    checkOrders(orderId, otherOrderId);
+    checkProject(RVOrderId(orderId), RVOrderId(otherOrderId), input.text(), first);
 
     const RVPriceClassSet set = readSet(input.text());
     const RVPriceClassSet other = readSet(input.text());

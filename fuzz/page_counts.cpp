@@ -39,7 +39,16 @@ void checkRange(const RVIntRange &range, const RVIntRange &other, int value)
     }
     if (!range.isValid())
         CHECK(!(range < other));
+    CHECK(range.shifted(0) == range && range.stretched(1) == range);
+    CHECK(range.stretched(0) == RVIntRange());
+    CHECK_EQUAL(range.shifted(value).min, saturated(qint64(range.min) + value));
+    CHECK_EQUAL(range.shifted(value).max, saturated(qint64(range.max) + value));
+    CHECK_EQUAL(range.stretched(value).min, saturated(qint64(range.min) * value));
+    CHECK_EQUAL(range.stretched(value).max, saturated(qint64(range.max) * value));
+}
 
+void checkExpanding(const RVIntRange &range, int value)
+{
     RVIntRange expanded = range;
     expanded.expandTo(value);
     if (range == RVIntRange())
@@ -51,13 +60,6 @@ void checkRange(const RVIntRange &range, const RVIntRange &other, int value)
         expanded.expandTo(value);
         CHECK_EQUAL(shownRange(expanded), shownRange(before));
     }
-
-    CHECK(range.shifted(0) == range && range.stretched(1) == range);
-    CHECK(range.stretched(0) == RVIntRange());
-    CHECK_EQUAL(range.shifted(value).min, saturated(qint64(range.min) + value));
-    CHECK_EQUAL(range.shifted(value).max, saturated(qint64(range.max) + value));
-    CHECK_EQUAL(range.stretched(value).min, saturated(qint64(range.min) * value));
-    CHECK_EQUAL(range.stretched(value).max, saturated(qint64(range.max) * value));
 }
 
 /// Properties that hold for every page count and every organisation, sensible or not.
@@ -174,7 +176,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
     const RVIntRange other(otherLowest, input.integer());
 
     checkRange(range, other, pages);
+    checkExpanding(range, pages);
     checkRange(other, range, n);
+    checkExpanding(other, n);
     checkOrganization(counts, n);
     checkRows(counts, n);
     checkRows(counts, qMax(1, counts.numberOfPackages()) - 1);

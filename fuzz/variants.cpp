@@ -122,10 +122,9 @@ void checkOption(const RVConfiguredArticleVariant &option, const RVConfiguredArt
     CHECK(merged.color() == other.color());
 }
 
-void checkOptions(const RVConfiguredArticleVariantList &options, const RVConfiguredArticleVariantList &other)
+void checkEachOption(const RVConfiguredArticleVariantList &options)
 {
     QStringList texts;
-    qsizetype countOfKeys = 0;
     for (const RVConfiguredArticleVariant &option : options) {
         CHECK(option.isValid());
         CHECK(options.contains(option));
@@ -139,12 +138,17 @@ void checkOptions(const RVConfiguredArticleVariantList &options, const RVConfigu
               == RVConfiguredArticleVariantList::createForProduction(option));
         texts += option.toString();
     }
-    for (const QString &key : options.keys())
-        countOfKeys += options.filter(key).size();
-    CHECK_EQUAL(countOfKeys, options.size());
     const QString csv = texts.join(u',');
     if (csv.count(u',') + 1 == options.size() && csv.count(u':') == options.size())
         CHECK(RVConfiguredArticleVariantList::createFromCSV(csv) == options);
+}
+
+void checkKeys(const RVConfiguredArticleVariantList &options)
+{
+    qsizetype countOfKeys = 0;
+    for (const QString &key : options.keys())
+        countOfKeys += options.filter(key).size();
+    CHECK_EQUAL(countOfKeys, options.size());
 
     const RVArticleVariants defaults = options.defaultVariants();
     CHECK(options.contains(defaults));
@@ -153,7 +157,10 @@ void checkOptions(const RVConfiguredArticleVariantList &options, const RVConfigu
     const auto photos = options.filter(u"coverphoto"_s).size();
     CHECK_EQUAL(options.possibleBoxStyles().size(), options.filter(u"boxstyle"_s).size() * qMax(1, int(photos)));
     CHECK(!options.containsOnlyColorWhite() || options.joinForOrderTxt() == "color:white"_L1);
+}
 
+void checkSets(const RVConfiguredArticleVariantList &options, const RVConfiguredArticleVariantList &other)
+{
     CHECK(options.contains(options) && options.containsAtLeastOne(options));
     CHECK_EQUAL(options.containsAtLeastOne(other), other.containsAtLeastOne(options));
     RVConfiguredArticleVariantList common = options;
@@ -169,6 +176,13 @@ void checkOptions(const RVConfiguredArticleVariantList &options, const RVConfigu
     taken.intersect(options, true);
     CHECK(taken == options);
     CHECK(shown(options).startsWith("RVConfiguredArticleVariantList: ["_L1));
+}
+
+void checkOptions(const RVConfiguredArticleVariantList &options, const RVConfiguredArticleVariantList &other)
+{
+    checkEachOption(options);
+    checkKeys(options);
+    checkSets(options, other);
 }
 
 /// An option of the products XML, with the same text in every text attribute.
