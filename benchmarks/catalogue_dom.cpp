@@ -62,7 +62,7 @@ QJsonObject spineJson(const DomProduct &product, int pages)
     return { { u"page_count"_s, pages }, { u"width_mm"_s, product.spineWidth(pages) / 10 } };
 }
 
-QJsonObject toJson(const DomProduct &product)
+QJsonArray optionsJson(const DomProduct &product)
 {
     QJsonArray options;
     for (const DomForm &form : product.geometry.forms)
@@ -74,6 +74,11 @@ QJsonObject toJson(const DomProduct &product)
             { u"default"_s, form.preselected },
             { u"accountable"_s, !form.notAccountable },
         };
+    return options;
+}
+
+QJsonArray barcodesJson(const DomProduct &product)
+{
     QJsonArray barcodes;
     for (const DomBarcode &barcode : product.geometry.barcodes)
         barcodes += QJsonObject {
@@ -84,6 +89,11 @@ QJsonObject toJson(const DomProduct &product)
             { u"height_mm"_s, barcode.rect.height() / 10.0 },
             { u"image"_s, barcode.image },
         };
+    return barcodes;
+}
+
+QJsonObject toJson(const DomProduct &product)
+{
     return {
         { u"type"_s, product.type },
         { u"name"_s, product.name },
@@ -95,7 +105,7 @@ QJsonObject toJson(const DomProduct &product)
         { u"orientation"_s, keywords(product.orientation) },
         { u"space_magnitude"_s, keywords(product.spaceMagnitude) },
         { u"shipping_group"_s, product.shippingGroup },
-        { u"barcodes"_s, barcodes },
+        { u"barcodes"_s, barcodesJson(product) },
         { u"pages"_s,
           QJsonObject {
                   { u"lowest"_s, product.geometry.lowestPages },
@@ -105,7 +115,7 @@ QJsonObject toJson(const DomProduct &product)
         { u"spine"_s,
           QJsonArray { spineJson(product, product.geometry.lowestPages),
                        spineJson(product, product.geometry.highestPages) } },
-        { u"options"_s, options },
+        { u"options"_s, optionsJson(product) },
     };
 }
 
