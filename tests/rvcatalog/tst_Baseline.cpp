@@ -473,7 +473,7 @@ void tst_Baseline::notReplaceable()
     write(u"b.json"_s, content);
     const CommandRun run({ u"check"_s, u"--write-baseline"_s, u"b.json"_s, u"c.xml"_s });
     QCOMPARE(run.exitCode, isReplaced ? 0 : 2);
-    QCOMPARE(read(u"b.json"_s) == content, !isReplaced);
+    QCOMPARE(readFile(u"b.json"_s) == content, !isReplaced);
     if (!isReplaced)
         QCOMPARE(run.messages, u"b.json: error: this is no baseline, so it is not replaced\n"_s);
 }
@@ -488,10 +488,10 @@ void tst_Baseline::pipe()
     QCOMPARE(CommandRun({ u"check"_s, u"--write-baseline"_s, u"pipe"_s, u"c.xml"_s }).exitCode, 0);
     QFile pipe;
     QVERIFY(pipe.open(reader, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle));
-    QCOMPARE(pipe.readAll(), read(u"b.json"_s));
+    QCOMPARE(pipe.readAll(), readFile(u"b.json"_s));
     QVERIFY(!QFileInfo(u"pipe"_s).isFile());
 
-    std::thread writer([text = read(u"b.json"_s)] {
+    std::thread writer([text = readFile(u"b.json"_s)] {
         QFile end(u"pipe"_s);
         if (!end.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
             return;
@@ -509,11 +509,11 @@ void tst_Baseline::standardStreams()
 {
     QCOMPARE(CommandRun({ u"check"_s, u"--write-baseline"_s, u"b.json"_s, u"c.xml"_s }).exitCode, 0);
     const CommandRun written({ u"check"_s, u"--write-baseline"_s, u"-"_s, u"c.xml"_s });
-    QCOMPARE(written.output.toUtf8(), read(u"b.json"_s));
+    QCOMPARE(written.output.toUtf8(), readFile(u"b.json"_s));
     QVERIFY(written.messages.contains(u"0 errors"_s));
     QCOMPARE(written.exitCode, 0);
     QVERIFY(!QFile::exists(u"-"_s));
-    const CommandRun compared({ u"check"_s, u"--baseline"_s, u"-"_s, u"c.xml"_s }, read(u"b.json"_s));
+    const CommandRun compared({ u"check"_s, u"--baseline"_s, u"-"_s, u"c.xml"_s }, readFile(u"b.json"_s));
     QCOMPARE(compared.messages, QString());
     QCOMPARE(compared.exitCode, 0);
     const CommandRun broken({ u"check"_s, u"--baseline"_s, u"-"_s, u"c.xml"_s }, "[]");
