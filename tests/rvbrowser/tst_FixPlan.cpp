@@ -154,8 +154,8 @@ void tst_FixPlan::missingFile()
 // The superuser may write to it all the same.
 void tst_FixPlan::writeProtected()
 {
-    const CataloguePointer catalogue = load();
     QVERIFY(QFile::setPermissions(path(), QFile::ReadOwner));
+    const CataloguePointer catalogue = load();
     FixPlan plan(*catalogue, { 2 });
     QVERIFY(plan.prepare());
     if (::geteuid() == 0) {
