@@ -121,7 +121,7 @@ struct Mistake
     QString finding;
 };
 
-QList<Mistake> mistakes()
+QList<Mistake> idMistakes()
 {
     return {
         { "no product", QByteArray("<products>\n<offer/></products>"), u""_s,
@@ -156,6 +156,14 @@ QList<Mistake> mistakes()
           u"2 error shipping-group-invalid: the shipping group \"two\" is none; write nothing but digits"_s },
         { "shipping group empty", changed("shipping_group='2'", "shipping_group=''"), u"shipping_group=''"_s,
           u"2 error shipping-group-invalid: the shipping group \"\" is none; write a number, or leave out the attribute"_s },
+        { "blank type", changed("type='DUN9' ", "type='&#160;' "), u"type='&#160;'"_s,
+          u"2 error type-missing: the product has no type; write the code that projects have for it"_s },
+    };
+}
+
+QList<Mistake> keywordMistakes()
+{
+    return {
         { "unknown keyword", changed("cover_type='hardcover'", "cover_type='hardcovr'"), u"cover_type='hardcovr'"_s,
           u"2 error keyword-unknown: \"hardcovr\" is no keyword of cover_type; did you mean \"hardcover\"?"_s },
         { "unknown keyword in capitals", changed("cover_type='hardcover'", "cover_type='HARDCOVRE'"),
@@ -182,6 +190,57 @@ QList<Mistake> mistakes()
         { "alias of the binding keeps the spine", changed("page_binding='glue'", "page_binding='Glued'"),
           u"page_binding='Glued'"_s,
           u"2 note keyword-legacy: \"Glued\" is an alias in page_binding; the main keyword is \"glue\""_s },
+    };
+}
+
+QList<Mistake> valueMistakes()
+{
+    return {
+        { "pages are no number", changed("pages='26'", "pages='many'"), u"pages='many'"_s,
+          u"2 error number-invalid: pages is \"many\", which is no whole number; write nothing but digits"_s },
+        { "pages are no whole number", changed("pages='26'", "pages='26.5'"), u"pages='26.5'"_s,
+          u"2 error number-invalid: pages is \"26.5\", which is no whole number; write nothing but digits"_s },
+        { "photo box is no boolean", changed("pages='26'", "pages='26' photo_box='ja'"), u"photo_box='ja'"_s,
+          u"2 error boolean-invalid: photo_box is \"ja\", which is neither true nor false; there are true, false, yes, no, on, off, 1 and 0"_s },
+        { "unknown unit of the spine", changed("units='cm'", "units='CM'"), u"units='CM'"_s,
+          u"7 error unit-unknown: there is no unit \"CM\"; write \"cm\""_s },
+        { "width is no number", changed("base_width='0.8'", "base_width='0,8'"), u"base_width='0,8'"_s,
+          u"8 error number-invalid: base_width is \"0,8\", which is no number; decimals have a point: write 0.8"_s },
+        { "width is infinite", changed("base_width='0.8'", "base_width='inf'"), u"base_width='inf'"_s,
+          u"8 error number-invalid: base_width is \"inf\", which is no number; write digits, and a point before decimals"_s },
+        { "width is too large", changed("base_width='0.8'", "base_width='1e308'"), u"<spine>"_s,
+          u"8 error number-invalid: the widths of the spine are too large for a number; write smaller ones"_s },
+        { "width becomes too large", changed("block_width='0.1'", "block_width='1e306'"), u"<spine>"_s,
+          u"8 error number-invalid: the widths of the spine are too large for a number; write smaller ones"_s },
+        { "packages are no number", changed("packages_per_block='2'", "packages_per_block='2x'"),
+          u"packages_per_block='2x'"_s,
+          u"8 error number-invalid: packages_per_block is \"2x\", which is no whole number; write nothing but digits"_s },
+        { "preselected is no boolean", changed("preselected='true'", "preselected='x'"), u"preselected='x'"_s,
+          u"11 error boolean-invalid: preselected is \"x\", which is neither true nor false; there are true, false, yes, no, on, off, 1 and 0"_s },
+        { "not_accountable is no boolean", changed("not_accountable='true'", "not_accountable=''"),
+          u"not_accountable=''"_s,
+          u"13 error boolean-invalid: not_accountable is \"\", which is neither true nor false; there are true, false, yes, no, on, off, 1 and 0"_s },
+        { "lengths in an unknown unit",
+          changed("<barcodes units='mm'>", "<barcodes units='0.1 mm'>").replace("290.5", "2905"), u"units='0.1 mm'"_s,
+          u"3 error unit-unknown: there is no unit \"0.1 mm\"; write \"0.1mm\""_s },
+        { "barcode position is no number", changed("position_x='62'", "position_x='12mm'"), u"position_x='12mm'"_s,
+          u"5 error number-invalid: position_x is \"12mm\", which is no number; the unit belongs to \"units\": write 12"_s },
+        { "barcode page is no number", changed("pageNr='2'/>", "pageNr='x'/>"), u"pageNr='x'"_s,
+          u"4 error number-invalid: pageNr is \"x\", which is no whole number; write nothing but digits"_s },
+        { "unknown unit of barcodes", changed("<barcodes units='mm'>", "<barcodes units='metre'>"), u"units='metre'"_s,
+          u"3 error unit-unknown: there is no unit \"metre\"; there are mm, cm, inch, in, pt, point and 0.1mm"_s },
+        { "width is too large beside an unreadable number",
+          changed("packages_per_block='2' base_width='0.8'", "packages_per_block='two' base_width='1e308'"),
+          u"packages_per_block='two'"_s,
+          u"8 error number-invalid: packages_per_block is \"two\", which is no whole number; write nothing but digits"_s },
+        { "unit with a blank", changed("<barcodes units='mm'>", "<barcodes units='mm '>"), u"units='mm '"_s,
+          u"3 error unit-unknown: there is no unit \"mm \"; write \"mm\""_s },
+    };
+}
+
+QList<Mistake> pageCountMistakes()
+{
+    return {
         { "page counts reversed", changed("max_pages='154'", "max_pages='18'"), u"max_pages='18'"_s,
           u"2 error page-counts-reversed: the lowest page count 26 is above the highest, 18; raise max_pages, or lower pages"_s },
         { "no pages", changed("foto_paper_type='matt'", "pages='0'"), u"pages='0'"_s,
@@ -198,12 +257,20 @@ QList<Mistake> mistakes()
           u"2 error page-counts-invalid: there are 0 pieces; write 1 or more"_s },
         { "step misses the highest count", changed("page_step='4'", "page_step='6'"), u"page_step='6'"_s,
           u"2 warning page-step-misses-highest: steps of 6 from 26 pages never meet 154; the nearest counts are 152 and 158"_s },
-        { "pages are no number", changed("pages='26'", "pages='many'"), u"pages='many'"_s,
-          u"2 error number-invalid: pages is \"many\", which is no whole number; write nothing but digits"_s },
-        { "pages are no whole number", changed("pages='26'", "pages='26.5'"), u"pages='26.5'"_s,
-          u"2 error number-invalid: pages is \"26.5\", which is no whole number; write nothing but digits"_s },
-        { "photo box is no boolean", changed("pages='26'", "pages='26' photo_box='ja'"), u"photo_box='ja'"_s,
-          u"2 error boolean-invalid: photo_box is \"ja\", which is neither true nor false; there are true, false, yes, no, on, off, 1 and 0"_s },
+        { "step of nothing", changed("page_step='4'", "page_step='0'"), u"page_step='0'"_s,
+          u"2 error page-counts-invalid: there is no step (page_step) that leads from 26 to 154 pages; write how many pages one package has"_s },
+        { "step of a fixed page count", withSecondProduct("<product type='A' article_id='2' pages='4' page_step='2'/>"),
+          u"<product>"_s,
+          u"17 warning max-pages-missing: there is a step (page_step), but no highest page count (max_pages), so 4 "
+          "pages are the only count; write the highest one"_s },
+        { "too many page counts", changed("max_pages='154'", "max_pages='15400'"), u"max_pages='15400'"_s,
+          u"2 warning page-counts-excessive: there are 3844 page counts from 26 to 15400; lower max_pages, or raise page_step"_s },
+    };
+}
+
+QList<Mistake> spineMistakes()
+{
+    return {
         { "no composition",
           changed("<composition units='cm'>\n<spine packages_per_block='2' base_width='0.8' block_width='0.1' "
                   "additional_width='0.05'/>\n</composition>\n",
@@ -218,8 +285,6 @@ QList<Mistake> mistakes()
           changed(" packages_per_block='2' base_width='0.8' block_width='0.1' additional_width='0.05'", ""),
           u"<spine>"_s,
           u"8 error spine-missing: the product is bound, but its spine has no width; write a base_width"_s },
-        { "unknown unit of the spine", changed("units='cm'", "units='CM'"), u"units='CM'"_s,
-          u"7 error unit-unknown: there is no unit \"CM\"; write \"cm\""_s },
         { "negative base width", changed("base_width='0.8'", "base_width='-0.8'"), u"base_width='-0.8'"_s,
           u"8 error spine-negative: base_width is below 0; write 0 or more"_s },
         { "negative additional width", changed("additional_width='0.05'", "additional_width='-0.05'"),
@@ -232,17 +297,24 @@ QList<Mistake> mistakes()
           u"8 warning spine-font-too-small: the spine shrinks, so that at 154 pages it is too narrow for the smallest font; write a block_width of 0 or more"_s },
         { "grows backwards", changed("packages_per_block='2'", "packages_per_block='-1'"), u"packages_per_block='-1'"_s,
           u"8 warning spine-font-too-small: the spine shrinks, so that at 154 pages it is too narrow for the smallest font; write a packages_per_block of 0 or more"_s },
-        { "width is no number", changed("base_width='0.8'", "base_width='0,8'"), u"base_width='0,8'"_s,
-          u"8 error number-invalid: base_width is \"0,8\", which is no number; decimals have a point: write 0.8"_s },
-        { "width is infinite", changed("base_width='0.8'", "base_width='inf'"), u"base_width='inf'"_s,
-          u"8 error number-invalid: base_width is \"inf\", which is no number; write digits, and a point before decimals"_s },
-        { "width is too large", changed("base_width='0.8'", "base_width='1e308'"), u"<spine>"_s,
-          u"8 error number-invalid: the widths of the spine are too large for a number; write smaller ones"_s },
-        { "width becomes too large", changed("block_width='0.1'", "block_width='1e306'"), u"<spine>"_s,
-          u"8 error number-invalid: the widths of the spine are too large for a number; write smaller ones"_s },
-        { "packages are no number", changed("packages_per_block='2'", "packages_per_block='2x'"),
-          u"packages_per_block='2x'"_s,
-          u"8 error number-invalid: packages_per_block is \"2x\", which is no whole number; write nothing but digits"_s },
+        { "too narrow from the start",
+          changed("base_width='0.8' block_width='0.1'", "base_width='0.01' block_width='-0.05'"),
+          u"block_width='-0.05'"_s, u"8 error spine-negative: block_width is below 0; write 0 or more"_s },
+        { "both widths below 0", changed("base_width='0.8' block_width='0.1'", "block_width='-0.1' base_width='-0.8'"),
+          u"base_width='-0.8'"_s, u"8 error spine-negative: base_width, block_width are below 0; write 0 or more"_s },
+        { "no base width", changed(" base_width='0.8'", ""), u"<spine>"_s,
+          u"8 warning spine-base-missing: the spine has other widths, but no base_width; write one, or 0 for none"_s },
+        { "no packages", changed("packages_per_block='2' ", ""), u"<spine>"_s,
+          u"8 warning spine-packages-missing: the spine has a block_width, but no packages_per_block, so it never "
+          "grows; write how many packages make a block"_s },
+        { "spine of another unit", changed("base_width='0.8'", "base_width='8'"), u"base_width='8'"_s,
+          u"8 warning spine-too-wide: the spine is 97.0 mm wide at 154 pages, but bookbinders take at most 80 mm; check the widths and their unit"_s },
+    };
+}
+
+QList<Mistake> optionMistakes()
+{
+    return {
         { "option without key", changed("key='alcolor' value='red'", "value='red'"), u"<form>"_s,
           u"12 error option-incomplete: the option has no key; write one, or take out the form"_s },
         { "default option without key", changed("key='alcolor' value='black'", "key='' value='black'"), u"key=''"_s,
@@ -285,18 +357,6 @@ QList<Mistake> mistakes()
           u"<form>"_s, u"19 error option-incomplete: the option has no value; write one, or take out the form"_s },
         { "options of another key without value", changed("<forms>\n", "<forms>\n<form key='c'/>\n"), u"<form>"_s,
           u"11 error option-incomplete: the option has no value; write one, or take out the form"_s },
-        { "barcodes twice", changed("</forms>", "</forms>\n<barcodes><barcode width='-1'/></barcodes>"),
-          u"<barcodes>"_s,
-          u"16 error element-ignored: only the first barcodes is read, the one in line 3; make them one"_s },
-        { "composition twice", changed("</forms>", "</forms>\n<composition><spine base_width='x'/></composition>"),
-          u"<composition>"_s,
-          u"16 error element-ignored: only the first composition is read, the one in line 7; make them one"_s },
-        { "forms twice", changed("</forms>", "</forms>\n<forms><form/></forms>"), u"<forms>"_s,
-          u"16 error element-ignored: only the first forms is read, the one in line 10; make them one"_s },
-        { "two spines", changed("</composition>", "<spine/></composition>"), u"<spine>"_s,
-          u"9 error element-ignored: only the first spine is read, the one in line 8; make them one"_s },
-        { "product in a product", changed("<forms>", "<product/><forms>"), u"<product>"_s,
-          u"10 error element-ignored: a product inside a product is not read; put it behind the outer one"_s },
         { "unreadable colour", changed("color='red'", "color='weinrot'"), u"color='weinrot'"_s,
           u"12 warning option-color-invalid: \"weinrot\" is no colour; write an English name, or \"#\" and 6 hexadecimal digits"_s },
         { "colour with too few digits", changed("color='#1a1a1a'", "color='#1a1a1'"), u"color='#1a1a1'"_s,
@@ -305,11 +365,26 @@ QList<Mistake> mistakes()
           u"14 error option-composite-mismatch: the keys \"a;b\" and the values \"v\" are not equally many; write one value for each key"_s },
         { "more values than keys", changed("value='red'", "value='red;blue'"), u"value='red;blue'"_s,
           u"12 error option-composite-mismatch: the keys \"alcolor\" and the values \"red;blue\" are not equally many; write one value for each key"_s },
-        { "preselected is no boolean", changed("preselected='true'", "preselected='x'"), u"preselected='x'"_s,
-          u"11 error boolean-invalid: preselected is \"x\", which is neither true nor false; there are true, false, yes, no, on, off, 1 and 0"_s },
-        { "not_accountable is no boolean", changed("not_accountable='true'", "not_accountable=''"),
-          u"not_accountable=''"_s,
-          u"13 error boolean-invalid: not_accountable is \"\", which is neither true nor false; there are true, false, yes, no, on, off, 1 and 0"_s },
+        { "option with an empty value", changed("<forms>\n", "<forms><form key='' value=''/>\n"), u"key=''"_s,
+          u"10 error option-incomplete: the option has no key and no value; write both, or take out the form"_s },
+        { "comma in a value", changed("value='red'", "value='red,blue'"), u"value='red,blue'"_s,
+          u"12 warning option-separator: the value \"red,blue\" has a separator of orders in it; only semicolons join "
+          "several"_s },
+        { "blank behind a key", changed("key='alcolor' value='red'", "key='alcolor ' value='red'"), u"key='alcolor '"_s,
+          u"12 warning option-blank: the key \"alcolor \" has a blank around it; take it out"_s },
+        { "letter case of a key", changed("key='alcolor' value='red'", "key='Alcolor' value='red'"), u"key='Alcolor'"_s,
+          u"12 warning option-letter-case: the key \"Alcolor\" differs from \"alcolor\" in line 11 in letter case "
+          "only; choose one spelling"_s },
+        { "two names of a key",
+          changed("value='black'", "value='black' key_name='A'").replace("value='red'", "value='red' key_name='B'"),
+          u"key_name='B'"_s,
+          u"12 warning option-key-names: the key \"alcolor\" is named \"B\" here, but \"A\" in line 11; choose one name"_s },
+    };
+}
+
+QList<Mistake> barcodeMistakes()
+{
+    return {
         { "barcode without width", changed("width='38' height='10' pageNr='2'/>", "width='0' height='10' pageNr='2'/>"),
           u"width='0'"_s, u"4 error barcode-invalid: the barcode has no width or no height; write both above 0"_s },
         { "barcode with negative height", changed("height='10' pageNr='2'/>", "height='-10' pageNr='2'/>"),
@@ -356,17 +431,24 @@ QList<Mistake> mistakes()
           u"5 error barcode-outside-page: the barcode ends 10037 mm from the left and 290.5 mm from the top, where there is no page; move it, or make it smaller"_s },
         { "barcode half outside over another", changed("position_x='62'", "position_x='-2'"), u"position_x='-2'"_s,
           u"5 error barcode-outside-page: the barcode begins left of the page; write a position_x of 0 or more"_s },
-        { "lengths in an unknown unit",
-          changed("<barcodes units='mm'>", "<barcodes units='0.1 mm'>").replace("290.5", "2905"), u"units='0.1 mm'"_s,
-          u"3 error unit-unknown: there is no unit \"0.1 mm\"; write \"0.1mm\""_s },
         { "barcodes overlap", changed("position_x='62'", "position_x='49.9'"), u"<barcode>"_s,
           u"5 error barcode-overlap: the barcode overlaps the one in line 4; move one of them"_s },
-        { "barcode position is no number", changed("position_x='62'", "position_x='12mm'"), u"position_x='12mm'"_s,
-          u"5 error number-invalid: position_x is \"12mm\", which is no number; the unit belongs to \"units\": write 12"_s },
-        { "barcode page is no number", changed("pageNr='2'/>", "pageNr='x'/>"), u"pageNr='x'"_s,
-          u"4 error number-invalid: pageNr is \"x\", which is no whole number; write nothing but digits"_s },
-        { "unknown unit of barcodes", changed("<barcodes units='mm'>", "<barcodes units='metre'>"), u"units='metre'"_s,
-          u"3 error unit-unknown: there is no unit \"metre\"; there are mm, cm, inch, in, pt, point and 0.1mm"_s },
+        { "barcode without a width", changed("width='38' height='10' pageNr='2'/>", "height='10' pageNr='2'/>"),
+          u"<barcode>"_s,
+          u"4 warning barcode-size-missing: the barcode has no width, so it takes 1 unit; write how large it is"_s },
+        { "barcode on no page", changed(" pageNr='2'/>", "/>"), u"<barcode>"_s,
+          u"4 warning barcode-page-missing: the barcode has no page number (pageNr), so it stands on page 0; write the page that it is on"_s },
+        { "barcode below an upright page",
+          changed("position_x='62' position_y='290.5'", "position_x='62' position_y='500'"), u"position_y='500'"_s,
+          u"5 warning barcode-off-usual-page: the barcode ends 100 mm from the left and 500 mm from the top, but no "
+          u"page "
+          "of this size class and orientation is so large; move it, or make it smaller"_s },
+    };
+}
+
+QList<Mistake> priceClassMistakes()
+{
+    return {
         { "price class of an option", changed("price_class='LEZ2'", "price_class='LEZ7'"), u"price_class='LEZ7'"_s,
           u"12 warning price-class-unknown: the price class \"LEZ7\" belongs to no known group; did you mean \"LEZ1\", \"LEZ2\" or \"LEZ3\"?"_s },
         { "price class in small letters", changed("price_class='LEZ2'", "price_class='lez2'"), u"price_class='lez2'"_s,
@@ -374,29 +456,24 @@ QList<Mistake> mistakes()
         { "price class of pages", changed("page_price_class='RODA6x9'", "page_price_class='RODA'"),
           u"page_price_class='RODA'"_s,
           u"2 warning price-class-unknown: the price class \"RODA\" belongs to no known group; did you mean \"RODA6x9\"?"_s },
-        { "comment of no use", changed("<forms>\n", "<!-- rvcatalog: ignore option-incomplete --><forms>\n"),
-          u"<!-->"_s, u"10 warning suppression-unused: this comment silences no finding of option-incomplete"_s },
-        { "comment with an unknown rule", changed("<forms>\n", "<!-- rvcatalog: ignore option-incomplet --><forms>\n"),
-          u"<!-->"_s,
-          u"10 warning suppression-unknown: there is no rule \"option-incomplet\"; did you mean "
-          "\"option-incomplete\"?"_s },
-        { "too narrow from the start",
-          changed("base_width='0.8' block_width='0.1'", "base_width='0.01' block_width='-0.05'"),
-          u"block_width='-0.05'"_s, u"8 error spine-negative: block_width is below 0; write 0 or more"_s },
-        { "width is too large beside an unreadable number",
-          changed("packages_per_block='2' base_width='0.8'", "packages_per_block='two' base_width='1e308'"),
-          u"packages_per_block='two'"_s,
-          u"8 error number-invalid: packages_per_block is \"two\", which is no whole number; write nothing but digits"_s },
-        { "both widths below 0", changed("base_width='0.8' block_width='0.1'", "block_width='-0.1' base_width='-0.8'"),
-          u"base_width='-0.8'"_s, u"8 error spine-negative: base_width, block_width are below 0; write 0 or more"_s },
-        { "blank type", changed("type='DUN9' ", "type='&#160;' "), u"type='&#160;'"_s,
-          u"2 error type-missing: the product has no type; write the code that projects have for it"_s },
-        { "step of nothing", changed("page_step='4'", "page_step='0'"), u"page_step='0'"_s,
-          u"2 error page-counts-invalid: there is no step (page_step) that leads from 26 to 154 pages; write how many pages one package has"_s },
-        { "option with an empty value", changed("<forms>\n", "<forms><form key='' value=''/>\n"), u"key=''"_s,
-          u"10 error option-incomplete: the option has no key and no value; write both, or take out the form"_s },
-        { "unit with a blank", changed("<barcodes units='mm'>", "<barcodes units='mm '>"), u"units='mm '"_s,
-          u"3 error unit-unknown: there is no unit \"mm \"; write \"mm\""_s },
+    };
+}
+
+QList<Mistake> nameMistakes()
+{
+    return {
+        { "barcodes twice", changed("</forms>", "</forms>\n<barcodes><barcode width='-1'/></barcodes>"),
+          u"<barcodes>"_s,
+          u"16 error element-ignored: only the first barcodes is read, the one in line 3; make them one"_s },
+        { "composition twice", changed("</forms>", "</forms>\n<composition><spine base_width='x'/></composition>"),
+          u"<composition>"_s,
+          u"16 error element-ignored: only the first composition is read, the one in line 7; make them one"_s },
+        { "forms twice", changed("</forms>", "</forms>\n<forms><form/></forms>"), u"<forms>"_s,
+          u"16 error element-ignored: only the first forms is read, the one in line 10; make them one"_s },
+        { "two spines", changed("</composition>", "<spine/></composition>"), u"<spine>"_s,
+          u"9 error element-ignored: only the first spine is read, the one in line 8; make them one"_s },
+        { "product in a product", changed("<forms>", "<product/><forms>"), u"<product>"_s,
+          u"10 error element-ignored: a product inside a product is not read; put it behind the outer one"_s },
         { "misspelt product", changed("<products>", "<products><prodcut type='B'/>"), u"<prodcut>"_s,
           u"1 warning element-misspelt: the element \"prodcut\" is not read; did you mean \"product\"?"_s },
         { "parts outside of products", changed("<products>", "<products><forms><form/></forms>"), u"<forms>"_s,
@@ -409,42 +486,25 @@ QList<Mistake> mistakes()
           u"2 warning attribute-misspelt: the attribute \"maxpage\" is not read; did you mean \"max_pages\"?"_s },
         { "misplaced attribute", changed("<spine ", "<spine units='mm' "), u"units='mm'"_s,
           u"8 warning attribute-misplaced: the attribute \"units\" is not read in spine; it belongs to composition"_s },
-        { "step of a fixed page count", withSecondProduct("<product type='A' article_id='2' pages='4' page_step='2'/>"),
-          u"<product>"_s,
-          u"17 warning max-pages-missing: there is a step (page_step), but no highest page count (max_pages), so 4 "
-          "pages are the only count; write the highest one"_s },
-        { "too many page counts", changed("max_pages='154'", "max_pages='15400'"), u"max_pages='15400'"_s,
-          u"2 warning page-counts-excessive: there are 3844 page counts from 26 to 15400; lower max_pages, or raise page_step"_s },
-        { "no base width", changed(" base_width='0.8'", ""), u"<spine>"_s,
-          u"8 warning spine-base-missing: the spine has other widths, but no base_width; write one, or 0 for none"_s },
-        { "no packages", changed("packages_per_block='2' ", ""), u"<spine>"_s,
-          u"8 warning spine-packages-missing: the spine has a block_width, but no packages_per_block, so it never "
-          "grows; write how many packages make a block"_s },
-        { "spine of another unit", changed("base_width='0.8'", "base_width='8'"), u"base_width='8'"_s,
-          u"8 warning spine-too-wide: the spine is 97.0 mm wide at 154 pages, but bookbinders take at most 80 mm; check the widths and their unit"_s },
-        { "comma in a value", changed("value='red'", "value='red,blue'"), u"value='red,blue'"_s,
-          u"12 warning option-separator: the value \"red,blue\" has a separator of orders in it; only semicolons join "
-          "several"_s },
-        { "blank behind a key", changed("key='alcolor' value='red'", "key='alcolor ' value='red'"), u"key='alcolor '"_s,
-          u"12 warning option-blank: the key \"alcolor \" has a blank around it; take it out"_s },
-        { "letter case of a key", changed("key='alcolor' value='red'", "key='Alcolor' value='red'"), u"key='Alcolor'"_s,
-          u"12 warning option-letter-case: the key \"Alcolor\" differs from \"alcolor\" in line 11 in letter case "
-          "only; choose one spelling"_s },
-        { "two names of a key",
-          changed("value='black'", "value='black' key_name='A'").replace("value='red'", "value='red' key_name='B'"),
-          u"key_name='B'"_s,
-          u"12 warning option-key-names: the key \"alcolor\" is named \"B\" here, but \"A\" in line 11; choose one name"_s },
-        { "barcode without a width", changed("width='38' height='10' pageNr='2'/>", "height='10' pageNr='2'/>"),
-          u"<barcode>"_s,
-          u"4 warning barcode-size-missing: the barcode has no width, so it takes 1 unit; write how large it is"_s },
-        { "barcode on no page", changed(" pageNr='2'/>", "/>"), u"<barcode>"_s,
-          u"4 warning barcode-page-missing: the barcode has no page number (pageNr), so it stands on page 0; write the page that it is on"_s },
-        { "barcode below an upright page",
-          changed("position_x='62' position_y='290.5'", "position_x='62' position_y='500'"), u"position_y='500'"_s,
-          u"5 warning barcode-off-usual-page: the barcode ends 100 mm from the left and 500 mm from the top, but no "
-          u"page "
-          "of this size class and orientation is so large; move it, or make it smaller"_s },
     };
+}
+
+QList<Mistake> commentMistakes()
+{
+    return {
+        { "comment of no use", changed("<forms>\n", "<!-- rvcatalog: ignore option-incomplete --><forms>\n"),
+          u"<!-->"_s, u"10 warning suppression-unused: this comment silences no finding of option-incomplete"_s },
+        { "comment with an unknown rule", changed("<forms>\n", "<!-- rvcatalog: ignore option-incomplet --><forms>\n"),
+          u"<!-->"_s,
+          u"10 warning suppression-unknown: there is no rule \"option-incomplet\"; did you mean "
+          "\"option-incomplete\"?"_s },
+    };
+}
+
+QList<Mistake> mistakes()
+{
+    return idMistakes() + keywordMistakes() + valueMistakes() + pageCountMistakes() + spineMistakes() + optionMistakes()
+            + barcodeMistakes() + priceClassMistakes() + nameMistakes() + commentMistakes();
 }
 
 }
