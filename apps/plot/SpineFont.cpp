@@ -1,6 +1,5 @@
 #include "SpineFont.h"
 
-#include <RVFontCreator.h>
 #include <RVFontSizeManager.h>
 #include <RVSpineConfig.h>
 
@@ -36,7 +35,7 @@ MeasuredFont measure()
 const MeasuredFont &measured()
 {
     static const MeasuredFont theNone;
-    if (!RVFontCreator::canMeasure())
+    if (!RVSpineConfig::canMeasureText())
         return theNone;
     static const MeasuredFont theFont = measure();
     return theFont;

@@ -2,7 +2,7 @@
 
 #include "Console.h"
 
-#include <RVFontCreator.h>
+#include <RVSpineConfig.h>
 #include <SpineFont.h>
 
 #include <QTextStream>
@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 void reportMissingFont(const Console &console)
 {
-    if (!RVFontCreator::canMeasure() || SpineFont::isDeclared())
+    if (!RVSpineConfig::canMeasureText() || SpineFont::isDeclared())
         return;
     const QString family = SpineFont::family();
     QTextStream(console.messages) << u"rvcatalog: the font %1 is missing, so font sizes are those of %2 and may differ "

@@ -5,7 +5,7 @@
 #include "RVFindingText_p.h"
 #include "RVNearestText.h"
 
-#include <RVFontCreator.h>
+#include <RVSpineConfig.h>
 
 using namespace Qt::StringLiterals;
 
@@ -15,7 +15,7 @@ namespace {
 bool canHaveFindings(const RVCatalogueCheck &check, RVCatalogueRule rule)
 {
     const bool needsFonts = RVCatalogueRuleRow::of(rule)->id == RVCatalogueRuleId::SpineFontTooSmall;
-    return check.isEnabled(rule) && (RVFontCreator::canMeasure() || !needsFonts);
+    return check.isEnabled(rule) && (RVSpineConfig::canMeasureText() || !needsFonts);
 }
 
 /// The rules of the comment that could have findings, but have none.

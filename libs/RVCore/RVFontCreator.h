@@ -22,8 +22,9 @@ public:
     /// The family of the application's font.
     QString defaultFontFamily() const;
 
-    /// True if fonts can be measured, which needs a QGuiApplication.
-    static bool canMeasure();
+    /// True if fonts can be measured, which needs a QGuiApplication. Deprecated since 0.7.0; RVSpineConfig tells it of
+    /// the texts of spines.
+    [[deprecated("use RVSpineConfig::canMeasureText()")]] static bool canMeasure();
 };
 
 #endif

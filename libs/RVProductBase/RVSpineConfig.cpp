@@ -50,6 +50,11 @@ int RVSpineConfig::spineMaxFontHeigth(unsigned pages, const QString &fontFamily)
     return d->spineMaxFontHeigth(pages, fontFamily);
 }
 
+bool RVSpineConfig::canMeasureText()
+{
+    return RVSpineConfigImpl::canMeasureText();
+}
+
 bool RVSpineConfig::hasRoomForText(unsigned pages, const QString &fontFamily) const
 {
     return d->hasRoomForText(pages, fontFamily);

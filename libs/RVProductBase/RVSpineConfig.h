@@ -63,11 +63,13 @@ public:
     /// tenths of a millimetre.
     int highestLine(unsigned pages) const;
     /// The largest of the editor's font sizes, in points, whose line spacing in pixels is at most highestLine(). The
-    /// result is at least the smallest size, and 0 if there are no sizes. An empty family is the default one. Without a
-    /// QGuiApplication fonts cannot be measured, so the result is the smallest size.
+    /// result is at least the smallest size, and 0 if there are no sizes. An empty family is the default one. If
+    /// texts cannot be measured, the result is the smallest size.
     int spineMaxFontHeigth(unsigned pages, const QString &fontFamily) const;
-    /// True if the smallest of the editor's font sizes fits the spine by that measure. Also true if nothing can be
-    /// measured: without sizes, or without a QGuiApplication.
+    /// True if texts can be measured, which needs a QGuiApplication.
+    static bool canMeasureText();
+    /// True if the smallest of the editor's font sizes fits the spine by that measure. Also true without sizes,
+    /// and if texts cannot be measured.
     bool hasRoomForText(unsigned pages, const QString &fontFamily = QString()) const;
 
     /// Compares page counts, blocks and widths; widths as RVDistance does.

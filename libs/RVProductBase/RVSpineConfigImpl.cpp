@@ -8,6 +8,7 @@
 
 #include <QFont>
 #include <QFontMetrics>
+#include <QGuiApplication>
 
 #include <cmath>
 #include <limits>
@@ -98,7 +99,7 @@ int RVSpineConfigImpl::spineMaxFontHeigth(unsigned pages, const QString &fontFam
     if (sizes.isEmpty())
         return 0;
     // The first size is never measured: it is the result even if it is too tall itself.
-    if (!RVFontCreator::canMeasure())
+    if (!canMeasureText())
         return sizes.first();
     const int limit = highestLine(pages);
     for (qsizetype i = 1; i < sizes.size(); ++i) {
@@ -108,11 +109,15 @@ int RVSpineConfigImpl::spineMaxFontHeigth(unsigned pages, const QString &fontFam
     return sizes.last();
 }
 
+bool RVSpineConfigImpl::canMeasureText()
+{
+    return qobject_cast<QGuiApplication *>(QCoreApplication::instance()) != nullptr;
+}
+
 bool RVSpineConfigImpl::hasRoomForText(unsigned pages, const QString &fontFamily) const
 {
     const QList<int> sizes = RVFontSizeManager::instance()->defaultFontSizes();
-    return sizes.isEmpty() || !RVFontCreator::canMeasure()
-            || lineSpacing(fontFamily, sizes.first()) <= highestLine(pages);
+    return sizes.isEmpty() || !canMeasureText() || lineSpacing(fontFamily, sizes.first()) <= highestLine(pages);
 }
 
 bool RVSpineConfigImpl::operator==(const RVSpineConfigImpl &other) const

@@ -39,6 +39,7 @@ public:
     int coverReduceSize() const;
     int highestLine(unsigned pages) const;
     int spineMaxFontHeigth(unsigned pages, const QString &fontFamily) const;
+    static bool canMeasureText();
     bool hasRoomForText(unsigned pages, const QString &fontFamily) const;
 
     bool operator==(const RVSpineConfigImpl &other) const;

@@ -46,7 +46,10 @@ void tst_RVFontCreator::defaultFontFamily()
 
 void tst_RVFontCreator::canMeasure()
 {
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
     QVERIFY(RVFontCreator::canMeasure());
+    QT_WARNING_POP
 }
 
 QTEST_MAIN(tst_RVFontCreator)

@@ -378,6 +378,7 @@ void tst_RVSpineConfig::roomForText()
 {
     const QString family = u"DejaVu Sans"_s;
     const int spacing = lineSpacing(family, 6);
+    QVERIFY(RVSpineConfig::canMeasureText());
     QVERIFY(spineFor(spacing).hasRoomForText(26, family));
     QVERIFY(!spineFor(spacing - 1).hasRoomForText(26, family));
     QVERIFY(!spineFor(-50).hasRoomForText(26, family));

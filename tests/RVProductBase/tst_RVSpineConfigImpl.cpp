@@ -1,4 +1,3 @@
-#include <RVCore/RVFontCreator.h>
 #include <RVCore/RVFontSizeManager.h>
 #include <RVProductBase/RVSpineConfigImpl.h>
 
@@ -54,7 +53,7 @@ void tst_RVSpineConfigImpl::fontSizeWithoutFonts()
     // The spine is wide enough for every size.
     const RVSpineConfigImpl wide(RVPageCountOrganization(RVIntRange(26, 26), 0), 0, millimetres(1000), RVDistance(),
                                  RVDistance());
-    QVERIFY(!RVFontCreator::canMeasure());
+    QVERIFY(!RVSpineConfigImpl::canMeasureText());
     QCOMPARE(wide.highestLine(26), 8500);
     QTEST(wide.spineMaxFontHeigth(26, family), "size");
     QVERIFY(RVSpineConfigImpl().hasRoomForText(26, family));
