@@ -115,9 +115,14 @@ provides() {
         grep -qxF "$library.so.0 $package (>= 0.6.0~)" "$control"/symbols || fail "$package does not list the symbols of $library"
     done
     grep -qxF " $3@Base $2" "$control"/symbols || fail "$3 did not come with $2: $(grep -F " $3@" "$control"/symbols)"
+    # A name that the list does not have counts as new in each release.
+    while read -r symbol; do
+        grep -qF "\"$symbol@Base\" $release" "$sources/debian/$package.symbols" || fail "debian/$package.symbols lacks $symbol"
+    done < <(sed -n "s/^ \(.*\)@Base $release\$/\1/p" "$control"/symbols | c++filt | grep -v '\bstd::')
 }
 provides librvproductbase0 0.2.0 _ZNK13RVProductType8isAgendaEv libRVCore libRVXML libRVProductBase
 provides librvproductbase0 0.3.0 _ZNK23RVPageCountOrganization10pageCountsEv libRVProductBase
+provides librvproductbase0 0.6.0 _ZN11RVMetaTypes11registerAllEv libRVProductBase
 provides librvcatalogue0 0.4.0 _ZN17RVCatalogueReader4nextEv libRVCatalogue
 
 libdir=$(dirname "$root"/usr/lib/*/libRVProductBase.so)
