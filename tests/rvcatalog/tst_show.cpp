@@ -51,6 +51,7 @@ private Q_SLOTS:
     void initTestCase();
     void everything();
     void longSheets();
+    void longName();
     void longOptionName();
     void fitsTheTerminal_data();
     void fitsTheTerminal();
@@ -129,6 +130,17 @@ void tst_show::longSheets()
              "  Pages           10-39 by 10 (3 counts), in a photo box\n"_s);
     QCOMPARE(shown.messages, QString());
     QCOMPARE(shown.exitCode, 0);
+}
+
+void tst_show::longName()
+{
+    const CommandRun shown = run(
+            { u"show"_s, u"-"_s },
+            "<p><product type='A' pages='1' name='A photo book whose name has no room beside the numbers'/></p>");
+    QVERIFY2(
+            shown.output.endsWith(
+                    "\nA        1                1      -           -\n         A photo book whose name has no room beside the numbers\n"_L1),
+            qPrintable(shown.output));
 }
 
 void tst_show::longOptionName()
