@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -44,6 +45,7 @@ void tst_StartScreen::listsRecentFiles()
     const auto *list = screen.findChild<QListWidget *>();
     QVERIFY(list->isVisible());
     QCOMPARE(list->count(), 2);
+    QVERIFY(!list->verticalScrollBar()->isVisible());
     QCOMPARE(list->item(0)->text(), u"gone.xml (missing)\n"_s + folder.path());
     QVERIFY(!(list->item(0)->flags() & Qt::ItemIsEnabled));
     QCOMPARE(list->item(1)->text(), u"a & b.xml\n"_s + folder.path());
