@@ -57,6 +57,7 @@ private Q_SLOTS:
     void stepsInTheShownOrder();
     void showsTheFault_data();
     void showsTheFault();
+    void hidesTheFaultOfAnotherProduct();
     void goesOnWhereOneWasMended();
     void copies();
     void explains();
@@ -333,6 +334,20 @@ void tst_findings::showsTheFault()
     }
     press(Qt::Key_F8, Qt::ShiftModifier); // somewhere else it is gone
     QVERIFY(!shown->isVisible() || !shown->text().startsWith(text));
+}
+
+void tst_findings::hidesTheFaultOfAnotherProduct()
+{
+    load();
+    for (int i = 0; i < 4; ++i)
+        press(Qt::Key_F8);
+    const auto *fault = find<QLabel>(u"fault"_s);
+    QVERIFY(fault->isVisible());
+    const QString faulty = title();
+    auto *products = find<QTreeView>(u"products"_s);
+    QTest::keyClick(products, Qt::Key_End);
+    QVERIFY(title() != faulty);
+    QVERIFY(!fault->isVisible());
 }
 
 // Save, and the next key leads to the next fault.

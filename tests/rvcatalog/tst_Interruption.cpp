@@ -2,6 +2,8 @@
 
 #include <QTest>
 
+#include <pthread.h>
+
 #include <csignal>
 #include <initializer_list>
 
@@ -58,11 +60,11 @@ void tst_Interruption::signal()
     QFETCH(int, signal);
     {
         const Interruption interruption;
-        ::raise(signal);
+        ::pthread_kill(::pthread_self(), signal);
         QCOMPARE(Interruption::signal(), signal);
         QTEST(Interruption::exitCode(Interruption::signal()), "exitCode");
         // A second signal at once is the same request.
-        ::raise(signal);
+        ::pthread_kill(::pthread_self(), signal);
         QCOMPARE(Interruption::signal(), signal);
     }
     QCOMPARE(Interruption::signal(), 0);
@@ -96,7 +98,7 @@ void tst_Interruption::severalUsers()
             const Interruption second;
         }
         QVERIFY(handlerOf(SIGINT) != SIG_DFL);
-        ::raise(SIGINT);
+        ::pthread_kill(::pthread_self(), SIGINT);
         QCOMPARE(Interruption::signal(), SIGINT);
     }
     QVERIFY(handlerOf(SIGINT) == SIG_DFL);
