@@ -78,7 +78,7 @@ QString DrawingExport::write(const QString &fileName) const
     const QByteArray bytes = content(*format);
     if (bytes.isEmpty())
         return tr("there is not enough memory for the drawing");
-    return writeFile(fileName, bytes);
+    return writeContent(fileName, bytes);
 }
 
 QByteArray DrawingExport::svg() const

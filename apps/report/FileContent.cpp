@@ -24,7 +24,7 @@ QString replaceFile(const QString &fileName, const QByteArray &content)
 
 }
 
-QString writeFile(const QString &fileName, const QByteArray &content)
+QString writeContent(const QString &fileName, const QByteArray &content)
 {
     const QFileInfo file(fileName);
     const bool isDevice = file.exists() && !file.isFile() && !file.isDir();

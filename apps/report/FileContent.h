@@ -6,6 +6,6 @@
 
 /// Replaces a file in one step, or writes to a device or a pipe, which cannot be replaced. Returns the reason if that
 /// is impossible; empty otherwise.
-QString writeFile(const QString &fileName, const QByteArray &content);
+QString writeContent(const QString &fileName, const QByteArray &content);
 
 #endif

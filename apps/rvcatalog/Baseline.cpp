@@ -106,7 +106,7 @@ bool Baseline::write(const Console &console) const
         console.write(text.toStdString());
         return true;
     }
-    const QString error = writeFile(myFileName, text);
+    const QString error = writeContent(myFileName, text);
     return error.isEmpty() || fail(console, u"cannot write the baseline: "_s + error);
 }
 
