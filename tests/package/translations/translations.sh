@@ -22,5 +22,11 @@ Cover
 TEXT
 
 export PKG_CONFIG_PATH=$work/moved/$libdir/pkgconfig
-[[ -f $("${PKG_CONFIG:-pkg-config}" --variable=translationsdir RVProductBase)/rvproductbase_en.qm ]]
-[[ -f $("${PKG_CONFIG:-pkg-config}" --variable=translationsdir RVCatalogue)/rvcatalogue_de.qm ]]
+# translations_of PACKAGE: the folder of its translations. pkg-config writes a blank as a shell reads it.
+translations_of() {
+    local folder
+    folder=$("${PKG_CONFIG:-pkg-config}" --variable=translationsdir "$1")
+    echo "${folder//\\ / }"
+}
+[[ -f $(translations_of RVProductBase)/rvproductbase_en.qm ]]
+[[ -f $(translations_of RVCatalogue)/rvcatalogue_de.qm ]]
