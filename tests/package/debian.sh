@@ -105,7 +105,7 @@ depends rvbrowser 'fonts-dejavu-core'
 # provides PACKAGE SINCE SYMBOL LIBRARIES...: the linker and other packages are told of the shared libraries, and of the release that
 # a symbol came with. Everything needs 0.6.0, since programs read the index of keywords inline, which has another form since then.
 provides() {
-    local package=$1 control=$work/control/$1 library
+    local package=$1 control=$work/control/$1 library names name
     mkdir -p "$control"
     dpkg-deb --control "$packages"/"$package"_*.deb "$control"
     grep -qxF 'activate-noawait ldconfig' "$control"/triggers || fail "the linker is not told of the new libraries of $package"
@@ -116,9 +116,11 @@ provides() {
     done
     grep -qxF " $3@Base $2" "$control"/symbols || fail "$3 did not come with $2: $(grep -F " $3@" "$control"/symbols)"
     # A name that the list does not have counts as new in each release.
-    while read -r symbol; do
-        grep -qF "\"$symbol@Base\" $release" "$sources/debian/$package.symbols" || fail "debian/$package.symbols lacks $symbol"
-    done < <(sed -n "s/^ \(.*\)@Base $release\$/\1/p" "$control"/symbols | c++filt | grep -v '\bstd::')
+    names=$(sed -n "s/^ \(.*\)@Base $release\$/\1/p" "$control"/symbols | c++filt)
+    while read -r name; do
+        [[ ! $name || $name == *std::* ]] || grep -qF "\"$name@Base\" $release" "$sources/debian/$package.symbols" ||
+            fail "debian/$package.symbols lacks $name"
+    done <<<"$names"
 }
 provides librvproductbase0 0.2.0 _ZNK13RVProductType8isAgendaEv libRVCore libRVXML libRVProductBase
 provides librvproductbase0 0.3.0 _ZNK23RVPageCountOrganization10pageCountsEv libRVProductBase
