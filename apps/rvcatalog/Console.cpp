@@ -1,6 +1,8 @@
 #include "Console.h"
 
+#include "FindingLine.h"
 #include "PipeInput.h"
+#include "PrintableText.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -52,13 +54,12 @@ void Console::write(std::string_view text) const
 
 void Console::report(const QString &fileName, const Problem &problem) const
 {
-    QTextStream(messages) << fileName << ':' << problem.position.line << ':' << problem.position.column << ": "
-                          << problem.text << '\n';
+    report(placeText(fileName, problem.position), problem.text);
 }
 
 void Console::report(const QString &fileName, const QString &text) const
 {
-    QTextStream(messages) << fileName << ": " << text << '\n';
+    QTextStream(messages) << fileName << ": " << printableText(text) << '\n';
 }
 
 bool isTerminal(std::FILE *stream)

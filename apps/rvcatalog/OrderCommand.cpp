@@ -1,5 +1,6 @@
 #include "Order.h"
 #include "OrderJson.h"
+#include "PrintableText.h"
 #include "ProductSearch.h"
 #include "ProductTexts.h"
 #include "SubCommands.h"
@@ -27,7 +28,7 @@ std::optional<RVCatalogueProject> readProject(const QString &fileName, const Con
 void writeProduct(QTextStream &out, const Order &order)
 {
     const ProductValues &values = order.values();
-    const QString name = values.product.name();
+    const QString name = printableText(values.product.name());
     const int packages = order.packages();
     out << "Product         " << values.type.orderTxtName() << (name.isEmpty() ? QString() : " ("_L1 + name + u')')
         << '\n';
@@ -44,17 +45,17 @@ void writeOrder(const Order &order, const Console &console)
     out << "\nOptions\n";
     const QStringList chosenKeys = order.chosenKeys();
     for (const ProductOption &option : order.options())
-        out << "  " << option.option.keyName() << ": " << option.option.visibleName()
+        out << "  " << printableText(option.option.keyName() + ": "_L1 + option.option.visibleName())
             << (chosenKeys.contains(option.option.key()) ? "" : " (default)") << '\n';
     out << "\nPrice classes\n";
     const QMap<RVPriceClass, qint64> counted = order.priceClasses();
     for (auto it = counted.begin(); it != counted.end(); ++it)
-        out << "  " << QString::number(it.value()).rightJustified(3) << " x " << it.key().toString()
+        out << "  " << QString::number(it.value()).rightJustified(3) << " x " << printableText(it.key().toString())
             << (it.key().isFree() ? " (free)" : "") << '\n';
     const RVArticleVariants variants = order.variants();
-    out << "\nProject file    " << variants.toKTX() << '\n';
-    out << "Order transfer  " << variants.toXTCI().toKTX() << '\n';
-    out << "Order text      " << variants.toOrderTxt() << '\n';
+    out << "\nProject file    " << printableText(variants.toKTX()) << '\n';
+    out << "Order transfer  " << printableText(variants.toXTCI().toKTX()) << '\n';
+    out << "Order text      " << printableText(variants.toOrderTxt()) << '\n';
 }
 
 /// The options of the user.

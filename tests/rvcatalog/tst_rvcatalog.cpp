@@ -79,6 +79,7 @@ private Q_SLOTS:
     void orderDefaults();
     void orderHugePageCount();
     void orderNegativePageCount();
+    void orderOfTextsWithControls();
     void orderSample();
     void orderProblems_data();
     void orderProblems();
@@ -437,6 +438,26 @@ void tst_rvcatalog::orderNegativePageCount()
     const ProgramRun run = rvcatalog({ u"order"_s, u"negative.xml"_s, u"p.xml"_s }, myFolder.path());
     QCOMPARE(run.exitCode, 0);
     QVERIFY2(run.output.contains("Spine           7.0 mm\n"_L1), qPrintable(run.output));
+}
+
+// A text of the catalogue or of the project can neither break a line nor control the terminal.
+void tst_rvcatalog::orderOfTextsWithControls()
+{
+    write(u"c.xml"_s,
+          "<product type='X' name='a&#10;b&#x9b;1m' pages='1' price_class='P&#9;1'><forms>"
+          "<form key='k&#10;l' value='v&#9;w' key_name='K&#10;L' value_name='V&#x9b;W' preselected='true'/>"
+          "</forms></product>");
+    write(u"p.xml"_s, "<project productname='X' pages='1'/>");
+    const ProgramRun run = rvcatalog({ u"order"_s, u"c.xml"_s, u"p.xml"_s }, myFolder.path());
+    QCOMPARE(run.messages, QString());
+    QCOMPARE(run.output,
+             u"Product         X (a b 1m)\nPages           1 (0 packages above the lowest count)\n\nOptions\n"
+             "  K L: V W (default)\n\nPrice classes\n    1 x P 1\n\nProject file    k l:v w\n"
+             "Order transfer  k l:v w\nOrder text      k l:v w\n"_s);
+    write(u"p.xml"_s, "<project productname='X' pages='1' variants='k&#10;l:no&#x9b;ne'/>");
+    const ProgramRun refused = rvcatalog({ u"order"_s, u"c.xml"_s, u"p.xml"_s }, myFolder.path());
+    QCOMPARE(refused.messages.count(u'\n'), 1);
+    QVERIFY2(!refused.messages.contains(QChar(0x9b)), qPrintable(refused.messages));
 }
 
 void tst_rvcatalog::orderSample()
