@@ -210,9 +210,10 @@ QString RVEnumToStringTable<ENUM>::encodeCSV(ENUM value) const
     if (size == 0) // a single empty keyword gives a null text, as an empty list does
         return QString();
     QString result(size, Qt::Uninitialized);
-    QChar *end = copy(*keywords[0], result.data());
-    for (int i = 1; i < count; ++i) {
-        end = std::copy(SEPARATOR.begin(), SEPARATOR.end(), end);
+    QChar *end = result.data();
+    for (int i = 0; i < count; ++i) {
+        if (i != 0)
+            end = std::copy(SEPARATOR.begin(), SEPARATOR.end(), end);
         end = copy(*keywords[i], end);
     }
     return result;
