@@ -26,6 +26,8 @@ const char CATALOGUE[] =
         "</product>\n"
         "<product type='NEGATIVE' pages='-8' max_pages='8' page_step='4'><composition><spine base_width='9'/>"
         "</composition></product>\n"
+        "<product type='NOTHING' pages='0' max_pages='4' page_step='4'><composition><spine "
+        "base_width='9'/></composition></product>\n"
         "<product type='WIDE' pages='9'><composition units='inch'><spine base_width='1e308'/></composition></product>\n"
         "</products>\n";
 
@@ -108,6 +110,8 @@ void tst_rvcatalog_spine::oneCount()
     QCOMPARE(myRun.exitCode, 0);
     QCOMPARE(myRun.output.count(u'\n'), 2);
     QVERIFY2(myRun.output.contains("        30          0          0      4.00"_L1), qPrintable(myRun.output));
+    run({ u"c.xml"_s, u"NOTHING"_s });
+    QVERIFY2(myRun.output.contains("         0          0          0      9.00"_L1), qPrintable(myRun.output));
 }
 
 void tst_rvcatalog_spine::sample()
@@ -137,7 +141,7 @@ void tst_rvcatalog_spine::problems_data()
     QTest::newRow("negative page counts")
             << u"NEGATIVE"_s << u"c.xml:8:1: NEGATIVE has no valid page counts (min: -8; max: 8; increment: 4)\n"_s;
     QTest::newRow("infinite widths") << u"WIDE"_s
-                                     << u"c.xml:9:1: the spine widths of WIDE are too large for a number\n"_s;
+                                     << u"c.xml:10:1: the spine widths of WIDE are too large for a number\n"_s;
     QTest::newRow("two billion counts") << u"MANY"_s
                                         << u"c.xml:6:32: MANY has 2147483647 page counts, and no more than 100000 can "
                                            "be listed; set a larger page_step or a smaller max_pages\n"_s;
