@@ -12,6 +12,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QTextStream>
 
 #include <limits>
 
@@ -30,8 +31,6 @@ constexpr auto COUNT = "count"_L1;
 constexpr int THIS_VERSION = 1;
 /// The largest file. It has more findings than can be mended one by one.
 constexpr qint64 LARGEST_FILE = 1 << 28;
-/// The number of bytes that tell a baseline from a catalogue.
-constexpr qint64 LONGEST_BEGIN = 1024;
 /// The name of the standard input and output.
 constexpr auto STREAM = "-"_L1;
 
@@ -116,8 +115,10 @@ bool Baseline::isReplaceable(const Console &console) const
     QFile file(myFileName);
     if (myFileName == STREAM || !QFileInfo(myFileName).isFile() || !file.open(QIODevice::ReadOnly))
         return true;
-    const QByteArray begin = file.read(LONGEST_BEGIN).trimmed();
-    return begin.isEmpty() || begin.startsWith('{') || fail(console, u"this is no baseline, so it is not replaced"_s);
+    QTextStream text(&file);
+    text.skipWhiteSpace();
+    const QString first = text.read(1);
+    return first.isEmpty() || first == u'{' || fail(console, u"this is no baseline, so it is not replaced"_s);
 }
 
 void Baseline::add(const QString &catalogue, const RVCatalogueFinding &finding)

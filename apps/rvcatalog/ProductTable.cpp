@@ -14,7 +14,15 @@ namespace {
 // The columns are wide enough for usual codes and counts, because the table is written before its last row is known.
 constexpr int COLUMN_WIDTHS[] = { 9, 17, 7, 12, 8, 0 };
 constexpr int INDENT = COLUMN_WIDTHS[0];
-constexpr int NAME_COLUMN = 53; // behind the others
+
+/// The place of the name, which stands behind all other columns.
+constexpr int nameColumn()
+{
+    int result = 0;
+    for (const int width : COLUMN_WIDTHS)
+        result += width;
+    return result;
+}
 
 /// Ends every piece except the last with a sign that separates them: "class book;", "cover HARDCOVER".
 QStringList separated(QStringList pieces, QChar sign)
@@ -74,7 +82,7 @@ void ProductTable::write(const ProductValues &values)
 {
     const RVCatalogueProduct &product = values.product;
     const QString name = product.name();
-    const bool hasRoom = name.size() <= TERMINAL_WIDTH - NAME_COLUMN;
+    const bool hasRoom = name.size() <= TERMINAL_WIDTH - nameColumn();
     writeRow({ values.type.orderTxtName(), pageCountsText(values.pageCounts),
                QString::number(values.pageCounts.numberOfPackages()), spineText(values), fontText(values),
                hasRoom ? name : QString() });
