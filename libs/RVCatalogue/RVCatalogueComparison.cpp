@@ -205,7 +205,7 @@ void RVCatalogueComparisonPrivate::findRenamed()
     Queues articles;
     for (int i = int(myOld.size()) - 1; i >= 0; --i) {
         const OldProduct &old = myOld[std::size_t(i)];
-        if (old.newNumber == NONE && old.facts.articleId > 0)
+        if (old.newNumber == NONE)
             articles.prepend(quint64(old.facts.articleId), i);
     }
     for (NewProduct &product : myDifferent) {

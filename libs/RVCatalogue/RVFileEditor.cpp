@@ -163,10 +163,10 @@ public:
             if (begin < 0)
                 return true;
             const QByteArrayView end = endOf(text.sliced(begin));
-            const qsizetype found = end.isEmpty() ? begin : text.indexOf(end, begin);
+            const qsizetype found = text.indexOf(end, begin);
             if (found < 0)
                 return false;
-            myPlace = found + qMax(qsizetype(1), end.size());
+            myPlace = found + end.size();
         }
     }
 
@@ -177,7 +177,7 @@ private:
             return "-->";
         if (text.startsWith("<![CDATA["))
             return "]]>";
-        return text.startsWith("<?") ? QByteArrayView("?>") : QByteArrayView();
+        return text.startsWith("<?") ? "?>" : "<";
     }
 
     qsizetype myPlace = 0; // no comment, instruction or section is open up to here
@@ -328,7 +328,7 @@ bool RVFileEditorPrivate::writePiece(RVTextBytes *bytes, qint64 size, QIODevice 
 
 bool RVFileEditorPrivate::writeBytes(const QByteArray &bytes, QIODevice *to)
 {
-    constexpr qsizetype piece = qsizetype(64) * 1024;
+    constexpr qsizetype piece = 65536;
     myPending += bytes;
     return myPending.size() < piece || writePending(to);
 }
@@ -400,7 +400,6 @@ bool RVFileEditorPrivate::replace(const QString &target, QFile *from, QTemporary
     const QByteArray newName = QFile::encodeName(to->fileName());
     if (std::rename(newName.constData(), QFile::encodeName(target).constData()) != 0)
         return fail(tr("cannot write: %1").arg(qt_error_string(errno)));
-    to->setAutoRemove(false);
     return true;
 }
 

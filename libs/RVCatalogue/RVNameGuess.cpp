@@ -13,8 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The longest name in letters; a longer one is not in the vocabulary.
-constexpr qsizetype LONGEST_NAME = 40;
 /// Known names from this length on may need two changes.
 constexpr int LONG_NAME = 10;
 constexpr qsizetype SHORT_NAME = 4;
@@ -32,11 +30,6 @@ bool isSign(char letter)
     return letter == '_' || letter == '-' || letter == '.';
 }
 
-char lowerCase(char letter)
-{
-    return letter >= 'A' && letter <= 'Z' ? char(letter - 'A' + 'a') : letter;
-}
-
 /// The letters of a name in any order; they distinguish nearly all foreign names from the known ones.
 class LetterSet
 {
@@ -44,11 +37,11 @@ public:
     explicit LetterSet(QByteArrayView name)
     {
         for (const char letter : name) {
-            const char lower = lowerCase(letter);
-            const bool isLetter = lower >= 'a' && lower <= 'z';
-            myBits |= isLetter ? 1U << (lower - 'a') : 0;
-            mySize += isSign(letter) ? 0 : 1;
-            myIsAscii = myIsAscii && uchar(letter) < 0x80;
+            if (isSign(letter))
+                continue;
+            myLetters |= bit(letter);
+            myBytes |= uchar(letter);
+            ++mySize;
         }
     }
 
@@ -56,16 +49,18 @@ public:
     /// False if one cannot become the other with this number of changes and "ph" for "f".
     bool mayBe(const LetterSet &known, int changes) const
     {
-        constexpr quint32 interchangeable = 1U << ('p' - 'a') | 1U << ('h' - 'a') | 1U << ('f' - 'a');
-        const quint32 others = (myBits ^ known.myBits) & ~interchangeable;
-        return !myIsAscii
-                || (qAbs(mySize - known.mySize) <= changes + 1 && int(qPopulationCount(others)) <= 2 * changes);
+        const quint32 interchangeable = bit('p') | bit('h') | bit('f');
+        const quint32 others = (myLetters ^ known.myLetters) & ~interchangeable;
+        return myBytes > 0x7F || int(qPopulationCount(others)) <= 2 * changes;
     }
 
 private:
-    quint32 myBits = 0;
+    /// One of 32, which is the same for a capital and a small letter.
+    static quint32 bit(char letter) { return 1U << (letter & 0x1F); }
+
+    quint32 myLetters {};
+    uchar myBytes {}; // combined
     int mySize = 0;
-    bool myIsAscii = true;
 };
 
 /// A name without the parts that do not count.
@@ -184,8 +179,6 @@ RVNameGuess rvGuessName(QByteArrayView name, const RVNameList &knownNames)
 {
     RVNameGuess result;
     result.changes = TOO_MANY;
-    if (name.size() > 2 * LONGEST_NAME)
-        return result;
     const LetterSet letters(name);
     for (const QLatin1StringView known : knownNames) {
         const int changes = changesTo(known, name, letters);

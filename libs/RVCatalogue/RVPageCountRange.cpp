@@ -10,8 +10,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A modular inverse of @p factor: its product with @p factor leaves 1 when divided by @p modulus. It is above 0 and
-/// at most twice the modulus. The two have no common divisor.
+/// A modular inverse of @p factor: 1 less than its product with @p factor is a multiple of @p modulus. It may be below
+/// 0, and is nearer to 0 than the modulus. The two have no common divisor.
 qint64 inverse(qint64 factor, qint64 modulus)
 {
     qint64 last = 0;
@@ -22,7 +22,7 @@ qint64 inverse(qint64 factor, qint64 modulus)
         remainder = std::exchange(divisor, remainder % divisor);
         last = std::exchange(result, last - quotient * result);
     }
-    return last + modulus;
+    return last;
 }
 
 /// The last count of steps from @p from that is not above @p limit.
@@ -65,8 +65,8 @@ RVPageCountRange rvCommonCounts(const RVPageCountRange &a, const RVPageCountRang
     if (divisor == 0 || (b.from - a.from) % divisor != 0)
         return RVPageCountRange();
     const qint64 modulus = std::max(b.step / divisor, qint64(1));
-    const qint64 distance = ((b.from - a.from) / divisor % modulus + modulus) % modulus;
-    const qint64 steps = distance * inverse(a.step / divisor, modulus) % modulus;
+    const qint64 distance = (b.from - a.from) / divisor;
+    const qint64 steps = (distance * inverse(a.step / divisor, modulus) % modulus + modulus) % modulus;
     const qint64 step = std::max(a.step * modulus, qint64(1));
     const qint64 first = a.from + steps * a.step;
     const qint64 from = first + std::max(b.from - first + step - 1, qint64(0)) / step * step;

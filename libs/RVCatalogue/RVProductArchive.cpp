@@ -11,7 +11,7 @@ namespace {
 /// The level of compression. A higher one takes noticeably longer, and a lower one saves no time.
 constexpr int EFFORT = 1;
 /// A reader accepts larger products in parts, but a tag may be larger here than in the file.
-constexpr qsizetype LARGEST = qsizetype(32) * 1024;
+constexpr qsizetype LARGEST = 32768;
 
 /// The product in groups with the names of its families.
 QByteArray withFamilies(const RVCatalogueProduct &product)
@@ -33,7 +33,6 @@ QByteArray withFamilies(const RVCatalogueProduct &product)
 RVProductPack::RVProductPack(const QList<RVCatalogueProduct> &products)
 {
     QByteArray text;
-    ends.reserve(products.size());
     for (const RVCatalogueProduct &product : products) {
         const QByteArray element = withFamilies(product);
         if (element.size() <= LARGEST)

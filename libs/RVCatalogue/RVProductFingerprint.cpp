@@ -4,10 +4,10 @@
 #include "RVCatalogueProductData_p.h"
 
 #include <QCryptographicHash>
+#include <QVarLengthArray>
 
 #include <algorithm>
 #include <cstring>
-#include <vector>
 
 namespace {
 
@@ -39,17 +39,17 @@ public:
 private:
     void appendElement(const RVCatalogueRows::Element &element)
     {
-        mySorted.clear();
+        QVarLengthArray<const RVCatalogueRows::Attribute *> sorted;
         for (quint32 i = element.attributesBegin; i < element.attributesEnd; ++i)
-            mySorted.push_back(&myRows.attributes[i]);
-        std::sort(mySorted.begin(), mySorted.end(),
+            sorted.append(&myRows.attributes[i]);
+        std::sort(sorted.begin(), sorted.end(),
                   [this](const RVCatalogueRows::Attribute *a, const RVCatalogueRows::Attribute *b) {
                       return isBefore(myRows.view(a->name), myRows.view(b->name));
                   });
         myText.append(ELEMENT_BEGIN);
         append(myRows.name(element));
         append(QByteArray::number(element.end)); // tells which elements are in it
-        for (const RVCatalogueRows::Attribute *attribute : mySorted) {
+        for (const RVCatalogueRows::Attribute *attribute : sorted) {
             append(myRows.view(attribute->name));
             append(myRows.view(attribute->value));
         }
@@ -57,7 +57,6 @@ private:
 
     const RVCatalogueRows &myRows;
     QByteArray myText;
-    std::vector<const RVCatalogueRows::Attribute *> mySorted;
 };
 
 }

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr qint64 LONGEST_PIECE = qint64(64) * 1024;
+constexpr qint64 LONGEST_PIECE = 65536;
 /// The number of bytes of UTF-8 before the end of a piece in which letters are converted one by one: no letter, and no
 /// two that are written as one, have more.
 constexpr qint64 MARGIN = 16;
@@ -80,8 +80,6 @@ RVTextPiece RVTextBytes::take(qint64 size)
         return takeExactly(size);
     if (!myAhead.isEmpty())
         return std::exchange(myAhead, RVTextPiece());
-    if (available() < qsizetype(RVIconv::LONGEST_LETTER))
-        fill();
     const RVTextPiece piece = convert(available(), qMin(size - MARGIN, LONGEST_PIECE));
     return piece.isEmpty() ? takeLetter() : piece;
 }

@@ -19,11 +19,11 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int DEEPEST_LEVEL = 256;
-constexpr qint64 LARGEST_PIECE = qint64(1024) * 1024;
+constexpr qint64 LARGEST_PIECE = 1048576; // 1 MiB
 /// The largest tag. The parser compares each attribute of a tag with all others, so the limit keeps that fast.
-constexpr qint64 LARGEST_TAG = qint64(64) * 1024;
+constexpr qint64 LARGEST_TAG = 65536; // 64 KiB
 /// The number of bytes that the parser gets at once. It handles a tag when the tag is complete.
-constexpr qsizetype BITE = qsizetype(16) * 1024;
+constexpr qsizetype BITE = 16384;
 
 /// The options of the parser: the text is in UTF-8, even if its first line says otherwise, and references are resolved.
 constexpr int OPTIONS = XML_PARSE_NONET | XML_PARSE_IGNORE_ENC | XML_PARSE_NOENT;
@@ -236,7 +236,7 @@ void RVXmlScanner::bite(QByteArrayView text)
     if (!myError.isEmpty())
         return;
     checkPiece(myFed);
-    if (myFed - parsed() >= LARGEST_TAG && textFrom(parsed()).startsWith('<') && textFrom(parsed()).size() > 1
+    if (myFed - parsed() >= LARGEST_TAG && textFrom(parsed()).startsWith('<')
         && !std::strchr("!?", textFrom(parsed())[1]))
         failAt(tr("a tag is larger than 64 KiB"), parsed());
 }

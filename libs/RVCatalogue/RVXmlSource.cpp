@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 READ_SIZE = qint64(64) * 1024;
+constexpr qint64 READ_SIZE = 65536;
 /// The limit of a declaration, which is always shorter.
 constexpr qint64 LONGEST_DECLARATION = 1024;
 
@@ -99,7 +99,7 @@ public:
         auto left = std::size_t(bytes->size());
         bool isRight = true;
         while (left > 0 && isRight) {
-            QByteArray piece(qsizetype(left) * 2 + 16, Qt::Uninitialized);
+            QByteArray piece(READ_SIZE, Qt::Uninitialized);
             char *to = piece.data();
             auto room = std::size_t(piece.size());
             const bool isDone = myIconv.convert(&from, &left, &to, &room) != std::size_t(-1);
