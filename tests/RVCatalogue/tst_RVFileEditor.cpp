@@ -92,23 +92,25 @@ QStringList namesIn(const QString &folder)
     return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
 }
 
-/// A device that cannot be written beyond some bytes, like a full disk.
+/// A device that is written byte by byte, but not beyond some bytes, like a full disk.
 class FullFile : public QBuffer
 {
 public:
-    explicit FullFile(qint64 room) : myRoom(room) { open(QIODevice::ReadWrite); }
+    /// @p failure is the result of writing more.
+    FullFile(qint64 room, qint64 failure) : myRoom(room), myFailure(failure) { open(QIODevice::ReadWrite); }
 
 protected:
     qint64 writeData(const char *data, qint64 size) override
     {
-        if (pos() + size <= myRoom)
-            return QBuffer::writeData(data, size);
+        if (pos() < myRoom)
+            return QBuffer::writeData(data, qMin(size, qint64(1)));
         setErrorString(u"No space left on device"_s);
-        return -1;
+        return myFailure;
     }
 
 private:
     qint64 myRoom;
+    qint64 myFailure;
 };
 
 /// A device whose text ends early when it is read for the second time.
@@ -424,6 +426,8 @@ void tst_RVFileEditor::unwritableLetters_data()
                                << *encoded(u"<a b='€'/>"_s, "UTF-16BE") << QString();
     QTest::newRow("in a comment") << latin1 + "<a/><!-- 1 -->" << edit(2, 10, 2, 11, u"€"_s) << QByteArray()
                                   << u"\"€\" cannot be written in ISO-8859-1"_s;
+    QTest::newRow("in the declaration") << latin1 + "<a/>" << edit(1, 18, 1, 19, u"€"_s) << QByteArray()
+                                        << u"\"€\" cannot be written in ISO-8859-1"_s;
     QTest::newRow("in an instruction") << latin1 + "<a/><?b 1?>" << edit(2, 9, 2, 10, u"€"_s) << QByteArray()
                                        << u"\"€\" cannot be written in ISO-8859-1"_s;
     QTest::newRow("in a section") << latin1 + "<a><![CDATA[1]]></a>" << edit(2, 13, 2, 14, u"€"_s) << QByteArray()
@@ -483,12 +487,15 @@ void tst_RVFileEditor::fullDevice()
     RVFileEditor editor;
     QVERIFY(editor.add({ edit(7, 8, u"2"_s) }));
     for (const int room : { 0, 6, 7, 9 }) {
-        FullFile to(room);
-        QVERIFY(!editor.apply(&from, &to));
-        QCOMPARE(editor.errorString(), u"cannot write: No space left on device"_s);
+        for (const int failure : { -1, 0 }) {
+            FullFile to(room, failure);
+            QVERIFY(!editor.apply(&from, &to));
+            QCOMPARE(editor.errorString(), u"cannot write: No space left on device"_s);
+        }
     }
-    FullFile to(10);
+    FullFile to(10, -1);
     QVERIFY(editor.apply(&from, &to));
+    QCOMPARE(editor.errorString(), QString());
     QCOMPARE(to.data(), QByteArray("<a b='2'/>"));
 }
 
@@ -523,7 +530,9 @@ void tst_RVFileEditor::saveWithoutFixes()
     QFileInfo after(path);
     QCOMPARE(after.metadataChangeTime(), before.metadataChangeTime());
     RVFileEditor missing(myFolder->path(u"missing.xml"_s));
+    QVERIFY(missing.apply("<a>").isNull());
     QVERIFY(missing.save());
+    QCOMPARE(missing.errorString(), QString());
     QCOMPARE(namesIn(myFolder->path()), QStringList { u"a.xml"_s });
 }
 

@@ -209,6 +209,18 @@ void tst_RVFindingText::foreignLetters_data()
     QTest::newRow("visible sign beyond ASCII")
             << u"page_binding"_s << u"glue\u20AC"_s
             << u"\"glue\u20AC\" is no keyword of page_binding; did you mean \"glue\"?"_s;
+    for (const char16_t letter : { u'\u034F', u'\uFE00', u'\uFE0F' }) {
+        const QString name = u"U+"_s + QString::number(letter, 16).toUpper().rightJustified(4, u'0');
+        QTest::addRow("mark without a width, %s", qPrintable(name))
+                << u"page_binding"_s << u"glue"_s + letter
+                << u"\"glue%1\" is no keyword of page_binding; it has %2, which is invisible; did you mean \"glue\"?"_s
+                           .arg(QChar(letter), name);
+    }
+    QTest::newRow("last sign of ASCII") << u"page_binding"_s << u"glue~"_s
+                                        << u"\"glue~\" is no keyword of page_binding; did you mean \"glue\"?"_s;
+    QTest::newRow("wide form of the last sign of ASCII")
+            << u"page_binding"_s << u"glue\uFF5E"_s
+            << u"\"glue\uFF5E\" is no keyword of page_binding; it has U+FF5E, which looks like \"~\"; did you mean \"glue\"?"_s;
     QTest::newRow("only invisible letters")
             << u"page_binding"_s << u"\u200B\u200D"_s
             << u"\"  \" is no keyword of page_binding; it has U+200B, which is invisible; there are unknown, glue, "
@@ -222,6 +234,9 @@ void tst_RVFindingText::foreignLetters_data()
     QTest::newRow("number of another script") << u"pages"_s << u"\u0663"_s
                                               << u"pages is \"\u0663\", which is no whole number; it has U+0663, which "
                                                  "looks like \"3\"; write 3"_s;
+    QTest::newRow("zero of another script") << u"pages"_s << u"1\u0660"_s
+                                            << u"pages is \"1\u0660\", which is no whole number; it has U+0660, which "
+                                               "looks like \"0\"; write 10"_s;
     QTest::newRow("minus sign")
             << u"pieces"_s << u"\u22121"_s
             << u"pieces is \"\u22121\", which is no whole number; it has U+2212, which looks like \"-\"; write -1"_s;
@@ -563,6 +578,8 @@ void tst_RVFindingText::ownPriceClasses_data()
     QTest::newRow("built in") << u"LEZ2"_s << QString();
     QTest::newRow("near a configured one") << u"FOIL"_s << no(u"FOIL"_s, u"\"FOIL1\""_s);
     QTest::newRow("configured, in small letters") << u"prägung"_s << no(u"prägung"_s, u"\"PRÄGUNG\""_s);
+    QTest::newRow("configured with a blank and without it") << u"wren lot"_s << no(u"wren lot"_s, u"\"WREN LOT\""_s);
+    QTest::newRow("blank for another sign") << u"QUUX BAR"_s << no(u"QUUX BAR"_s, u"\"QUUX_BAR\""_s);
     QTest::newRow("configured and built in") << u"lez1"_s << no(u"lez1"_s, u"\"LEZ1\""_s);
 }
 
@@ -570,7 +587,8 @@ void tst_RVFindingText::ownPriceClasses()
 {
     QFETCH(QString, code);
     RVCatalogueCheck check;
-    check.addPriceClasses({ u"\U0001F4D5BOOK"_s, u"\uFB01LM"_s, u"FOIL1"_s, u"PRÄGUNG"_s, u"LEZ1"_s });
+    check.addPriceClasses({ u"\U0001F4D5BOOK"_s, u"\uFB01LM"_s, u"FOIL1"_s, u"PRÄGUNG"_s, u"LEZ1"_s, u"WREN LOT"_s,
+                            u"WRENLOT"_s, u"QUUX_BAR"_s, u"QUUXBA"_s });
     QStringList texts;
     for (const RVCatalogueFinding &finding : findingsOf(productWith(attribute(u"page_price_class"_s, code)), check))
         texts += finding.text();

@@ -163,6 +163,9 @@ void tst_RVNameCheck::found_data()
     attribute("letter replaced", product("pates='2'"), u"pates='2'"_s);
     attribute("two changes in two words", product("shiping_gruop='2'"), u"shiping_gruop='2'"_s);
     attribute("two changes in a long word", product("oreintatoin='portrait'"), u"oreintatoin='portrait'"_s);
+    attribute("two changes in a word of six letters", product("page_bintng='glue'"), u"page_bintng='glue'"_s);
+    attribute("two changes in a name of ten letters", spine("base_width='8' blcok_wdith='1' packages_per_block='1'"),
+              u"blcok_wdith='1'"_s);
     attribute("photo", product("photo_paper_type='matt'"), u"photo_paper_type='matt'"_s);
     attribute("letter replaced behind a p", product("phges='2'"), u"phges='2'"_s);
     attribute("letter too many in photo", product("pages='9' phooto_box='true'"), u"phooto_box='true'"_s);
@@ -301,7 +304,8 @@ void tst_RVNameCheck::silent_data()
     QTest::newRow("name spaces") << product("xmlns='u' xmlns:p='v'");
     QTest::newRow("attributes with prefixes")
             << product("xmlns:p='u' p:pages='8' p:page='8' xml:lang='de' xmlns:xsi='v' xsi:type='w'");
-    for (const char *name : { "back_width", "book_width", "packages_per_book", "width", "name", "type", "key" })
+    for (const char *name :
+         { "back_width", "book_width", "flack_width", "packages_per_book", "width", "name", "type", "key" })
         QTest::addRow("%s of a spine", name) << spine("base_width='8' " + QByteArray(name) + "='1'");
     for (const char *name : { "type", "rotation", "x", "page", "value", "name", "orientation" })
         QTest::addRow("%s of a barcode", name)
