@@ -324,8 +324,8 @@ void tst_RVNameCheck::silent_data()
     for (const char *name : { "weight", "width2", "pageNr2", "bar_width", "position_z2" })
         QTest::addRow("%s of a barcode", name)
                 << barcode("position_y='20' width='38' height='10' pageNr='2' " + QByteArray(name) + "='1'");
-    for (const char *name : { "editor_name_de", "editorNameEn", "key2", "name_1", "color2", "my_key", "review",
-                              "price_class_2", "price_class2" })
+    for (const char *name : { "editor_name_de", "editorNameEn", "key2", "name_1", "color2", "my_key", "a_key", "key_a",
+                              "review", "price_class_2", "price_class2" })
         QTest::addRow("%s of an option", name) << forms("<form key='a' value='b' " + QByteArray(name) + "='1'/>");
     QTest::newRow("another width of a spine") << spine("base_width='8' case_width='1' base_width_2='3'");
     QTest::newRow("foreign elements") << product(
