@@ -61,7 +61,6 @@ template<typename Products>
 ReadProducts<Products> readProducts(const QList<RVCatalogueProduct> &products)
 {
     ReadProducts<Products> result { {}, Products(products) };
-    result.facts.reserve(std::size_t(products.size()));
     for (const RVCatalogueProduct &product : products)
         result.facts.emplace_back(product);
     return result;

@@ -251,9 +251,8 @@ QList<RVCatalogueProduct> RVCatalogueReaderPrivate::read()
 {
     if (!fill())
         return {};
-    const QList<RVCatalogueProduct> result = myNext == 0 ? std::exchange(myProducts, {}) : myProducts.sliced(myNext);
+    const QList<RVCatalogueProduct> result = myProducts.sliced(std::exchange(myNext, 0));
     myProducts.clear();
-    myNext = 0;
     for (const RVCatalogueProduct &product : result)
         findDuplicates(product);
     return result;

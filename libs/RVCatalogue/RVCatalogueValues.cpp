@@ -16,7 +16,7 @@ bool isPlainNumber(QByteArrayView text)
 {
     constexpr qsizetype longest = 9;
     return text.size() <= longest && std::all_of(text.begin(), text.end(), [](char letter) {
-               return (letter >= '0' && letter <= '9') || letter == '-' || letter == '.';
+               return QByteArrayView("0123456789-.").contains(letter);
            });
 }
 

@@ -9,14 +9,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// All keywords if they are few and short, otherwise the command that lists them.
+/// All keywords if they are few, otherwise the command that lists them.
 QString listOf(const RVKeywordVocabulary &vocabulary)
 {
-    constexpr qsizetype most = 8;
-    constexpr qsizetype longest = 80;
-    const QString all = rvAllOf(vocabulary.keywords());
-    if (vocabulary.keywords().size() <= most && all.size() <= longest)
-        return RVFindingText::tr("there are %1").arg(all);
+    constexpr qsizetype many = 9;
+    if (vocabulary.keywords().size() < many)
+        return RVFindingText::tr("there are %1").arg(rvAllOf(vocabulary.keywords()));
     return RVFindingText::tr("\"rvcatalog keywords %1\" lists them").arg(vocabulary.attributeName());
 }
 

@@ -31,7 +31,6 @@ class Options
 public:
     explicit Options(const RVCatalogueProduct &product) : myVariants(product.options())
     {
-        myOptions.reserve(std::size_t(myVariants.size()));
         auto variant = myVariants.cbegin();
         const RVCatalogueElement forms = product.element().firstChildElement("forms"_L1);
         for (auto form = forms.firstChildElement("form"_L1); !form.isNull();

@@ -8,36 +8,23 @@
 #include "RVNumberFault_p.h"
 #include "RVUnitText_p.h"
 
-#include <algorithm>
-#include <iterator>
-
 using namespace Qt::StringLiterals;
 
 namespace {
 
-struct BooleanText
-{
-    QLatin1StringView text;
-    bool value;
-};
-
-constexpr BooleanText BOOLEAN_TEXTS[] = {
-    { QLatin1StringView("true"), true }, { QLatin1StringView("false"), false }, { QLatin1StringView("yes"), true },
-    { QLatin1StringView("no"), false },  { QLatin1StringView("on"), true },     { QLatin1StringView("off"), false },
-    { QLatin1StringView("1"), true },    { QLatin1StringView("0"), false },
+constexpr QLatin1StringView BOOLEAN_TEXTS[] = {
+    QLatin1StringView("true"), QLatin1StringView("false"), QLatin1StringView("yes"), QLatin1StringView("no"),
+    QLatin1StringView("on"),   QLatin1StringView("off"),   QLatin1StringView("1"),   QLatin1StringView("0"),
 };
 
 /// The boolean that an invalid text means: "true" for " true" and "ture"; null if it may mean both, or none.
 QString meantBoolean(const QString &text)
 {
-    QString plain = RVForeignLetters(text).plain().trimmed();
+    const QString plain = RVForeignLetters(text).plain().trimmed();
     RVNearestTexts nearest(plain, 2);
-    for (const BooleanText &row : BOOLEAN_TEXTS)
-        nearest.offer(row.text);
-    const auto *found = std::find_if(std::begin(BOOLEAN_TEXTS), std::end(BOOLEAN_TEXTS), [&](const auto &row) {
-        return plain.compare(row.text, Qt::CaseInsensitive) == 0;
-    });
-    if (found != std::end(BOOLEAN_TEXTS))
+    for (const QLatin1StringView boolean : BOOLEAN_TEXTS)
+        nearest.offer(boolean);
+    if (nearest.distance() == 0)
         return plain;
     return nearest.texts().size() == 1 ? nearest.texts().first() : QString();
 }
@@ -45,8 +32,8 @@ QString meantBoolean(const QString &text)
 QString allBooleans()
 {
     QStringList texts;
-    for (const BooleanText &row : BOOLEAN_TEXTS)
-        texts += row.text;
+    for (const QLatin1StringView boolean : BOOLEAN_TEXTS)
+        texts += boolean;
     return rvAllOf(texts);
 }
 
@@ -134,8 +121,5 @@ bool rvCheckUnit(const RVCatalogueElement &element, RVFindingReport *report)
 
 bool rvIsBlank(const RVCatalogueElement &element, QLatin1StringView name)
 {
-    const QByteArrayView text = element.utf8(name);
-    const bool hasPlainLetter = std::any_of(text.begin(), text.end(),
-                                            [](char letter) { return letter > ' ' && letter <= '~'; });
-    return !hasPlainLetter && element.attribute(name).trimmed().isEmpty();
+    return element.attribute(name).trimmed().isEmpty();
 }
