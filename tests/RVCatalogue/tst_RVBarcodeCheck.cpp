@@ -126,6 +126,8 @@ void tst_RVBarcodeCheck::usualPage_data()
     off("right of a wide page", endingAt("420", "50", "landscape", "600cm2"), u"position_x='382'"_s);
     off("below a wide page", endingAt("260", "265", "landscape", "600cm2"), u"position_y='265'"_s);
     off("right of an upright page", endingAt("265", "100", "portrait", "600cm2"), u"position_x='227'"_s);
+    off("right of an upright page that is nearly square", endingAt("265", "285", "portrait", "600cm2"),
+        u"position_x='227'"_s);
     on("upright page, unknown size", endingAt("50", "400", "portrait", "normal"));
     on("upright or square page", endingAt("260", "270", "portrait, square", "600cm2"));
     off("neither upright nor square page", endingAt("300", "50", "portrait, square", "600cm2"), u"position_x='262'"_s);

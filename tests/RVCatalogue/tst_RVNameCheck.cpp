@@ -469,6 +469,9 @@ void tst_RVNameCheck::texts_data()
     QTest::newRow("attribute that may be one of two")
             << barcode("width='38' height='10' pageNr='2' position='1'")
             << u"the attribute \"position\" is not read; did you mean \"position_x\" or \"position_y\"?"_s;
+    QTest::newRow("attribute in another letter case, near another one")
+            << barcode("width='38' height='10' pageNr='2' Position_Y='20'")
+            << u"the attribute \"Position_Y\" is not read; did you mean \"position_y\"?"_s;
     QTest::newRow("attribute with other letters")
             << product("m\xd0\xb0x_pag\xd0\xb5s='8'")
             << u"the attribute \"m\u0430x_pag\u0435s\" (with U+0430, U+0435) is not read; did you mean \"max_pages\"?"_s;
