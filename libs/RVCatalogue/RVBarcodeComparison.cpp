@@ -163,14 +163,12 @@ private:
         changes->addLength("barcode.height"_L1, RVChangeText::tr("height"), lengths(height));
         changes->addText("barcode.image"_L1, RVChangeText::tr("image"),
                          { before.definition.imageName(), after.definition.imageName() });
-        changes->endItem();
     }
 
     static void addOne(const Barcode &barcode, const RVVersions<RVComparedValue> &values, RVProductChanges *changes)
     {
         beginItem(barcode, changes);
         changes->add("barcode"_L1, QString(), values);
-        changes->endItem();
     }
 
     std::vector<Barcode> myOld;

@@ -125,7 +125,6 @@ void addOne(const Option &option, const RVVersions<RVComparedValue> &values, RVP
 {
     beginItem(option, changes);
     changes->add("option"_L1, QString(), values);
-    changes->endItem();
 }
 
 void compareTexts(const Option &before, const Option &after, RVProductChanges *changes)
@@ -165,7 +164,6 @@ void compareTwo(const Option &before, const Option &after, const Defaults &defau
     if (isHiddenDefault(after, defaults))
         changes->addBoolean("option.preselected"_L1, RVChangeText::tr("preselected"),
                             { before.variant.isDefault(), after.variant.isDefault() });
-    changes->endItem();
 }
 
 void compareDefaults(const Defaults &defaults, const QStringList &keys, RVProductChanges *changes)
@@ -173,7 +171,6 @@ void compareDefaults(const Defaults &defaults, const QStringList &keys, RVProduc
     for (const QString &key : keys) {
         changes->beginItem(RVChangeText::tr("Default of %1").arg(key), QJsonObject { { u"key"_s, key } });
         changes->addText("option.default"_L1, QString(), { defaults.before.value(key), defaults.after.value(key) });
-        changes->endItem();
     }
 }
 

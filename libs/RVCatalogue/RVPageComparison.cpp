@@ -57,7 +57,6 @@ void add(const Widths &widths, RVProductChanges *changes)
     changes->beginItem(QString(), widths.counts.json());
     changes->add("spine.width"_L1, RVChangeText::tr("Spine width at %1 pages").arg(widths.counts.text()),
                  rvComparedLengths(widths.widths));
-    changes->endItem();
 }
 
 void compareWidths(const RVVersions<Spine> &spines, const RVPageCountRange &counts, RVProductChanges *changes)

@@ -35,11 +35,6 @@ void RVProductChanges::beginItem(const QString &prefix, const QJsonObject &item)
     myItem = item;
 }
 
-void RVProductChanges::endItem()
-{
-    beginItem(QString(), QJsonObject());
-}
-
 void RVProductChanges::addText(QLatin1StringView subject, const QString &label, const RVVersions<QString> &texts)
 {
     if (texts.differ())

@@ -30,9 +30,9 @@ struct RVVersions
 class RVProductChanges
 {
 public:
-    /// Sets the item of the next changes; @p prefix comes before their labels.
+    /// Sets the item of all changes up to the next item; @p prefix comes before their labels. Changes without an item
+    /// are added first.
     void beginItem(const QString &prefix, const QJsonObject &item);
-    void endItem();
 
     /// Adds a change unless the values are equal. An empty text counts as missing.
     void addText(QLatin1StringView subject, const QString &label, const RVVersions<QString> &texts);
