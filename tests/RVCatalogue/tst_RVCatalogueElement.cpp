@@ -83,6 +83,7 @@ void tst_RVCatalogueElement::children()
     QCOMPARE(first.nextSiblingElement("c"_L1).attribute("n"_L1), u"3"_s);
     QVERIFY(first.nextSiblingElement("c"_L1).nextSiblingElement().isNull());
     QVERIFY(element.firstChildElement("e"_L1).isNull());
+    QVERIFY(firstProduct("<p><product/><product/></p>").element().nextSiblingElement().isNull());
     QCOMPARE(element.firstChildElement().name(), u"c"_s);
 }
 

@@ -34,6 +34,7 @@ void tst_RVCatalogueProject::everything()
     QCOMPARE(project.variants(), u"alcolor:red,a;b:c;d"_s);
     QCOMPARE(project.element().name(), u"project"_s);
     QVERIFY(project.element().firstChildElement().isNull());
+    QVERIFY(project.element().nextSiblingElement().isNull());
     QCOMPARE(project.element().attributeRange("variants"_L1).begin.line, qint64(3));
     QCOMPARE(project.element().attributeRange("variants"_L1).begin.column, qint64(2));
 }

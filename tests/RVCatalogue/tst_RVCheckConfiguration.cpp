@@ -215,6 +215,9 @@ void tst_RVCheckConfiguration::faults_data()
             << QByteArray("ralex = 1") << u"1:1"_s << QByteArray(R"({"ralex": 1})")
             << u"there is no entry \"ralex\"; did you mean \"rules\"?"_s;
     const QString entries = u"there are: rules, foreign, price_classes, page_sizes"_s;
+    QTest::newRow("entry of four letters, two of which are wrong")
+            << QByteArray("ruxs = 1") << u"1:1"_s << QByteArray(R"({"ruxs": 1})")
+            << u"there is no entry \"ruxs\"; "_s + entries;
     QTest::newRow("short entry with three wrong letters")
             << QByteArray("forexx = 1") << u"1:1"_s << QByteArray(R"({"forexx": 1})")
             << u"there is no entry \"forexx\"; "_s + entries;

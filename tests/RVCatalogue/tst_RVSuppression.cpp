@@ -282,6 +282,12 @@ void tst_RVSuppression::elements_data()
         { u"1"_s + notUsed });
     row("group without products", "<p>" + ignoring("keyword-legacy") + "\n<g/><product type='A' article_id='1'/></p>",
         { u"1"_s + notUsed });
+    const QByteArray stray = ignoring("element-misplaced") + "\n<forms/>";
+    row("part of a product beside products", "<p>" + stray + "<product type='A' article_id='1'/></p>", none);
+    row("part of a product in a group without products",
+        "<p><g>" + stray + "</g><product type='A' article_id='1'/></p>", none);
+    row("misspelt product", "<p>" + ignoring("element-misspelt") + "<prodct/><product type='A' article_id='1'/></p>",
+        none);
     row("duplicate in a group",
         "<p><product type='A' article_id='1'/>" + ignoring("type-duplicate")
                 + "\n<g><product type='A' article_id='2'/></g></p>",
