@@ -69,8 +69,8 @@ std::optional<QByteArray> RVCheckConfigurationData::readText()
     }
     // A pipe gives its text in pieces.
     QByteArray text;
-    for (QByteArray piece = file.read(LARGEST_FILE + 1); !piece.isEmpty() && text.size() <= LARGEST_FILE;
-         piece = file.read(LARGEST_FILE + 1))
+    for (QByteArray piece = file.read(LARGEST_FILE); !piece.isEmpty() && text.size() <= LARGEST_FILE;
+         piece = file.read(LARGEST_FILE))
         text += piece;
     if (file.error() != QFileDevice::NoError)
         fail(tr("cannot read the file: %1").arg(file.errorString()));
