@@ -7,7 +7,6 @@
 #include <QHash>
 
 #include <algorithm>
-#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -104,8 +103,7 @@ struct Row
 
     friend bool operator<(const Row &a, const Row &b)
     {
-        return std::tuple(a.newNumber, a.different == NONE, a.oldNumber)
-                < std::tuple(b.newNumber, b.different == NONE, b.oldNumber);
+        return std::pair(a.newNumber, a.oldNumber) < std::pair(b.newNumber, b.oldNumber);
     }
 };
 

@@ -4,8 +4,7 @@ RVFilePosition RVConfigurationTree::inFile(const RVFilePosition &position) const
 {
     const QByteArray line = encodedText.split('\n').value(position.line - 1);
     const QByteArray before = line.left(position.column - 1);
-    // A place behind the end of the line, such as that of a missing quote, keeps its distance from the end.
-    const qint64 behind = position.column - 1 - before.size();
     const QString letters = QString::fromUtf8(QByteArray::fromPercentEncoding(before, RV_CONFIGURATION_MARK));
-    return { position.line, letters.size() + 1 + behind };
+    // A place behind the end of the line, such as that of a missing quote, keeps its distance from the end.
+    return { position.line, letters.size() + position.column - before.size() };
 }

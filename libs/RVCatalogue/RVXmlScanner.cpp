@@ -217,13 +217,13 @@ bool RVXmlScanner::scan()
     const QByteArray text = mySource.read();
     if (text.isEmpty()) {
         end();
-        return false;
+    } else {
+        myWindow.remove(0, myEvent);
+        myWindowBegin += std::exchange(myEvent, 0);
+        myWindow += text;
+        for (qsizetype begin = 0; begin < text.size() && myError.isEmpty(); begin += BITE)
+            bite(QByteArrayView(text).sliced(begin, qMin(BITE, text.size() - begin)));
     }
-    myWindow.remove(0, myEvent);
-    myWindowBegin += std::exchange(myEvent, 0);
-    myWindow += text;
-    for (qsizetype begin = 0; begin < text.size() && myError.isEmpty(); begin += BITE)
-        bite(QByteArrayView(text).sliced(begin, qMin(BITE, text.size() - begin)));
     return !myIsAtEnd;
 }
 

@@ -42,9 +42,9 @@ const Beginning BEGINNINGS[] = {
 /// True if a declaration would have ended, in any encoding, so that a pipe need not deliver more.
 bool hasWholeDeclaration(QByteArrayView bytes)
 {
-    constexpr qsizetype largestLetter = 4;
-    const qsizetype end = bytes.indexOf('>');
-    return end >= 0 && end + largestLetter <= bytes.size();
+    constexpr qsizetype restOfLetter = 3; // a letter has up to four bytes
+    const qsizetype end = bytes.indexOf('>') + 1;
+    return end > 0 && end + restOfLetter <= bytes.size();
 }
 
 /// The name in the declaration; empty if the text has no declaration, or one without an encoding.

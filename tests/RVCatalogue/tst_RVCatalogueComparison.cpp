@@ -131,6 +131,8 @@ void tst_RVCatalogueComparison::products_data()
     row("removed ones at their place", catalogue({ "A", "B", "C", "D", "E" }), catalogue({ "F", "B", "G", "E" }),
         { u"removed A"_s, u"added F"_s, u"removed C"_s, u"removed D"_s, u"added G"_s },
         "2 added, 3 removed, 0 changed, 0 renamed, 2 equal");
+    row("a removed one behind a changed one", catalogue({ "A", "B" }), "<p><product type='A' name='N'/></p>",
+        { u"changed A name"_s, u"removed B"_s }, "0 added, 1 removed, 1 changed, 0 renamed, 0 equal");
     row("moved", catalogue({ "A", "B", "C" }), catalogue({ "C", "A", "B" }), {},
         "0 added, 0 removed, 0 changed, 0 renamed, 3 equal");
     row("type of the same family", catalogue({ "DUN9_30" }), catalogue({ "DUN9_40" }), {},
