@@ -211,15 +211,15 @@ void PagePicture::paintSizes(QPainter *painter, const QRectF &page) const
     const qreal line = QFontMetricsF(painter->font(), painter->device()).height();
     const qreal gap = pointOf(painter);
     const QSize size = myGeometry.usableSize();
-    const QSizeF room(2 * qMax(page.width(), page.height()) + 40 * line, line); // texts may be longer than the page
-    const QRectF place(QPointF(-room.width() / 2, 0), room);
+    const QRectF place(0, 0, 0, line); // texts may be longer than the page, so they are centred on a point
+    const int alignment = Qt::AlignCenter | Qt::TextDontClip;
     painter->setPen(myColors.text);
-    painter->drawText(place.translated(page.center().x(), page.bottom() + gap), Qt::AlignCenter,
+    painter->drawText(place.translated(page.center().x(), page.bottom() + gap), alignment,
                       tr("%1 mm").arg(millimetres(size.width())));
     painter->save();
     painter->translate(page.right() + gap, page.center().y());
     painter->rotate(90);
-    painter->drawText(place.translated(0, -line), Qt::AlignCenter, tr("%1 mm").arg(millimetres(size.height())));
+    painter->drawText(place.translated(0, -line), alignment, tr("%1 mm").arg(millimetres(size.height())));
     painter->restore();
 }
 

@@ -89,8 +89,9 @@ void SpinePicture::paintText(QPainter *painter, const QRectF &spine, qreal units
     painter->scale(zoom, zoom);
     painter->setFont(font);
     painter->setPen(myColors.text);
-    const QSizeF room(spine.height() / zoom, spine.width() / zoom);
-    painter->drawText(QRectF(-room.width() / 2, -room.height() / 2, room.width(), room.height()), Qt::AlignCenter,
+    QRectF room(QPointF(), spine.size().transposed() / zoom);
+    room.moveCenter(QPointF());
+    painter->drawText(room, Qt::AlignCenter,
                       metrics.elidedText(myText, Qt::ElideRight, room.width() - 2 * metrics.averageCharWidth()));
     painter->restore();
 }
