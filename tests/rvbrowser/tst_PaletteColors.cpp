@@ -44,8 +44,13 @@ class tst_PaletteColors : public QObject
 private Q_SLOTS:
     void readable_data();
     void readable();
+    void accent_data();
+    void accent();
+    void isDark_data();
+    void isDark();
     void faultPalette();
     void shades();
+    void disabled();
     void texts_data();
     void texts();
 };
@@ -79,6 +84,51 @@ void tst_PaletteColors::readable()
     QVERIFY2(fault >= 4.5, text(fault));
 }
 
+void tst_PaletteColors::accent_data()
+{
+    QTest::addColumn<QColor>("base");
+    QTest::addColumn<QColor>("highlight");
+    QTest::addColumn<QColor>("accent");
+
+    const auto add = [](const char *name, QRgb base, QRgb highlight, QRgb accent) {
+        QTest::newRow(name) << QColor(base) << QColor(highlight) << QColor(accent);
+    };
+    add("readable on white", 0xffffff, 0x000080, 0x000080);
+    add("as dark as needed", 0xffffff, 0x0000ff, 0x0000d8);
+    add("yellow on white", 0xffffff, 0xffff00, 0x989800);
+    add("readable on black", 0x000000, 0xffffff, 0xffffff);
+    add("as light as needed", 0x000000, 0x0000ff, 0x5151ff);
+    add("blue on slate", 0x5f6b7a, 0x0000ff, 0xc1c1ff);
+    add("grey", 0xa0a0a0, 0x808080, 0x505050);
+    add("no lightness is readable on blue", 0x0202ff, 0xff0000, 0x080000);
+    add("no lightness is readable on yellow", 0xfefe00, 0xff0000, 0xfff9f9);
+    add("nearly white on yellow", 0xfefe00, 0xfbfbfb, 0xfbfbfb);
+}
+
+// The colour of what is chosen, as light or dark as it has to be.
+void tst_PaletteColors::accent()
+{
+    QFETCH(QColor, base);
+    QFETCH(QColor, highlight);
+    const QPalette palette = desktop(base, Qt::black, highlight);
+    QTEST(PaletteColors(palette).accent().toRgb(), "accent");
+}
+
+void tst_PaletteColors::isDark_data()
+{
+    QTest::addColumn<QColor>("base");
+    QTest::addColumn<QColor>("fault");
+
+    QTest::newRow("just light") << QColor(0x80, 0x80, 0x80) << QColor(0xb0, 0x1c, 0x1c);
+    QTest::newRow("just dark") << QColor(0x7f, 0x7f, 0x7f) << QColor(0xff, 0x8a, 0x80);
+}
+
+void tst_PaletteColors::isDark()
+{
+    QFETCH(QColor, base);
+    QTEST(PaletteColors(desktop(base, Qt::black, Qt::blue)).fault(), "fault");
+}
+
 void tst_PaletteColors::faultPalette()
 {
     for (const QPalette &palette : { PaletteColors::light(), PaletteColors::dark() }) {
@@ -97,6 +147,16 @@ void tst_PaletteColors::shades()
     QCOMPARE(colors.shade(0), QColor(0, 100, 200));
     QCOMPARE(colors.shade(0.25), QColor(50, 100, 150));
     QCOMPARE(colors.shade(1), QColor(200, 100, 0));
+}
+
+// What cannot be chosen is told from what can.
+void tst_PaletteColors::disabled()
+{
+    const QPalette palette = PaletteColors::dark();
+    for (const auto role : { QPalette::WindowText, QPalette::Text, QPalette::ButtonText }) {
+        QCOMPARE(palette.color(QPalette::Disabled, role), QColor(0x80, 0x80, 0x80));
+        QCOMPARE(palette.color(QPalette::Inactive, role), QColor(0xe6, 0xe6, 0xe6));
+    }
 }
 
 void tst_PaletteColors::texts_data()

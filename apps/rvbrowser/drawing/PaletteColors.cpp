@@ -3,6 +3,8 @@
 #include <QtMath>
 
 #include <algorithm>
+#include <initializer_list>
+#include <utility>
 
 namespace {
 
@@ -26,6 +28,13 @@ qreal contrast(const QColor &a, const QColor &b)
 {
     const auto [dark, bright] = std::minmax({ luminance(a), luminance(b) });
     return (bright + 0.05) / (dark + 0.05);
+}
+
+QPalette with(QPalette palette, std::initializer_list<std::pair<QPalette::ColorRole, QRgb>> colors)
+{
+    for (const auto &[role, color] : colors)
+        palette.setColor(role, color);
+    return palette;
 }
 
 }
@@ -96,29 +105,32 @@ bool PaletteColors::isDark() const
 
 QPalette PaletteColors::light()
 {
-    QPalette palette(QColor(0xef, 0xef, 0xef));
-    palette.setColor(QPalette::Link, QColor(0x1f, 0x4e, 0x8c));
-    palette.setColor(QPalette::Highlight, QColor(0x30, 0x6a, 0xb2));
-    palette.setColor(QPalette::HighlightedText, QColor(0xff, 0xff, 0xff));
-    palette.setColor(QPalette::PlaceholderText, QColor(0x70, 0x70, 0x70));
-    return palette;
+    return with(QPalette(QColor(0xef, 0xef, 0xef)),
+                {
+                        { QPalette::Link, 0x1f4e8c },
+                        { QPalette::Highlight, 0x306ab2 },
+                        { QPalette::HighlightedText, 0xffffff },
+                        { QPalette::PlaceholderText, 0x707070 },
+                });
 }
 
 QPalette PaletteColors::dark()
 {
-    const QColor text(0xe6, 0xe6, 0xe6);
-    QPalette palette(QColor(0x35, 0x38, 0x3c), QColor(0x2b, 0x2d, 0x30));
-    palette.setColor(QPalette::WindowText, text);
-    palette.setColor(QPalette::Text, text);
-    palette.setColor(QPalette::ButtonText, text);
-    palette.setColor(QPalette::ToolTipBase, QColor(0x3c, 0x3f, 0x44));
-    palette.setColor(QPalette::ToolTipText, text);
-    palette.setColor(QPalette::Base, QColor(0x1e, 0x20, 0x22));
-    palette.setColor(QPalette::AlternateBase, QColor(0x25, 0x27, 0x2a));
-    palette.setColor(QPalette::Link, QColor(0x6c, 0xb0, 0xf5));
-    palette.setColor(QPalette::Highlight, QColor(0x2f, 0x65, 0xa8));
-    palette.setColor(QPalette::HighlightedText, QColor(0xff, 0xff, 0xff));
-    palette.setColor(QPalette::PlaceholderText, QColor(0x98, 0x98, 0x98));
+    constexpr QRgb text = 0xe6e6e6;
+    QPalette palette = with(QPalette(QColor(0x35, 0x38, 0x3c), QColor(0x2b, 0x2d, 0x30)),
+                            {
+                                    { QPalette::WindowText, text },
+                                    { QPalette::Text, text },
+                                    { QPalette::ButtonText, text },
+                                    { QPalette::ToolTipBase, 0x3c3f44 },
+                                    { QPalette::ToolTipText, text },
+                                    { QPalette::Base, 0x1e2022 },
+                                    { QPalette::AlternateBase, 0x25272a },
+                                    { QPalette::Link, 0x6cb0f5 },
+                                    { QPalette::Highlight, 0x2f65a8 },
+                                    { QPalette::HighlightedText, 0xffffff },
+                                    { QPalette::PlaceholderText, 0x989898 },
+                            });
     for (const auto role : { QPalette::WindowText, QPalette::Text, QPalette::ButtonText })
         palette.setColor(QPalette::Disabled, role, QColor(0x80, 0x80, 0x80));
     return palette;
