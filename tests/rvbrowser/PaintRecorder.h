@@ -10,6 +10,7 @@
 #include <QPaintDevice>
 #include <QPaintEngine>
 #include <QPainter>
+#include <QPainterPath>
 #include <QPen>
 #include <QRectF>
 #include <QString>
@@ -24,7 +25,7 @@
 class PaintRecorder : public QPaintDevice
 {
 public:
-    static constexpr qreal DOTS_PER_MILLIMETRE = 100;
+    static constexpr qreal DOTS_PER_MILLIMETRE = 20;
     static constexpr qreal POINT = 25.4 / 72; ///< In millimetres.
 
     struct Rect
@@ -121,6 +122,8 @@ private:
         Type type() const override { return User; }
         void updateState(const QPaintEngineState &) override { }
         void drawPixmap(const QRectF &, const QPixmap &, const QRectF &) override { }
+        void drawPath(const QPainterPath &) override { }
+        void drawPolygon(const QPointF *, int, PolygonDrawMode) override { }
 
         void drawRects(const QRectF *rects, int count) override
         {

@@ -40,10 +40,18 @@ const QColor CUT(0xb0, 0x60, 0x60);
 const QColor INK(0x20, 0x20, 0x20);
 const QColor WRONG(0xd0, 0x20, 0x20);
 
+PlotColors colors()
+{
+    PlotColors result;
+    result.text = Qt::darkBlue;
+    return result;
+}
+
 PagePicture pictureOf(const QByteArray &barcodes, int page)
 {
     PagePicture result(pageOf(barcodes), page);
     result.setProductName(u"DUN9"_s);
+    result.setColors(colors());
     return result;
 }
 
@@ -266,7 +274,7 @@ void tst_PagePicture::sizes()
     COMPARE_NEAR(height.rect.center().x(), 220.55 + POINT + line / 2);
     COMPARE_NEAR(height.rect.center().y(), 164.1);
     for (const PaintRecorder::Text &text : { width, height })
-        QCOMPARE(text.color, PlotColors().text);
+        QCOMPARE(text.color, colors().text);
 }
 
 void tst_PagePicture::barcodeOnTheSheet_data()
@@ -318,7 +326,7 @@ void tst_PagePicture::legendOnTheSheet()
         const PaintRecorder::Text text = recorder.text(lines.at(i));
         COMPARE_NEAR(text.rect.left(), 8 + 2 * line);
         COMPARE_NEAR(text.rect.center().y(), 8 + 156.1 + 9 + (i + 0.5) * line);
-        QCOMPARE(text.color, PlotColors().text);
+        QCOMPARE(text.color, colors().text);
         QCOMPARE(text.font.pointSizeF(), 8.0);
     }
     QCOMPARE(recorder.texts.size(), lines.size() + 2); // and the sizes at the page

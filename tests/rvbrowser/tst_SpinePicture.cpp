@@ -19,11 +19,19 @@ const QColor &paper()
     return theColor;
 }
 
+PlotColors colors()
+{
+    PlotColors result;
+    result.text = Qt::darkBlue;
+    return result;
+}
+
 SpinePicture pictureOf(qreal width, const QString &text = u"DUN9"_s)
 {
     SpinePicture result;
     result.setSpine({ 1034, 2, 1, width, 48 }, 0.5);
     result.setText(text);
+    result.setColors(colors());
     return result;
 }
 
@@ -148,7 +156,7 @@ void tst_SpinePicture::width()
     COMPARE_NEAR(recorder.lines.at(3).line, QLineF(spine.left(), top, spine.left(), bottom));
     COMPARE_NEAR(recorder.lines.at(4).line, QLineF(spine.right(), top, spine.right(), bottom));
     for (const int i : { 2, 3, 4 }) {
-        QCOMPARE(recorder.lines.at(i).pen.color(), PlotColors().text);
+        QCOMPARE(recorder.lines.at(i).pen.color(), colors().text);
         COMPARE_NEAR(recorder.lines.at(i).pen.widthF(), PEN);
     }
     const PaintRecorder::Text text = recorder.text(u"%1 mm"_s.arg(width, 0, 'f', 1));
@@ -165,7 +173,7 @@ void tst_SpinePicture::text()
         const PaintRecorder::Text text = recorder.text(u"DUN9"_s);
         const QRectF spine = recorder.filled(paper()).constFirst();
         QCOMPARE(text.angle, 90.0);
-        QCOMPARE(text.color, PlotColors().text);
+        QCOMPARE(text.color, colors().text);
         QCOMPARE(text.font.pixelSize(), 48);
         const qreal height = QFontMetricsF(SpineFont::font(48)).height() / 10 / reduction;
         QVERIFY2(qAbs(text.rect.width() - height) < 0.3, qPrintable(QString::number(text.rect.width())));
@@ -206,7 +214,7 @@ void tst_SpinePicture::linesBelow()
     COMPARE_NEAR(scale.rect.center().y(), 92 - line);
     for (const PaintRecorder::Text &text : { facts, scale }) {
         QCOMPARE(text.font.pointSizeF(), 8.0);
-        QCOMPARE(text.color, PlotColors().text);
+        QCOMPARE(text.color, colors().text);
     }
 }
 

@@ -40,21 +40,18 @@ void DrawingWidget::contextMenuEvent(QContextMenuEvent *event)
     myMenu->popup(event->globalPos());
 }
 
-void DrawingWidget::resizeEvent(QResizeEvent *event)
+void DrawingWidget::resizeEvent(QResizeEvent *)
 {
-    QWidget::resizeEvent(event);
     myButton->setGeometry(QRect(QPoint(width() - buttonSize().width(), 0), buttonSize()));
 }
 
-void DrawingWidget::showEvent(QShowEvent *event)
+void DrawingWidget::showEvent(QShowEvent *)
 {
-    QWidget::showEvent(event);
     myMenu->menuAction()->setEnabled(true);
 }
 
 void DrawingWidget::hideEvent(QHideEvent *event)
 {
-    QWidget::hideEvent(event);
     if (!event->spontaneous()) // A window that is only minimised still has its drawings.
         myMenu->menuAction()->setEnabled(false);
 }

@@ -250,7 +250,8 @@ void PagePicture::paintLegend(QPainter *painter, const QRectF &rect, const QStri
     const qreal line = metrics.height();
     for (int i = 0; i < lines.size(); ++i) {
         const QRectF place(rect.left(), rect.top() + i * line, rect.width(), line);
-        const QRectF text = place.adjusted(SYMBOL_WIDTH * line, 0, 0, 0);
+        QRectF text = place;
+        text.setLeft(place.left() + SYMBOL_WIDTH * line);
         paintSymbol(painter, QRectF(place.left() + 0.1 * line, place.top() + 0.2 * line, 1.6 * line, 0.6 * line), i);
         painter->setPen(myColors.text);
         painter->drawText(text, Qt::AlignLeft | Qt::AlignVCenter,

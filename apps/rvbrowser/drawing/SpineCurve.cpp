@@ -42,7 +42,7 @@ void SpineCurve::setRow(int row)
 {
     myRow = row < table().rowCount() ? row : -1;
     setAccessibleDescription(reading());
-    QAccessibleValueChangeEvent event(this, myRow < 0 ? 0 : table().row(myRow).pages);
+    QAccessibleValueChangeEvent event(this, AccessibleSpineCurve(this).currentValue());
     QAccessible::updateAccessibility(&event);
     update();
 }
@@ -97,7 +97,7 @@ int SpineCurve::rowAfter(int key) const
     case Qt::Key_PageDown:
         return myRow - PAGE_STEP;
     case Qt::Key_PageUp:
-        return myRow + qMin(PAGE_STEP, table().rowCount());
+        return myRow + PAGE_STEP;
     case Qt::Key_Home:
         return 0;
     case Qt::Key_End:

@@ -73,8 +73,8 @@ void SpinePicture::paintPiece(QPainter *painter, const QRectF &rect, qreal units
     painter->setPen(QPen(myColors.marker, 0.75 * point, Qt::DotLine));
     for (const qreal x : { spine.left() + side, spine.right() - side })
         painter->drawLine(QPointF(x, spine.top()), QPointF(x, spine.bottom()));
-    paintWidth(painter, spine, rect);
     paintText(painter, spine, unitsPerMillimetre);
+    paintWidth(painter, spine, rect);
     painter->restore();
 }
 
