@@ -68,6 +68,11 @@ void tst_ComparisonModel::texts()
     for (int column = 0; column < model.columnCount(); ++column)
         titles += model.headerData(column, Qt::Horizontal).toString();
     QCOMPARE(titles, QStringList({ u"Product"_s, u"Change"_s, u"Old"_s, u"New"_s }));
+    QVERIFY(!model.headerData(0, Qt::Horizontal, Qt::ToolTipRole).isValid());
+    QVERIFY(!model.headerData(0, Qt::Vertical).isValid());
+    QCOMPARE(model.index(1, 0).data(Qt::ToolTipRole).toString(), u"A \"Album\""_s);
+    QVERIFY(!model.index(1, 0).data(Qt::EditRole).isValid());
+    QVERIFY(!model.data(QModelIndex(), Qt::DisplayRole).isValid());
 }
 
 void tst_ComparisonModel::onlyOneLine()
@@ -89,7 +94,11 @@ void tst_ComparisonModel::colours()
     QVERIFY(gain.isValid());
     QVERIFY(fault.isValid());
     QVERIFY(gain != fault);
-    QVERIFY(!model.index(1, 0).data(Qt::ForegroundRole).isValid());
+    for (int column = 0; column < ComparisonModel::COLUMN_COUNT; ++column) {
+        QCOMPARE(model.index(0, column).data(Qt::ForegroundRole), gain);
+        QVERIFY(!model.index(1, column).data(Qt::ForegroundRole).isValid());
+        QCOMPARE(model.index(2, column).data(Qt::ForegroundRole), fault);
+    }
     const QModelIndex cover = model.index(0, 0, model.index(1, 0));
     QVERIFY(!cover.data(Qt::ForegroundRole).isValid());
     QCOMPARE(cover.siblingAtColumn(ComparisonModel::OldColumn).data(Qt::ForegroundRole), fault);
@@ -131,6 +140,8 @@ void tst_ComparisonModel::sorts_data()
     QTest::newRow("product") << int(ComparisonModel::ProductColumn) << Qt::AscendingOrder << u"A B C E"_s;
     QTest::newRow("product, downwards") << int(ComparisonModel::ProductColumn) << Qt::DescendingOrder << u"E C B A"_s;
     QTest::newRow("kind") << int(ComparisonModel::KindColumn) << Qt::AscendingOrder << u"E B A C"_s;
+    QTest::newRow("old article, upwards") << int(ComparisonModel::OldColumn) << Qt::AscendingOrder << u"E A C B"_s;
+    QTest::newRow("new article") << int(ComparisonModel::NewColumn) << Qt::DescendingOrder << u"E A B C"_s;
     QTest::newRow("old article") << int(ComparisonModel::OldColumn) << Qt::DescendingOrder << u"B E A C"_s;
 }
 
@@ -196,11 +207,13 @@ void tst_ComparisonModel::isAModel()
 {
     ComparisonModel model;
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
-    QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
+    const QSignalSpy begun(&model, &QAbstractItemModel::modelAboutToBeReset);
+    const QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
     model.setComparison(compared(OLD_CATALOGUE, NEW_CATALOGUE));
     model.setFilter(Kind::Changed, u"k"_s);
     model.sort(0, Qt::DescendingOrder);
     model.setComparison(nullptr);
+    QCOMPARE(begun.size(), 4);
     QCOMPARE(resets.size(), 4);
 }
 

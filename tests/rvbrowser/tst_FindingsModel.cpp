@@ -7,7 +7,10 @@
 
 #include <QAbstractItemModelTester>
 #include <QBuffer>
+#include <QIcon>
+#include <QSignalSpy>
 #include <QTest>
+#include <QTextDocument>
 
 using namespace Qt::StringLiterals;
 
@@ -41,8 +44,11 @@ class tst_FindingsModel : public QObject
 
 private Q_SLOTS:
     void cells();
+    void otherRoles();
     void sorts_data();
     void sorts();
+    void sortsEqualNumbers();
+    void sortsPlacesOfALine();
     void filters_data();
     void filters();
     void staysAsItWas();
@@ -72,6 +78,27 @@ void tst_FindingsModel::cells()
     QCOMPARE(model.count(RVCatalogueSeverity::Note), 1);
 }
 
+void tst_FindingsModel::otherRoles()
+{
+    FindingsModel model;
+    QStringList titles;
+    for (int column = 0; column < model.columnCount(); ++column)
+        titles += model.headerData(column, Qt::Horizontal).toString();
+    QCOMPARE(titles, (QStringList { u"Severity"_s, u"Product"_s, u"Finding"_s, u"Place"_s, u"Rule"_s }));
+    QVERIFY(!model.headerData(0, Qt::Horizontal, Qt::ToolTipRole).isValid());
+    QVERIFY(!model.headerData(0, Qt::Vertical).isValid());
+    model.setCatalogue(read(FAULTY_PRODUCTS));
+    for (int column = 0; column < model.columnCount(); ++column) {
+        const QIcon icon = model.index(0, column).data(Qt::DecorationRole).value<QIcon>();
+        QCOMPARE(icon.isNull(), column != FINDING_SEVERITY);
+        QVERIFY(Qt::mightBeRichText(model.index(0, column).data(Qt::ToolTipRole).toString()));
+        QVERIFY(!model.index(0, column).data(Qt::EditRole).isValid());
+    }
+    QCOMPARE(model.rowCount(model.index(0, 0)), 0);
+    QCOMPARE(model.columnCount(model.index(0, 0)), 0);
+    QVERIFY(!model.data(QModelIndex(), Qt::DisplayRole).isValid());
+}
+
 void tst_FindingsModel::sorts_data()
 {
     QTest::addColumn<int>("column");
@@ -83,7 +110,8 @@ void tst_FindingsModel::sorts_data()
     QTest::newRow("product") << int(FINDING_PRODUCT) << QList<int> { 2, 3, 4, 1, 0 } << QList<int> { 0, 1, 2, 3, 4 };
     QTest::newRow("place") << int(FINDING_PLACE) << QList<int> { 0, 1, 2, 3, 4 } << QList<int> { 4, 3, 2, 1, 0 };
     QTest::newRow("rule") << int(FINDING_RULE) << QList<int> { 1, 0, 2, 4, 3 } << QList<int> { 3, 4, 0, 2, 1 };
-    QTest::newRow("no such column") << 9 << QList<int> { 0, 1, 2, 3, 4 } << QList<int> { 0, 1, 2, 3, 4 };
+    QTest::newRow("no such column") << int(FINDING_COLUMN_COUNT) << QList<int> { 0, 1, 2, 3, 4 }
+                                    << QList<int> { 0, 1, 2, 3, 4 };
 }
 
 void tst_FindingsModel::sorts()
@@ -95,6 +123,36 @@ void tst_FindingsModel::sorts()
     QTEST(shown(model), "up");
     model.sort(column, Qt::DescendingOrder);
     QTEST(shown(model), "down");
+}
+
+// Zeros in front make no other number, but the order is always the same.
+void tst_FindingsModel::sortsEqualNumbers()
+{
+    QByteArray content;
+    for (const char *type : { "T1", "T0001", "T01", "T00001", "T001", "T0002" })
+        content += "<product type='" + QByteArray(type) + "' article_id='1' cover_type='x'/>";
+    FindingsModel model;
+    model.setCatalogue(read("<p>" + content + "</p>"));
+    model.setFilter({ QString(), RVCatalogueRule::find(u"keyword-unknown"_s), {} });
+    model.sort(FINDING_PRODUCT, Qt::AscendingOrder);
+    QStringList types;
+    for (int row = 0; row < model.rowCount(); ++row)
+        types += model.index(row, FINDING_PRODUCT).data().toString();
+    QCOMPARE(types, (QStringList { u"T00001"_s, u"T0001"_s, u"T001"_s, u"T01"_s, u"T1"_s, u"T0002"_s }));
+}
+
+// Lines before columns.
+void tst_FindingsModel::sortsPlacesOfALine()
+{
+    FindingsModel model;
+    model.setCatalogue(read("<p><product type='A' article_id='1' cover_type='x' page_binding='y'/>\n"
+                            "<product type='B' article_id='2' cover_type='x'/></p>"));
+    model.setFilter({ QString(), RVCatalogueRule::find(u"keyword-unknown"_s), {} });
+    model.sort(FINDING_PLACE, Qt::DescendingOrder);
+    QStringList places;
+    for (int row = 0; row < model.rowCount(); ++row)
+        places += model.index(row, FINDING_PLACE).data().toString();
+    QCOMPARE(places, (QStringList { u"2:34"_s, u"1:52"_s, u"1:37"_s }));
 }
 
 void tst_FindingsModel::filters_data()
@@ -165,11 +223,15 @@ void tst_FindingsModel::isAModel()
 {
     FindingsModel model;
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    const QSignalSpy begun(&model, &QAbstractItemModel::modelAboutToBeReset);
+    const QSignalSpy ended(&model, &QAbstractItemModel::modelReset);
     model.setCatalogue(read(FAULTY_PRODUCTS));
     model.sort(FINDING_TEXT);
     model.setFilter({ u"dun2"_s, RVCatalogueRule(), {} });
     model.setFilter({});
     model.setCatalogue(nullptr);
+    QCOMPARE(begun.size(), 5);
+    QCOMPARE(ended.size(), 5);
 }
 
 // Texts with numbers of their own, as none of them is shared.

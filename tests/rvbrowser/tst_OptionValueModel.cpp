@@ -86,7 +86,14 @@ void tst_OptionValueModel::swatches()
     const OptionValueModel model(options(), nullptr);
     const QImage swatch = model.index(0).data(Qt::DecorationRole).value<QPixmap>().toImage();
     QCOMPARE(swatch.pixelColor(swatch.rect().center()), QColor(0xff, 0, 0));
-    QCOMPARE(swatch.pixelColor(0, 0), QColor(0x80, 0x80, 0x80)); // white ones need a frame
+    QCOMPARE(swatch.size(), QSize(16, 16));
+    const QColor frame(0x80, 0x80, 0x80); // white ones need it
+    for (int i = 0; i < 16; ++i) {
+        for (const QPoint &place : { QPoint(i, 0), QPoint(i, 15), QPoint(0, i), QPoint(15, i) })
+            QCOMPARE(swatch.pixelColor(place), frame);
+    }
+    for (const QPoint &place : { QPoint(1, 1), QPoint(14, 14) })
+        QCOMPARE(swatch.pixelColor(place), QColor(0xff, 0, 0));
     QVERIFY(!model.index(1).data(Qt::DecorationRole).isValid());
 }
 

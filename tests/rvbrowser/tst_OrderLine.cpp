@@ -6,6 +6,7 @@
 #include <QTest>
 #include <QTextBlock>
 #include <QTextLayout>
+#include <QVBoxLayout>
 
 #include <memory>
 
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void breaksBehindSeparators();
     void scrollsWhatIsLong();
     void cannotBeChanged();
+    void isLeftByTab();
 
 private:
     int lines() const; ///< that there is room for
@@ -49,6 +51,10 @@ void tst_OrderLine::isOneLineHigh()
     QCOMPARE(lines(), 1);
     myLine->setText(u"alcolor:red"_s);
     QCOMPARE(lines(), 1);
+    // A margin of two pixels on both sides, and a pixel for what is rounded.
+    const int frame = 2 * myLine->frameWidth();
+    QCOMPARE(myLine->height(), myLine->fontMetrics().lineSpacing() + 4 + frame + 1);
+    QCOMPARE(myLine->document()->documentMargin(), 2.0);
 }
 
 void tst_OrderLine::growsWithItsText()
@@ -119,6 +125,23 @@ void tst_OrderLine::cannotBeChanged()
     QTest::keyClick(myLine.get(), Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(myLine.get(), Qt::Key_C, Qt::ControlModifier);
     QCOMPARE(QGuiApplication::clipboard()->text(), u"alcolor:red"_s);
+}
+
+// Like a label, although it can be chosen from.
+void tst_OrderLine::isLeftByTab()
+{
+    QWidget window;
+    auto *layout = new QVBoxLayout(&window);
+    auto *line = new OrderLine;
+    auto *next = new OrderLine;
+    layout->addWidget(line);
+    layout->addWidget(next);
+    window.show();
+    window.activateWindow();
+    line->setFocus();
+    QTRY_VERIFY(line->hasFocus());
+    QTest::keyClick(line, Qt::Key_Tab);
+    QVERIFY(next->hasFocus());
 }
 
 QTEST_MAIN(tst_OrderLine)

@@ -7,6 +7,7 @@
 
 #include <QAbstractItemModelTester>
 #include <QBuffer>
+#include <QFont>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -54,6 +55,9 @@ private Q_SLOTS:
     void search_data();
     void search();
     void indexes();
+    void cells();
+    void findingsAsText_data();
+    void findingsAsText();
     void faultyOnly();
     void nothing();
     void isAModel();
@@ -104,6 +108,66 @@ void tst_ProductTreeModel::indexes()
     QVERIFY(!model.indexOfProduct(4).isValid());
 }
 
+void tst_ProductTreeModel::cells()
+{
+    ProductTreeModel model;
+    model.setCatalogue(mixed());
+    const auto title = [&model](int column, int role) { return model.headerData(column, Qt::Horizontal, role); };
+    QCOMPARE(title(ProductTreeModel::TypeColumn, Qt::DisplayRole).toString(), u"Type"_s);
+    QCOMPARE(title(ProductTreeModel::NameColumn, Qt::DisplayRole).toString(), u"Name"_s);
+    QVERIFY(!title(ProductTreeModel::FindingsColumn, Qt::DisplayRole).isValid()); // it is narrow
+    for (const int role : { Qt::ToolTipRole, Qt::AccessibleTextRole }) {
+        QCOMPARE(title(ProductTreeModel::FindingsColumn, role).toString(), u"Findings"_s);
+        QVERIFY(!title(ProductTreeModel::NameColumn, role).isValid());
+    }
+    QVERIFY(!model.headerData(0, Qt::Vertical).isValid());
+
+    const QModelIndex group = model.index(0, 0);
+    QVERIFY(group.data(Qt::FontRole).value<QFont>().bold());
+    QCOMPARE(group.data(ProductTreeModel::ProductRole).toInt(), -1);
+    QCOMPARE(group.siblingAtColumn(1).data().toString(), QString());
+    QVERIFY(!group.data(Qt::ToolTipRole).isValid());
+    const QModelIndex product = model.index(1, ProductTreeModel::NameColumn, group);
+    QCOMPARE(product.data().toString(), u"two"_s);
+    QCOMPARE(product.data(Qt::ToolTipRole).toString(), u"two"_s);
+    QVERIFY(!product.data(Qt::FontRole).isValid());
+    for (int column = 0; column < ProductTreeModel::COLUMN_COUNT; ++column)
+        QCOMPARE(product.siblingAtColumn(column).data(ProductTreeModel::ProductRole).toInt(), 2);
+    QVERIFY(!model.data(QModelIndex(), Qt::DisplayRole).isValid());
+}
+
+void tst_ProductTreeModel::findingsAsText_data()
+{
+    QTest::addColumn<QByteArray>("attributes");
+    QTest::addColumn<QVariant>("count");
+    QTest::addColumn<QString>("worst"); // the last word
+
+    QTest::newRow("none") << QByteArray("name='x'") << QVariant() << QString();
+    QTest::newRow("note") << QByteArray("name='x' space_magnitude='A4'") << QVariant(1) << u"note(s)"_s;
+    QTest::newRow("warning") << QByteArray("name='x' pages='24' max_pages='73' page_step='2'") << QVariant(1)
+                             << u"warning"_s;
+    QTest::newRow("error") << QByteArray("name='x' cover_type='y'") << QVariant(1) << u"error"_s;
+}
+
+void tst_ProductTreeModel::findingsAsText()
+{
+    QFETCH(QByteArray, attributes);
+    QByteArray content = "<p><product type='A' article_id='1' article_class='book' " + attributes + "/></p>";
+    QBuffer buffer(&content);
+    buffer.open(QIODevice::ReadOnly);
+    RVCatalogueReader reader(&buffer);
+    reader.setCheck(RVCatalogueCheck());
+    auto catalogue = std::make_shared<LoadedCatalogue>(QString());
+    catalogue->read(&reader);
+    ProductTreeModel model;
+    model.setCatalogue(catalogue);
+    const QModelIndex cell = model.indexOfProduct(0).siblingAtColumn(ProductTreeModel::FindingsColumn);
+    QTEST(cell.data(), "count");
+    for (const int role : { Qt::ToolTipRole, Qt::AccessibleTextRole })
+        QTEST(cell.data(role).toString().section(u' ', -1), "worst");
+    QVERIFY(!cell.data(Qt::FontRole).isValid());
+}
+
 void tst_ProductTreeModel::faultyOnly()
 {
     QByteArray content(FAULTY_PRODUCTS);
@@ -149,12 +213,15 @@ void tst_ProductTreeModel::isAModel()
 {
     ProductTreeModel model;
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
-    QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
+    const QSignalSpy begun(&model, &QAbstractItemModel::modelAboutToBeReset);
+    const QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
     model.setCatalogue(mixed());
     model.setSearch(u"two"_s);
     model.setSearch(QString());
+    model.setFaultyOnly(true);
     model.setCatalogue(nullptr);
-    QCOMPARE(resets.size(), 4);
+    QCOMPARE(begun.size(), 5);
+    QCOMPARE(resets.size(), 5);
 }
 
 // A catalogue that is read again is searched as the one before.

@@ -1,6 +1,7 @@
 #include <Settings.h>
 #include <SettingsGroup.h>
 
+#include <QDateTime>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
@@ -20,6 +21,7 @@ private Q_SLOTS:
     void keepsValues();
     void tellsThingsApart();
     void keepsTheNewest();
+    void knowsWhenThingsWereUsed();
     void survivesADamagedAge();
     void clears();
 
@@ -70,6 +72,29 @@ void tst_SettingsGroup::keepsTheNewest()
     QCOMPARE(numbers(group), (QStringList { u"5"_s, u"2"_s, u"4"_s }));
     QCOMPARE(mySettings->groups(u"g"_s).size(), 3);
     QVERIFY(group.values({ u"3"_s }).isEmpty());
+}
+
+// In milliseconds; of two things that come at once the second is newer by one.
+void tst_SettingsGroup::knowsWhenThingsWereUsed()
+{
+    SettingsGroup group(mySettings.get(), u"g"_s, 9);
+    const qint64 begin = QDateTime::currentMSecsSinceEpoch();
+    group.setValues({ u"1"_s }, { { u"n"_s, 1 } });
+    const QString used = u"g/"_s + mySettings->groups(u"g"_s).constFirst() + u"/used"_s;
+    const qint64 first = mySettings->value(used).toLongLong();
+    QVERIFY(first >= begin && first <= QDateTime::currentMSecsSinceEpoch());
+
+    // A clock that is put back by an hour has made a time in the future; more than a day is damage.
+    constexpr qint64 hour = 3600000;
+    mySettings->setValue(used, begin + hour);
+    group.setValues({ u"2"_s }, { { u"n"_s, 2 } });
+    QCOMPARE(numbers(group), (QStringList { u"2"_s, u"1"_s }));
+    mySettings->setValue(used, begin + hour + 2);
+    QCOMPARE(numbers(group), (QStringList { u"1"_s, u"2"_s })); // the second was one later than the first
+    mySettings->setValue(used, begin + 25 * hour);
+    QCOMPARE(numbers(group), (QStringList { u"2"_s, u"1"_s }));
+    mySettings->setValue(used, begin + 23 * hour);
+    QCOMPARE(numbers(group), (QStringList { u"1"_s, u"2"_s }));
 }
 
 // Of two things one is dated into the future and one not at all.

@@ -8,6 +8,8 @@
 #include <QApplication>
 #include <QMouseEvent>
 #include <QSignalSpy>
+#include <QStyle>
+#include <QStyleFactory>
 
 using namespace Qt::StringLiterals;
 
@@ -77,6 +79,7 @@ private Q_SLOTS:
     void clicks();
     void crossHairOfTheMouse();
     void crossHairOfTheKeyboard();
+    void focusInAnyStyle();
     void isPaintedAgain();
     void slider_data();
     void slider();
@@ -227,6 +230,30 @@ void tst_SpineCurve::crossHairOfTheKeyboard()
     QVERIFY(crossHair(&curve).contains(u"1,026"_s));
     QTest::keyClick(&curve, Qt::Key_Right);
     QVERIFY(crossHair(&curve).contains(u"1,154"_s));
+}
+
+// Some styles draw a frame in the text colour of windows, which may be that of the ground here.
+void tst_SpineCurve::focusInAnyStyle()
+{
+    SpineCurve curve;
+    const std::unique_ptr<QStyle> style(QStyleFactory::create(u"Windows"_s));
+    curve.setStyle(style.get());
+    QPalette palette = PaletteColors::dark();
+    palette.setColor(QPalette::WindowText, palette.color(QPalette::Base));
+    curve.setPalette(palette);
+    curve.resize(400, 200);
+    curve.setTable(tableOf(33), QString());
+    curve.show();
+    const QImage without = curve.grab().toImage();
+    curve.activateWindow();
+    curve.setFocus();
+    QTRY_VERIFY(curve.hasFocus());
+    const QImage with = curve.grab().toImage();
+    int different = 0;
+    for (int x = 0; x < with.width(); ++x)
+        different += with.pixel(x, with.height() - 1) != without.pixel(x, with.height() - 1) ? 1 : 0;
+    QVERIFY2(different > with.width() / 4, qPrintable(QString::number(different)));
+    curve.setStyle(nullptr);
 }
 
 void tst_SpineCurve::isPaintedAgain()

@@ -64,12 +64,12 @@ QSize DrawingWidget::buttonSize() const
 PlotColors DrawingWidget::windowColors() const
 {
     const PaletteColors shades(palette());
-    PlotColors colors;
-    colors.background = shades.shade(0);
-    colors.text = shades.shade(1);
-    colors.grid = shades.shade(0.2);
-    colors.band = shades.shade(0.08);
-    colors.curve = shades.accent();
-    colors.marker = shades.shade(0.8);
-    return colors;
+    return {
+        shades.shade(0), // background
+        shades.shade(1), // text
+        shades.shade(0.2), // grid
+        shades.shade(0.08), // band
+        shades.accent(), // curve
+        shades.shade(0.8), // marker
+    };
 }

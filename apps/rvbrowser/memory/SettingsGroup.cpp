@@ -6,15 +6,17 @@
 #include <QDateTime>
 
 #include <algorithm>
+#include <chrono>
 #include <functional>
 #include <utility>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
 constexpr int ID_LENGTH = 20; // characters
-constexpr qint64 DAY = qint64(24) * 60 * 60 * 1000; // milliseconds
+constexpr std::chrono::milliseconds DAY = 24h;
 constexpr auto USED = "used"_L1;
 
 /// Names of files and products may be long and may have any character, unlike a name in the settings.
@@ -40,8 +42,7 @@ QVariantMap SettingsGroup::values(const QStringList &thing) const
 void SettingsGroup::setValues(const QStringList &thing, const QVariantMap &values)
 {
     const QString id = idOf(thing);
-    const QStringList ids = idsByAge();
-    const qint64 newest = ids.isEmpty() ? 0 : used(ids.constFirst());
+    const qint64 newest = used(idsByAge().value(0)); // 0 if there is none
     // Two things may come in one millisecond, and clocks are put back.
     const qint64 now = qMax(QDateTime::currentMSecsSinceEpoch(), newest + 1);
     for (auto value = values.begin(); value != values.end(); ++value)
@@ -84,7 +85,7 @@ QStringList SettingsGroup::idsByAge() const
 qint64 SettingsGroup::used(const QString &id) const
 {
     const qint64 result = mySettings->value(path(id) + u'/' + USED).toLongLong();
-    return result > QDateTime::currentMSecsSinceEpoch() + DAY ? 0 : result;
+    return result > QDateTime::currentMSecsSinceEpoch() + DAY.count() ? 0 : result;
 }
 
 void SettingsGroup::dropTheOldest()

@@ -66,7 +66,6 @@ void ComparisonModel::fill()
     myShown.removeIf([this](int product) { return !isShown(myComparison->at(product)); });
     if (mySortColumn >= 0) {
         QList<QPair<QString, int>> keys;
-        keys.reserve(myShown.size());
         for (const int product : std::as_const(myShown))
             keys += { text(myComparison->at(product), mySortColumn), product };
         const bool isAscending = mySortOrder == Qt::AscendingOrder;
@@ -75,9 +74,6 @@ void ComparisonModel::fill()
         });
         std::transform(keys.cbegin(), keys.cend(), myShown.begin(), [](const auto &key) { return key.second; });
     }
-    myRows.fill(-1, myComparison ? myComparison->size() : 0);
-    for (int row = 0; row < int(myShown.size()); ++row)
-        myRows[myShown.at(row)] = row;
 }
 
 bool ComparisonModel::isShown(const ComparedProduct &product) const
@@ -111,8 +107,7 @@ int ComparisonModel::change(const QModelIndex &index)
 
 QModelIndex ComparisonModel::indexOfProduct(int product) const
 {
-    const int row = myRows.value(product, -1);
-    return row < 0 ? QModelIndex() : index(row, 0);
+    return index(int(myShown.indexOf(product)), 0);
 }
 
 QModelIndex ComparisonModel::nextChange(const QModelIndex &current) const

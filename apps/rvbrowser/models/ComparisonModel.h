@@ -58,7 +58,6 @@ private:
     int mySortColumn = -1;
     Qt::SortOrder mySortOrder = Qt::AscendingOrder;
     QList<int> myShown;
-    QList<int> myRows; // of each product; -1 where it is not shown
 };
 
 #endif

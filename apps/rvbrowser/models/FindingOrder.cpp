@@ -4,6 +4,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <limits>
 #include <numeric>
 #include <vector>
 
@@ -27,22 +28,17 @@ std::vector<qint64> ranksOfTexts(const LoadedCatalogue &catalogue, int column)
     const QList<RVCatalogueFinding> &findings = catalogue.findings();
     QHash<QString, qint64> ranks;
     for (const RVCatalogueFinding &finding : findings)
-        ranks.insert(textOf(catalogue, finding, column), 0);
+        ranks.insert(textOf(catalogue, finding, column), {});
     // The locale "C", in which programs of a build run, has no order of numbers.
     QCollator collator { QLocale(QLocale::English) };
     collator.setNumericMode(true);
     std::vector<std::pair<QCollatorSortKey, QString>> texts;
-    texts.reserve(std::size_t(ranks.size()));
     for (auto text = ranks.keyBegin(); text != ranks.keyEnd(); ++text)
         texts.emplace_back(collator.sortKey(*text), *text);
-    std::sort(texts.begin(), texts.end(), [](const auto &a, const auto &b) {
-        const int result = a.first.compare(b.first);
-        return result < 0 || (result == 0 && a.second < b.second);
-    });
-    for (std::size_t i = 0; i < texts.size(); ++i)
-        ranks[texts[i].second] = qint64(i);
+    std::sort(texts.begin(), texts.end());
+    for (const auto &text : texts)
+        ranks[text.second] = &text - texts.data();
     std::vector<qint64> result;
-    result.reserve(std::size_t(findings.size()));
     for (const RVCatalogueFinding &finding : findings)
         result.push_back(ranks.value(textOf(catalogue, finding, column)));
     return result;
@@ -52,9 +48,8 @@ std::vector<qint64> ranks(const LoadedCatalogue &catalogue, int column)
 {
     if (column != FINDING_SEVERITY && column != FINDING_PLACE)
         return ranksOfTexts(catalogue, column);
-    constexpr int bits = 32;
+    constexpr int bits = std::numeric_limits<quint32>::digits;
     std::vector<qint64> result;
-    result.reserve(std::size_t(catalogue.findings().size()));
     for (const RVCatalogueFinding &finding : catalogue.findings()) {
         const RVFilePosition place = finding.range().begin;
         result.push_back(column == FINDING_SEVERITY ? -qint64(finding.severity())
