@@ -13,6 +13,7 @@ private Q_SLOTS:
     void arguments();
     void environment_data();
     void environment();
+    void terminals();
     void nothing_data();
     void nothing();
 };
@@ -90,6 +91,20 @@ void tst_EditorCommand::environment()
     QTEST(editor.program(), "program");
     QTEST(editor.arguments(u"/a b%.xml"_s, { 12, 7 }), "arguments");
     QTEST(editor.needsTerminal(), "needsTerminal");
+}
+
+// Editors without a window of their own, and those that are told to do without.
+void tst_EditorCommand::terminals()
+{
+    const auto needsTerminal = [](const char *value) {
+        return EditorCommand::ofEnvironment(QString::fromUtf8(value)).needsTerminal();
+    };
+    for (const char *value : { "vim", "nvim", "nano", "micro", "kak", "hx", "emacs -nw", "emacs --quick -nw",
+                               "emacsclient -t", "emacsclient --tty", "emacs --no-window-system" })
+        QVERIFY2(needsTerminal(value), value);
+    for (const char *value : { "gvim", "emacs", "emacs --quick", "emacsclient", "kate", "kwrite", "gedit", "geany",
+                               "code", "codium", "subl", "qtcreator" })
+        QVERIFY2(!needsTerminal(value), value);
 }
 
 void tst_EditorCommand::nothing_data()

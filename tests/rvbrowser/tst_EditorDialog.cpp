@@ -4,6 +4,7 @@
 
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -29,6 +30,15 @@ private:
     /// Opens a dialogue for the settings.
     void open();
     void choose(const QString &editor) { myEditors->setCurrentIndex(myEditors->findData(editor)); }
+    /// What the letters behind percent signs mean.
+    QLabel *hint() const
+    {
+        for (auto *label : myDialog->findChildren<QLabel *>()) {
+            if (label->text().contains(u"%f"_s))
+                return label;
+        }
+        return nullptr;
+    }
     EditorChoice saved() const { return EditorChoice::load(*mySettings); }
 
     std::unique_ptr<QTemporaryDir> myFolder;
@@ -62,7 +72,9 @@ void tst_EditorDialog::showsTheChoice()
     QCOMPARE(myEditors->currentData().toString(), u"kate"_s);
     QVERIFY(myCommand->text().startsWith("kate "_L1));
     QVERIFY(!myCommand->isEnabled());
+    QVERIFY(!hint()->isEnabled());
     QVERIFY(myOk->isEnabled());
+    QVERIFY(!myDialog->windowTitle().isEmpty());
 }
 
 void tst_EditorDialog::commandOfItsOwn()
@@ -71,6 +83,7 @@ void tst_EditorDialog::commandOfItsOwn()
     choose(EditorChoice::OWN);
     QCOMPARE(myCommand->text(), QString());
     QVERIFY(myCommand->isEnabled());
+    QVERIFY(hint()->isEnabled());
     QVERIFY(!myOk->isEnabled()); // there is no command yet
     QTest::keyClicks(myCommand, u"mine %f"_s);
     QVERIFY(myOk->isEnabled());
@@ -110,7 +123,9 @@ void tst_EditorDialog::fitsScreens()
 {
     open();
     QVERIFY2(myDialog->width() <= 640, qPrintable(QString::number(myDialog->width())));
-    QVERIFY(myCommand->width() >= myCommand->fontMetrics().averageCharWidth() * 50);
+    QCOMPARE(myCommand->minimumWidth(), myDialog->fontMetrics().averageCharWidth() * 50);
+    QVERIFY(hint()->wordWrap());
+    QVERIFY(hint()->isVisible());
 }
 
 QTEST_MAIN(tst_EditorDialog)

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void runs();
     void fails_data();
     void fails();
+    void hasNoInput();
     void missesATerminal();
     void leavesEditorsRunning();
     void choices_data();
@@ -100,6 +101,9 @@ void tst_EditorLauncher::fails_data()
             << u"The editor \"nowhere\" is not installed. Choose another one in the menu of the findings."_s;
     QTest::newRow("exit code") << u"bad %f"_s
                                << u"The editor \"bad\" ended at once with the exit code 3.\nno display"_s;
+    QTest::newRow("long message") << u"verbose %f"_s
+                                  << u"The editor \"verbose\" ended at once with the exit code 1.\n"_s
+                    + QString(500, u'b');
     QTest::newRow("crash") << u"crashes %f"_s << u"The editor \"crashes\" crashed."_s;
 }
 
@@ -109,12 +113,22 @@ void tst_EditorLauncher::fails()
     QFETCH(QString, message);
     script(u"bad"_s, "echo 'no display' >&2; exit 3");
     script(u"crashes"_s, "kill -SEGV $$");
+    script(u"verbose"_s, "echo '" + QByteArray(10, 'a') + QByteArray(500, 'b') + "' >&2; exit 1");
     EditorLauncher launcher;
     QSignalSpy failed(&launcher, &EditorLauncher::failed);
     launcher.open(EditorCommand(command), path(u"c.xml"_s), { 1, 1 });
     QVERIFY(!failed.isEmpty() || failed.wait(20000));
     QCOMPARE(failed.size(), 1);
     QCOMPARE(failed.at(0).at(0).toString(), message);
+}
+
+// An editor that reads what it is given reaches the end at once.
+void tst_EditorLauncher::hasNoInput()
+{
+    script(u"ed"_s, "while read line; do :; done; : > \"${0%/*}/ended\"");
+    EditorLauncher launcher;
+    launcher.open(EditorCommand(u"ed %f"_s), path(u"c.xml"_s), { 1, 1 });
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(path(u"ended"_s)), 20000);
 }
 
 void tst_EditorLauncher::missesATerminal()

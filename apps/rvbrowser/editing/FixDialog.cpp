@@ -45,11 +45,10 @@ FixDialog::FixDialog(std::unique_ptr<FixPlan> plan, QWidget *parent) : QDialog(p
     diff->setObjectName(u"fixDiff"_s);
     diff->setAccessibleName(tr("Lines that change"));
     diff->setReadOnly(true);
-    diff->setTabChangesFocus(true);
     diff->setLineWrapMode(QPlainTextEdit::NoWrap);
     diff->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     new DiffColors(diff->document(), palette());
-    diff->setPlainText(shownDiff());
+    diff->setPlainText(textOf(shownDiff()));
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Apply | QDialogButtonBox::Cancel);
     connect(buttons->button(QDialogButtonBox::Apply), &QPushButton::clicked, this, &FixDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &FixDialog::reject);
@@ -77,15 +76,14 @@ QString FixDialog::heading() const
                              .arg(QFileInfo(myPlan->fileName()).fileName());
     if (myPlan->leftOut() > 0)
         result += u'\n' + tr("%n more touch the same places; apply them afterwards.", nullptr, myPlan->leftOut());
-    if (myPlan->diff().size() > MOST_BYTES)
+    if (shownDiff().size() < myPlan->diff().size())
         result += u'\n' + tr("Only the first changes are shown.");
     return result;
 }
 
-QString FixDialog::shownDiff() const
+// Whole lines; the last line of a short diff ends as well.
+QByteArray FixDialog::shownDiff() const
 {
     const QByteArray diff = myPlan->diff();
-    if (diff.size() <= MOST_BYTES)
-        return textOf(diff);
-    return textOf(diff.first(diff.lastIndexOf('\n', MOST_BYTES) + 1));
+    return diff.first(diff.lastIndexOf('\n', MOST_BYTES) + 1);
 }

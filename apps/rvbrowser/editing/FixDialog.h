@@ -26,7 +26,7 @@ Q_SIGNALS:
 private:
     QString heading() const;
     /// The diff, cut off behind a line if it is too long to be read.
-    QString shownDiff() const;
+    QByteArray shownDiff() const;
 
     std::unique_ptr<FixPlan> myPlan;
 };

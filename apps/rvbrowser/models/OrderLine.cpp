@@ -26,8 +26,6 @@ QString breakable(const QString &text)
 OrderLine::OrderLine(QWidget *parent) : QPlainTextEdit(parent)
 {
     setReadOnly(true);
-    setTabChangesFocus(true);
-    setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     document()->setDocumentMargin(2);
