@@ -58,6 +58,7 @@ private Q_SLOTS:
     void remembersTheFindings();
     void remembersProducts();
     void remembersWhileItRuns();
+    void forgottenStaysForgotten();
     void ignoresWhatIsNotOffered();
     void productsOfOneType();
     void twoWindows();
@@ -81,6 +82,7 @@ private:
     {
         return myWindow->findChild<T *>(name);
     }
+    bool isRedRemembered() const; ///< By the settings, for DUN9.
     QString title() const { return find<QLabel>(u"title"_s)->text(); }
     QString pages() const { return find<QComboBox>(u"pageCounts"_s)->currentText(); }
     QString color() const { return find<QComboBox>(u"option alcolor"_s)->currentText(); }
@@ -198,18 +200,34 @@ void tst_window_memory::remembersProducts()
     QCOMPARE(pages(), u"26 pages"_s);
 }
 
+bool tst_window_memory::isRedRemembered() const
+{
+    Settings settings(path(u"settings.ini"_s));
+    settings.refresh();
+    const auto choice = ProductMemory(&settings).choice(path(u"c.xml"_s), RVProductType(u"DUN9"_s));
+    return choice && choice->variants.value(u"alcolor"_s) == "red"_L1;
+}
+
 // A program that is killed in the evening does not close its window.
 void tst_window_memory::remembersWhileItRuns()
 {
     open(u"c.xml"_s);
     find<QComboBox>(u"option alcolor"_s)->setCurrentIndex(1);
-    const auto isRemembered = [this] {
+    QTRY_VERIFY_WITH_TIMEOUT(isRedRemembered(), 20000);
+}
+
+// A choice is written once, and not again when the window closes.
+void tst_window_memory::forgottenStaysForgotten()
+{
+    open(u"c.xml"_s);
+    find<QComboBox>(u"option alcolor"_s)->setCurrentIndex(1);
+    QTRY_VERIFY_WITH_TIMEOUT(isRedRemembered(), 20000);
+    {
         Settings settings(path(u"settings.ini"_s));
-        settings.refresh();
-        const auto choice = ProductMemory(&settings).choice(path(u"c.xml"_s), RVProductType(u"DUN9"_s));
-        return choice && choice->variants.value(u"alcolor"_s) == "red"_L1;
-    };
-    QTRY_VERIFY_WITH_TIMEOUT(isRemembered(), 20000);
+        settings.forgetEverything();
+    }
+    myWindow->close();
+    QVERIFY(!isRedRemembered());
 }
 
 void tst_window_memory::ignoresWhatIsNotOffered()

@@ -16,7 +16,6 @@ constexpr auto WAIT = 1s;
 
 ChoiceKeeper::ChoiceKeeper(ProductView *view, Settings *settings) : myView(view), myMemory(settings)
 {
-    myTimer.setSingleShot(true);
     myTimer.setInterval(WAIT);
     connect(&myTimer, &QTimer::timeout, this, &ChoiceKeeper::keep);
     connect(myView, &ProductView::choiceChanged, this, &ChoiceKeeper::noteChange);
