@@ -133,7 +133,7 @@ QWidget *MainWindow::createCentre()
     connect(myStart, &StartScreen::fileChosen, &mySession, &CatalogueSession::open);
     auto *centre = new QWidget;
     auto *layout = new QVBoxLayout(centre);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins({});
     layout->addWidget(myBanner);
     layout->addWidget(myScreens, 1);
     return centre;

@@ -66,7 +66,8 @@ int main(int argc, char *argv[])
         return EXIT_USAGE;
     }
     if (options.isHelp() || options.isVersion()) {
-        QTextStream(stdout) << (options.isHelp() ? options.helpText() : u"rvbrowser " RVBROWSER_VERSION "\n"_s);
+        QTextStream(stdout) << (options.isHelp() ? options.helpText()
+                                                 : u"rvbrowser %1\n"_s.arg(QApplication::applicationVersion()));
         return 0;
     }
     Language language;
