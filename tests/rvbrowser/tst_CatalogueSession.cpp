@@ -27,6 +27,7 @@ private Q_SLOTS:
 
     void opens();
     void standsBehindTheServices();
+    void refusesAnEmptyCatalogue();
     void keepsWhatWasLoaded();
     void reloadsNothing();
     void reloadsOnRequest();
@@ -107,11 +108,25 @@ void tst_CatalogueSession::opens()
 
 void tst_CatalogueSession::standsBehindTheServices()
 {
+    QVERIFY(!CatalogueServices::isOffered(u"A"_s)); // nothing is open
     QVERIFY(load("<p><product type='A' article_id='1' pages='7'/></p>"));
     QCOMPARE(pages(), 7);
     QVERIFY(CatalogueServices::isOffered(u"A"_s));
+    QVERIFY(!CatalogueServices::isOffered(u"B"_s));
     mySession.reset();
     QVERIFY(!CatalogueServices::pageCounts(u"A"_s).isValid());
+}
+
+void tst_CatalogueSession::refusesAnEmptyCatalogue()
+{
+    QVERIFY(myFolder->write(u"empty.xml"_s, "<p/>"));
+    mySession->open(path(u"empty.xml"_s));
+    QVERIFY(myFailed->wait(TIMEOUT));
+    const auto error = myFailed->at(0).at(0).value<LoadError>();
+    QCOMPARE(error.fileName, path(u"empty.xml"_s));
+    QCOMPARE(error.text, u"there is no product in this file"_s);
+    QVERIFY(!error.position);
+    QVERIFY(!mySession->catalogue());
 }
 
 void tst_CatalogueSession::keepsWhatWasLoaded()
