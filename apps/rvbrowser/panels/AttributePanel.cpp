@@ -2,9 +2,9 @@
 
 #include "PaletteColors.h"
 #include "PlainToolTip.h"
+#include "TextLabel.h"
 
 #include <QFormLayout>
-#include <QLabel>
 
 namespace {
 
@@ -36,10 +36,7 @@ void AttributePanel::addLine(const QString &label)
 {
     auto *name = new QLabel(label);
     name->setAlignment(Qt::AlignLeft | Qt::AlignTop); // beside the first line of the text
-    auto *text = new QLabel;
-    text->setTextFormat(Qt::PlainText);
-    text->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    text->setWordWrap(true);
+    QLabel *text = createTextLabel();
     text->setMinimumWidth(text->fontMetrics().averageCharWidth() * LEAST_VALUE_CHARACTERS);
     myLayout->addRow(name, text);
     myTexts += text;

@@ -24,9 +24,9 @@ ComparisonFilter::ComparisonFilter(QWidget *parent) : QWidget(parent), myKind(ne
     connect(myKind, &QComboBox::currentIndexChanged, this, &ComparisonFilter::changed);
     connect(mySearch, &QLineEdit::textChanged, this, &ComparisonFilter::changed);
     auto *layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins({});
     layout->addWidget(myKind);
-    layout->addWidget(mySearch, 1);
+    layout->addWidget(mySearch);
 }
 
 ComparisonModel::Kind ComparisonFilter::kind() const

@@ -79,7 +79,7 @@ ComparisonPanel::ComparisonPanel(QWidget *parent)
     layout->setSpacing(2);
     layout->addWidget(myHeader);
     layout->addWidget(myProgress);
-    layout->addWidget(myView, 1);
+    layout->addWidget(myView);
     layout->addWidget(myMessage, 1);
     layout->addWidget(myClear, 1, Qt::AlignCenter);
     showParts();
@@ -94,8 +94,8 @@ QWidget *ComparisonPanel::createHeader()
         label->setMinimumWidth(1); // a narrow window stays possible
     auto *result = new QWidget;
     auto *layout = new QHBoxLayout(result);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(myFilter, 1);
+    layout->setContentsMargins({});
+    layout->addWidget(myFilter);
     layout->addWidget(mySummary);
     layout->addWidget(myNames);
     return result;

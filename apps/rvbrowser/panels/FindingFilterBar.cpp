@@ -1,13 +1,12 @@
 #include "FindingFilterBar.h"
 
 #include "FindingsModel.h"
+#include "SearchLine.h"
 #include "WheelGuard.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMap>
 #include <QSignalBlocker>
 #include <QToolButton>
@@ -18,17 +17,12 @@ using namespace Qt::StringLiterals;
 
 FindingFilterBar::FindingFilterBar(QWidget *parent)
     : QWidget(parent),
-      myText(new QLineEdit),
+      myText(new SearchLine(u"findingText"_s, tr("Filter findings"), tr("Filter by product, text, rule"))),
       myRules(new QComboBox),
       myCount(new QLabel)
 {
-    myText->setObjectName(u"findingText"_s);
-    myText->setPlaceholderText(tr("Filter by product, text, rule"));
-    myText->setAccessibleName(tr("Filter findings"));
-    myText->setClearButtonEnabled(true);
-    myText->setAcceptDrops(false); // a file that is dropped here is to be opened
-    myText->installEventFilter(this);
     connect(myText, &QLineEdit::textChanged, this, &FindingFilterBar::filterChanged);
+    connect(myText, &SearchLine::left, this, &FindingFilterBar::left);
     myRules->setObjectName(u"findingRule"_s);
     myRules->setAccessibleName(tr("Rule"));
     myRules->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -39,7 +33,7 @@ FindingFilterBar::FindingFilterBar(QWidget *parent)
 
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(4, 0, 4, 2);
-    layout->addWidget(myText, 1);
+    layout->addWidget(myText);
     addSeverity(RVCatalogueSeverity::Error, u"showErrors"_s);
     addSeverity(RVCatalogueSeverity::Warning, u"showWarnings"_s);
     addSeverity(RVCatalogueSeverity::Note, u"showNotes"_s);
@@ -138,23 +132,4 @@ void FindingFilterBar::clear()
 void FindingFilterBar::focusText()
 {
     myText->setFocus(Qt::OtherFocusReason);
-}
-
-bool FindingFilterBar::eventFilter(QObject *watched, QEvent *event)
-{
-    const auto *pressed = event->type() == QEvent::KeyPress ? dynamic_cast<QKeyEvent *>(event) : nullptr;
-    if (watched != myText || !pressed)
-        return QWidget::eventFilter(watched, event);
-    switch (pressed->key()) {
-    case Qt::Key_Down:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        Q_EMIT left();
-        return true;
-    case Qt::Key_Escape:
-        myText->clear();
-        return true;
-    default:
-        return false;
-    }
 }

@@ -8,8 +8,8 @@
 
 class QComboBox;
 class QLabel;
-class QLineEdit;
 class QToolButton;
+class SearchLine;
 
 /// Chooses which findings are shown: by words, by severity and by rule.
 class FindingFilterBar : public QWidget
@@ -33,9 +33,6 @@ Q_SIGNALS:
     /// A key was pressed that leads on from the text to the findings.
     void left();
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 private:
     struct SeverityButton
     {
@@ -47,7 +44,7 @@ private:
     void setSeverityCount(const SeverityButton &severity, int count);
     void setRules(const QList<RVCatalogueFinding> &findings);
 
-    QLineEdit *myText;
+    SearchLine *myText;
     QList<SeverityButton> mySeverities;
     QComboBox *myRules;
     QLabel *myCount;

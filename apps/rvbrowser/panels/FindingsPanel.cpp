@@ -55,7 +55,7 @@ FindingsPanel::FindingsPanel(QWidget *parent)
         myView->setFocus(Qt::TabFocusReason);
     });
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins({});
     layout->addWidget(myFilter);
     layout->addWidget(myNothing);
     layout->addWidget(myClear, 0, Qt::AlignLeft);
@@ -69,7 +69,6 @@ void FindingsPanel::setUpView()
     myView->setAccessibleName(tr("Findings"));
     myView->setModel(&myModel);
     myView->setSelectionBehavior(QAbstractItemView::SelectRows);
-    myView->setSelectionMode(QAbstractItemView::ExtendedSelection);
     myView->setContextMenuPolicy(Qt::ActionsContextMenu);
     myView->setShowGrid(false);
     myView->setWordWrap(false);
@@ -80,7 +79,6 @@ void FindingsPanel::setUpView()
     myView->horizontalHeader()->setHighlightSections(false);
     myView->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     // A third click on a header brings back the order of the file.
-    myView->horizontalHeader()->setSectionsClickable(true);
     myView->horizontalHeader()->setSortIndicatorShown(true);
     myView->horizontalHeader()->setSortIndicatorClearable(true);
     myView->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
@@ -250,16 +248,17 @@ void FindingsPanel::select(const QList<int> &findings, int current)
     }
     QItemSelection selection;
     for (const int row : std::as_const(rows)) {
-        if (selection.isEmpty() || selection.constLast().bottom() + 1 != row)
-            selection += QItemSelectionRange(myModel.index(row, 0), myModel.index(row, FINDING_COLUMN_COUNT - 1));
+        const QModelIndex index = myModel.index(row, FINDING_TEXT);
+        const bool isBelow = !selection.isEmpty() && selection.constLast().bottom() + 1 == row;
+        if (isBelow)
+            selection.last() = QItemSelectionRange(selection.constLast().topLeft(), index);
         else
-            selection.last() = QItemSelectionRange(selection.constLast().topLeft(),
-                                                   myModel.index(row, FINDING_COLUMN_COUNT - 1));
+            selection += QItemSelectionRange(index);
     }
     const int row = current < 0 ? -1 : myModel.rowOf(current);
     if (row >= 0)
         myView->selectionModel()->setCurrentIndex(myModel.index(row, FINDING_TEXT), QItemSelectionModel::NoUpdate);
-    myView->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    myView->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     if (row >= 0)
         myView->scrollTo(myModel.index(row, FINDING_TEXT));
 }

@@ -13,14 +13,10 @@ namespace {
 QList<QLayoutItem *> gridLabels(const QGridLayout &grid)
 {
     QList<QLayoutItem *> result;
-    for (int i = 0; i < grid.count(); ++i) {
-        int row = 0;
-        int column = 0;
-        int rowSpan = 0;
-        int columnSpan = 0;
-        grid.getItemPosition(i, &row, &column, &rowSpan, &columnSpan);
-        if (column == 0 && columnSpan == 1)
-            result += grid.itemAt(i);
+    for (int row = 0; row < grid.rowCount(); ++row) {
+        QLayoutItem *label = grid.itemAtPosition(row, 0);
+        if (label && label != grid.itemAtPosition(row, 1))
+            result += label;
     }
     return result;
 }

@@ -27,7 +27,7 @@ LoadProgress::LoadProgress(const QString &name, QWidget *parent)
     cancel->setObjectName(name + "Cancel"_L1);
     connect(cancel, &QPushButton::clicked, this, &LoadProgress::cancelRequested);
     auto *layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins({});
     layout->addWidget(myText);
     layout->addWidget(myBar);
     layout->addWidget(cancel);

@@ -1,14 +1,14 @@
 #include "MessageBanner.h"
 
+#include "TextLabel.h"
 #include "ThemeIcon.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
 
-MessageBanner::MessageBanner(QWidget *parent) : QFrame(parent), myText(new QLabel)
+MessageBanner::MessageBanner(QWidget *parent) : QFrame(parent), myText(createTextLabel(u"bannerText"_s))
 {
     setObjectName(u"banner"_s);
     setFrameShape(QFrame::StyledPanel);
@@ -17,10 +17,7 @@ MessageBanner::MessageBanner(QWidget *parent) : QFrame(parent), myText(new QLabe
     auto *icon = new QLabel;
     const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
     icon->setPixmap(themeIcon("dialog-error", QStyle::SP_MessageBoxCritical).pixmap(size, size));
-    myText->setObjectName(u"bannerText"_s);
     myText->setForegroundRole(QPalette::ToolTipText);
-    myText->setTextFormat(Qt::PlainText);
-    myText->setWordWrap(true);
     myText->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     auto *close = new QToolButton;
     close->setAutoRaise(true);

@@ -75,7 +75,7 @@ OptionsPanel::OptionsPanel(QWidget *parent)
       myLayout(new QFormLayout),
       myNoOptions(new QLabel(tr("This product has no options, so its order lines are empty.")))
 {
-    myLayout->setContentsMargins(0, 0, 0, 0);
+    myLayout->setContentsMargins({});
     myLayout->setVerticalSpacing(LINE_SPACING);
     myLayout->setLabelAlignment(Qt::AlignLeft);
     myLayout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);

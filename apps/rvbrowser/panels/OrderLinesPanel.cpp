@@ -1,26 +1,23 @@
 #include "OrderLinesPanel.h"
 
 #include "OrderLine.h"
+#include "TextLabel.h"
 
 #include <RVArticleVariants.h>
 
 #include <QClipboard>
 #include <QGridLayout>
 #include <QGuiApplication>
-#include <QLabel>
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
-OrderLinesPanel::OrderLinesPanel(QWidget *parent) : QGroupBox(tr("Order lines"), parent), myNames(new QLabel)
+OrderLinesPanel::OrderLinesPanel(QWidget *parent)
+    : QGroupBox(tr("Order lines"), parent),
+      myNames(createTextLabel(u"optionNames"_s))
 {
     auto *layout = new QGridLayout(this);
-    layout->setColumnStretch(1, 1);
     layout->setVerticalSpacing(4);
-    myNames->setObjectName(u"optionNames"_s);
-    myNames->setTextFormat(Qt::PlainText);
-    myNames->setWordWrap(true);
-    myNames->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto *label = new QLabel(tr("Customer:"));
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     layout->addWidget(label, 0, 0);

@@ -1,12 +1,11 @@
 #include "ProductList.h"
 
 #include "FindingBadge.h"
+#include "SearchLine.h"
 
 #include <QCheckBox>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QTreeView>
@@ -16,20 +15,17 @@ using namespace Qt::StringLiterals;
 
 ProductList::ProductList(QWidget *parent)
     : QWidget(parent),
-      mySearch(new QLineEdit),
+      mySearch(new SearchLine(u"search"_s, tr("Search products"), tr("Search type, article id, keyword, name"))),
       myFaultyOnly(new QCheckBox(tr("F&aulty products only"))),
       myView(new QTreeView),
       myClear(new QPushButton),
       myCount(new QLabel)
 {
-    mySearch->setObjectName(u"search"_s);
-    mySearch->setPlaceholderText(tr("Search type, article id, keyword, name"));
-    mySearch->setAccessibleName(tr("Search products"));
-    mySearch->setClearButtonEnabled(true);
-    mySearch->setAcceptDrops(false); // a file that is dropped here is to be opened
-    mySearch->installEventFilter(this);
     connect(mySearch, &QLineEdit::textChanged, this, &ProductList::search);
-
+    connect(mySearch, &SearchLine::left, this, [this] {
+        setCurrentProduct(firstProduct());
+        myView->setFocus(Qt::TabFocusReason);
+    });
     myFaultyOnly->setObjectName(u"faultyOnly"_s);
     myFaultyOnly->setToolTip(tr("Products with an error or a warning"));
     connect(myFaultyOnly, &QCheckBox::toggled, this, &ProductList::showFaultyOnly);
@@ -128,27 +124,6 @@ void ProductList::focusSearch()
 {
     mySearch->setFocus(Qt::ShortcutFocusReason);
     mySearch->selectAll();
-}
-
-// From the search line on to what was found, and back to all products.
-bool ProductList::eventFilter(QObject *watched, QEvent *event)
-{
-    const auto *pressed = event->type() == QEvent::KeyPress ? dynamic_cast<QKeyEvent *>(event) : nullptr;
-    if (watched != mySearch || !pressed)
-        return QWidget::eventFilter(watched, event);
-    switch (pressed->key()) {
-    case Qt::Key_Down:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        setCurrentProduct(firstProduct());
-        myView->setFocus(Qt::TabFocusReason);
-        return true;
-    case Qt::Key_Escape:
-        mySearch->clear();
-        return true;
-    default:
-        return false;
-    }
 }
 
 void ProductList::search(const QString &text)

@@ -7,9 +7,9 @@
 
 class QCheckBox;
 class QLabel;
-class QLineEdit;
 class QPushButton;
 class QTreeView;
+class SearchLine;
 
 /// The products of a catalogue, with a line to search them and a way to see the faulty ones alone.
 class ProductList : public QWidget
@@ -37,9 +37,6 @@ public:
 Q_SIGNALS:
     void productChosen(int product);
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 private:
     void search(const QString &text);
     void showFaultyOnly(bool isFaultyOnly);
@@ -52,7 +49,7 @@ private:
     void showCount();
 
     ProductTreeModel myModel;
-    QLineEdit *mySearch;
+    SearchLine *mySearch;
     QCheckBox *myFaultyOnly;
     QTreeView *myView;
     QPushButton *myClear; // shown where nothing is found

@@ -13,10 +13,10 @@
 #include "PricesPanel.h"
 #include "ProductFaults.h"
 #include "SpinePanel.h"
+#include "TextLabel.h"
 
 #include <QComboBox>
 #include <QFormLayout>
-#include <QLabel>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -32,10 +32,10 @@ constexpr int DRAWING_STRETCH = 100;
 
 ProductView::ProductView(QWidget *parent)
     : FittingScrollArea(parent),
-      myTitle(new QLabel),
-      myNote(new QLabel),
-      myFaults(new QLabel),
-      myFault(new QLabel),
+      myTitle(createTextLabel(u"title"_s)),
+      myNote(createTextLabel(u"note"_s)),
+      myFaults(createTextLabel(u"faults"_s)),
+      myFault(createTextLabel(u"fault"_s)),
       myColumns(new QBoxLayout(QBoxLayout::LeftToRight)),
       myTexts(new QVBoxLayout),
       myDrawings(new QVBoxLayout),
@@ -172,19 +172,12 @@ void ProductView::resizeEvent(QResizeEvent *event)
 
 void ProductView::prepareHeader()
 {
-    myTitle->setObjectName(u"title"_s);
     myTitle->setFont(largeFont(myTitle->font(), 1.4));
-    myNote->setObjectName(u"note"_s);
-    myFaults->setObjectName(u"faults"_s);
     myFaults->setFont(largeFont(myFaults->font(), 1.1));
-    myFault->setObjectName(u"fault"_s);
     myFault->hide();
-    for (QLabel *label : { myTitle, myNote, myFaults, myFault }) {
-        label->setTextFormat(Qt::PlainText);
-        label->setWordWrap(true);
-        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        label->setMinimumWidth(1); // a word that is wider than the window does not make all else as wide
-    }
+    // A word that is wider than the window does not make all else as wide.
+    for (QLabel *label : { myTitle, myNote, myFaults, myFault })
+        label->setMinimumWidth(1);
 }
 
 QWidget *ProductView::createContent()

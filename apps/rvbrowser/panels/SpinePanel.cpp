@@ -5,11 +5,11 @@
 #include "SpineCurve.h"
 #include "SpineDrawing.h"
 #include "SpineFont.h"
+#include "TextLabel.h"
 
 #include <RVCatalogueProduct.h>
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QLocale>
 #include <QVBoxLayout>
 
@@ -36,16 +36,13 @@ SpinePanel::SpinePanel(QWidget *parent)
     : QGroupBox(tr("Pages and spine"), parent),
       myChooser(new PageCountChooser),
       myRange(new QLabel),
-      myText(new QLabel),
+      myText(createTextLabel(u"spineText"_s)),
       myDrawing(new SpineDrawing),
       myCurve(new SpineCurve)
 {
     auto *label = new QLabel(tr("&Page count:"));
     label->setBuddy(myChooser);
-    myText->setObjectName(u"spineText"_s);
     myText->setFont(largeFont(myText->font(), 1.3));
-    myText->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    myText->setWordWrap(true);
     myRange->setObjectName(u"pageRange"_s);
     myRange->setWordWrap(true);
 
@@ -55,7 +52,7 @@ SpinePanel::SpinePanel(QWidget *parent)
     counts->addWidget(myRange, 1);
     auto *drawings = new QHBoxLayout;
     drawings->addWidget(myDrawing);
-    drawings->addWidget(myCurve, 1);
+    drawings->addWidget(myCurve);
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(counts);
     layout->addWidget(myText);
