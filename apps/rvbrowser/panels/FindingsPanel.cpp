@@ -76,6 +76,7 @@ void FindingsPanel::setUpView()
     myView->verticalHeader()->hide();
     myView->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
     myView->verticalHeader()->setMinimumSectionSize(0);
+    myView->horizontalHeader()->setSectionResizeMode(FINDING_TEXT, QHeaderView::Stretch);
     myView->horizontalHeader()->setHighlightSections(false);
     myView->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     // A third click on a header brings back the order of the file.
@@ -115,11 +116,11 @@ void FindingsPanel::setCatalogue(const CataloguePointer &catalogue)
     myModel.setFilter(myFilter->filter());
     const bool isReload = before && catalogue && before->fileName() == catalogue->fileName();
     myResumeRow = isReload ? row : 0;
-    myHidden = -1;
+    myHidden.reset();
     if (isReload && finding >= 0)
         keepCurrent(before->findings().at(finding), row);
     showState();
-    fitColumns();
+    myView->resizeColumnsToContents(); // which measures only what is visible, so it is quick for many findings as well
     Q_EMIT catalogueChanged();
 }
 
@@ -137,23 +138,14 @@ void FindingsPanel::keepCurrent(const RVCatalogueFinding &before, int row)
         select({ myModel.findingAt(nearest) }, myModel.findingAt(nearest));
 }
 
-// Only what is visible is measured, so this is quick for many findings as well.
-void FindingsPanel::fitColumns()
-{
-    myView->resizeColumnsToContents();
-    const int longest = fontMetrics().averageCharWidth() * 90;
-    myView->setColumnWidth(FINDING_TEXT, qMin(longest, myView->columnWidth(FINDING_TEXT)));
-    myView->horizontalHeader()->setSectionResizeMode(FINDING_TEXT, QHeaderView::Stretch);
-}
-
 // A chosen finding that is hidden stays the chosen one: filtering is not choosing.
 void FindingsPanel::applyFilter()
 {
-    const bool isHidden = currentFinding() < 0 && myHidden >= 0;
-    const QList<int> selected = isHidden ? QList<int> { myHidden } : selectedFindings();
-    const int current = isHidden ? myHidden : currentFinding();
+    const bool isHidden = currentFinding() < 0 && myHidden;
+    const QList<int> selected = isHidden ? QList<int> { *myHidden } : selectedFindings();
+    const int current = isHidden ? *myHidden : currentFinding();
     myModel.setFilter(myFilter->filter());
-    myHidden = myModel.rowOf(current) < 0 ? current : -1;
+    myHidden = current;
     myResumeRow = 0;
     select(selected, current);
     showState();
@@ -195,8 +187,7 @@ QString FindingsPanel::summary() const
 
 int FindingsPanel::currentFinding() const
 {
-    const QModelIndex current = myView->currentIndex();
-    return current.isValid() ? myModel.findingAt(current.row()) : -1;
+    return myModel.findingAt(myView->currentIndex().row());
 }
 
 QList<int> FindingsPanel::selectedFindings() const
@@ -238,16 +229,11 @@ FindingsPanel::Step FindingsPanel::goTo(int row, bool isWrapped)
 
 void FindingsPanel::select(const QList<int> &findings, int current)
 {
-    QList<int> rows;
-    if (!findings.isEmpty()) {
-        const QSet<int> wanted(findings.begin(), findings.end());
-        for (int row = 0; row < myModel.rowCount(); ++row) {
-            if (wanted.contains(myModel.findingAt(row)))
-                rows += row;
-        }
-    }
+    const QSet<int> wanted(findings.begin(), findings.end());
     QItemSelection selection;
-    for (const int row : std::as_const(rows)) {
+    for (int row = 0; row < myModel.rowCount(); ++row) {
+        if (!wanted.contains(myModel.findingAt(row)))
+            continue;
         const QModelIndex index = myModel.index(row, FINDING_TEXT);
         const bool isBelow = !selection.isEmpty() && selection.constLast().bottom() + 1 == row;
         if (isBelow)
@@ -255,12 +241,10 @@ void FindingsPanel::select(const QList<int> &findings, int current)
         else
             selection += QItemSelectionRange(index);
     }
-    const int row = current < 0 ? -1 : myModel.rowOf(current);
-    if (row >= 0)
-        myView->selectionModel()->setCurrentIndex(myModel.index(row, FINDING_TEXT), QItemSelectionModel::NoUpdate);
+    const QModelIndex index = myModel.index(myModel.rowOf(current), FINDING_TEXT);
+    myView->selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
     myView->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    if (row >= 0)
-        myView->scrollTo(myModel.index(row, FINDING_TEXT));
+    myView->scrollTo(index);
 }
 
 void FindingsPanel::setExplained(bool isExplained)
@@ -298,11 +282,8 @@ QSize FindingsPanel::sizeHint() const
 
 void FindingsPanel::choose(const QModelIndex &index)
 {
-    myHidden = -1;
-    const int finding = index.isValid() ? myModel.findingAt(index.row()) : -1;
-    const int product = index.isValid() ? myModel.product(index.row()) : -1;
+    const int product = myModel.product(index.row());
     if (product >= 0)
         Q_EMIT productChosen(product);
-    if (finding >= 0)
-        Q_EMIT findingChosen(finding);
+    Q_EMIT findingChosen(myModel.findingAt(index.row()));
 }

@@ -5,6 +5,8 @@
 
 #include <QWidget>
 
+#include <optional>
+
 class FindingFilterBar;
 class QAction;
 class QLabel;
@@ -69,7 +71,6 @@ private:
     void applyFilter();
     void sort(int column, Qt::SortOrder order);
     void showState();
-    void fitColumns();
     void choose(const QModelIndex &index);
     Step goTo(int row, bool isWrapped);
     void select(const QList<int> &findings, int current);
@@ -83,7 +84,7 @@ private:
     QTableView *myView;
     QTextBrowser *myExplanation;
     QSplitter *mySplitter; // of the two above
-    int myHidden = -1; // the chosen finding while the filter hides it
+    std::optional<int> myHidden; // the chosen finding, also while the filter hides it
     int myResumeRow = 0; // where the next step leads while nothing is chosen
 };
 
