@@ -107,7 +107,7 @@ void tst_FindingFilterBar::severities()
     QCOMPARE(shown->accessibleName(), toolTip);
     QVERIFY(!shown->icon().isNull());
     QCOMPARE(shown->toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
-    QVERIFY(shown->focusPolicy() & Qt::TabFocus);
+    QCOMPARE(shown->focusPolicy(), Qt::StrongFocus);
     QVERIFY(shown->isChecked());
     QTest::keyClick(shown, Qt::Key_Space);
     QCOMPARE(myBar->filter().hidden, QList<RVCatalogueSeverity> { severity });
@@ -126,6 +126,7 @@ void tst_FindingFilterBar::rules()
     // A long name of a rule does not make the window wide.
     QCOMPARE(ruleList()->sizeAdjustPolicy(), QComboBox::AdjustToMinimumContentsLengthWithIcon);
     QCOMPARE(ruleList()->minimumContentsLength(), 18);
+    QCOMPARE(ruleList()->accessibleName(), u"Rule"_s);
 }
 
 void tst_FindingFilterBar::words()

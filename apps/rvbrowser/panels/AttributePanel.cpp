@@ -6,6 +6,8 @@
 
 #include <QFormLayout>
 
+#include <algorithm>
+
 namespace {
 
 /// A longer word is cut off, and its tool tip has all of it.
@@ -44,18 +46,18 @@ void AttributePanel::addLine(const QString &label)
 
 QWidget *AttributePanel::markFault(const QString &attribute, const QString &fault)
 {
-    for (qsizetype i = 0; i < myFacts.size(); ++i) {
-        ProductFacts::Fact fact = myFacts.at(i);
-        if (fact.attribute.isEmpty() || fact.attribute != attribute)
-            continue;
-        if (fact.fault.isEmpty()) { // as with a note, which is none for who only looks at the product
-            fact.fault = fault;
-            show(fact, myTexts.at(i));
-            myLayout->setRowVisible(int(i), true);
-        }
-        return myTexts.at(i);
+    const auto found = std::find_if(myFacts.cbegin(), myFacts.cend(),
+                                    [&](const ProductFacts::Fact &fact) { return fact.attribute == attribute; });
+    if (found == myFacts.cend())
+        return nullptr;
+    QLabel *text = myTexts.at(found - myFacts.cbegin());
+    if (found->fault.isEmpty()) { // as with a note, which is none for who only looks at the product
+        ProductFacts::Fact faulty = *found;
+        faulty.fault = fault;
+        show(faulty, text);
+        myLayout->setRowVisible(text, true);
     }
-    return nullptr;
+    return text;
 }
 
 // The fault stands below the value, so that it is not the colour alone that tells.

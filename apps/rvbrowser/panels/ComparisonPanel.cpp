@@ -187,10 +187,8 @@ void ComparisonPanel::choose(const QModelIndex &index)
 // A product that is hidden by the filter, or that no longer differs, leaves no choice behind.
 void ComparisonPanel::setCurrent(const QModelIndex &index)
 {
-    if (index.isValid()) {
+    if (index.isValid())
         myView->setCurrentIndex(index);
-        myView->scrollTo(index);
-    }
 }
 
 /// Its number in the comparison that is shown; -1 where it no longer differs.

@@ -58,7 +58,8 @@ FindingsPanel::FindingsPanel(QWidget *parent)
     layout->setContentsMargins({});
     layout->addWidget(myFilter);
     layout->addWidget(myNothing);
-    layout->addWidget(myClear, 0, Qt::AlignLeft);
+    layout->addWidget(myClear);
+    layout->setAlignment(myClear, Qt::AlignLeft);
     layout->addWidget(mySplitter, 1);
     showState();
 }
@@ -222,7 +223,6 @@ FindingsPanel::Step FindingsPanel::goTo(int row, bool isWrapped)
         return Step::None;
     const QModelIndex index = myModel.index(row, FINDING_TEXT);
     myView->selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    myView->scrollTo(index);
     choose(index);
     return isWrapped ? Step::Wrapped : Step::Taken;
 }
@@ -241,10 +241,9 @@ void FindingsPanel::select(const QList<int> &findings, int current)
         else
             selection += QItemSelectionRange(index);
     }
-    const QModelIndex index = myModel.index(myModel.rowOf(current), FINDING_TEXT);
-    myView->selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+    myView->selectionModel()->setCurrentIndex(myModel.index(myModel.rowOf(current), FINDING_TEXT),
+                                              QItemSelectionModel::NoUpdate);
     myView->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    myView->scrollTo(index);
 }
 
 void FindingsPanel::setExplained(bool isExplained)

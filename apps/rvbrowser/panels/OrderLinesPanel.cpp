@@ -30,12 +30,12 @@ OrderLinesPanel::OrderLinesPanel(QWidget *parent)
 void OrderLinesPanel::setVariants(const RVArticleVariants &variants, const QStringList &names)
 {
     myNames->setText(names.isEmpty() ? u"–"_s : names.join(u" · "_s));
-    const QStringList texts { variants.toKTX(), variants.toXTCI().toKTX(), variants.toOrderTxt() };
-    for (qsizetype i = 0; i < texts.size(); ++i)
-        showLine(i, texts.at(i));
+    showLine(ProjectFile, variants.toKTX());
+    showLine(OrderTransfer, variants.toXTCI().toKTX());
+    showLine(OrderText, variants.toOrderTxt());
 }
 
-void OrderLinesPanel::showLine(qsizetype line, const QString &text)
+void OrderLinesPanel::showLine(Line line, const QString &text)
 {
     myLines.at(line)->setText(text);
     myButtons.at(line)->setEnabled(!text.isEmpty());

@@ -27,7 +27,7 @@ public:
     void copy(Line line) const;
 
 private:
-    void showLine(qsizetype line, const QString &text);
+    void showLine(Line line, const QString &text);
     void addLine(QGridLayout *layout, const QString &label, const QString &objectName);
 
     QLabel *myNames;

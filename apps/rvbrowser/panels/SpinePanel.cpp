@@ -64,17 +64,13 @@ SpinePanel::SpinePanel(QWidget *parent)
 
 void SpinePanel::setProduct(const RVCatalogueProduct &product, const RVPageCountOrganization &pageCounts)
 {
-    myTable = SpineTable(product.spine(), pageCounts);
-    myWidest = 0;
-    if (myTable.rowCount() > 0)
-        myWidest = qMax(myTable.row(0).width, myTable.row(myTable.rowCount() - 1).width);
-    if (myWidest <= 0)
-        myTable = SpineTable();
+    const SpineTable table(product.spine(), pageCounts);
+    myWidest = table.rowCount() > 0 ? qMax(table.row(0).width, table.row(table.rowCount() - 1).width) : 0;
+    myTable = myWidest > 0 ? table : SpineTable();
     mySideWidth = product.spine().additionalSpineWidth().value(DISTANCE_UNIT_MILLIMETRE);
     myDrawing->setTitle(product.type().toString());
-    const bool hasSpine = myTable.rowCount() > 0;
-    myDrawing->setVisible(hasSpine);
-    myCurve->setVisible(hasSpine);
+    myDrawing->setVisible(isDrawn());
+    myCurve->setVisible(isDrawn());
     myCurve->setTable(myTable,
                       product.name().isEmpty() ? product.type().toString()
                                                : u"%1 (%2)"_s.arg(product.name(), product.type().toString()));
@@ -101,7 +97,7 @@ void SpinePanel::setPages(int pages)
 void SpinePanel::showRow(int row)
 {
     myCurve->setRow(row);
-    if (row < 0 || myTable.rowCount() == 0) {
+    if (row < 0 || !isDrawn()) {
         myDrawing->clear();
         myText->setText(row < 0 ? QString() : tr("This product has no spine."));
         return;
