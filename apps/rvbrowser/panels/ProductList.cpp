@@ -58,7 +58,6 @@ void ProductList::setUpView()
     myView->header()->setMinimumSectionSize(0);
     myView->header()->setSectionResizeMode(ProductTreeModel::NameColumn, QHeaderView::Stretch);
     myView->header()->setSectionResizeMode(ProductTreeModel::FindingsColumn, QHeaderView::Fixed);
-    myView->header()->resizeSection(ProductTreeModel::FindingsColumn, FindingBadge::widthOf(0, fontMetrics()));
     connect(myView->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &ProductList::choose);
 }
 
@@ -147,9 +146,7 @@ void ProductList::showFaultyOnly(bool isFaultyOnly)
 // A chosen product that is hidden stays the chosen one: searching is not choosing.
 void ProductList::showChosen()
 {
-    const QModelIndex chosen = myModel.indexOfProduct(myProduct);
-    myView->setCurrentIndex(chosen);
-    myView->scrollTo(chosen);
+    myView->setCurrentIndex(myModel.indexOfProduct(myProduct));
 }
 
 void ProductList::clearFilters()
