@@ -1,6 +1,7 @@
 #include <LoadProgress.h>
 
 #include <QLabel>
+#include <QLayout>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -15,6 +16,8 @@ class tst_LoadProgress : public QObject
 private Q_SLOTS:
     void showsItself();
     void startsOver();
+    void tellsWhatIsCompared();
+    void standsInOneRow();
     void asksToCancel();
 };
 
@@ -41,9 +44,37 @@ void tst_LoadProgress::startsOver()
         progress.setPercent(percent);
         QCOMPARE(bar->value(), percent);
     }
+    QCOMPARE(bar->minimum(), 0);
     QCOMPARE(bar->maximum(), 100);
     progress.start(u"b.xml"_s);
     QCOMPARE(bar->value(), 0);
+}
+
+void tst_LoadProgress::tellsWhatIsCompared()
+{
+    LoadProgress progress(u"progress"_s);
+    progress.setPercent(50);
+    progress.start(u"/old/a.xml"_s, u"/new/b.xml"_s);
+    QVERIFY(progress.isVisible());
+    QCOMPARE(progress.findChild<QLabel *>()->text(), u"Comparing a.xml with b.xml"_s);
+    QCOMPARE(progress.findChild<QProgressBar *>()->value(), 0);
+}
+
+// Without an edge of its own, and with a bar whose width does not depend on the name of the file.
+void tst_LoadProgress::standsInOneRow()
+{
+    LoadProgress progress(u"progress"_s);
+    QCOMPARE(progress.objectName(), u"progress"_s);
+    QCOMPARE(progress.layout()->contentsMargins(), QMargins());
+    progress.start(u"a.xml"_s);
+    QVERIFY(QTest::qWaitForWindowExposed(&progress));
+    const auto *label = progress.findChild<QLabel *>();
+    const auto *bar = progress.findChild<QProgressBar *>();
+    const auto *cancel = progress.findChild<QPushButton *>();
+    QCOMPARE(bar->width(), 200);
+    QVERIFY(bar->x() > label->geometry().right());
+    QVERIFY(cancel->x() > bar->geometry().right());
+    QCOMPARE(label->x(), 0);
 }
 
 void tst_LoadProgress::asksToCancel()

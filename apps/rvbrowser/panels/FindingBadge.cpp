@@ -17,14 +17,14 @@ void FindingBadge::paint(QPainter *painter, const QStyleOptionViewItem &option, 
 {
     QStyleOptionViewItem ground(option);
     initStyleOption(&ground, index);
-    const QString text = ground.text;
     ground.text.clear();
     const QStyle *style = option.widget ? option.widget->style() : QApplication::style();
     style->drawControl(QStyle::CE_ItemViewItem, &ground, painter, option.widget);
     const QVariant severity = index.data(ProductTreeModel::SeverityRole);
     if (!severity.isValid())
         return;
-    const int width = widthOf(text.toInt(), option.fontMetrics) - 2 * EDGE;
+    const int number = index.data().toInt();
+    const int width = widthOf(number, option.fontMetrics) - 2 * EDGE;
     QRect badge = option.rect.adjusted(EDGE, 0, -EDGE, -1);
     badge.setLeft(qMax(badge.left(), badge.right() - width + 1));
     const PaletteColors colors(option.palette);
@@ -34,7 +34,7 @@ void FindingBadge::paint(QPainter *painter, const QStyleOptionViewItem &option, 
     painter->setBrush(colors.severity(RVCatalogueSeverity(severity.toInt())));
     painter->drawRoundedRect(badge, badge.height() / 2.0, badge.height() / 2.0);
     painter->setPen(colors.textOnSeverity());
-    painter->drawText(badge, Qt::AlignCenter, text);
+    painter->drawText(badge, Qt::AlignCenter, QString::number(number));
     painter->restore();
 }
 
