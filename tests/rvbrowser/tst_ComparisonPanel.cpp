@@ -4,6 +4,8 @@
 #include "WrittenFile.h"
 
 #include <ComparisonActions.h>
+#include <ComparisonFilter.h>
+#include <ComparisonPanel.h>
 #include <MainWindow.h>
 #include <MessageBanner.h>
 
@@ -13,8 +15,10 @@
 #include <QComboBox>
 #include <QDockWidget>
 #include <QFile>
+#include <QHeaderView>
 #include <QImage>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
@@ -28,6 +32,22 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int TIMEOUT = 60000; // ms
+
+/// The changes that a panel shows.
+QTreeView *changesOf(const ComparisonPanel &panel)
+{
+    return panel.findChild<QTreeView *>();
+}
+
+QModelIndex firstColumn(const ComparisonPanel &panel, int product)
+{
+    return changesOf(panel)->model()->index(product, 0);
+}
+
+QString textOf(const ComparisonPanel &panel, const QString &label)
+{
+    return panel.findChild<QLabel *>(label)->text();
+}
 
 }
 
@@ -67,6 +87,15 @@ private Q_SLOTS:
     void dockStaysHidden();
     void dockIsHighEnough();
     void narrowWindow();
+    void looksLikeAList();
+    void partsOfThePanel();
+    void showsOneStateAtATime();
+    void opensProductsWhereThereAreFew_data();
+    void opensProductsWhereThereAreFew();
+    void tellsWhichProductIsChosen();
+    void copiesSeveral();
+    void staysWithTheProduct();
+    void shortensNames();
     void screenshot_data();
     void screenshot();
 
@@ -551,6 +580,187 @@ void tst_ComparisonPanel::narrowWindow()
     QVERIFY(changed.wait(TIMEOUT));
     QCOMPARE(myWindow->minimumSizeHint().width(), before);
     QVERIFY(find<QLabel>(u"comparedFiles"_s)->toolTip().contains(longName));
+}
+
+void tst_ComparisonPanel::looksLikeAList()
+{
+    ComparisonPanel panel;
+    panel.setComparison(compared(OLD_CATALOGUE, NEW_CATALOGUE));
+    const QTreeView *view = changesOf(panel);
+    QCOMPARE(view->accessibleName(), u"Changes"_s);
+    QVERIFY(view->uniformRowHeights()); // or many changes take long
+    QVERIFY(view->alternatingRowColors());
+    QVERIFY(view->allColumnsShowFocus());
+    QCOMPARE(view->selectionMode(), QAbstractItemView::ExtendedSelection);
+    QVERIFY(view->isSortingEnabled());
+    QVERIFY(view->header()->isSortIndicatorClearable());
+    QCOMPARE(view->header()->sortIndicatorSection(), -1); // in the order of the file
+    const int letter = panel.fontMetrics().averageCharWidth();
+    QCOMPARE(view->columnWidth(0), 56 * letter);
+    QCOMPARE(view->columnWidth(1), 19 * letter);
+    QCOMPARE(view->columnWidth(2), 36 * letter);
+    QCOMPARE(view->contextMenuPolicy(), Qt::ActionsContextMenu);
+    QCOMPARE(view->actions().size(), 1);
+    QCOMPARE(view->actions().constFirst()->shortcut(), QKeySequence(QKeySequence::Copy));
+    QCOMPARE(view->actions().constFirst()->shortcutContext(), Qt::WidgetShortcut); // the key is also for other parts
+}
+
+void tst_ComparisonPanel::partsOfThePanel()
+{
+    ComparisonPanel panel;
+    QCOMPARE(panel.sizeHint(), QSize(600, 10 * (panel.fontMetrics().height() + 6)));
+    QCOMPARE(panel.layout()->contentsMargins(), QMargins(6, 2, 6, 0));
+    QCOMPARE(panel.layout()->spacing(), 2);
+    panel.setComparison(compared(OLD_CATALOGUE, NEW_CATALOGUE));
+    panel.resize(900, 400);
+    panel.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&panel));
+    const auto *filter = panel.findChild<ComparisonFilter *>();
+    const auto *summary = panel.findChild<QLabel *>(u"comparisonSummary"_s);
+    const auto *names = panel.findChild<QLabel *>(u"comparedFiles"_s);
+    QCOMPARE(filter->parentWidget()->layout()->contentsMargins(), QMargins());
+    QVERIFY(summary->x() > filter->geometry().right());
+    QVERIFY(names->x() > summary->geometry().right());
+    QVERIFY(summary->width() <= summary->sizeHint().width()); // the filter gets what is left
+    QCOMPARE(names->textFormat(), Qt::PlainText);
+    for (const QLabel *label : { summary, names })
+        QCOMPARE(label->minimumWidth(), 1);
+    QVERIFY(changesOf(panel)->y() > filter->parentWidget()->geometry().bottom());
+    QCOMPARE(changesOf(panel)->geometry().bottom(), 399);
+    QVERIFY(filter->parentWidget()->height() <= filter->sizeHint().height());
+    QVERIFY(panel.findChild<QLabel *>(u"comparisonMessage"_s)->wordWrap());
+    QCOMPARE(panel.findChild<QLabel *>(u"comparisonMessage"_s)->alignment(), Qt::AlignCenter);
+    panel.findChild<QLineEdit *>()->setText(u"no such change"_s);
+    const auto *clear = panel.findChild<QPushButton *>(u"showAllChanges"_s);
+    QTRY_VERIFY(clear->y() > 150); // in the middle of the room for the changes
+    QVERIFY(qAbs(clear->geometry().center().x() - 450) < 3);
+}
+
+void tst_ComparisonPanel::showsOneStateAtATime()
+{
+    ComparisonPanel panel;
+    panel.show();
+    const auto *filter = panel.findChild<ComparisonFilter *>();
+    const auto shown = [&panel, filter] {
+        return QList<bool> { filter->isVisible(), changesOf(panel)->isVisible(),
+                             panel.findChild<QLabel *>(u"comparisonMessage"_s)->isVisible(),
+                             panel.findChild<QPushButton *>(u"showAllChanges"_s)->isVisible() };
+    };
+    QCOMPARE(shown(), (QList<bool> { false, false, true, false }));
+    QCOMPARE(textOf(panel, u"comparisonMessage"_s), u"Nothing is compared."_s);
+    panel.setComparison(compared(NEW_CATALOGUE, NEW_CATALOGUE));
+    QCOMPARE(shown(), (QList<bool> { true, false, true, false }));
+    QVERIFY(!filter->isEnabled());
+    QCOMPARE(textOf(panel, u"comparisonMessage"_s), u"The catalogues do not differ."_s);
+    panel.setComparison(compared("<p><product type='A'/></p>", "<p><product type='A' name='n'/></p>")); // one is enough
+    QCOMPARE(shown(), (QList<bool> { true, true, false, false }));
+    QVERIFY(filter->isEnabled());
+    panel.findChild<QLineEdit *>()->setText(u"no such change"_s);
+    QCOMPARE(shown(), (QList<bool> { true, false, false, true }));
+    QVERIFY(filter->isEnabled());
+    panel.setComparison(nullptr);
+    QCOMPARE(shown(), (QList<bool> { false, false, true, false }));
+}
+
+void tst_ComparisonPanel::opensProductsWhereThereAreFew_data()
+{
+    QTest::addColumn<int>("products");
+    QTest::addColumn<bool>("isOpen");
+
+    QTest::newRow("100 products") << 100 << true;
+    QTest::newRow("101 products") << 101 << false;
+}
+
+void tst_ComparisonPanel::opensProductsWhereThereAreFew()
+{
+    QFETCH(int, products);
+    ComparisonPanel panel;
+    panel.setComparison(compared(manyProducts(products), manyProducts(products).replace("'26'", "'30'")));
+    QCOMPARE(changesOf(panel)->model()->rowCount(), products);
+    QTEST(changesOf(panel)->isExpanded(firstColumn(panel, 0)), "isOpen");
+}
+
+void tst_ComparisonPanel::tellsWhichProductIsChosen()
+{
+    ComparisonPanel panel;
+    QSignalSpy chosen(&panel, &ComparisonPanel::productChosen);
+    panel.setComparison(compared(OLD_CATALOGUE, NEW_CATALOGUE));
+    panel.show();
+    QVERIFY(QTest::qWaitForWindowActive(&panel));
+    QTreeView *view = changesOf(panel);
+    view->setCurrentIndex(firstColumn(panel, 1));
+    QCOMPARE(chosen, (QList<QVariantList> { { 1 } }));
+    view->setCurrentIndex(firstColumn(panel, 0));
+    QCOMPARE(chosen.size(), 2);
+    QCOMPARE(chosen.constLast(), QVariantList { 0 });
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(firstColumn(panel, 0)).center());
+    QCOMPARE(chosen.size(), 3); // to see it again
+    panel.findChild<QComboBox *>()->setCurrentText(u"Added"_s);
+    panel.setComparison(compared(OLD_CATALOGUE, NEW_CATALOGUE));
+    QCOMPARE(chosen.size(), 3);
+    view->clearSelection();
+    QCOMPARE(chosen.size(), 3);
+}
+
+void tst_ComparisonPanel::copiesSeveral()
+{
+    ComparisonPanel panel;
+    panel.setComparison(compared(OLD_CATALOGUE, NEW_CATALOGUE));
+    const auto select = [&panel](const QModelIndex &index) {
+        changesOf(panel)->selectionModel()->select(index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    };
+    const QModelIndex album = firstColumn(panel, 1);
+    select(changesOf(panel)->model()->index(1, 0, album)); // its second change
+    select(firstColumn(panel, 2));
+    QApplication::clipboard()->clear();
+    panel.copy();
+    QCOMPARE(QApplication::clipboard()->text(),
+             u"~ A \"Album\"\n  ~ Price class: \"K1\" -> \"K2\"\n- B \"Becher\", article 2\n"_s);
+    changesOf(panel)->clearSelection();
+    select(changesOf(panel)->model()->index(1, 0, album));
+    select(album); // with all its changes
+    panel.copy();
+    QCOMPARE(QApplication::clipboard()->text(),
+             u"~ A \"Album\"\n  ~ Cover: SOFTCOVER -> HARDCOVER\n  ~ Price class: \"K1\" -> \"K2\"\n"_s);
+}
+
+// Also if another one has come before it; one that no longer differs leaves no choice.
+void tst_ComparisonPanel::staysWithTheProduct()
+{
+    ComparisonPanel panel;
+    const auto current = [&panel] { return changesOf(panel)->currentIndex().data().toString().section(u' ', 0, 0); };
+    panel.setComparison(compared(OLD_CATALOGUE, NEW_CATALOGUE));
+    QCOMPARE(current(), QString());
+    panel.setComparison(compared(OLD_CATALOGUE, NEW_CATALOGUE));
+    QCOMPARE(current(), QString());
+    changesOf(panel)->setCurrentIndex(firstColumn(panel, 0));
+    const QByteArray more = QByteArray(NEW_CATALOGUE).replace("<products>\n", "<products>\n<product type='F'/>");
+    panel.setComparison(compared(OLD_CATALOGUE, more));
+    QCOMPARE(current(), u"E"_s);
+    QCOMPARE(changesOf(panel)->currentIndex().row(), 1);
+    panel.findChild<QLineEdit *>()->setText(u"tik"_s);
+    QCOMPARE(current(), u"E"_s);
+    panel.findChild<QLineEdit *>()->clear();
+    panel.setComparison(compared(NEW_CATALOGUE, more)); // only the new one differs
+    QCOMPARE(current(), QString());
+    changesOf(panel)->setCurrentIndex(firstColumn(panel, 0));
+    panel.setComparison(nullptr);
+    QCOMPARE(current(), QString());
+}
+
+void tst_ComparisonPanel::shortensNames()
+{
+    ComparisonPanel panel;
+    const QString longName = QString(100, u'n') + u".xml"_s;
+    const auto comparison = std::make_shared<LoadedComparison>(
+            ComparedFiles { { u"/catalogues/"_s + longName, QString() }, { u"b.xml"_s, QString() } });
+    panel.setComparison(comparison);
+    const QFontMetrics metrics = panel.fontMetrics();
+    const QString shortName = metrics.elidedText(longName, Qt::ElideMiddle, 28 * metrics.averageCharWidth());
+    QVERIFY(shortName.size() < 40);
+    QCOMPARE(textOf(panel, u"comparedFiles"_s), shortName + u" → b.xml"_s);
+    QCOMPARE(panel.findChild<QLabel *>(u"comparedFiles"_s)->toolTip(), u"/catalogues/"_s + longName + u" → b.xml"_s);
+    QCOMPARE(textOf(panel, u"comparisonSummary"_s), u"0 added, 0 removed, 0 changed, 0 equal"_s);
 }
 
 void tst_ComparisonPanel::screenshot_data()

@@ -16,6 +16,8 @@ private Q_SLOTS:
     void toolTip_data();
     void toolTip();
     void paintsLess();
+    void paintsAllThatFits();
+    void paintsNoKey();
 };
 
 void tst_ElidedLabel::room()
@@ -23,11 +25,14 @@ void tst_ElidedLabel::room()
     ElidedLabel label(QString(100, u'x'));
     const int whole = label.fontMetrics().horizontalAdvance(label.text());
     QVERIFY(label.sizeHint().width() >= whole);
-    QVERIFY(label.minimumSizeHint().width() < whole / 5);
+    QCOMPARE(label.textFormat(), Qt::PlainText);
+    QCOMPARE(label.minimumSizeHint().width(), 6 * label.fontMetrics().averageCharWidth());
+    QCOMPARE(label.minimumSizeHint().height(), label.sizeHint().height());
     label.setMostCharacters(20);
     QCOMPARE(label.sizeHint().width(), 20 * label.fontMetrics().averageCharWidth());
     label.setText(u"x"_s);
     QVERIFY(label.sizeHint().width() < 5 * label.fontMetrics().averageCharWidth());
+    QCOMPARE(label.minimumSizeHint(), label.sizeHint());
     label.setUsualText(u"mmmm"_s);
     QCOMPARE(label.sizeHint().width(), label.fontMetrics().horizontalAdvance(u"mmmm"_s));
 }
@@ -73,6 +78,27 @@ void tst_ElidedLabel::paintsLess()
     QLabel expected(shown);
     expected.resize(100, 20);
     QCOMPARE(image, expected.grab().toImage());
+}
+
+void tst_ElidedLabel::paintsAllThatFits()
+{
+    ElidedLabel label(u"short"_s);
+    label.resize(label.sizeHint());
+    QLabel expected(u"short"_s);
+    expected.resize(label.size());
+    QCOMPARE(label.grab().toImage(), expected.grab().toImage());
+}
+
+// An ampersand stands for itself, unless the label has a buddy.
+void tst_ElidedLabel::paintsNoKey()
+{
+    ElidedLabel label(u"&&"_s + QString(100, u'M'));
+    ElidedLabel other(u"&&"_s + QString(100, u'M'));
+    QWidget buddy;
+    other.setBuddy(&buddy);
+    label.resize(100, 20);
+    other.resize(100, 20);
+    QVERIFY(label.grab().toImage() != other.grab().toImage());
 }
 
 QTEST_MAIN(tst_ElidedLabel)

@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QFormLayout>
 #include <QLabel>
+#include <QProxyStyle>
 #include <QSignalSpy>
 
 #include <memory>
@@ -25,6 +26,18 @@ const char BOOK[] =
         "<form key='box' value='wood' value_name='Wood'/>"
         "</forms></product>";
 
+/// That of a desktop whose forms have their labels at the right.
+class RightLabels : public QProxyStyle
+{
+public:
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *data) const override
+    {
+        return hint == SH_FormLayoutLabelAlignment ? int(Qt::AlignRight)
+                                                   : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
+
 }
 
 class tst_OptionsPanel : public QObject
@@ -32,6 +45,7 @@ class tst_OptionsPanel : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { QApplication::setStyle(new RightLabels); }
     void init();
 
     void beginsWithTheDefaults();
@@ -188,8 +202,7 @@ void tst_OptionsPanel::lists()
     const QFormLayout *form = myPanel->form();
     QCOMPARE(form->contentsMargins(), QMargins());
     QCOMPARE(form->verticalSpacing(), 4);
-    QCOMPARE(form->labelAlignment(), Qt::AlignLeft);
-    QCOMPARE(form->fieldGrowthPolicy(), QFormLayout::AllNonFixedFieldsGrow);
+    QCOMPARE(form->labelAlignment(), Qt::AlignLeft); // below those of the other panels
     QCOMPARE(field(u"color"_s)->spacing(), form->horizontalSpacing());
     myPanel->resize(800, 200);
     myPanel->show();

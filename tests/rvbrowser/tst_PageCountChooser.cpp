@@ -34,6 +34,8 @@ private Q_SLOTS:
     void goesBackToAList();
     void wheelNeedsFocus();
     void takesTheFocusOfItsLabel();
+    void looksLikeOneControl();
+    void numbersOfOneCount();
 
 private:
     QComboBox *list() const { return myChooser->findChild<QComboBox *>(u"pageCounts"_s); }
@@ -65,6 +67,8 @@ void tst_PageCountChooser::beginsEmpty()
     myChooser->setPages(30);
     QCOMPARE(myChooser->row(), -1);
     QCOMPARE(myChanged->size(), 0);
+    QVERIFY(list()->isVisible());
+    QCOMPARE(myChooser->focusProxy(), list());
 }
 
 void tst_PageCountChooser::choosesFromAList()
@@ -230,6 +234,32 @@ void tst_PageCountChooser::takesTheFocusOfItsLabel()
     myChooser->setPageCounts(HUGE, false);
     myChooser->setFocus();
     QTRY_VERIFY(number()->hasFocus());
+}
+
+// Which is as wide as a long count, and not as wide as the window.
+void tst_PageCountChooser::looksLikeOneControl()
+{
+    QCOMPARE(list()->accessibleName(), u"Page count"_s);
+    QCOMPARE(number()->accessibleName(), u"Page count"_s);
+    QCOMPARE(list()->sizeAdjustPolicy(), QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    QCOMPARE(list()->minimumContentsLength(), 12);
+    QCOMPARE(myChooser->sizePolicy(), QSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed));
+    QVERIFY(!number()->keyboardTracking()); // a number that is being typed is none yet
+    QCOMPARE(myChooser->focusPolicy(), Qt::StrongFocus);
+}
+
+void tst_PageCountChooser::numbersOfOneCount()
+{
+    myChooser->setPageCounts(RVPageCountOrganization({ 1, 20001 }, 2), false);
+    QCOMPARE(number()->minimum(), 1);
+    QCOMPARE(number()->maximum(), 20001);
+    QCOMPARE(number()->singleStep(), 2);
+    QVERIFY(list()->count() <= 1); // the list would take long
+    QCOMPARE(list()->currentIndex(), -1);
+    myChooser->setPageCounts(RVPageCountOrganization({ 10, 20 }, -1), false);
+    QCOMPARE(number()->singleStep(), 1);
+    QVERIFY(list()->count() <= 1);
+    QVERIFY(list()->isVisible());
 }
 
 QTEST_MAIN(tst_PageCountChooser)

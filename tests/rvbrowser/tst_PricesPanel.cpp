@@ -4,6 +4,7 @@
 #include <MainWindow.h>
 #include <OrderLine.h>
 #include <PageCountChooser.h>
+#include <PricesPanel.h>
 #include <ProductList.h>
 
 #include <QApplication>
@@ -75,6 +76,9 @@ private Q_SLOTS:
     void tellsWhyThereAreNone_data();
     void tellsWhyThereAreNone();
     void billsWhatTheTerminalBills();
+    void beginsEmpty();
+    void forgetsTheProductBefore();
+    void standsInOneRow();
 
 private:
     void open(const QString &fileName);
@@ -225,6 +229,47 @@ void tst_PricesPanel::chooseSomething()
         if (values->objectName() == "pageCounts"_L1 || values->objectName().startsWith("option "_L1))
             values->setCurrentIndex(int(myRandom.bounded(values->count())));
     }
+}
+
+void tst_PricesPanel::beginsEmpty()
+{
+    PricesPanel panel;
+    QCOMPARE(panel.findChild<QLabel *>()->text(), QString());
+    QVERIFY(!panel.findChild<QPushButton *>()->isEnabled());
+    QCOMPARE(panel.findChild<QPushButton *>()->accessibleName(), u"Copy: Price classes"_s);
+}
+
+// As long as nothing is chosen of the new one.
+void tst_PricesPanel::forgetsTheProductBefore()
+{
+    load();
+    auto *panel = myWindow->findChild<PricesPanel *>();
+    QVERIFY(find<QPushButton>(u"copy prices"_s)->isEnabled());
+    panel->setProduct(OrderPrices());
+    QCOMPARE(find<QLabel>(u"prices"_s)->text(), QString());
+    QCOMPARE(find<QLabel>(u"prices"_s)->accessibleName(), QString());
+    QVERIFY(!find<QPushButton>(u"copy prices"_s)->isEnabled());
+    QApplication::clipboard()->setText(u"mine"_s);
+    panel->copy();
+    QCOMPARE(QApplication::clipboard()->text(), u"mine"_s);
+}
+
+void tst_PricesPanel::standsInOneRow()
+{
+    PricesPanel panel;
+    auto *text = panel.findChild<QLabel *>();
+    const auto *button = panel.findChild<QPushButton *>();
+    QCOMPARE(text->textFormat(), Qt::RichText);
+    QVERIFY(text->wordWrap());
+    QCOMPARE(text->textInteractionFlags(), Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    text->setText(u"a<br>b<br>c<br>d<br>e"_s);
+    panel.resize(600, 200);
+    panel.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&panel));
+    QVERIFY(button->width() <= button->sizeHint().width());
+    QVERIFY(button->x() > text->geometry().right());
+    QCOMPARE(button->y(), text->y()); // beside the first line
+    QVERIFY(text->height() > 100);
 }
 
 void tst_PricesPanel::billsWhatTheTerminalBills()

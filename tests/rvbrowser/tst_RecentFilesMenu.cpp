@@ -16,6 +16,8 @@ class tst_RecentFilesMenu : public QObject
 private Q_SLOTS:
     void empty();
     void listsFiles();
+    void shortensNames();
+    void isUpToDate();
 
 private:
     static QAction *clearAction(const RecentFilesMenu &menu) { return menu.actions().constLast(); }
@@ -44,6 +46,12 @@ void tst_RecentFilesMenu::listsFiles()
     files.add(file.fileName());
     menu.update();
     QCOMPARE(menu.actions().size(), 12); // ten files, a line, and what clears them
+    QVERIFY(menu.actions().at(10)->isSeparator());
+    QVERIFY(menu.toolTipsVisible());
+    QCOMPARE(menu.objectName(), u"recentFiles"_s);
+    QVERIFY(menu.actions().at(8)->text().startsWith("&9 "_L1));
+    QVERIFY(!menu.actions().at(9)->text().startsWith(u'&')); // there are only nine such keys
+    QVERIFY(clearAction(menu)->isEnabled());
     QAction *there = menu.actions().constFirst();
     QVERIFY2(there->text().startsWith("&1 "_L1) && there->text().endsWith("a && b.xml"_L1), qPrintable(there->text()));
     QCOMPARE(there->toolTip(), file.fileName());
@@ -61,6 +69,32 @@ void tst_RecentFilesMenu::listsFiles()
     QVERIFY(files.fileNames().isEmpty());
     menu.update();
     QCOMPARE(menu.actions().size(), 3);
+}
+
+void tst_RecentFilesMenu::shortensNames()
+{
+    const QTemporaryDir folder;
+    Settings settings(folder.filePath(u"settings.ini"_s));
+    RecentFiles files(&settings);
+    const QString name = u"/"_s + QString(200, u'n') + u".xml"_s;
+    files.add(name);
+    const RecentFilesMenu menu(&files);
+    const QFontMetrics metrics = menu.fontMetrics();
+    const QString shortName = metrics.elidedText(name, Qt::ElideMiddle, 60 * metrics.averageCharWidth());
+    QVERIFY(shortName.size() < 100);
+    QCOMPARE(menu.actions().constFirst()->text(), u"&1 "_s + shortName + u" (missing)"_s);
+    QCOMPARE(menu.actions().constFirst()->toolTip(), name);
+}
+
+void tst_RecentFilesMenu::isUpToDate()
+{
+    const QTemporaryDir folder;
+    Settings settings(folder.filePath(u"settings.ini"_s));
+    RecentFiles files(&settings);
+    RecentFilesMenu menu(&files);
+    files.add(u"/a.xml"_s);
+    Q_EMIT menu.aboutToShow();
+    QVERIFY(menu.actions().constFirst()->text().contains("a.xml"_L1));
 }
 
 QTEST_MAIN(tst_RecentFilesMenu)

@@ -78,7 +78,6 @@ OptionsPanel::OptionsPanel(QWidget *parent)
     myLayout->setContentsMargins({});
     myLayout->setVerticalSpacing(LINE_SPACING);
     myLayout->setLabelAlignment(Qt::AlignLeft);
-    myLayout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     myLayout->addRow(myNoOptions);
     myNoOptions->setObjectName(u"noOptions"_s);
     myNoOptions->setWordWrap(true);

@@ -7,7 +7,6 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QScopedValueRollback>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -84,8 +83,6 @@ void ProductList::fitColumns()
 
 void ProductList::choose(const QModelIndex &current)
 {
-    if (myIsSearching)
-        return;
     const QVariant product = current.siblingAtColumn(0).data(ProductTreeModel::ProductRole);
     if (!product.isValid() || product.toInt() < 0 || product.toInt() == myProduct)
         return;
@@ -108,7 +105,6 @@ void ProductList::setCurrentProduct(int product)
 
 void ProductList::keepCurrentProduct(int product)
 {
-    const QScopedValueRollback<bool> searching(myIsSearching, true);
     myProduct = product;
     showChosen();
 }
@@ -127,7 +123,6 @@ void ProductList::focusSearch()
 
 void ProductList::search(const QString &text)
 {
-    const QScopedValueRollback<bool> searching(myIsSearching, true);
     myModel.setSearch(text);
     showGroups();
     showChosen();
@@ -136,7 +131,6 @@ void ProductList::search(const QString &text)
 
 void ProductList::showFaultyOnly(bool isFaultyOnly)
 {
-    const QScopedValueRollback<bool> searching(myIsSearching, true);
     myModel.setFaultyOnly(isFaultyOnly);
     showGroups();
     showChosen();

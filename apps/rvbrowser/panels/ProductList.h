@@ -55,7 +55,6 @@ private:
     QPushButton *myClear; // shown where nothing is found
     QLabel *myCount;
     int myProduct = -1;
-    bool myIsSearching = false;
 };
 
 #endif
