@@ -13,6 +13,8 @@ class tst_FittingScrollArea : public QObject
 
 private Q_SLOTS:
     void breaksLines();
+    void withoutContent();
+    void leavesTheFocusToItsContent();
     void leastHeight_data();
     void leastHeight();
 };
@@ -46,6 +48,30 @@ void tst_FittingScrollArea::breaksLines()
     QTRY_VERIFY(!area.verticalScrollBar()->isVisible());
     text->setText(u"words that are broken "_s.repeated(3000)); // the content becomes higher by itself
     QTRY_VERIFY(area.verticalScrollBar()->isVisible());
+}
+
+void tst_FittingScrollArea::withoutContent()
+{
+    FittingScrollArea area;
+    QCOMPARE(area.frameShape(), QFrame::NoFrame);
+    const QSize usual = area.minimumSizeHint();
+    area.setLeastHeight(100); // there is nothing to fit
+    QCOMPARE(area.minimumSizeHint(), usual);
+    area.setWidget(new QWidget);
+    QCOMPARE(area.minimumSizeHint(), usual);
+    area.resize(100, 100);
+    area.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&area));
+    QCOMPARE(area.maximumHeight(), QWIDGETSIZE_MAX);
+}
+
+void tst_FittingScrollArea::leavesTheFocusToItsContent()
+{
+    FittingScrollArea area;
+    QVERIFY(area.focusPolicy() != Qt::NoFocus);
+    area.setLeastHeight(1);
+    QCOMPARE(area.focusPolicy(), Qt::NoFocus);
+    QCOMPARE(area.horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
 }
 
 void tst_FittingScrollArea::leastHeight_data()

@@ -24,6 +24,7 @@ struct Panels
             column.add(panel);
         }
         form->addRow(first, new QLabel(u"field"_s));
+        form->addRow(new QLabel(u"a line of its own that has no label at all"_s));
         grid->addWidget(heading, 0, 0, 1, 2);
         grid->addWidget(second, 1, 0);
         grid->addWidget(new QLabel(u"field"_s), 1, 1);
@@ -50,6 +51,9 @@ class tst_LabelColumn : public QObject
 
 private Q_SLOTS:
     void aligns();
+    void countsEdgesAndKeys_data();
+    void countsEdgesAndKeys();
+    void alignsFields();
 };
 
 void tst_LabelColumn::aligns()
@@ -70,6 +74,58 @@ void tst_LabelColumn::aligns()
     panels.hidden->show();
     panels.column.align();
     QVERIFY(panels.first->minimumWidth() > widest);
+}
+
+void tst_LabelColumn::countsEdgesAndKeys_data()
+{
+    QTest::addColumn<bool>("hasKey");
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("key") << true << u"&Label"_s;
+    QTest::newRow("ampersands") << false << u"&&&Label"_s;
+}
+
+// An ampersand that marks the key of a label takes no room.
+void tst_LabelColumn::countsEdgesAndKeys()
+{
+    QFETCH(bool, hasKey);
+    QFETCH(QString, text);
+    QWidget window;
+    auto *grid = new QGridLayout(&window);
+    auto *label = new QLabel(u"&&&Label"_s);
+    auto *field = new QLabel(u"field"_s);
+    if (hasKey)
+        label->setBuddy(field);
+    label->setContentsMargins(7, 0, 11, 0);
+    grid->addWidget(label, 0, 0);
+    grid->addWidget(field, 0, 1);
+    LabelColumn column;
+    column.add(grid);
+    column.align();
+    const int width = label->fontMetrics().horizontalAdvance(text) + 18;
+    QVERIFY2(qAbs(label->minimumWidth() - width) <= 2, qPrintable(u"%1 %2"_s.arg(label->minimumWidth()).arg(width)));
+}
+
+// The first column may hold other controls, and places that are empty or hidden.
+void tst_LabelColumn::alignsFields()
+{
+    QWidget window;
+    auto *rows = new QVBoxLayout(&window);
+    auto *grid = new QGridLayout;
+    rows->addLayout(grid);
+    auto *control = new QWidget;
+    control->setMinimumWidth(30);
+    auto *label = new QLabel(u"a long label of the first row"_s);
+    grid->addWidget(label, 0, 0);
+    grid->addWidget(new QLabel(u"field"_s), 0, 1);
+    grid->addWidget(new QLabel(u"a field without a label that is wider than all"_s), 1, 1);
+    grid->addLayout(new QVBoxLayout, 2, 0);
+    grid->addWidget(control, 3, 0);
+    LabelColumn column;
+    column.add(grid);
+    column.align();
+    QCOMPARE(label->minimumWidth(), label->sizeHint().width());
+    QCOMPARE(control->minimumWidth(), label->minimumWidth());
 }
 
 QTEST_MAIN(tst_LabelColumn)
