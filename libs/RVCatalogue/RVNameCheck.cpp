@@ -229,7 +229,7 @@ void RVNameCheck::checkUnknownChild(const RVCatalogueElement &child, const RVKno
     const RVNameList known(children.begin(), children.end());
     const RVNameGuess guess = rvGuessName(utf8.sliced(colon + 1), known);
     const bool isExact = known.contains(utf8.sliced(colon + 1));
-    if (colon >= 0) {
+    if (utf8.contains(':')) {
         if (isExact)
             addElement(RVCatalogueRuleId::ElementPrefixed, child, guess.names[0],
                        rvPrefixedElementText(QString::fromUtf8(utf8), guess.names[0]));

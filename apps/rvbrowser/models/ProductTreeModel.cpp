@@ -3,7 +3,6 @@
 #include "PlainToolTip.h"
 
 #include <QFont>
-#include <QHash>
 
 using namespace Qt::StringLiterals;
 
@@ -49,14 +48,17 @@ void ProductTreeModel::fill()
         shown.removeIf([this](int product) { return !isFaulty(product); });
     myShownProducts = int(shown.size());
     myGroups.clear();
-    QHash<int, qsizetype> rows; // of groups
+    myRowsOfGroups.fill(-1, myCatalogue ? myCatalogue->groups().size() : 0);
+    myRows.fill(-1, productCount());
     for (const int product : shown) {
         const int number = myCatalogue->at(product).group;
-        if (!rows.contains(number)) {
-            rows.insert(number, myGroups.size());
+        if (myRowsOfGroups.at(number) < 0) {
+            myRowsOfGroups[number] = int(myGroups.size());
             myGroups += Group { number, {} };
         }
-        myGroups[rows.value(number)].products += product;
+        Group &group = myGroups[myRowsOfGroups.at(number)];
+        myRows[product] = int(group.products.size());
+        group.products += product;
     }
 }
 
@@ -68,12 +70,10 @@ bool ProductTreeModel::isFaulty(int product) const
 
 QModelIndex ProductTreeModel::indexOfProduct(int product) const
 {
-    for (int group = 0; group < rowCount(); ++group) {
-        const auto row = myGroups.at(group).products.indexOf(product);
-        if (row >= 0)
-            return index(int(row), 0, index(group, 0));
-    }
-    return QModelIndex();
+    if (product < 0 || product >= myRows.size() || myRows.at(product) < 0)
+        return QModelIndex();
+    const int group = myRowsOfGroups.at(myCatalogue->at(product).group);
+    return createIndex(myRows.at(product), 0, quintptr(group) + 1);
 }
 
 QModelIndex ProductTreeModel::index(int row, int column, const QModelIndex &parent) const

@@ -67,6 +67,8 @@ private:
     QString mySearch;
     bool myIsFaultyOnly = false;
     QList<Group> myGroups; // that have products
+    QList<int> myRowsOfGroups; // of each group of the catalogue
+    QList<int> myRows; // of each product in its group; -1 where it is not shown
     int myShownProducts = 0;
     int myMostFindings = 0;
 };
