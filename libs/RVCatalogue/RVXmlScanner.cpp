@@ -221,8 +221,9 @@ bool RVXmlScanner::scan()
         myWindow.remove(0, myEvent);
         myWindowBegin += std::exchange(myEvent, 0);
         myWindow += text;
-        for (qsizetype begin = 0; begin < text.size() && myError.isEmpty(); begin += BITE)
-            bite(QByteArrayView(text).sliced(begin, qMin(BITE, text.size() - begin)));
+        for (QByteArrayView rest = text; !rest.isEmpty() && myError.isEmpty();
+             rest = rest.sliced(qMin(BITE, rest.size())))
+            bite(rest.first(qMin(BITE, rest.size())));
     }
     return !myIsAtEnd;
 }

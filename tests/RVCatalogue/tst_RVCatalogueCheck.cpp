@@ -544,6 +544,7 @@ private Q_SLOTS:
     void longTexts();
     void manyProducts();
     void duplicatesFarApart();
+    void duplicatesFarToTheRight();
     void missingIdsAreNoDuplicates();
     void everyKeyword();
     void unknownAsDecoded();
@@ -1081,6 +1082,19 @@ void tst_RVCatalogueCheck::duplicatesFarApart()
             (QStringList {
                     u"20003 error type-duplicate: the type \"T\" is already that of the product in line 2; write another, or take out one"_s,
                     u"20003 error article-id-duplicate: the article id 1000000 is already that of the product in line 2; write another, or take out one"_s }));
+}
+
+// A catalogue may be one long line.
+void tst_RVCatalogueCheck::duplicatesFarToTheRight()
+{
+    const QByteArray indent = "<products><a/>" + QByteArray(700000, ' ') + "<b/>" + QByteArray(700000, ' ');
+    const QByteArray product = "<product type='A'/>";
+    const QList<RVCatalogueFinding> findings = check(indent + product + product + "</products>").findings;
+    QVERIFY(!findings.isEmpty());
+    const QList<RVRelatedPlace> places = findings.constLast().relatedPlaces();
+    QCOMPARE(places.size(), 1);
+    const RVFilePosition begin { 1, indent.size() + QByteArray("<product ").size() + 1 };
+    QCOMPARE(places.constFirst().range.begin, begin);
 }
 
 // Two products without type and article id are no duplicates.

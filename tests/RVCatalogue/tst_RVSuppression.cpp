@@ -296,6 +296,10 @@ void tst_RVSuppression::elements_data()
         "<p>" + ignoring("keyword-legacy") + "<g>" + ignoring("keyword-legacy") + "<h>" + ignoring("keyword-legacy")
                 + "<product type='A' article_id='1'" + hard + "/></h></g></p>",
         none);
+    row("no use in a group and in the one around it",
+        "<p>\n" + ignoring("keyword-legacy") + "<g>\n" + ignoring("type-missing")
+                + "<h><product type='A' article_id='1'/></h></g></p>",
+        { u"2"_s + notUsed, u"3"_s + notUsed });
     row("two comments for the same",
         "<p>" + ignoring("keyword-legacy") + ignoring("keyword-legacy") + "<product type='A' article_id='1'" + hard
                 + "/></p>",
