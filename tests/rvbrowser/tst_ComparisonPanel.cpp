@@ -65,6 +65,7 @@ private Q_SLOTS:
     void leadsToProducts();
     void showsWhatWasRemoved();
     void showsWhatOnlyTheOtherHas();
+    void showsTheFirstOfTheOther();
     void productsOfOneType();
     void walksByKeys();
     void filters();
@@ -255,6 +256,14 @@ void tst_ComparisonPanel::showsWhatOnlyTheOtherHas()
     choose(u"C2"_s);
     QCOMPARE(text(u"title"_s), u"C2 – Kalender"_s);
     QVERIFY(!find<QLabel>(u"note"_s)->text().contains("open catalogue"_L1));
+}
+
+void tst_ComparisonPanel::showsTheFirstOfTheOther()
+{
+    open(OLD_CATALOGUE);
+    compareWith(NEW_CATALOGUE);
+    choose(u"E"_s);
+    QCOMPARE(text(u"title"_s), u"E – Etikett"_s);
 }
 
 // The second product of a type is not the one that is sold, but the one that has changed.
