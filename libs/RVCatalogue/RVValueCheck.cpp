@@ -20,7 +20,7 @@ constexpr QLatin1StringView BOOLEAN_TEXTS[] = {
 /// The boolean that an invalid text means: "true" for " true" and "ture"; null if it may mean both, or none.
 QString meantBoolean(const QString &text)
 {
-    const QString plain = RVForeignLetters(text).plain().trimmed();
+    QString plain = RVForeignLetters(text).plain().trimmed();
     RVNearestTexts nearest(plain, 2);
     for (const QLatin1StringView boolean : BOOLEAN_TEXTS)
         nearest.offer(boolean);

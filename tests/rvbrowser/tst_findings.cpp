@@ -573,6 +573,12 @@ void tst_findings::opensTheEditor()
     myWindow->showType(RVProductType(u"VIR1"_s)); // which comes after the finding
     press(Qt::Key_F2);
     QCOMPARE(opened(), (QStringList { u"4"_s, u"1"_s, file }));
+    // Nor is a finding of the first product one of the chosen product.
+    QTest::mouseClick(view()->viewport(), Qt::LeftButton, {},
+                      view()->visualRect(view()->model()->index(0, 3)).center());
+    myWindow->showType(RVProductType(u"VIR1"_s));
+    press(Qt::Key_F2);
+    QCOMPARE(opened(), (QStringList { u"4"_s, u"1"_s, file }));
     const QPoint place = view()->visualRect(view()->model()->index(1, 3)).center();
     QTest::mouseClick(view()->viewport(), Qt::LeftButton, {}, place);
     QTest::mouseDClick(view()->viewport(), Qt::LeftButton, {}, place);
