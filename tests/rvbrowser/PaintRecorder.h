@@ -125,18 +125,18 @@ private:
         void drawPath(const QPainterPath &) override { }
         void drawPolygon(const QPointF *, int, PolygonDrawMode) override { }
 
-        void drawRects(const QRectF *rects, int count) override
+        void drawRects(const QRectF *drawn, int count) override
         {
             const QBrush brush = state->brush();
             const QColor fill = brush.style() == Qt::NoBrush ? QColor() : brush.color();
             for (int i = 0; i < count; ++i)
-                my->rects.append({ mapped().mapRect(rects[i]), fill, pen(),
+                my->rects.append({ mapped().mapRect(drawn[i]), fill, pen(),
                                    state->renderHints().testFlag(QPainter::Antialiasing) });
         }
-        void drawLines(const QLineF *lines, int count) override
+        void drawLines(const QLineF *drawn, int count) override
         {
             for (int i = 0; i < count; ++i)
-                my->lines.append({ mapped().map(lines[i]), pen() });
+                my->lines.append({ mapped().map(drawn[i]), pen() });
         }
         void drawTextItem(const QPointF &place, const QTextItem &item) override
         {

@@ -84,6 +84,7 @@ private:
     void show();
 
     std::unique_ptr<FindingsPanel> myPanel;
+    QStringList myTold; // what was chosen by steps
 };
 
 void tst_FindingsPanel::init()
@@ -262,15 +263,16 @@ void tst_FindingsPanel::steps()
     QCOMPARE(myPanel->next(), Step::None);
     QCOMPARE(myPanel->previous(), Step::None);
     load();
-    QStringList told;
-    connect(myPanel.get(), &FindingsPanel::productChosen, this, [&](int product) { told += u"p%1"_s.arg(product); });
-    connect(myPanel.get(), &FindingsPanel::findingChosen, this, [&](int finding) { told += u"f%1"_s.arg(finding); });
+    connect(myPanel.get(), &FindingsPanel::productChosen, this,
+            [this](int product) { myTold += u"p%1"_s.arg(product); });
+    connect(myPanel.get(), &FindingsPanel::findingChosen, this,
+            [this](int finding) { myTold += u"f%1"_s.arg(finding); });
     for (int i = 0; i < 5; ++i) {
         QCOMPARE(myPanel->next(), Step::Taken);
         QCOMPARE(myPanel->currentFinding(), i);
         QCOMPARE(myPanel->selectedFindings(), QList<int> { i });
     }
-    QCOMPARE(told.join(u' '), u"p0 f0 p1 f1 p3 f2 p3 f3 p3 f4"_s);
+    QCOMPARE(myTold.join(u' '), u"p0 f0 p1 f1 p3 f2 p3 f3 p3 f4"_s);
     QCOMPARE(myPanel->next(), Step::Wrapped);
     QCOMPARE(myPanel->currentFinding(), 0);
     QCOMPARE(myPanel->previous(), Step::Wrapped);

@@ -386,7 +386,6 @@ void tst_ProductView::alignsLabels()
 {
     show(0);
     showWindow({ 1400, 900 });
-    QList<int> lefts;
     QTRY_VERIFY(place(myView->findChild<QComboBox *>(u"option alcolor"_s)).left() > 0);
     const auto left = [this](const QWidget *widget) { return place(widget).left(); };
     QTRY_COMPARE(left(myView->findChild<OrderLine *>(u"projectFile"_s)),
