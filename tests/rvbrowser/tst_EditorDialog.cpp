@@ -30,7 +30,7 @@ private:
     /// Opens a dialogue for the settings.
     void open();
     void choose(const QString &editor) { myEditors->setCurrentIndex(myEditors->findData(editor)); }
-    /// What the letters behind percent signs mean.
+    /// The meaning of the letters behind percent signs.
     QLabel *hint() const
     {
         for (auto *label : myDialog->findChildren<QLabel *>()) {

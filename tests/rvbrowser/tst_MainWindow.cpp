@@ -178,7 +178,7 @@ void tst_MainWindow::menus()
     QTEST(entriesOf(menu(title)), "opened");
 }
 
-// What has been compared can be walked through, copied and saved.
+// Changes can be walked through, copied and saved after a comparison.
 void tst_MainWindow::menuOfAComparison()
 {
     comparesWithAFile();

@@ -165,7 +165,7 @@ void tst_PagePicture::noPage()
     QCOMPARE(image, before);
 }
 
-// Where it is painted, and nowhere else; the last one is on top.
+// A barcode is found where it is painted, and nowhere else; of two, the last one is on top.
 void tst_PagePicture::barcodeAt()
 {
     constexpr char second[] = "<barcode position_x='31' position_y='250' width='38' height='10' pageNr='2'/>";

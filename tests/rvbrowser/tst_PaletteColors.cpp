@@ -149,7 +149,7 @@ void tst_PaletteColors::shades()
     QCOMPARE(colors.shade(1), QColor(200, 100, 0));
 }
 
-// What cannot be chosen is told from what can.
+// Texts that cannot be chosen have another colour than those that can.
 void tst_PaletteColors::disabled()
 {
     const QPalette palette = PaletteColors::dark();
