@@ -16,6 +16,7 @@
 #include <QString>
 #include <QTest>
 #include <QTransform>
+#include <QWidget>
 #include <QtMath>
 
 #include <algorithm>
@@ -163,6 +164,12 @@ private:
 
     mutable Engine myEngine;
 };
+
+/// Notes the widget, without its button, in pixels.
+inline void paint(PaintRecorder *recorder, QWidget *widget)
+{
+    widget->render(recorder, QPoint(), QRegion(), QWidget::RenderFlags());
+}
 
 /// Empty for numbers that are equal but for a fiftieth of a millimetre, by which texts are rounded.
 inline QString difference(qreal found, qreal expected)

@@ -1,7 +1,7 @@
-#include <AttributeWords.h>
-#include <RVCatalogueReader.h>
+#include "ReadProduct.h"
 
-#include <QBuffer>
+#include <AttributeWords.h>
+
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -10,10 +10,7 @@ namespace {
 
 RVCatalogueProduct read(const QByteArray &attributes)
 {
-    QByteArray catalogue = "<p><product " + attributes + "/></p>";
-    QBuffer buffer(&catalogue);
-    buffer.open(QIODevice::ReadOnly);
-    return RVCatalogueReader(&buffer).next();
+    return readProduct("<product " + attributes + "/>");
 }
 
 }

@@ -15,6 +15,12 @@ namespace {
 constexpr int TIMEOUT = 60000; // ms
 constexpr int MANY = 50000; // so that there is time to give up
 
+/// A catalogue with these takes about a second to read, though it may have but 50,000 products.
+QByteArray slowGroups()
+{
+    return QByteArray("<group name='g'/>\n").repeated(4000000);
+}
+
 }
 
 class tst_CatalogueSession : public QObject
@@ -39,11 +45,13 @@ private Q_SLOTS:
     void cancels();
     void opensAnotherWhileLoading();
     void changesWhileLoadingAnother();
+    void changesWhileLoadingABrokenOne();
     void endsWhileLoading();
 
 private:
     QString path(const QString &name) const { return myFolder->path(name); }
     bool load(const QByteArray &content);
+    void changeWhileLoading(const QByteArray &content);
     int pages() const { return CatalogueServices::pageCounts(u"A"_s).minPages(); }
     QList<RVCatalogueSeverity> severities() const;
 
@@ -68,6 +76,17 @@ void tst_CatalogueSession::init()
 void tst_CatalogueSession::cleanup()
 {
     mySession.reset();
+}
+
+/// Opens another file with this content, and changes the first one to four products meanwhile.
+void tst_CatalogueSession::changeWhileLoading(const QByteArray &content)
+{
+    QVERIFY(myFolder->write(u"big.xml"_s, content));
+    mySession->open(path(u"big.xml"_s));
+    QVERIFY(myFolder->write(u"c.xml"_s, manyProducts(4)));
+    QTest::qWait(400); // until it was noticed
+    QVERIFY(mySession->isLoading());
+    QCOMPARE(myStarted->size(), 2);
 }
 
 /// Opens a file with this content; true once it was loaded.
@@ -253,14 +272,7 @@ void tst_CatalogueSession::opensAnotherWhileLoading()
 void tst_CatalogueSession::changesWhileLoadingAnother()
 {
     QVERIFY(load(manyProducts(3)));
-    // It takes about a second to read, though it has but 50,000 products.
-    const QByteArray groups = QByteArray("<group name='g'/>\n").repeated(4000000);
-    QVERIFY(myFolder->write(u"big.xml"_s, manyProducts(MANY).replace("</products>", groups + "</products>")));
-    mySession->open(path(u"big.xml"_s));
-    QVERIFY(myFolder->write(u"c.xml"_s, manyProducts(4)));
-    QTest::qWait(400); // until it was noticed
-    QVERIFY(mySession->isLoading());
-    QCOMPARE(myStarted->size(), 2);
+    changeWhileLoading(manyProducts(MANY).replace("</products>", slowGroups() + "</products>"));
     mySession->cancel();
     QVERIFY(myChanged->wait(TIMEOUT));
     QCOMPARE(mySession->catalogue()->size(), 4);
@@ -271,6 +283,14 @@ void tst_CatalogueSession::changesWhileLoadingAnother()
     QCOMPARE(myStarted->constLast().at(0).toString(), path(u"big.xml"_s));
     QVERIFY(myChanged->wait(TIMEOUT));
     QCOMPARE(mySession->catalogue()->size(), MANY);
+}
+
+void tst_CatalogueSession::changesWhileLoadingABrokenOne()
+{
+    QVERIFY(load(manyProducts(3)));
+    changeWhileLoading(manyProducts(MANY).replace("</products>", slowGroups()));
+    QVERIFY(myFailed->wait(TIMEOUT));
+    QTRY_COMPARE_WITH_TIMEOUT(mySession->catalogue()->size(), 4, TIMEOUT);
 }
 
 void tst_CatalogueSession::endsWhileLoading()

@@ -1,12 +1,10 @@
 #include "FaultyProducts.h"
+#include "ReadCatalogue.h"
 
 #include <FaultPlace.h>
 #include <FindingsModel.h>
 
-#include <RVCatalogueReader.h>
-
 #include <QAbstractItemModelTester>
-#include <QBuffer>
 #include <QIcon>
 #include <QSignalSpy>
 #include <QTest>
@@ -15,17 +13,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-CataloguePointer read(QByteArray content)
-{
-    QBuffer buffer(&content);
-    buffer.open(QIODevice::ReadOnly);
-    RVCatalogueReader reader(&buffer);
-    reader.setCheck(RVCatalogueCheck());
-    auto result = std::make_shared<LoadedCatalogue>(QString());
-    result->read(&reader);
-    return result;
-}
 
 /// The numbers of the findings that are shown.
 QList<int> shown(const FindingsModel &model)
@@ -64,7 +51,7 @@ private Q_SLOTS:
 void tst_FindingsModel::cells()
 {
     FindingsModel model;
-    model.setCatalogue(read(FAULTY_PRODUCTS));
+    model.setCatalogue(readCatalogue(FAULTY_PRODUCTS));
     QCOMPARE(model.rowCount(), 5);
     const auto cell = [&model](int row, int column) { return model.index(row, column).data().toString(); };
     QCOMPARE(cell(0, FINDING_SEVERITY), u"Error"_s);
@@ -87,7 +74,7 @@ void tst_FindingsModel::otherRoles()
     QCOMPARE(titles, (QStringList { u"Severity"_s, u"Product"_s, u"Finding"_s, u"Place"_s, u"Rule"_s }));
     QVERIFY(!model.headerData(0, Qt::Horizontal, Qt::ToolTipRole).isValid());
     QVERIFY(!model.headerData(0, Qt::Vertical).isValid());
-    model.setCatalogue(read(FAULTY_PRODUCTS));
+    model.setCatalogue(readCatalogue(FAULTY_PRODUCTS));
     for (int column = 0; column < model.columnCount(); ++column) {
         const QIcon icon = model.index(0, column).data(Qt::DecorationRole).value<QIcon>();
         QCOMPARE(icon.isNull(), column != FINDING_SEVERITY);
@@ -118,7 +105,7 @@ void tst_FindingsModel::sorts()
 {
     QFETCH(int, column);
     FindingsModel model;
-    model.setCatalogue(read(FAULTY_PRODUCTS));
+    model.setCatalogue(readCatalogue(FAULTY_PRODUCTS));
     model.sort(column, Qt::AscendingOrder);
     QTEST(shown(model), "up");
     model.sort(column, Qt::DescendingOrder);
@@ -132,7 +119,7 @@ void tst_FindingsModel::sortsEqualNumbers()
     for (const char *type : { "T1", "T0001", "T01", "T00001", "T001", "T0002" })
         content += "<product type='" + QByteArray(type) + "' article_id='1' cover_type='x'/>";
     FindingsModel model;
-    model.setCatalogue(read("<p>" + content + "</p>"));
+    model.setCatalogue(readCatalogue("<p>" + content + "</p>"));
     model.setFilter({ QString(), RVCatalogueRule::find(u"keyword-unknown"_s), {} });
     model.sort(FINDING_PRODUCT, Qt::AscendingOrder);
     QStringList types;
@@ -145,8 +132,8 @@ void tst_FindingsModel::sortsEqualNumbers()
 void tst_FindingsModel::sortsPlacesOfALine()
 {
     FindingsModel model;
-    model.setCatalogue(read("<p><product type='A' article_id='1' cover_type='x' page_binding='y'/>\n"
-                            "<product type='B' article_id='2' cover_type='x'/></p>"));
+    model.setCatalogue(readCatalogue("<p><product type='A' article_id='1' cover_type='x' page_binding='y'/>\n"
+                                     "<product type='B' article_id='2' cover_type='x'/></p>"));
     model.setFilter({ QString(), RVCatalogueRule::find(u"keyword-unknown"_s), {} });
     model.sort(FINDING_PLACE, Qt::DescendingOrder);
     QStringList places;
@@ -187,7 +174,7 @@ void tst_FindingsModel::filters()
     QFETCH(QString, rule);
     QFETCH(QList<RVCatalogueSeverity>, hidden);
     FindingsModel model;
-    model.setCatalogue(read(FAULTY_PRODUCTS));
+    model.setCatalogue(readCatalogue(FAULTY_PRODUCTS));
     model.setFilter({ text, RVCatalogueRule::find(rule), hidden });
     QTEST(shown(model), "findings");
     QCOMPARE(model.findingCount(), 5);
@@ -196,13 +183,13 @@ void tst_FindingsModel::filters()
 void tst_FindingsModel::staysAsItWas()
 {
     FindingsModel model;
-    model.setCatalogue(read(FAULTY_PRODUCTS));
+    model.setCatalogue(readCatalogue(FAULTY_PRODUCTS));
     model.sort(FINDING_PLACE, Qt::DescendingOrder);
     model.setFilter({ u"dun2"_s, RVCatalogueRule(), {} });
     QCOMPARE(shown(model), (QList<int> { 4, 3, 2 }));
     QCOMPARE(model.rowOf(3), 1);
     QCOMPARE(model.rowOf(0), -1);
-    model.setCatalogue(read(QByteArray(FAULTY_PRODUCTS).replace("spirall", "spiral")));
+    model.setCatalogue(readCatalogue(QByteArray(FAULTY_PRODUCTS).replace("spirall", "spiral")));
     QCOMPARE(shown(model), (QList<int> { 3, 2 }));
 }
 
@@ -225,7 +212,7 @@ void tst_FindingsModel::isAModel()
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
     const QSignalSpy begun(&model, &QAbstractItemModel::modelAboutToBeReset);
     const QSignalSpy ended(&model, &QAbstractItemModel::modelReset);
-    model.setCatalogue(read(FAULTY_PRODUCTS));
+    model.setCatalogue(readCatalogue(FAULTY_PRODUCTS));
     model.sort(FINDING_TEXT);
     model.setFilter({ u"dun2"_s, RVCatalogueRule(), {} });
     model.setFilter({});
@@ -243,7 +230,7 @@ void tst_FindingsModel::manyFindings()
         content += "<product type='T" + QByteArray::number(i) + "' article_id='" + QByteArray::number(i + 1)
                 + "' cover_type='x" + QByteArray::number(i) + "'/>\n";
     FindingsModel model;
-    model.setCatalogue(read(content + "</products>"));
+    model.setCatalogue(readCatalogue(content + "</products>"));
     QVERIFY(model.findingCount() >= count);
     const RVCatalogueRule rule = RVCatalogueRule::find(u"keyword-unknown"_s);
     model.setFilter({ u"t9"_s, rule, {} });
@@ -271,7 +258,7 @@ void tst_FindingsModel::faultPlaces_data()
 void tst_FindingsModel::faultPlaces()
 {
     QFETCH(int, finding);
-    const CataloguePointer catalogue = read(FAULTY_PRODUCTS);
+    const CataloguePointer catalogue = readCatalogue(FAULTY_PRODUCTS);
     const RVCatalogueFinding &found = catalogue->findings().at(finding);
     const FaultPlace place = FaultPlace::of(found, catalogue->product(int(found.product())), catalogue->check());
     QTEST(place.attribute, "attribute");
@@ -283,7 +270,7 @@ void tst_FindingsModel::faultPlaces()
 
 void tst_FindingsModel::countsOfProducts()
 {
-    const CataloguePointer catalogue = read(FAULTY_PRODUCTS);
+    const CataloguePointer catalogue = readCatalogue(FAULTY_PRODUCTS);
     QList<int> counts;
     for (int i = 0; i < catalogue->size(); ++i)
         counts += catalogue->at(i).findings.count();
@@ -295,7 +282,7 @@ void tst_FindingsModel::countsOfProducts()
 
 void tst_FindingsModel::keepsFixes()
 {
-    const QList<RVCatalogueFinding> findings = read(FAULTY_PRODUCTS)->findings();
+    const QList<RVCatalogueFinding> findings = readCatalogue(FAULTY_PRODUCTS)->findings();
     QStringList texts;
     for (const RVCatalogueFinding &finding : findings)
         texts += finding.fix().isEmpty() ? u"-"_s : finding.fix().constFirst().text;

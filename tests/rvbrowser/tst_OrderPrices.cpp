@@ -1,25 +1,16 @@
+#include "ReadCatalogue.h"
+
 #include <OrderPrices.h>
 
-#include <RVCatalogueReader.h>
-
-#include <QBuffer>
 #include <QTest>
-
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-CataloguePointer read(QByteArray products)
+CataloguePointer read(const QByteArray &products)
 {
-    products = "<products>" + products + "</products>";
-    QBuffer buffer(&products);
-    buffer.open(QIODevice::ReadOnly);
-    RVCatalogueReader reader(&buffer);
-    const auto result = std::make_shared<LoadedCatalogue>(u"c.xml"_s);
-    result->read(&reader);
-    return result;
+    return readCatalogue("<products>" + products + "</products>", u"c.xml"_s);
 }
 
 QStringList texts(const QList<OrderPrices::Line> &lines)

@@ -1,14 +1,11 @@
 #include "PaintCount.h"
 #include "PaintRecorder.h"
+#include "ReadProduct.h"
 
 #include <PageDrawing.h>
 #include <PaletteColors.h>
 
-#include <RVCatalogueProduct.h>
-#include <RVCatalogueReader.h>
-
 #include <QApplication>
-#include <QBuffer>
 #include <QHBoxLayout>
 #include <QToolButton>
 
@@ -18,19 +15,9 @@ namespace {
 
 PageGeometry page()
 {
-    QByteArray text = "<p><product type='DUN9' orientation='portrait' space_magnitude='600cm2' pages='26'>"
-                      "<barcodes units='mm'><barcode position_x='12' position_y='250' width='38' height='10' "
-                      "pageNr='2'/></barcodes></product></p>";
-    QBuffer file(&text);
-    file.open(QIODevice::ReadOnly);
-    RVCatalogueReader reader(&file);
-    return PageGeometry(reader.next());
-}
-
-/// Notes the widget, without its button, in pixels.
-void paint(PaintRecorder *recorder, QWidget *widget)
-{
-    widget->render(recorder, QPoint(), QRegion(), QWidget::RenderFlags());
+    return PageGeometry(readProduct("<product type='DUN9' orientation='portrait' space_magnitude='600cm2' pages='26'>"
+                                    "<barcodes units='mm'><barcode position_x='12' position_y='250' width='38' "
+                                    "height='10' pageNr='2'/></barcodes></product>"));
 }
 
 }

@@ -1,8 +1,8 @@
+#include "ReadProduct.h"
+
 #include <AttributeWords.h>
 #include <ProductFacts.h>
-#include <RVCatalogueReader.h>
 
-#include <QBuffer>
 #include <QTest>
 
 #include <algorithm>
@@ -10,14 +10,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-RVCatalogueProduct read(const QByteArray &product)
-{
-    QByteArray catalogue = "<p>" + product + "</p>";
-    QBuffer buffer(&catalogue);
-    buffer.open(QIODevice::ReadOnly);
-    return RVCatalogueReader(&buffer).next();
-}
 
 const char FULL_PRODUCT[] =
         "<product type='DUN9' article_id='17' article_class='book' cover_type='hard,softcover' page_binding='glue' "
@@ -77,7 +69,7 @@ void tst_ProductFacts::facts()
     QFETCH(QByteArray, product);
     const AttributeWords words;
     QStringList texts;
-    for (const ProductFacts::Fact &fact : ProductFacts(read(product), words).facts()) {
+    for (const ProductFacts::Fact &fact : ProductFacts(readProduct(product), words).facts()) {
         if (!fact.text.isEmpty())
             texts += fact.label + ": "_L1 + fact.text;
     }
@@ -113,7 +105,7 @@ void tst_ProductFacts::faults()
     QFETCH(QString, label);
     QFETCH(QString, word);
     const AttributeWords words;
-    const QList<ProductFacts::Fact> facts = ProductFacts(read(product), words).facts();
+    const QList<ProductFacts::Fact> facts = ProductFacts(readProduct(product), words).facts();
     const auto fact = std::find_if(facts.begin(), facts.end(), [&](const auto &each) { return each.label == label; });
     QVERIFY(fact != facts.end());
     QTEST(fact->text, "text");
@@ -127,7 +119,7 @@ void tst_ProductFacts::labels()
     const AttributeWords words;
     const auto labels = [&words](const QByteArray &product) {
         QStringList result;
-        for (const ProductFacts::Fact &fact : ProductFacts(read(product), words).facts())
+        for (const ProductFacts::Fact &fact : ProductFacts(readProduct(product), words).facts())
             result += fact.label;
         return result;
     };
@@ -154,7 +146,7 @@ void tst_ProductFacts::searchText()
 {
     QFETCH(QByteArray, product);
     const AttributeWords words;
-    QTEST(ProductFacts(read(product), words).searchText().replace(u'\n', u' '), "text");
+    QTEST(ProductFacts(readProduct(product), words).searchText().replace(u'\n', u' '), "text");
 }
 
 QTEST_MAIN(tst_ProductFacts)

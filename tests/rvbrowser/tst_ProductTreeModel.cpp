@@ -1,12 +1,9 @@
 #include "FaultyProducts.h"
+#include "ReadCatalogue.h"
 
-#include <LoadedCatalogue.h>
 #include <ProductTreeModel.h>
 
-#include <RVCatalogueReader.h>
-
 #include <QAbstractItemModelTester>
-#include <QBuffer>
 #include <QFont>
 #include <QSignalSpy>
 #include <QTest>
@@ -15,20 +12,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-CataloguePointer read(QByteArray content)
-{
-    QBuffer buffer(&content);
-    buffer.open(QIODevice::ReadOnly);
-    RVCatalogueReader reader(&buffer);
-    auto result = std::make_shared<LoadedCatalogue>(QString());
-    result->read(&reader);
-    return result;
-}
-
 CataloguePointer mixed()
 {
-    return read("<p><product type='A' article_class='book' name='one'/><product type='B' article_class='fee'/>"
-                "<product type='C' article_class='book' name='two'/><product type='D' name='two'/></p>");
+    return readCatalogue("<p><product type='A' article_class='book' name='one'/><product type='B' article_class='fee'/>"
+                         "<product type='C' article_class='book' name='two'/><product type='D' name='two'/></p>");
 }
 
 /// All that is shown: "group: type type; group: type".
@@ -152,13 +139,8 @@ void tst_ProductTreeModel::findingsAsText_data()
 void tst_ProductTreeModel::findingsAsText()
 {
     QFETCH(QByteArray, attributes);
-    QByteArray content = "<p><product type='A' article_id='1' article_class='book' " + attributes + "/></p>";
-    QBuffer buffer(&content);
-    buffer.open(QIODevice::ReadOnly);
-    RVCatalogueReader reader(&buffer);
-    reader.setCheck(RVCatalogueCheck());
-    auto catalogue = std::make_shared<LoadedCatalogue>(QString());
-    catalogue->read(&reader);
+    const CataloguePointer catalogue = readCatalogue("<p><product type='A' article_id='1' article_class='book' "
+                                                     + attributes + "/></p>");
     ProductTreeModel model;
     model.setCatalogue(catalogue);
     const QModelIndex cell = model.indexOfProduct(0).siblingAtColumn(ProductTreeModel::FindingsColumn);
@@ -170,13 +152,7 @@ void tst_ProductTreeModel::findingsAsText()
 
 void tst_ProductTreeModel::faultyOnly()
 {
-    QByteArray content(FAULTY_PRODUCTS);
-    QBuffer buffer(&content);
-    buffer.open(QIODevice::ReadOnly);
-    RVCatalogueReader reader(&buffer);
-    reader.setCheck(RVCatalogueCheck());
-    auto catalogue = std::make_shared<LoadedCatalogue>(QString());
-    catalogue->read(&reader);
+    const CataloguePointer catalogue = readCatalogue(FAULTY_PRODUCTS);
     ProductTreeModel model;
     model.setFaultyOnly(true);
     model.setCatalogue(catalogue);

@@ -10,16 +10,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// Notes the widget, without its button, in pixels.
-void paint(PaintRecorder *recorder, QWidget *widget)
-{
-    widget->render(recorder, QPoint(), QRegion(), QWidget::RenderFlags());
-}
-
-}
-
 class tst_SpineDrawing : public QObject
 {
     Q_OBJECT
