@@ -328,7 +328,7 @@ bool RVFileEditorPrivate::writePiece(RVTextBytes *bytes, qint64 size, QIODevice 
 
 bool RVFileEditorPrivate::writeBytes(const QByteArray &bytes, QIODevice *to)
 {
-    constexpr qsizetype piece = 65536;
+    constexpr qsizetype piece = 65536; // 64 KiB
     myPending += bytes;
     return myPending.size() < piece || writePending(to);
 }

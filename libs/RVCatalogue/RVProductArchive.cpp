@@ -11,7 +11,7 @@ namespace {
 /// The level of compression. A higher one takes noticeably longer, and a lower one saves no time.
 constexpr int EFFORT = 1;
 /// A reader accepts larger products in parts, but a tag may be larger here than in the file.
-constexpr qsizetype LARGEST = 32768;
+constexpr qsizetype LARGEST = 32768; // 32 KiB
 
 /// The product in groups with the names of its families.
 QByteArray withFamilies(const RVCatalogueProduct &product)

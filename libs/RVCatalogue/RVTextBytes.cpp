@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr qint64 LONGEST_PIECE = 65536;
+constexpr qint64 LONGEST_PIECE = 65536; // 64 KiB
 /// The number of bytes of UTF-8 before the end of a piece in which letters are converted one by one: no letter, and no
 /// two that are written as one, have more.
 constexpr qint64 MARGIN = 16;

@@ -23,7 +23,7 @@ constexpr qint64 LARGEST_PIECE = 1048576; // 1 MiB
 /// The largest tag. The parser compares each attribute of a tag with all others, so the limit keeps that fast.
 constexpr qint64 LARGEST_TAG = 65536; // 64 KiB
 /// The number of bytes that the parser gets at once. It handles a tag when the tag is complete.
-constexpr qsizetype BITE = 16384;
+constexpr qsizetype BITE = 16384; // 16 KiB
 
 /// The options of the parser: the text is in UTF-8, even if its first line says otherwise, and references are resolved.
 constexpr int OPTIONS = XML_PARSE_NONET | XML_PARSE_IGNORE_ENC | XML_PARSE_NOENT;

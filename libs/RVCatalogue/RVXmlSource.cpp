@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 READ_SIZE = 65536;
+constexpr qint64 READ_SIZE = 65536; // 64 KiB
 /// The limit of a declaration, which is always shorter.
 constexpr qint64 LONGEST_DECLARATION = 1024;
 

@@ -11,6 +11,8 @@
 #include <QStyle>
 #include <QStyleFactory>
 
+#include <limits>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -30,7 +32,7 @@ SpineTable tableOf(int rows)
 QStringList paintedTexts(QWidget *widget)
 {
     PaintRecorder recorder(1);
-    widget->render(&recorder, QPoint(), QRegion(), QWidget::RenderFlags());
+    paint(&recorder, widget);
     QStringList result;
     for (const PaintRecorder::Text &text : std::as_const(recorder.texts))
         result += text.text;
@@ -74,6 +76,7 @@ private Q_SLOTS:
     void newTable();
     void rowWanted_data();
     void rowWanted();
+    void endOfTheLargestTable();
     void keysWithModifiers();
     void nothingToChoose();
     void clicks();
@@ -157,6 +160,20 @@ void tst_SpineCurve::rowWanted()
     QCOMPARE(wanted.size(), 1);
     QTEST(wanted.constFirst().constFirst().toInt(), "to");
     QCOMPARE(curve.row(), from); // setRow() chooses
+}
+
+// A page further than the last row is the last row, though their sum is no number.
+void tst_SpineCurve::endOfTheLargestTable()
+{
+    const RVPageCountOrganization counts(RVIntRange(1, std::numeric_limits<int>::max()), 1);
+    const RVDistance width(1, DISTANCE_UNIT_MILLIMETRE);
+    SpineCurve curve;
+    curve.setTable(SpineTable(RVSpineConfig(counts, 1, width, RVDistance(), RVDistance()), counts), u"A"_s);
+    const int last = std::numeric_limits<int>::max() - 1;
+    curve.setRow(last);
+    QSignalSpy wanted(&curve, &SpineCurve::rowWanted);
+    QTest::keyClick(&curve, Qt::Key_PageUp);
+    QCOMPARE(wanted.takeFirst().at(0).toInt(), last);
 }
 
 // They belong to others: to menus and to the parts around.

@@ -97,7 +97,7 @@ int SpineCurve::rowAfter(int key) const
     case Qt::Key_PageDown:
         return myRow - PAGE_STEP;
     case Qt::Key_PageUp:
-        return myRow + PAGE_STEP;
+        return myRow + qMin(PAGE_STEP, table().rowCount() - 1 - myRow); // A row far behind the last one may be no int.
     case Qt::Key_Home:
         return 0;
     case Qt::Key_End:

@@ -58,8 +58,7 @@ FindingsPanel::FindingsPanel(QWidget *parent)
     layout->setContentsMargins({});
     layout->addWidget(myFilter);
     layout->addWidget(myNothing);
-    layout->addWidget(myClear);
-    layout->setAlignment(myClear, Qt::AlignLeft);
+    layout->addWidget(myClear, 0, Qt::AlignLeft);
     layout->addWidget(mySplitter, 1);
     showState();
 }
