@@ -55,14 +55,12 @@ qsizetype rvAdvance(RVFilePosition *position, const RVFilePosition &target, QByt
         *position = { position->line + 1, 1 };
         place = end + 1;
     }
-    const auto isLineEnd = [&text, next](const char *letter) {
-        const char following = letter + 1 == text.end() ? next : letter[1];
-        return *letter == '\n' || (*letter == '\r' && following != '\n');
-    };
-    while (place != text.end() && position->column < target.column && !isLineEnd(place))
+    const char *const lastOfLine = lineEnd(place, text.end(), next);
+    const char *const end = lastOfLine ? lastOfLine : text.end();
+    while (place != end && position->column < target.column)
         position->column += columns(*place++);
     // These bytes are the rest of the last letter.
-    while (place != text.end() && columns(*place) == 0)
+    while (place != end && columns(*place) == 0)
         ++place;
     return place - text.begin();
 }

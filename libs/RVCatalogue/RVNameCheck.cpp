@@ -32,9 +32,9 @@ bool areNeighbours(const RVKnownElement &a, const RVKnownElement &b)
 }
 
 /// The elements that have the attribute, those next to an element first.
-QVarLengthArray<const RVKnownElement *, 2> ownersOf(QByteArrayView attribute, const RVKnownElement &element)
+QVarLengthArray<const RVKnownElement *> ownersOf(QByteArrayView attribute, const RVKnownElement &element)
 {
-    QVarLengthArray<const RVKnownElement *, 2> result;
+    QVarLengthArray<const RVKnownElement *> result;
     for (const RVKnownElement &each : RV_KNOWN_ELEMENTS) {
         if (each.attributes.contains(attribute))
             result += &each;
@@ -45,7 +45,7 @@ QVarLengthArray<const RVKnownElement *, 2> ownersOf(QByteArrayView attribute, co
 }
 
 /// The elements that an attribute may have been meant for: the neighbours, or all elements if there are no neighbours.
-QString namesOf(const QVarLengthArray<const RVKnownElement *, 2> &owners, const RVKnownElement &element)
+QString namesOf(const QVarLengthArray<const RVKnownElement *> &owners, const RVKnownElement &element)
 {
     QStringList names;
     for (const RVKnownElement *owner : owners) {
@@ -56,9 +56,9 @@ QString namesOf(const QVarLengthArray<const RVKnownElement *, 2> &owners, const 
 }
 
 /// The names of the elements that may stand in one.
-QVarLengthArray<QLatin1StringView, 4> childrenOf(const RVKnownElement &parent)
+QVarLengthArray<QLatin1StringView> childrenOf(const RVKnownElement &parent)
 {
-    QVarLengthArray<QLatin1StringView, 4> result;
+    QVarLengthArray<QLatin1StringView> result;
     for (const RVKnownElement &element : RV_KNOWN_ELEMENTS) {
         if (element.parent == parent.name)
             result += element.name;

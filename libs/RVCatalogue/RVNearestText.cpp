@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <numeric>
-#include <utility>
 
 namespace {
 
@@ -20,24 +19,23 @@ bool isSwapped(QStringView a, qsizetype i, QStringView b, qsizetype j)
 
 int distanceBetween(QStringView a, QStringView b)
 {
-    std::array<DistanceRow, 3> rows = {};
-    DistanceRow *beforeLast = rows.data();
-    DistanceRow *last = beforeLast + 1;
-    DistanceRow *row = last + 1;
-    std::iota(row->begin(), row->begin() + b.size() + 1, 0);
+    DistanceRow beforeLast = {};
+    DistanceRow last = {};
+    DistanceRow row = {};
+    std::iota(row.begin(), row.end(), 0);
     for (qsizetype i = 1; i <= a.size(); ++i) {
-        std::swap(beforeLast, last);
-        std::swap(last, row);
-        row->front() = int(i);
+        beforeLast = last;
+        last = row;
+        row.front() = int(i);
         for (qsizetype j = 1; j <= b.size(); ++j) {
             const auto at = std::size_t(j);
-            const int changed = (*last)[at - 1] + (a[i - 1] == b[j - 1] ? 0 : 1);
-            (*row)[at] = std::min({ (*last)[at] + 1, (*row)[at - 1] + 1, changed });
+            const int changed = last[at - 1] + (a[i - 1] == b[j - 1] ? 0 : 1);
+            row[at] = std::min({ last[at] + 1, row[at - 1] + 1, changed });
             if (isSwapped(a, i, b, j))
-                (*row)[at] = std::min((*row)[at], (*beforeLast)[at - 2] + 1);
+                row[at] = std::min(row[at], beforeLast[at - 2] + 1);
         }
     }
-    return (*row)[std::size_t(b.size())];
+    return row[std::size_t(b.size())];
 }
 
 }

@@ -40,9 +40,9 @@ bool hasPreselected(const RVOptionsByKey &options)
 }
 
 /// The numbers of semicolons between the values of the defaults that do not have one value for each key; sorted.
-QVarLengthArray<qsizetype, 4> mismatches(const RVCheckedOptions &options)
+QVarLengthArray<qsizetype> mismatches(const RVCheckedOptions &options)
 {
-    QVarLengthArray<qsizetype, 4> result;
+    QVarLengthArray<qsizetype> result;
     for (const RVCheckedOption &option : options) {
         if (option.hasMismatch && option.isPreselected)
             result += option.value.count(';');
@@ -94,7 +94,7 @@ void RVOptionDefaultCheck::check(const RVCheckedOptions &options, const RVOption
 {
     const bool canTell = isCertain(options) && !myReport->isMeant("form"_L1);
     const bool hasDefaults = hasPreselected(byKey);
-    const QVarLengthArray<qsizetype, 4> meantForOthers = mismatches(options);
+    const QVarLengthArray<qsizetype> meantForOthers = mismatches(options);
     for (Iterator begin = byKey.begin(); begin != byKey.end();) {
         Iterator end = std::find_if(begin, byKey.end(),
                                     [begin](const RVCheckedOption *option) { return option->key != (*begin)->key; });

@@ -907,6 +907,13 @@ void tst_RVCatalogueCheck::severities()
     QCOMPARE(check.severity(RVCatalogueRule::find(u"type-missing")), RVCatalogueSeverity::Error);
     check.setSeverity(RVCatalogueRule(), RVCatalogueSeverity::Error);
     QCOMPARE(check.severity(RVCatalogueRule()), RVCatalogueSeverity::Note);
+
+    check.setSeverity(RVCatalogueRule::find(u"products-missing"), RVCatalogueSeverity::Warning);
+    CatalogueBuffer file("<p/>");
+    RVCatalogueReader reader(&file);
+    reader.setCheck(check);
+    QCOMPARE(reader.begin(), reader.end());
+    QCOMPARE(describe(reader.findings().value(0)), u"1 warning products-missing: there is no product in this file"_s);
 }
 
 void tst_RVCatalogueCheck::productsOfFindings()

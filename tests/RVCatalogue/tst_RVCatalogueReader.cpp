@@ -311,6 +311,9 @@ void tst_RVCatalogueReader::errors_data()
 
     QTest::newRow("wrong end tag") << QByteArray("<p>\n<forms>\n\n  </p>")
                                    << u"4:3: </p> closes <forms>, which was opened in line 2"_s;
+    QTest::newRow("long names") << "<p><" + QByteArray(60, 'a') + "></" + QByteArray(61, 'b') + "></p>"
+                                << u"1:66: </%1…> closes <%2>, which was opened in line 1"_s.arg(QString(60, u'b'),
+                                                                                                 QString(60, u'a'));
     QTest::newRow("element behind the root")
             << QByteArray("<p/>\n<p/>") << u"2:1: nothing but comments may follow the end of the root element"_s;
     QTest::newRow("text behind the root")

@@ -151,6 +151,7 @@ private Q_SLOTS:
     void refusedFixLeavesNothing();
     void encodings_data();
     void encodings();
+    void letterInTwoPieces();
     void unwritableLetters_data();
     void unwritableLetters();
     void statefulEncoding();
@@ -405,6 +406,21 @@ void tst_RVFileEditor::encodings()
     QRandomGenerator random(quint32(index) + 1);
     for (const int count : { 10, 50, 200, 60000 })
         compareEditedFile(ENCODINGS[std::size_t(index)], count, &random);
+}
+
+// The file is read in pieces of 64 KiB, which may end between the bytes of a letter.
+void tst_RVFileEditor::letterInTwoPieces()
+{
+    const QByteArray begin("<p>\n");
+    for (qsizetype size = 65536 - begin.size() - 4; size < 65536 - begin.size(); ++size) {
+        const QByteArray text = begin + QByteArray(size, ' ') + "\xf0\x9f\x98\x80" + "a</p>";
+        RVFileEditor editor;
+        QVERIFY(editor.add({ edit(2, size + 3, 2, size + 4, u"b"_s) }));
+        QCOMPARE(editor.apply(text).last(6),
+                 QByteArray("\x80"
+                            "b</p>"));
+        QCOMPARE(editor.errorString(), QString());
+    }
 }
 
 void tst_RVFileEditor::unwritableLetters_data()

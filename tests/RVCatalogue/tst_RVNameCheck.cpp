@@ -380,6 +380,11 @@ void tst_RVNameCheck::oneMistake_data()
     QTest::newRow("misspelt composition is not missing")
             << changed("<composition ", "<compositon ").replace("</composition>", "</compositon>")
             << QStringList { u"<compositon>: element-misspelt"_s };
+    QTest::newRow("misspelt option and missing spine")
+            << changed("<form key='alcolor' value='black'", "<from key='alcolor' value='black'")
+                       .replace("<composition ", "<!-- ")
+                       .replace("</composition>", "-->")
+            << QStringList { u"<product>: spine-missing"_s, u"<from>: element-misspelt"_s };
     QTest::newRow("misplaced spine is not missing")
             << changed("<composition units='cm'>", "").replace("</composition>", "")
             << QStringList { u"<spine>: element-misplaced"_s };

@@ -17,6 +17,7 @@ private Q_SLOTS:
     void limit_data();
     void limit();
     void longTexts();
+    void pieceOfText();
 };
 
 void tst_RVNearestText::distances_data()
@@ -106,6 +107,15 @@ void tst_RVNearestText::longTexts()
     nearest.offer(QString(64, u'a'));
     QCOMPARE(nearest.text(), QString(64, u'a'));
     QCOMPARE(nearest.distance(), 0);
+}
+
+// The letters in front of a piece do not count as swapped.
+void tst_RVNearestText::pieceOfText()
+{
+    const QString text = u"ba"_s;
+    RVNearestText nearest(QString::fromRawData(text.constData() + 1, 1));
+    nearest.offer(u"xab"_s);
+    QCOMPARE(nearest.distance(), 2);
 }
 
 QTEST_GUILESS_MAIN(tst_RVNearestText)
