@@ -2,6 +2,7 @@
 
 #include "ComparisonPanel.h"
 #include "DiffWriter.h"
+#include "FileContent.h"
 #include "LoadProgress.h"
 #include "MainWindow.h"
 
@@ -10,7 +11,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenuBar>
-#include <QSaveFile>
 
 #include <utility>
 
@@ -147,18 +147,16 @@ void ComparisonActions::save()
 void ComparisonActions::saveAs(const QString &fileName)
 {
     const ComparisonPointer comparison = mySession.comparison();
-    QSaveFile file(fileName);
-    const bool isOpen = file.open(QIODevice::WriteOnly);
-    const auto writer = DiffWriter::create(formatOf(fileName), false, [&](const QString &text) {
-        if (isOpen)
-            file.write(text.toUtf8());
-    });
+    QByteArray changes;
+    const auto writer = DiffWriter::create(formatOf(fileName), false,
+                                           [&changes](const QString &text) { changes += text.toUtf8(); });
     writer->begin(comparison->files().before.fileName, comparison->files().after.fileName);
     for (int i = 0; i < comparison->size(); ++i)
         writer->product(comparison->at(i));
     writer->end(comparison->counts());
-    if (!isOpen || !file.commit())
-        say(tr("%1 cannot be written: %2").arg(fileName, file.errorString()));
+    const QString error = writeContent(fileName, changes);
+    if (!error.isEmpty())
+        say(tr("%1 cannot be written: %2").arg(fileName, error));
 }
 
 void ComparisonActions::showComparison()

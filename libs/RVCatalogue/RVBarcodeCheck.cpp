@@ -208,12 +208,12 @@ std::optional<QRect> RVBarcodeCheck::readArea(const RVCatalogueElement &element,
 {
     const auto x = rvCheckedDouble(element, "position_x"_L1, 1, myReport);
     const auto y = rvCheckedDouble(element, "position_y"_L1, 1, myReport);
-    const auto width = rvCheckedDouble(element, "width"_L1, 1, myReport);
-    const auto height = rvCheckedDouble(element, "height"_L1, 1, myReport);
+    const auto width = rvCheckedDouble(element, "width"_L1, THINNEST, myReport);
+    const auto height = rvCheckedDouble(element, "height"_L1, THINNEST, myReport);
     if (!x || !y || !width || !height)
         return std::nullopt;
     const auto extent = [&](QLatin1StringView name, double length) {
-        return element.hasAttribute(name) ? RVDistance(length, unit) : RVDistance(THINNEST, DISTANCE_UNIT_MILLIMETRE);
+        return RVDistance(length, element.hasAttribute(name) ? unit : RVDistanceUnit(DISTANCE_UNIT_MILLIMETRE));
     };
     const auto definition = RVBarcodeDefinition::createFromLengths(
             RVDistance(*x, unit), RVDistance(*y, unit), extent("width"_L1, *width), extent("height"_L1, *height), 0,

@@ -65,15 +65,16 @@ ReadProducts<Products> readProducts(const QList<RVCatalogueProduct> &products)
     return result;
 }
 
-/// Numbers of products by a key that several of them may share.
+/// Numbers of products by a key that several of them may share. All numbers are below a count.
 class Queues
 {
 public:
+    Queues() = default;
+    explicit Queues(std::size_t count) : myNext(count, NONE) { }
+
     /// Adds a number in front of those with the same key.
     void prepend(quint64 key, int number)
     {
-        if (std::size_t(number) >= myNext.size())
-            myNext.resize(std::size_t(number) + 1, NONE);
         const auto first = myFirst.find(key);
         if (first == myFirst.end())
             myFirst.insert(key, number);
@@ -151,6 +152,7 @@ void RVCatalogueComparisonPrivate::readOld(RVCatalogueReader *reader)
         return true;
     });
     hasError = reader->hasError();
+    myTypes = Queues(myOld.size());
     for (int i = int(myOld.size()) - 1; i >= 0; --i)
         myTypes.prepend(myOld[std::size_t(i)].facts.type, i);
 }
@@ -199,7 +201,7 @@ void RVCatalogueComparisonPrivate::finish()
 // An article whose type changed belongs together with its old version.
 void RVCatalogueComparisonPrivate::findRenamed()
 {
-    Queues articles;
+    Queues articles(myOld.size());
     for (int i = int(myOld.size()) - 1; i >= 0; --i) {
         const OldProduct &old = myOld[std::size_t(i)];
         if (old.newNumber == NONE)

@@ -20,21 +20,18 @@ const RVCatalogueRows::Attribute *findAttribute(const RVCatalogueRows &rows, con
     return found == end ? nullptr : found;
 }
 
-/// The place in a start tag at a number of bytes behind its begin.
+/// The place in a start tag at a number of bytes behind its begin. A line feed that belongs to a carriage return in
+/// front of it never stands there, because it is no part of a name or a value.
 RVFilePosition place(const RVCatalogueRows &rows, const RVCatalogueRows::Element &element, quint32 offset)
 {
-    const QByteArrayView tag = rows.view(element.tag);
-    const char next = qsizetype(offset) < tag.size() ? tag[offset] : '\0';
-    return rvAdvanced(element.position, tag.first(offset), next);
+    return rvAdvanced(element.position, rows.view(element.tag).first(offset), '\0');
 }
 
 /// A piece of a start tag between two numbers of bytes behind its begin.
 RVFileRange piece(const RVCatalogueRows &rows, const RVCatalogueRows::Element &element, quint32 begin, quint32 end)
 {
-    const QByteArrayView tag = rows.view(element.tag);
     const RVFilePosition first = place(rows, element, begin);
-    const char next = qsizetype(end) < tag.size() ? tag[end] : '\0';
-    return { first, rvAdvanced(first, tag.first(end).sliced(begin), next) };
+    return { first, rvAdvanced(first, rows.view(element.tag).first(end).sliced(begin), '\0') };
 }
 
 RVFileRange rangeOf(const RVCatalogueRows &rows, const RVCatalogueRows::Element &element,

@@ -5,6 +5,7 @@
 #include <QDomDocument>
 
 #include <algorithm>
+#include <type_traits>
 
 using namespace Qt::StringLiterals;
 
@@ -23,7 +24,7 @@ bool isPlainNumber(QByteArrayView text)
 /// The result of the reader that all others use; nothing if it is the default, for any default.
 template<typename Read>
 auto unlessDefault(const RVCatalogueElement &element, QLatin1StringView name, Read read)
-        -> std::optional<decltype(read(QDomElement(), QString(), true))>
+        -> std::optional<std::invoke_result_t<Read, QDomElement, QString, bool>>
 {
     QDomDocument document;
     QDomElement copy = document.createElement(u"element"_s);
@@ -41,10 +42,12 @@ std::optional<int> rvIntValue(const RVCatalogueElement &element, QLatin1StringVi
     const QByteArrayView text = element.utf8(name);
     if (text.isEmpty())
         return std::nullopt;
-    bool isNumber = false;
-    const int number = isPlainNumber(text) ? text.toInt(&isNumber) : 0;
-    if (isNumber)
-        return number;
+    if (isPlainNumber(text)) {
+        bool isNumber = false;
+        const int number = text.toInt(&isNumber);
+        if (isNumber)
+            return number;
+    }
     return unlessDefault(element, name, [](const QDomElement &copy, const QString &copiedName, int defaultValue) {
         return RVXMLParser::intAttribute(copy, copiedName, defaultValue);
     });
@@ -55,10 +58,12 @@ std::optional<double> rvDoubleValue(const RVCatalogueElement &element, QLatin1St
     const QByteArrayView text = element.utf8(name);
     if (text.isEmpty())
         return std::nullopt;
-    bool isNumber = false;
-    const double number = isPlainNumber(text) ? text.toDouble(&isNumber) : 0;
-    if (isNumber)
-        return number;
+    if (isPlainNumber(text)) {
+        bool isNumber = false;
+        const double number = text.toDouble(&isNumber);
+        if (isNumber)
+            return number;
+    }
     return unlessDefault(element, name, [](const QDomElement &copy, const QString &copiedName, qreal defaultValue) {
         return RVXMLParser::doubleAttribute(copy, copiedName, defaultValue);
     });

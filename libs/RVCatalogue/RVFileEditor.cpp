@@ -105,7 +105,7 @@ public:
     {
         myText += text;
         const qsizetype size = text.isEmpty() ? myText.size() : lastLetter();
-        const char next = size < myText.size() ? myText.at(size) : '\0';
+        const char next = myText.constData()[size]; // a zero ends the array
         QByteArrayView rest = QByteArrayView(myText).first(size);
         while (isLooking()) {
             const RVFilePosition &place = myPlaces[myOffsets.size()];

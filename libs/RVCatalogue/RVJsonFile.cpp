@@ -17,10 +17,8 @@ public:
 
 RVFilePosition positionAt(const QByteArray &text, qsizetype offset)
 {
-    QString before = QString::fromUtf8(text.left(offset));
-    if (before.startsWith(QChar::ByteOrderMark))
-        before.remove(0, 1);
-    return rvAdvanced(RVFilePosition(), before.toUtf8(), '\0');
+    // The mark in front of a file is no letter of its first line; QString drops it.
+    return rvAdvanced(RVFilePosition(), QString::fromUtf8(text.left(offset)).toUtf8(), '\0');
 }
 
 std::optional<RVConfigurationFault> RVJsonFile::read(const QByteArray &text, RVConfigurationTree *tree)

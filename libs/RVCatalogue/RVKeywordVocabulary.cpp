@@ -94,7 +94,6 @@ RVKeywordVocabulary::RVKeywordVocabulary(RVCatalogueAttribute attribute)
     });
     std::transform(myGuesses.begin(), aliases, std::back_inserter(myFaultless),
                    [](const QString &keyword) { return keyword.toUtf8(); });
-    std::sort(myFaultless.begin(), myFaultless.end());
     for (const QString &keyword : std::as_const(myGuesses))
         mySqueezed[withoutSeparators(keyword)] += keyword;
     for (const RVCatalogueAttributeValue &value : attribute.values()) {

@@ -36,6 +36,8 @@ private Q_SLOTS:
     void missingTexts();
     void usualPage_data();
     void usualPage();
+    void overlap_data();
+    void overlap();
     void exactPage_data();
     void exactPage();
     void exactPageText();
@@ -66,6 +68,9 @@ void tst_RVBarcodeCheck::missing_data()
     QTest::newRow("no height, left of the page") << barcode("position_x='-12' position_y='290' width='38' pageNr='2'")
                                                  << QStringList { noSize, u"position_x='-12': barcode-outside-page"_s };
     const QByteArray size = " width='38' height='10' ";
+    QTest::newRow("higher than its lower edge, which is missing")
+            << barcode("position_x='12' width='38' height='1.5' pageNr='2'")
+            << QStringList { u"<barcode>: barcode-outside-page"_s };
     QTest::newRow("no page, twice") << barcode(place + size + "/><barcode " + place + size)
                                     << QStringList { noPage, noPage };
     QTest::newRow("page is impossible, position cannot be read")
@@ -168,6 +173,12 @@ void tst_RVBarcodeCheck::usualPage_data()
     QTest::newRow("below the longest page")
             << barcode("position_x='50' position_y='3000.1' width='10' height='10' pageNr='2'")
             << QStringList { u"position_y='3000.1': barcode-outside-page"_s };
+    outside("right of and below the longest page", endingAt("3001", "3001", "none", "normal"), u"position_y='3001'"_s);
+    const QByteArray below = "position_x='12' position_y='400' width='38' height='10' pageNr='2'";
+    QTest::newRow("twice below an upright page")
+            << barcode(below + "/><barcode " + below, "orientation='portrait' space_magnitude='600cm2'")
+            << QStringList { u"position_y='400': barcode-off-usual-page"_s,
+                             u"position_y='400': barcode-off-usual-page"_s };
     QTest::newRow("below every page") << endingAt("50", "900", "portrait", "600cm2")
                                       << QStringList { u"position_y='900': barcode-outside-page"_s };
 }
@@ -177,6 +188,32 @@ void tst_RVBarcodeCheck::usualPage()
     QFETCH(QByteArray, file);
     QVERIFY(!file.isEmpty());
     QTEST(CheckedCatalogue(file).rules(), "findings");
+}
+
+void tst_RVBarcodeCheck::overlap_data()
+{
+    QTest::addColumn<QByteArray>("place");
+    QTest::addColumn<bool>("isOverlap");
+
+    QTest::newRow("a tenth at the left") << QByteArray("position_x='12.1' position_y='100'") << true;
+    QTest::newRow("beside it at the left") << QByteArray("position_x='12' position_y='100'") << false;
+    QTest::newRow("a tenth at the right") << QByteArray("position_x='87.9' position_y='100'") << true;
+    QTest::newRow("beside it at the right") << QByteArray("position_x='88' position_y='100'") << false;
+    QTest::newRow("a tenth above") << QByteArray("position_x='50' position_y='90.1'") << true;
+    QTest::newRow("beside it above") << QByteArray("position_x='50' position_y='90'") << false;
+    QTest::newRow("a tenth below") << QByteArray("position_x='50' position_y='109.9'") << true;
+    QTest::newRow("beside it below") << QByteArray("position_x='50' position_y='110'") << false;
+}
+
+// The lower edge is the position of a barcode.
+void tst_RVBarcodeCheck::overlap()
+{
+    QFETCH(QByteArray, place);
+    QFETCH(bool, isOverlap);
+    const QByteArray size = " width='38' height='10' pageNr='2'";
+    const QByteArray file = barcode("position_x='50' position_y='100'" + size + "/><barcode " + place + size);
+    const QStringList overlap { u"<barcode>: barcode-overlap"_s };
+    QCOMPARE(CheckedCatalogue(file).rules(), isOverlap ? overlap : QStringList());
 }
 
 void tst_RVBarcodeCheck::exactPage_data()
@@ -191,6 +228,18 @@ void tst_RVBarcodeCheck::exactPage_data()
                            << QStringList { u"position_y='298': barcode-outside-page"_s };
     QTest::newRow("right") << endingAt("211", "297", "portrait", "600cm2")
                            << QStringList { u"position_x='173': barcode-outside-page"_s };
+    QTest::newRow("a tenth too far right")
+            << barcode("position_x='172.1' position_y='290' width='38' height='10' pageNr='2'")
+            << QStringList { u"position_x='172.1': barcode-outside-page"_s };
+    QTest::newRow("a tenth too low") << barcode("position_x='12' position_y='297.1' width='38' height='10' pageNr='2'")
+                                     << QStringList { u"position_y='297.1': barcode-outside-page"_s };
+    QTest::newRow("as far right as below") << endingAt("211", "298", "portrait", "600cm2")
+                                           << QStringList { u"position_y='298': barcode-outside-page"_s };
+    QTest::newRow("right edge without a position")
+            << barcode("position_y='290' width='209' height='10' pageNr='2'") << QStringList();
+    const QByteArray place = "position_x='12' position_y='290' width='38' height='10' pageNr='2'";
+    QTest::newRow("one over the other") << barcode(place + "/><barcode " + place)
+                                        << QStringList { u"<barcode>: barcode-overlap"_s };
     QTest::newRow("further below than right") << endingAt("211", "300", "portrait", "600cm2")
                                               << QStringList { u"position_y='300': barcode-outside-page"_s };
     QTest::newRow("product without a configured page size")

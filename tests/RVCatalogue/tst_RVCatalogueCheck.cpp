@@ -1172,6 +1172,12 @@ void tst_RVCatalogueCheck::guesses_data()
                                      << u"\"lanscdape\" is no keyword of orientation; did you mean \"landscape\"?"_s;
     QTest::newRow("written in capitals") << u"cover_type"_s << u"SOFTCVER"_s
                                          << u"\"SOFTCVER\" is no keyword of cover_type; did you mean \"SOFTCOVER\"?"_s;
+    QTest::newRow("two letters missing, one of them the first")
+            << u"cover_type"_s << u"ordcover"_s
+            << u"\"ordcover\" is no keyword of cover_type; did you mean \"hardcover\"?"_s;
+    QTest::newRow("two letters from several keywords")
+            << u"space_magnitude"_s << u"790cm2"_s
+            << u"\"790cm2\" is no keyword of space_magnitude; did you mean \"150cm2\"?"_s;
     QTest::newRow("near an alias")
             << u"article_class"_s << u"fotobok"_s
             << u"\"fotobok\" is no keyword of article_class; did you mean \"fotobook\", that is \"book\"?"_s;

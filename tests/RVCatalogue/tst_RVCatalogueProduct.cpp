@@ -122,6 +122,7 @@ class tst_RVCatalogueProduct : public QObject
 private Q_SLOTS:
     void sample();
     void sampleLayout();
+    void spineOfBlocks();
     void sampleOptions();
     void defaults();
     void nullProduct();
@@ -168,6 +169,15 @@ void tst_RVCatalogueProduct::sampleLayout()
     QCOMPARE(product.barcodes().size(), qsizetype(1));
     QCOMPARE(product.barcodes().constFirst(),
              RVBarcodeDefinition(QRect(120, 2805, 380, 100), 2, u"dummy-barcode.png"_s));
+}
+
+void tst_RVCatalogueProduct::spineOfBlocks()
+{
+    const RVCatalogueProduct product =
+            productsOf("<p><product pages='26' max_pages='154' page_step='4'><composition units='mm'>"
+                       "<spine packages_per_block='1' block_width='1'/></composition></product></p>")
+                    .constFirst();
+    QVERIFY(product.hasSpine());
 }
 
 void tst_RVCatalogueProduct::sampleOptions()

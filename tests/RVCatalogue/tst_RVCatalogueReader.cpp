@@ -155,6 +155,7 @@ private Q_SLOTS:
     void threadCount_data();
     void threadCount();
     void mapDoesNotWait();
+    void mapStopsWithoutWaiting();
     void mapStops();
     void mapGoesOnBehindNext();
 };
@@ -645,6 +646,7 @@ void tst_RVCatalogueReader::mapsInOrder_data()
     QTest::newRow("no product") << 0;
     QTest::newRow("one") << 1;
     QTest::newRow("one piece of the file") << 200;
+    QTest::newRow("two pieces") << 2000;
     QTest::newRow("many pieces") << 50000;
 }
 
@@ -733,6 +735,7 @@ void tst_RVCatalogueReader::mapDoesNotWait()
                    return true;
                });
     QCOMPARE(events.join(u' '), u"piece A piece B C piece piece D end"_s);
+    QCOMPARE(reader.size(), qint64(0));
 
     // The letter that ends the first tag may be the first of four bytes, so the file begins with seven bytes here.
     QStringList eventsOfTag;
@@ -740,6 +743,19 @@ void tst_RVCatalogueReader::mapDoesNotWait()
     RVCatalogueReader rootReader(&root);
     QCOMPARE(rootReader.next().type().toString(), u"A"_s);
     QCOMPARE(eventsOfTag, QStringList { u"piece"_s });
+}
+
+void tst_RVCatalogueReader::mapStopsWithoutWaiting()
+{
+    QStringList events;
+    SlowPipe pipe({ "<p><product type='A'/>", "<product type='B'/></p>" }, &events);
+    RVCatalogueReader reader(&pipe);
+    reader.map([](const QList<RVCatalogueProduct> &products) { return products; },
+               [&events](const QList<RVCatalogueProduct> &products) {
+                   events += products.constFirst().element().attribute("type"_L1);
+                   return false;
+               });
+    QCOMPARE(events.join(u' '), u"piece A"_s);
 }
 
 void tst_RVCatalogueReader::mapStops()

@@ -154,6 +154,7 @@ private Q_SLOTS:
     void letterInTwoPieces();
     void unwritableLetters_data();
     void unwritableLetters();
+    void unwritableLetterAmongOthers();
     void statefulEncoding();
     void manyEditsInOneLine();
     void fullDevice();
@@ -230,6 +231,7 @@ void tst_RVFileEditor::bytes_data()
     row("mixed lines", "<a>\n\r\r\n\n<b c='1'/></a>", { edit(5, 7, 5, 8, u"2"_s) }, "<a>\n\r\r\n\n<b c='2'/></a>");
     row("end of a line", "<a>\r\n</a>", { edit(1, 4, 1, 4, u" "_s) }, "<a> \r\n</a>");
     row("carriage return of a line", "<a>\r\n</a>", { edit(1, 4, 1, 5, QString()) }, "<a>\n</a>");
+    row("carriage return before the last letter", "<a/>\r\n ", { edit(1, 5, 1, 6, QString()) }, "<a/>\n ");
     row("across lines", "<a>\r\n\r\n</a>", { edit(1, 4, 3, 1, u" "_s) }, "<a> </a>");
     row("text with a line end", "<a b='1'/>", { edit(3, 4, u"\r\n"_s) }, "<a\r\nb='1'/>");
 }
@@ -462,6 +464,18 @@ void tst_RVFileEditor::unwritableLetters()
     QVERIFY(editor.add({ edit }));
     QTEST(editor.apply(file), "expected");
     QTEST(editor.errorString(), "error");
+}
+
+// A reference is possible in the value, and not needed in the comment behind it.
+void tst_RVFileEditor::unwritableLetterAmongOthers()
+{
+    const QByteArray begin = "<?xml version='1.0' encoding='ISO-8859-1'?>\n";
+    RVFileEditor editor;
+    QVERIFY(editor.add({ edit(2, 7, 2, 8, u"5"_s), edit(2, 13, 2, 14, u"6"_s), edit(2, 19, 2, 20, u"€"_s),
+                         edit(2, 28, 2, 29, u"7"_s) }));
+    QCOMPARE(editor.apply(begin + "<a b='1' c='2' d='3'/><!-- 4 -->"),
+             begin + "<a b='5' c='6' d='&#x20AC;'/><!-- 7 -->");
+    QCOMPARE(editor.errorString(), QString());
 }
 
 // Bytes belong to the current alphabet of the encoding, so an edit must not change the meaning of later bytes.

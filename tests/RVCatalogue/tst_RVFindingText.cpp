@@ -78,6 +78,9 @@ void tst_RVFindingText::keywords_data()
     QTest::newRow("keyword with a blank") << u"paper_type"_s << u"Unbekanntes Papier"_s << QString();
     QTest::newRow("one letter wrong") << u"cover_type"_s << u"cromolinnen"_s
                                       << u"\"cromolinnen\" is no keyword of cover_type; did you mean \"cromolinen\"?"_s;
+    QTest::newRow("letters missing on both sides of a blank")
+            << u"cover_type"_s << u"hard covr"_s
+            << u"\"hard covr\" is no keyword of cover_type; did you mean \"hardcover\"?"_s;
     QTest::newRow("near two keywords")
             << u"space_magnitude"_s << u"60cm2"_s
             << u"\"60cm2\" is no keyword of space_magnitude; did you mean \"50cm2\" or \"600cm2\"?"_s;
@@ -519,6 +522,7 @@ void tst_RVFindingText::colors_data()
     };
     const QString advice = u"write an English name, or \"#\" and 6 hexadecimal digits"_s;
     QTest::newRow("name") << u"DarkRed"_s << QString();
+    QTest::newRow("four letters wrong") << u"hellgruen"_s << no(u"hellgruen"_s, advice);
     QTest::newRow("digits") << u"#1A1a1a"_s << QString();
     QTest::newRow("digits without a sign") << u"1a1a1a"_s << no(u"1a1a1a"_s, u"write \"#1a1a1a\""_s);
     QTest::newRow("digits behind 0x") << u"0xFF1a1a1a"_s << no(u"0xFF1a1a1a"_s, u"write \"#FF1a1a1a\""_s);

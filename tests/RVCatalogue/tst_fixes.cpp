@@ -99,6 +99,8 @@ void tst_fixes::oneSafeAnswer_data()
     row("blank in a keyword", with("cover_type", "hard cover"), with("cover_type", "hardcover"));
     row("blanks in a keyword", with("cover_type", "poster self  adhesive"), with("cover_type", "poster_self_adhesive"));
     row("dash in a keyword", with("cover_type", "wall-calendar"), with("cover_type", "calendar_simplex"));
+    row("dashes in a keyword with ph", with("cover_type", "calender-advent-photo"),
+        with("cover_type", "calender_advent_photo"));
     row("invisible letter in a keyword", with("page_binding", "spir\u200Bal"), with("page_binding", "spiral"));
     row("byte order mark in front of a keyword", with("cover_type", "\uFEFFhardcover"),
         with("cover_type", "hardcover"));

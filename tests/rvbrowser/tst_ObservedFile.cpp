@@ -62,19 +62,19 @@ void tst_ObservedFile::endsOnRequest()
 
 void tst_ObservedFile::isCopied()
 {
-    QVERIFY(myFolder.write(u"f"_s, "abcdef"));
+    QVERIFY(myFolder.write(u"f"_s, "abcde"));
     FileCopy copy(u"f"_s);
     ObservedFile file(myFolder.path(u"f"_s), [](int) { return true; });
     QVERIFY(file.open(QIODevice::ReadOnly | QIODevice::Unbuffered));
     QCOMPARE(file.read(2), QByteArray("ab"));
     file.setCopy(&copy);
-    QCOMPARE(file.read(2), QByteArray("cd"));
+    QCOMPARE(file.read(1), QByteArray("c"));
     file.setCopy(nullptr);
-    QCOMPARE(file.read(2), QByteArray("ef"));
+    QCOMPARE(file.read(2), QByteArray("de"));
     copy.finish();
     QFile copied(copy.fileName());
     QVERIFY(copied.open(QIODevice::ReadOnly));
-    QCOMPARE(copied.readAll(), QByteArray("cd"));
+    QCOMPARE(copied.readAll(), QByteArray("c"));
 }
 
 QTEST_GUILESS_MAIN(tst_ObservedFile)

@@ -54,8 +54,7 @@ QString LoadedCatalogue::typeOf(const RVCatalogueFinding &finding) const
 {
     if (!finding.productType().isEmpty())
         return finding.productType();
-    const qint64 product = finding.product();
-    return product >= 0 && product < size() ? at(int(product)).type.orderTxtName() : QString();
+    return myEntries.value(finding.product()).type.orderTxtName();
 }
 
 void LoadedCatalogue::add(const QList<RVCatalogueProduct> &products)
