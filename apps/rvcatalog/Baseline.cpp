@@ -103,7 +103,7 @@ bool Baseline::write(const Console &console) const
     text += "\n  ]\n}\n";
     if (myFileName == STREAM) {
         console.write(text.toStdString());
-        return true;
+        return console.flush();
     }
     const QString error = writeContent(myFileName, text);
     return error.isEmpty() || fail(console, u"cannot write the baseline: "_s + error);

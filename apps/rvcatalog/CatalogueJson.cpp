@@ -85,5 +85,5 @@ void writeCatalogueJson(CatalogueFile &file, const ProductFilter &filter, ShowRe
                           return Interruption::signal() == 0;
                       });
     console.write("\n]\n");
-    std::fflush(console.output);
+    console.flush();
 }

@@ -44,9 +44,8 @@ QString readNumber(const QCommandLineParser &parser, const QString &option, Numb
 {
     if (!parser.isSet(option))
         return QString();
-    bool isNumber = false;
-    const qint64 value = parser.value(option).toLongLong(&isNumber);
-    if (!isNumber || value < 1 || value > std::numeric_limits<Number>::max())
+    const qint64 value = parser.value(option).toLongLong(); // 0 for a text that is no number
+    if (value < 1 || value > std::numeric_limits<Number>::max())
         return u"--%1 takes a whole number from 1, not \"%2\""_s.arg(option, parser.value(option));
     *number = Number(value);
     return QString();

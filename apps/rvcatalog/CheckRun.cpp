@@ -45,7 +45,6 @@ void CheckRun::check(const QStringList &fileNames)
         if (!goesOn())
             return;
         ++mySummary.files;
-        myWriter->beginFile(fileName);
         CatalogueFile file(fileName, myConsole);
         read(&file, fileName);
         myWriter->endFile(fileName);
@@ -113,14 +112,14 @@ void CheckRun::write(const QString &fileName, const QList<RVCatalogueFinding> &f
             myWriter->finding(fileName, finding);
         }
     }
-    std::fflush(myConsole.output);
+    myConsole.flush();
 }
 
 void CheckRun::reportUnreadable(const CatalogueFile &file, const QString &fileName, const Problem &problem)
 {
     ++mySummary.unreadable;
     myProgressBar.hide();
-    std::fflush(myConsole.output);
+    myConsole.flush();
     file.report({ problem.position, u"error: "_s + problem.text });
     myWriter->unreadable(fileName, problem);
 }

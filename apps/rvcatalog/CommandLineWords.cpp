@@ -36,10 +36,10 @@ void CommandLineWords::readLast(const QString &word, const HelpText &help)
     myValue = word;
     if (!myOption.names.isEmpty() || myAreOptionsOver || !word.startsWith(u'-'))
         return;
-    const qsizetype sign = word.indexOf(u'=');
-    myIsOption = sign < 0;
+    myIsOption = !word.contains(u'=');
     if (myIsOption)
         return;
+    const qsizetype sign = word.indexOf(u'=');
     myOption = help.option(word.left(sign));
     myPrefix = word.left(sign + 1);
     myValue = word.mid(sign + 1);

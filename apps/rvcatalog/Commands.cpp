@@ -41,7 +41,7 @@ QString usage()
 /// the disk is full. Otherwise a user could take half a list for the whole.
 int withOutput(int exitCode, const Console &console)
 {
-    if (std::fflush(console.output) == 0 && std::ferror(console.output) == 0)
+    if (console.flush())
         return exitCode;
     QTextStream(console.messages) << "rvcatalog: cannot write to the standard output\n";
     return EXIT_UNREADABLE;

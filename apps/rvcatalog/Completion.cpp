@@ -105,13 +105,13 @@ Candidates types(const QString &catalogueName)
 /// A condition on products, first its attribute and then its value.
 Candidates conditions(const QString &text)
 {
-    const qsizetype sign = text.indexOf(u'=');
     Candidates result;
-    if (sign < 0) {
+    if (!text.contains(u'=')) {
         for (const QString &name : ProductCondition::attributeNames())
             result += { name + u'=', QString() };
         return result;
     }
+    const qsizetype sign = text.indexOf(u'=');
     QString name = text.left(sign);
     if (name.endsWith(u'!'))
         name.chop(1);
@@ -129,8 +129,6 @@ Completion wordsFor(const QString &placeholder, const CommandLineWords &line)
         return { plain(placeholder.split(u'|')), false };
     if (placeholder == "ATTRIBUTE"_L1)
         return { attributes(), false };
-    if (placeholder == "COMMAND"_L1)
-        return { commands(), false };
     if (placeholder == "CONDITION"_L1)
         return { conditions(line.value()), false };
     if (placeholder == "RULE"_L1)

@@ -52,6 +52,11 @@ void Console::write(std::string_view text) const
     std::fwrite(text.data(), 1, text.size(), output);
 }
 
+bool Console::flush() const
+{
+    return std::fflush(output) == 0 && std::ferror(output) == 0;
+}
+
 void Console::report(const QString &fileName, const Problem &problem) const
 {
     report(placeText(fileName, problem.position), problem.text);

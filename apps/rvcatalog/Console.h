@@ -30,6 +30,8 @@ struct Console
     /// opens.
     std::unique_ptr<QIODevice> openInput(const QString &fileName) const;
     void write(std::string_view text) const;
+    /// Passes on what was written to the output. False if that, or anything before, could not be written.
+    bool flush() const;
     /// Writes "file:line:column: text" to the messages.
     void report(const QString &fileName, const Problem &problem) const;
     /// Writes "file: text" to the messages, for problems without a place.

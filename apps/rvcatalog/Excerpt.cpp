@@ -34,8 +34,8 @@ Cell shown(char32_t letter, int column)
         const int width = TAB_WIDTH - column % TAB_WIDTH;
         return { QString(width, u' '), column, width };
     }
-    const int width = QChar::category(letter) == QChar::Other_Format ? -1 : ::wcwidth(wchar_t(letter));
-    if (width < 0)
+    const int width = ::wcwidth(wchar_t(letter));
+    if (width < 0 || QChar::category(letter) == QChar::Other_Format)
         return { QString(QChar::ReplacementCharacter), column, 1 };
     return { QString::fromUcs4(&letter, 1), column, width };
 }
@@ -59,12 +59,12 @@ QList<Cell> cellsOf(const QString &line, qint64 begin, qint64 end)
 /// The cells that fit into a number of columns and contain the first marked one.
 QList<Cell> cut(const QList<Cell> &cells, int width)
 {
-    const int total = cells.isEmpty() ? 0 : cells.constLast().end();
-    if (total <= width)
+    if (cells.isEmpty())
         return cells;
+    const int total = cells.constLast().end();
     const auto first = std::find_if(cells.begin(), cells.end(), [](const Cell &cell) { return cell.isMarked; });
     const int place = first == cells.end() ? total : first->column;
-    const int from = std::clamp(place - width / 3, 0, total - width);
+    const int from = qMax(0, qMin(place - width / 3, total - width));
     const int to = from + width;
     QList<Cell> result;
     for (const Cell &cell : cells) {

@@ -34,7 +34,6 @@ public:
     virtual ~FindingWriter();
 
     virtual void begin() { }
-    virtual void beginFile(const QString &) { }
     virtual void finding(const QString &fileName, const RVCatalogueFinding &finding) = 0;
     /// Reports a file that could not be read to its end.
     virtual void unreadable(const QString &, const Problem &) { }

@@ -45,6 +45,13 @@ QList<RVCatalogueFinding> allFindings(const QList<RVCatalogueProduct> &products)
 
 }
 
+/// The edits of a file, and the number of its findings.
+struct FixRun::Mending
+{
+    RVFileEditor editor;
+    qint64 findings = 0;
+};
+
 FixRun::FixRun(const CheckOptions &options, const Configurations &configurations, Console *console)
     : myOptions(options),
       myConfigurations(configurations),
@@ -79,14 +86,13 @@ bool FixRun::mendFile(const QString &fileName)
 {
     if (isSpecial(fileName))
         return fail(fileName, { RVFilePosition(), u"this is no ordinary file"_s });
-    RVFileEditor editor(fileName);
+    Mending mending { RVFileEditor(fileName) };
     RVCatalogueReader reader(fileName);
-    qint64 findings = 0;
-    if (collect(&reader, fileName, &editor, &findings) || editor.count() == 0)
+    if (collect(&reader, fileName, &mending) || mending.editor.count() == 0)
         return true;
-    if (!editor.save())
-        return fail(fileName, { RVFilePosition(), editor.errorString() });
-    tellMended(fileName, editor, findings);
+    if (!mending.editor.save())
+        return fail(fileName, { RVFilePosition(), mending.editor.errorString() });
+    tellMended(fileName, mending);
     return true;
 }
 
@@ -94,11 +100,10 @@ bool FixRun::mendInput()
 {
     if (!copyInput())
         return false;
-    RVFileEditor editor;
+    Mending mending;
     RVCatalogueReader reader(myInputCopy.get());
-    qint64 findings = 0;
-    const std::optional<Problem> problem = collect(&reader, u"-"_s, &editor, &findings);
-    const bool isDone = problem || writeMended(&editor, findings);
+    const std::optional<Problem> problem = collect(&reader, u"-"_s, &mending);
+    const bool isDone = problem || writeMended(&mending);
     myConsole->output = myConsole->messages;
     return readCopy() && isDone;
 }
@@ -117,20 +122,20 @@ bool FixRun::readCopy()
 }
 
 /// Writes the copy of the input to the output with the edits, and makes that the copy.
-bool FixRun::writeMended(RVFileEditor *editor, qint64 findings)
+bool FixRun::writeMended(Mending *mending)
 {
     auto mended = std::make_unique<QTemporaryFile>();
     if (!mended->open())
         return fail(u"-"_s, { RVFilePosition(), u"cannot write: "_s + mended->errorString() });
-    if (!editor->apply(myInputCopy.get(), mended.get()))
-        return fail(u"-"_s, { RVFilePosition(), editor->errorString() });
+    if (!mending->editor.apply(myInputCopy.get(), mended.get()))
+        return fail(u"-"_s, { RVFilePosition(), mending->editor.errorString() });
     myInputCopy = std::move(mended);
     myInputCopy->seek(0);
     for (QByteArray piece = myInputCopy->read(WRITE_SIZE); !piece.isEmpty(); piece = myInputCopy->read(WRITE_SIZE))
         myConsole->write(std::string_view(piece.constData(), std::size_t(piece.size())));
-    std::fflush(myConsole->output);
-    if (editor->count() > 0)
-        tellMended(u"-"_s, *editor, findings);
+    myConsole->flush();
+    if (mending->editor.count() > 0)
+        tellMended(u"-"_s, *mending);
     return true;
 }
 
@@ -141,20 +146,26 @@ bool FixRun::diffFile(const QString &fileName, bool *isChanged)
     if (!isInput(fileName) && isSpecial(fileName))
         return fail(fileName, { RVFilePosition(), u"this is no ordinary file"_s });
     const QString path = isInput(fileName) ? myInputCopy->fileName() : fileName;
-    RVFileEditor editor;
+    Mending mending;
     RVCatalogueReader reader(path);
-    qint64 findings = 0;
-    if (const std::optional<Problem> problem = collect(&reader, fileName, &editor, &findings))
+    if (const std::optional<Problem> problem = collect(&reader, fileName, &mending))
         return fail(fileName, *problem);
-    if (editor.count() == 0)
+    if (mending.editor.count() == 0)
         return true;
-    QFile from(path);
-    QTemporaryFile to;
-    if (!from.open(QIODevice::ReadOnly) || !to.open())
-        return fail(fileName, { RVFilePosition(), u"cannot write: "_s + to.errorString() });
-    if (!editor.apply(&from, &to))
-        return fail(fileName, { RVFilePosition(), editor.errorString() });
     *isChanged = true;
+    return writeDiff(fileName, path, &mending.editor);
+}
+
+bool FixRun::writeDiff(const QString &fileName, const QString &path, RVFileEditor *editor)
+{
+    QFile from(path);
+    if (!from.open(QIODevice::ReadOnly))
+        return fail(fileName, { RVFilePosition(), u"cannot open the file: "_s + from.errorString() });
+    QTemporaryFile to;
+    if (!to.open())
+        return fail(fileName, { RVFilePosition(), u"cannot write: "_s + to.errorString() });
+    if (!editor->apply(&from, &to))
+        return fail(fileName, { RVFilePosition(), editor->errorString() });
     if (myOptions.isQuiet)
         return true;
     const auto write = [this](QByteArrayView bytes) {
@@ -164,17 +175,16 @@ bool FixRun::diffFile(const QString &fileName, bool *isChanged)
     return error.isEmpty() || fail(fileName, { RVFilePosition(), error });
 }
 
-/// Adds the edits that mend the findings in a file. Returns the problem if the file cannot be read.
-std::optional<Problem> FixRun::collect(RVCatalogueReader *reader, const QString &fileName, RVFileEditor *editor,
-                                       qint64 *findings)
+/// Collects the edits that mend the findings in a file. Returns the problem if the file cannot be read.
+std::optional<Problem> FixRun::collect(RVCatalogueReader *reader, const QString &fileName, Mending *mending)
 {
     reader->setCheck(myConfigurations.check(fileName));
     myOptions.limitThreads(reader);
     const qint64 size = reader->size();
     const auto add = [&](const QList<RVCatalogueFinding> &found) {
-        *findings += found.size();
+        mending->findings += found.size();
         for (const RVCatalogueFinding &finding : found)
-            editor->add(finding.fix());
+            mending->editor.add(finding.fix());
         myProgressBar.show(fileName, reader->bytesRead(), size);
         return true;
     };
@@ -204,20 +214,20 @@ bool FixRun::copyInput()
 bool FixRun::fail(const QString &fileName, const Problem &problem)
 {
     myProgressBar.hide();
-    std::fflush(myConsole->output);
+    myConsole->flush();
     myConsole->report(fileName, { problem.position, u"error: "_s + problem.text });
     return false;
 }
 
-void FixRun::tellMended(const QString &fileName, const RVFileEditor &editor, qint64 findings)
+void FixRun::tellMended(const QString &fileName, const Mending &mending)
 {
     myProgressBar.hide();
     if (myOptions.isQuiet)
         return;
     QTextStream out(myConsole->messages);
-    out << "mended " << editor.count() << " of " << findings << (findings == 1 ? " finding" : " findings") << " in "
-        << fileName;
-    if (editor.leftOut() > 0)
-        out << "; run it again to mend " << editor.leftOut() << " more";
+    out << "mended " << mending.editor.count() << " of " << mending.findings
+        << (mending.findings == 1 ? " finding" : " findings") << " in " << fileName;
+    if (mending.editor.leftOut() > 0)
+        out << "; run it again to mend " << mending.editor.leftOut() << " more";
     out << '\n';
 }

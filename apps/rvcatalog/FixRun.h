@@ -38,16 +38,18 @@ private:
         void operator()(std::FILE *file) const { std::fclose(file); }
     };
 
+    struct Mending;
+
     bool mendFile(const QString &fileName);
     bool mendInput();
     bool readCopy();
-    bool writeMended(RVFileEditor *editor, qint64 findings);
+    bool writeMended(Mending *mending);
     bool diffFile(const QString &fileName, bool *isChanged);
-    std::optional<Problem> collect(RVCatalogueReader *reader, const QString &fileName, RVFileEditor *editor,
-                                   qint64 *findings);
+    bool writeDiff(const QString &fileName, const QString &path, RVFileEditor *editor);
+    std::optional<Problem> collect(RVCatalogueReader *reader, const QString &fileName, Mending *mending);
     bool copyInput();
     bool fail(const QString &fileName, const Problem &problem);
-    void tellMended(const QString &fileName, const RVFileEditor &editor, qint64 findings);
+    void tellMended(const QString &fileName, const Mending &mending);
 
     const CheckOptions &myOptions;
     const Configurations &myConfigurations;

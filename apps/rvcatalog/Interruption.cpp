@@ -7,15 +7,13 @@
 
 #include <atomic>
 #include <cerrno>
+#include <chrono>
 #include <csignal>
-#include <ctime>
 #include <iterator>
 
 namespace {
 
 constexpr int SIGNALS[] = { SIGINT, SIGTERM };
-constexpr std::size_t READ_END = 0;
-constexpr std::size_t WRITE_END = 1;
 /// The milliseconds in which a second signal counts as the same request. Programs that end a group of processes often
 /// send the signal to each of them, and to the group as well.
 constexpr qint64 ONE_REQUEST = 400;
@@ -27,17 +25,18 @@ struct State
     int users = 0;
     struct sigaction before[std::size(SIGNALS)] = {};
     std::atomic_int signal = 0;
-    std::atomic<qint64> signalTime = 0;
-    std::atomic_int pipe[2] = { -1, -1 };
+    std::atomic<qint64> signalTime {}; // set together with the signal
+    /// The ends of a pipe; -1 for none.
+    std::atomic_int readEnd = -1;
+    std::atomic_int writeEnd = -1;
 };
 State theState;
 
-/// The milliseconds of a monotonic clock.
+/// The milliseconds of a monotonic clock, which is read with clock_gettime(), as signal handlers may.
 qint64 now()
 {
-    timespec time = {};
-    ::clock_gettime(CLOCK_MONOTONIC, &time);
-    return qint64(time.tv_sec) * 1000 + time.tv_nsec / 1000000;
+    const auto time = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration_cast<std::chrono::milliseconds>(time).count();
 }
 
 void endAtOnce(int signal)
@@ -52,7 +51,8 @@ void remember(int signal)
     if (theState.signal == 0) {
         theState.signalTime = now();
         theState.signal = signal;
-        [[maybe_unused]] const auto written = ::write(theState.pipe[WRITE_END], "", 1);
+        const char wake {};
+        [[maybe_unused]] const auto written = ::write(theState.writeEnd, &wake, sizeof wake);
     } else if (now() - theState.signalTime >= ONE_REQUEST) {
         endAtOnce(signal);
     }
@@ -61,11 +61,11 @@ void remember(int signal)
 
 void openPipe()
 {
-    int ends[2] = { -1, -1 };
+    int ends[] = { -1, -1 };
     if (::pipe2(ends, O_CLOEXEC | O_NONBLOCK) != 0)
         return;
-    theState.pipe[READ_END] = ends[READ_END];
-    theState.pipe[WRITE_END] = ends[WRITE_END];
+    theState.readEnd = ends[0];
+    theState.writeEnd = ends[1];
 }
 
 void takeSignals()
@@ -86,8 +86,8 @@ void giveBack()
 {
     for (std::size_t i = 0; i < std::size(SIGNALS); ++i)
         ::sigaction(SIGNALS[i], &theState.before[i], nullptr);
-    for (std::atomic_int &end : theState.pipe)
-        ::close(end.exchange(-1));
+    ::close(theState.readEnd.exchange(-1));
+    ::close(theState.writeEnd.exchange(-1));
     theState.signal = 0;
 }
 
@@ -116,5 +116,5 @@ int Interruption::signal()
 
 int Interruption::descriptor()
 {
-    return theState.pipe[READ_END];
+    return theState.readEnd;
 }

@@ -35,7 +35,7 @@ void JsonWriter::value(QLatin1StringView text)
 
 void JsonWriter::value(const QString &text)
 {
-    QVarLengthArray<char, 512> utf8(myEncoder.requiredSpace(text.size()));
+    QVarLengthArray<char> utf8(myEncoder.requiredSpace(text.size()));
     const char *end = myEncoder.appendToBuffer(utf8.data(), text);
     myWriter.String(utf8.constData(), rapidjson::SizeType(end - utf8.constData()));
 }

@@ -112,6 +112,6 @@ int decodeCommand(const QStringList &arguments, const Console &console)
         console.write(decodingsJson(attribute, decodings));
     else
         writeDecodings(decodings, console);
-    std::fflush(console.output);
+    console.flush();
     return reportUnknown(attribute, decodings, console);
 }

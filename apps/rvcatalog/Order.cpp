@@ -115,9 +115,7 @@ QList<ProductOption> Order::options() const
 
 QStringList Order::chosenKeys() const
 {
-    QStringList result = chosen().keys();
-    result.sort();
-    return result;
+    return chosen().keys();
 }
 
 QMap<RVPriceClass, qint64> Order::priceClasses() const

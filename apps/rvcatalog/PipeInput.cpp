@@ -14,11 +14,9 @@ constexpr int FOREVER = -1;
 /// True if there is data to read, or if no more data will come.
 bool hasInput(int descriptor, int milliseconds)
 {
-    pollfd inputs[] = { { descriptor, POLLIN, 0 }, { Interruption::descriptor(), POLLIN, 0 } };
-    int ready = ::poll(inputs, std::size(inputs), milliseconds);
-    while (ready < 0 && errno == EINTR)
-        ready = ::poll(inputs, std::size(inputs), milliseconds);
-    return ready != 0;
+    pollfd inputs[] = { { descriptor, POLLIN, {} }, { Interruption::descriptor(), POLLIN, {} } };
+    // A signal that ends the waiting ends the reading as well.
+    return ::poll(inputs, std::size(inputs), milliseconds) != 0;
 }
 
 }
@@ -36,7 +34,7 @@ PipeInput::~PipeInput()
 
 bool PipeInput::atEnd() const
 {
-    return myIsAtEnd && bytesAvailable() == 0;
+    return myIsAtEnd;
 }
 
 bool PipeInput::waitForReadyRead(int milliseconds)

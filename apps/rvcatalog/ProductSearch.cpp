@@ -12,12 +12,11 @@ WantedType::WantedType(const RVProductType &type)
 
 bool WantedType::offer(const RVProductType &type)
 {
-    if (myIsFound)
-        return type == myType;
-    myIsFound = type == myType;
+    const bool isWanted = type == myType;
+    myIsFound = myIsFound || isWanted;
     if (!myIsFound)
         myNearest.offer(type.toString());
-    return myIsFound;
+    return isWanted;
 }
 
 QString WantedType::problem() const

@@ -12,8 +12,7 @@ constexpr qsizetype LONGEST_LINE = 1000000; // letters
 
 QStringDecoder decoderFor(const QByteArray &begin)
 {
-    const auto known = QStringConverter::encodingForData(begin, u'<');
-    if (known && *known != QStringConverter::Utf8)
+    if (const auto known = QStringConverter::encodingForData(begin, u'<'))
         return QStringDecoder(*known);
     static const QRegularExpression declaration(u"^<\\?xml\\s[^>]*\\bencoding\\s*=\\s*[\"']([^\"'>]+)"_s);
     const QRegularExpressionMatch match = declaration.match(QString::fromLatin1(begin));
@@ -54,33 +53,32 @@ bool SourceLines::begin()
 
 bool SourceLines::readLine()
 {
-    const qsizetype end = findEnd();
-    if (end < 0 || (end == myText.size() && end == myBegin))
+    const std::optional<qsizetype> length = findLength();
+    if (!length || myBegin == myText.size())
         return false;
-    myLine = myText.mid(myBegin, end - myBegin);
+    myLine = myText.mid(myBegin, *length);
+    const qsizetype end = myBegin + *length;
     const bool hasTwoLetters = QStringView(myText).sliced(end).startsWith("\r\n"_L1);
     myBegin = qMin(end + (hasTwoLetters ? 2 : 1), myText.size());
     ++myNumber;
     return true;
 }
 
-/// The end of the current line; negative if the line is too long.
-qsizetype SourceLines::findEnd()
+/// The length of the current line; nothing if the line is too long.
+std::optional<qsizetype> SourceLines::findLength()
 {
-    qsizetype end = myBegin;
+    qsizetype length = 0;
     while (true) {
-        while (end < myText.size() && myText[end] != u'\n' && myText[end] != u'\r')
-            ++end;
+        const QStringView text = QStringView(myText).sliced(myBegin);
+        while (length < text.size() && text[length] != u'\n' && text[length] != u'\r')
+            ++length;
         // A line feed that follows a carriage return belongs to it.
-        if (end + 1 < myText.size() || (end < myText.size() && myText[end] == u'\n'))
-            return end;
-        if (end - myBegin > LONGEST_LINE)
-            return -1;
-        end -= myBegin;
-        const bool isLonger = readPiece();
-        end += myBegin;
-        if (!isLonger)
-            return end;
+        if (length + 1 < text.size() || (length < text.size() && text[length] == u'\n'))
+            return length;
+        if (length > LONGEST_LINE)
+            return std::nullopt;
+        if (!readPiece())
+            return length;
     }
 }
 

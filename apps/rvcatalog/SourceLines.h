@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringDecoder>
 
+#include <optional>
+
 /// The lines of a text file, read again to show a place in it. Access in the order of the lines is fast.
 class SourceLines
 {
@@ -21,7 +23,7 @@ private:
     bool begin();
     bool readLine();
     bool readPiece();
-    qsizetype findEnd();
+    std::optional<qsizetype> findLength();
 
     QFile myFile;
     QStringDecoder myDecoder;

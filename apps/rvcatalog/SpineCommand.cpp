@@ -50,8 +50,8 @@ void writeCell(QTextStream &out, int width, const QString &text)
     out << ' ' << text.rightJustified(width - 1);
 }
 
-/// False if the output is gone, for example because the reader of a pipe has ended.
-bool writeSpineTable(const SpineTable &table, const Console &console)
+/// Stops where the output is gone, for example because the reader of a pipe has ended.
+void writeSpineTable(const SpineTable &table, const Console &console)
 {
     QTextStream out(console.output);
     out << "     PAGES   PACKAGES     BLOCKS  SPINE mm  FONT pt " << SpineFont::family() << '\n';
@@ -64,14 +64,11 @@ bool writeSpineTable(const SpineTable &table, const Console &console)
         writeCell(out, 9, QString::number(row.fontSize));
         out << '\n';
         if (out.status() != QTextStream::Ok)
-            return false;
+            return;
     }
-    out.flush();
-    return out.status() == QTextStream::Ok;
 }
 
-/// Writes the JSON; false if the output is gone.
-bool writeJson(const QString &catalogueName, const ProductValues &values, const SpineTable &table,
+void writeJson(const QString &catalogueName, const ProductValues &values, const SpineTable &table,
                const Console &console)
 {
     JsonWriter json;
@@ -93,7 +90,6 @@ bool writeJson(const QString &catalogueName, const ProductValues &values, const 
     writeText(json, values.type.toString());
     json.endObject();
     console.write(json.take() + '\n');
-    return std::fflush(console.output) == 0;
 }
 
 QString plotTitle(const ProductValues &values)
@@ -141,9 +137,11 @@ int writeSpine(const SpineRequest &request, const Console &console)
     const SpineTable table(values.spine, values.pageCounts);
     if (!request.plotName.isEmpty() && !writePlot(request.plotName, table, plotTitle(values), console))
         return EXIT_UNREADABLE;
-    const bool isWritten = request.format == "json"_L1 ? writeJson(catalogueName, values, table, console)
-                                                       : writeSpineTable(table, console);
-    return isWritten ? EXIT_FINE : EXIT_UNREADABLE;
+    if (request.format == "json"_L1)
+        writeJson(catalogueName, values, table, console);
+    else
+        writeSpineTable(table, console);
+    return EXIT_FINE;
 }
 
 }

@@ -79,7 +79,6 @@ int main(int argc, char *argv[])
     QLoggingCategory::defaultCategory()->setEnabled(QtWarningMsg, false);
     QGuiApplication application(argc, argv);
     QLoggingCategory::defaultCategory()->setEnabled(QtWarningMsg, true);
-    QGuiApplication::setApplicationName(u"rvcatalog"_s);
     QTranslator translator;
     loadTranslation(&translator, locale);
     QTranslator plotTranslator;

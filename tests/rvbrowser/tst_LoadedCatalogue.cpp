@@ -260,6 +260,7 @@ void tst_LoadedCatalogue::needsLittle()
     QCOMPARE(catalogue->size(), count);
     QSet<const QChar *> texts;
     qsizetype kept = catalogue->packedBytes();
+    QVERIFY(kept > 0);
     const auto add = [&](const QString &text) {
         if (texts.contains(text.constData()))
             return;

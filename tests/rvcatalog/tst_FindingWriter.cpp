@@ -54,7 +54,6 @@ public:
         const Console console { stdin, myFile.get(), stderr };
         const std::unique_ptr<FindingWriter> writer = FindingWriter::create(options, console);
         writer->begin();
-        writer->beginFile(fileName);
         for (const RVCatalogueFinding &each : findings) {
             summary.count(each);
             writer->finding(fileName, each);
