@@ -66,6 +66,7 @@ private Q_SLOTS:
     void ruleThatIsOff();
     void sameCatalogueTwice();
     void mergedFile();
+    void largestCount();
     void unreadableCatalogue();
     void broken_data();
     void broken();
@@ -385,6 +386,16 @@ void tst_Baseline::mergedFile()
     QCOMPARE(findings(run), 2);
 }
 
+void tst_Baseline::largestCount()
+{
+    write(u"b.json"_s, R"({"version":1,"findings":[{"file":"c.xml","rule":"x","text":"y","count":2147483647}]})");
+    const CommandRun run({ u"check"_s, u"--baseline"_s, u"b.json"_s, u"c.xml"_s });
+    QCOMPARE(run.messages,
+             u"rvcatalog: note: 2147483647 findings of the baseline b.json are mended; write it again\n"_s);
+    QCOMPARE(findings(run), 4);
+    QCOMPARE(run.exitCode, 1);
+}
+
 void tst_Baseline::unreadableCatalogue()
 {
     write(u"b.json"_s, "{}");
@@ -409,6 +420,8 @@ void tst_Baseline::broken_data()
     QTest::newRow("conflict of a merge") << QByteArray(
             "{\n  \"version\": 1,\n  \"findings\": [\n<<<<<<< HEAD\n  ]\n}\n")
                                          << u":4:1: error: this is no JSON: "_s;
+    QTest::newRow("fault within a line") << QByteArray("{\"version\": 1, \"findings\": [\n  <")
+                                         << u":2:3: error: this is no JSON: "_s;
     QTest::newRow("empty file") << QByteArray() << u":1:1: error: this is no JSON: "_s;
     QTest::newRow("list") << QByteArray("[]") << noBaseline;
     QTest::newRow("newer version") << QByteArray(R"({"version":2,"findings":[]})") << noBaseline;
@@ -427,6 +440,9 @@ void tst_Baseline::broken_data()
     QTest::newRow("count of 0") << QByteArray(
             R"({"version":1,"findings":[{"file":"c.xml","rule":"x","text":"y","count":0}]})")
                                 << u": error: finding 1 of the baseline has a \"count\" that is no number above 0\n"_s;
+    QTest::newRow("count that is too large")
+            << QByteArray(R"({"version":1,"findings":[{"file":"c.xml","rule":"x","text":"y","count":2147483648}]})")
+            << u": error: finding 1 of the baseline has a \"count\" that is no number above 0\n"_s;
 }
 
 void tst_Baseline::broken()
@@ -460,6 +476,7 @@ void tst_Baseline::notReplaceable_data()
     QTest::newRow("catalogue") << QByteArray("<p/>") << false;
     QTest::newRow("catalogue with a byte order mark") << QByteArray("\xef\xbb\xbf<p/>") << false;
     QTest::newRow("catalogue with a blank in front") << QByteArray("\n <p/>") << false;
+    QTest::newRow("baseline with a blank in front") << QByteArray("\n {}") << true;
     QTest::newRow("other text") << QByteArray("findings:") << false;
     QTest::newRow("empty file") << QByteArray() << true;
     QTest::newRow("conflict of a merge") << QByteArray("{\n<<<<<<< HEAD\n") << true;

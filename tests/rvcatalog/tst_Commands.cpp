@@ -1,3 +1,4 @@
+#include "BrokenCatalogue.h"
 #include "CommandRun.h"
 #include "WrittenFile.h"
 
@@ -6,6 +7,8 @@
 #include <QJsonDocument>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -23,6 +26,32 @@ const char CATALOGUE[] = "<products>\n"
                          "</product>\n"
                          "<product type='VIR1' article_id='2' pages='13'/>\n"
                          "</products>\n";
+
+/// A catalogue whose products need more than one batch, so that several threads write.
+QByteArray manyProducts(int count)
+{
+    QByteArray file = "<p>";
+    for (int i = 0; i < count; ++i)
+        file += "<product type='T" + QByteArray::number(i) + "' pages='26' cover_type='hard'/>";
+    return file + "</p>";
+}
+
+/// Output and messages of a command as they stand in one file, which they share as those of a process may.
+QByteArray inOneFile(const QStringList &arguments, const QByteArray &input)
+{
+    using File = std::unique_ptr<std::FILE, int (*)(std::FILE *)>;
+    const File in(std::tmpfile(), &std::fclose);
+    const File out(std::tmpfile(), &std::fclose);
+    const File messages(::fdopen(::dup(::fileno(out.get())), "w"), &std::fclose);
+    std::fwrite(input.constData(), 1, std::size_t(input.size()), in.get());
+    std::rewind(in.get());
+    runCommand(arguments, { in.get(), out.get(), messages.get() });
+    std::fflush(messages.get());
+    std::rewind(out.get());
+    QByteArray result(10000, '\0');
+    result.resize(qsizetype(std::fread(result.data(), 1, std::size_t(result.size()), out.get())));
+    return result;
+}
 
 /// A product with this number of page counts.
 QByteArray withCounts(int count)
@@ -52,6 +81,10 @@ private Q_SLOTS:
     void hundredThousandCounts();
     void oneCountTooMany();
     void jsonOfManyProducts();
+    void jsonOfTheLastProduct();
+    void severalTexts();
+    void outputInFrontOfMessages_data();
+    void outputInFrontOfMessages();
 
 private:
     void write(const QString &name, const QByteArray &content);
@@ -216,14 +249,10 @@ void tst_Commands::oneCountTooMany()
     QVERIFY(!QFile::exists(u"x.svg"_s));
 }
 
-// The products need more than one batch, so that several threads write.
 void tst_Commands::jsonOfManyProducts()
 {
     constexpr int count = 20000;
-    QByteArray file = "<p>";
-    for (int i = 0; i < count; ++i)
-        file += "<product type='T" + QByteArray::number(i) + "' pages='26' cover_type='hard'/>";
-    const CommandRun result = run({ u"show"_s, u"--json"_s, u"-"_s }, file + "</p>");
+    const CommandRun result = run({ u"show"_s, u"--json"_s, u"-"_s }, manyProducts(count));
     QCOMPARE(result.messages, QString());
     QCOMPARE(result.exitCode, 0);
     QJsonParseError error;
@@ -232,6 +261,49 @@ void tst_Commands::jsonOfManyProducts()
     QCOMPARE(products.size(), count);
     for (int i = 0; i < count; ++i)
         QCOMPARE(products.at(i)["type"_L1].toString(), u"T%1"_s.arg(i));
+}
+
+// The first batches have no shown product.
+void tst_Commands::jsonOfTheLastProduct()
+{
+    const CommandRun result = run({ u"show"_s, u"--json"_s, u"--where"_s, u"type=T19999"_s, u"-"_s },
+                                  manyProducts(20000));
+    QJsonParseError error;
+    const QJsonArray products = QJsonDocument::fromJson(result.output.toUtf8(), &error).array();
+    QCOMPARE(error.errorString(), u"no error occurred"_s);
+    QCOMPARE(products.size(), 1);
+    QCOMPARE(products.at(0)["type"_L1].toString(), u"T19999"_s);
+}
+
+void tst_Commands::severalTexts()
+{
+    const CommandRun result = run({ u"decode"_s, u"page_alignment"_s, u"-"_s }, "left\nleft\n");
+    QVERIFY2(result.output.startsWith("Value "_L1), qPrintable(result.output));
+    QCOMPARE(result.output.count("\n\nValue "_L1), 1);
+    QCOMPARE(result.exitCode, 0);
+}
+
+void tst_Commands::outputInFrontOfMessages_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("begin");
+
+    const auto newRow = [](const char *name, const QStringList &arguments, const QByteArray &begin) {
+        QTest::newRow(name) << arguments << begin;
+    };
+    newRow("mended catalogue", { u"check"_s, u"--fix"_s, u"-"_s }, MENDED_CATALOGUE);
+    newRow("products", { u"show"_s, u"--json"_s, u"c.xml"_s, u"--where"_s, u"pages>1000"_s }, "[\n]\n");
+    newRow("keywords", { u"decode"_s, u"--json"_s, u"page_alignment"_s, u"above"_s }, "[\n{");
+    newRow("findings", { u"check"_s, u"--format=json"_s, u"no.xml"_s }, "{\"findings\":[");
+}
+
+void tst_Commands::outputInFrontOfMessages()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QByteArray, begin);
+    const QByteArray file = inOneFile(arguments, BROKEN_CATALOGUE);
+    QVERIFY2(file.startsWith(begin), file.constData());
+    QVERIFY2(file.size() > begin.size(), file.constData());
 }
 
 QTEST_MAIN(tst_Commands)

@@ -65,6 +65,9 @@ void tst_Completion::candidates_data()
     QTest::newRow("rule") << u"check --disable barcode-o"_s
                           << QStringList { u"barcode-outside-page"_s, u"barcode-overlap"_s,
                                            u"barcode-off-usual-page"_s };
+    QTest::newRow("rule to be explained")
+            << u"explain barcode-o"_s
+            << QStringList { u"barcode-outside-page"_s, u"barcode-overlap"_s, u"barcode-off-usual-page"_s };
     QTest::newRow("attribute") << u"keywords page_b"_s << QStringList { u"page_binding"_s };
     QTest::newRow("no second attribute") << u"keywords page_binding page_b"_s << QStringList();
     QTest::newRow("keyword") << u"decode page_binding lay"_s << QStringList { u"layflat"_s };
@@ -79,6 +82,8 @@ void tst_Completion::candidates_data()
     QTest::newRow("condition") << u"show c.xml --where max"_s << QStringList { u"max_pages="_s };
     QTest::newRow("keyword of a condition")
             << u"show --where page_binding=l"_s << QStringList { u"page_binding=layflat"_s };
+    QTest::newRow("keyword in a list of a condition")
+            << u"show --where page_binding=glue,LAY"_s << QStringList { u"page_binding=glue,layflat"_s };
     QTest::newRow("keyword behind !=") << u"show --where page_binding!=gl"_s << QStringList { u"page_binding!=glue"_s };
     QTest::newRow("condition in one word")
             << u"show --where=page_binding=gl"_s << QStringList { u"--where=page_binding=glue"_s };

@@ -1,3 +1,4 @@
+#include "MessageLog.h"
 #include "WrittenFile.h"
 
 #include <SourceLines.h>
@@ -128,7 +129,9 @@ void tst_SourceLines::noFile()
 {
     QFETCH(QString, name);
     ::mkfifo(myFolder.filePath(u"pipe"_s).toUtf8().constData(), 0600);
+    const MessageLog log;
     QVERIFY(SourceLines(name).line(1).isNull());
+    QCOMPARE(log.lines(), QStringList());
 }
 
 QTEST_GUILESS_MAIN(tst_SourceLines)

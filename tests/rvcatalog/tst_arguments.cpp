@@ -65,6 +65,9 @@ void tst_arguments::messages_data()
     QTest::newRow("misspelt option of the program")
             << QStringList { u"--hlep"_s }
             << u"rvcatalog: there is no option \"--hlep\" in front of a command; did you mean \"--help\"?"_s;
+    QTest::newRow("misspelt option with one dash")
+            << QStringList { u"-hep"_s }
+            << u"rvcatalog: there is no option \"-hep\" in front of a command; did you mean \"--help\"?"_s;
     QTest::newRow("option in front of the command")
             << QStringList { u"--json"_s, u"show"_s, u"c.xml"_s }
             << u"rvcatalog: there is no option \"--json\" in front of a command"_s;
@@ -96,6 +99,8 @@ void tst_arguments::messages_data()
                                          << u"rvcatalog: argument 2 is empty"_s;
     QTest::newRow("no files for diff") << QStringList { u"diff"_s, QString(), QString() }
                                        << u"rvcatalog: argument 1 is empty"_s;
+    QTest::newRow("two types for spine") << QStringList { u"spine"_s, u"c.xml"_s, u"DUN9"_s, u"DUN9"_s }
+                                         << u"rvcatalog: expected 2 arguments, got 3"_s;
     QTest::newRow("diff of nothing") << QStringList { u"diff"_s } << u"rvcatalog: expected 2 arguments, got 0"_s;
     QTest::newRow("diff of three") << QStringList { u"diff"_s, u"c.xml"_s, u"c.xml"_s, u"c.xml"_s }
                                    << u"rvcatalog: expected 2 arguments, got 3"_s;
@@ -158,7 +163,9 @@ void tst_arguments::helpOfACommand()
     QCOMPARE(help.output, run({ u"spine"_s, u"--help"_s }).output);
     QVERIFY2(help.output.startsWith("Usage: rvcatalog spine "_L1), qPrintable(help.output));
     QCOMPARE(help.exitCode, 0);
-    QCOMPARE(run({ u"help"_s }).output, run({ u"--help"_s }).output);
+    const QString usage = run({ u"help"_s }).output;
+    QCOMPARE(usage, run({ u"--help"_s }).output);
+    QVERIFY2(usage.contains("\n  keywords  list the keywords of the attributes\n"_L1), qPrintable(usage));
 }
 
 void tst_arguments::helpOnAFullDisk()

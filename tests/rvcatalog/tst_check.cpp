@@ -63,6 +63,7 @@ private Q_SLOTS:
     void wrongUsage();
     void noProgressInAFile();
     void progressOnATerminal();
+    void progressAndFindings();
     void memory();
 
 private:
@@ -330,6 +331,7 @@ void tst_check::maxFindings_data()
     QTest::newRow("fewer") << u"1"_s << 2 << u", 2 of them not shown\n"_s;
     QTest::newRow("as many as there are") << u"3"_s << 4 << u" 1 note\n"_s;
     QTest::newRow("more") << u"4"_s << 4 << u" 1 note\n"_s;
+    QTest::newRow("as many as a number can tell") << u"9223372036854775807"_s << 4 << u" 1 note\n"_s;
 }
 
 void tst_check::maxFindings()
@@ -462,14 +464,21 @@ void tst_check::wrongUsage()
 
 namespace {
 
+/// A thousand products without findings.
+void writeProducts(QProcess *process, int thousand)
+{
+    for (int j = 1; j <= 1000; ++j) {
+        const QByteArray number = QByteArray::number(thousand * 1000 + j);
+        process->write("<product type='T" + number + "' article_id='" + number + "'/>\n");
+    }
+}
+
 /// The number of products for which the check of a slow input takes longer than a second.
 void writeSlowly(QProcess *process)
 {
     process->write("<p>");
     for (int i = 1; i <= 30; ++i) {
-        for (int j = 1; j <= 1000; ++j)
-            process->write("<product type='T" + QByteArray::number(i * 1000 + j) + "' article_id='"
-                           + QByteArray::number(i * 1000 + j) + "'/>\n");
+        writeProducts(process, i);
         QTest::qWait(60);
     }
     process->write("</p>");
@@ -501,6 +510,31 @@ void tst_check::progressOnATerminal()
     QTRY_VERIFY(terminal.shown().endsWith("-\r\033[K"));
     const QByteArray shown = terminal.shown();
     QVERIFY2(shown.startsWith("\r\033[K0 MB -"), shown.constData());
+}
+
+// A finding and an error take the place of the progress.
+void tst_check::progressAndFindings()
+{
+    Terminal terminal;
+    QVERIFY(terminal.descriptor() >= 0);
+    QProcess process;
+    process.setProcessEnvironment(environmentWith({ u"TERM=dumb"_s }));
+    process.setChildProcessModifier([&terminal] {
+        ::dup2(terminal.descriptor(), STDOUT_FILENO);
+        ::dup2(terminal.descriptor(), STDERR_FILENO);
+    });
+    process.start(QStringLiteral(RVCATALOG), { u"check"_s, u"-"_s });
+    process.write("<p>");
+    for (int i = 1; terminal.shown().isEmpty() && i <= 1000; ++i) {
+        writeProducts(&process, i);
+        QTest::qWait(60);
+    }
+    process.write("<product type='X' article_id='x'/>\n");
+    process.closeWriteChannel();
+    QVERIFY(process.waitForFinished(60000));
+    QTRY_VERIFY(terminal.shown().endsWith("1 error, 0 warnings, 0 notes, 1 unreadable file\r\n"));
+    const QByteArray shown = terminal.shown();
+    QVERIFY2(shown.count("\r\033[K-:") == 2, shown.constData());
 }
 
 // A document of these products takes over a gigabyte.

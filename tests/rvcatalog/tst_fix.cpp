@@ -42,6 +42,9 @@ const char DIFF[] = "--- a.xml\n"
                     " <product type='B' article_id='x'/>\n"
                     " </products>\n";
 
+/// A catalogue with one finding, which can be mended.
+const char ONE_FINDING[] = "<p><product type='A' article_id='1' page_binding='spiral' cover_type='hard'/></p>";
+
 const char NOT_WELL_FORMED[] = "<products><product type='A' article_id='1' page_binding='glued'/>";
 
 /// The finding that cannot be mended.
@@ -136,11 +139,13 @@ private Q_SLOTS:
     void mends();
     void nothingLeft();
     void nothingToMend();
+    void findingOfTheFile();
     void severalFiles();
     void disabledRule();
     void otherFormats();
     void inputToOutput();
     void inputWithNothingToMend();
+    void inputWithOneFinding();
     void inputTwice();
     void unreadableInput();
     void unreadable_data();
@@ -150,6 +155,7 @@ private Q_SLOTS:
     void symbolicLink();
     void fullOutput();
     void fullDisk();
+    void fullDiskOfInput();
     void killedWhileWriting();
     void writeProtectedFile();
     void writeProtectedFolder();
@@ -197,8 +203,7 @@ void tst_fix::mends()
 
 void tst_fix::nothingLeft()
 {
-    QVERIFY(myFolder->write(u"a.xml"_s,
-                            "<p><product type='A' article_id='1' page_binding='spiral' cover_type='hard'/></p>"));
+    QVERIFY(myFolder->write(u"a.xml"_s, ONE_FINDING));
     const ProgramRun run = myFolder->check({ u"--fix"_s, u"a.xml"_s });
     QCOMPARE(run.messages, u"mended 1 of 1 finding in a.xml\n"_s);
     QCOMPARE(run.bytes, QByteArray("1 product in 1 file: 0 errors, 0 warnings, 0 notes\n"));
@@ -215,6 +220,16 @@ void tst_fix::nothingToMend()
     QCOMPARE(run.messages, QString());
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(QFileInfo(before.filePath()).metadataChangeTime(), changed);
+}
+
+// A comment that silences nothing in a group is no finding of a product.
+void tst_fix::findingOfTheFile()
+{
+    const QByteArray group = "<p>\n<!-- rvcatalog: ignore type-duplicate -->\n<g>";
+    QVERIFY(myFolder->write(u"a.xml"_s, QByteArray(ONE_FINDING).replace("<p>", group).replace("</p>", "</g>\n</p>")));
+    const ProgramRun run = myFolder->check({ u"--fix"_s, u"a.xml"_s });
+    QCOMPARE(run.messages, u"mended 1 of 2 findings in a.xml\n"_s);
+    QVERIFY2(run.output.endsWith("\n1 product in 1 file: 0 errors, 1 warning, 0 notes\n"_L1), run.bytes);
 }
 
 void tst_fix::severalFiles()
@@ -268,6 +283,14 @@ void tst_fix::inputWithNothingToMend()
     const ProgramRun run = myFolder->check({ u"--fix"_s, u"-"_s }, CLEAN_CATALOGUE);
     QCOMPARE(run.bytes, QByteArray(CLEAN_CATALOGUE));
     QCOMPARE(run.messages, u"2 products in 1 file: 0 errors, 0 warnings, 0 notes\n"_s);
+    QCOMPARE(run.exitCode, 0);
+}
+
+void tst_fix::inputWithOneFinding()
+{
+    const ProgramRun run = myFolder->check({ u"--fix"_s, u"-"_s }, ONE_FINDING);
+    QCOMPARE(run.bytes, QByteArray(ONE_FINDING).replace("'hard'", "'hardcover'"));
+    QCOMPARE(run.messages, u"mended 1 of 1 finding in -\n1 product in 1 file: 0 errors, 0 warnings, 0 notes\n"_s);
     QCOMPARE(run.exitCode, 0);
 }
 
@@ -376,6 +399,22 @@ void tst_fix::fullDisk()
     QCOMPARE(run.exitCode, 2);
     QCOMPARE(myFolder->read(u"a.xml"_s), large);
     QCOMPARE(names(), QStringList { u"a.xml"_s });
+}
+
+// The copy of the input fits, but the mended one is larger.
+void tst_fix::fullDiskOfInput()
+{
+    QByteArray input = QByteArray(ONE_FINDING).replace("<p>", "<p><!---->");
+    input.insert(input.indexOf("-->"), QByteArray(4096 - input.size(), 'x'));
+    const ProgramRun run = myFolder->check({ u"--fix"_s, u"-"_s }, input, [] {
+        limitFiles();
+        std::signal(SIGXFSZ, SIG_IGN);
+    });
+    QCOMPARE(run.bytes, QByteArray());
+    QVERIFY2(run.messages.startsWith("-:1:1: error: cannot write: "_L1), qPrintable(run.messages));
+    QVERIFY2(run.messages.endsWith("\n1 product in 1 file: 0 errors, 0 warnings, 1 note\n"_L1),
+             qPrintable(run.messages));
+    QCOMPARE(run.exitCode, 2);
 }
 
 void tst_fix::killedWhileWriting()

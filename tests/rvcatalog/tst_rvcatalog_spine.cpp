@@ -41,6 +41,7 @@ private Q_SLOTS:
     void initTestCase();
     void table();
     void oneCount();
+    void typeTwice();
     void sample();
     void problems_data();
     void problems();
@@ -60,6 +61,8 @@ private:
     void write(const QString &name, const QByteArray &content);
     /// Runs "rvcatalog spine" to its end in the folder of the catalogue. A variable is as "LANG=C".
     void run(const QStringList &arguments, const QStringList &variables = { u"LC_ALL=C"_s });
+    /// The same with another command.
+    void runCommand(const QStringList &arguments, const QStringList &variables);
     /// The texts of a plot.
     QStringList textsOf(const QString &fileName) const;
 
@@ -74,8 +77,13 @@ void tst_rvcatalog_spine::write(const QString &name, const QByteArray &content)
 
 void tst_rvcatalog_spine::run(const QStringList &arguments, const QStringList &variables)
 {
+    runCommand(QStringList { u"spine"_s } + arguments, variables);
+}
+
+void tst_rvcatalog_spine::runCommand(const QStringList &arguments, const QStringList &variables)
+{
     const QStringList language { u"LC_ALL="_s, u"LC_MESSAGES="_s, u"LANG="_s };
-    myRun = runProgram(myFolder.path(), QStringLiteral(RVCATALOG), QStringList { u"spine"_s } + arguments, QByteArray(),
+    myRun = runProgram(myFolder.path(), QStringLiteral(RVCATALOG), arguments, QByteArray(),
                        environmentWith(language + variables));
     QVERIFY(myRun.exitCode >= 0);
 }
@@ -94,8 +102,10 @@ void tst_rvcatalog_spine::table()
     QCOMPARE(myRun.messages, QString());
     QCOMPARE(myRun.exitCode, 0);
     QStringList lines = myRun.output.split(u'\n');
-    QCOMPARE(lines.takeFirst(), u"     PAGES   PACKAGES     BLOCKS  SPINE mm  FONT pt DejaVu Sans"_s);
+    const QString heading = u"     PAGES   PACKAGES     BLOCKS  SPINE mm  FONT pt DejaVu Sans"_s;
+    QCOMPARE(lines.takeFirst(), heading);
     QCOMPARE(lines.takeLast(), QString());
+    QCOMPARE(lines.constFirst().size(), heading.indexOf(" DejaVu"_L1));
     QStringList rows;
     for (const QString &line : lines)
         rows += line.simplified();
@@ -112,6 +122,18 @@ void tst_rvcatalog_spine::oneCount()
     QVERIFY2(myRun.output.contains("        30          0          0      4.00"_L1), qPrintable(myRun.output));
     run({ u"c.xml"_s, u"NOTHING"_s });
     QVERIFY2(myRun.output.contains("         0          0          0      9.00"_L1), qPrintable(myRun.output));
+}
+
+// The application finds only the first of two products of the same type.
+void tst_rvcatalog_spine::typeTwice()
+{
+    write(u"twice.xml"_s,
+          "<p><product type='A' pages='1'><composition><spine base_width='5'/></composition></product>\n"
+          "<product type='A' pages='1'><composition><spine base_width='9'/></composition></product></p>");
+    run({ u"twice.xml"_s, u"A"_s });
+    QCOMPARE(myRun.exitCode, 0);
+    QCOMPARE(myRun.output.count(u'\n'), 2);
+    QVERIFY2(myRun.output.contains("         1          0          0      5.00"_L1), qPrintable(myRun.output));
 }
 
 void tst_rvcatalog_spine::sample()
@@ -266,13 +288,18 @@ QStringList tst_rvcatalog_spine::textsOf(const QString &fileName) const
 void tst_rvcatalog_spine::missingFont()
 {
     write(u"fonts.conf"_s, "<?xml version='1.0'?><fontconfig><dir>/nowhere</dir></fontconfig>");
-    run({ u"c.xml"_s, u"ONE"_s }, { u"LC_ALL=C"_s, u"FONTCONFIG_FILE="_s + myFolder.filePath(u"fonts.conf"_s) });
+    const QStringList variables { u"LC_ALL=C"_s, u"FONTCONFIG_FILE="_s + myFolder.filePath(u"fonts.conf"_s) };
+    run({ u"c.xml"_s, u"ONE"_s }, variables);
     QCOMPARE(myRun.exitCode, 0);
     QCOMPARE(myRun.output.count(u'\n'), 2);
     QVERIFY2(!myRun.output.contains("DejaVu Sans"_L1), qPrintable(myRun.output));
     QVERIFY2(myRun.messages.contains("rvcatalog: the font DejaVu Sans is missing, so font sizes are those of "_L1),
              qPrintable(myRun.messages));
     QVERIFY2(myRun.messages.endsWith("install fonts-dejavu-core\n"_L1), qPrintable(myRun.messages));
+    const QString messages = myRun.messages;
+    runCommand({ u"show"_s, u"c.xml"_s, u"ONE"_s }, variables);
+    QCOMPARE(myRun.messages, messages);
+    QCOMPARE(myRun.exitCode, 0);
 }
 
 void tst_rvcatalog_spine::pdf()

@@ -51,7 +51,11 @@ private Q_SLOTS:
     void initTestCase();
     void everything();
     void longSheets();
+    void spineOfASheet();
+    void twoPageCounts();
     void longName();
+    void nameAtTheEndOfTheLine_data();
+    void nameAtTheEndOfTheLine();
     void longOptionName();
     void fitsTheTerminal_data();
     void fitsTheTerminal();
@@ -132,6 +136,21 @@ void tst_show::longSheets()
     QCOMPARE(shown.exitCode, 0);
 }
 
+void tst_show::spineOfASheet()
+{
+    const CommandRun shown = run({ u"show"_s, u"--long"_s, u"-"_s },
+                                 "<p><product type='A' pages='30'><composition units='mm'><spine base_width='4'/>"
+                                 "</composition></product></p>");
+    QVERIFY2(shown.output.contains("\n  Spine           4.0 mm, font "_L1), qPrintable(shown.output));
+}
+
+void tst_show::twoPageCounts()
+{
+    const CommandRun shown = run({ u"show"_s, u"-"_s },
+                                 "<p><product type='A' pages='26' max_pages='30' page_step='4'/></p>");
+    QVERIFY2(shown.output.contains("\nA        26-30 by 4       2 "_L1), qPrintable(shown.output));
+}
+
 void tst_show::longName()
 {
     const CommandRun shown = run(
@@ -141,6 +160,26 @@ void tst_show::longName()
             shown.output.endsWith(
                     "\nA        1                1      -           -\n         A photo book whose name has no room beside the numbers\n"_L1),
             qPrintable(shown.output));
+}
+
+void tst_show::nameAtTheEndOfTheLine_data()
+{
+    QTest::addColumn<int>("letters");
+    QTest::addColumn<QString>("between");
+
+    QTest::newRow("as long as the room") << 27 << u"       "_s;
+    QTest::newRow("a letter longer") << 28 << u"\n         "_s;
+}
+
+void tst_show::nameAtTheEndOfTheLine()
+{
+    QFETCH(int, letters);
+    QFETCH(QString, between);
+    const QString name(letters, u'x');
+    const CommandRun shown = run({ u"show"_s, u"-"_s },
+                                 "<p><product type='A' pages='1' name='" + name.toUtf8() + "'/></p>");
+    QCOMPARE(shown.output.section(u'\n', 2),
+             "A        1                1      -           -"_L1 + between + name + u'\n');
 }
 
 void tst_show::longOptionName()

@@ -25,10 +25,11 @@ private Q_SLOTS:
     void initTestCase();
     void interrupted_data();
     void interrupted();
+    void tableThatIsEnded();
     void notInterrupted();
 
 private:
-    void start(QProcess *process) const;
+    void start(QProcess *process, const QStringList &options = { u"--json"_s }) const;
 
     QTemporaryDir myFolder;
 };
@@ -43,10 +44,10 @@ void tst_show_ends::initTestCase()
     file.write("</p>");
 }
 
-void tst_show_ends::start(QProcess *process) const
+void tst_show_ends::start(QProcess *process, const QStringList &options) const
 {
     process->setWorkingDirectory(myFolder.path());
-    process->start(QStringLiteral(RVCATALOG), { u"show"_s, u"--json"_s, u"large.xml"_s });
+    process->start(QStringLiteral(RVCATALOG), QStringList { u"show"_s, u"large.xml"_s } + options);
 }
 
 void tst_show_ends::interrupted_data()
@@ -72,6 +73,18 @@ void tst_show_ends::interrupted()
     const QJsonDocument document = QJsonDocument::fromJson(process.readAllStandardOutput());
     QVERIFY(document.isArray());
     QVERIFY(document.array().size() < PRODUCTS);
+}
+
+// A table needs no end, so a signal ends the program at once.
+void tst_show_ends::tableThatIsEnded()
+{
+    QProcess process;
+    start(&process, {});
+    QVERIFY(process.waitForReadyRead(20000));
+    ::kill(pid_t(process.processId()), SIGTERM);
+    QVERIFY(process.waitForFinished(60000));
+    QCOMPARE(process.exitStatus(), QProcess::CrashExit);
+    QCOMPARE(process.exitCode(), SIGTERM);
 }
 
 void tst_show_ends::notInterrupted()
