@@ -10,6 +10,9 @@
 #include <QLoggingCategory>
 #include <QTextStream>
 
+#include <algorithm>
+#include <iterator>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -19,8 +22,8 @@ constexpr int EXIT_USAGE = 2;
 QStringList arguments(int argc, char *argv[])
 {
     QStringList result;
-    for (int i = 0; i < argc; ++i)
-        result += QString::fromLocal8Bit(argv[i]);
+    std::transform(argv, argv + argc, std::back_inserter(result),
+                   [](const char *argument) { return QString::fromLocal8Bit(argument); });
     return result;
 }
 

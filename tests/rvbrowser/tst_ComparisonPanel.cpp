@@ -86,6 +86,7 @@ private Q_SLOTS:
     void closes();
     void closesWhileComparing();
     void dockStaysHidden();
+    void dockComesToTheFront();
     void dockIsHighEnough();
     void narrowWindow();
     void looksLikeAList();
@@ -564,6 +565,17 @@ void tst_ComparisonPanel::dockStaysHidden()
     QVERIFY(!myWindow->comparison()->dock()->isVisible());
     QTest::keyClick(myWindow.get(), Qt::Key_F6);
     QVERIFY(find<QLabel>(u"comparisonMessage"_s)->isVisible());
+}
+
+// The findings may be in front of the changes.
+void tst_ComparisonPanel::dockComesToTheFront()
+{
+    open(NEW_CATALOGUE);
+    compareWith(OLD_CATALOGUE);
+    find<QDockWidget>(u"findingsDock"_s)->raise();
+    QTRY_VERIFY(changes()->visibleRegion().isEmpty());
+    compareWith(OLD_CATALOGUE);
+    QTRY_VERIFY(!changes()->visibleRegion().isEmpty());
 }
 
 // Also where the catalogue has no findings, whose dock needs but one line, and is compared as soon as it is open.

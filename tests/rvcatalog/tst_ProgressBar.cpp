@@ -17,7 +17,7 @@ private Q_SLOTS:
     void bar();
 };
 
-// The text behind the bar shows that nothing else was written before.
+// A bar is shown from the second second on, so that of early.xml is there only if the machine is very busy.
 void tst_ProgressBar::bar()
 {
     Terminal terminal;
@@ -28,11 +28,11 @@ void tst_ProgressBar::bar()
     sinceStart.start();
     ProgressBar bar(file.get());
     bar.show(u"early.xml"_s, 50, 200);
-    if (sinceStart.elapsed() >= 1000)
-        QSKIP("the machine is so busy that the bar is shown at once");
+    const QByteArray quarter = "\r\033[K[" + QByteArray(7, '#') + QByteArray(23, '.') + "] 25 % ";
+    QByteArray shown = sinceStart.elapsed() < 1000 ? QByteArray() : quarter + "early.xml";
     QTest::qSleep(1100);
     bar.show(u"a.xml"_s, 50, 200);
-    QByteArray shown = "\r\033[K[" + QByteArray(7, '#') + QByteArray(23, '.') + "] 25 % a.xml";
+    shown += quarter + "a.xml";
     QTRY_COMPARE(terminal.shown(), shown);
     QTest::qSleep(150);
     bar.show(u"a.xml"_s, 300, 200); // the file has grown

@@ -156,6 +156,8 @@ private Q_SLOTS:
     void fullOutput();
     void fullDisk();
     void fullDiskOfInput();
+    void noTemporaryFile_data();
+    void noTemporaryFile();
     void killedWhileWriting();
     void writeProtectedFile();
     void writeProtectedFolder();
@@ -414,6 +416,29 @@ void tst_fix::fullDiskOfInput()
     QVERIFY2(run.messages.startsWith("-:1:1: error: cannot write: "_L1), qPrintable(run.messages));
     QVERIFY2(run.messages.endsWith("\n1 product in 1 file: 0 errors, 0 warnings, 1 note\n"_L1),
              qPrintable(run.messages));
+    QCOMPARE(run.exitCode, 2);
+}
+
+void tst_fix::noTemporaryFile_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::addColumn<QString>("fileName");
+
+    QTest::newRow("input to mend") << u"--fix"_s << u"-"_s;
+    QTest::newRow("input to compare") << u"--diff"_s << u"-"_s;
+    QTest::newRow("file to compare") << u"--diff"_s << u"a.xml"_s;
+}
+
+// Nobody can make a file in /proc.
+void tst_fix::noTemporaryFile()
+{
+    QFETCH(QString, option);
+    QFETCH(QString, fileName);
+    QVERIFY(myFolder->write(u"a.xml"_s, ONE_FINDING));
+    const ProgramRun run = runProgram(myFolder->path(), QStringLiteral(RVCATALOG), { u"check"_s, option, fileName },
+                                      ONE_FINDING, environmentWith({ u"TMPDIR=/proc"_s }));
+    QVERIFY2(run.messages.contains(fileName + ":1:1: error: cannot write: "_L1), qPrintable(run.messages));
+    QVERIFY(!run.bytes.contains("'hardcover'"));
     QCOMPARE(run.exitCode, 2);
 }
 
