@@ -44,6 +44,7 @@ private Q_SLOTS:
     void mendsTheFirstFile();
     void cancels();
     void opensAnotherWhileLoading();
+    void changesWhileOpenedAgain();
     void changesWhileLoadingAnother();
     void changesWhileLoadingABrokenOne();
     void endsWhileLoading();
@@ -266,6 +267,21 @@ void tst_CatalogueSession::opensAnotherWhileLoading()
     QVERIFY(!myEnded->wait(200));
     QCOMPARE(myEnded->size(), 1);
     QCOMPARE(mySession->catalogue()->size(), 3);
+}
+
+// The changes since opening are those since the last time.
+void tst_CatalogueSession::changesWhileOpenedAgain()
+{
+    QVERIFY(load(manyProducts(3)));
+    const std::shared_ptr<const FileCopy> first = mySession->original();
+    mySession->open(path(u"c.xml"_s));
+    mySession->reload();
+    QVERIFY(myChanged->wait(TIMEOUT));
+    QVERIFY(mySession->original() != first);
+    const std::shared_ptr<const FileCopy> second = mySession->original();
+    mySession->reload();
+    QVERIFY(myChanged->wait(TIMEOUT));
+    QCOMPARE(mySession->original(), second);
 }
 
 // The file that is being opened goes on; the change is not forgotten when nothing comes of it.

@@ -22,7 +22,9 @@ void CatalogueSession::reload()
     const QString fileName = catalogue() && !isLoading() ? catalogue()->fileName() : myFileName;
     if (fileName.isEmpty())
         return;
-    if (myOriginal && myOriginal->source() == fileName)
+    // A file that is being opened again is to be copied as it is now.
+    const bool isOpening = isLoading() && myCopy;
+    if (!isOpening && myOriginal && myOriginal->source() == fileName)
         load(fileName, nullptr);
     else
         open(fileName);
