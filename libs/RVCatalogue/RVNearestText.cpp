@@ -19,12 +19,11 @@ bool isSwapped(QStringView a, qsizetype i, QStringView b, qsizetype j)
 
 int distanceBetween(QStringView a, QStringView b)
 {
-    DistanceRow beforeLast = {};
     DistanceRow last = {};
     DistanceRow row = {};
     std::iota(row.begin(), row.end(), 0);
     for (qsizetype i = 1; i <= a.size(); ++i) {
-        beforeLast = last;
+        const DistanceRow beforeLast = last;
         last = row;
         row.front() = int(i);
         for (qsizetype j = 1; j <= b.size(); ++j) {
