@@ -753,6 +753,13 @@ void tst_RVCatalogueCheck::options_data()
                    u"4 error option-duplicate: the option \"x\" of \"b\" is already there in line 2; take out one"_s,
                    u"6 error option-duplicate: the option \"x\" of \"b\" is already there in line 2; take out one"_s
                };
+    QTest::newRow("incomplete option in front of others")
+            << QByteArray("<form key='a'/>\n<form key='a' value='b'/>\n<form key='a' value='c'/>\n")
+            << QStringList {
+                   u"2 error option-incomplete: the option has no value; write one, or take out the form"_s,
+                   u"3 warning option-default-missing: no option of \"a\" is preselected, so the first is taken; "
+                   "preselect one"_s
+               };
     QTest::newRow("default repeats an option, and another default follows")
             << QByteArray("<form key='a' value='x'/>\n"
                           "<form key='a' value='x' preselected='1'/>\n"

@@ -155,6 +155,7 @@ private Q_SLOTS:
     void threadCount_data();
     void threadCount();
     void mapDoesNotWait();
+    void errorEndsReading();
     void mapStopsWithoutWaiting();
     void mapStops();
     void mapGoesOnBehindNext();
@@ -169,6 +170,8 @@ void tst_RVCatalogueReader::products_data()
     const QStringList one = { u"A"_s };
     const QString text = u"<products><product type='A'/><g><product type='Ä'/></g></products>"_s;
     QTest::newRow("UTF-8") << text.toUtf8() << both;
+    QTest::newRow("UTF8 without a hyphen") << "\xef\xbb\xbf" + declared("utf8") + text.toUtf8() << both;
+    QTest::newRow("Latin-1 by its short name") << declared("latin1") + text.toLatin1() << both;
     QTest::newRow("UTF-8 as declared") << declared("utf-8") + text.toUtf8() << both;
     QTest::newRow("byte order mark") << "\xef\xbb\xbf" + text.toUtf8() << both;
     QTest::newRow("byte order mark, declared") << "\xef\xbb\xbf" + declared("UTF-8") + text.toUtf8() << both;
@@ -317,6 +320,8 @@ void tst_RVCatalogueReader::errors_data()
                                                                                                  QString(60, u'a'));
     QTest::newRow("element behind the root")
             << QByteArray("<p/>\n<p/>") << u"2:1: nothing but comments may follow the end of the root element"_s;
+    QTest::newRow("letter behind the root")
+            << QByteArray("<p/>x") << u"1:5: nothing but comments may follow the end of the root element"_s;
     QTest::newRow("text behind the root")
             << QByteArray("<p/>\nfoo bar") << u"2:1: nothing but comments may follow the end of the root element"_s;
     QTest::newRow("declaration behind a line feed")
@@ -461,6 +466,8 @@ void tst_RVCatalogueReader::largeFaults_data()
                     + "-->\n<!ENTITY a 'b'>]><p/>" << u"2:1: entity declarations are not supported"_s;
     QTest::newRow("product") << "<p>\n <product>" + QByteArray("<form/>").repeated(200000) + "</product></p>"
                              << u"2:2: "_s + large;
+    QTest::newRow("large comments that are not too large")
+            << "<p><!--" + megabyte.first(600000) + "--><!--" + megabyte.first(600000) + "--></p>" << QString();
     QTest::newRow("product one byte too large")
             << "<p>\n<product><!--" + megabyte.chopped(25) + "--></product></p>" << u"2:1: "_s + large;
     QTest::newRow("largest allowed product")
@@ -743,6 +750,15 @@ void tst_RVCatalogueReader::mapDoesNotWait()
     RVCatalogueReader rootReader(&root);
     QCOMPARE(rootReader.next().type().toString(), u"A"_s);
     QCOMPARE(eventsOfTag, QStringList { u"piece"_s });
+}
+
+void tst_RVCatalogueReader::errorEndsReading()
+{
+    QStringList events;
+    SlowPipe pipe({ "<p></q>", "<!-- -->" }, &events);
+    RVCatalogueReader reader(&pipe);
+    QVERIFY(!reader.finish());
+    QCOMPARE(events, QStringList { u"piece"_s });
 }
 
 void tst_RVCatalogueReader::mapStopsWithoutWaiting()

@@ -272,6 +272,8 @@ void tst_RVFindingText::numbers_data()
     QTest::newRow("nothing")
             << QString() << u"pages is \"\", which is no whole number; write a number, or leave out the attribute"_s;
     QTest::newRow("word") << u"many"_s << u"pages is \"many\", which is no whole number; write nothing but digits"_s;
+    QTest::newRow("number and unit") << u"26 mm"_s
+                                     << u"pages is \"26 mm\", which is no whole number; write nothing but digits"_s;
     QTest::newRow("number and word") << u"26 pages"_s
                                      << u"pages is \"26 pages\", which is no whole number; write nothing but digits"_s;
     QTest::newRow("decimals") << u"26.5"_s
@@ -402,6 +404,7 @@ void tst_RVFindingText::units_data()
     };
     QTest::newRow("known") << u"0.1mm"_s << QString();
     QTest::newRow("capitals") << u"MM"_s << no(u"MM"_s, u"write \"mm\""_s);
+    QTest::newRow("two letters missing") << u"milimetr"_s << no(u"milimetr"_s, all);
     QTest::newRow("blank") << u"cm "_s << no(u"cm "_s, u"write \"cm\""_s);
     QTest::newRow("word") << u"Millimeter"_s << no(u"Millimeter"_s, u"write \"mm\""_s);
     QTest::newRow("German") << u"Zoll"_s << no(u"Zoll"_s, u"write \"inch\""_s);

@@ -158,6 +158,9 @@ void tst_RVNameCheck::found_data()
     attribute("no underscore", product("coverType='hardcover'"), u"coverType='hardcover'"_s);
     attribute("hyphen", product("shipping-group='2'"), u"shipping-group='2'"_s);
     attribute("full stop", product("shipping.group='2'"), u"shipping.group='2'"_s);
+    attribute("number and letter behind a name", product("orientation2x='portrait'"), u"orientation2x='portrait'"_s);
+    attribute("underscore at another place, letter too many", product("maxp_agess='8'"), u"maxp_agess='8'"_s);
+    attribute("other number of words", spine("base_width='8' package_perblok='1'"), u"package_perblok='1'"_s);
     attribute("letter too many", product("pagess='2'"), u"pagess='2'"_s);
     attribute("letters swapped", product("peices='2'"), u"peices='2'"_s);
     attribute("letter replaced", product("pates='2'"), u"pates='2'"_s);
@@ -304,6 +307,11 @@ void tst_RVNameCheck::silent_data()
     QTest::newRow("name spaces") << product("xmlns='u' xmlns:p='v'");
     QTest::newRow("attributes with prefixes")
             << product("xmlns:p='u' p:pages='8' p:page='8' xml:lang='de' xmlns:xsi='v' xsi:type='w'");
+    QTest::newRow("prefixed name near another one") << product("xmlns:p='u' p:orientation='portrait'");
+    QTest::newRow("element near that of an option, outside of its part") << product("", "<from key='a' value='b'/>");
+    QTest::newRow("two changes in a name of ten letters") << product("covre_tyep='1'");
+    QTest::newRow("other letters in most places") << product("\xd1\x80\xd0\xb0g\xd0\xb5s='1'");
+    QTest::newRow("two changes in a short word") << forms("<form key='a' value='b' edtr_name='1'/>");
     for (const char *name :
          { "back_width", "book_width", "flack_width", "packages_per_book", "width", "name", "type", "key" })
         QTest::addRow("%s of a spine", name) << spine("base_width='8' " + QByteArray(name) + "='1'");
@@ -385,6 +393,8 @@ void tst_RVNameCheck::oneMistake_data()
                        .replace("<composition ", "<!-- ")
                        .replace("</composition>", "-->")
             << QStringList { u"<product>: spine-missing"_s, u"<from>: element-misspelt"_s };
+    QTest::newRow("prefixed spine is not missing")
+            << changed("<spine ", "<x:spine xmlns:x='u' ") << QStringList { u"<x:spine>: element-prefixed"_s };
     QTest::newRow("misplaced spine is not missing")
             << changed("<composition units='cm'>", "").replace("</composition>", "")
             << QStringList { u"<spine>: element-misplaced"_s };
@@ -480,6 +490,9 @@ void tst_RVNameCheck::texts_data()
     QTest::newRow("attribute with other letters")
             << product("m\xd0\xb0x_pag\xd0\xb5s='8'")
             << u"the attribute \"m\u0430x_pag\u0435s\" (with U+0430, U+0435) is not read; did you mean \"max_pages\"?"_s;
+    QTest::newRow("attribute with the same other letter twice")
+            << product("m\xd0\xb0x_p\xd0\xb0ges='8'")
+            << u"the attribute \"m\u0430x_p\u0430ges\" (with U+0430) is not read; did you mean \"max_pages\"?"_s;
     QTest::newRow("attribute with an invisible letter")
             << product("pages\xe2\x80\x8d='8'")
             << u"the attribute \"pages \" (with U+200D) is not read; did you mean \"pages\"?"_s;
@@ -616,6 +629,8 @@ void tst_RVNameCheck::mostOfAFile()
     const QByteArray product = "<product type='A' article_id='1'/>";
     const QByteArray many = "<products>" + product + QByteArray("<prodcut/>").repeated(5000) + "</products>";
     QCOMPARE(CheckedCatalogue(many).findings().size(), 1000);
+    const QByteArray groups = QByteArray("<g><form/></g>").repeated(1000);
+    QCOMPARE(CheckedCatalogue("<products>" + product + groups + "<form/></products>").findings().size(), 1);
     const QByteArray parts = "<products>" + product + QByteArray("<form/>").repeated(5000) + "</products>";
     QCOMPARE(CheckedCatalogue(parts).findings().size(), 1000);
 }

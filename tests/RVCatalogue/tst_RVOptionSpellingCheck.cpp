@@ -110,6 +110,9 @@ void tst_RVOptionSpellingCheck::letterCase_data()
     QTest::newRow("three spellings of a value")
             << QByteArrayList { "key='a' value='red' preselected='1'", "key='a' value='Red'", "key='a' value='RED'" }
             << QStringList { found(u"value='Red'"_s), found(u"value='RED'"_s) };
+    QTest::newRow("letter that equals an ASCII one")
+            << QByteArrayList { "key='a' value='k' preselected='1'", "key='a' value='\xe2\x84\xaa'" }
+            << QStringList { found(u"value='\u212A'"_s) };
     QTest::newRow("umlauts of a value") << QByteArrayList { "key='a' value='öl' preselected='1'", "key='a' value='Öl'" }
                                         << QStringList { found(u"value='Öl'"_s) };
     QTest::newRow("values of two keys") << QByteArrayList { "key='a' value='red' preselected='1'",

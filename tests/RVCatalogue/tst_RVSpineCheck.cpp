@@ -48,6 +48,8 @@ void tst_RVSpineCheck::parts_data()
                                       << QStringList { u"base_widht='8': attribute-misspelt"_s };
     QTest::newRow("base is no number") << spine("base_width='x' additional_width='1'")
                                        << QStringList { u"base_width='x': number-invalid"_s };
+    QTest::newRow("sides are no number") << spine("additional_width='x'")
+                                         << QStringList { u"additional_width='x': number-invalid"_s };
     QTest::newRow("no packages") << spine("base_width='8' block_width='1'") << QStringList { noPackages };
     QTest::newRow("0 packages") << spine("base_width='8' block_width='1' packages_per_block='0'") << QStringList();
     QTest::newRow("no packages beside blocks of 0") << spine("base_width='8' block_width='0'") << QStringList();
