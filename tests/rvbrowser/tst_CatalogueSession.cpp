@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int TIMEOUT = 60000; // ms
+constexpr int TIMEOUT = 180000; // ms
 constexpr int MANY = 50000; // so that there is time to give up
 
 /// A catalogue with these takes about a second to read, though it may have but 50,000 products.
