@@ -43,6 +43,24 @@ QList<RVCatalogueFinding> allFindings(const QList<RVCatalogueProduct> &products)
     return result;
 }
 
+/// Opens a file without a buffer, which would lose the reason of an error.
+bool openUnbuffered(QTemporaryFile *file)
+{
+    return static_cast<QIODevice *>(file)->open(QIODevice::ReadWrite | QIODevice::Unbuffered);
+}
+
+// A disk that becomes full accepts some bytes first, and gives the reason only after them.
+bool writeWhole(QIODevice *to, QByteArrayView bytes)
+{
+    while (!bytes.isEmpty()) {
+        const qint64 written = to->write(bytes.data(), bytes.size());
+        if (written <= 0)
+            return false;
+        bytes = bytes.sliced(written);
+    }
+    return true;
+}
+
 }
 
 /// The edits of a file, and the number of its findings.
@@ -98,14 +116,19 @@ bool FixRun::mendFile(const QString &fileName)
 
 bool FixRun::mendInput()
 {
-    if (!copyInput())
-        return false;
+    const bool isCopied = copyInput();
+    const bool isDone = isCopied && mendCopy();
+    // Only the catalogue belongs to the output, also where there is none.
+    myConsole->output = myConsole->messages;
+    return isCopied && readCopy() && isDone;
+}
+
+/// Mends the copy of the input. A copy that cannot be read is left to the check, which reports it.
+bool FixRun::mendCopy()
+{
     Mending mending;
     RVCatalogueReader reader(myInputCopy.get());
-    const std::optional<Problem> problem = collect(&reader, u"-"_s, &mending);
-    const bool isDone = problem || writeMended(&mending);
-    myConsole->output = myConsole->messages;
-    return readCopy() && isDone;
+    return collect(&reader, u"-"_s, &mending) || writeMended(&mending);
 }
 
 /// Gives the copy to the console as its input.
@@ -125,7 +148,7 @@ bool FixRun::readCopy()
 bool FixRun::writeMended(Mending *mending)
 {
     auto mended = std::make_unique<QTemporaryFile>();
-    if (!mended->open())
+    if (!openUnbuffered(mended.get()))
         return fail(u"-"_s, { RVFilePosition(), u"cannot write: "_s + mended->errorString() });
     if (!mending->editor.apply(myInputCopy.get(), mended.get()))
         return fail(u"-"_s, { RVFilePosition(), mending->editor.errorString() });
@@ -162,7 +185,7 @@ bool FixRun::writeDiff(const QString &fileName, const QString &path, RVFileEdito
     if (!from.open(QIODevice::ReadOnly))
         return fail(fileName, { RVFilePosition(), u"cannot open the file: "_s + from.errorString() });
     QTemporaryFile to;
-    if (!to.open())
+    if (!openUnbuffered(&to))
         return fail(fileName, { RVFilePosition(), u"cannot write: "_s + to.errorString() });
     if (!editor->apply(&from, &to))
         return fail(fileName, { RVFilePosition(), editor->errorString() });
@@ -199,14 +222,10 @@ bool FixRun::copyInput()
 {
     myInputCopy = std::make_unique<QTemporaryFile>();
     const std::unique_ptr<QIODevice> input = myConsole->openInput();
-    bool isWritten = myInputCopy->open();
-    while (isWritten) {
-        const QByteArray piece = input->read(WRITE_SIZE);
-        if (piece.isEmpty())
-            break;
-        isWritten = myInputCopy->write(piece) == piece.size();
-    }
-    if (isWritten && myInputCopy->flush() && myInputCopy->seek(0))
+    bool isWritten = openUnbuffered(myInputCopy.get());
+    for (QByteArray piece = input->read(WRITE_SIZE); isWritten && !piece.isEmpty(); piece = input->read(WRITE_SIZE))
+        isWritten = writeWhole(myInputCopy.get(), piece);
+    if (isWritten && myInputCopy->seek(0))
         return true;
     return fail(u"-"_s, { RVFilePosition(), u"cannot write: "_s + myInputCopy->errorString() });
 }

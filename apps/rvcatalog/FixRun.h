@@ -42,6 +42,7 @@ private:
 
     bool mendFile(const QString &fileName);
     bool mendInput();
+    bool mendCopy();
     bool readCopy();
     bool writeMended(Mending *mending);
     bool diffFile(const QString &fileName, bool *isChanged);

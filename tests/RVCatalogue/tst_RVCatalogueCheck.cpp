@@ -799,6 +799,12 @@ void tst_RVCatalogueCheck::options_data()
             << QStringList {
                    u"2 error boolean-invalid: preselected is \"maybe\", which is neither true nor false; there are true, false, yes, no, on, off, 1 and 0"_s
                };
+    QTest::newRow("unknown what is preselected beside a default")
+            << QByteArray("<form key='a' value='1' preselected='maybe'/>\n"
+                          "<form key='a' value='2' preselected='1'/>\n")
+            << QStringList {
+                   u"2 error boolean-invalid: preselected is \"maybe\", which is neither true nor false; there are true, false, yes, no, on, off, 1 and 0"_s
+               };
     QTest::newRow("different keys and values with the same letters")
             << QByteArray("<form key='a' value='bc' preselected='1'/>\n"
                           "<form key='ab' value='c' preselected='1'/>\n")

@@ -186,6 +186,10 @@ void tst_RVCatalogueReader::products_data()
     QTest::newRow("UTF-16 in big-endian order") << utf16BigEndian(text) << both;
     QTest::newRow("UTF-16 without a mark") << utf16(text, QStringEncoder::Flag::Default) << both;
     QTest::newRow("UTF-32") << utf32(text) << both;
+    QTest::newRow("UTF-32 in big-endian order")
+            << QByteArray(QStringEncoder(QStringEncoder::Utf32BE, QStringEncoder::Flag::WriteBom)(text)) << both;
+    QTest::newRow("UTF-16 in big-endian order without a mark, root in Cyrillic letters")
+            << QByteArray(QStringEncoder(QStringEncoder::Utf16BE)(u"<\u0436><product type='A'/></\u0436>"_s)) << one;
     QTest::newRow("beyond the first plane in UTF-16")
             << utf16(u"<p><product type='\U0001F4D5'/></p>"_s) << QStringList { u"\U0001F4D5"_s };
     QTest::newRow("name of an element before a tabulator or a line end")

@@ -75,6 +75,9 @@ void tst_RVOptionSpellingCheck::letters_data()
     QTest::newRow("duplicate option with a blank")
             << QByteArrayList { "key='a' value='b c' preselected='1'", "key='a' value='b c'" }
             << QStringList { u"value='b c': option-blank"_s, u"value='b c': option-duplicate"_s };
+    QTest::newRow("blank behind a duplicate option")
+            << QByteArrayList { "key='a' value='b' preselected='1'", "key='a' value='b'", "key='a' value='c d'" }
+            << QStringList { u"value='b': option-duplicate"_s, u"value='c d': option-blank"_s };
     QTest::newRow("blank between keys that makes other keys")
             << QByteArrayList { "key='a; b' value='c;d' preselected='1'", "key='a;b' value='e;f'" }
             << QStringList { u"key='a; b': option-blank"_s };
@@ -207,6 +210,8 @@ void tst_RVOptionSpellingCheck::texts()
                      u"the key \"a\u00a0b\" has a blank in it; it has U+00A0, which is no plain blank; take it out"_s,
                      u"the value \"x \" is not what it looks like; it has U+200B, which is invisible; take it "
                      "out"_s }));
+    const CheckedCatalogue foreign(options({ "key='a' value='a \u0431'" }));
+    QCOMPARE(foreign.texts(), QStringList { u"the value \"a \u0431\" has a blank in it; take it out"_s });
 }
 
 void tst_RVOptionSpellingCheck::fixes_data()

@@ -75,6 +75,9 @@ void tst_RVSpineCheck::width_data()
     QTest::newRow("wider") << spine("base_width='80.1'") << QStringList { u"base_width='80.1': spine-too-wide"_s };
     QTest::newRow("another unit") << spine("base_width='9'", "cm")
                                   << QStringList { u"base_width='9': spine-too-wide"_s };
+    QTest::newRow("too wide by its base beside packages without a width")
+            << spine("base_width='9' packages_per_block='1'", "cm")
+            << QStringList { u"base_width='9': spine-too-wide"_s };
     QTest::newRow("in tenths of a millimetre") << spine("base_width='800'", "0.1mm") << QStringList();
     QTest::newRow("as wide as allowed at the highest count")
             << spine("base_width='8' block_width='2' packages_per_block='1' additional_width='4'") << QStringList();

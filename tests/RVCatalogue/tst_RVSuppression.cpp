@@ -152,6 +152,10 @@ void tst_RVSuppression::reading_data()
     row("unknown rule twice", " rvcatalog: ignore foo, Foo ", { foo });
     row("rule with underscores", " rvcatalog: ignore type_missing ",
         { u"there is no rule \"type_missing\"; did you mean \"type-missing\"?"_s });
+    row("rule with half of its letters wrong", " rvcatalog: ignore type-mxxxxxx ",
+        { u"there is no rule \"type-mxxxxxx\""_s });
+    row("rule with nearly half of its letters wrong", " rvcatalog: ignore type-mixxxx ",
+        { u"there is no rule \"type-mixxxx\"; did you mean \"type-missing\"?"_s });
     row("rule that is not ASCII", " rvcatalog: ignore größe ", { u"there is no rule \"größe\""_s });
     row("everything", " rvcatalog: ignore * ", { u"there is no rule \"*\""_s });
 

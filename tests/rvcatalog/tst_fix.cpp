@@ -155,6 +155,7 @@ private Q_SLOTS:
     void symbolicLink();
     void fullOutput();
     void fullDisk();
+    void fullDiskOfInput_data();
     void fullDiskOfInput();
     void noTemporaryFile_data();
     void noTemporaryFile();
@@ -403,19 +404,33 @@ void tst_fix::fullDisk()
     QCOMPARE(names(), QStringList { u"a.xml"_s });
 }
 
-// The copy of the input fits, but the mended one is larger.
+void tst_fix::fullDiskOfInput_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::addColumn<int>("size");
+    QTest::addColumn<bool>("isChecked");
+
+    QTest::newRow("copy fits, mended copy is larger") << u"--fix"_s << 4096 << true;
+    QTest::newRow("copy fits, copy to compare is larger") << u"--diff"_s << 4096 << false;
+    QTest::newRow("copy to mend is too large") << u"--fix"_s << 10000 << false;
+    QTest::newRow("copy to compare is too large") << u"--diff"_s << 10000 << false;
+}
+
 void tst_fix::fullDiskOfInput()
 {
+    QFETCH(QString, option);
+    QFETCH(int, size);
+    QFETCH(bool, isChecked);
     QByteArray input = QByteArray(ONE_FINDING).replace("<p>", "<p><!---->");
-    input.insert(input.indexOf("-->"), QByteArray(4096 - input.size(), 'x'));
-    const ProgramRun run = myFolder->check({ u"--fix"_s, u"-"_s }, input, [] {
+    input.insert(input.indexOf("-->"), QByteArray(size - input.size(), 'x'));
+    const ProgramRun run = myFolder->check({ option, u"-"_s }, input, [] {
         limitFiles();
         std::signal(SIGXFSZ, SIG_IGN);
     });
     QCOMPARE(run.bytes, QByteArray());
-    QVERIFY2(run.messages.startsWith("-:1:1: error: cannot write: "_L1), qPrintable(run.messages));
-    QVERIFY2(run.messages.endsWith("\n1 product in 1 file: 0 errors, 0 warnings, 1 note\n"_L1),
-             qPrintable(run.messages));
+    const QString fault = u"-:1:1: error: cannot write: File too large\n"_s;
+    QVERIFY2(run.messages.startsWith(fault), qPrintable(run.messages));
+    QCOMPARE(run.messages.endsWith("\n1 product in 1 file: 0 errors, 0 warnings, 1 note\n"_L1), isChecked);
     QCOMPARE(run.exitCode, 2);
 }
 
