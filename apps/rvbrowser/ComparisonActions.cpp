@@ -110,7 +110,6 @@ void ComparisonActions::connectSession()
     // One key cancels what was begun last.
     connect(myCatalogues, &CatalogueSession::started, this, &ComparisonActions::enable);
     connect(myCatalogues, &CatalogueSession::ended, this, &ComparisonActions::enable);
-    connect(myCatalogues, &CatalogueSession::catalogueChanged, this, &ComparisonActions::enable);
 }
 
 void ComparisonActions::enable()

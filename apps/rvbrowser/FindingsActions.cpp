@@ -188,9 +188,9 @@ void FindingsActions::applyAllFixes()
 
 void FindingsActions::applyFixes(const QList<int> &findings)
 {
-    const CataloguePointer catalogue = my.findings->catalogue();
-    if (!catalogue || findings.isEmpty())
+    if (findings.isEmpty())
         return;
+    const CataloguePointer catalogue = my.findings->catalogue();
     const auto fail = [this, fileName = catalogue->fileName()](const QString &text) {
         my.banner->showMessage(tr("%1: %2").arg(fileName, text) + u'\n' + tr("Nothing was changed."));
     };

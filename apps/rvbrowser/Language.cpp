@@ -14,8 +14,7 @@ bool isSpoken(QLocale::Language language)
 
 void load(QTranslator *translator, const QString &name, const QString &folder)
 {
-    const QString language = QLocale().name().section(u'_', 0, 0);
-    if (translator->load(u"%1/%2_%3"_s.arg(folder, name, language)))
+    if (translator->load(u"%1/%2_%3"_s.arg(folder, name, QLocale().name())))
         QCoreApplication::installTranslator(translator);
 }
 

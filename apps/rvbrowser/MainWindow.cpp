@@ -108,7 +108,7 @@ void MainWindow::dropEvent(QDropEvent *event)
     mySession.open(draggedFile(event->mimeData()));
 }
 
-void MainWindow::closeEvent(QCloseEvent *event)
+void MainWindow::closeEvent(QCloseEvent *)
 {
     if (mySettings.isRemembering()) {
         myChoices.keep();
@@ -116,7 +116,6 @@ void MainWindow::closeEvent(QCloseEvent *event)
         WindowState(&mySettings).save(*this, *mySplitter);
         mySettings.refresh();
     }
-    QMainWindow::closeEvent(event);
 }
 
 QWidget *MainWindow::createCentre()

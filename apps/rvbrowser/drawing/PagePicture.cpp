@@ -48,7 +48,7 @@ qreal pointOf(const QPainter *painter)
 struct PagePicture::Layout
 {
     QTransform transform; ///< of the page
-    qreal scale = 0;
+    qreal scale;
     QRectF legend;
 };
 
@@ -103,13 +103,12 @@ PagePicture::Layout PagePicture::layoutIn(const QRectF &room, const QRectF &lege
 {
     const QRectF shown = extent();
     const QRectF page = room.adjusted(0, 0, -line, -line); // sizes stand beside it
-    Layout result;
-    result.legend = legend;
-    result.scale = qMax(0.0, qMin(page.width() / shown.width(), page.height() / shown.height()));
-    result.transform.translate(page.center().x(), page.center().y());
-    result.transform.scale(result.scale, result.scale);
-    result.transform.translate(-shown.center().x(), -shown.center().y());
-    return result;
+    const qreal scale = qMax(0.0, qMin(page.width() / shown.width(), page.height() / shown.height()));
+    QTransform transform;
+    transform.translate(page.center().x(), page.center().y());
+    transform.scale(scale, scale);
+    transform.translate(-shown.center().x(), -shown.center().y());
+    return { transform, scale, legend };
 }
 
 // Beside the page or below it, wherever the page then becomes larger.

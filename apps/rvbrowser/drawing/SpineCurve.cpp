@@ -7,8 +7,6 @@
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -72,7 +70,7 @@ void SpineCurve::paintEvent(QPaintEvent *)
     SpinePlot plot = myPlot;
     plot.setColors(windowColors());
     plot.setMarkedRow(myRow);
-    plot.setRowUnderCrossHair(myRowUnderMouse >= 0 ? myRowUnderMouse : hasFocus() ? myRow : -1);
+    plot.setRowUnderCrossHair(myRowUnderMouse >= 0 || !hasFocus() ? myRowUnderMouse : myRow);
     QPainter painter(this);
     plot.paint(&painter, rect());
     if (!hasFocus())
@@ -84,8 +82,8 @@ void SpineCurve::paintEvent(QPaintEvent *)
     style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, this);
 }
 
-// The keys of a slider.
-int SpineCurve::rowAfter(int key) const
+// The keys of a slider. Rows beside the table stand for its first and last one.
+std::optional<int> SpineCurve::rowAfter(int key) const
 {
     switch (key) {
     case Qt::Key_Left:
@@ -101,21 +99,19 @@ int SpineCurve::rowAfter(int key) const
     case Qt::Key_Home:
         return 0;
     case Qt::Key_End:
-        return table().rowCount() - 1;
+        return table().rowCount();
     default:
-        return -1;
+        return std::nullopt;
     }
 }
 
 void SpineCurve::keyPressEvent(QKeyEvent *event)
 {
-    constexpr Qt::Key keys[] = { Qt::Key_Left,     Qt::Key_Right,  Qt::Key_Up,   Qt::Key_Down,
-                                 Qt::Key_PageDown, Qt::Key_PageUp, Qt::Key_Home, Qt::Key_End };
-    const bool isOurs = std::find(std::begin(keys), std::end(keys), event->key()) != std::end(keys);
-    if (!isOurs || event->modifiers() != Qt::NoModifier || table().rowCount() == 0)
+    const std::optional<int> row = rowAfter(event->key());
+    if (!row || event->modifiers() != Qt::NoModifier || table().rowCount() == 0)
         return DrawingWidget::keyPressEvent(event);
     setRowUnderMouse(-1); // The cross hair follows the keys.
-    Q_EMIT rowWanted(qBound(0, rowAfter(event->key()), table().rowCount() - 1));
+    Q_EMIT rowWanted(qBound(0, *row, table().rowCount() - 1));
 }
 
 void SpineCurve::mousePressEvent(QMouseEvent *event)

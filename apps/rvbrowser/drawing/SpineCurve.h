@@ -4,6 +4,8 @@
 #include "DrawingWidget.h"
 #include "SpinePlot.h"
 
+#include <optional>
+
 /// The width of the spine over the page count, with the chosen count pointed out. Under the mouse, and at the chosen
 /// count while the curve has the keyboard, a cross hair tells the values. A click and the keys of a slider choose.
 class SpineCurve : public DrawingWidget
@@ -38,7 +40,7 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
 
 private:
-    int rowAfter(int key) const;
+    std::optional<int> rowAfter(int key) const;
     void setRowUnderMouse(int row);
 
     SpinePlot myPlot;

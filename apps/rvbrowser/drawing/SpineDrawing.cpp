@@ -37,7 +37,7 @@ void SpineDrawing::setTitle(const QString &title)
 
 void SpineDrawing::clear()
 {
-    setSpine(SpineRow(), 0, 0);
+    setSpine(SpineRow(), {}, {});
 }
 
 void SpineDrawing::paintEvent(QPaintEvent *)
@@ -45,8 +45,6 @@ void SpineDrawing::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.fillRect(rect(), palette().base());
     const qreal width = myPicture.spine().width;
-    if (width <= 0 || myWidest <= 0)
-        return;
     const qreal widest = qMin(myWidest, qMax(width, THICK_BOOK));
     const qreal scale = qMin(MOST_PIXELS, (rect().width() - 2 * MARGIN) / widest);
     SpinePicture picture = myPicture;

@@ -4,6 +4,13 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// A difference begins with the names of both files.
+constexpr int LINES_OF_NAMES = 2;
+
+}
+
 DiffColors::DiffColors(QTextDocument *document, const QPalette &palette) : QSyntaxHighlighter(document)
 {
     const PaletteColors colors(palette);
@@ -14,7 +21,7 @@ DiffColors::DiffColors(QTextDocument *document, const QPalette &palette) : QSynt
 
 void DiffColors::highlightBlock(const QString &text)
 {
-    const bool isName = text.startsWith("--- "_L1) || text.startsWith("+++ "_L1);
+    const bool isName = currentBlock().blockNumber() < LINES_OF_NAMES;
     if (isName || text.startsWith("@@"_L1))
         setFormat(0, int(text.size()), myPlace);
     else if (text.startsWith(u'-'))

@@ -49,19 +49,19 @@ bool asksForTerminal(const QStringList &arguments)
 QString replaced(const QString &argument, const QString &fileName, const RVFilePosition &position)
 {
     QString result;
-    for (qsizetype i = 0; i < argument.size(); ++i) {
-        const QChar letter = argument.at(i);
-        const QChar next = letter == u'%' && i + 1 < argument.size() ? argument.at(i + 1) : QChar();
-        if (next == u'f')
+    for (QStringView rest = argument; !rest.isEmpty();) {
+        const bool isFile = rest.startsWith("%f"_L1);
+        const bool isLine = rest.startsWith("%l"_L1);
+        const bool isColumn = rest.startsWith("%c"_L1);
+        if (isFile)
             result += fileName;
-        else if (next == u'l')
+        else if (isLine)
             result += QString::number(position.line);
-        else if (next == u'c')
+        else if (isColumn)
             result += QString::number(position.column);
         else
-            result += letter;
-        const bool isPlaceholder = next == u'f' || next == u'l' || next == u'c' || next == u'%';
-        i += isPlaceholder ? 1 : 0;
+            result += rest.front();
+        rest = rest.sliced(isFile || isLine || isColumn || rest.startsWith("%%"_L1) ? 2 : 1);
     }
     return result;
 }

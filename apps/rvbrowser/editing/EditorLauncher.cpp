@@ -33,7 +33,6 @@ constexpr struct
 EditorLauncher::~EditorLauncher()
 {
     for (QProcess *process : findChildren<QProcess *>()) {
-        process->disconnect(this);
         if (process->state() != QProcess::NotRunning)
             process->setParent(nullptr); // or it would end the editor
     }

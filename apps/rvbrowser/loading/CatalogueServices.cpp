@@ -15,9 +15,8 @@ public:
 
     RVPageCountOrganization calculate(const RVProductType &type) override
     {
-        const CataloguePointer catalogue = myServices->catalogue();
-        const int index = catalogue ? catalogue->indexOf(type) : -1;
-        return index < 0 ? RVPageCountOrganization() : catalogue->product(index).pageCounts();
+        const int index = myServices->indexOf(type);
+        return index < 0 ? RVPageCountOrganization() : myServices->catalogue()->product(index).pageCounts();
     }
 
 private:
@@ -45,6 +44,11 @@ void CatalogueServices::setCatalogue(const CataloguePointer &catalogue)
     RVProductCheckerRegistry::instance()->clearCaches();
 }
 
+int CatalogueServices::indexOf(const RVProductType &type) const
+{
+    return myCatalogue ? myCatalogue->indexOf(type) : -1;
+}
+
 bool CatalogueServices::isOffered(const RVProductType &type)
 {
     return RVProductCheckerRegistry::instance()->isValid(type, COMPLETE);
@@ -57,9 +61,9 @@ RVPageCountOrganization CatalogueServices::pageCounts(const RVProductType &type)
 
 bool CatalogueServices::Checker::isValid(const RVProductType &type) const
 {
-    const CataloguePointer catalogue = myServices->catalogue();
-    const int index = catalogue && type.isValid() ? catalogue->indexOf(type) : -1;
-    return index >= 0 && catalogue->at(index).articleId.isValid() && pageCounts(type).isValid();
+    const int index = myServices->indexOf(type);
+    return type.isValid() && index >= 0 && myServices->catalogue()->at(index).articleId.isValid()
+            && pageCounts(type).isValid();
 }
 
 RVProductCheckerType CatalogueServices::Checker::checkerTypes() const
@@ -69,7 +73,6 @@ RVProductCheckerType CatalogueServices::Checker::checkerTypes() const
 
 bool CatalogueServices::Checker::isValidBoxStyle(const RVProductType &type, const RVArticleVariants &variants) const
 {
-    const CataloguePointer catalogue = myServices->catalogue();
-    const int index = catalogue ? catalogue->indexOf(type) : -1;
-    return index >= 0 && catalogue->product(index).options().contains(variants);
+    const int index = myServices->indexOf(type);
+    return index >= 0 && myServices->catalogue()->product(index).options().contains(variants);
 }

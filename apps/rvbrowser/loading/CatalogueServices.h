@@ -19,6 +19,8 @@ public:
     /// From now on the services answer from this catalogue; what they remember of the one before is forgotten.
     void setCatalogue(const CataloguePointer &catalogue);
     CataloguePointer catalogue() const { return myCatalogue; }
+    /// The product of this type in the catalogue; -1 where there is none.
+    int indexOf(const RVProductType &type) const;
 
     /// True for a product that an application would offer: it has a type, an article id and valid page counts.
     static bool isOffered(const RVProductType &type);

@@ -123,7 +123,7 @@ void LoadedCatalogue::append(Batch batch)
 void LoadedCatalogue::append(const RVCatalogueFinding &finding)
 {
     const qint64 product = finding.product();
-    if (product >= 0 && product < size())
+    if (product >= 0)
         myEntries[product].findings.add(finding.severity());
     myFindingIndex.append(typeOf(finding), finding.text() + u'\n' + finding.rule().name());
     myFindings += shared(finding);

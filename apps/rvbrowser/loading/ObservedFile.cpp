@@ -13,8 +13,10 @@ qint64 ObservedFile::readData(char *data, qint64 maxSize)
     if (!myProgressed(total > 0 ? int(qMin(qint64(100), myRead * 100 / total)) : 0))
         return -1;
     const qint64 count = QFile::readData(data, maxSize);
-    myRead += qMax(qint64(0), count);
-    if (myCopy && count > 0)
-        myCopy->append(data, count);
+    if (count > 0) {
+        myRead += count;
+        if (myCopy)
+            myCopy->append(data, count);
+    }
     return count;
 }

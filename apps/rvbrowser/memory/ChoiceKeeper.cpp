@@ -16,6 +16,7 @@ constexpr auto WAIT = 1s;
 
 ChoiceKeeper::ChoiceKeeper(ProductView *view, Settings *settings) : myView(view), myMemory(settings)
 {
+    myTimer.setSingleShot(true);
     myTimer.setInterval(WAIT);
     connect(&myTimer, &QTimer::timeout, this, &ChoiceKeeper::keep);
     connect(myView, &ProductView::choiceChanged, this, &ChoiceKeeper::noteChange);
@@ -30,7 +31,7 @@ void ChoiceKeeper::show(const CataloguePointer &catalogue, int product)
         return;
     if (const auto choice = myMemory.choice(myFileName, myType))
         myView->setChoice(*choice);
-    forgetChange(); // nothing was chosen that is not remembered
+    myHasChange = false; // nothing was chosen that is not remembered
     myMemory.setLastProduct(myFileName, myType);
 }
 
@@ -56,7 +57,7 @@ void ChoiceKeeper::keep()
 {
     if (!myHasChange)
         return;
-    forgetChange();
+    myHasChange = false;
     myMemory.setChoice(myFileName, myType, myView->choice());
 }
 
@@ -66,12 +67,6 @@ void ChoiceKeeper::noteChange()
         return;
     myHasChange = true;
     myTimer.start();
-}
-
-void ChoiceKeeper::forgetChange()
-{
-    myHasChange = false;
-    myTimer.stop();
 }
 
 void ChoiceKeeper::setProduct(const LoadedCatalogue &catalogue, int product)

@@ -32,7 +32,6 @@ public:
 
 private:
     void noteChange();
-    void forgetChange();
     void setProduct(const LoadedCatalogue &catalogue, int product);
 
     ProductView *myView;

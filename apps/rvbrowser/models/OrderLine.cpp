@@ -7,6 +7,8 @@ namespace {
 
 /// A longer line is scrolled.
 constexpr int MOST_LINES = 4;
+/// Above and below the text, in pixels.
+constexpr int MARGINS = 4;
 /// A place where a line may be broken.
 constexpr QChar ZERO_WIDTH_SPACE(0x200b);
 
@@ -26,10 +28,8 @@ QString breakable(const QString &text)
 OrderLine::OrderLine(QWidget *parent) : QPlainTextEdit(parent)
 {
     setReadOnly(true);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    document()->setDocumentMargin(2);
-    fitHeight();
+    document()->setDocumentMargin(MARGINS / 2.0);
 }
 
 void OrderLine::setText(const QString &text)
@@ -59,6 +59,6 @@ void OrderLine::fitHeight()
     const int lines = qMax(1, qCeil(document()->size().height()));
     // A scroll bar that is not needed would take away room, which then is needed.
     setVerticalScrollBarPolicy(lines > MOST_LINES ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
-    const qreal text = qMin(lines, MOST_LINES) * fontMetrics().lineSpacing() + 2 * document()->documentMargin();
+    const qreal text = qMin(lines, MOST_LINES) * fontMetrics().lineSpacing() + MARGINS;
     setFixedHeight(qCeil(text) + 2 * frameWidth() + 1);
 }

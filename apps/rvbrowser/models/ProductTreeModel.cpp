@@ -48,7 +48,8 @@ void ProductTreeModel::fill()
         shown.removeIf([this](int product) { return !isFaulty(product); });
     myShownProducts = int(shown.size());
     myGroups.clear();
-    myRowsOfGroups.fill(-1, myCatalogue ? myCatalogue->groups().size() : 0);
+    const QStringList groups = myCatalogue ? myCatalogue->groups() : QStringList();
+    myRowsOfGroups.fill(-1, groups.size());
     myRows.fill(-1, productCount());
     for (const int product : shown) {
         const int number = myCatalogue->at(product).group;
@@ -64,8 +65,7 @@ void ProductTreeModel::fill()
 
 bool ProductTreeModel::isFaulty(int product) const
 {
-    const LoadedCatalogue::Entry &entry = myCatalogue->at(product);
-    return entry.findings.count() > 0 && entry.findings.worst() != RVCatalogueSeverity::Note;
+    return myCatalogue->at(product).findings.worst() != RVCatalogueSeverity::Note;
 }
 
 QModelIndex ProductTreeModel::indexOfProduct(int product) const

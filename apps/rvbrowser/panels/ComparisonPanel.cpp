@@ -137,7 +137,7 @@ void ComparisonPanel::setComparison(const ComparisonPointer &comparison)
     const ComparedProduct product = chosen < 0 ? ComparedProduct() : myComparison->at(chosen);
     myComparison = comparison;
     myModel.setComparison(comparison);
-    setCurrent(myModel.indexOfProduct(chosen < 0 ? -1 : find(product)));
+    setCurrent(chosen < 0 ? QModelIndex() : myModel.indexOfProduct(find(product)));
     showNames();
     showParts();
 }

@@ -25,8 +25,8 @@ QSize ElidedLabel::sizeHint() const
     QSize result = QLabel::sizeHint();
     if (!myUsualText.isEmpty())
         result.setWidth(fontMetrics().horizontalAdvance(myUsualText));
-    if (myMostCharacters > 0)
-        result.setWidth(qMin(result.width(), fontMetrics().averageCharWidth() * myMostCharacters));
+    if (myMostCharacters)
+        result.setWidth(qMin(result.width(), fontMetrics().averageCharWidth() * *myMostCharacters));
     return result;
 }
 
@@ -55,7 +55,9 @@ void ElidedLabel::paintEvent(QPaintEvent *event)
         return;
     }
     QStylePainter painter(this);
-    const int flags = int(alignment()) | (buddy() ? Qt::TextShowMnemonic : 0);
+    int flags = int(alignment());
+    if (buddy())
+        flags |= Qt::TextShowMnemonic;
     const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width(), flags);
     painter.drawItemText(contentsRect(), flags, palette(), isEnabled(), shown, foregroundRole());
 }

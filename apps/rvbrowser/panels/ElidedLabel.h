@@ -3,6 +3,8 @@
 
 #include <QLabel>
 
+#include <optional>
+
 /// One line of plain text, which may be longer than there is room; then it ends in "…", and a tool tip has all of it.
 class ElidedLabel : public QLabel
 {
@@ -26,7 +28,7 @@ protected:
 private:
     bool isElided() const { return QLabel::sizeHint().width() > width(); }
 
-    int myMostCharacters = 0;
+    std::optional<int> myMostCharacters;
     QString myUsualText;
 };
 

@@ -15,11 +15,8 @@ constexpr int PADDING = 5; // beside its text
 
 void FindingBadge::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
-    QStyleOptionViewItem ground(option);
-    initStyleOption(&ground, index);
-    ground.text.clear();
     const QStyle *style = option.widget ? option.widget->style() : QApplication::style();
-    style->drawControl(QStyle::CE_ItemViewItem, &ground, painter, option.widget);
+    style->drawControl(QStyle::CE_ItemViewItem, &option, painter, option.widget);
     const QVariant severity = index.data(ProductTreeModel::SeverityRole);
     if (!severity.isValid())
         return;

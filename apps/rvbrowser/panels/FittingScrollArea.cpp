@@ -19,21 +19,21 @@ void FittingScrollArea::setLeastHeight(int height)
 
 QSize FittingScrollArea::sizeHint() const
 {
-    return myLeastHeight > 0 ? QSize(minimumSizeHint().width(), contentSize().height()) : QScrollArea::sizeHint();
+    return myLeastHeight ? QSize(minimumSizeHint().width(), contentSize().height()) : QScrollArea::sizeHint();
 }
 
 QSize FittingScrollArea::minimumSizeHint() const
 {
-    if (myLeastHeight == 0 || !widget() || !widget()->layout())
+    if (!myLeastHeight || !widget() || !widget()->layout())
         return QScrollArea::minimumSizeHint();
     const int height = contentSize().height();
-    const int bar = height > myLeastHeight ? style()->pixelMetric(QStyle::PM_ScrollBarExtent) : 0;
-    return { widget()->layout()->totalMinimumSize().width() + bar, qMin(height, myLeastHeight) };
+    const int bar = height > *myLeastHeight ? style()->pixelMetric(QStyle::PM_ScrollBarExtent) : 0;
+    return { widget()->layout()->totalMinimumSize().width() + bar, qMin(height, *myLeastHeight) };
 }
 
 bool FittingScrollArea::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == widget() && event->type() == QEvent::LayoutRequest)
+    if (event->type() == QEvent::LayoutRequest)
         fit();
     return QScrollArea::eventFilter(watched, event);
 }
@@ -61,8 +61,6 @@ void FittingScrollArea::fit()
     if (!size.isValid())
         return;
     widget()->resize(size.width(), qMax(size.height(), viewport()->height()));
-    if (myLeastHeight > 0 && size.height() != maximumHeight()) {
+    if (myLeastHeight)
         setMaximumHeight(size.height());
-        updateGeometry();
-    }
 }

@@ -3,6 +3,8 @@
 
 #include <QScrollArea>
 
+#include <optional>
+
 /// A scroll area whose content is as wide as there is room, and as high as its broken lines need at that width.
 class FittingScrollArea : public QScrollArea
 {
@@ -26,7 +28,7 @@ private:
     QSize contentSize() const; // at the width that there is
     void fit();
 
-    int myLeastHeight = 0; // 0 if the height does not follow the content
+    std::optional<int> myLeastHeight; // none if the height does not follow the content
 };
 
 #endif

@@ -44,7 +44,7 @@ int neededWidth(const QWidget &widget)
     const auto *label = qobject_cast<const QLabel *>(&widget);
     if (!label)
         return hint;
-    const int flags = label->buddy() ? Qt::TextShowMnemonic : 0;
+    const int flags = label->buddy() ? Qt::TextShowMnemonic : Qt::TextFlag();
     const QMargins edges = label->contentsMargins();
     return qMin(hint, edges.left() + label->fontMetrics().size(flags, label->text()).width() + edges.right());
 }

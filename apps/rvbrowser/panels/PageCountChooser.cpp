@@ -57,7 +57,7 @@ void PageCountChooser::setPageCounts(const RVPageCountOrganization &pageCounts, 
     model.setPageOrganization(isValid && !isLong ? pageCounts : RVPageCountOrganization());
     if (myList->model() != &model)
         myList->setModel(&model);
-    myList->setCurrentIndex(isValid && !isLong ? 0 : -1);
+    myList->setCurrentIndex(-1); // setRow() chooses one of a list that is shown
     myNumber->setRange(pageCounts.minPages(), pageCounts.maxPages());
     myNumber->setSingleStep(qMax(1, pageCounts.pageIncrement()));
     QWidget *shown = isLong ? static_cast<QWidget *>(myNumber) : myList;

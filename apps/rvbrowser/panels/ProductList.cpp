@@ -83,7 +83,7 @@ void ProductList::fitColumns()
 
 void ProductList::choose(const QModelIndex &current)
 {
-    const QVariant product = current.siblingAtColumn(0).data(ProductTreeModel::ProductRole);
+    const QVariant product = current.data(ProductTreeModel::ProductRole);
     if (!product.isValid() || product.toInt() < 0 || product.toInt() == myProduct)
         return;
     myProduct = product.toInt();

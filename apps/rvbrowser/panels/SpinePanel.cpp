@@ -65,7 +65,7 @@ SpinePanel::SpinePanel(QWidget *parent)
 void SpinePanel::setProduct(const RVCatalogueProduct &product, const RVPageCountOrganization &pageCounts)
 {
     const SpineTable table(product.spine(), pageCounts);
-    myWidest = table.rowCount() > 0 ? qMax(table.row(0).width, table.row(table.rowCount() - 1).width) : 0;
+    myWidest = qMax(table.row(0).width, table.row(table.rowCount()).width); // rows behind the last are the last
     myTable = myWidest > 0 ? table : SpineTable();
     mySideWidth = product.spine().additionalSpineWidth().value(DISTANCE_UNIT_MILLIMETRE);
     myDrawing->setTitle(product.type().toString());

@@ -47,16 +47,16 @@ StartScreen::StartScreen(QWidget *parent)
 
 void StartScreen::arrange(const QList<QWidget *> &widgets)
 {
+    auto *layout = new QHBoxLayout(this);
     auto *column = new QVBoxLayout;
+    layout->addStretch(1);
+    layout->addLayout(column, 2);
+    layout->addStretch(1);
     column->setSpacing(column->spacing() + fontMetrics().height() / 2);
     column->addStretch(1);
     for (QWidget *widget : widgets)
         column->addWidget(widget, 0, qobject_cast<QPushButton *>(widget) ? Qt::AlignLeft : Qt::Alignment());
     column->addStretch(2);
-    auto *layout = new QHBoxLayout(this);
-    layout->addStretch(1);
-    layout->addLayout(column, 2);
-    layout->addStretch(1);
 }
 
 void StartScreen::setRecentFiles(const QStringList &fileNames)
