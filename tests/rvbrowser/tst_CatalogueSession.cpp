@@ -2,6 +2,7 @@
 #include "TestFolder.h"
 
 #include <CatalogueSession.h>
+#include <RVProductCheckerRegistry.h>
 
 #include <QSignalSpy>
 #include <QTest>
@@ -39,6 +40,7 @@ private Q_SLOTS:
     void reloadsOnRequest();
     void reloadsWhatCouldNotBeRead();
     void reloadsAChangedFile();
+    void reloadsAfterAFailure();
     void reloadsWithTheConfiguration();
     void vanishesAndComesBack();
     void mendsTheFirstFile();
@@ -133,6 +135,13 @@ void tst_CatalogueSession::standsBehindTheServices()
     QCOMPARE(pages(), 7);
     QVERIFY(CatalogueServices::isOffered(u"A"_s));
     QVERIFY(!CatalogueServices::isOffered(u"B"_s));
+    QVERIFY(load("<p><product type='A' article_id='1'><forms><form key='k' value='v'/></forms></product></p>"));
+    const auto isValidBoxStyle = [](const RVProductType &type, const QString &value) {
+        return RVProductCheckerRegistry::instance()->isValidBoxStyle(type, RVArticleVariants(u"k"_s, value), 1);
+    };
+    QVERIFY(isValidBoxStyle(u"A"_s, u"v"_s));
+    QVERIFY(!isValidBoxStyle(u"A"_s, u"x"_s));
+    QVERIFY(!isValidBoxStyle(u"B"_s, u"v"_s));
     mySession.reset();
     QVERIFY(!CatalogueServices::pageCounts(u"A"_s).isValid());
 }
@@ -202,6 +211,17 @@ void tst_CatalogueSession::reloadsAChangedFile()
         QVERIFY(myChanged->wait(TIMEOUT));
         QCOMPARE(pages(), count.toInt());
     }
+}
+
+// The catalogue that is shown is followed, though another file could not be opened.
+void tst_CatalogueSession::reloadsAfterAFailure()
+{
+    QVERIFY(load(manyProducts(3)));
+    mySession->open(path(u"missing.xml"_s));
+    QVERIFY(myFailed->wait(TIMEOUT));
+    QVERIFY(myFolder->write(u"c.xml"_s, manyProducts(4)));
+    QVERIFY(myChanged->wait(TIMEOUT));
+    QCOMPARE(mySession->catalogue()->size(), 4);
 }
 
 void tst_CatalogueSession::reloadsWithTheConfiguration()

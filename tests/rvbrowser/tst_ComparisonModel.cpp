@@ -103,6 +103,9 @@ void tst_ComparisonModel::colours()
     QVERIFY(!cover.data(Qt::ForegroundRole).isValid());
     QCOMPARE(cover.siblingAtColumn(ComparisonModel::OldColumn).data(Qt::ForegroundRole), fault);
     QCOMPARE(cover.siblingAtColumn(ComparisonModel::NewColumn).data(Qt::ForegroundRole), gain);
+
+    model.setComparison(compared("<p><product type='A'/></p>", "<p><product type='A' name='n'/></p>"));
+    QCOMPARE(model.index(0, 0, model.index(0, 0)).data(Qt::ForegroundRole), gain);
 }
 
 void tst_ComparisonModel::filters_data()

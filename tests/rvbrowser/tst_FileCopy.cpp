@@ -8,7 +8,33 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <csignal>
+#include <sys/resource.h>
+
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// As long as it lives, files cannot grow beyond 4096 bytes, as on a disk that is full.
+class FileLimit
+{
+public:
+    FileLimit()
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        ::getrlimit(RLIMIT_FSIZE, &myUsual);
+        rlimit limit = myUsual;
+        limit.rlim_cur = 4096;
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileLimit() { ::setrlimit(RLIMIT_FSIZE, &myUsual); }
+    Q_DISABLE_COPY_MOVE(FileLimit)
+
+private:
+    rlimit myUsual;
+};
+
+}
 
 class tst_FileCopy : public QObject
 {
@@ -21,6 +47,8 @@ private Q_SLOTS:
     void goesWithTheObject();
     void nothingToCopy();
     void noRoom();
+    void roomEnds();
+    void roomEndsAtLast();
 };
 
 void tst_FileCopy::keepsTheBytes()
@@ -101,6 +129,32 @@ void tst_FileCopy::noRoom()
     QVERIFY(!copy.errorString().isEmpty());
     copy.append("b", 1);
     copy.finish();
+    QCOMPARE(copy.fileName(), QString());
+}
+
+// What was written of it goes.
+void tst_FileCopy::roomEnds()
+{
+    FileCopy copy(u"source.xml"_s);
+    copy.append("a", 1);
+    const QString fileName = copy.fileName();
+    QVERIFY(QFile::exists(fileName));
+    const FileLimit limit;
+    copy.append(QByteArray(100000, 'x').constData(), 100000);
+    QVERIFY(!copy.errorString().isEmpty());
+    QCOMPARE(copy.fileName(), QString());
+    QVERIFY(!QFile::exists(fileName));
+}
+
+// The last bytes wait in memory until the end.
+void tst_FileCopy::roomEndsAtLast()
+{
+    FileCopy copy(u"source.xml"_s);
+    const FileLimit limit;
+    copy.append(QByteArray(8000, 'x').constData(), 8000);
+    QCOMPARE(copy.errorString(), QString());
+    copy.finish();
+    QVERIFY(!copy.errorString().isEmpty());
     QCOMPARE(copy.fileName(), QString());
 }
 

@@ -245,25 +245,35 @@ void tst_FindingsModel::manyFindings()
 
 void tst_FindingsModel::faultPlaces_data()
 {
+    QTest::addColumn<QByteArray>("content");
     QTest::addColumn<int>("finding");
     QTest::addColumn<QString>("attribute");
     QTest::addColumn<QString>("element");
 
-    QTest::newRow("attribute") << 0 << u"cover_type"_s << QString();
-    QTest::newRow("note") << 1 << u"space_magnitude"_s << QString();
-    QTest::newRow("one of several attributes") << 3 << u"page_step"_s << QString();
-    QTest::newRow("element below") << 4 << QString() << u"forms"_s;
+    const QByteArray sample = FAULTY_PRODUCTS;
+    QTest::newRow("attribute") << sample << 0 << u"cover_type"_s << QString();
+    QTest::newRow("note") << sample << 1 << u"space_magnitude"_s << QString();
+    QTest::newRow("one of several attributes") << sample << 3 << u"page_step"_s << QString();
+    QTest::newRow("element below") << sample << 4 << QString() << u"forms"_s;
+    const QByteArray wrong = "<p><product cover_type='x' type='A' article_id='1' page_binding='y'/></p>";
+    QTest::newRow("first attribute") << wrong << 0 << u"cover_type"_s << QString();
+    QTest::newRow("the same rule again") << wrong << 1 << u"page_binding"_s << QString();
+    QTest::newRow("second element of a name")
+            << QByteArray("<p><product type='A' article_id='1'><forms/><composition/><forms/></product></p>") << 0
+            << QString() << u"forms"_s;
 }
 
 void tst_FindingsModel::faultPlaces()
 {
+    QFETCH(QByteArray, content);
     QFETCH(int, finding);
-    const CataloguePointer catalogue = readCatalogue(FAULTY_PRODUCTS);
+    const CataloguePointer catalogue = readCatalogue(content);
     const RVCatalogueFinding &found = catalogue->findings().at(finding);
     const FaultPlace place = FaultPlace::of(found, catalogue->product(int(found.product())), catalogue->check());
     QTEST(place.attribute, "attribute");
     QTEST(place.element, "element");
-    const FaultPlace other = FaultPlace::of(found, catalogue->product(2), catalogue->check()); // which has no fault
+    const CataloguePointer sample = readCatalogue(FAULTY_PRODUCTS);
+    const FaultPlace other = FaultPlace::of(found, sample->product(2), sample->check()); // which has no fault
     QCOMPARE(other.attribute, QString());
     QCOMPARE(other.element, QString());
 }

@@ -116,6 +116,10 @@ void tst_LoadedCatalogue::productsAndFindings()
     QCOMPARE(catalogue->indexOf(u"A"_s), 0);
     QCOMPARE(catalogue->indexOf(u"B"_s), 1);
     QCOMPARE(catalogue->indexOf(u"C"_s), -1);
+    QCOMPARE(catalogue->indexOf(u"A"_s, { 4, 1 }), 2);
+    QCOMPARE(catalogue->indexOf(u"B"_s, { 2, 5 }), 1); // of another type, nearly there, and behind all
+    QCOMPARE(catalogue->indexOf(u"A"_s, { 3, 1 }), 0);
+    QCOMPARE(catalogue->indexOf(u"A"_s, { 9, 1 }), 0);
     QVERIFY(catalogue->isSold(0));
     QVERIFY(catalogue->isSold(1));
     QVERIFY(!catalogue->isSold(2));
@@ -258,9 +262,9 @@ void tst_LoadedCatalogue::needsLittle()
     CountedStream stream(content);
     const auto catalogue = read(&stream);
     QCOMPARE(catalogue->size(), count);
+    QVERIFY(catalogue->packedBytes() > 0);
     QSet<const QChar *> texts;
     qsizetype kept = catalogue->packedBytes();
-    QVERIFY(kept > 0);
     const auto add = [&](const QString &text) {
         if (texts.contains(text.constData()))
             return;

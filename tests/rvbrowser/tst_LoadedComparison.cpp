@@ -1,5 +1,6 @@
 #include "ComparedCatalogues.h"
 
+#include <QJsonObject>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -15,6 +16,7 @@ private Q_SLOTS:
     void singles();
     void manySingles();
     void equalChangesAreShared();
+    void unequalChangesAreNot();
     void equalCatalogues();
 };
 
@@ -104,6 +106,22 @@ void tst_LoadedComparison::equalChangesAreShared()
     QCOMPARE(second.newValue().text, u"\"y\""_s);
     QCOMPARE(static_cast<const void *>(first.newValue().text.constData()),
              static_cast<const void *>(second.newValue().text.constData()));
+}
+
+// Two options that look the same and differ in what is not shown.
+void tst_LoadedComparison::unequalChangesAreNot()
+{
+    const auto form = [](const QByteArray &name) {
+        return "<forms><form key='k' value='v' value_name='n' editor_name='" + name + "'/></forms>";
+    };
+    const ComparisonPointer comparison = compared("<p><product type='A'/><product type='B'/></p>",
+                                                  "<p><product type='A'>" + form("x") + "</product><product type='B'>"
+                                                          + form("y") + "</product></p>");
+    const auto editorName = [&comparison](int product) {
+        return comparison->at(product).changes.constFirst().newValue().value.toObject().value("editor_name"_L1);
+    };
+    QCOMPARE(editorName(0).toString(), u"x"_s);
+    QCOMPARE(editorName(1).toString(), u"y"_s);
 }
 
 void tst_LoadedComparison::equalCatalogues()

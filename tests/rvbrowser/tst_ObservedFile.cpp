@@ -12,43 +12,60 @@ class tst_ObservedFile : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void tellsThePercentage_data();
     void tellsThePercentage();
-    void isEmpty();
+    void isCutOffMeanwhile();
     void endsOnRequest();
     void isCopied();
+    void isNotCopied();
 
 private:
     TestFolder myFolder;
-    QList<int> myPercents;
 };
+
+void tst_ObservedFile::tellsThePercentage_data()
+{
+    QTest::addColumn<int>("size");
+    QTest::addColumn<QList<int>>("pieces");
+    QTest::addColumn<QList<int>>("percents"); // before each piece, and before nothing more comes
+
+    QTest::newRow("quarters") << 400 << QList<int> { 100, 100, 100, 100 } << QList<int> { 0, 25, 50, 75, 100 };
+    QTest::newRow("rounded down") << 200 << QList<int> { 199, 1 } << QList<int> { 0, 99, 100 };
+    QTest::newRow("a single byte") << 1 << QList<int> { 1 } << QList<int> { 0, 100 };
+    // Such a file, and one that does not know its size, have no percentage.
+    QTest::newRow("empty") << 0 << QList<int> {} << QList<int> { 0 };
+}
 
 void tst_ObservedFile::tellsThePercentage()
 {
-    myPercents.clear();
-    QVERIFY(myFolder.write(u"f"_s, QByteArray(400, 'x')));
-    ObservedFile file(myFolder.path(u"f"_s), [this](int percent) {
-        myPercents += percent;
+    QFETCH(int, size);
+    QFETCH(QList<int>, pieces);
+    QList<int> percents;
+    QVERIFY(myFolder.write(u"f"_s, QByteArray(size, 'x')));
+    ObservedFile file(myFolder.path(u"f"_s), [&percents](int percent) {
+        percents += percent;
         return true;
     });
     QVERIFY(file.open(QIODevice::ReadOnly | QIODevice::Unbuffered));
-    for (int i = 0; i < 4; ++i)
-        QCOMPARE(file.read(100), QByteArray(100, 'x'));
+    for (const int piece : pieces)
+        QCOMPARE(file.read(piece), QByteArray(piece, 'x'));
     QCOMPARE(file.read(100), QByteArray());
-    QCOMPARE(myPercents, (QList<int> { 0, 25, 50, 75, 100 }));
+    QTEST(percents, "percents");
 }
 
-// Such a file, and one that does not know its size, have no percentage.
-void tst_ObservedFile::isEmpty()
+void tst_ObservedFile::isCutOffMeanwhile()
 {
-    myPercents.clear();
-    QVERIFY(myFolder.write(u"f"_s, QByteArray()));
-    ObservedFile file(myFolder.path(u"f"_s), [this](int percent) {
-        myPercents += percent;
+    QList<int> percents;
+    QVERIFY(myFolder.write(u"f"_s, QByteArray(400, 'x')));
+    ObservedFile file(myFolder.path(u"f"_s), [&percents](int percent) {
+        percents += percent;
         return true;
     });
     QVERIFY(file.open(QIODevice::ReadOnly | QIODevice::Unbuffered));
-    QCOMPARE(file.read(100), QByteArray());
-    QCOMPARE(myPercents, QList<int> { 0 });
+    QCOMPARE(file.read(400).size(), 400);
+    QVERIFY(QFile::resize(myFolder.path(u"f"_s), 200));
+    QCOMPARE(file.read(1), QByteArray());
+    QCOMPARE(percents, (QList<int> { 0, 100 }));
 }
 
 void tst_ObservedFile::endsOnRequest()
@@ -75,6 +92,19 @@ void tst_ObservedFile::isCopied()
     QFile copied(copy.fileName());
     QVERIFY(copied.open(QIODevice::ReadOnly));
     QCOMPARE(copied.readAll(), QByteArray("c"));
+}
+
+// An empty file has nothing that a copy could have.
+void tst_ObservedFile::isNotCopied()
+{
+    QVERIFY(myFolder.write(u"f"_s, QByteArray()));
+    FileCopy copy(u"f"_s);
+    ObservedFile file(myFolder.path(u"f"_s), [](int) { return true; });
+    file.setCopy(&copy);
+    QVERIFY(file.open(QIODevice::ReadOnly | QIODevice::Unbuffered));
+    QCOMPARE(file.read(100), QByteArray());
+    copy.finish();
+    QCOMPARE(copy.fileName(), QString());
 }
 
 QTEST_GUILESS_MAIN(tst_ObservedFile)

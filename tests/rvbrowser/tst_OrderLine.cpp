@@ -23,6 +23,7 @@ private Q_SLOTS:
     void growsWithItsText();
     void growsWhereItIsNarrow();
     void breaksBehindSeparators();
+    void separators();
     void scrollsWhatIsLong();
     void cannotBeChanged();
     void isLeftByTab();
@@ -101,6 +102,13 @@ void tst_OrderLine::breaksBehindSeparators()
     myLine->selectAll();
     myLine->copy();
     QCOMPARE(QGuiApplication::clipboard()->text(), text);
+}
+
+// Every separator of an order.
+void tst_OrderLine::separators()
+{
+    myLine->setText(u"a,b;c:d.e"_s);
+    QCOMPARE(myLine->toPlainText(), u"a,\u200Bb;\u200Bc:\u200Bd.e"_s);
 }
 
 void tst_OrderLine::scrollsWhatIsLong()

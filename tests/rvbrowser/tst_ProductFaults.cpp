@@ -26,6 +26,17 @@ void tst_ProductFaults::text_data()
     QTest::newRow("a warning is no fault") << QByteArray("article_id='1' price_class='nonsense'") << QString();
     QTest::newRow("one") << QByteArray("article_id='1' cover_type='hardcovr'")
                          << u"\"hardcovr\" is no keyword of cover_type; did you mean \"hardcover\"?"_s;
+    QTest::newRow("three") << QByteArray(
+            "article_id='1' cover_type='hardcovr' page_binding='glu' paper_type='fotopapr'")
+                           << u"\"hardcovr\" is no keyword of cover_type; did you mean \"hardcover\"?\n"
+                              "\"glu\" is no keyword of page_binding; did you mean \"glue\"?\n"
+                              "\"fotopapr\" is no keyword of paper_type; did you mean \"fotopaper\"?"_s;
+    QTest::newRow("four") << QByteArray("article_id='1' cover_type='hardcovr' page_binding='glu' "
+                                        "paper_type='fotopapr' orientation='portrai'")
+                          << u"\"hardcovr\" is no keyword of cover_type; did you mean \"hardcover\"?\n"
+                             "\"glu\" is no keyword of page_binding; did you mean \"glue\"?\n"
+                             "\"fotopapr\" is no keyword of paper_type; did you mean \"fotopaper\"?\n"
+                             "and 1 more, which the findings have"_s;
     QTest::newRow("more than three") << QByteArray("article_id='1' cover_type='hardcovr' page_binding='glu' "
                                                    "paper_type='fotopapr' orientation='portrai' "
                                                    "space_magnitude='600cm'")

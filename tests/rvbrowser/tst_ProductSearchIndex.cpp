@@ -90,7 +90,14 @@ void tst_ProductSearchIndex::commonTextsAreKeptOnce()
     for (int i = 0; i < 1000; ++i)
         index.append(QString::number(i), common);
     QVERIFY2(index.byteCount() < 40000, qPrintable(QString::number(index.byteCount())));
+    constexpr int digits = 10 + 90 * 2 + 900 * 3;
+    QVERIFY(index.byteCount() >= common.size() + digits + 1000 * 2 * int(sizeof(int))); // two numbers a product
     QCOMPARE(index.find(u"ccc"_s).size(), 1000);
+
+    ProductSearchIndex different;
+    for (int i = 0; i < 1000; ++i)
+        different.append(QString(), QString::number(i));
+    QVERIFY(different.byteCount() >= digits + 1000 * int(sizeof(QByteArray) + 2 * sizeof(int)));
 }
 
 // Against the plain way, for words of all lengths.

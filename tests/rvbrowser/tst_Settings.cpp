@@ -113,10 +113,13 @@ void tst_Settings::forgets()
     settings.setValue(u"a/x/1"_s, 1);
     settings.setValue(u"a/y/2"_s, 2);
     settings.setValue(u"b"_s, 3);
+    settings.refresh();
+    QVERIFY(readFile(path()).contains("b=3"));
     QCOMPARE(settings.groups(u"a"_s), (QStringList { u"x"_s, u"y"_s }));
     settings.remove(u"a/x"_s);
     QCOMPARE(settings.groups(u"a"_s), QStringList { u"y"_s });
     settings.forgetEverything();
+    QVERIFY(!readFile(path()).contains("b=3"));
     QVERIFY(settings.groups(u"a"_s).isEmpty());
     QVERIFY(!Settings(path()).value(u"b"_s).isValid());
 }

@@ -48,6 +48,7 @@ void tst_SettingsGroup::keepsValues()
     QCOMPARE(group.values({ u"a"_s }).value(u"n"_s).toInt(), 2);
     QCOMPARE(group.values({ u"a"_s }).value(u"m"_s).toString(), u"x"_s);
     QCOMPARE(group.newest().size(), 1);
+    QCOMPARE(mySettings->groups(u"g"_s), QStringList { u"ca978112ca1bbdcafac2"_s }); // as in all files that exist
     QVERIFY(SettingsGroup(mySettings.get(), u"other"_s, 3).newest().isEmpty());
 }
 
@@ -107,6 +108,7 @@ void tst_SettingsGroup::survivesADamagedAge()
     group.setValues({ u"1"_s }, { { u"n"_s, 1 } });
     QCOMPARE(numbers(group).size(), 2);
     QVERIFY(numbers(group).contains(u"1"_s));
+    QVERIFY(!numbers(group).contains(u"future"_s)); // neither is younger, so the first name goes first
     group.setValues({ u"2"_s }, { { u"n"_s, 2 } });
     QVERIFY(numbers(group).contains(u"2"_s));
 }
