@@ -141,6 +141,7 @@ void tst_ComparisonLoader::reportsItsProgress()
     int last = -1;
     for (const QList<QVariant> &arguments : std::as_const(progressed)) {
         QVERIFY(arguments.at(0).toInt() > last);
+        QVERIFY(arguments.at(0).toInt() <= last + 10);
         last = arguments.at(0).toInt();
     }
     QCOMPARE(last, 100);

@@ -21,6 +21,7 @@
 #include <QLayout>
 #include <QLineEdit>
 #include <QProcess>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -83,6 +84,7 @@ private Q_SLOTS:
     void brokenFile();
     void vanishedFile();
     void cancelsByKey();
+    void cancelsOneAfterTheOther();
     void closes();
     void closesWhileComparing();
     void dockStaysHidden();
@@ -107,6 +109,8 @@ private:
     void open(const QByteArray &content);
     /// Compares a file with this content with the open one.
     void compareWith(const QByteArray &content);
+    QAction *action(const QString &text) const;
+    bool isEnabled(const QString &text) const { return action(text)->isEnabled(); }
     void trigger(const QString &text);
     template<typename T>
     T *find(const QString &name) const
@@ -146,16 +150,19 @@ void tst_ComparisonPanel::compareWith(const QByteArray &content)
     QVERIFY(changed.wait(TIMEOUT));
 }
 
-void tst_ComparisonPanel::trigger(const QString &text)
+QAction *tst_ComparisonPanel::action(const QString &text) const
 {
     for (QAction *action : myWindow->findChildren<QAction *>()) {
-        if (action->text().remove(u'&') == text) {
-            QVERIFY2(action->isEnabled(), qPrintable(text));
-            action->trigger();
-            return;
-        }
+        if (action->text().remove(u'&') == text)
+            return action;
     }
-    QFAIL(qPrintable(text));
+    qFatal("no action: %s", qPrintable(text));
+}
+
+void tst_ComparisonPanel::trigger(const QString &text)
+{
+    QVERIFY2(isEnabled(text), qPrintable(text));
+    action(text)->trigger();
 }
 
 QStringList tst_ComparisonPanel::shown() const
@@ -192,6 +199,7 @@ void tst_ComparisonPanel::cleanup()
 void tst_ComparisonPanel::nothingOpen()
 {
     QVERIFY(!myWindow->comparison()->dock()->isVisible());
+    QCOMPARE(myWindow->comparison()->dock()->objectName(), u"changesDock"_s); // by which its place is remembered
     for (const QAction *action : myWindow->comparison()->findChildren<QAction *>())
         QVERIFY2(!action->isEnabled(), qPrintable(action->text()));
     open(NEW_CATALOGUE);
@@ -223,6 +231,7 @@ void tst_ComparisonPanel::leadsToProducts()
     QCOMPARE(text(u"title"_s), u"C2 – Kalender"_s);
     choose(u"E"_s);
     QCOMPARE(text(u"title"_s), u"E – Etikett"_s);
+    QCOMPARE(find<QTreeView>(u"products"_s)->currentIndex().siblingAtColumn(0).data().toString(), u"E"_s);
 }
 
 // And from there back to any product of the list.
@@ -237,6 +246,7 @@ void tst_ComparisonPanel::showsWhatWasRemoved()
     QCOMPARE(text(u"note"_s),
              u"The open catalogue does not have this product; this is the one of %1."_s.arg(path(u"old.xml"_s)));
     QVERIFY(!find<QTreeView>(u"products"_s)->currentIndex().isValid());
+    QCOMPARE(session()->indexInOpen(2), -1);
     choose(u"A"_s);
     QCOMPARE(text(u"title"_s), u"A – Album"_s);
     choose(u"B"_s);
@@ -515,10 +525,15 @@ void tst_ComparisonPanel::cancelsByKey()
     compareWith(OLD_CATALOGUE);
     write(u"big.xml"_s, manyProducts(50000));
     QSignalSpy ended(session(), &ComparisonSession::ended);
+    QSignalSpy progressed(session(), &ComparisonSession::progressed);
     session()->compareWith(path(u"big.xml"_s));
     QVERIFY(find<QWidget>(u"comparisonProgress"_s)->isVisible());
+    const auto percent = [&progressed] { return progressed.isEmpty() ? 0 : progressed.constLast().at(0).toInt(); };
+    QTRY_VERIFY_WITH_TIMEOUT(percent() > 0, TIMEOUT);
+    QCOMPARE(find<QWidget>(u"comparisonProgress"_s)->findChild<QProgressBar *>()->value(), percent());
     QTest::keyClick(myWindow.get(), Qt::Key_Escape);
     QVERIFY(ended.wait(TIMEOUT));
+    QVERIFY(!isEnabled(u"Cancel comparing"_s));
     QVERIFY(!find<QWidget>(u"comparisonProgress"_s)->isVisible());
     QCOMPARE(shown().size(), 4); // as before
     session()->compareWith(path(u"big.xml"_s));
@@ -528,6 +543,23 @@ void tst_ComparisonPanel::cancelsByKey()
     QCOMPARE(ended.size(), 2);
 }
 
+// Of what goes on at once the key cancels one, and then the other.
+void tst_ComparisonPanel::cancelsOneAfterTheOther()
+{
+    open(NEW_CATALOGUE);
+    write(u"big.xml"_s, manyProducts(50000));
+    session()->compareWith(path(u"big.xml"_s));
+    QVERIFY(isEnabled(u"Cancel comparing"_s));
+    QSignalSpy ended(myWindow->session(), &CatalogueSession::ended);
+    myWindow->session()->open(path(u"big.xml"_s));
+    QVERIFY(!isEnabled(u"Cancel comparing"_s));
+    QTest::keyClick(myWindow.get(), Qt::Key_Escape);
+    QVERIFY(!ended.isEmpty() || ended.wait(TIMEOUT));
+    QVERIFY(!myWindow->session()->isLoading());
+    QCOMPARE(isEnabled(u"Cancel comparing"_s), session()->isComparing());
+    QVERIFY(session()->isComparing());
+}
+
 void tst_ComparisonPanel::closes()
 {
     open(NEW_CATALOGUE);
@@ -535,6 +567,9 @@ void tst_ComparisonPanel::closes()
     trigger(u"Close comparison"_s);
     QVERIFY(!myWindow->comparison()->dock()->isVisible());
     QVERIFY(!session()->isActive());
+    for (const QString &text :
+         { u"Close comparison"_s, u"Swap old and new"_s, u"Next change"_s, u"Save changes as…"_s })
+        QVERIFY2(!isEnabled(text), qPrintable(text));
     QSignalSpy started(session(), &ComparisonSession::started);
     open(OLD_CATALOGUE);
     QCOMPARE(started.size(), 0);
@@ -587,6 +622,15 @@ void tst_ComparisonPanel::dockIsHighEnough()
     open(manyProducts(3));
     QVERIFY(!changed.isEmpty() || changed.wait(TIMEOUT));
     QTRY_VERIFY(changes()->viewport()->height() >= 5 * changes()->visualRect(changes()->model()->index(0, 0)).height());
+
+    // Only once; then it is as the user wants it.
+    QDockWidget *dock = myWindow->comparison()->dock();
+    myWindow->resizeDocks({ dock }, { dock->minimumSizeHint().height() }, Qt::Vertical);
+    QTRY_VERIFY(dock->height() < dock->sizeHint().height());
+    const int height = dock->height();
+    compareWith(OLD_CATALOGUE);
+    QCoreApplication::processEvents();
+    QVERIFY(dock->height() <= height);
 }
 
 // Names of files may be of any length.
@@ -755,6 +799,8 @@ void tst_ComparisonPanel::staysWithTheProduct()
     panel.setComparison(compared(OLD_CATALOGUE, NEW_CATALOGUE));
     QCOMPARE(current(), QString());
     changesOf(panel)->setCurrentIndex(firstColumn(panel, 0));
+    panel.setComparison(compared(OLD_CATALOGUE, NEW_CATALOGUE));
+    QCOMPARE(current(), u"E"_s);
     const QByteArray more = QByteArray(NEW_CATALOGUE).replace("<products>\n", "<products>\n<product type='F'/>");
     panel.setComparison(compared(OLD_CATALOGUE, more));
     QCOMPARE(current(), u"E"_s);

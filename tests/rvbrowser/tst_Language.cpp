@@ -12,12 +12,16 @@ QStringList texts()
     return { QCoreApplication::translate("MainWindow", "&Open…"),
              QCoreApplication::translate("RVCatalogueReader", "the file is empty"),
              QCoreApplication::translate("QObject", "RAVO FOTOBUCH"),
-             QCoreApplication::translate("ProductList", "%n product(s)", nullptr, 2) };
+             QCoreApplication::translate("ProductList", "%n product(s)", nullptr, 2),
+             QCoreApplication::translate("SpinePlot", "largest font size in pt") };
 }
 
-const QStringList SOURCES { u"&Open…"_s, u"the file is empty"_s, u"RAVO FOTOBUCH"_s, u"2 product(s)"_s };
-const QStringList GERMAN { u"Ö&ffnen …"_s, u"die Datei ist leer"_s, u"RAVO FOTOBUCH"_s, u"2 Produkte"_s };
-const QStringList ENGLISH { u"&Open…"_s, u"the file is empty"_s, u"RAVO PHOTO BOOK"_s, u"2 products"_s };
+const QStringList SOURCES { u"&Open…"_s, u"the file is empty"_s, u"RAVO FOTOBUCH"_s, u"2 product(s)"_s,
+                            u"largest font size in pt"_s };
+const QStringList GERMAN { u"Ö&ffnen …"_s, u"die Datei ist leer"_s, u"RAVO FOTOBUCH"_s, u"2 Produkte"_s,
+                           u"größte Schrift in pt"_s };
+const QStringList ENGLISH { u"&Open…"_s, u"the file is empty"_s, u"RAVO PHOTO BOOK"_s, u"2 products"_s,
+                            u"largest font size in pt"_s };
 
 }
 

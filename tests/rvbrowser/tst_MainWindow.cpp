@@ -233,6 +233,9 @@ void tst_MainWindow::choosesAFile()
     QVERIFY(changed.wait(20000));
     QCOMPARE(myWindow->session()->catalogue()->fileName(), path(u"d.xml"_s));
 
+    QVERIFY(QDir(myFolder->path()).mkdir(u"newest"_s));
+    QVERIFY(QFile::copy(path(u"d.xml"_s), path(u"newest/d.xml"_s)));
+    open(u"newest/d.xml"_s);
     myWindow->close();
     myWindow = std::make_unique<MainWindow>(path(u"settings.ini"_s));
     folder.clear();
@@ -241,7 +244,7 @@ void tst_MainWindow::choosesAFile()
         folder = dialog->directory().absolutePath();
         dialog->reject();
     }));
-    QCOMPARE(folder, myFolder->path());
+    QCOMPARE(folder, path(u"newest"_s));
     QVERIFY(started.isEmpty());
 }
 

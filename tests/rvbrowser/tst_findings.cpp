@@ -69,6 +69,8 @@ private Q_SLOTS:
     void appliesAFix();
     void appliesAllFixes();
     void refusesAChangedFile();
+    void refusesAFileThatChangesMeanwhile();
+    void showsTheFaultAgain();
     void opensTheEditor();
     void choosesTheEditor();
 
@@ -517,6 +519,7 @@ void tst_findings::appliesAFix()
     QSignalSpy changed(myWindow->session(), &CatalogueSession::catalogueChanged);
     QVERIFY(find<FixDialog>(u"fixDialog"_s));
     find<FixDialog>(u"fixDialog"_s)->accept();
+    QCOMPARE(myWindow->statusBar()->currentMessage(), u"1 fix applied."_s);
     QTRY_VERIFY(!find<FixDialog>(u"fixDialog"_s));
     QCOMPARE(content(u"c.xml"_s), QByteArray(FAULTY_PRODUCTS).replace("hardcovr", "hardcover"));
     QVERIFY(!changed.isEmpty() || changed.wait(20000)); // by itself
@@ -551,6 +554,37 @@ void tst_findings::refusesAChangedFile()
     QCOMPARE(content(u"c.xml"_s), changed);
 }
 
+// Also where it changes while the fix is looked at.
+void tst_findings::refusesAFileThatChangesMeanwhile()
+{
+    load();
+    press(Qt::Key_F8);
+    press(Qt::Key_Period, Qt::ControlModifier);
+    const QByteArray changed = "<!-- mine -->" + QByteArray(FAULTY_PRODUCTS);
+    write(u"c.xml"_s, changed);
+    find<FixDialog>(u"fixDialog"_s)->accept();
+    const QString text = myWindow->findChild<MessageBanner *>()->text();
+    QVERIFY2(text.contains("Nothing was changed."_L1), qPrintable(text));
+    QCOMPARE(content(u"c.xml"_s), changed);
+}
+
+// The fault is still pointed out after the catalogue was loaded again, but not in another product.
+void tst_findings::showsTheFaultAgain()
+{
+    load();
+    for (int i = 0; i < 4; ++i)
+        press(Qt::Key_F8);
+    const auto *fault = find<QLabel>(u"fault"_s);
+    QVERIFY(fault->isVisible());
+    load("\n" + QByteArray(FAULTY_PRODUCTS));
+    QTRY_VERIFY(fault->isVisible());
+    myWindow->showType(RVProductType(u"VIR1"_s));
+    QVERIFY(!fault->isVisible());
+    load();
+    QCoreApplication::processEvents();
+    QVERIFY(!fault->isVisible());
+}
+
 void tst_findings::opensTheEditor()
 {
     load();
@@ -573,9 +607,11 @@ void tst_findings::opensTheEditor()
     myWindow->showType(RVProductType(u"VIR1"_s)); // which comes after the finding
     press(Qt::Key_F2);
     QCOMPARE(opened(), (QStringList { u"4"_s, u"1"_s, file }));
-    // Nor is a finding of the first product one of the chosen product.
     QTest::mouseClick(view()->viewport(), Qt::LeftButton, {},
                       view()->visualRect(view()->model()->index(0, 3)).center());
+    press(Qt::Key_F2);
+    QCOMPARE(opened(), (QStringList { u"2"_s, u"70"_s, file }));
+    // Nor is a finding of the first product one of the chosen product.
     myWindow->showType(RVProductType(u"VIR1"_s));
     press(Qt::Key_F2);
     QCOMPARE(opened(), (QStringList { u"4"_s, u"1"_s, file }));

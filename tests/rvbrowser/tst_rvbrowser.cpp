@@ -22,6 +22,7 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QProcess>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QSignalSpy>
@@ -78,6 +79,7 @@ private Q_SLOTS:
     void searches_data();
     void searches();
     void searchIsNoChoice();
+    void searchStays();
     void searchWithoutResult();
     void searchByKeys();
     void choosesByKeys();
@@ -266,6 +268,18 @@ void tst_rvbrowser::searchIsNoChoice()
     }
     QTest::keyClick(products, Qt::Key_Down);
     QCOMPARE(text(u"title"_s), u"DUNS4 – Heft"_s);
+}
+
+// Of another catalogue the first product that is found is shown.
+void tst_rvbrowser::searchStays()
+{
+    load(CATALOGUE);
+    QTest::keyClicks(find<QLineEdit>(u"search"_s), u"wand"_s);
+    write(u"d.xml"_s, CATALOGUE);
+    QSignalSpy changed(myWindow->session(), &CatalogueSession::catalogueChanged);
+    myWindow->session()->open(path(u"d.xml"_s));
+    QVERIFY(changed.wait(20000));
+    QCOMPARE(text(u"title"_s), u"VIR1 – Wandkalender"_s);
 }
 
 void tst_rvbrowser::searchWithoutResult()
@@ -734,7 +748,9 @@ void tst_rvbrowser::cancelsALoad()
     QSignalSpy progressed(myWindow->session(), &CatalogueSession::progressed);
     myWindow->session()->open(path(u"big.xml"_s));
     QVERIFY(find<QWidget>(u"progress"_s)->isVisible());
-    QVERIFY(progressed.wait(20000));
+    const auto percent = [&progressed] { return progressed.isEmpty() ? 0 : progressed.constLast().at(0).toInt(); };
+    QTRY_VERIFY_WITH_TIMEOUT(percent() > 0, 20000);
+    QCOMPARE(find<QWidget>(u"progress"_s)->findChild<QProgressBar *>()->value(), percent());
     QTest::mouseClick(find<QPushButton>(u"progressCancel"_s), Qt::LeftButton);
     QVERIFY(ended.wait(20000));
     QVERIFY(!myWindow->session()->isLoading());
@@ -751,14 +767,19 @@ void tst_rvbrowser::cancelsALoad()
 void tst_rvbrowser::drop(const QMimeData &data)
 {
     const QPoint middle = myWindow->rect().center();
-    QDragEnterEvent enter(middle, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    // With this key files are moved.
+    const Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction;
+    QDragEnterEvent enter(middle, actions, &data, Qt::LeftButton, Qt::ShiftModifier);
     enter.ignore();
     QApplication::sendEvent(myWindow.get(), &enter);
     if (!enter.isAccepted())
         return;
     QCOMPARE(enter.dropAction(), Qt::CopyAction);
-    QDropEvent event(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QDropEvent event(middle, actions, &data, Qt::LeftButton, Qt::ShiftModifier);
+    event.ignore();
     QApplication::sendEvent(myWindow.get(), &event);
+    QVERIFY(event.isAccepted());
+    QCOMPARE(event.dropAction(), Qt::CopyAction);
 }
 
 void tst_rvbrowser::dropsAFile()

@@ -1,9 +1,11 @@
 #include "EnglishTest.h"
 #include "WrittenFile.h"
 
+#include <ComparisonActions.h>
 #include <FindingsDock.h>
 #include <Language.h>
 #include <MainWindow.h>
+#include <RecentFilesMenu.h>
 
 #include <QAction>
 #include <QApplication>
@@ -11,6 +13,7 @@
 #include <QDir>
 #include <QFile>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QProcess>
@@ -57,6 +60,12 @@ private Q_SLOTS:
     void remembersItsPlace();
     void remembersTheFindings();
     void remembersProducts();
+    void remembersWhatIsChosenAfterAReload();
+    void remembersBeforeAReload();
+    void remembersBesideAComparison();
+    void remembersAtOnce();
+    void menuOfRecentFiles();
+    void lastProductBeforeWhatIsFound();
     void remembersWhileItRuns();
     void forgottenStaysForgotten();
     void ignoresWhatIsNotOffered();
@@ -76,6 +85,8 @@ private:
     /// Closes the window that there is, and opens a new one.
     void startAgain();
     void open(const QString &name);
+    /// Writes the open catalogue anew, and waits until it was loaded again.
+    void change(const QByteArray &content);
     void choose(const QString &type) { QVERIFY(myWindow->showType(RVProductType(type))); }
     template<typename T>
     T *find(const QString &name) const
@@ -117,6 +128,14 @@ void tst_window_memory::open(const QString &name)
 {
     QSignalSpy changed(myWindow->session(), &CatalogueSession::catalogueChanged);
     myWindow->session()->open(path(name));
+    QVERIFY(changed.wait(20000));
+}
+
+void tst_window_memory::change(const QByteArray &content)
+{
+    QSignalSpy changed(myWindow->session(), &CatalogueSession::catalogueChanged);
+    write(u"c.xml"_s, content);
+    myWindow->session()->reload();
     QVERIFY(changed.wait(20000));
 }
 
@@ -206,6 +225,86 @@ bool tst_window_memory::isRedRemembered() const
     settings.refresh();
     const auto choice = ProductMemory(&settings).choice(path(u"c.xml"_s), RVProductType(u"DUN9"_s));
     return choice && choice->variants.value(u"alcolor"_s) == "red"_L1;
+}
+
+void tst_window_memory::remembersWhatIsChosenAfterAReload()
+{
+    open(u"c.xml"_s);
+    change(QByteArray(CATALOGUE).replace("'Buch'", "'Band'"));
+    find<QComboBox>(u"option alcolor"_s)->setCurrentIndex(1);
+    startAgain();
+    open(u"c.xml"_s);
+    QCOMPARE(color(), u"Rot"_s);
+}
+
+// What was chosen just before the catalogue no longer offered it is there again when the catalogue does.
+void tst_window_memory::remembersBeforeAReload()
+{
+    open(u"c.xml"_s);
+    find<QComboBox>(u"option alcolor"_s)->setCurrentIndex(1);
+    change(QByteArray(CATALOGUE).replace("'red'", "'blue'"));
+    QCOMPARE(color(), u"Schwarz"_s);
+    change(CATALOGUE);
+    startAgain();
+    open(u"c.xml"_s);
+    QCOMPARE(color(), u"Rot"_s);
+}
+
+// What is chosen for a product that only the other catalogue has belongs to no product of this one.
+void tst_window_memory::remembersBesideAComparison()
+{
+    const QByteArray first = "<product type='A' article_id='1' pages='20' max_pages='40' page_step='2'/>";
+    write(u"a.xml"_s, "<p>" + first + "</p>");
+    write(u"b.xml"_s, "<p>" + first + QByteArray(first).replace("'A'", "'B'") + "</p>");
+    open(u"a.xml"_s);
+    QSignalSpy compared(myWindow->comparison()->session(), &ComparisonSession::changed);
+    myWindow->comparison()->session()->compareWith(path(u"b.xml"_s));
+    QVERIFY(compared.wait(20000));
+    auto *changes = find<QTreeView>(u"changes"_s);
+    QTest::mouseClick(changes->viewport(), Qt::LeftButton, {},
+                      changes->visualRect(changes->model()->index(0, 0)).center());
+    QCOMPARE(title(), u"B"_s);
+    find<QComboBox>(u"pageCounts"_s)->setCurrentIndex(2);
+    startAgain();
+    open(u"a.xml"_s);
+    QCOMPARE(pages(), u"20 pages"_s);
+}
+
+void tst_window_memory::remembersAtOnce()
+{
+    open(u"c.xml"_s);
+    myWindow->close();
+    QVERIFY(readFile(path(u"settings.ini"_s)).contains("[window]"));
+}
+
+void tst_window_memory::menuOfRecentFiles()
+{
+    open(u"c.xml"_s);
+    startAgain();
+    auto *menu = myWindow->findChild<RecentFilesMenu *>();
+    Q_EMIT menu->aboutToShow();
+    QSignalSpy changed(myWindow->session(), &CatalogueSession::catalogueChanged);
+    menu->actions().constFirst()->trigger();
+    QVERIFY(changed.wait(20000));
+    QCOMPARE(myWindow->session()->catalogue()->fileName(), path(u"c.xml"_s));
+
+    startAgain();
+    QCOMPARE(find<QListWidget>(u"recentList"_s)->count(), 1);
+    menu = myWindow->findChild<RecentFilesMenu *>();
+    Q_EMIT menu->aboutToShow();
+    menu->actions().constLast()->trigger();
+    QCOMPARE(find<QListWidget>(u"recentList"_s)->count(), 0);
+}
+
+void tst_window_memory::lastProductBeforeWhatIsFound()
+{
+    open(u"c.xml"_s);
+    write(u"other.xml"_s, CATALOGUE);
+    open(u"other.xml"_s);
+    choose(u"DUN1"_s);
+    find<QLineEdit>(u"search"_s)->setText(u"Heft"_s);
+    open(u"c.xml"_s);
+    QCOMPARE(title(), u"DUN9 – Buch"_s);
 }
 
 // A program that is killed in the evening does not close its window.
