@@ -33,6 +33,14 @@ private:
     QSizeF mySize;
 };
 
+/// A drawing with texts that keep their size, so that it is higher where it is reduced.
+class FixedTexts : public NotedDrawing
+{
+public:
+    FixedTexts() : NotedDrawing(QSizeF()) { }
+    QSizeF sheetSize(int reduction) const override { return reduction == 1 ? QSizeF(150, 100) : QSizeF(75, 100); }
+};
+
 }
 
 class tst_DrawingPrint : public QObject
@@ -42,6 +50,7 @@ class tst_DrawingPrint : public QObject
 private Q_SLOTS:
     void setUp_data();
     void setUp();
+    void setUpWithTexts();
     void place_data();
     void place();
     void noFile();
@@ -67,6 +76,15 @@ void tst_DrawingPrint::setUp()
     print.setUp(&printer);
     QTEST(printer.pageLayout().orientation(), "orientation");
     QCOMPARE(printer.docName(), u"DUN9 page 2"_s);
+}
+
+// By the sheet that is not reduced.
+void tst_DrawingPrint::setUpWithTexts()
+{
+    QPrinter printer;
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    DrawingPrint(std::make_shared<FixedTexts>()).setUp(&printer);
+    QCOMPARE(printer.pageLayout().orientation(), QPageLayout::Landscape);
 }
 
 void tst_DrawingPrint::place_data()

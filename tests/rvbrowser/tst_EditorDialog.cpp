@@ -10,6 +10,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <functional>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -100,11 +101,18 @@ void tst_EditorDialog::commandOfItsOwn()
 void tst_EditorDialog::cancel()
 {
     EditorChoice(u"kate"_s, QString()).save(mySettings.get());
-    open();
-    choose(u"qtcreator"_s);
-    QTest::keyClick(myDialog.get(), Qt::Key_Escape);
-    QVERIFY(!myDialog->isVisible());
-    QCOMPARE(saved().id(), u"kate"_s);
+    const auto pressKey = [this] { QTest::keyClick(myDialog.get(), Qt::Key_Escape); };
+    const auto pressButton = [this] {
+        myDialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Cancel)->click();
+    };
+    for (const std::function<void()> &cancel :
+         { std::function<void()>(pressKey), std::function<void()>(pressButton) }) {
+        open();
+        choose(u"qtcreator"_s);
+        cancel();
+        QVERIFY(!myDialog->isVisible());
+        QCOMPARE(saved().id(), u"kate"_s);
+    }
 }
 
 // The list ends with the command of one's own.

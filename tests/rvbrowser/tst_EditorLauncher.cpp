@@ -26,6 +26,7 @@ private Q_SLOTS:
     void fails_data();
     void fails();
     void hasNoInput();
+    void hasNoOutput();
     void missesATerminal();
     void leavesEditorsRunning();
     void choices_data();
@@ -104,6 +105,8 @@ void tst_EditorLauncher::fails_data()
     QTest::newRow("long message") << u"verbose %f"_s
                                   << u"The editor \"verbose\" ended at once with the exit code 1.\n"_s
                     + QString(500, u'b');
+    QTest::newRow("cannot be run") << u"broken %f"_s
+                                   << u"The editor \"broken\" cannot be run: execvp: No such file or directory"_s;
     QTest::newRow("crash") << u"crashes %f"_s << u"The editor \"crashes\" crashed."_s;
 }
 
@@ -113,6 +116,8 @@ void tst_EditorLauncher::fails()
     QFETCH(QString, message);
     script(u"bad"_s, "echo 'no display' >&2; exit 3");
     script(u"crashes"_s, "kill -SEGV $$");
+    QVERIFY(writeFile(path(u"broken"_s), "#!/nowhere/sh\n"));
+    QFile::setPermissions(path(u"broken"_s), QFile::ReadOwner | QFile::ExeOwner);
     script(u"verbose"_s, "echo '" + QByteArray(10, 'a') + QByteArray(500, 'b') + "' >&2; exit 1");
     EditorLauncher launcher;
     QSignalSpy failed(&launcher, &EditorLauncher::failed);
@@ -129,6 +134,17 @@ void tst_EditorLauncher::hasNoInput()
     EditorLauncher launcher;
     launcher.open(EditorCommand(u"ed %f"_s), path(u"c.xml"_s), { 1, 1 });
     QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(path(u"ended"_s)), 20000);
+}
+
+void tst_EditorLauncher::hasNoOutput()
+{
+    script(u"ed"_s,
+           "output=$(/bin/readlink /proc/$$/fd/1); echo \"$output\" > \"${0%/*}/part\"\n"
+           "/bin/mv \"${0%/*}/part\" \"${0%/*}/log\"");
+    EditorLauncher launcher;
+    launcher.open(EditorCommand(u"ed %f"_s), path(u"c.xml"_s), { 1, 1 });
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(path(u"log"_s)), 20000);
+    QCOMPARE(readFile(path(u"log"_s)), QByteArray("/dev/null\n"));
 }
 
 void tst_EditorLauncher::missesATerminal()

@@ -28,6 +28,8 @@ void tst_ElidedLabel::room()
     QCOMPARE(label.textFormat(), Qt::PlainText);
     QCOMPARE(label.minimumSizeHint().width(), 6 * label.fontMetrics().averageCharWidth());
     QCOMPARE(label.minimumSizeHint().height(), label.sizeHint().height());
+    label.setMostCharacters(1);
+    QCOMPARE(label.sizeHint().width(), label.fontMetrics().averageCharWidth());
     label.setMostCharacters(20);
     QCOMPARE(label.sizeHint().width(), 20 * label.fontMetrics().averageCharWidth());
     label.setText(u"x"_s);
@@ -43,7 +45,7 @@ void tst_ElidedLabel::toolTip_data()
     QTest::addColumn<bool>("hasBuddy");
     QTest::addColumn<QString>("toolTip");
 
-    QTest::newRow("short") << u"A"_s << false << QString();
+    QTest::newRow("short") << u"A"_s << false << u"window"_s;
     QTest::newRow("long") << QString(100, u'x') << false << QString(100, u'x');
     QTest::newRow("ampersand of a label") << QString(100, u'x') + u"&&"_s << true << QString(100, u'x') + u"&"_s;
     QTest::newRow("ampersands of a text") << QString(100, u'x') + u"&&"_s << false << QString(100, u'x') + u"&&"_s;
@@ -56,12 +58,15 @@ void tst_ElidedLabel::toolTip()
     QFETCH(QString, text);
     QFETCH(bool, hasBuddy);
     QWidget buddy;
+    QWidget window;
+    window.setToolTip(u"window"_s);
     ElidedLabel label(text);
     if (hasBuddy)
         label.setBuddy(&buddy);
+    label.setParent(&window);
     label.resize(60, 20);
-    label.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&label));
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
     QHelpEvent event(QEvent::ToolTip, QPoint(5, 5), label.mapToGlobal(QPoint(5, 5)));
     QApplication::sendEvent(&label, &event);
     QTEST(QToolTip::text(), "toolTip");

@@ -59,12 +59,14 @@ private Q_SLOTS:
     void keepsAChosenFindingThatIsHidden();
     void leavesTheFilterForTheList();
     void goesOnWhereOneWasMended();
+    void goesOnWhereTheFirstWasMended();
     void goesOnAtTheEnd();
     void beginsAgain_data();
     void beginsAgain();
     void isNotFooledBySimilarFindings();
     void staysAtTheNearest_data();
     void staysAtTheNearest();
+    void staysInFront();
     void showsNoCatalogue();
 
 private:
@@ -277,8 +279,10 @@ void tst_FindingsPanel::steps()
     QCOMPARE(myPanel->currentFinding(), 0);
     QCOMPARE(myPanel->previous(), Step::Wrapped);
     QCOMPARE(myPanel->currentFinding(), 4);
-    QCOMPARE(myPanel->previous(), Step::Taken);
-    QCOMPARE(myPanel->currentFinding(), 3);
+    for (int i = 3; i >= 0; --i) {
+        QCOMPARE(myPanel->previous(), Step::Taken);
+        QCOMPARE(myPanel->currentFinding(), i);
+    }
 }
 
 void tst_FindingsPanel::stepsBackFromNothing()
@@ -453,6 +457,17 @@ void tst_FindingsPanel::goesOnWhereOneWasMended()
 }
 
 // Several were mended, so there is no such row.
+// The first finding of the file stands in the last row.
+void tst_FindingsPanel::goesOnWhereTheFirstWasMended()
+{
+    load();
+    sort(FINDING_PLACE, Qt::DescendingOrder);
+    for (int i = 0; i < 5; ++i)
+        myPanel->next();
+    load(QByteArray(FAULTY_PRODUCTS).replace("hardcovr", "hardcover"));
+    QCOMPARE(myPanel->next(), FindingsPanel::Step::Wrapped);
+}
+
 void tst_FindingsPanel::goesOnAtTheEnd()
 {
     const QByteArray mended = QByteArray(FAULTY_PRODUCTS).replace("spirall", "spiral").replace("'73'", "'72'");
@@ -533,6 +548,17 @@ void tst_FindingsPanel::staysAtTheNearest()
     QCOMPARE(myPanel->selectedFindings(), QList<int> { chosen });
     load(equalFaults(5).replace("<form key='a'/>", "<form value='b'/>").replace("<p>", "<p> "));
     QCOMPARE(myPanel->currentFinding(), -1);
+}
+
+// Of two that are equally near, the one in front.
+void tst_FindingsPanel::staysInFront()
+{
+    load(equalFaults(5));
+    for (int i = 0; i < 3; ++i)
+        myPanel->next();
+    load("<p><product type='DUN1' article_id='1'><forms><form key='a'/><form key='a'/><form value='b'/><form key='a'/>"
+         "<form key='a'/></forms></product></p>");
+    QCOMPARE(myPanel->currentFinding(), 1);
 }
 
 void tst_FindingsPanel::showsNoCatalogue()

@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QScrollBar>
+#include <QStyle>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -54,6 +55,9 @@ void tst_FittingScrollArea::withoutContent()
 {
     FittingScrollArea area;
     QCOMPARE(area.frameShape(), QFrame::NoFrame);
+    QScrollArea plain;
+    plain.setFrameShape(QFrame::NoFrame);
+    QCOMPARE(area.sizeHint(), plain.sizeHint());
     const QSize usual = area.minimumSizeHint();
     area.setLeastHeight(100); // there is nothing to fit
     QCOMPARE(area.minimumSizeHint(), usual);
@@ -82,6 +86,7 @@ void tst_FittingScrollArea::leastHeight_data()
     QTest::addColumn<bool>("scrolls");
 
     QTest::newRow("few") << 2 << 600 << 40 << false;
+    QTest::newRow("just the least") << 5 << 600 << 100 << false;
     QTest::newRow("many with room") << 20 << 600 << 400 << false;
     QTest::newRow("many with less room") << 20 << 300 << 300 << true;
     QTest::newRow("many without room") << 20 << 10 << 100 << true;
@@ -107,6 +112,9 @@ void tst_FittingScrollArea::leastHeight()
     }
     area->setWidget(content);
     area->setLeastHeight(100);
+    QCOMPARE(area->maximumHeight(), rows * 20);
+    const int bar = rows * 20 > 100 ? area->style()->pixelMetric(QStyle::PM_ScrollBarExtent) : 0;
+    QCOMPARE(area->minimumSizeHint().width(), 200 + bar);
     outer->addWidget(area);
     outer->addStretch();
     window.resize(300, room);

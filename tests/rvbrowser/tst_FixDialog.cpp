@@ -36,6 +36,7 @@ private Q_SLOTS:
     void bytes_data();
     void bytes();
     void applies();
+    void cancels();
     void failsToApply();
 
 private:
@@ -149,6 +150,15 @@ void tst_FixDialog::applies()
     QVERIFY(failed.isEmpty());
     QTRY_VERIFY(!myDialog);
     QVERIFY(readFile(path()).contains("'hardcover'"));
+}
+
+void tst_FixDialog::cancels()
+{
+    open(FAULTY_PRODUCTS, { 0 });
+    myDialog->show();
+    myDialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Cancel)->click();
+    QTRY_VERIFY(!myDialog);
+    QCOMPARE(readFile(path()), QByteArray(FAULTY_PRODUCTS));
 }
 
 void tst_FixDialog::failsToApply()

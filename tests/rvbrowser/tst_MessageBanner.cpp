@@ -12,6 +12,7 @@ class tst_MessageBanner : public QObject
 
 private Q_SLOTS:
     void staysUntilItIsClosed();
+    void beginsHidden();
     void showsTheLastMessage();
     void showsMarkupAsItIs();
     void knowsItsTextInAHiddenWindow();
@@ -29,6 +30,14 @@ void tst_MessageBanner::staysUntilItIsClosed()
     QTest::mouseClick(banner.findChild<QToolButton *>(), Qt::LeftButton);
     QVERIFY(banner.isHidden());
     QCOMPARE(banner.text(), QString());
+}
+
+void tst_MessageBanner::beginsHidden()
+{
+    QWidget window;
+    const auto *banner = new MessageBanner(&window);
+    window.show();
+    QVERIFY(!banner->isVisible());
 }
 
 void tst_MessageBanner::showsTheLastMessage()

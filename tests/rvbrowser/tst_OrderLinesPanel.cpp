@@ -183,7 +183,9 @@ void tst_OrderLinesPanel::standsInColumns()
         QCOMPARE(button->y(), line->y());
         bottom = line->geometry().bottom();
     }
-    QCOMPARE(qobject_cast<QGridLayout *>(myPanel->layout())->verticalSpacing(), 4);
+    const auto *grid = qobject_cast<QGridLayout *>(myPanel->layout());
+    QCOMPARE(grid->verticalSpacing(), 4);
+    QCOMPARE(grid->rowCount(), 4);
 }
 
 int main(int argc, char *argv[])

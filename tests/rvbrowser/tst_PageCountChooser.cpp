@@ -25,6 +25,8 @@ private Q_SLOTS:
     void countsPhotos();
     void setsPages_data();
     void setsPages();
+    void setsTheHighest();
+    void rowsThatAreNotThere();
     void oneCount();
     void invalidCounts_data();
     void invalidCounts();
@@ -122,6 +124,28 @@ void tst_PageCountChooser::setsPages()
     QCOMPARE(myChanged->size(), myChooser->row() == 0 ? 0 : 1);
     myChooser->setPages(myChooser->pages()); // nothing new
     QCOMPARE(myChanged->size(), myChooser->row() == 0 ? 0 : 1);
+}
+
+// Where the steps miss the highest count, the last one before it.
+void tst_PageCountChooser::setsTheHighest()
+{
+    myChooser->setPageCounts(RVPageCountOrganization({ 26, 155 }, 4), false);
+    myChooser->setPages(155);
+    QCOMPARE(myChooser->pages(), 154);
+}
+
+void tst_PageCountChooser::rowsThatAreNotThere()
+{
+    myChooser->setRow(0); // of no counts
+    QCOMPARE(myChooser->row(), -1);
+    myChooser->setPageCounts(BOOK, false);
+    myChooser->setPages(30);
+    myChanged->clear();
+    for (const int row : { -1, 33 }) {
+        myChooser->setRow(row);
+        QCOMPARE(myChooser->row(), 1);
+    }
+    QVERIFY(myChanged->isEmpty());
 }
 
 void tst_PageCountChooser::oneCount()

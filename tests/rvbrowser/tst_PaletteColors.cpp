@@ -101,6 +101,7 @@ void tst_PaletteColors::accent_data()
     add("blue on slate", 0x5f6b7a, 0x0000ff, 0xc1c1ff);
     add("grey", 0xa0a0a0, 0x808080, 0x505050);
     add("no lightness is readable on blue", 0x0202ff, 0xff0000, 0x080000);
+    add("nearly black on blue", 0x0202ff, 0xd20000, 0x020000);
     add("no lightness is readable on yellow", 0xfefe00, 0xff0000, 0xfff9f9);
     add("nearly white on yellow", 0xfefe00, 0xfbfbfb, 0xfbfbfb);
 }

@@ -233,6 +233,7 @@ void tst_ProductView::showsAFault()
     showWindow({ 1000, 300 });
     QVERIFY(label(u"fault"_s)->isHidden());
     showFinding(from, to);
+    showFinding(from, to); // once more
     const QLabel *fault = label(u"fault"_s);
     QVERIFY(fault->isVisible());
     QVERIFY(!fault->text().isEmpty());
@@ -357,6 +358,7 @@ void tst_ProductView::movesTheFaultAlong()
         QTRY_VERIFY(place(part<SpinePanel>()).top() > place(fault).bottom());
         QVERIFY(place(part<SpinePanel>()).top() - place(fault).bottom() < 30);
         QCOMPARE(place(fault).x(), place(part<SpinePanel>()).x());
+        QVERIFY(place(part<PagePanel>()).top() > place(part<SpinePanel>()).bottom());
     }
 }
 
@@ -375,8 +377,10 @@ void tst_ProductView::givesRoomToDrawings()
     QTRY_VERIFY(height(part<SpinePanel>()) < 300);
     QVERIFY(height(part<PagePanel>()) < 300);
     QVERIFY(place(part<PagePanel>()).bottom() < 700);
-    show(0);
     myView->resize(450, 4000); // in one column as well
+    QTRY_VERIFY(place(part<SpinePanel>()).left() <= place(part<OptionsPanel>()).right());
+    QVERIFY(height(part<SpinePanel>()) < 300);
+    show(0);
     QTRY_VERIFY(place(part<SpinePanel>()).left() <= place(part<OptionsPanel>()).right());
     QTRY_VERIFY(height(part<SpinePanel>()) > 500);
     QVERIFY(height(part<OptionsPanel>()) < 200);

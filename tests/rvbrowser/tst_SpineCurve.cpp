@@ -257,6 +257,7 @@ void tst_SpineCurve::focusInAnyStyle()
     curve.setStyle(style.get());
     QPalette palette = PaletteColors::dark();
     palette.setColor(QPalette::WindowText, palette.color(QPalette::Base));
+    palette.setColor(QPalette::Window, QColor(~palette.color(QPalette::Base).rgb() | 0xff000000)); // unlike the ground
     curve.setPalette(palette);
     curve.resize(400, 200);
     curve.setTable(tableOf(33), QString());

@@ -91,6 +91,11 @@ void tst_SpinePanel::drawsTheSpine_data()
                                           .replace("base_width='8'", "base_width='20'")
                                           .replace("block_width='1'", "block_width='-1'")
                                << 34 << 20.0 << 21.0;
+    QTest::newRow("shrinking at once") << QByteArray(BOOK)
+                                                  .replace("packages_per_block='2'", "packages_per_block='1'")
+                                                  .replace("base_width='8'", "base_width='20'")
+                                                  .replace("block_width='1'", "block_width='-1'")
+                                       << 34 << 19.0 << 21.0;
     QTest::newRow("single page count") << QByteArray(BOOK).replace("'154'", "'26'") << 26 << 9.0 << 9.0;
     QTest::newRow("thin") << QByteArray(BOOK).replace("'154'", "'26'").replace("base_width='8'", "base_width='-0.2'")
                           << 26 << 0.8 << 0.8;

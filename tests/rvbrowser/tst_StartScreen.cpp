@@ -113,6 +113,8 @@ void tst_StartScreen::standsInTheMiddle()
     const int below = 899 - list->geometry().bottom();
     QVERIFY(above > 100);
     QVERIFY2(qAbs(2 * above - below) < 50, qPrintable(u"%1 %2"_s.arg(above).arg(below)));
+    const int usual = screen.style()->pixelMetric(QStyle::PM_LayoutVerticalSpacing, nullptr, &screen);
+    QCOMPARE(hint->y() - title->geometry().bottom() - 1, usual + screen.fontMetrics().height() / 2);
     int bottom = title->geometry().bottom();
     for (const QWidget *part : std::initializer_list<const QWidget *> { hint, open, list }) {
         QVERIFY(part->y() > bottom + title->fontMetrics().height() / 4);

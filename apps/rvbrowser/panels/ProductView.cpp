@@ -86,6 +86,12 @@ void ProductView::showProduct(const LoadedCatalogue &catalogue, int product, con
     myLabels.align();
     arrangeTabOrder();
     arrangeColumns();
+    stretchDrawings();
+}
+
+// The spine stands in either column.
+void ProductView::stretchDrawings()
+{
     for (QVBoxLayout *column : { myTexts, myDrawings })
         column->setStretchFactor(mySpine, mySpine->isDrawn() ? DRAWING_STRETCH : 0);
     myDrawings->setStretchFactor(myPage, myPage->isDrawn() ? DRAWING_STRETCH : 0);
@@ -216,7 +222,8 @@ void ProductView::arrangeColumns()
     myColumns->setDirection(direction);
     // In one column the page count belongs to what is chosen, so it stands below the options.
     (isWide ? myTexts : myDrawings)->removeWidget(mySpine);
-    (isWide ? myDrawings : myTexts)->insertWidget(isWide ? 0 : 1, mySpine, mySpine->isDrawn() ? DRAWING_STRETCH : 0);
+    (isWide ? myDrawings : myTexts)->insertWidget(isWide ? 0 : 1, mySpine);
+    stretchDrawings();
     if (myFaultyPart)
         moveFault();
 }

@@ -65,6 +65,7 @@ private:
     void arrangeTabOrder();
     /// Arranges two columns if both have room, else one below the other.
     void arrangeColumns();
+    void stretchDrawings();
 
     QLabel *myTitle;
     QLabel *myNote;
