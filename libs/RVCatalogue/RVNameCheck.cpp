@@ -71,8 +71,7 @@ QLatin1StringView sameName(QByteArrayView name)
 {
     for (const RVKnownElement &element : RV_KNOWN_ELEMENTS) {
         const QLatin1StringView known[] = { element.name };
-        const RVNameGuess guess = rvGuessName(name, known);
-        if (!guess.names.isEmpty() && guess.changes == 0)
+        if (rvGuessName(name, known).changes == 0)
             return element.name;
     }
     return QLatin1StringView();

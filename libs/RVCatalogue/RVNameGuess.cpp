@@ -134,7 +134,7 @@ bool isExtended(const QStringList &words, const QStringList &knownWords)
 /// False if a short word differs too much.
 bool areLikeWords(const QStringList &words, const QStringList &knownWords)
 {
-    if (words.size() != knownWords.size() || words.size() == 1)
+    if (words.size() != knownWords.size())
         return true;
     for (qsizetype i = 0; i < words.size(); ++i) {
         const bool isShort = qMin(words.at(i).size(), knownWords.at(i).size()) <= SHORT_WORD;

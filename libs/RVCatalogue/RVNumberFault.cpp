@@ -66,7 +66,10 @@ bool RVNumberFault::isBeyondRange(const QString &text)
     bool isNumber = false;
     const double number = text.toDouble(&isNumber);
     const bool isBelow = text.startsWith(u'-');
-    if (myType == Type::Length && !isNumber && number == 0) {
+    const bool isNearly0 = !isNumber && number == 0; // nearer than any number can be
+    if (isNearly0 && myType == Type::Whole)
+        return false;
+    if (isNearly0) {
         myAdvice = writeText(u"0"_s);
         return true;
     }

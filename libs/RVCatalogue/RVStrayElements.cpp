@@ -53,7 +53,7 @@ void setScope(RVStrayElement *element, const RVSuppressionScope::Pointer &scope)
 bool isPlural(QByteArrayView name)
 {
     constexpr QLatin1StringView plural[] = { "products"_L1 };
-    return !rvGuessName(name, plural).names.isEmpty() && rvGuessName(name, plural).changes == 0;
+    return rvGuessName(name, plural).changes == 0;
 }
 
 std::optional<RVStrayElement> strayProduct(const RVXmlTag &tag)
@@ -147,8 +147,8 @@ QList<RVCatalogueFinding> RVStrayElements::findings(const RVCatalogueCheck &chec
 
 bool RVStrayElements::haveProduct(const QList<RVCatalogueFinding> &findings)
 {
-    const RVCatalogueRule misplaced = RVCatalogueRuleRow::rule(RVCatalogueRuleId::ElementMisplaced);
-    return std::any_of(findings.begin(), findings.end(), [misplaced](const RVCatalogueFinding &finding) {
-        return finding.rule() != misplaced && finding.severity() != RVCatalogueSeverity::Note;
+    // Parts of a product are only found where there is one.
+    return std::any_of(findings.begin(), findings.end(), [](const RVCatalogueFinding &finding) {
+        return finding.severity() != RVCatalogueSeverity::Note;
     });
 }

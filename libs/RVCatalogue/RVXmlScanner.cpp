@@ -413,7 +413,8 @@ void RVXmlScanner::judge(const _xmlError &error)
         return refuseUnknownEntity(shown(QByteArrayView(error.str1)), before);
     if (error.code == XML_ERR_TAG_NAME_MISMATCH && !myOpenElements.empty() && !before.isEmpty())
         return failAt(wrongEnd(before), myWindowBegin + lastTag(before));
-    const bool isUnfinished = !myOpenElements.empty() || error.code == XML_ERR_DOCUMENT_EMPTY || !myHasElements;
+    const bool isUnfinished = !myOpenElements.empty() || !myHasElements || error.code == XML_ERR_COMMENT_NOT_FINISHED
+            || error.code == XML_ERR_PI_NOT_FINISHED;
     if (myIsEnding && isUnfinished && !isForbidden(letterIn(textFrom(index))))
         return failEarly();
     failAt(wrongLetter(textFrom(index)).value_or(parserError(error, before)), index);

@@ -793,6 +793,14 @@ void tst_RVCatalogueCheck::options_data()
                    u"2 warning option-default-missing: no option of \"b\" is preselected, so the first is taken; preselect one"_s,
                    u"3 warning option-default-missing: no option of \"a\" is preselected, so the first is taken; preselect one"_s
                };
+    QTest::newRow("composite options that do not match, the default of another key in front")
+            << QByteArray("<form key='ab' value='x;y' preselected='1'/>\n"
+                          "<form key='c;d' value='z' preselected='1'/>\n"
+                          "<form key='g' value='1'/>\n")
+            << QStringList {
+                   u"2 error option-composite-mismatch: the keys \"ab\" and the values \"x;y\" are not equally many; write one value for each key"_s,
+                   u"3 error option-composite-mismatch: the keys \"c;d\" and the values \"z\" are not equally many; write one value for each key"_s
+               };
     QTest::newRow("unknown what is preselected")
             << QByteArray("<form key='a' value='1' preselected='maybe'/>\n"
                           "<form key='b' value='1' preselected='1'/>\n")

@@ -139,6 +139,7 @@ private Q_SLOTS:
     void manyAttributes();
     void manyProducts();
     void productsBeforeAnError();
+    void noProductThatIsTooLarge();
     void errorWaitsForItsProducts();
     void brokenDevice();
     void fileName();
@@ -316,6 +317,14 @@ void tst_RVCatalogueReader::errors_data()
             << u"1:25: the file ends too early: <p>, which was opened in line 1, is not closed"_s;
     QTest::newRow("cut off in a letter") << QByteArray(
             "<p>\n<a>\xc3") << u"2:5: the file ends too early: <a>, which was opened in line 2, is not closed"_s;
+
+    QTest::newRow("cut off in a comment")
+            << QByteArray("<p>\n<!-- a")
+            << u"2:7: the file ends too early: <p>, which was opened in line 1, is not closed"_s;
+    QTest::newRow("cut off in a comment behind the root")
+            << QByteArray("<p/>\n<!-- and so on") << u"2:15: the file ends too early"_s;
+    QTest::newRow("cut off in an instruction behind the root")
+            << QByteArray("<p/>\n<?pi so on") << u"2:11: the file ends too early"_s;
 
     QTest::newRow("wrong end tag") << QByteArray("<p>\n<forms>\n\n  </p>")
                                    << u"4:3: </p> closes <forms>, which was opened in line 2"_s;
@@ -531,6 +540,21 @@ void tst_RVCatalogueReader::productsBeforeAnError()
     QCOMPARE(typesOf(&reader), (QStringList { u"A"_s, u"B"_s }));
     QCOMPARE(errorOf(reader), u"1:51: </p> closes <product>, which was opened in line 1"_s);
     QVERIFY(reader.next().isNull());
+}
+
+// A product that is too large by one byte is none.
+void tst_RVCatalogueReader::noProductThatIsTooLarge()
+{
+    constexpr int limit = 1 << 20;
+    const QByteArray begin = "<product type='A'><!--";
+    const QByteArray end = "--></product>";
+    for (const int excess : { 0, 1 }) {
+        CatalogueBuffer file("<p>\n" + begin + QByteArray(limit - begin.size() - end.size() + excess, 'x') + end
+                             + "</p>");
+        RVCatalogueReader reader(&file);
+        QCOMPARE(typesOf(&reader), excess > 0 ? QStringList() : QStringList { u"A"_s });
+        QCOMPARE(reader.hasError(), excess > 0);
+    }
 }
 
 void tst_RVCatalogueReader::errorWaitsForItsProducts()

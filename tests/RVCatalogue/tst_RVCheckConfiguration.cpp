@@ -398,6 +398,7 @@ void tst_RVCheckConfiguration::unreadable_data()
             << u"a.toml"_s << "foreign = " + QByteArray(100, '[') + QByteArray(100, ']') << noToml << 1;
     QTest::newRow("letter in place of an hour")
             << u"a.toml"_s << QByteArray("\nforeign = 2026-01-01Tx\n") << noToml << 2;
+    QTest::newRow("zero byte in a text") << u"a.toml"_s << QByteArray("\nforeign = ['a\0b']\n", 19) << noToml << 2;
     const QString noJson = u"this is no JSON: "_s;
     QTest::newRow("JSON with a comma too many") << u"a.json"_s << QByteArray("{\n  \"foreign\": [],\n}") << noJson << 3;
     QTest::newRow("JSON that ends too early") << u"a.json"_s << QByteArray("{") << noJson << 1;

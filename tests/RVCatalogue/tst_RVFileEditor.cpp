@@ -489,6 +489,10 @@ void tst_RVFileEditor::statefulEncoding()
     QCOMPARE(QString::fromLatin1(whole.apply(file)).count(u'2'), 4); // ISO-2022, and the new one
     QCOMPARE(whole.errorString(), QString());
 
+    RVFileEditor last; // an ASCII letter follows it
+    QVERIFY(last.add({ edit(2, 14, 2, 15, u"字"_s) }));
+    QCOMPARE(last.apply(file), *encoded(declaration + u"<a b='漢字' c='字'/>"_s, "ISO-2022-JP"));
+
     RVFileEditor part;
     QVERIFY(part.add({ edit(2, 7, 2, 8, u"1"_s) }));
     QVERIFY(part.apply(file).isNull());

@@ -301,6 +301,10 @@ void tst_RVFindingText::numbers_data()
             << u"-2147483648.0"_s << u"pages is \"-2147483648.0\", which is no whole number; write -2147483648"_s;
     QTest::newRow("too large") << u"2147483648"_s
                                << u"pages is \"2147483648\", which is too large; write at most 2147483647"_s;
+    QTest::newRow("smaller than every positive number")
+            << u"1e-400"_s << u"pages is \"1e-400\", which is no whole number; write nothing but digits"_s;
+    QTest::newRow("larger than every negative number")
+            << u"-1e-400"_s << u"pages is \"-1e-400\", which is no whole number; write nothing but digits"_s;
     QTest::newRow("far too large")
             << u"99999999999999999999"_s
             << u"pages is \"99999999999999999999\", which is too large; write at most 2147483647"_s;
@@ -561,6 +565,9 @@ void tst_RVFindingText::priceClasses_data()
     QTest::newRow("blank") << u" LEZ2"_s << no(u" LEZ2"_s, u"did you mean \"LEZ2\"?"_s);
     QTest::newRow("near several") << u"LEZ7"_s << no(u"LEZ7"_s, u"did you mean \"LEZ1\", \"LEZ2\" or \"LEZ3\"?"_s);
     QTest::newRow("beginning of a price class") << u"RODA"_s << no(u"RODA"_s, u"did you mean \"RODA6x9\"?"_s);
+    QTest::newRow("three letters of a price class") << u"ROD"_s << no(u"ROD"_s, u"did you mean \"RODA6x9\"?"_s);
+    QTest::newRow("two letters of a price class")
+            << u"RO"_s << no(u"RO"_s, u"write one of a group, or one that begins with 0 if nothing is billed"_s);
     QTest::newRow("similar to no price class")
             << u"(xxx)"_s << no(u"(xxx)"_s, u"write one of a group, or one that begins with 0 if nothing is billed"_s);
 }

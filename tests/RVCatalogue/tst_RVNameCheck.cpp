@@ -600,13 +600,21 @@ void tst_RVNameCheck::switchedOff()
     const CheckedCatalogue withError("<products><prodcut/></products>", strict);
     QCOMPARE(withError.findings().size(), 1);
     QCOMPARE(withError.findings().first().severity(), RVCatalogueSeverity::Error);
+
+    // Only a finding that is more than a note tells where the products are.
+    RVCatalogueCheck noted;
+    noted.setSeverity(RVCatalogueRule::find(u"element-misspelt"), RVCatalogueSeverity::Note);
+    QCOMPARE(CheckedCatalogue("<products><prodcut/></products>", noted).rules(),
+             (QStringList { u": products-missing"_s, u"<prodcut>: element-misspelt"_s }));
+    QCOMPARE(CheckedCatalogue("<products><prodcut/><x:product xmlns:x='u'/></products>", noted).rules(),
+             (QStringList { u"<prodcut>: element-misspelt"_s, u"<x:product>: element-prefixed"_s }));
 }
 
 // Elements outside of products give findings about the file, in its order, with their type.
 void tst_RVNameCheck::aboutTheFile()
 {
     const QByteArray file =
-            "<products>\n<forms/>\n<f><prodcut y:type='D' type='B'><a/></prodcut></f>\n"
+            "<products>\n<forms type='D'/>\n<f><prodcut y:type='D' type='B'><a/></prodcut></f>\n"
             "<product type='A' article_id='1'/>\n<x:product xmlns:x='u' x:type='E' type='C'/>\n</products>";
     const CheckedCatalogue catalogue(file);
     QCOMPARE(catalogue.rules(),
@@ -618,7 +626,7 @@ void tst_RVNameCheck::aboutTheFile()
         QCOMPARE(finding.severity(), RVCatalogueSeverity::Warning);
         types += finding.productType();
     }
-    QCOMPARE(types, (QStringList { QString(), u"B"_s, u"C"_s }));
+    QCOMPARE(types, (QStringList { u"D"_s, u"B"_s, u"C"_s }));
     const RVFileRange range = catalogue.findings().at(1).range();
     QVERIFY((range.begin == RVFilePosition { 3, 4 }));
     QVERIFY((range.end == RVFilePosition { 3, 33 }));

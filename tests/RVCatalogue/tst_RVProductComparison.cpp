@@ -215,6 +215,22 @@ void tst_RVProductComparison::spineRows()
     row("packages per block", spine(pages, replaced(usual, "'2'", "'3'")),
         { u"~ Spine, packages per block: 2 -> 3"_s, u"~ Spine width at 34 pages: 10 mm -> 9 mm"_s },
         { u"[\"spine.packages_per_block\",{},2,3]"_s, u"[\"spine.width\",{\"from\":34,\"step\":0,\"to\":34},10,9]"_s });
+    QTest::newRow("packages per block that were not there")
+            << spine("pages='3'", "base_width='8'") << spine("pages='3'", "base_width='8' packages_per_block='1'")
+            << QStringList { u"~ Spine, packages per block: 0 -> 1"_s }
+            << QStringList { u"[\"spine.packages_per_block\",{},0,1]"_s };
+    QTest::newRow("more than six digits")
+            << spine("pages='3'", "base_width='8'") << spine("pages='3'", "base_width='8.1234567'")
+            << QStringList { u"~ Spine, base width: 8 mm -> 8.12346 mm"_s,
+                             u"~ Spine width at 3 pages: 8 mm -> 8.12346 mm"_s }
+            << QStringList { u"[\"spine.base_width\",{},8,8.1234567]"_s,
+                             u"[\"spine.width\",{\"from\":3,\"step\":0,\"to\":3},8,8.1234567]"_s };
+    QTest::newRow("digits that rounding adds")
+            << spine("pages='3'", "base_width='9.95'") << spine("pages='3'", "base_width='9.9500001'")
+            << QStringList { u"~ Spine, base width: 9.95 mm -> 9.9500001 mm"_s,
+                             u"~ Spine width at 3 pages: 9.95 mm -> 9.9500001 mm"_s }
+            << QStringList { u"[\"spine.base_width\",{},9.95,9.9500001]"_s,
+                             u"[\"spine.width\",{\"from\":3,\"step\":0,\"to\":3},9.95,9.9500001]"_s };
     const QByteArray many = "pages='1' max_pages='20000' page_step='1'";
     QTest::newRow("at ten thousand counts")
             << spine(many, "base_width='8'") << spine(many, "base_width='9'")

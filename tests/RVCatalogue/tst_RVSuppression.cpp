@@ -348,6 +348,10 @@ void tst_RVSuppression::elements_data()
                 + ignoring("type-missing")),
         { u"2"_s + notUsed, u"4"_s + notUsed, u"6"_s + notUsed });
 
+    row("a comment alone in the next element",
+        product(ignoring("suppression-unused") + "\n<forms/>\n<barcodes>" + ignoring("type-missing") + "</barcodes>"),
+        { u"2"_s + notUsed, u"4"_s + notUsed });
+
     row("no products", ignoring("products-missing") + "\n<p/>", none);
     row("no products in a group", "<p>\n" + ignoring("products-missing") + "<g/></p>",
         { u"1 products-missing"_s, u"2"_s + notUsed });
