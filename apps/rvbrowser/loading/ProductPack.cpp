@@ -26,7 +26,7 @@ ProductPack::ProductPack(const QList<RVCatalogueProduct> &products)
 RVCatalogueProduct ProductPack::product(int index) const
 {
     const int begin = index == 0 ? 0 : myEnds.at(index - 1);
-    QByteArray element = qUncompress(myElements).sliced(begin); // one is read
+    QByteArray element = qUncompress(myElements).sliced(begin, myEnds.at(index) - begin);
     QBuffer buffer(&element);
     buffer.open(QIODevice::ReadOnly);
     return RVCatalogueReader(&buffer).next();
