@@ -132,7 +132,7 @@ void tst_FileCopy::noRoom()
     QCOMPARE(copy.fileName(), QString());
 }
 
-// What was written of it goes.
+// The part that was written goes.
 void tst_FileCopy::roomEnds()
 {
     FileCopy copy(u"source.xml"_s);

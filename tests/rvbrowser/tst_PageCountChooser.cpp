@@ -126,7 +126,7 @@ void tst_PageCountChooser::setsPages()
     QCOMPARE(myChanged->size(), myChooser->row() == 0 ? 0 : 1);
 }
 
-// Where the steps miss the highest count, the last one before it.
+// If the steps miss the highest count, the last one before it.
 void tst_PageCountChooser::setsTheHighest()
 {
     myChooser->setPageCounts(RVPageCountOrganization({ 26, 155 }, 4), false);
@@ -260,7 +260,7 @@ void tst_PageCountChooser::takesTheFocusOfItsLabel()
     QTRY_VERIFY(number()->hasFocus());
 }
 
-// Which is as wide as a long count, and not as wide as the window.
+// It is as wide as a long count, and not as wide as the window.
 void tst_PageCountChooser::looksLikeOneControl()
 {
     QCOMPARE(list()->accessibleName(), u"Page count"_s);

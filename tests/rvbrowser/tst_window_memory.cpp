@@ -85,7 +85,7 @@ private:
     /// Closes the window that there is, and opens a new one.
     void startAgain();
     void open(const QString &name);
-    /// Writes the open catalogue anew, and waits until it was loaded again.
+    /// Writes the open catalogue, and waits until it was loaded again.
     void change(const QByteArray &content);
     void choose(const QString &type) { QVERIFY(myWindow->showType(RVProductType(type))); }
     template<typename T>
@@ -237,7 +237,7 @@ void tst_window_memory::remembersWhatIsChosenAfterAReload()
     QCOMPARE(color(), u"Rot"_s);
 }
 
-// What was chosen just before the catalogue no longer offered it is there again when the catalogue does.
+// A choice that the catalogue no longer offers is there again when the catalogue does.
 void tst_window_memory::remembersBeforeAReload()
 {
     open(u"c.xml"_s);
@@ -250,7 +250,7 @@ void tst_window_memory::remembersBeforeAReload()
     QCOMPARE(color(), u"Rot"_s);
 }
 
-// What is chosen for a product that only the other catalogue has belongs to no product of this one.
+// A choice for a product that only the other catalogue has belongs to no product of this one.
 void tst_window_memory::remembersBesideAComparison()
 {
     const QByteArray first = "<product type='A' article_id='1' pages='20' max_pages='40' page_step='2'/>";
