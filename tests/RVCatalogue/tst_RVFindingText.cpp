@@ -78,6 +78,9 @@ void tst_RVFindingText::keywords_data()
     QTest::newRow("keyword with a blank") << u"paper_type"_s << u"Unbekanntes Papier"_s << QString();
     QTest::newRow("one letter wrong") << u"cover_type"_s << u"cromolinnen"_s
                                       << u"\"cromolinnen\" is no keyword of cover_type; did you mean \"cromolinen\"?"_s;
+    QTest::newRow("sign that separates other lists, in a keyword")
+            << u"cover_type"_s << u"hardc/over"_s
+            << u"\"hardc/over\" is no keyword of cover_type; did you mean \"hardcover\"?"_s;
     QTest::newRow("letters missing on both sides of a blank")
             << u"cover_type"_s << u"hard covr"_s
             << u"\"hard covr\" is no keyword of cover_type; did you mean \"hardcover\"?"_s;

@@ -275,6 +275,8 @@ void tst_ProductList::leavesTheSearch()
     QVERIFY(search()->hasFocus());
     QCOMPARE(search()->selectedText(), u"dun"_s); // the next key begins another search
     QTest::keyClicks(search(), u"wall"_s);
+    myList->focusSearch(); // it has the focus already
+    QCOMPARE(search()->selectedText(), u"wall"_s);
     QTest::keyClick(search(), Qt::Key_Down);
     QVERIFY(view()->hasFocus());
     QCOMPARE(current(), u"VIR1"_s);
