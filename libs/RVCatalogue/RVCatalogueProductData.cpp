@@ -2,7 +2,7 @@
 
 #include "RVXmlScanner_p.h"
 
-#include <cstring>
+#include <algorithm>
 
 namespace {
 
@@ -10,50 +10,34 @@ namespace {
 class TagWalker
 {
 public:
-    explicit TagWalker(const RVXmlTag &tag) : myTag(tag.text), myAt(1 + tag.name.size()) { }
+    explicit TagWalker(const RVXmlTag &tag) : myTag(tag.text), myAt(tag.name.end()) { }
 
     /// The place of the next attribute in the tag; its name is empty if there is none.
     RVCatalogueRows::Attribute next()
     {
-        skipBlanks();
-        const qsizetype name = myAt;
-        const qsizetype equals = isAtEnd() ? -1 : indexOf('=', name);
-        if (equals < 0)
+        const char *name = std::find_if_not(myAt, myTag.end(), isBlank);
+        const char *equals = find(name, '=');
+        const char *quote = std::find_if(equals, myTag.end(), isQuote);
+        const char *end = quote == myTag.end() ? quote : find(quote + 1, *quote);
+        if (end == myTag.end())
             return {};
-        qsizetype nameEnd = equals;
-        while (isBlank(myTag[nameEnd - 1]))
-            --nameEnd;
-        myAt = equals + 1;
-        skipBlanks();
-        const qsizetype value = myAt + 1;
-        const qsizetype valueEnd = isAtEnd() ? -1 : indexOf(myTag[myAt], value);
-        if (valueEnd < 0)
-            return {};
-        myAt = valueEnd + 1;
-        return { piece(name, nameEnd), piece(value, valueEnd), quint32(myAt) };
+        myAt = end + 1;
+        return { piece(name, std::find_if(name, equals, isBlank)), piece(quote + 1, end), place(myAt) };
     }
 
 private:
     static bool isBlank(char letter) { return letter == ' ' || letter == '\t' || letter == '\n' || letter == '\r'; }
-    static RVCatalogueRows::Piece piece(qsizetype begin, qsizetype end)
-    {
-        return { quint32(begin), quint32(end - begin) };
-    }
+    static bool isQuote(char letter) { return letter == '"' || letter == '\''; }
+    const char *find(const char *from, char letter) const { return std::find(from, myTag.end(), letter); }
 
-    bool isAtEnd() const { return myAt >= myTag.size() || myTag[myAt] == '>' || myTag[myAt] == '/'; }
-    void skipBlanks()
+    quint32 place(const char *letter) const { return quint32(letter - myTag.begin()); }
+    RVCatalogueRows::Piece piece(const char *begin, const char *end) const
     {
-        while (myAt < myTag.size() && isBlank(myTag[myAt]))
-            ++myAt;
-    }
-    qsizetype indexOf(char letter, qsizetype from) const
-    {
-        const void *found = std::memchr(myTag.data() + from, letter, std::size_t(myTag.size() - from));
-        return found ? static_cast<const char *>(found) - myTag.data() : -1;
+        return { place(begin), quint32(end - begin) };
     }
 
     QByteArrayView myTag;
-    qsizetype myAt;
+    const char *myAt;
 };
 
 /// True if the attribute of the tag is the one that the parser has at the index. Name space declarations are attributes
@@ -72,7 +56,7 @@ void RVCatalogueRows::append(const RVXmlTag &tag)
     const Piece piece = append(tag.text);
     appendGiven(tag, piece.begin);
     for (int i = tag.givenAttributes; i < tag.allAttributes; ++i)
-        attributes.push_back({ append(tag.attributeName(i)), append(tag.attributeValue(i)), 0 });
+        attributes.push_back({ append(tag.attributeName(i)), append(tag.attributeValue(i)) });
     elements.push_back(
             { piece, quint32(tag.name.size()), firstAttribute, quint32(attributes.size()), index + 1, tag.position });
 }

@@ -29,7 +29,7 @@ struct RVCatalogueRows
     {
         Piece name;
         Piece value; // in the tag, or behind all tags if XML reads other letters than the file has
-        quint32 end; // of the quote behind the value
+        quint32 end = 0; // of the quote behind the value
     };
     struct Element
     {

@@ -136,10 +136,9 @@ void RVConfigurationReader::readPageSize(const QString &name, const QJsonValue &
     if (!values)
         return;
     refuseOthers(path, *values, { WIDTH, HEIGHT });
-    const std::optional<qreal> width = length(path + QStringList(WIDTH), *values);
-    const std::optional<qreal> height = length(path + QStringList(HEIGHT), *values);
-    if (width && height)
-        myValues.pageSizes += { type, QSizeF(*width, *height) };
+    const qreal width = length(path + QStringList(WIDTH), *values);
+    const qreal height = length(path + QStringList(HEIGHT), *values);
+    myValues.pageSizes += { type, QSizeF(width, height) };
 }
 
 std::optional<QJsonObject> RVConfigurationReader::table(const QStringList &path, const QJsonValue &value)
@@ -173,23 +172,18 @@ QStringList RVConfigurationReader::texts(const QStringList &path, const QJsonVal
     return result;
 }
 
-// Reads a length in millimetres.
-std::optional<qreal> RVConfigurationReader::length(const QStringList &path, const QJsonObject &values)
+// Reads a length in millimetres; any number for one that is refused, since nobody gets the values of such a file.
+qreal RVConfigurationReader::length(const QStringList &path, const QJsonObject &values)
 {
     const QJsonValue value = values.value(path.constLast());
-    if (value.isUndefined()) {
-        refuseKey(path.mid(0, path.size() - 1), tr("%1 is missing").arg(dotted(path)));
-        return std::nullopt;
-    }
-    if (!value.isDouble()) {
-        refuseType(path, value, tr("a number"));
-        return std::nullopt;
-    }
     const qreal length = value.toDouble();
-    if (length > 0 && length <= LONGEST_PAGE_SIDE)
-        return length;
-    refuseValue(path, tr("%1 must be above 0 and at most %2 mm").arg(dotted(path)).arg(int(LONGEST_PAGE_SIDE)));
-    return std::nullopt;
+    if (value.isUndefined())
+        refuseKey(path.mid(0, path.size() - 1), tr("%1 is missing").arg(dotted(path)));
+    else if (!value.isDouble())
+        refuseType(path, value, tr("a number"));
+    else if (!(length > 0 && length <= LONGEST_PAGE_SIDE)) // nor is it nan
+        refuseValue(path, tr("%1 must be above 0 and at most %2 mm").arg(dotted(path)).arg(int(LONGEST_PAGE_SIDE)));
+    return length;
 }
 
 void RVConfigurationReader::refuseOthers(const QStringList &path, const QJsonObject &values, const QStringList &known)

@@ -57,7 +57,7 @@ private:
 
     std::optional<QJsonObject> table(const QStringList &path, const QJsonValue &value);
     QStringList texts(const QStringList &path, const QJsonValue &value);
-    std::optional<qreal> length(const QStringList &path, const QJsonObject &values);
+    qreal length(const QStringList &path, const QJsonObject &values);
     void refuseOthers(const QStringList &path, const QJsonObject &values, const QStringList &known);
     void refuseKey(const QStringList &path, const QString &text);
     void refuseValue(const QStringList &path, const QString &text);

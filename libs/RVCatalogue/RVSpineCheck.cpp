@@ -61,6 +61,16 @@ struct RVSpineCheck::Spine
     bool isReadable = true;
     bool hasWidth = false;
     QStringList negative; // the names of the attributes
+
+    /// Notes if the number cannot be read, or is negative.
+    template<typename T>
+    void note(QLatin1StringView name, std::optional<T> number)
+    {
+        if (!number)
+            isReadable = false;
+        else if (*number < 0)
+            negative += name;
+    }
 };
 
 void RVSpineCheck::check(const RVCatalogueProduct &product)
@@ -88,16 +98,11 @@ void RVSpineCheck::readWidths(Spine *spine)
 {
     for (const QLatin1StringView name : { "base_width"_L1, "block_width"_L1, "additional_width"_L1 }) {
         const std::optional<double> width = rvCheckedDouble(spine->element, name, 0, myReport);
-        spine->isReadable = spine->isReadable && width;
+        spine->note(name, width);
         spine->hasWidth = spine->hasWidth || width.value_or(0) != 0;
-        if (width.value_or(0) < 0)
-            spine->negative += name;
     }
     constexpr auto packages = "packages_per_block"_L1;
-    const std::optional<int> count = rvCheckedInt(spine->element, packages, 0, myReport);
-    spine->isReadable = spine->isReadable && count;
-    if (count.value_or(0) < 0)
-        spine->negative += packages;
+    spine->note(packages, rvCheckedInt(spine->element, packages, 0, myReport));
 }
 
 void RVSpineCheck::checkWidths(const Spine &spine)

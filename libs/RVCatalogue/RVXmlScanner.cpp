@@ -228,11 +228,17 @@ bool RVXmlScanner::scan()
     return !myIsAtEnd;
 }
 
+/// An empty text is the end.
+void RVXmlScanner::parse(QByteArrayView text)
+{
+    xmlParseChunk(myParser.get(), text.data(), int(text.size()), text.isEmpty());
+}
+
 void RVXmlScanner::bite(QByteArrayView text)
 {
     if (!myHasMarkup && !isXml(text))
         return;
-    xmlParseChunk(myParser.get(), text.data(), int(text.size()), 0);
+    parse(text);
     myFed += text.size();
     if (!myError.isEmpty())
         return;
@@ -259,7 +265,7 @@ void RVXmlScanner::end()
     if (!mySource.fault().isEmpty())
         return failAt(mySource.fault(), myFed);
     myIsEnding = true;
-    xmlParseChunk(myParser.get(), nullptr, 0, 1);
+    parse({});
     myIsAtEnd = true;
 }
 

@@ -99,6 +99,7 @@ private:
         void operator()(_xmlParserCtxt *parser) const;
     };
 
+    void parse(QByteArrayView text);
     void bite(QByteArrayView text);
     bool isXml(QByteArrayView text);
     void end();

@@ -286,6 +286,10 @@ void tst_RVCheckConfiguration::faults_data()
     QTest::newRow("no width") << QByteArray("[page_sizes]\nDUN9 = { width = 0, height = 297 }") << u"2:18"_s
                               << QByteArray(R"({"page_sizes": {"DUN9": {"width": 0, "height": 297}}})")
                               << u"page_sizes.DUN9.width must be above 0 and at most 10000 mm"_s;
+    QTest::newRow("width that is no number")
+            << QByteArray("[page_sizes]\nDUN9 = { width = nan, height = 297 }") << u"2:18"_s
+            << QByteArray(R"({"page_sizes": {"DUN9": {"width": -210, "height": 297}}})")
+            << u"page_sizes.DUN9.width must be above 0 and at most 10000 mm"_s;
     QTest::newRow("height too large") << QByteArray("[page_sizes]\nDUN9 = { width = 210, height = 10000.1 }")
                                       << u"2:32"_s
                                       << QByteArray(R"({"page_sizes": {"DUN9": {"width": 1, "height": 1e300}}})")
