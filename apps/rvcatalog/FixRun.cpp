@@ -84,7 +84,6 @@ int FixRun::mend()
     bool isDone = true;
     for (const QString &fileName : myOptions.fileNames)
         isDone = (isInput(fileName) ? mendInput() : mendFile(fileName)) && isDone;
-    myProgressBar.hide();
     return isDone ? EXIT_FINE : EXIT_UNREADABLE;
 }
 
@@ -94,7 +93,6 @@ int FixRun::diff()
     bool isChanged = false;
     for (const QString &fileName : myOptions.fileNames)
         isDone = diffFile(fileName, &isChanged) && isDone;
-    myProgressBar.hide();
     if (!isDone)
         return EXIT_UNREADABLE;
     return isChanged ? EXIT_PROBLEMS : EXIT_FINE;

@@ -70,6 +70,8 @@ private Q_SLOTS:
     void unreadableCatalogue();
     void broken_data();
     void broken();
+    void largestFile_data();
+    void largestFile();
     void notWritable();
     void notReplaceable_data();
     void notReplaceable();
@@ -454,6 +456,27 @@ void tst_Baseline::broken()
     QVERIFY2(run.messages.startsWith(u"b.json"_s + message), qPrintable(run.messages));
     QCOMPARE(run.messages.count(u'\n'), 1);
     QCOMPARE(run.output, QString());
+    QCOMPARE(run.exitCode, 2);
+}
+
+void tst_Baseline::largestFile_data()
+{
+    QTest::addColumn<qint64>("size");
+    QTest::addColumn<QString>("message");
+
+    QTest::newRow("256 MiB") << (qint64(256) << 20) << u": error: this is no JSON: "_s;
+    QTest::newRow("one byte more") << (qint64(256) << 20) + 1
+                                   << u"b.json: error: the baseline is larger than 256 MiB\n"_s;
+}
+
+void tst_Baseline::largestFile()
+{
+    QFETCH(qint64, size);
+    QFETCH(QString, message);
+    write(u"b.json"_s, QByteArray());
+    QVERIFY(QFile::resize(u"b.json"_s, size)); // a hole, which takes no room on the disk
+    const CommandRun run({ u"check"_s, u"--baseline"_s, u"b.json"_s, u"c.xml"_s });
+    QVERIFY2(run.messages.contains(message), qPrintable(run.messages));
     QCOMPARE(run.exitCode, 2);
 }
 
