@@ -18,6 +18,9 @@ constexpr int SIGNALS[] = { SIGINT, SIGTERM };
 /// send the signal to each of them, and to the group as well.
 constexpr qint64 ONE_REQUEST = 400;
 
+/// No file descriptor.
+constexpr int CLOSED = -1;
+
 /// The state of the interruption, one for the whole process, because signals go to the process.
 struct State
 {
@@ -26,9 +29,9 @@ struct State
     struct sigaction before[std::size(SIGNALS)] = {};
     std::atomic_int signal = 0;
     std::atomic<qint64> signalTime {}; // set together with the signal
-    /// The ends of a pipe; -1 for none.
-    std::atomic_int readEnd = -1;
-    std::atomic_int writeEnd = -1;
+    /// The ends of a pipe.
+    std::atomic_int readEnd = CLOSED;
+    std::atomic_int writeEnd = CLOSED;
 };
 State theState;
 
@@ -61,7 +64,7 @@ void remember(int signal)
 
 void openPipe()
 {
-    int ends[] = { -1, -1 };
+    int ends[2] = {};
     if (::pipe2(ends, O_CLOEXEC | O_NONBLOCK) != 0)
         return;
     theState.readEnd = ends[0];
@@ -86,8 +89,8 @@ void giveBack()
 {
     for (std::size_t i = 0; i < std::size(SIGNALS); ++i)
         ::sigaction(SIGNALS[i], &theState.before[i], nullptr);
-    ::close(theState.readEnd.exchange(-1));
-    ::close(theState.writeEnd.exchange(-1));
+    ::close(theState.readEnd.exchange(CLOSED));
+    ::close(theState.writeEnd.exchange(CLOSED));
     theState.signal = 0;
 }
 

@@ -16,6 +16,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <iterator>
@@ -258,12 +259,10 @@ bool RVFileEditorPrivate::encode(QIODevice *from)
 {
     const RVTextEncoder encoder(myEncoding);
     myTexts.clear();
-    bool hasReferences = false;
-    for (const auto &[begin, edit] : edits) {
+    for (const auto &[begin, edit] : edits)
         myTexts.push_back(encoder.encode(edit.text));
-        hasReferences = hasReferences || myTexts.back().reference != 0;
-    }
-    return !hasReferences || checkReferences(from);
+    const auto hasReference = [](const RVEncodedText &text) { return text.reference.has_value(); };
+    return std::none_of(myTexts.begin(), myTexts.end(), hasReference) || checkReferences(from);
 }
 
 // The begin of a comment is known only from the whole text.
@@ -276,10 +275,10 @@ bool RVFileEditorPrivate::checkReferences(QIODevice *from)
         text += piece;
     ReferenceJudge judge;
     for (std::size_t i = 0; i < myTexts.size(); ++i) {
-        const char32_t letter = myTexts[i].reference;
-        if (letter != 0 && !judge.isRead(QByteArrayView(text).first(myOffsets[i * 2])))
+        const std::optional<char32_t> letter = myTexts[i].reference;
+        if (letter && !judge.isRead(QByteArrayView(text).first(myOffsets[i * 2])))
             return fail(tr("\"%1\" cannot be written in %2")
-                                .arg(QString::fromUcs4(&letter, 1), QString::fromLatin1(myEncoding)));
+                                .arg(QString::fromUcs4(&*letter, 1), QString::fromLatin1(myEncoding)));
     }
     return true;
 }

@@ -27,7 +27,7 @@ RVTextEncoder::~RVTextEncoder() = default;
 RVEncodedText RVTextEncoder::encode(const QString &text) const
 {
     if (!myIconv)
-        return { { text.toUtf8(), text.toUtf8() } };
+        return { { text.toUtf8(), text.toUtf8() }, std::nullopt };
     RVEncodedText result;
     for (const char32_t letter : text.toUcs4()) {
         const QByteArray utf8 = QString::fromUcs4(&letter, 1).toUtf8();
@@ -38,7 +38,7 @@ RVEncodedText RVTextEncoder::encode(const QString &text) const
         const QByteArray reference = referenceTo(letter);
         append(&result.bytes, reference);
         result.text += reference;
-        result.reference = result.reference ? result.reference : letter;
+        result.reference = result.reference.value_or(letter);
     }
     append(&result.bytes, QByteArrayView());
     return result;

@@ -6,14 +6,15 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 class RVIconv;
 
 /// A text in the encoding of a file.
 struct RVEncodedText : RVTextPiece
 {
-    /// The first letter that the encoding lacks, for which a reference is written; 0 if there is none.
-    char32_t reference = 0;
+    /// The first letter that the encoding lacks, for which a reference is written, if there is one.
+    std::optional<char32_t> reference;
 };
 
 /// Writes texts of XML in the encoding of a file: a letter that the encoding lacks becomes a reference such as
