@@ -41,13 +41,13 @@ RVFilePosition positionAt(const QByteArray &text, qsizetype offset)
     return { before.count('\n') + 1, line.size() + 1 };
 }
 
-/// At most that number of bytes. A pipe gives them in pieces.
-QByteArray firstBytes(QIODevice *device, qint64 number)
+/// All bytes; of a file that is too large, a few more than the largest one has. A pipe gives them in pieces.
+QByteArray bytesOf(QIODevice *device)
 {
     constexpr qint64 largestPiece = 1 << 16;
     QByteArray result;
-    while (result.size() < number) {
-        const QByteArray piece = device->read(qMin(largestPiece, number - result.size()));
+    while (result.size() <= LARGEST_FILE) {
+        const QByteArray piece = device->read(largestPiece);
         if (piece.isEmpty())
             break;
         result += piece;
@@ -82,7 +82,7 @@ bool Baseline::read(const Console &console)
     const std::unique_ptr<QIODevice> pipe = console.openInput(myFileName);
     if (!pipe && !file.open(QIODevice::ReadOnly))
         return fail(console, u"cannot open the baseline: "_s + file.errorString());
-    const QByteArray text = firstBytes(pipe ? pipe.get() : &file, LARGEST_FILE + 1);
+    const QByteArray text = bytesOf(pipe ? pipe.get() : &file);
     if (file.error() != QFileDevice::NoError)
         return fail(console, u"cannot read the baseline: "_s + file.errorString());
     if (text.size() > LARGEST_FILE)
