@@ -109,6 +109,7 @@ void tst_Baseline::fileAsWritten()
     Baseline baseline(u"b/known.json"_s);
     QVERIFY(QDir().mkpath(u"b"_s));
     RVCatalogueFinding finding(RVCatalogueRule::find(u"option-duplicate"), {}, u"already there in line 12"_s, 0);
+    finding.setRelatedPlaces({ { {}, u"the first"_s, QString() }, { {}, u"another"_s, u"z.xml"_s } });
     baseline.add(u"b/z.xml"_s, finding);
     finding.setProductType(u"DÜN9"_s);
     baseline.add(u"b/z.xml"_s, finding);
