@@ -6,13 +6,10 @@
 #include <QLoggingCategory>
 #include <QTranslator>
 
-#include <langinfo.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <clocale>
 #include <cstdio>
-#include <cstring>
 
 using namespace Qt::StringLiterals;
 
@@ -27,14 +24,6 @@ QLocale userLocale()
             return QLocale(name);
     }
     return QLocale::c();
-}
-
-// The program's files and texts are UTF-8 in every locale of the terminal.
-void useUtf8()
-{
-    std::setlocale(LC_ALL, "");
-    if (std::strcmp(nl_langinfo(CODESET), "UTF-8") != 0)
-        qputenv("LC_ALL", "C.UTF-8");
 }
 
 // Without a standard input, the first opened file would take its place. So this opens a file that cannot be read.
@@ -70,7 +59,9 @@ int main(int argc, char *argv[])
 {
     keepInputApart();
     const QLocale locale = userLocale();
-    useUtf8();
+    // Files and texts are UTF-8, and messages of the system are in English like all others, in every locale of the
+    // terminal.
+    qputenv("LC_ALL", "C.UTF-8");
     // Options are written in the order of a hash; with a fixed seed every run writes the same.
     QHashSeed::setDeterministicGlobalSeed();
     // Fonts are measured, and plots are drawn to files, but nothing is shown, so no display is needed.

@@ -38,6 +38,8 @@ private Q_SLOTS:
     void pipe();
     void standardInput();
     void severalInOneLine();
+    void anyLocale_data();
+    void anyLocale();
     void otherFormats();
 
 private:
@@ -145,6 +147,26 @@ void tst_check_terminal::severalInOneLine()
     QCOMPARE(shown.count("    3 | <product type='A' article_id='1'/>\n"), 2);
     QCOMPARE(shown.count("\n      |          \033[1;31m^~~~~~~~\033[0m\n"), 1);
     QCOMPARE(shown.count("\n      |                   \033[1;31m^~~~~~~~~~~~~~\033[0m\n"), 1);
+}
+
+void tst_check_terminal::anyLocale_data()
+{
+    QTest::addColumn<QString>("locale");
+
+    QTest::newRow("UTF-8") << u"C.UTF-8"_s;
+    QTest::newRow("ASCII") << u"C"_s;
+    QTest::newRow("missing") << u"xx_XX"_s;
+}
+
+// The width of a letter on the terminal comes from the locale, which knows only ASCII by default.
+void tst_check_terminal::anyLocale()
+{
+    QFETCH(QString, locale);
+    QVERIFY(myFolder.write(u"f.xml"_s, "<p>\n<product type='A' name='Größe' article_id='1' pages='x'/>\n</p>\n"));
+    const QByteArray shown = shownBy({ u"f.xml"_s, u"--color=never"_s }, { u"LC_ALL="_s + locale });
+    QVERIFY2(shown.contains("    2 | <product type='A' name='Größe' article_id='1' pages='x'/>\n"
+                            "      |                                               ^~~~~~~~~\n"),
+             shown.constData());
 }
 
 // Programs read these formats, also from a terminal.
