@@ -177,11 +177,12 @@ qreal RVConfigurationReader::length(const QStringList &path, const QJsonObject &
 {
     const QJsonValue value = values.value(path.constLast());
     const qreal length = value.toDouble();
+    const bool isInRange = length > 0 && length <= LONGEST_PAGE_SIDE; // and not nan
     if (value.isUndefined())
         refuseKey(path.mid(0, path.size() - 1), tr("%1 is missing").arg(dotted(path)));
     else if (!value.isDouble())
         refuseType(path, value, tr("a number"));
-    else if (!(length > 0 && length <= LONGEST_PAGE_SIDE)) // nor is it nan
+    else if (!isInRange)
         refuseValue(path, tr("%1 must be above 0 and at most %2 mm").arg(dotted(path)).arg(int(LONGEST_PAGE_SIDE)));
     return length;
 }
