@@ -20,11 +20,25 @@ const RVCatalogueRows::Attribute *findAttribute(const RVCatalogueRows &rows, con
     return found == end ? nullptr : found;
 }
 
+/// The attribute with an index; null if there is none.
+const RVCatalogueRows::Attribute *attributeAt(const RVCatalogueRows &rows, const RVCatalogueRows::Element &element,
+                                              int index)
+{
+    const auto count = int(element.attributesEnd - element.attributesBegin);
+    return index >= 0 && index < count ? &rows.attributes[element.attributesBegin + quint32(index)] : nullptr;
+}
+
 /// The place in a start tag at a number of bytes behind its begin. A line feed that belongs to a carriage return in
 /// front of it never stands there, because it is no part of a name or a value.
 RVFilePosition place(const RVCatalogueRows &rows, const RVCatalogueRows::Element &element, quint32 offset)
 {
     return rvAdvanced(element.position, rows.view(element.tag).first(offset), '\0');
+}
+
+/// True between the two code units of a letter.
+bool splitsLetter(const QString &text, qsizetype index)
+{
+    return index < text.size() && text.at(index).isLowSurrogate();
 }
 
 /// A piece of a start tag between two numbers of bytes behind its begin.
@@ -96,7 +110,8 @@ int RVCatalogueElement::attributeCount() const noexcept
 
 QByteArrayView RVCatalogueElement::attributeName(int index) const noexcept
 {
-    return d->rows.view(d->rows.attributes[d->rows.elements[myIndex].attributesBegin + quint32(index)].name);
+    const auto *attribute = d ? attributeAt(d->rows, d->rows.elements[myIndex], index) : nullptr;
+    return attribute ? d->rows.view(attribute->name) : QByteArrayView();
 }
 
 RVFilePosition RVCatalogueElement::position() const
@@ -123,8 +138,8 @@ RVFileRange RVCatalogueElement::attributeRange(QLatin1StringView name) const
 
 RVFileRange RVCatalogueElement::attributeRange(int index) const
 {
-    const RVCatalogueRows::Element &element = d->rows.elements[myIndex];
-    return rangeOf(d->rows, element, d->rows.attributes[element.attributesBegin + quint32(index)]);
+    const auto *attribute = d ? attributeAt(d->rows, d->rows.elements[myIndex], index) : nullptr;
+    return attribute ? rangeOf(d->rows, d->rows.elements[myIndex], *attribute) : range();
 }
 
 std::optional<RVFileRange> RVCatalogueElement::valueRange(QLatin1StringView name, qsizetype from,
@@ -136,7 +151,8 @@ std::optional<RVFileRange> RVCatalogueElement::valueRange(QLatin1StringView name
     const RVCatalogueRows::Element &element = d->rows.elements[myIndex];
     const bool isInTag = attribute->value.begin < element.tag.begin + element.tag.size;
     const QString value = rvFromUtf8(d->rows.view(attribute->value));
-    if (!isInTag || from < 0 || length < 0 || from > value.size() - length)
+    if (!isInTag || from < 0 || length < 0 || from > value.size() - length || splitsLetter(value, from)
+        || splitsLetter(value, from + length))
         return std::nullopt;
     const quint32 begin = attribute->value.begin - element.tag.begin;
     const auto before = quint32(QStringView(value).first(from).toUtf8().size());

@@ -45,7 +45,8 @@ public:
     /// The attributes in the order of the file.
     QStringList attributeNames() const;
     int attributeCount() const noexcept; ///< The number of attributes; 0 for a null element.
-    /// The name of an attribute by its index, from 0 to attributeCount() - 1, in UTF-8 and without a copy.
+    /// The name of an attribute by its index, from 0 to attributeCount() - 1, in UTF-8 and without a copy; null for
+    /// any other index.
     QByteArrayView attributeName(int index) const noexcept;
 
     RVFilePosition position() const; ///< The place of the "<" of the start tag.
@@ -56,7 +57,7 @@ public:
     RVFileRange attributeRange(int index) const;
     /// @}
     /// The place of a piece of a value, @p length UTF-16 code units from @p from on. None if the value has no such
-    /// piece, if XML reads it differently from its text in the file because of references or line ends, or if the
+    /// piece, or if it begins or ends within a letter, if XML reads it differently from its text in the file because of references or line ends, or if the
     /// attribute is not in the file.
     std::optional<RVFileRange> valueRange(QLatin1StringView name, qsizetype from, qsizetype length) const;
 

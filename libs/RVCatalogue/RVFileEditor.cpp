@@ -163,22 +163,28 @@ public:
             const qsizetype begin = text.indexOf('<', myPlace);
             if (begin < 0)
                 return true;
-            const QByteArrayView end = endOf(text.sliced(begin));
-            const qsizetype found = text.indexOf(end, begin);
+            const Markup markup = markupOf(text.sliced(begin));
+            // A comment may begin with ">", so its end is searched behind its begin.
+            const qsizetype found = text.indexOf(markup.end, begin + markup.begin.size());
             if (found < 0)
                 return false;
-            myPlace = found + end.size();
+            myPlace = found + markup.end.size();
         }
     }
 
 private:
-    static QByteArrayView endOf(QByteArrayView text)
+    struct Markup
     {
-        if (text.startsWith("<!--"))
-            return "-->";
-        if (text.startsWith("<![CDATA["))
-            return "]]>";
-        return text.startsWith("<?") ? "?>" : "<";
+        QByteArrayView begin;
+        QByteArrayView end;
+    };
+    static Markup markupOf(QByteArrayView text)
+    {
+        for (const Markup markup : { Markup { "<!--", "-->" }, { "<![CDATA[", "]]>" }, { "<?", "?>" } }) {
+            if (text.startsWith(markup.begin))
+                return markup;
+        }
+        return { "<", {} };
     }
 
     qsizetype myPlace = 0; // no comment, instruction or section is open up to here
@@ -273,6 +279,10 @@ bool RVFileEditorPrivate::checkReferences(QIODevice *from)
     QByteArray text;
     for (QByteArray piece = source.read(); !piece.isEmpty(); piece = source.read())
         text += piece;
+    if (!source.fault().isEmpty())
+        return fail(source.fault());
+    if (text.size() < myOffsets.back())
+        return fail(tr("the file was changed meanwhile; check it again"));
     ReferenceJudge judge;
     for (std::size_t i = 0; i < myTexts.size(); ++i) {
         const std::optional<char32_t> letter = myTexts[i].reference;
@@ -371,6 +381,9 @@ bool RVFileEditorPrivate::save()
     error.clear();
     if (edits.isEmpty())
         return true;
+    // To open a pipe would wait for somebody who writes to it.
+    if (RVFileStamp(fileName).isSpecial())
+        return fail(tr("this is no ordinary file"));
     QFile from(fileName);
     if (!from.open(QIODevice::ReadOnly))
         return fail(tr("cannot open the file: %1").arg(from.errorString()));

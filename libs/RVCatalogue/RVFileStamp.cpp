@@ -55,6 +55,11 @@ bool RVFileStamp::isOrdinary() const
     return S_ISREG(myState.st_mode);
 }
 
+bool RVFileStamp::isSpecial() const
+{
+    return myState.st_mode != 0 && !isOrdinary() && !S_ISDIR(myState.st_mode);
+}
+
 // The owner is set first, because a new owner removes some permissions. A user who may not give the file away may still
 // give it to another of the user's groups.
 bool RVFileStamp::giveAccess(int from, int to) const

@@ -16,6 +16,7 @@ public:
     explicit RVFileStamp(int descriptor);
 
     bool isOrdinary() const; ///< False for folders, pipes and devices, and for no file.
+    bool isSpecial() const; ///< True for pipes and devices.
     /// Gives the file @p to the owner, group, permissions and extended attributes of this file, which is open as
     /// @p from. Access control lists are extended attributes. Owner, group and attributes are set as far as the program
     /// may and the file system can. False if the permissions cannot be set, with the reason in errno.

@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -54,11 +53,13 @@ QByteArray declaredEncoding(QByteArrayView text)
     return encoding.match(QString::fromLatin1(text)).captured(2).toLatin1();
 }
 
+/// True if iconv may get the name. In others "//" begins options, and a null character ends the name.
 bool isName(const QByteArray &encoding)
 {
-    return std::all_of(encoding.begin(), encoding.end(), [](char letter) {
+    constexpr QByteArrayView signs = "._-:";
+    return std::all_of(encoding.begin(), encoding.end(), [signs](char letter) {
         return (letter >= 'A' && letter <= 'Z') || (letter >= 'a' && letter <= 'z') || (letter >= '0' && letter <= '9')
-                || std::strchr("._-:", letter);
+                || signs.contains(letter);
     });
 }
 

@@ -3,7 +3,9 @@
 
 #include "RVEnumWrapper.h"
 
+#include <charconv>
 #include <optional>
+#include <system_error>
 #include <utility>
 
 /**
@@ -81,9 +83,14 @@ private:
         if (knows(table, piece))
             return Bits(table.decode(piece, E(0)));
         const QString number = piece.trimmed();
-        bool isNumber = number.startsWith(QLatin1StringView("0x")) && !number.contains(QChar::Null);
-        const qulonglong bits = isNumber ? QStringView(number).mid(2).toULongLong(&isNumber, 16) : 0;
-        return isNumber && Bits(bits) == bits ? std::optional<Bits>(Bits(bits)) : std::nullopt;
+        constexpr QLatin1StringView prefix("0x");
+        if (!number.startsWith(prefix))
+            return std::nullopt;
+        // QString::toULongLong() would also take blanks, a sign and a second prefix.
+        const QByteArray digits = QStringView(number).mid(prefix.size()).toLatin1();
+        Bits bits = 0;
+        const auto [end, error] = std::from_chars(digits.begin(), digits.end(), bits, 16);
+        return error == std::errc() && end == digits.end() ? std::optional<Bits>(bits) : std::nullopt;
     }
 };
 

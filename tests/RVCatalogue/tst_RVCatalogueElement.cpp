@@ -66,6 +66,12 @@ void tst_RVCatalogueElement::attributesByNumber()
     QCOMPARE(element.firstChildElement().attributeCount(), 1);
     QCOMPARE(RVCatalogueElement().attributeCount(), 0);
     QVERIFY(RVCatalogueElement().utf8Name().isEmpty());
+    for (const int index : { -1, element.attributeCount() }) {
+        QVERIFY(element.attributeName(index).isNull());
+        QCOMPARE(element.attributeRange(index), element.range());
+    }
+    QVERIFY(RVCatalogueElement().attributeName(0).isNull());
+    QCOMPARE(RVCatalogueElement().attributeRange(0), RVFileRange());
 }
 
 void tst_RVCatalogueElement::children()
@@ -166,6 +172,8 @@ void tst_RVCatalogueElement::piecesOfValues_data()
     QTest::newRow("empty value") << u"<product a=''/>"_s << 0 << 0 << u"1:13-1:13"_s;
     QTest::newRow("umlauts in front") << u"<product\n a='äöü'/>"_s << 2 << 1 << u"2:7-2:8"_s;
     QTest::newRow("two code units") << u"<product a='\U0001F4D5b'/>"_s << 2 << 1 << u"1:15-1:16"_s;
+    QTest::newRow("first half of a letter") << u"<product a='\U0001F4D5b'/>"_s << 0 << 1 << QString();
+    QTest::newRow("second half of a letter") << u"<product a='\U0001F4D5b'/>"_s << 1 << 1 << QString();
     QTest::newRow("too long") << u"<product a='abc'/>"_s << 1 << 3 << QString();
     QTest::newRow("largest length") << u"<product a='abc'/>"_s << 1 << INT_MAX << QString();
     QTest::newRow("negative") << u"<product a='abc'/>"_s << -1 << 1 << QString();

@@ -417,6 +417,9 @@ void tst_RVCatalogueReader::errors_data()
     QTest::newRow("encoding with a command for iconv")
             << declared("ASCII//IGNORE") + "<p>\xe4</p>"
             << u"1:1: the encoding \"ASCII//IGNORE\", which the first line of the file declares, is not known; UTF-8 always is"_s;
+    QTest::newRow("encoding with a null character")
+            << declared("ISO-8859-1!x").replace('!', '\0') + "<p/>"
+            << u"1:1: the encoding \"ISO-8859-1\0x\", which the first line of the file declares, is not known; UTF-8 always is"_s;
     QTest::newRow("mark of UTF-8, Latin-1 declared")
             << "\xef\xbb\xbf" + declared("ISO-8859-1") + "<p/>"
             << u"1:1: the file begins like one in UTF-8, but its first line declares ISO-8859-1; save it in ISO-8859-1, or declare UTF-8"_s;

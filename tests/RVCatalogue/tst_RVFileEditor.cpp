@@ -172,6 +172,7 @@ private Q_SLOTS:
     void changedMeanwhile();
     void unsavable_data();
     void unsavable();
+    void pipeWithoutWriter();
     void brokenByEdit();
     void onlyOnce();
 
@@ -444,6 +445,12 @@ void tst_RVFileEditor::unwritableLetters_data()
                                << *encoded(u"<a b='€'/>"_s, "UTF-16BE") << QString();
     QTest::newRow("in a comment") << latin1 + "<a/><!-- 1 -->" << edit(2, 10, 2, 11, u"€"_s) << QByteArray()
                                   << u"\"€\" cannot be written in ISO-8859-1"_s;
+    QTest::newRow("in a comment that begins with a bracket")
+            << latin1 + "<a/><!--> 1 -->" << edit(2, 11, 2, 12, u"€"_s) << QByteArray()
+            << u"\"€\" cannot be written in ISO-8859-1"_s;
+    QTest::newRow("behind a comment that begins with a bracket")
+            << latin1 + "<a><!--> -->1</a>" << edit(2, 13, 2, 14, u"€"_s) << latin1 + "<a><!--> -->&#x20AC;</a>"
+            << QString();
     QTest::newRow("in the declaration") << latin1 + "<a/>" << edit(1, 18, 1, 19, u"€"_s) << QByteArray()
                                         << u"\"€\" cannot be written in ISO-8859-1"_s;
     QTest::newRow("in an instruction") << latin1 + "<a/><?b 1?>" << edit(2, 9, 2, 10, u"€"_s) << QByteArray()
@@ -729,6 +736,17 @@ void tst_RVFileEditor::unsavable()
     QVERIFY(editor.add({ edit(7, 8, u"2"_s) }));
     QVERIFY(!editor.save());
     QVERIFY2(editor.errorString().startsWith(error), qPrintable(editor.errorString()));
+}
+
+// Nobody writes to the pipe, so opening it would wait for ever.
+void tst_RVFileEditor::pipeWithoutWriter()
+{
+    const QString path = myFolder->path(u"pipe.xml"_s);
+    QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+    RVFileEditor editor(path);
+    QVERIFY(editor.add({ edit(7, 8, u"2"_s) }));
+    QVERIFY(!editor.save());
+    QCOMPARE(editor.errorString(), u"this is no ordinary file"_s);
 }
 
 void tst_RVFileEditor::brokenByEdit()

@@ -77,6 +77,10 @@ void tst_RVAttributeText::reads_data()
     QTest::newRow("unknown beside a known one") << u"HARDCOVER, Leinen"_s << qint64(-2);
     QTest::newRow("empty piece") << u"HARDCOVER,"_s << qint64(-2);
     QTest::newRow("decimal number") << u"3"_s << qint64(-2);
+    QTest::newRow("blank in a number") << u"0x 3"_s << qint64(-2);
+    QTest::newRow("sign in a number") << u"0x+3"_s << qint64(-2);
+    QTest::newRow("prefix twice") << u"0x0x3"_s << qint64(-2);
+    QTest::newRow("capital digits") << u"0X3"_s << qint64(-2);
     QTest::newRow("number without digits") << u"0x"_s << qint64(-2);
     QTest::newRow("too large a number") << u"0x10000000000000000"_s << qint64(-2);
     QTest::newRow("null character") << QString(u"0x3\0"_s + QChar(0)) << qint64(-2);
