@@ -162,7 +162,10 @@ ProductCondition::Test ProductCondition::numberTest(const QString &name, const Q
 {
     const Number number = find(NUMBERS, name)->number;
     if (value.isEmpty() && !isOrder(sign))
-        return [number](const RVCatalogueProduct &product) { return !number(product); };
+        return [number, attribute = name.toLatin1()](const RVCatalogueProduct &product) {
+            // Page counts and shipping groups have values that other attributes, or nothing, give them.
+            return !number(product) || product.element().utf8(QLatin1StringView(attribute)).isEmpty();
+        };
     bool isNumber = false;
     const int wanted = value.toInt(&isNumber);
     if (!isNumber)

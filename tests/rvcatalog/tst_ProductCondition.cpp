@@ -63,7 +63,8 @@ void tst_ProductCondition::isMet_data()
     row("other type", "type='DUN9'", "type=DUN", false);
     row("types", "type='DUN9'", "type=DUN*", true);
     row("one letter", "type='DUN9'", "type=DUN?", true);
-    row("letters", "type='DUN9'", "type=DUN[1-3]", false);
+    row("one of several letters", "type='DUN2'", "type=DUN[1-3]", true);
+    row("none of several letters", "type='DUN9'", "type=DUN[1-3]", false);
     row("not these types", "type='DUN9'", "type!=VIR*", true);
     row("name in other letter case", "name='Groß und Klein'", "name=groß*", true);
     row("name with signs of paths", "name='10 / 15'", "name=10*15", true);
@@ -91,6 +92,13 @@ void tst_ProductCondition::isMet_data()
     row("not more pages", "pages='26' max_pages='154'", "max_pages>154", false);
     row("at least", "pages='26' max_pages='154'", "max_pages >= 154", true);
     row("negative", "pages='-5'", "pages=-5", true);
+    row("no page count", "max_pages='30'", "pages=", true);
+    row("some page count", "pages='1'", "pages=", false);
+    row("any page count", "pages='1'", "pages!=", true);
+    row("no highest page count", "pages='26'", "max_pages=", true);
+    row("lowest and highest page count in one", "pages='26'", "max_pages<27", true);
+    row("no shipping group", "article_class='foto'", "shipping_group=", true);
+    row("article id that is none", "article_id='x'", "article_id=", true);
     row("missing numbers are not smaller", "", "article_id<100", false);
     row("missing numbers are not larger", "", "article_id>0", false);
 }
