@@ -57,8 +57,8 @@ public:
     RVFileRange attributeRange(int index) const;
     /// @}
     /// The place of a piece of a value, @p length UTF-16 code units from @p from on. None if the value has no such
-    /// piece, or if it begins or ends within a letter, if XML reads it differently from its text in the file because of references or line ends, or if the
-    /// attribute is not in the file.
+    /// piece, if the piece begins or ends within a letter, if XML reads it differently from its text in the file
+    /// because of references or line ends, or if the attribute is not in the file.
     std::optional<RVFileRange> valueRange(QLatin1StringView name, qsizetype from, qsizetype length) const;
 
     /// The first child, or the next sibling, with that name; with any name if it is empty. Texts and comments do not
