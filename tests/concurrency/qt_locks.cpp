@@ -1,13 +1,16 @@
 // Tells ThreadSanitizer of the locks that Debian's Qt takes inside its own, uninstrumented library.
 //
-// QMutex reports itself from its header. QRecursiveMutex, QReadWriteLock and QSemaphore do their work in libQt6Core, so
-// without this file everything that they guard looks like a race, and a lock that is missing looks like all the others.
-// A program that links this file calls Qt's own functions through the ones below. Nothing has to be suppressed, and a
-// lock that is taken out is found.
+// QMutex reports itself from its header. QRecursiveMutex, QReadWriteLock, QSemaphore and the queue of posted events do
+// their work in libQt6Core, so without this file everything that they guard looks like a race, and a lock that is
+// missing looks like all the others. A program that links this file calls Qt's own functions through the ones below.
+// Nothing has to be suppressed, and a lock that is taken out is found.
 #include "RecursiveLock.h"
 
+#include <QCoreApplication>
 #include <QReadWriteLock>
+#include <QScopedValueRollback>
 #include <QSemaphore>
+#include <QThread>
 
 #include <dlfcn.h>
 #include <sanitizer/tsan_interface.h>
@@ -31,6 +34,53 @@ Function nextFunction(const char *symbol)
 /// A lock for writing has one owner, and our threads hold no two of them.
 thread_local const QReadWriteLock *theWrittenLock = nullptr;
 
+/// Stands for the lock of the main thread's queue, into which other threads post their signals.
+char theQueue;
+thread_local bool isPosting = false;
+
+/// Sees each event of the main thread before it is delivered.
+class QueueReader : public QObject
+{
+public:
+    using QObject::QObject;
+    bool eventFilter(QObject *, QEvent *) override
+    {
+        __tsan_acquire(&theQueue);
+        return false;
+    }
+};
+
+void readQueue()
+{
+    qApp->installEventFilter(new QueueReader(qApp));
+}
+
+}
+
+Q_COREAPP_STARTUP_FUNCTION(readQueue)
+
+// An event that is posted is complete when its last part has been allocated: Qt fills it unseen.
+extern "C" Q_DECL_EXPORT void __sanitizer_malloc_hook(const volatile void *, size_t)
+{
+    if (isPosting)
+        __tsan_release(&theQueue);
+}
+
+void QMetaObject::activate(QObject *sender, const QMetaObject *metaObject, int signal, void **arguments)
+{
+    static const auto next = nextFunction<void (*)(QObject *, const QMetaObject *, int, void **)>(
+            "_ZN11QMetaObject8activateEP7QObjectPKS_iPPv");
+    const QScopedValueRollback<bool> posting(isPosting, true);
+    next(sender, metaObject, signal, arguments);
+}
+
+// QThread::finished() is emitted inside libQt6Core, as the last that a thread does.
+extern "C" void constructThread(QThread *thread, QObject *parent) __asm__("_ZN7QThreadC2EP7QObject");
+extern "C" void constructThread(QThread *thread, QObject *parent)
+{
+    static const auto next = nextFunction<void (*)(QThread *, QObject *)>("_ZN7QThreadC2EP7QObject");
+    next(thread, parent);
+    QObject::connect(thread, &QThread::finished, thread, [] { isPosting = true; }, Qt::DirectConnection);
 }
 
 bool QRecursiveMutex::tryLock(RecursiveLockTimeout timeout) noexcept
