@@ -37,8 +37,8 @@ struct RVComparisonCounts
  * type, the first belongs to the first. Among the remaining ones, two with the same article id are one product that was
  * renamed. A product that only moved is equal.
  *
- * Both files are read once, on every core. The comparison keeps some hundred bytes of each old product and of each
- * product that differs. Only one thread at a time may use it.
+ * Both files are read once, with the threads of their readers. The comparison keeps some hundred bytes of each old
+ * product and of each product that differs. Only one thread at a time may use it.
  *
  * @par Example
  * @snippet tst_examples_catalogues.cpp RVCatalogueComparison

@@ -33,7 +33,8 @@ class RVFileEditorPrivate;
  * `&#x20AC;`, in places where XML reads references. The result is read back. If it does not have exactly the wanted
  * text, or is not well-formed, the file stays unchanged and there is an error.
  *
- * An editor belongs to one thread. Memory grows with the edits and not with the file.
+ * An editor belongs to one thread. Memory grows with the edits and not with the file; only where a text needs a
+ * reference, the file is held in memory once.
  *
  * @par Example
  * @snippet tst_examples_catalogues.cpp RVFileEditor
