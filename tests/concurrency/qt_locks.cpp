@@ -3,7 +3,7 @@
 // QMutex reports itself from its header. QRecursiveMutex, QReadWriteLock, QSemaphore and the queue of posted events do
 // their work in libQt6Core, so without this file everything that they guard looks like a race, and a lock that is
 // missing looks like all the others. A program that links this file calls Qt's own functions through the ones below.
-// Nothing has to be suppressed, and a lock that is taken out is found.
+// Nothing of our own code has to be suppressed, and a lock that is taken out is found.
 #include "RecursiveLock.h"
 
 #include <QCoreApplication>
@@ -36,6 +36,7 @@ thread_local const QReadWriteLock *theWrittenLock = nullptr;
 
 /// Stands for the lock of the main thread's queue, into which other threads post their signals.
 char theQueue;
+/// True while Qt may be making an event that this thread posts.
 thread_local bool isPosting = false;
 
 /// Sees each event of the main thread before it is delivered.
